@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "Model/Collation.h"
+
+#include <unicode/ucol.h>
+
+namespace roamlet
+{
+
+struct Collation::Native {
+    struct Close {
+        void operator()(UCollator *collator) const { ucol_close(collator); }
+    };
+    std::unique_ptr<UCollator, Close> collator;
+
+    explicit Native(const QByteArray &locale)
+    {
+        UErrorCode status = U_ZERO_ERROR;
+        collator.reset(ucol_open(locale.constData(), &status));
+        if (U_FAILURE(status)) {
+            // The library's data can be missing; plain code order is better than no list at all.
+            collator.reset();
+            return;
+        }
+        ucol_setAttribute(collator.get(), UCOL_NUMERIC_COLLATION, UCOL_ON, &status);
+    }
+};
+
+Collation::Collation(const QString &locale)
+    : m_native(std::make_unique<Native>(
+          locale == u"C" || locale == u"POSIX" || locale.startsWith(u"C.") || locale.startsWith(u"en_US_POSIX")
+              ? QByteArray("root")
+              : locale.toLatin1()))
+{
+}
+
+Collation::~Collation() = default;
+Collation::Collation(Collation &&) noexcept = default;
+Collation &Collation::operator=(Collation &&) noexcept = default;
+
+int Collation::compare(QStringView left, QStringView right) const
+{
+    if (!m_native->collator)
+        return left.compare(right);
+    return ucol_strcoll(m_native->collator.get(), left.utf16(), static_cast<int32_t>(left.size()), right.utf16(),
+                        static_cast<int32_t>(right.size()));
+}
+
+} // namespace roamlet

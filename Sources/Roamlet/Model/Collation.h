@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QString>
+
+#include <memory>
+
+namespace roamlet
+{
+
+/// The order in which people expect names: case and accents are ignored first, runs of digits compare by value,
+/// then accents decide, then lower case before upper case.
+class Collation
+{
+public:
+    /// For a locale such as "de_DE". A locale that is unknown, "C" or "POSIX" gets the order that suits most
+    /// languages: those two would otherwise sort by code and put "Z" before "a".
+    explicit Collation(const QString &locale);
+    ~Collation();
+    Collation(Collation &&) noexcept;
+    Collation &operator=(Collation &&) noexcept;
+
+    /// Less than, equal to or greater than zero.
+    int compare(QStringView left, QStringView right) const;
+
+private:
+    struct Native;
+    std::unique_ptr<Native> m_native;
+};
+
+} // namespace roamlet

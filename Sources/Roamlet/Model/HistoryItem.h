@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "Model/PointInTime.h"
+#include "Model/Source.h"
+
+#include <QString>
+
+namespace roamlet
+{
+
+/// One row of a browser's history: one URL with its latest visit.
+class HistoryItem
+{
+public:
+    HistoryItem() = default;
+    /// The row `rowID` of the history table of `source`. An empty title is replaced by the URL; the search key and
+    /// the site are derived here, once.
+    HistoryItem(qint64 rowID, const QString &title, const QString &url, PointInTime lastVisit, qint64 visitCount,
+                const Source &source);
+
+    bool operator==(const HistoryItem &) const = default;
+
+    /// The source's id, "/", and the row's id in the browser's history table.
+    QString id;
+    /// Never empty when the URL is not.
+    QString title;
+    QString url;
+    PointInTime lastVisit{};
+    qint64 visitCount = 0;
+    Source source;
+    /// Lower-cased title, line feed, URL.
+    QString searchKey;
+    /// Site::name of the URL, or empty.
+    QString site;
+};
+
+size_t qHash(const HistoryItem &item, size_t seed = 0);
+
+} // namespace roamlet

@@ -1,0 +1,61 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "Model/HistoryItem.h"
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+namespace roamlet
+{
+
+/// What is asked of a browser's history, independent of the browser: words, a site, an order and a limit.
+struct HistoryQuery {
+    enum class Order {
+        Latest,      ///< newest last visit first
+        MostVisited, ///< highest visit count first
+    };
+
+    static constexpr qint64 defaultLimit = 1000;
+
+    /// Lower-cased words, each of which must occur.
+    QStringList words;
+    /// Only this site, in the form of Site::name.
+    std::optional<QString> site;
+    Order order = Order::Latest;
+    /// The largest number of rows that one source may return.
+    qint64 limit = defaultLimit;
+
+    bool operator==(const HistoryQuery &) const = default;
+
+    /// The plain listing of the latest rows, which is loaded for every source.
+    static HistoryQuery recent() { return {}; }
+    /// The query for what the user typed. Words are separated by blanks (U+0020) only.
+    static HistoryQuery matching(const QString &text, const std::optional<QString> &site, Order order);
+
+    /// Whether words or a site are asked for, as opposed to the plain listing.
+    bool isSearch() const { return !words.isEmpty() || site.has_value(); }
+    /// The SQL condition: empty, or a text that begins with " AND ". `text` is the reader's expression for the
+    /// searchable text of a row, `url` the one for its URL.
+    QString conditions(const QString &text, const QString &url) const;
+    /// The values to bind to the placeholders of conditions(), in their order.
+    QStringList patterns() const;
+};
+
+/// What a search across sources returns.
+struct HistoryResults {
+    QList<HistoryItem> items;
+    /// Whether at least one source stopped at the limit, so that there may be more.
+    bool isCapped = false;
+
+    bool operator==(const HistoryResults &) const = default;
+};
+
+size_t qHash(const HistoryQuery &query, size_t seed = 0);
+
+} // namespace roamlet

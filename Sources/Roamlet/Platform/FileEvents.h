@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QStringList>
+
+#include <functional>
+#include <memory>
+
+namespace roamlet
+{
+
+/// Reports changed files. On the main thread.
+class FileEvents
+{
+public:
+    /// Lives as long as somebody listens; destroying it ends the reports.
+    class Stream
+    {
+    public:
+        Stream() = default;
+        Stream(const Stream &) = delete;
+        Stream &operator=(const Stream &) = delete;
+        virtual ~Stream() = default;
+    };
+    /// Gets the paths of files that were changed, created, replaced or removed since the last report.
+    using Handler = std::function<void(const QStringList &paths)>;
+
+    FileEvents() = default;
+    FileEvents(const FileEvents &) = delete;
+    FileEvents &operator=(const FileEvents &) = delete;
+    virtual ~FileEvents() = default;
+
+    /// Reports the files in `folders` and in their direct subfolders, from now on, gathered over about 2 s. Folders
+    /// that do not exist yet are picked up when they appear. Null when the system offers no such reports.
+    virtual std::unique_ptr<Stream> open(const QStringList &folders, Handler handler) = 0;
+};
+
+} // namespace roamlet

@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+#include <expected>
+#include <stop_token>
+#include <system_error>
+
+namespace roamlet
+{
+
+/// What is needed of the file system. All operations may be called from any thread. Nothing here ever opens one of
+/// the given sources for writing, and nothing blocks on a pipe or a device that stands where a file is expected.
+class Files
+{
+public:
+    Files() = default;
+    Files(const Files &) = delete;
+    Files &operator=(const Files &) = delete;
+    virtual ~Files() = default;
+
+    /// Whether anything stands at `path`, also when it may not be looked into.
+    virtual bool exists(const QString &path) const = 0;
+    /// The file's size and its modification time to the nanosecond, or an empty text when its attributes cannot be
+    /// read. Two equal stamps mean an unchanged file.
+    virtual QString stamp(const QString &path) const = 0;
+    /// The whole file.
+    virtual std::expected<QByteArray, std::error_code> read(const QString &path) const = 0;
+    /// Copies the bytes of `source` into a new file that only the user can read. A copy that fails, or that `stop`
+    /// interrupts (std::errc::operation_canceled), leaves no file.
+    virtual std::error_code copy(const QString &source, const QString &target, const std::stop_token &stop) const = 0;
+    /// Makes a folder that only the user can enter, and the folders above it.
+    virtual std::error_code makePrivateFolder(const QString &path) const = 0;
+    /// Removes a folder with everything in it, without following links. A failure is ignored.
+    virtual void removeFolder(const QString &path) const = 0;
+    /// The names in a folder; none when it cannot be listed.
+    virtual QStringList names(const QString &folder) const = 0;
+};
+
+} // namespace roamlet

@@ -1,0 +1,222 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "Platform/Linux/LinuxFiles.h"
+
+#include <QFile>
+
+#include <fcntl.h>
+#include <linux/fs.h>
+#include <sys/ioctl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <filesystem>
+#include <vector>
+
+namespace roamlet
+{
+
+namespace
+{
+
+constexpr mode_t onlyTheUserEnters = 0700;
+constexpr mode_t onlyTheUserReads = 0600;
+/// Small enough that a request to stop is met at once, large enough that the calls do not count.
+constexpr size_t bytesPerCopy = size_t{8} << 20U;
+constexpr size_t bytesPerRead = size_t{256} << 10U;
+
+std::error_code lastError()
+{
+    return {errno, std::generic_category()};
+}
+
+class FileDescriptor
+{
+public:
+    explicit FileDescriptor(int descriptor) : m_descriptor(descriptor) {}
+    FileDescriptor(const FileDescriptor &) = delete;
+    FileDescriptor(FileDescriptor &&other) noexcept : m_descriptor(std::exchange(other.m_descriptor, -1)) {}
+    FileDescriptor &operator=(const FileDescriptor &) = delete;
+    FileDescriptor &operator=(FileDescriptor &&) = delete;
+    ~FileDescriptor()
+    {
+        if (m_descriptor >= 0)
+            ::close(m_descriptor);
+    }
+
+    bool isOpen() const { return m_descriptor >= 0; }
+    int get() const { return m_descriptor; }
+    /// Closes and tells whether what was written has arrived.
+    std::error_code close()
+    {
+        return ::close(std::exchange(m_descriptor, -1)) == 0 ? std::error_code{} : lastError();
+    }
+
+private:
+    int m_descriptor;
+};
+
+struct OpenFile {
+    FileDescriptor descriptor;
+    size_t size;
+};
+
+/// Opens a regular file for reading. Access times are left alone where the system lets us; a pipe or a device in the
+/// place of the file is refused instead of waited for.
+std::expected<OpenFile, std::error_code> openForReading(const QString &path)
+{
+    const QByteArray name = QFile::encodeName(path);
+    constexpr int flags = O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
+    int descriptor = ::open(name.constData(), flags | O_NOATIME);
+    if (descriptor < 0 && errno == EPERM)
+        descriptor = ::open(name.constData(), flags);
+    if (descriptor < 0)
+        return std::unexpected(lastError());
+    FileDescriptor file(descriptor);
+    struct stat attributes = {};
+    if (fstat(file.get(), &attributes) != 0)
+        return std::unexpected(lastError());
+    if (S_ISDIR(attributes.st_mode))
+        return std::unexpected(std::make_error_code(std::errc::is_a_directory));
+    if (!S_ISREG(attributes.st_mode))
+        return std::unexpected(std::make_error_code(std::errc::invalid_argument));
+    return OpenFile{std::move(file), static_cast<size_t>(attributes.st_size)};
+}
+
+std::error_code writeAll(int target, const char *bytes, size_t count)
+{
+    while (count > 0) {
+        const ssize_t written = ::write(target, bytes, count);
+        if (written < 0 && errno == EINTR)
+            continue;
+        if (written < 0)
+            return lastError();
+        bytes += written;
+        count -= static_cast<size_t>(written);
+    }
+    return {};
+}
+
+/// For file systems between which the kernel does not copy by itself.
+std::error_code copyThroughMemory(int source, int target, const std::stop_token &stop)
+{
+    std::vector<char> buffer(bytesPerRead);
+    while (!stop.stop_requested()) {
+        const ssize_t count = ::read(source, buffer.data(), buffer.size());
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count < 0)
+            return lastError();
+        if (count == 0)
+            return {};
+        if (const std::error_code error = writeAll(target, buffer.data(), static_cast<size_t>(count)))
+            return error;
+    }
+    return std::make_error_code(std::errc::operation_canceled);
+}
+
+std::error_code copyContent(int source, int target, const std::stop_token &stop)
+{
+    if (ioctl(target, FICLONE, source) == 0)
+        return {};
+    while (!stop.stop_requested()) {
+        const ssize_t count = copy_file_range(source, nullptr, target, nullptr, bytesPerCopy, 0);
+        if (count == 0)
+            return {};
+        if (count < 0 && (errno == EXDEV || errno == EINVAL || errno == ENOSYS || errno == EOPNOTSUPP))
+            return copyThroughMemory(source, target, stop);
+        if (count < 0 && errno != EINTR)
+            return lastError();
+    }
+    return std::make_error_code(std::errc::operation_canceled);
+}
+
+} // namespace
+
+bool LinuxFiles::exists(const QString &path) const
+{
+    struct stat attributes = {};
+    // Only these two say that nothing is there; a refusal says that something may be.
+    return ::stat(QFile::encodeName(path).constData(), &attributes) == 0 || (errno != ENOENT && errno != ENOTDIR);
+}
+
+QString LinuxFiles::stamp(const QString &path) const
+{
+    struct stat attributes = {};
+    if (::stat(QFile::encodeName(path).constData(), &attributes) != 0)
+        return {};
+    return QString::number(attributes.st_size) % u' ' % QString::number(attributes.st_mtim.tv_sec) % u'.'
+           % QString::number(attributes.st_mtim.tv_nsec).rightJustified(9, u'0');
+}
+
+std::expected<QByteArray, std::error_code> LinuxFiles::read(const QString &path) const
+{
+    const auto file = openForReading(path);
+    if (!file)
+        return std::unexpected(file.error());
+    // The size is only a hint: the file can grow or shrink while it is read.
+    QByteArray content;
+    content.reserve(static_cast<qsizetype>(file->size) + 1);
+    for (;;) {
+        const qsizetype before = content.size();
+        const qsizetype room = std::max(content.capacity() - before, static_cast<qsizetype>(bytesPerRead));
+        content.resize(before + room);
+        const ssize_t count =
+            ::read(file->descriptor.get(), content.data() + before, static_cast<size_t>(room));
+        content.resize(before + std::max<ssize_t>(count, 0));
+        if (count < 0 && errno != EINTR)
+            return std::unexpected(lastError());
+        if (count == 0)
+            return content;
+    }
+}
+
+std::error_code LinuxFiles::copy(const QString &source, const QString &target, const std::stop_token &stop) const
+{
+    const auto original = openForReading(source);
+    if (!original)
+        return original.error();
+    const QByteArray name = QFile::encodeName(target);
+    FileDescriptor duplicate(::open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, onlyTheUserReads));
+    if (!duplicate.isOpen())
+        return lastError();
+    std::error_code error = copyContent(original->descriptor.get(), duplicate.get(), stop);
+    const std::error_code closeError = duplicate.close();
+    if (!error)
+        error = closeError;
+    if (error)
+        ::unlink(name.constData());
+    return error;
+}
+
+std::error_code LinuxFiles::makePrivateFolder(const QString &path) const
+{
+    const std::filesystem::path folder(QFile::encodeName(path).toStdString());
+    std::error_code error;
+    std::filesystem::create_directories(folder.parent_path(), error);
+    if (error)
+        return error;
+    return ::mkdir(folder.c_str(), onlyTheUserEnters) == 0 ? std::error_code{} : lastError();
+}
+
+void LinuxFiles::removeFolder(const QString &path) const
+{
+    std::error_code ignored;
+    std::filesystem::remove_all(QFile::encodeName(path).toStdString(), ignored);
+}
+
+QStringList LinuxFiles::names(const QString &folder) const
+{
+    QStringList result;
+    std::error_code error;
+    std::filesystem::directory_iterator entry(QFile::encodeName(folder).toStdString(), error);
+    while (!error && entry != std::filesystem::directory_iterator()) {
+        result.append(QFile::decodeName(QByteArray::fromStdString(entry->path().filename().string())));
+        entry.increment(error);
+    }
+    return result;
+}
+
+} // namespace roamlet

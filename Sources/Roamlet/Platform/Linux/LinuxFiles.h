@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "Platform/Files.h"
+
+namespace roamlet
+{
+
+/// The file system through the kernel's own calls.
+class LinuxFiles : public Files
+{
+public:
+    bool exists(const QString &path) const override;
+    QString stamp(const QString &path) const override;
+    std::expected<QByteArray, std::error_code> read(const QString &path) const override;
+    std::error_code copy(const QString &source, const QString &target, const std::stop_token &stop) const override;
+    std::error_code makePrivateFolder(const QString &path) const override;
+    void removeFolder(const QString &path) const override;
+    QStringList names(const QString &folder) const override;
+};
+
+} // namespace roamlet

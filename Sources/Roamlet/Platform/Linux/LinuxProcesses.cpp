@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "Platform/Processes.h"
+
+#include <signal.h>
+#include <unistd.h>
+
+#include <cerrno>
+
+namespace roamlet::Processes
+{
+
+std::int32_t ownID()
+{
+    return getpid();
+}
+
+bool exists(std::int32_t id)
+{
+    return kill(id, 0) == 0 || errno == EPERM;
+}
+
+} // namespace roamlet::Processes

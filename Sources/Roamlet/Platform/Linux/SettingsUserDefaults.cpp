@@ -1,0 +1,99 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "Platform/Linux/SettingsUserDefaults.h"
+
+namespace roamlet
+{
+
+using namespace Qt::StringLiterals;
+
+SettingsUserDefaults::SettingsUserDefaults()
+    : m_settings(QSettings::IniFormat, QSettings::UserScope, u"Roamlet"_s, u"Roamlet"_s)
+{
+    // Only the user's own file: another program's or the system's settings are not ours.
+    m_settings.setFallbacksEnabled(false);
+}
+
+SettingsUserDefaults::SettingsUserDefaults(const QString &path) : m_settings(path, QSettings::IniFormat)
+{
+    m_settings.setFallbacksEnabled(false);
+}
+
+std::optional<QStringList> SettingsUserDefaults::stringList(const QString &key) const
+{
+    if (!m_settings.contains(key))
+        return {};
+    const QVariant value = m_settings.value(key);
+    // The file keeps a list of one as a plain text and an empty list as an invalid value.
+    switch (value.typeId()) {
+    case QMetaType::UnknownType:
+        return QStringList();
+    case QMetaType::QString:
+        return value.toString().isEmpty() ? QStringList() : QStringList(value.toString());
+    case QMetaType::QStringList:
+        return value.toStringList();
+    default:
+        return {};
+    }
+}
+
+std::optional<QString> SettingsUserDefaults::string(const QString &key) const
+{
+    const QVariant value = m_settings.value(key);
+    if (value.typeId() == QMetaType::QString)
+        return value.toString();
+    return {};
+}
+
+std::optional<bool> SettingsUserDefaults::boolean(const QString &key) const
+{
+    const QVariant value = m_settings.value(key);
+    const QString text = value.toString().toLower();
+    if (value.typeId() == QMetaType::Bool || text == u"true" || text == u"false")
+        return value.toBool();
+    return {};
+}
+
+std::optional<QByteArray> SettingsUserDefaults::bytes(const QString &key) const
+{
+    const QVariant value = m_settings.value(key);
+    if (value.typeId() == QMetaType::QByteArray || value.typeId() == QMetaType::QString)
+        return value.toByteArray();
+    return {};
+}
+
+void SettingsUserDefaults::setStringList(const QString &key, const QStringList &value)
+{
+    set(key, value);
+}
+
+void SettingsUserDefaults::setString(const QString &key, const QString &value)
+{
+    set(key, value);
+}
+
+void SettingsUserDefaults::setBoolean(const QString &key, bool value)
+{
+    set(key, value);
+}
+
+void SettingsUserDefaults::setBytes(const QString &key, const QByteArray &value)
+{
+    set(key, value);
+}
+
+void SettingsUserDefaults::remove(const QString &key)
+{
+    m_settings.remove(key);
+    m_settings.sync();
+}
+
+void SettingsUserDefaults::set(const QString &key, const QVariant &value)
+{
+    m_settings.setValue(key, value);
+    // A choice of the user's must survive a crash a moment later.
+    m_settings.sync();
+}
+
+} // namespace roamlet

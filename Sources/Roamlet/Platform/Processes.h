@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <cstdint>
+
+/// What is asked of the system about processes. Any thread.
+namespace roamlet::Processes
+{
+
+/// The id of this process.
+std::int32_t ownID();
+/// Whether a process with this id exists, whoever it belongs to.
+bool exists(std::int32_t id);
+
+} // namespace roamlet::Processes

@@ -1,0 +1,32 @@
+# SPDX-License-Identifier: MIT
+# One place for the language standard, the warnings and the strict Qt that every target of ours is built with.
+add_library(roamlet_common INTERFACE)
+
+target_compile_definitions(roamlet_common INTERFACE
+  QT_NO_CAST_FROM_ASCII
+  QT_NO_CAST_TO_ASCII
+  QT_NO_CAST_FROM_BYTEARRAY
+  QT_NO_URL_CAST_FROM_STRING
+  QT_NO_KEYWORDS
+  QT_NO_FOREACH
+  QT_USE_QSTRINGBUILDER
+  QT_NO_NARROWING_CONVERSIONS_IN_CONNECT)
+
+target_compile_options(roamlet_common INTERFACE
+  -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wold-style-cast -Wnon-virtual-dtor -Woverloaded-virtual
+  -Wcast-qual -Wduplicated-cond -Wlogical-op -Wunused -Wformat=2 -Werror)
+
+# Libraries that a run does not reach are not loaded: a diagnostic run must start as fast as a plain Qt Core program.
+target_link_options(roamlet_common INTERFACE -Wl,--as-needed)
+
+if(ROAMLET_SANITIZERS)
+  target_compile_options(roamlet_common INTERFACE -fsanitize=${ROAMLET_SANITIZERS} -fno-omit-frame-pointer)
+  target_link_options(roamlet_common INTERFACE -fsanitize=${ROAMLET_SANITIZERS})
+  if(ROAMLET_SANITIZERS MATCHES "undefined")
+    target_compile_options(roamlet_common INTERFACE -fno-sanitize-recover=undefined)
+  endif()
+  if(ROAMLET_SANITIZERS MATCHES "thread")
+    # The compiler warns about fences inside the standard library's own headers.
+    target_compile_options(roamlet_common INTERFACE -Wno-tsan)
+  endif()
+endif()
