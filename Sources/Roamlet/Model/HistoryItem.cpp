@@ -8,12 +8,18 @@
 namespace roamlet
 {
 
-HistoryItem::HistoryItem(qint64 rowID, const QString &title, const QString &url, PointInTime lastVisit,
-                         qint64 visitCount, const Source &source)
-    : id(source.id() % u'/' % QString::number(rowID)), title(title.isEmpty() ? url : title), url(url),
-      lastVisit(lastVisit), visitCount(visitCount), source(source),
-      searchKey(QString(this->title % u'\n' % url).toLower()), site(Site::name(url).value_or(QString()))
+HistoryItem HistoryItem::ofRow(qint64 rowID, const QString &rowTitle, const QString &rowUrl, PointInTime visitedAt,
+                               qint64 visits, const Source &from)
 {
+    const QString shownTitle = rowTitle.isEmpty() ? rowUrl : rowTitle;
+    return {.id = from.id() % u'/' % QString::number(rowID),
+            .title = shownTitle,
+            .url = rowUrl,
+            .lastVisit = visitedAt,
+            .visitCount = visits,
+            .source = from,
+            .searchKey = QString(shownTitle % u'\n' % rowUrl).toLower(),
+            .site = Site::name(rowUrl).value_or(QString())};
 }
 
 size_t qHash(const HistoryItem &item, size_t seed)

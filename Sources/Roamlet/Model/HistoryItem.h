@@ -12,17 +12,7 @@ namespace roamlet
 {
 
 /// One row of a browser's history: one URL with its latest visit.
-class HistoryItem
-{
-public:
-    HistoryItem() = default;
-    /// The row `rowID` of the history table of `source`. An empty title is replaced by the URL; the search key and
-    /// the site are derived here, once.
-    HistoryItem(qint64 rowID, const QString &title, const QString &url, PointInTime lastVisit, qint64 visitCount,
-                const Source &source);
-
-    bool operator==(const HistoryItem &) const = default;
-
+struct HistoryItem {
     /// The source's id, "/", and the row's id in the browser's history table.
     QString id;
     /// Never empty when the URL is not.
@@ -35,6 +25,13 @@ public:
     QString searchKey;
     /// Site::name of the URL, or empty.
     QString site;
+
+    bool operator==(const HistoryItem &) const = default;
+
+    /// The row `rowID` of the history table of `from`. An empty title is replaced by the URL; the search key and the
+    /// site are derived here, once.
+    static HistoryItem ofRow(qint64 rowID, const QString &rowTitle, const QString &rowUrl, PointInTime visitedAt,
+                             qint64 visits, const Source &from);
 };
 
 size_t qHash(const HistoryItem &item, size_t seed = 0);

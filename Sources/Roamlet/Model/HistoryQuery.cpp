@@ -63,8 +63,8 @@ QStringList HistoryQuery::patterns() const
 
 size_t qHash(const HistoryQuery &query, size_t seed)
 {
-    return qHashMulti(seed, query.words, query.site.has_value(), query.site.value_or(QString()), query.order,
-                      query.limit);
+    return qHashMulti(seed, query.words, query.site.has_value(), query.site.value_or(QString()),
+                      static_cast<int>(query.order), query.limit);
 }
 
 } // namespace roamlet

@@ -28,7 +28,7 @@ public:
     virtual bool exists(const QString &path) const = 0;
     /// The file's size and its modification time to the nanosecond, or an empty text when its attributes cannot be
     /// read. Two equal stamps mean an unchanged file.
-    virtual QString stamp(const QString &path) const = 0;
+    virtual QString fileStamp(const QString &path) const = 0;
     /// The whole file.
     virtual std::expected<QByteArray, std::error_code> read(const QString &path) const = 0;
     /// Copies the bytes of `source` into a new file that only the user can read. A copy that fails, or that `stop`

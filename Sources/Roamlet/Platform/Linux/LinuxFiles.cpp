@@ -142,7 +142,7 @@ bool LinuxFiles::exists(const QString &path) const
     return ::stat(QFile::encodeName(path).constData(), &attributes) == 0 || (errno != ENOENT && errno != ENOTDIR);
 }
 
-QString LinuxFiles::stamp(const QString &path) const
+QString LinuxFiles::fileStamp(const QString &path) const
 {
     struct stat attributes = {};
     if (::stat(QFile::encodeName(path).constData(), &attributes) != 0)

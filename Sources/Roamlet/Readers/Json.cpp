@@ -1,0 +1,61 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "Readers/Json.h"
+
+namespace roamlet::Json
+{
+
+using namespace Qt::StringLiterals;
+
+std::expected<Value, QString> parse(const QByteArray &bytes)
+{
+    // The library would skip the mark; a browser never writes one, and a file that has it is not the browser's.
+    if (bytes.startsWith("\xEF\xBB\xBF"))
+        return std::unexpected(u"not valid JSON: it begins with a byte-order mark"_s);
+    try {
+        return Value::parse(bytes.begin(), bytes.end());
+    } catch (const Value::parse_error &error) {
+        return std::unexpected(u"not valid JSON at byte "_s % QString::number(error.byte));
+    } catch (const Value::exception &) {
+        return std::unexpected(u"not valid JSON: a number is out of range"_s);
+    }
+}
+
+const Value *member(const Value &value, const char *key)
+{
+    if (!value.is_object())
+        return nullptr;
+    const auto found = value.find(key);
+    return found == value.end() ? nullptr : &*found;
+}
+
+const Value *objectMember(const Value &value, const char *key)
+{
+    const Value *found = member(value, key);
+    return found != nullptr && found->is_object() ? found : nullptr;
+}
+
+std::optional<QString> text(const Value *value)
+{
+    if (value == nullptr || !value->is_string())
+        return {};
+    return text(value->get_ref<const std::string &>());
+}
+
+QString text(const std::string &value)
+{
+    return QString::fromUtf8(value.c_str());
+}
+
+bool isInteger(const Value *value, std::int64_t number)
+{
+    return value != nullptr && value->is_number() && *value == number;
+}
+
+bool isTrue(const Value *value)
+{
+    return value != nullptr && value->is_boolean() && value->get<bool>();
+}
+
+} // namespace roamlet::Json

@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <nlohmann/json.hpp>
+
+#include <expected>
+#include <optional>
+
+/// Strict reading of JSON. Qt's own reader refuses what nests deeper than 1,024 levels, and bookmark folders may.
+namespace roamlet::Json
+{
+
+using Value = nlohmann::json;
+
+/// The reason when the bytes are not exactly one JSON text in UTF-8.
+std::expected<Value, QString> parse(const QByteArray &bytes);
+
+/// The value under `key` when `value` is an object that has it, else null.
+const Value *member(const Value &value, const char *key);
+/// The same, only when it is an object.
+const Value *objectMember(const Value &value, const char *key);
+/// The text up to a NUL when `value` is a string.
+std::optional<QString> text(const Value *value);
+/// The text of a string or of an object's key, up to a NUL.
+QString text(const std::string &value);
+/// Whether `value` is the number `number`, written with or without a fraction.
+bool isInteger(const Value *value, std::int64_t number);
+/// Whether `value` is `true`, not merely something like it.
+bool isTrue(const Value *value);
+
+} // namespace roamlet::Json

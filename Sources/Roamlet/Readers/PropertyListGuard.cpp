@@ -1,0 +1,187 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "Readers/PropertyListGuard.h"
+
+#include <QtEndian>
+
+#include <algorithm>
+#include <cstdint>
+#include <limits>
+#include <vector>
+
+namespace roamlet::PropertyListGuard
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+constexpr QByteArrayView binaryHeader("bplist00");
+
+/// The object table of a binary property list, read without following anything.
+class BinaryObjects
+{
+public:
+    explicit BinaryObjects(QByteArrayView bytes) : m_bytes(bytes) {}
+
+    /// Whether the trailer describes a table that lies within the file.
+    bool readTrailer()
+    {
+        constexpr qsizetype trailerSize = 32;
+        constexpr std::uint64_t widest = 8;
+        if (m_bytes.size() < binaryHeader.size() + trailerSize)
+            return false;
+        const std::uint64_t trailer = static_cast<std::uint64_t>(m_bytes.size() - trailerSize);
+        m_offsetWidth = number(trailer + 6, 1);
+        m_referenceWidth = number(trailer + 7, 1);
+        m_count = number(trailer + 8, 8);
+        m_root = number(trailer + 16, 8);
+        m_table = number(trailer + 24, 8);
+        const bool areWidthsValid =
+            m_offsetWidth >= 1 && m_offsetWidth <= widest && m_referenceWidth >= 1 && m_referenceWidth <= widest;
+        return areWidthsValid && m_root < m_count && m_table < trailer
+               && m_count <= (trailer - m_table) / m_offsetWidth;
+    }
+
+    std::uint64_t count() const { return m_count; }
+    std::uint64_t root() const { return m_root; }
+
+    /// The objects that an array, a set or a dictionary refers to; none for everything else. False when they do not
+    /// lie within the file.
+    bool references(std::uint64_t object, std::vector<std::uint64_t> &result) const
+    {
+        constexpr std::uint64_t arrayType = 0xA;
+        constexpr std::uint64_t setType = 0xC;
+        constexpr std::uint64_t dictionaryType = 0xD;
+        constexpr std::uint64_t countFollows = 0xF;
+        result.clear();
+        std::uint64_t position = number(m_table + (object * m_offsetWidth), m_offsetWidth);
+        if (position >= m_table)
+            return false;
+        const std::uint64_t marker = number(position++, 1);
+        const std::uint64_t type = marker >> 4U;
+        if (type != arrayType && type != setType && type != dictionaryType)
+            return true;
+        std::uint64_t length = marker & 0xFU;
+        if (length == countFollows) {
+            if (position >= m_table)
+                return false;
+            const std::uint64_t width = std::uint64_t{1} << (number(position++, 1) & 0x3U);
+            if (width > m_table - position)
+                return false;
+            length = number(position, width);
+            position += width;
+        }
+        if (length > m_table / m_referenceWidth / 2)
+            return false;
+        const std::uint64_t references = type == dictionaryType ? 2 * length : length;
+        if (references * m_referenceWidth > m_table - position)
+            return false;
+        result.reserve(references);
+        for (std::uint64_t i = 0; i < references; ++i) {
+            result.push_back(number(position + (i * m_referenceWidth), m_referenceWidth));
+            if (result.back() >= m_count)
+                return false;
+        }
+        return true;
+    }
+
+private:
+    /// A big-endian number. The caller has checked that it lies within the file.
+    std::uint64_t number(std::uint64_t position, std::uint64_t width) const
+    {
+        std::uint64_t value = 0;
+        for (std::uint64_t i = 0; i < width; ++i)
+            value = (value << 8U) | static_cast<unsigned char>(m_bytes[static_cast<qsizetype>(position + i)]);
+        return value;
+    }
+
+    QByteArrayView m_bytes;
+    std::uint64_t m_offsetWidth = 0;
+    std::uint64_t m_referenceWidth = 0;
+    std::uint64_t m_count = 0;
+    std::uint64_t m_root = 0;
+    std::uint64_t m_table = 0;
+};
+
+std::optional<QString> binaryRefusal(QByteArrayView bytes)
+{
+    const QString damaged = u"not a property list: its object table is damaged"_s;
+    BinaryObjects objects(bytes);
+    if (!objects.readTrailer())
+        return damaged;
+
+    // Programs share only values without content of their own, so a list never unfolds to more objects than its
+    // file has bytes.
+    const auto most = static_cast<std::uint64_t>(bytes.size());
+    enum class State : std::uint8_t { New, Open, Done };
+    struct Visit {
+        std::uint64_t object;
+        std::vector<std::uint64_t> references;
+        size_t next = 0;
+    };
+    std::vector<State> states(objects.count(), State::New);
+    std::vector<std::uint64_t> unfolded(objects.count(), 1);
+    std::vector<Visit> open;
+    const auto enter = [&](std::uint64_t object) {
+        Visit visit{object, {}};
+        if (!objects.references(object, visit.references))
+            return false;
+        states[object] = State::Open;
+        open.push_back(std::move(visit));
+        return true;
+    };
+    if (!enter(objects.root()))
+        return damaged;
+    while (!open.empty()) {
+        Visit &visit = open.back();
+        if (visit.next == visit.references.size()) {
+            for (const std::uint64_t reference : visit.references)
+                unfolded[visit.object] = std::min(most + 1, unfolded[visit.object] + unfolded[reference]);
+            if (unfolded[visit.object] > most)
+                return u"not a property list: it unfolds to more than it holds"_s;
+            states[visit.object] = State::Done;
+            open.pop_back();
+            continue;
+        }
+        const std::uint64_t reference = visit.references[visit.next++];
+        if (states[reference] == State::Open)
+            return u"not a property list: a value contains itself"_s;
+        if (states[reference] == State::Done)
+            continue;
+        if (open.size() >= deepestNesting)
+            return u"it is nested too deeply"_s;
+        if (!enter(reference))
+            return damaged;
+    }
+    return {};
+}
+
+std::optional<QString> xmlRefusal(QByteArrayView bytes)
+{
+    int depth = 0;
+    int deepest = 0;
+    for (qsizetype tag = bytes.indexOf('<'); tag >= 0; tag = bytes.indexOf('<', tag + 1)) {
+        const QByteArrayView rest = bytes.sliced(tag + 1);
+        if (rest.startsWith("dict") || rest.startsWith("array"))
+            deepest = std::max(deepest, ++depth);
+        else if (rest.startsWith("/dict") || rest.startsWith("/array"))
+            --depth;
+        else if (rest.startsWith("!ENTITY"))
+            return u"not a property list: it declares entities"_s;
+    }
+    return deepest > deepestNesting ? std::optional(u"it is nested too deeply"_s) : std::nullopt;
+}
+
+} // namespace
+
+std::optional<QString> refusal(QByteArrayView bytes)
+{
+    if (bytes.size() >= std::numeric_limits<std::int32_t>::max())
+        return u"it is too large"_s;
+    return bytes.startsWith(binaryHeader) ? binaryRefusal(bytes) : xmlRefusal(bytes);
+}
+
+} // namespace roamlet::PropertyListGuard

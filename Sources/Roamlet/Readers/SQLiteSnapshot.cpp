@@ -1,0 +1,245 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "Readers/SQLiteSnapshot.h"
+
+#include "Platform/Files.h"
+#include "Platform/Processes.h"
+#include "Readers/ReadContext.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QUuid>
+
+#include <sqlite3.h>
+
+#include <array>
+#include <stop_token>
+#include <utility>
+
+namespace roamlet
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+constexpr int attempts = 3;
+const QString folderPrefix = u"Roamlet-"_s;
+
+/// The size and time of a database and of the files beside it that hold its changes. The "-shm" file says nothing
+/// about the content.
+using DatabaseStamp = std::array<QString, 3>;
+
+DatabaseStamp stamp(const Files &files, const QString &database)
+{
+    return {files.fileStamp(database), files.fileStamp(database % u"-wal"), files.fileStamp(database % u"-journal")};
+}
+
+struct Finalize {
+    void operator()(sqlite3_stmt *statement) const { sqlite3_finalize(statement); }
+};
+using Statement = std::unique_ptr<sqlite3_stmt, Finalize>;
+
+QString messageOf(sqlite3 *connection)
+{
+    return QString::fromUtf8(sqlite3_errmsg(connection));
+}
+
+ReadError queryError(sqlite3 *connection)
+{
+    return ReadError::unreadable(u"query"_s, messageOf(connection));
+}
+
+} // namespace
+
+std::int64_t SQLiteSnapshot::Row::integer(int column) const
+{
+    return sqlite3_column_int64(m_statement, column);
+}
+
+double SQLiteSnapshot::Row::real(int column) const
+{
+    return sqlite3_column_double(m_statement, column);
+}
+
+std::optional<QString> SQLiteSnapshot::Row::text(int column) const
+{
+    const unsigned char *text = sqlite3_column_text(m_statement, column);
+    if (text == nullptr)
+        return {};
+    return QString::fromUtf8(reinterpret_cast<const char *>(text));
+}
+
+QByteArrayView SQLiteSnapshot::Row::blob(int column) const
+{
+    const void *bytes = sqlite3_column_blob(m_statement, column);
+    return {static_cast<const char *>(bytes), sqlite3_column_bytes(m_statement, column)};
+}
+
+/// The private folder and the files in it.
+class SQLiteSnapshot::Copy
+{
+public:
+    Copy(const Files &files, const QString &temporaryFolder, const QString &source)
+        : m_files(files), m_source(source),
+          m_folder(temporaryFolder % u'/' % folderPrefix % QString::number(Processes::ownID()) % u'-'
+                   % QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper())
+    {
+    }
+    Copy(const Copy &) = delete;
+    Copy &operator=(const Copy &) = delete;
+    ~Copy() { m_files.removeFolder(m_folder); }
+
+    QString folder() const { return m_folder; }
+    QString path() const { return m_folder % u'/' % QFileInfo(m_source).fileName(); }
+
+    std::error_code make(const std::stop_token &stop)
+    {
+        for (int attempt = 1; attempt <= attempts; ++attempt) {
+            m_files.removeFolder(m_folder);
+            if (const std::error_code error = m_files.makePrivateFolder(m_folder))
+                return error;
+            const DatabaseStamp before = stamp(m_files, m_source);
+            if (const std::error_code error = m_files.copy(m_source, path(), stop))
+                return error;
+            for (const QString &suffix : {u"-wal"_s, u"-shm"_s, u"-journal"_s}) {
+                // Most often there is none.
+                static_cast<void>(m_files.copy(m_source + suffix, path() + suffix, stop));
+            }
+            if (stamp(m_files, m_source) == before)
+                break;
+        }
+        return {};
+    }
+
+private:
+    const Files &m_files;
+    QString m_source;
+    QString m_folder;
+};
+
+/// An open handle, with a limit on how long a statement may run.
+class SQLiteSnapshot::Connection
+{
+public:
+    explicit Connection(std::stop_token stop) : m_stop(std::move(stop)) {}
+    Connection(const Connection &) = delete;
+    Connection &operator=(const Connection &) = delete;
+    ~Connection() { sqlite3_close(m_handle); }
+
+    /// The message when it fails.
+    std::expected<void, QString> open(const QString &path)
+    {
+        // Read-write, so that SQLite can replay the copied logs into the copy.
+        const int result =
+            sqlite3_open_v2(QFile::encodeName(path).constData(), &m_handle, SQLITE_OPEN_READWRITE, nullptr);
+        if (result != SQLITE_OK)
+            return std::unexpected(m_handle != nullptr ? messageOf(m_handle) : u"open failed"_s);
+        // The file is a stranger's: its schema may hold data and nothing that runs.
+        sqlite3_db_config(m_handle, SQLITE_DBCONFIG_ENABLE_VIEW, 0, nullptr);
+        sqlite3_db_config(m_handle, SQLITE_DBCONFIG_ENABLE_TRIGGER, 0, nullptr);
+        sqlite3_db_config(m_handle, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
+        sqlite3_progress_handler(m_handle, stepsPerCheck, &Connection::shallEnd, this);
+        return {};
+    }
+
+    sqlite3 *handle() const { return m_handle; }
+
+    /// Gives the next statement as many steps as any honest file of this size could need. A damaged file can lead
+    /// SQLite through the same pages again and again.
+    void allowStepsFor(qsizetype parameters)
+    {
+        constexpr std::int64_t always = 20'000'000;
+        constexpr std::int64_t perByte = 20;
+        m_checksLeft = always / stepsPerCheck;
+        m_checksLeft = (always + perByte * size()) / stepsPerCheck * (1 + parameters);
+    }
+
+private:
+    static constexpr int stepsPerCheck = 10'000;
+
+    static int shallEnd(void *connection)
+    {
+        auto *self = static_cast<Connection *>(connection);
+        return self->m_stop.stop_requested() || --self->m_checksLeft < 0 ? 1 : 0;
+    }
+
+    /// The bytes of the database with its logs, or 0 when it is none.
+    std::int64_t size() const
+    {
+        const auto number = [this](const char *pragma) -> std::int64_t {
+            sqlite3_stmt *prepared = nullptr;
+            sqlite3_prepare_v2(m_handle, pragma, -1, &prepared, nullptr);
+            const Statement statement(prepared);
+            return statement && sqlite3_step(prepared) == SQLITE_ROW ? sqlite3_column_int64(prepared, 0) : 0;
+        };
+        return number("PRAGMA page_count") * number("PRAGMA page_size");
+    }
+
+    sqlite3 *m_handle = nullptr;
+    std::stop_token m_stop;
+    std::int64_t m_checksLeft = 0;
+};
+
+SQLiteSnapshot::SQLiteSnapshot(std::unique_ptr<Copy> copy, std::unique_ptr<Connection> connection)
+    : m_copy(std::move(copy)), m_connection(std::move(connection))
+{
+}
+
+SQLiteSnapshot::SQLiteSnapshot(SQLiteSnapshot &&) noexcept = default;
+SQLiteSnapshot &SQLiteSnapshot::operator=(SQLiteSnapshot &&) noexcept = default;
+SQLiteSnapshot::~SQLiteSnapshot() = default;
+
+std::expected<SQLiteSnapshot, ReadError> SQLiteSnapshot::copying(const QString &source, const ReadContext &context)
+{
+    auto copy = std::make_unique<Copy>(*context.files, context.folders.temporary, source);
+    if (const std::error_code error = copy->make(context.stop))
+        return std::unexpected(ReadError::wrap(error, source));
+    auto connection = std::make_unique<Connection>(context.stop);
+    if (const auto opened = connection->open(copy->path()); !opened)
+        return std::unexpected(ReadError::unreadable(source, opened.error()));
+    return SQLiteSnapshot(std::move(copy), std::move(connection));
+}
+
+std::expected<void, ReadError> SQLiteSnapshot::query(const QString &sql, const QStringList &parameters,
+                                                     const RowHandler &handleRow) const
+{
+    sqlite3 *connection = m_connection->handle();
+    m_connection->allowStepsFor(parameters.size());
+    sqlite3_stmt *prepared = nullptr;
+    const int result = sqlite3_prepare_v2(connection, sql.toUtf8().constData(), -1, &prepared, nullptr);
+    const Statement statement(prepared);
+    if (result != SQLITE_OK || !statement)
+        return std::unexpected(queryError(connection));
+    for (int i = 0; i < parameters.size(); ++i)
+        sqlite3_bind_text(prepared, i + 1, parameters[i].toUtf8().constData(), -1, SQLITE_TRANSIENT);
+    int step = sqlite3_step(prepared);
+    for (; step == SQLITE_ROW; step = sqlite3_step(prepared))
+        handleRow(Row(prepared));
+    if (step != SQLITE_DONE)
+        return std::unexpected(queryError(connection));
+    return {};
+}
+
+QString SQLiteSnapshot::folder() const
+{
+    return m_copy->folder();
+}
+
+void SQLiteSnapshot::removeLeftovers(const Files &files, const QString &temporaryFolder)
+{
+    for (const QString &name : files.names(temporaryFolder)) {
+        if (!name.startsWith(folderPrefix))
+            continue;
+        const QStringList pieces = name.sliced(folderPrefix.size()).split(u'-', Qt::SkipEmptyParts);
+        bool isNumber = false;
+        const std::int32_t process = pieces.isEmpty() ? 0 : pieces.first().toInt(&isNumber);
+        // Never the copies of a run that is still alive, whoever's it is.
+        if (!isNumber || !Processes::exists(process))
+            files.removeFolder(temporaryFolder % u'/' % name);
+    }
+}
+
+} // namespace roamlet

@@ -1,0 +1,78 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "Model/ReadError.h"
+
+#include <QByteArrayView>
+#include <QString>
+#include <QStringList>
+
+#include <cstdint>
+#include <expected>
+#include <functional>
+#include <memory>
+#include <optional>
+
+struct sqlite3_stmt;
+
+namespace roamlet
+{
+
+class Files;
+struct ReadContext;
+
+/// A private, read-only copy of a live database and its sidecar files, removed when this object goes. The database
+/// itself is never opened, so a browser's lock means nothing and no read ever waits. One task at a time.
+class SQLiteSnapshot
+{
+public:
+    /// The current row of a running statement, columns counted from zero. Only valid while the callback runs.
+    class Row
+    {
+    public:
+        explicit Row(sqlite3_stmt *statement) : m_statement(statement) {}
+
+        std::int64_t integer(int column) const;
+        double real(int column) const;
+        /// The text up to a NUL, broken UTF-8 replaced; nothing for NULL.
+        std::optional<QString> text(int column) const;
+        /// Bytes that the statement owns; null for NULL and for an empty value.
+        QByteArrayView blob(int column) const;
+
+    private:
+        sqlite3_stmt *m_statement;
+    };
+    using RowHandler = std::function<void(const Row &)>;
+
+    /// Copies the database at `source`. A copy during which the source changed is made again, at most three times in
+    /// all; then the last one is used.
+    static std::expected<SQLiteSnapshot, ReadError> copying(const QString &source, const ReadContext &context);
+
+    SQLiteSnapshot(SQLiteSnapshot &&) noexcept;
+    SQLiteSnapshot &operator=(SQLiteSnapshot &&) noexcept;
+    ~SQLiteSnapshot();
+
+    /// Runs one statement with text parameters and hands over every row. After an error the rows so far are to be
+    /// discarded.
+    std::expected<void, ReadError> query(const QString &sql, const QStringList &parameters,
+                                         const RowHandler &handleRow) const;
+    /// The private folder that holds the copy.
+    QString folder() const;
+
+    /// Removes the folders in `temporaryFolder` that earlier runs left behind because they died.
+    static void removeLeftovers(const Files &files, const QString &temporaryFolder);
+
+private:
+    class Copy;
+    class Connection;
+
+    SQLiteSnapshot(std::unique_ptr<Copy> copy, std::unique_ptr<Connection> connection);
+
+    // The connection goes first: its files are removed after it is closed.
+    std::unique_ptr<Copy> m_copy;
+    std::unique_ptr<Connection> m_connection;
+};
+
+} // namespace roamlet

@@ -1,0 +1,261 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "Readers/SafariReader.h"
+
+#include "Platform/Files.h"
+#include "Readers/PropertyList.h"
+#include "Readers/SQLiteSnapshot.h"
+
+#include <QUuid>
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+namespace roamlet::SafariReader
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+/// From 1970-01-01 to 2001-01-01, where Safari's times begin.
+constexpr double secondsUntil2001 = 978'307'200;
+
+const QString readingListTitle = u"com.apple.ReadingList"_s;
+const QString barTitle = u"BookmarksBar"_s;
+
+/// What a folder at the root is called on screen.
+QString rootName(const QString &rawTitle)
+{
+    if (rawTitle == barTitle)
+        return u"Favorites"_s;
+    if (rawTitle == u"BookmarksMenu")
+        return u"Bookmarks Menu"_s;
+    return rawTitle;
+}
+
+/// Which bookmarks a named profile shows: its own favourites folder, unless it shares the favourites bar.
+Source::SafariBookmarks bookmarkSelection(QByteArrayView extraAttributes)
+{
+    if (extraAttributes.isNull())
+        return Source::None{};
+    const auto attributes = PropertyList::parse(extraAttributes.toByteArray());
+    const std::optional<QString> folder =
+        attributes ? attributes->root().member("CustomFavoritesFolderServerID").string() : std::nullopt;
+    if (!folder || *folder == u"Favorites Bar")
+        return Source::None{};
+    return Source::Folder{*folder};
+}
+
+QString historyStatement(const HistoryQuery &query)
+{
+    return u"SELECT i.id, i.url, v.title, max(v.visit_time), i.visit_count\n"
+           "FROM history_items i JOIN history_visits v ON v.history_item = i.id\nWHERE 1"
+           % query.conditions(u"(i.url || ' ' || ifnull(v.title, ''))"_s, u"i.url"_s)
+           % u"\nGROUP BY i.id\nORDER BY "
+           % (query.order == HistoryQuery::Order::MostVisited ? u"5 DESC, "_s : QString()) % u"4 DESC\nLIMIT "
+           % QString::number(query.limit);
+}
+
+std::optional<QString> serverID(PropertyListValue entry)
+{
+    return entry.member("Sync").member("ServerID").string();
+}
+
+/// The first entry with this server ID, depth first.
+PropertyListValue find(PropertyListValue root, const QString &id)
+{
+    std::vector<PropertyListValue> open{root};
+    while (!open.empty()) {
+        const PropertyListValue entry = open.back();
+        open.pop_back();
+        if (serverID(entry) == id)
+            return entry;
+        std::vector<PropertyListValue> children = entry.member("Children").dictionaries();
+        open.insert(open.end(), children.rbegin(), children.rend());
+    }
+    return {};
+}
+
+/// Turns entries into nodes for one source, leaving out what belongs to other profiles.
+class TreeBuilder
+{
+public:
+    TreeBuilder(const Source &source, const QSet<QString> &excludedIDs)
+        : m_source(source), m_excludedIDs(excludedIDs)
+    {
+    }
+
+    /// The tree at and below an entry that is shown at the top. Without recursion: the file decides how deep it goes.
+    std::optional<BookmarkNode> node(PropertyListValue rootEntry) const
+    {
+        struct OpenFolder {
+            BookmarkNode node;
+            std::vector<PropertyListValue> entries;
+            size_t next = 0;
+        };
+        std::optional<BookmarkNode> root = nodeWithoutChildren(rootEntry, true);
+        if (!root || !root->isFolder())
+            return root;
+        std::vector<OpenFolder> open;
+        open.push_back({std::move(*root), rootEntry.member("Children").dictionaries()});
+        for (;;) {
+            OpenFolder &folder = open.back();
+            if (folder.next < folder.entries.size()) {
+                const PropertyListValue entry = folder.entries[folder.next++];
+                std::optional<BookmarkNode> child = nodeWithoutChildren(entry, false);
+                if (child && child->isFolder())
+                    open.push_back({std::move(*child), entry.member("Children").dictionaries()});
+                else if (child)
+                    folder.node.children->append(std::move(*child));
+                continue;
+            }
+            BookmarkNode finished = std::move(folder.node);
+            open.pop_back();
+            if (open.empty())
+                return finished;
+            open.back().node.children->append(std::move(finished));
+        }
+    }
+
+private:
+    std::optional<BookmarkNode> nodeWithoutChildren(PropertyListValue entry, bool isRoot) const
+    {
+        const std::optional<QString> id = serverID(entry);
+        if (id && m_excludedIDs.contains(*id))
+            return {};
+        const std::optional<QString> type = entry.member("WebBookmarkType").string();
+        const std::optional<QString> identity = entry.member("WebBookmarkUUID").string();
+        BookmarkNode node;
+        node.id = u"safari/" % (identity ? *identity : QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper());
+        node.source = m_source;
+        if (type == u"WebBookmarkTypeLeaf") {
+            node.url = entry.member("URLString").string();
+            if (!node.url)
+                return {};
+            node.title = entry.member("URIDictionary").member("title").string().value_or(*node.url);
+            node.dateAdded = entry.member("dateAdded").date();
+            return node;
+        }
+        if (type == u"WebBookmarkTypeList") {
+            const QString rawTitle = entry.member("Title").string().value_or(QString());
+            node.title = isRoot ? rootName(rawTitle) : rawTitle;
+            node.children = QList<BookmarkNode>();
+            node.isBar = isRoot && rawTitle == barTitle;
+            return node;
+        }
+        return {};
+    }
+
+    const Source &m_source;
+    const QSet<QString> &m_excludedIDs;
+};
+
+/// The one folder that is a named profile's favourites; it plays the part of the bookmarks bar.
+QList<BookmarkNode> favourites(PropertyListValue root, const QString &folderID, const Source &source)
+{
+    const PropertyListValue entry = find(root, folderID);
+    std::optional<BookmarkNode> node = TreeBuilder(source, {}).node(entry);
+    if (!node || node->bookmarkCount() == 0)
+        return {};
+    node->isBar = true;
+    return {*node};
+}
+
+QList<BookmarkNode> allBookmarks(PropertyListValue root, const QSet<QString> &excludedIDs, const Source &source)
+{
+    const TreeBuilder builder(source, excludedIDs);
+    QList<BookmarkNode> result;
+    for (const PropertyListValue entry : root.member("Children").dictionaries()) {
+        if (entry.member("Title").string() == readingListTitle)
+            continue;
+        std::optional<BookmarkNode> node = builder.node(entry);
+        if (node && node->bookmarkCount() > 0)
+            result.append(std::move(*node));
+    }
+    return result;
+}
+
+} // namespace
+
+QList<Source> profiles(const ReadContext &context)
+{
+    const auto snapshot = SQLiteSnapshot::copying(context.folders.safariContainer % u"/SafariTabs.db", context);
+    if (!snapshot)
+        return {Source::safari()};
+    QList<Source> named;
+    QSet<QString> claimedIDs;
+    // An error ends the reading; the profiles that were read before it count.
+    static_cast<void>(snapshot->query(
+        u"SELECT title, server_id, extra_attributes FROM bookmarks\n"
+        "WHERE subtype = 2 AND deleted = 0 AND server_id != 'DefaultProfile'\nORDER BY order_index"_s,
+        {}, [&](const SQLiteSnapshot::Row &row) {
+            enum Column { Title, ServerID, ExtraAttributes };
+            const std::optional<QString> id = row.text(ServerID);
+            const std::optional<QString> title = row.text(Title);
+            if (!id || !title || title->isEmpty())
+                return;
+            const Source::SafariBookmarks selection = bookmarkSelection(row.blob(ExtraAttributes));
+            if (const auto *folder = std::get_if<Source::Folder>(&selection))
+                claimedIDs.insert(folder->serverID);
+            named.append(
+                {.kind = Source::Kind::Safari, .profile = *id, .name = *title, .safariBookmarks = selection});
+        }));
+    if (named.isEmpty())
+        return {Source::safari()};
+    named.prepend({.kind = Source::Kind::Safari,
+                   .profile = {},
+                   .name = u"Personal"_s,
+                   .safariBookmarks = Source::AllExcept{claimedIDs}});
+    return named;
+}
+
+std::expected<QList<HistoryItem>, ReadError> history(const Source &source, const HistoryQuery &query,
+                                                     const ReadContext &context)
+{
+    QString file = context.folders.safari % u"/History.db";
+    if (source.profile) {
+        file = context.folders.safariProfiles() % u'/' % *source.profile % u"/History.db";
+        // A profile that has never stored anything has no file; the default profile always has one.
+        if (!context.files->exists(file))
+            return QList<HistoryItem>();
+    }
+    const auto snapshot = SQLiteSnapshot::copying(file, context);
+    if (!snapshot)
+        return std::unexpected(snapshot.error());
+    QList<HistoryItem> items;
+    const auto run =
+        snapshot->query(historyStatement(query), query.patterns(), [&](const SQLiteSnapshot::Row &row) {
+            enum Column { Id, Url, Title, NewestVisit, VisitCount };
+            items.append(HistoryItem::ofRow(row.integer(Id), row.text(Title).value_or(QString()),
+                                     row.text(Url).value_or(QString()),
+                                     pointInTime(row.real(NewestVisit) + secondsUntil2001),
+                                     row.integer(VisitCount), source));
+        });
+    if (!run)
+        return std::unexpected(run.error());
+    return items;
+}
+
+std::expected<QList<BookmarkNode>, ReadError> bookmarks(const Source &source, const ReadContext &context)
+{
+    if (std::holds_alternative<Source::None>(source.safariBookmarks))
+        return QList<BookmarkNode>();
+    const QString file = context.folders.safari % u"/Bookmarks.plist";
+    const auto bytes = context.files->read(file);
+    if (!bytes)
+        return std::unexpected(ReadError::wrap(bytes.error(), file));
+    const auto list = PropertyList::parse(*bytes);
+    if (!list)
+        return std::unexpected(ReadError::unreadable(file, list.error()));
+    if (!list->root().isDictionary())
+        return std::unexpected(ReadError::unreadable(file, u"not a dictionary"_s));
+    if (const auto *folder = std::get_if<Source::Folder>(&source.safariBookmarks))
+        return favourites(list->root(), folder->serverID, source);
+    return allBookmarks(list->root(), std::get<Source::AllExcept>(source.safariBookmarks).serverIDs, source);
+}
+
+} // namespace roamlet::SafariReader
