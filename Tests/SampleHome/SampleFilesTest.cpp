@@ -1,0 +1,193 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "SampleHome/ChromiumFiles.h"
+#include "SampleHome/SafariFiles.h"
+#include "SampleHome/SqliteFile.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+#include <sqlite3.h>
+
+#include <functional>
+#include <vector>
+
+namespace roamlet::sample
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+/// What the first column of this statement holds, row by row; a failure is a row of its own.
+QStringList query(const QString &path, const char *sql)
+{
+    sqlite3 *database = nullptr;
+    sqlite3_open_v2(path.toUtf8().constData(), &database, SQLITE_OPEN_READWRITE, nullptr);
+    sqlite3_stmt *statement = nullptr;
+    sqlite3_prepare_v2(database, sql, -1, &statement, nullptr);
+    QStringList rows;
+    int result = SQLITE_ROW;
+    while ((result = sqlite3_step(statement)) == SQLITE_ROW) {
+        const auto *bytes = static_cast<const char *>(sqlite3_column_blob(statement, 0));
+        rows.append(QString::fromUtf8(bytes, sqlite3_column_bytes(statement, 0)));
+    }
+    sqlite3_finalize(statement);
+    if (result != SQLITE_DONE)
+        rows.append(u"failed: " % QString::fromUtf8(sqlite3_errmsg(database)));
+    sqlite3_close(database);
+    return rows;
+}
+
+/// The same from a copy of the main file alone, or with the files beside it.
+QStringList queryCopy(const QString &path, const char *sql, const QStringList &suffixes)
+{
+    const QTemporaryDir folder;
+    const QString copy = folder.filePath(u"copy"_s);
+    for (const QString &suffix : QStringList(u""_s) + suffixes)
+        QFile::copy(path % suffix, copy % suffix);
+    return query(copy, sql);
+}
+
+QStringList queryMainFile(const QString &path, const char *sql)
+{
+    return queryCopy(path, sql, {});
+}
+
+QStringList queryWithSidecars(const QString &path, const char *sql)
+{
+    return queryCopy(path, sql, {u"-wal"_s, u"-shm"_s, u"-journal"_s});
+}
+
+Rows<HistoryRow> pages(qsizetype count)
+{
+    return Rows<HistoryRow>::generated(count, [](qsizetype index) {
+        return HistoryRow{.url = u"https://www.example.org/page/%1"_s.arg(index),
+                          .title = u"Page %1"_s.arg(index),
+                          .lastVisitTime = chromiumTime(1'700'000'000 + index)};
+    });
+}
+
+constexpr auto visiblePages = "SELECT title FROM urls WHERE hidden = 0 ORDER BY id";
+
+/// "Page 0" up to, but not including, this number.
+QStringList titles(qsizetype count)
+{
+    QStringList titles;
+    for (qsizetype index = 0; index < count; ++index)
+        titles.append(u"Page %1"_s.arg(index));
+    return titles;
+}
+
+} // namespace
+
+class SampleFiles : public testing::Test
+{
+protected:
+    QString path(const QString &name) const { return m_folder.filePath(name); }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+TEST_F(SampleFiles, aCleanDatabaseIsOneFile)
+{
+    const QString file = path(u"History"_s);
+    writeHistory(file, pages(5));
+    EXPECT_EQ(queryMainFile(file, visiblePages), titles(5));
+    for (const QString &suffix : {u"-wal"_s, u"-shm"_s, u"-journal"_s})
+        EXPECT_FALSE(QFile::exists(file % suffix)) << qPrintable(suffix);
+    writeSafariHistory(path(u"History.db"_s), {}, {});
+    EXPECT_FALSE(QFile::exists(path(u"History.db-wal"_s)));
+    EXPECT_EQ(queryMainFile(path(u"History.db"_s), "PRAGMA journal_mode"), QStringList{u"wal"_s});
+}
+
+TEST_F(SampleFiles, theLaterHalfIsOnlyInAnUnmergedLog)
+{
+    for (const qsizetype count : {1, 10, 10'000}) {
+        const QString file = path(u"History"_s);
+        writeHistory(file, pages(count), Journal::UnmergedWal);
+        EXPECT_TRUE(QFile::exists(file % u"-wal"));
+        EXPECT_TRUE(QFile::exists(file % u"-shm"));
+        EXPECT_EQ(queryMainFile(file, visiblePages), titles(count / 2)) << count;
+        EXPECT_EQ(queryWithSidecars(file, visiblePages), titles(count)) << count;
+    }
+}
+
+TEST_F(SampleFiles, aHotJournalIsNeededToReadTheRows)
+{
+    for (const qsizetype count : {1, 10, 10'000}) {
+        const QString file = path(u"History"_s);
+        writeHistory(file, pages(count), Journal::HotJournal);
+        const QStringList wrongRows = queryMainFile(file, visiblePages);
+        EXPECT_LT(wrongRows.size(), count);
+        EXPECT_EQ(wrongRows.last(qMax(0, count - 2000)), titles(count).mid(2000)) << count;
+        EXPECT_EQ(queryWithSidecars(file, visiblePages), titles(count)) << count;
+        EXPECT_EQ(queryWithSidecars(file, "PRAGMA integrity_check"), QStringList{u"ok"_s}) << count;
+    }
+}
+
+TEST_F(SampleFiles, everyDatabaseCanBeLeftInEveryState)
+{
+    struct Case {
+        const char *name;
+        std::function<void(const QString &, Journal)> write;
+        const char *sql;
+    };
+    const Rows<FaviconBitmap> bitmaps{{.iconID = 1, .image = QByteArray("first"), .width = 16},
+                                      {.iconID = 2, .image = QByteArray("second"), .width = 32}};
+    const Rows<FaviconMapping> mappings{{.pageURL = u"https://a.example/"_s, .iconID = 1},
+                                        {.pageURL = u"https://b.example/"_s, .iconID = 2}};
+    const Rows<SafariItem> items{{.id = 1, .url = u"https://a.example/"_s},
+                                 {.id = 2, .url = u"https://b.example/"_s}};
+    const Rows<SafariVisit> visits{{.itemID = 1, .time = 1.5, .title = u"first"_s},
+                                   {.itemID = 2, .time = 2.5, .title = u"second"_s}};
+    const Rows<SafariProfileRow> profiles{{.title = u"first"_s, .serverID = u"A"_s},
+                                          {.title = u"second"_s, .serverID = u"B"_s}};
+    const Rows<SafariIcon> icons{{.uuid = u"first"_s, .timestamp = 1}, {.uuid = u"second"_s, .timestamp = 2}};
+    const Rows<SafariIconPage> iconPages{{.url = u"https://a.example/"_s, .uuid = u"first"_s},
+                                         {.url = u"https://b.example/"_s, .uuid = u"second"_s}};
+    const std::vector<Case> cases{
+        {"Favicons",
+         [&](const QString &file, Journal journal) { writeFavicons(file, bitmaps, mappings, journal); },
+         "SELECT image_data FROM icon_mapping JOIN favicon_bitmaps USING (icon_id) ORDER BY icon_id"},
+        {"History.db",
+         [&](const QString &file, Journal journal) { writeSafariHistory(file, items, visits, journal); },
+         "SELECT title FROM history_visits ORDER BY visit_time"},
+        {"SafariTabs.db",
+         [&](const QString &file, Journal journal) { writeSafariTabs(file, profiles, journal); },
+         "SELECT title FROM bookmarks WHERE subtype = 2 AND server_id != 'DefaultProfile' ORDER BY "
+         "order_index"},
+        {"favicons.db",
+         [&](const QString &file, Journal journal) {
+             writeSafariFavicons(file.chopped(QStringLiteral("/favicons.db").size()), icons, iconPages,
+                                 journal);
+         },
+         "SELECT p.uuid FROM page_url p JOIN icon_info i ON i.uuid = p.uuid ORDER BY i.timestamp"}};
+    const QStringList rows{u"first"_s, u"second"_s};
+    for (const Case &database : cases) {
+        const QString file = path(QString::fromLatin1(database.name));
+        for (const Journal journal : {Journal::Clean, Journal::UnmergedWal, Journal::HotJournal}) {
+            database.write(file, journal);
+            EXPECT_EQ(queryWithSidecars(file, database.sql), rows) << database.name;
+            EXPECT_EQ(queryMainFile(file, database.sql) == rows, journal == Journal::Clean) << database.name;
+        }
+    }
+}
+
+TEST_F(SampleFiles, textsAreStoredByteForByte)
+{
+    const QByteArray broken("NUL \0, half a character \xc3", 26);
+    const QString file = path(u"History"_s);
+    writeHistory(file, {{.url = u"https://a.example/"_s, .title = Text::raw(broken), .lastVisitTime = 1},
+                        {.url = u"https://b.example/"_s, .lastVisitTime = 1},
+                        {.url = u"https://c.example/"_s, .title = u""_s, .lastVisitTime = 1}});
+    EXPECT_EQ(query(file, "SELECT hex(title) FROM urls"),
+              (QStringList{QString::fromLatin1(broken.toHex().toUpper()), u""_s, u""_s}));
+    EXPECT_EQ(query(file, "SELECT typeof(title) FROM urls"), (QStringList{u"text"_s, u"null"_s, u"text"_s}));
+}
+
+} // namespace roamlet::sample
