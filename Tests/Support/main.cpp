@@ -3,11 +3,11 @@
 
 #include <QCoreApplication>
 
+#include <clocale>
 #include <gmock/gmock.h>
 
-#include <clocale>
-
-/// Tests run with Qt's event loop at hand, in plain C ways and a UTF-8 encoding, whatever the machine's settings.
+/// Tests run with Qt's event loop at hand, in plain C ways and a UTF-8 encoding, whatever the machine's
+/// settings.
 int main(int argc, char **argv)
 {
     qputenv("LC_ALL", "C.UTF-8");

@@ -1,2 +1,5 @@
 // x
-int main(){return 0;}
+int main()
+{
+    return 0;
+}

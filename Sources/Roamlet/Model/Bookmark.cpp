@@ -50,8 +50,9 @@ Bookmark bookmark(const BookmarkNode &leaf, const QString &folder, const std::op
 
 BookmarkNode::~BookmarkNode()
 {
-    // The generated destructor would recurse once for each level, and files nest as deep as they like: lift the
-    // grandchildren out until nothing is nested any more. Lists that somebody else holds too are only let go.
+    // The generated destructor would recurse once for each level, and files nest as deep as they like: lift
+    // the grandchildren out until nothing is nested any more. Lists that somebody else holds too are only let
+    // go.
     if (!children || !children->isDetached())
         return;
     std::vector<QList<BookmarkNode>> doomed;
@@ -92,7 +93,8 @@ QList<Bookmark> BookmarkNode::flattened(const QStringList &path, const std::opti
     };
     QList<Bookmark> result;
     const QString separator = u" › "_s;
-    // The joined path grows and shrinks with the walk; joining the titles anew for each bookmark would not scale.
+    // The joined path grows and shrinks with the walk; joining the titles anew for each bookmark would not
+    // scale.
     QString joined = path.join(separator);
     bool hasOuterTitle = !path.isEmpty();
     if (!isFolder())
@@ -127,16 +129,16 @@ size_t qHash(const Bookmark &bookmark, size_t seed)
 {
     const double added = bookmark.dateAdded ? secondsSince1970(*bookmark.dateAdded) : 0.0;
     return qHashMulti(seed, bookmark.id, bookmark.title, bookmark.url, bookmark.folder,
-                      bookmark.folderID.value_or(QString()), bookmark.dateAdded.has_value(), added, bookmark.source,
-                      bookmark.searchKey, bookmark.site);
+                      bookmark.folderID.value_or(QString()), bookmark.dateAdded.has_value(), added,
+                      bookmark.source, bookmark.searchKey, bookmark.site);
 }
 
 size_t qHash(const BookmarkNode &node, size_t seed)
 {
     const double added = node.dateAdded ? secondsSince1970(*node.dateAdded) : 0.0;
-    return qHashMulti(seed, node.id, node.title, node.url.has_value(), node.urlText(), node.dateAdded.has_value(),
-                      added, node.source, node.isFolder(), node.children.value_or(QList<BookmarkNode>()),
-                      node.isBar);
+    return qHashMulti(seed, node.id, node.title, node.url.has_value(), node.urlText(),
+                      node.dateAdded.has_value(), added, node.source, node.isFolder(),
+                      node.children.value_or(QList<BookmarkNode>()), node.isBar);
 }
 
 } // namespace roamlet

@@ -35,8 +35,9 @@ struct Bookmark {
     bool operator==(const Bookmark &) const = default;
 };
 
-/// One node of a bookmark tree. A node is a bookmark exactly when it has no children list; a folder's list may be
-/// empty. Trees of any depth are safe to hold, to copy and to let go: nothing here recurses but equality and hash.
+/// One node of a bookmark tree. A node is a bookmark exactly when it has no children list; a folder's list
+/// may be empty. Trees of any depth are safe to hold, to copy and to let go: nothing here recurses but
+/// equality and hash.
 class BookmarkNode
 {
 public:
@@ -66,7 +67,8 @@ public:
     /// The folders among this node and everything below it.
     qint64 folderCount() const;
     /// The bookmarks at and below this node in tree order. `path` and `folderID` describe what encloses it.
-    QList<Bookmark> flattened(const QStringList &path = {}, const std::optional<QString> &folderID = {}) const;
+    QList<Bookmark> flattened(const QStringList &path = {},
+                              const std::optional<QString> &folderID = {}) const;
 };
 
 size_t qHash(const Bookmark &bookmark, size_t seed = 0);

@@ -28,10 +28,10 @@ struct Collation::Native {
 };
 
 Collation::Collation(const QString &locale)
-    : m_native(std::make_unique<Native>(
-          locale == u"C" || locale == u"POSIX" || locale.startsWith(u"C.") || locale.startsWith(u"en_US_POSIX")
-              ? QByteArray("root")
-              : locale.toLatin1()))
+    : m_native(std::make_unique<Native>(locale == u"C" || locale == u"POSIX" || locale.startsWith(u"C.") ||
+                                                locale.startsWith(u"en_US_POSIX")
+                                            ? QByteArray("root")
+                                            : locale.toLatin1()))
 {
 }
 
@@ -43,8 +43,8 @@ int Collation::compare(QStringView left, QStringView right) const
 {
     if (!m_native->collator)
         return left.compare(right);
-    return ucol_strcoll(m_native->collator.get(), left.utf16(), static_cast<int32_t>(left.size()), right.utf16(),
-                        static_cast<int32_t>(right.size()));
+    return ucol_strcoll(m_native->collator.get(), left.utf16(), static_cast<int32_t>(left.size()),
+                        right.utf16(), static_cast<int32_t>(right.size()));
 }
 
 } // namespace roamlet

@@ -10,8 +10,8 @@
 namespace roamlet
 {
 
-/// The order in which people expect names: case and accents are ignored first, runs of digits compare by value,
-/// then accents decide, then lower case before upper case.
+/// The order in which people expect names: case and accents are ignored first, runs of digits compare by
+/// value, then accents decide, then lower case before upper case.
 class Collation
 {
 public:

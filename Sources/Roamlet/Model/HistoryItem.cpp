@@ -8,8 +8,8 @@
 namespace roamlet
 {
 
-HistoryItem HistoryItem::ofRow(qint64 rowID, const QString &rowTitle, const QString &rowUrl, PointInTime visitedAt,
-                               qint64 visits, const Source &from)
+HistoryItem HistoryItem::ofRow(qint64 rowID, const QString &rowTitle, const QString &rowUrl,
+                               PointInTime visitedAt, qint64 visits, const Source &from)
 {
     const QString shownTitle = rowTitle.isEmpty() ? rowUrl : rowTitle;
     return {.id = from.id() % u'/' % QString::number(rowID),

@@ -28,10 +28,10 @@ struct HistoryItem {
 
     bool operator==(const HistoryItem &) const = default;
 
-    /// The row `rowID` of the history table of `from`. An empty title is replaced by the URL; the search key and the
-    /// site are derived here, once.
-    static HistoryItem ofRow(qint64 rowID, const QString &rowTitle, const QString &rowUrl, PointInTime visitedAt,
-                             qint64 visits, const Source &from);
+    /// The row `rowID` of the history table of `from`. An empty title is replaced by the URL; the search key
+    /// and the site are derived here, once.
+    static HistoryItem ofRow(qint64 rowID, const QString &rowTitle, const QString &rowUrl,
+                             PointInTime visitedAt, qint64 visits, const Source &from);
 };
 
 size_t qHash(const HistoryItem &item, size_t seed = 0);

@@ -13,14 +13,15 @@ namespace
 
 const QString likeClause = u"LIKE ? ESCAPE '\\'"_s;
 
-/// Makes the user's text match literally. The backslash goes first, or it would double the escapes of the others.
+/// Makes the user's text match literally. The backslash goes first, or it would double the escapes of the
+/// others.
 QString escaped(QString text)
 {
     return text.replace(u"\\"_s, u"\\\\"_s).replace(u"%"_s, u"\\%"_s).replace(u"_"_s, u"\\_"_s);
 }
 
-/// A URL matches a site when its host is the site or "www." and the site, followed by a path or a port. Rows that
-/// match only further on are removed after the search, by comparing their site.
+/// A URL matches a site when its host is the site or "www." and the site, followed by a path or a port. Rows
+/// that match only further on are removed after the search, by comparing their site.
 QStringList sitePatterns(const std::optional<QString> &site)
 {
     if (!site)

@@ -40,8 +40,8 @@ struct HistoryQuery {
 
     /// Whether words or a site are asked for, as opposed to the plain listing.
     bool isSearch() const { return !words.isEmpty() || site.has_value(); }
-    /// The SQL condition: empty, or a text that begins with " AND ". `text` is the reader's expression for the
-    /// searchable text of a row, `url` the one for its URL.
+    /// The SQL condition: empty, or a text that begins with " AND ". `text` is the reader's expression for
+    /// the searchable text of a row, `url` the one for its URL.
     QString conditions(const QString &text, const QString &url) const;
     /// The values to bind to the placeholders of conditions(), in their order.
     QStringList patterns() const;

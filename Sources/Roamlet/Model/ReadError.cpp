@@ -19,9 +19,10 @@ constexpr int cocoaReadNoPermission = 257;
 
 bool isDenied(std::error_code error)
 {
-    const bool isPosix = error.category() == std::generic_category() || error.category() == std::system_category();
-    return (isPosix && (error.value() == EPERM || error.value() == EACCES))
-           || (error.category().name() == cocoaDomain && error.value() == cocoaReadNoPermission);
+    const bool isPosix =
+        error.category() == std::generic_category() || error.category() == std::system_category();
+    return (isPosix && (error.value() == EPERM || error.value() == EACCES)) ||
+           (error.category().name() == cocoaDomain && error.value() == cocoaReadNoPermission);
 }
 
 } // namespace
@@ -41,7 +42,8 @@ ReadError ReadError::unreadable(const QString &path, const QString &reason)
     return {Kind::Unreadable, path, reason};
 }
 
-ReadError ReadError::wrap(std::error_code error, const QString &path, std::optional<std::error_code> underlying)
+ReadError ReadError::wrap(std::error_code error, const QString &path,
+                          std::optional<std::error_code> underlying)
 {
     if (isDenied(error) || (underlying && isDenied(*underlying)))
         return noAccess(path);

@@ -5,8 +5,9 @@
 
 #include <QString>
 
-#include <optional>
 #include <system_error>
+
+#include <optional>
 
 namespace roamlet
 {
@@ -25,7 +26,8 @@ public:
     static ReadError unreadable(const QString &path, const QString &reason);
     /// A refusal, of `error` itself or of what lies under it, becomes noAccess(path), anything else
     /// unreadable(path, the words of `error`).
-    static ReadError wrap(std::error_code error, const QString &path, std::optional<std::error_code> underlying = {});
+    static ReadError wrap(std::error_code error, const QString &path,
+                          std::optional<std::error_code> underlying = {});
     /// An error that already is a ReadError stays as it is.
     static ReadError wrap(const ReadError &error, const QString &path);
 

@@ -34,7 +34,8 @@ constexpr bool isSchemeCharacter(char16_t c)
 /// RFC 3986 "unreserved" and "sub-delims".
 constexpr bool isNameCharacter(char16_t c)
 {
-    return isAlpha(c) || isDigit(c) || (c < 0x80 && c != 0 && QStringView(u"-._~!$&'()*+,;=").contains(QChar(c)));
+    return isAlpha(c) || isDigit(c) ||
+           (c < 0x80 && c != 0 && QStringView(u"-._~!$&'()*+,;=").contains(QChar(c)));
 }
 
 /// Whether every character is one that RFC 3986 allows, percent escapes and those in `also` included.
@@ -43,7 +44,8 @@ bool isName(QStringView text, QStringView also = {})
     for (qsizetype i = 0; i < text.size(); ++i) {
         const char16_t c = text[i].unicode();
         if (c == u'%') {
-            if (i + 2 >= text.size() || !isHexDigit(text[i + 1].unicode()) || !isHexDigit(text[i + 2].unicode()))
+            if (i + 2 >= text.size() || !isHexDigit(text[i + 1].unicode()) ||
+                !isHexDigit(text[i + 2].unicode()))
                 return false;
             i += 2;
         } else if (!isNameCharacter(c) && !also.contains(QChar(c))) {
@@ -60,20 +62,21 @@ bool isAddressLiteral(QStringView text)
         return text.contains(u'.') && isName(text, u":");
     const qsizetype zone = text.indexOf(u'%');
     const QStringView address = zone < 0 ? text : text.first(zone);
-    return address.contains(u':') && (zone < 0 || isName(text.sliced(zone)))
-           && std::ranges::all_of(address,
-                                  [](QChar c) { return isHexDigit(c.unicode()) || c == u':' || c == u'.'; });
+    return address.contains(u':') && (zone < 0 || isName(text.sliced(zone))) &&
+           std::ranges::all_of(address,
+                               [](QChar c) { return isHexDigit(c.unicode()) || c == u':' || c == u'.'; });
 }
 
-/// What stands between "//" and the first "/", "?" or "#"; nothing when the text has none or its scheme is none.
+/// What stands between "//" and the first "/", "?" or "#"; nothing when the text has none or its scheme is
+/// none.
 std::optional<QStringView> authority(QStringView url)
 {
     const auto endsFirstPart = [](QChar c) { return c == u'/' || c == u'?' || c == u'#' || c == u':'; };
     const auto firstEnd = std::ranges::find_if(url, endsFirstPart);
     if (firstEnd != url.end() && *firstEnd == u':') {
         const QStringView scheme = url.first(firstEnd - url.begin());
-        if (scheme.isEmpty() || !isAlpha(scheme.front().unicode())
-            || !std::ranges::all_of(scheme, [](QChar c) { return isSchemeCharacter(c.unicode()); }))
+        if (scheme.isEmpty() || !isAlpha(scheme.front().unicode()) ||
+            !std::ranges::all_of(scheme, [](QChar c) { return isSchemeCharacter(c.unicode()); }))
             return {};
         url = url.sliced(scheme.size() + 1);
     }
@@ -105,8 +108,8 @@ std::optional<QStringView> host(QStringView authority)
             return {};
     }
     const QStringView rest = authority.sliced(length);
-    const bool isPort = rest.startsWith(u':')
-                        && std::ranges::all_of(rest.sliced(1), [](QChar c) { return isDigit(c.unicode()); });
+    const bool isPort = rest.startsWith(u':') &&
+                        std::ranges::all_of(rest.sliced(1), [](QChar c) { return isDigit(c.unicode()); });
     if (length == 0 || !(rest.isEmpty() || isPort))
         return {};
     return authority.first(length);

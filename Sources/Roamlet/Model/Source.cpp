@@ -41,7 +41,10 @@ QString Source::label() const
 
 Source Source::safari()
 {
-    return {.kind = Kind::Safari, .profile = {}, .name = displayName(Kind::Safari), .safariBookmarks = AllExcept{}};
+    return {.kind = Kind::Safari,
+            .profile = {},
+            .name = displayName(Kind::Safari),
+            .safariBookmarks = AllExcept{}};
 }
 
 QString Source::rawValue(Kind kind)

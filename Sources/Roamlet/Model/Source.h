@@ -44,9 +44,11 @@ struct Source {
 
     bool operator==(const Source &) const = default;
 
-    /// The key of this source everywhere: in maps, in stored settings, in reports, as the prefix of record ids.
+    /// The key of this source everywhere: in maps, in stored settings, in reports, as the prefix of record
+    /// ids.
     QString id() const;
-    /// The text shown for this source: "Chrome - Work", or only the browser's name when the profile has it too.
+    /// The text shown for this source: "Chrome - Work", or only the browser's name when the profile has it
+    /// too.
     QString label() const;
 
     /// Safari's default profile on a machine without named Safari profiles.

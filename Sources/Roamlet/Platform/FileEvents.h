@@ -32,8 +32,9 @@ public:
     FileEvents &operator=(const FileEvents &) = delete;
     virtual ~FileEvents() = default;
 
-    /// Reports the files in `folders` and in their direct subfolders, from now on, gathered over about 2 s. Folders
-    /// that do not exist yet are picked up when they appear. Null when the system offers no such reports.
+    /// Reports the files in `folders` and in their direct subfolders, from now on, gathered over about 2 s.
+    /// Folders that do not exist yet are picked up when they appear. Null when the system offers no such
+    /// reports.
     virtual std::unique_ptr<Stream> open(const QStringList &folders, Handler handler) = 0;
 };
 

@@ -7,15 +7,17 @@
 #include <QString>
 #include <QStringList>
 
+#include <system_error>
+
 #include <expected>
 #include <stop_token>
-#include <system_error>
 
 namespace roamlet
 {
 
-/// What is needed of the file system. All operations may be called from any thread. Nothing here ever opens one of
-/// the given sources for writing, and nothing blocks on a pipe or a device that stands where a file is expected.
+/// What is needed of the file system. All operations may be called from any thread. Nothing here ever opens
+/// one of the given sources for writing, and nothing blocks on a pipe or a device that stands where a file is
+/// expected.
 class Files
 {
 public:
@@ -26,14 +28,15 @@ public:
 
     /// Whether anything stands at `path`, also when it may not be looked into.
     virtual bool exists(const QString &path) const = 0;
-    /// The file's size and its modification time to the nanosecond, or an empty text when its attributes cannot be
-    /// read. Two equal stamps mean an unchanged file.
+    /// The file's size and its modification time to the nanosecond, or an empty text when its attributes
+    /// cannot be read. Two equal stamps mean an unchanged file.
     virtual QString fileStamp(const QString &path) const = 0;
     /// The whole file.
     virtual std::expected<QByteArray, std::error_code> read(const QString &path) const = 0;
-    /// Copies the bytes of `source` into a new file that only the user can read. A copy that fails, or that `stop`
-    /// interrupts (std::errc::operation_canceled), leaves no file.
-    virtual std::error_code copy(const QString &source, const QString &target, const std::stop_token &stop) const = 0;
+    /// Copies the bytes of `source` into a new file that only the user can read. A copy that fails, or that
+    /// `stop` interrupts (std::errc::operation_canceled), leaves no file.
+    virtual std::error_code copy(const QString &source, const QString &target,
+                                 const std::stop_token &stop) const = 0;
     /// Makes a folder that only the user can enter, and the folders above it.
     virtual std::error_code makePrivateFolder(const QString &path) const = 0;
     /// Removes a folder with everything in it, without following links. A failure is ignored.

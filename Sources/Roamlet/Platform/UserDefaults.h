@@ -12,8 +12,8 @@
 namespace roamlet
 {
 
-/// The user's stored settings, by key. A value of another type than the one asked for counts as absent. On the main
-/// thread.
+/// The user's stored settings, by key. A value of another type than the one asked for counts as absent. On
+/// the main thread.
 class UserDefaults
 {
 public:

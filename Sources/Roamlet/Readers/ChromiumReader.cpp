@@ -39,8 +39,8 @@ std::optional<PointInTime> pointInTimeOf(std::int64_t microseconds)
 std::optional<QString> displayName(const Json::Value &info, Source::Kind kind)
 {
     constexpr std::int64_t personalAccount = 1;
-    if (kind == Source::Kind::Edge && Json::isTrue(Json::member(info, "is_using_default_name"))
-        && Json::isInteger(Json::member(info, "edge_account_type"), personalAccount))
+    if (kind == Source::Kind::Edge && Json::isTrue(Json::member(info, "is_using_default_name")) &&
+        Json::isInteger(Json::member(info, "edge_account_type"), personalAccount))
         return u"Personal"_s;
     return Json::text(Json::member(info, "name"));
 }
@@ -70,11 +70,13 @@ const Json::Value::array_t &childEntries(const Json::Value &folder)
     if (children == nullptr || !children->is_array())
         return none;
     const auto &entries = children->get_ref<const Json::Value::array_t &>();
-    const bool areObjects = std::ranges::all_of(entries, [](const Json::Value &entry) { return entry.is_object(); });
+    const bool areObjects =
+        std::ranges::all_of(entries, [](const Json::Value &entry) { return entry.is_object(); });
     return areObjects ? entries : none;
 }
 
-/// The node of one entry, a folder still without its children; nothing for what is neither folder nor bookmark.
+/// The node of one entry, a folder still without its children; nothing for what is neither folder nor
+/// bookmark.
 std::optional<BookmarkNode> nodeWithoutChildren(const Json::Value &entry, const Source &source)
 {
     const std::optional<QString> type = Json::text(Json::member(entry, "type"));
@@ -131,10 +133,10 @@ std::optional<BookmarkNode> tree(const Json::Value &root, const Source &source)
 
 QString historyStatement(const HistoryQuery &query)
 {
-    return u"SELECT id, url, title, last_visit_time, visit_count FROM urls\nWHERE hidden = 0"
-           % query.conditions(u"(url || ' ' || title)"_s, u"url"_s) % u"\nORDER BY "
-           % (query.order == HistoryQuery::Order::MostVisited ? u"visit_count DESC, "_s : QString())
-           % u"last_visit_time DESC\nLIMIT " % QString::number(query.limit);
+    return u"SELECT id, url, title, last_visit_time, visit_count FROM urls\nWHERE hidden = 0" %
+           query.conditions(u"(url || ' ' || title)"_s, u"url"_s) % u"\nORDER BY " %
+           (query.order == HistoryQuery::Order::MostVisited ? u"visit_count DESC, "_s : QString()) %
+           u"last_visit_time DESC\nLIMIT " % QString::number(query.limit);
 }
 
 } // namespace
@@ -195,8 +197,8 @@ std::expected<QList<HistoryItem>, ReadError> history(const Source &source, const
             const std::optional<PointInTime> lastVisit = pointInTimeOf(row.integer(LastVisitTime));
             if (lastVisit) {
                 items.append(HistoryItem::ofRow(row.integer(Id), row.text(Title).value_or(QString()),
-                                         row.text(Url).value_or(QString()), *lastVisit, row.integer(VisitCount),
-                                         source));
+                                                row.text(Url).value_or(QString()), *lastVisit,
+                                                row.integer(VisitCount), source));
             }
         });
     if (!run)

@@ -14,12 +14,13 @@
 
 #include <expected>
 
-/// Reads Google Chrome and Microsoft Edge, which keep the same files. Holds nothing and writes nothing; any thread.
+/// Reads Google Chrome and Microsoft Edge, which keep the same files. Holds nothing and writes nothing; any
+/// thread.
 namespace roamlet::ChromiumReader
 {
 
-/// The profiles of one browser, "Default" first, the others by folder name. Empty when the browser is absent or its
-/// list of profiles cannot be read.
+/// The profiles of one browser, "Default" first, the others by folder name. Empty when the browser is absent
+/// or its list of profiles cannot be read.
 QList<Source> profiles(Source::Kind kind, const ReadContext &context);
 /// The folder of a profile.
 QString folder(const Source &source, const ReadContext &context);

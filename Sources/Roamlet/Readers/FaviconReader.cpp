@@ -25,8 +25,8 @@ struct Bitmap {
     QByteArray bytes;
 };
 
-/// Small icons are drawn 16 points wide, on fine displays with 32 pixels: the smallest bitmap that has these is
-/// best, else the widest.
+/// Small icons are drawn 16 points wide, on fine displays with 32 pixels: the smallest bitmap that has these
+/// is best, else the widest.
 bool isBetter(std::int64_t width, std::int64_t keptWidth)
 {
     constexpr std::int64_t wideEnough = 32;
@@ -94,8 +94,8 @@ std::expected<Favicons, ReadError> safari(const ReadContext &context)
     Favicons favicons;
     // Oldest icon first, so that the newest one of a site is the one that stays.
     const auto run = snapshot->query(
-        u"SELECT p.url, p.uuid FROM page_url p JOIN icon_info i ON i.uuid = p.uuid\nORDER BY i.timestamp"_s, {},
-        [&](const SQLiteSnapshot::Row &row) {
+        u"SELECT p.url, p.uuid FROM page_url p JOIN icon_info i ON i.uuid = p.uuid\nORDER BY i.timestamp"_s,
+        {}, [&](const SQLiteSnapshot::Row &row) {
             enum Column { Url, Uuid };
             const std::optional<QString> url = row.text(Url);
             const std::optional<QString> uuid = row.text(Uuid);

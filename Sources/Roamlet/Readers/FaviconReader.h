@@ -10,14 +10,15 @@
 
 #include <expected>
 
-/// Finds a small icon for as many sites as the browsers have one. Holds nothing and writes nothing; any thread.
+/// Finds a small icon for as many sites as the browsers have one. Holds nothing and writes nothing; any
+/// thread.
 namespace roamlet::FaviconReader
 {
 
 /// The icons of one Chrome or Edge profile. Empty when it has no icon store.
 std::expected<Favicons, ReadError> chromium(const Source &source, const ReadContext &context);
-/// The icons of Safari, which has one store for all its profiles. The files are not looked for. Empty when there is
-/// no icon store.
+/// The icons of Safari, which has one store for all its profiles. The files are not looked for. Empty when
+/// there is no icon store.
 std::expected<Favicons, ReadError> safari(const ReadContext &context);
 
 } // namespace roamlet::FaviconReader

@@ -10,7 +10,8 @@ using namespace Qt::StringLiterals;
 
 std::expected<Value, QString> parse(const QByteArray &bytes)
 {
-    // The library would skip the mark; a browser never writes one, and a file that has it is not the browser's.
+    // The library would skip the mark; a browser never writes one, and a file that has it is not the
+    // browser's.
     if (bytes.startsWith("\xEF\xBB\xBF"))
         return std::unexpected(u"not valid JSON: it begins with a byte-order mark"_s);
     try {

@@ -11,7 +11,8 @@
 #include <expected>
 #include <optional>
 
-/// Strict reading of JSON. Qt's own reader refuses what nests deeper than 1,024 levels, and bookmark folders may.
+/// Strict reading of JSON. Qt's own reader refuses what nests deeper than 1,024 levels, and bookmark folders
+/// may.
 namespace roamlet::Json
 {
 

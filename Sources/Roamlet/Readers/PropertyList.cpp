@@ -5,13 +5,13 @@
 
 #include "Readers/PropertyListGuard.h"
 
-#include <plist/plist.h>
-
 #include <QtEndian>
 
+#include <plist/plist.h>
+
 #include <bit>
+#include <cmath>
 #include <cstdlib>
-#include <limits>
 
 namespace roamlet
 {
@@ -23,6 +23,8 @@ namespace
 
 /// From 1970-01-01 to 2001-01-01, where the dates of property lists begin.
 constexpr double secondsUntil2001 = 978'307'200;
+/// Some 30 million years.
+constexpr double farthest = 1e15;
 
 struct FreeMemory {
     void operator()(void *memory) const { std::free(memory); } // NOLINT(cppcoreguidelines-no-malloc)
@@ -52,8 +54,8 @@ std::optional<PointInTime> PropertyListValue::date() const
 {
     if (m_node == nullptr || plist_get_node_type(m_node) != PLIST_DATE)
         return {};
-    // The library hands dates out as 32-bit seconds, which end in 2069. Written as a binary list of one, the date
-    // stands behind the 8-byte header and a marker byte as the double that it is.
+    // The library hands dates out as 32-bit seconds, which end in 2069. Written as a binary list of one, the
+    // date stands behind the 8-byte header and a marker byte as the double that it is.
     constexpr qsizetype offset = 9;
     char *bytes = nullptr;
     std::uint32_t length = 0;
@@ -61,7 +63,12 @@ std::optional<PointInTime> PropertyListValue::date() const
     const std::unique_ptr<char, FreeMemory> owner(bytes);
     if (length < offset + sizeof(double))
         return {};
-    return pointInTime(std::bit_cast<double>(qFromBigEndian<quint64>(bytes + offset)) + secondsUntil2001);
+    const auto seconds = std::bit_cast<double>(qFromBigEndian<quint64>(bytes + offset));
+    // No date, only what is left of one in a damaged file: nothing could be done with it but count seconds
+    // wrongly.
+    if (!std::isfinite(seconds) || std::abs(seconds) > farthest)
+        return {};
+    return pointInTime(seconds + secondsUntil2001);
 }
 
 std::vector<PropertyListValue> PropertyListValue::dictionaries() const

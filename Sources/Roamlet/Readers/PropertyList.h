@@ -44,8 +44,8 @@ private:
 class PropertyList
 {
 public:
-    /// The reason when the bytes are no property list, or one that no honest program writes: nested deeper than a
-    /// reader could follow, or unfolding to many times the size of the file.
+    /// The reason when the bytes are no property list, or one that no honest program writes: nested deeper
+    /// than a reader could follow, or unfolding to many times the size of the file.
     static std::expected<PropertyList, QString> parse(const QByteArray &bytes);
 
     PropertyListValue root() const { return PropertyListValue(m_root.get()); }

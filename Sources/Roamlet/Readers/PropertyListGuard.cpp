@@ -39,17 +39,17 @@ public:
         m_count = number(trailer + 8, 8);
         m_root = number(trailer + 16, 8);
         m_table = number(trailer + 24, 8);
-        const bool areWidthsValid =
-            m_offsetWidth >= 1 && m_offsetWidth <= widest && m_referenceWidth >= 1 && m_referenceWidth <= widest;
-        return areWidthsValid && m_root < m_count && m_table < trailer
-               && m_count <= (trailer - m_table) / m_offsetWidth;
+        const bool areWidthsValid = m_offsetWidth >= 1 && m_offsetWidth <= widest && m_referenceWidth >= 1 &&
+                                    m_referenceWidth <= widest;
+        return areWidthsValid && m_root < m_count && m_table < trailer &&
+               m_count <= (trailer - m_table) / m_offsetWidth;
     }
 
     std::uint64_t count() const { return m_count; }
     std::uint64_t root() const { return m_root; }
 
-    /// The objects that an array, a set or a dictionary refers to; none for everything else. False when they do not
-    /// lie within the file.
+    /// The objects that an array, a set or a dictionary refers to; none for everything else. False when they
+    /// do not lie within the file.
     bool references(std::uint64_t object, std::vector<std::uint64_t> &result) const
     {
         constexpr std::uint64_t arrayType = 0xA;
@@ -113,8 +113,8 @@ std::optional<QString> binaryRefusal(QByteArrayView bytes)
     if (!objects.readTrailer())
         return damaged;
 
-    // Programs share only values without content of their own, so a list never unfolds to more objects than its
-    // file has bytes.
+    // Programs share only values without content of their own, so a list never unfolds to more objects than
+    // its file has bytes.
     const auto most = static_cast<std::uint64_t>(bytes.size());
     enum class State : std::uint8_t { New, Open, Done };
     struct Visit {

@@ -8,8 +8,8 @@
 
 #include <optional>
 
-/// The library that parses property lists trusts them: it follows nesting with its own stack and unfolds every
-/// reference. This looks at a file first and refuses what would exhaust either.
+/// The library that parses property lists trusts them: it follows nesting with its own stack and unfolds
+/// every reference. This looks at a file first and refuses what would exhaust either.
 namespace roamlet::PropertyListGuard
 {
 

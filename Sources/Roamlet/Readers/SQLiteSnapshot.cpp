@@ -28,13 +28,14 @@ namespace
 constexpr int attempts = 3;
 const QString folderPrefix = u"Roamlet-"_s;
 
-/// The size and time of a database and of the files beside it that hold its changes. The "-shm" file says nothing
-/// about the content.
+/// The size and time of a database and of the files beside it that hold its changes. The "-shm" file says
+/// nothing about the content.
 using DatabaseStamp = std::array<QString, 3>;
 
 DatabaseStamp stamp(const Files &files, const QString &database)
 {
-    return {files.fileStamp(database), files.fileStamp(database % u"-wal"), files.fileStamp(database % u"-journal")};
+    return {files.fileStamp(database), files.fileStamp(database % u"-wal"),
+            files.fileStamp(database % u"-journal")};
 }
 
 struct Finalize {
@@ -83,9 +84,10 @@ class SQLiteSnapshot::Copy
 {
 public:
     Copy(const Files &files, const QString &temporaryFolder, const QString &source)
-        : m_files(files), m_source(source),
-          m_folder(temporaryFolder % u'/' % folderPrefix % QString::number(Processes::ownID()) % u'-'
-                   % QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper())
+        : m_files(files),
+          m_source(source),
+          m_folder(temporaryFolder % u'/' % folderPrefix % QString::number(Processes::ownID()) % u'-' %
+                   QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper())
     {
     }
     Copy(const Copy &) = delete;
@@ -147,8 +149,8 @@ public:
 
     sqlite3 *handle() const { return m_handle; }
 
-    /// Gives the next statement as many steps as any honest file of this size could need. A damaged file can lead
-    /// SQLite through the same pages again and again.
+    /// Gives the next statement as many steps as any honest file of this size could need. A damaged file can
+    /// lead SQLite through the same pages again and again.
     void allowStepsFor(qsizetype parameters)
     {
         constexpr std::int64_t always = 20'000'000;
@@ -192,7 +194,8 @@ SQLiteSnapshot::SQLiteSnapshot(SQLiteSnapshot &&) noexcept = default;
 SQLiteSnapshot &SQLiteSnapshot::operator=(SQLiteSnapshot &&) noexcept = default;
 SQLiteSnapshot::~SQLiteSnapshot() = default;
 
-std::expected<SQLiteSnapshot, ReadError> SQLiteSnapshot::copying(const QString &source, const ReadContext &context)
+std::expected<SQLiteSnapshot, ReadError> SQLiteSnapshot::copying(const QString &source,
+                                                                 const ReadContext &context)
 {
     auto copy = std::make_unique<Copy>(*context.files, context.folders.temporary, source);
     if (const std::error_code error = copy->make(context.stop))

@@ -23,8 +23,9 @@ namespace roamlet
 class Files;
 struct ReadContext;
 
-/// A private, read-only copy of a live database and its sidecar files, removed when this object goes. The database
-/// itself is never opened, so a browser's lock means nothing and no read ever waits. One task at a time.
+/// A private, read-only copy of a live database and its sidecar files, removed when this object goes. The
+/// database itself is never opened, so a browser's lock means nothing and no read ever waits. One task at a
+/// time.
 class SQLiteSnapshot
 {
 public:
@@ -46,16 +47,17 @@ public:
     };
     using RowHandler = std::function<void(const Row &)>;
 
-    /// Copies the database at `source`. A copy during which the source changed is made again, at most three times in
-    /// all; then the last one is used.
-    static std::expected<SQLiteSnapshot, ReadError> copying(const QString &source, const ReadContext &context);
+    /// Copies the database at `source`. A copy during which the source changed is made again, at most three
+    /// times in all; then the last one is used.
+    static std::expected<SQLiteSnapshot, ReadError> copying(const QString &source,
+                                                            const ReadContext &context);
 
     SQLiteSnapshot(SQLiteSnapshot &&) noexcept;
     SQLiteSnapshot &operator=(SQLiteSnapshot &&) noexcept;
     ~SQLiteSnapshot();
 
-    /// Runs one statement with text parameters and hands over every row. After an error the rows so far are to be
-    /// discarded.
+    /// Runs one statement with text parameters and hands over every row. After an error the rows so far are
+    /// to be discarded.
     std::expected<void, ReadError> query(const QString &sql, const QStringList &parameters,
                                          const RowHandler &handleRow) const;
     /// The private folder that holds the copy.

@@ -53,11 +53,11 @@ Source::SafariBookmarks bookmarkSelection(QByteArrayView extraAttributes)
 QString historyStatement(const HistoryQuery &query)
 {
     return u"SELECT i.id, i.url, v.title, max(v.visit_time), i.visit_count\n"
-           "FROM history_items i JOIN history_visits v ON v.history_item = i.id\nWHERE 1"
-           % query.conditions(u"(i.url || ' ' || ifnull(v.title, ''))"_s, u"i.url"_s)
-           % u"\nGROUP BY i.id\nORDER BY "
-           % (query.order == HistoryQuery::Order::MostVisited ? u"5 DESC, "_s : QString()) % u"4 DESC\nLIMIT "
-           % QString::number(query.limit);
+           "FROM history_items i JOIN history_visits v ON v.history_item = i.id\nWHERE 1" %
+           query.conditions(u"(i.url || ' ' || ifnull(v.title, ''))"_s, u"i.url"_s) %
+           u"\nGROUP BY i.id\nORDER BY " %
+           (query.order == HistoryQuery::Order::MostVisited ? u"5 DESC, "_s : QString()) % u"4 DESC\nLIMIT " %
+           QString::number(query.limit);
 }
 
 std::optional<QString> serverID(PropertyListValue entry)
@@ -89,7 +89,8 @@ public:
     {
     }
 
-    /// The tree at and below an entry that is shown at the top. Without recursion: the file decides how deep it goes.
+    /// The tree at and below an entry that is shown at the top. Without recursion: the file decides how deep
+    /// it goes.
     std::optional<BookmarkNode> node(PropertyListValue rootEntry) const
     {
         struct OpenFolder {
@@ -130,7 +131,8 @@ private:
         const std::optional<QString> type = entry.member("WebBookmarkType").string();
         const std::optional<QString> identity = entry.member("WebBookmarkUUID").string();
         BookmarkNode node;
-        node.id = u"safari/" % (identity ? *identity : QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper());
+        node.id = u"safari/" %
+                  (identity ? *identity : QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper());
         node.source = m_source;
         if (type == u"WebBookmarkTypeLeaf") {
             node.url = entry.member("URLString").string();
@@ -165,7 +167,8 @@ QList<BookmarkNode> favourites(PropertyListValue root, const QString &folderID, 
     return {*node};
 }
 
-QList<BookmarkNode> allBookmarks(PropertyListValue root, const QSet<QString> &excludedIDs, const Source &source)
+QList<BookmarkNode> allBookmarks(PropertyListValue root, const QSet<QString> &excludedIDs,
+                                 const Source &source)
 {
     const TreeBuilder builder(source, excludedIDs);
     QList<BookmarkNode> result;
@@ -183,7 +186,8 @@ QList<BookmarkNode> allBookmarks(PropertyListValue root, const QSet<QString> &ex
 
 QList<Source> profiles(const ReadContext &context)
 {
-    const auto snapshot = SQLiteSnapshot::copying(context.folders.safariContainer % u"/SafariTabs.db", context);
+    const auto snapshot =
+        SQLiteSnapshot::copying(context.folders.safariContainer % u"/SafariTabs.db", context);
     if (!snapshot)
         return {Source::safari()};
     QList<Source> named;
@@ -230,10 +234,9 @@ std::expected<QList<HistoryItem>, ReadError> history(const Source &source, const
     const auto run =
         snapshot->query(historyStatement(query), query.patterns(), [&](const SQLiteSnapshot::Row &row) {
             enum Column { Id, Url, Title, NewestVisit, VisitCount };
-            items.append(HistoryItem::ofRow(row.integer(Id), row.text(Title).value_or(QString()),
-                                     row.text(Url).value_or(QString()),
-                                     pointInTime(row.real(NewestVisit) + secondsUntil2001),
-                                     row.integer(VisitCount), source));
+            items.append(HistoryItem::ofRow(
+                row.integer(Id), row.text(Title).value_or(QString()), row.text(Url).value_or(QString()),
+                pointInTime(row.real(NewestVisit) + secondsUntil2001), row.integer(VisitCount), source));
         });
     if (!run)
         return std::unexpected(run.error());

@@ -17,11 +17,11 @@
 namespace roamlet::SafariReader
 {
 
-/// The default profile, then the named ones in Safari's order. Never empty: where the named profiles cannot be read,
-/// there is the default one.
+/// The default profile, then the named ones in Safari's order. Never empty: where the named profiles cannot
+/// be read, there is the default one.
 QList<Source> profiles(const ReadContext &context);
-/// The rows that match, one for each page with its newest visit, in the query's order and at most as many as it
-/// says. A named profile without history is empty; the default one must have a history.
+/// The rows that match, one for each page with its newest visit, in the query's order and at most as many as
+/// it says. A named profile without history is empty; the default one must have a history.
 std::expected<QList<HistoryItem>, ReadError> history(const Source &source, const HistoryQuery &query,
                                                      const ReadContext &context);
 /// The part of Safari's one bookmark file that belongs to `source`. The Reading List is never in it.

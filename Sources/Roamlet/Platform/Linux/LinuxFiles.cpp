@@ -63,8 +63,8 @@ struct OpenFile {
     size_t size;
 };
 
-/// Opens a regular file for reading. Access times are left alone where the system lets us; a pipe or a device in the
-/// place of the file is refused instead of waited for.
+/// Opens a regular file for reading. Access times are left alone where the system lets us; a pipe or a device
+/// in the place of the file is refused instead of waited for.
 std::expected<OpenFile, std::error_code> openForReading(const QString &path)
 {
     const QByteArray name = QFile::encodeName(path);
@@ -139,7 +139,8 @@ bool LinuxFiles::exists(const QString &path) const
 {
     struct stat attributes = {};
     // Only these two say that nothing is there; a refusal says that something may be.
-    return ::stat(QFile::encodeName(path).constData(), &attributes) == 0 || (errno != ENOENT && errno != ENOTDIR);
+    return ::stat(QFile::encodeName(path).constData(), &attributes) == 0 ||
+           (errno != ENOENT && errno != ENOTDIR);
 }
 
 QString LinuxFiles::fileStamp(const QString &path) const
@@ -147,8 +148,8 @@ QString LinuxFiles::fileStamp(const QString &path) const
     struct stat attributes = {};
     if (::stat(QFile::encodeName(path).constData(), &attributes) != 0)
         return {};
-    return QString::number(attributes.st_size) % u' ' % QString::number(attributes.st_mtim.tv_sec) % u'.'
-           % QString::number(attributes.st_mtim.tv_nsec).rightJustified(9, u'0');
+    return QString::number(attributes.st_size) % u' ' % QString::number(attributes.st_mtim.tv_sec) % u'.' %
+           QString::number(attributes.st_mtim.tv_nsec).rightJustified(9, u'0');
 }
 
 std::expected<QByteArray, std::error_code> LinuxFiles::read(const QString &path) const
@@ -173,13 +174,15 @@ std::expected<QByteArray, std::error_code> LinuxFiles::read(const QString &path)
     }
 }
 
-std::error_code LinuxFiles::copy(const QString &source, const QString &target, const std::stop_token &stop) const
+std::error_code LinuxFiles::copy(const QString &source, const QString &target,
+                                 const std::stop_token &stop) const
 {
     const auto original = openForReading(source);
     if (!original)
         return original.error();
     const QByteArray name = QFile::encodeName(target);
-    FileDescriptor duplicate(::open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, onlyTheUserReads));
+    FileDescriptor duplicate(
+        ::open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, onlyTheUserReads));
     if (!duplicate.isOpen())
         return lastError();
     std::error_code error = copyContent(original->descriptor.get(), duplicate.get(), stop);

@@ -19,12 +19,14 @@ namespace
 {
 
 /// The setting that names a browser's data root outright, or nothing.
-std::optional<QString> configuredRoot(const UserDefaults &defaults, const QString &browser, const QString &home)
+std::optional<QString> configuredRoot(const UserDefaults &defaults, const QString &browser,
+                                      const QString &home)
 {
     const std::optional<QString> value = defaults.string(u"dataRoot." % browser);
     if (!value || value->isEmpty())
         return {};
-    const QString path = *value == u"~" || value->startsWith(u"~/") ? QString(home % value->sliced(1)) : *value;
+    const QString path =
+        *value == u"~" || value->startsWith(u"~/") ? QString(home % value->sliced(1)) : *value;
     return QDir::cleanPath(path);
 }
 
@@ -72,8 +74,7 @@ QStringList LinuxFolders::dataRootCandidates(const QString &browser) const
                 home % u"/snap/chromium/common/chromium",
                 home % u"/.var/app/org.chromium.Chromium/config/chromium"};
     }
-    return {home % u"/Library/Application Support/Microsoft Edge",
-            config % u"/microsoft-edge",
+    return {home % u"/Library/Application Support/Microsoft Edge", config % u"/microsoft-edge",
             home % u"/.var/app/com.microsoft.Edge/config/microsoft-edge",
             home % u"/.var/app/com.microsoft.Edge/config/microsoft-edge-beta"};
 }
@@ -90,10 +91,10 @@ QString LinuxFolders::dataRoot(const QString &browser) const
 
 QString LinuxFolders::safariContainer() const
 {
-    // Beside the data root, as in a Mac's Library folder. A data root that was copied alone holds everything itself.
+    // Beside the data root, as in a Mac's Library folder. A data root that was copied alone holds everything
+    // itself.
     const QString root = dataRoot(u"safari"_s);
-    const QString container =
-        QDir::cleanPath(root % u"/../Containers/com.apple.Safari/Data/Library/Safari");
+    const QString container = QDir::cleanPath(root % u"/../Containers/com.apple.Safari/Data/Library/Safari");
     const bool isOverridden = configuredRoot(m_defaults, u"safari"_s, m_environment.home).has_value();
     return isOverridden && !m_files.exists(container) ? root : container;
 }

@@ -13,9 +13,9 @@ namespace roamlet
 class Files;
 class UserDefaults;
 
-/// The folders of a Linux desktop. The layout of a Mac's home folder comes first, so that a home folder out of a
-/// backup reads as it is; where it does not exist, the places in which browsers keep their data on Linux serve. The
-/// settings "dataRoot.safari", "dataRoot.chrome" and "dataRoot.edge" override both.
+/// The folders of a Linux desktop. The layout of a Mac's home folder comes first, so that a home folder out
+/// of a backup reads as it is; where it does not exist, the places in which browsers keep their data on Linux
+/// serve. The settings "dataRoot.safari", "dataRoot.chrome" and "dataRoot.edge" override both.
 class LinuxFolders final : public Folders
 {
 public:

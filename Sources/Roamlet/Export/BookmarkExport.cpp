@@ -1,0 +1,92 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "Export/BookmarkExport.h"
+
+#include "Export/Renderers.h"
+
+#include <QMimeDatabase>
+#include <QSaveFile>
+
+namespace roamlet::BookmarkExport
+{
+
+using namespace Qt::StringLiterals;
+
+QString rawValue(Format format)
+{
+    switch (format) {
+    case Format::Html:
+        return u"html"_s;
+    case Format::Markdown:
+        return u"markdown"_s;
+    case Format::Csv:
+        return u"csv"_s;
+    }
+    Q_UNREACHABLE();
+}
+
+std::optional<Format> format(QStringView rawValueText)
+{
+    for (const Format candidate : formats) {
+        if (rawValue(candidate) == rawValueText)
+            return candidate;
+    }
+    return {};
+}
+
+QString type(Format format)
+{
+    switch (format) {
+    case Format::Html:
+        return u"text/html"_s;
+    case Format::Markdown: {
+        const QMimeType type =
+            QMimeDatabase().mimeTypeForFile(u"bookmarks.md"_s, QMimeDatabase::MatchExtension);
+        return type.isValid() && !type.isDefault() ? type.name() : u"text/plain"_s;
+    }
+    case Format::Csv:
+        return u"text/csv"_s;
+    }
+    Q_UNREACHABLE();
+}
+
+QString fileNameExtension(Format format)
+{
+    return format == Format::Markdown ? u"md"_s : rawValue(format);
+}
+
+QString render(Format format, const QList<BookmarkNode> &tree, const QList<Bookmark> &flat)
+{
+    switch (format) {
+    case Format::Html:
+        return renderHtml(tree);
+    case Format::Markdown:
+        return renderMarkdown(tree);
+    case Format::Csv:
+        return renderCsv(flat);
+    }
+    Q_UNREACHABLE();
+}
+
+QString fileName(const std::optional<Source> &source)
+{
+    if (!source)
+        return u"Bookmarks"_s;
+    const QString browser = Source::displayName(source->kind);
+    const QString base = source->name == browser ? browser : QString(browser % u' ' % source->name);
+    return base % u" Bookmarks";
+}
+
+std::expected<void, QString> write(const QString &text, const QString &path)
+{
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        return std::unexpected(file.errorString());
+    file.write(text.toUtf8());
+    if (!file.commit())
+        return std::unexpected(file.errorString());
+    return {};
+}
+
+} // namespace roamlet::BookmarkExport

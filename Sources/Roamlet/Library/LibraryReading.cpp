@@ -1,0 +1,241 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+// The operations of the Library that hold no state: they run on any thread, with a window or without one.
+
+#include "Library/Library.h"
+#include "Library/Parallel.h"
+#include "Platform/Clock.h"
+#include "Platform/UserDefaults.h"
+#include "Readers/ChromiumReader.h"
+#include "Readers/FaviconReader.h"
+#include "Readers/SafariReader.h"
+
+#include <QLocale>
+
+#include <algorithm>
+#include <atomic>
+#include <utility>
+#include <vector>
+
+namespace roamlet
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+constexpr std::chrono::seconds retryDelay{1};
+
+bool hasSource(const QList<Source> &sources, const QString &id)
+{
+    return std::ranges::find(sources, id, &Source::id) != sources.end();
+}
+
+/// One source's result.
+struct Read {
+    QList<BookmarkNode> bookmarks;
+    QList<HistoryItem> history;
+    Favicons favicons;
+    QStringList problems;
+    bool isBlocked = false;
+
+    /// What the previous snapshot knows about the source.
+    static Read reused(const Source &source, const Library::Snapshot &previous);
+    /// Reads the source; where that fails for another reason than a refusal, once more a moment later.
+    static Read of(const Source &source, const Read &kept, const ReadContext &context, const Clock &clock,
+                   CoreTurns &turns);
+
+private:
+    static Read once(const Source &source, const Read &kept, const ReadContext &context);
+
+    /// Takes over one part. A refusal empties it; any other failure leaves what was known before.
+    template<typename Part>
+    void take(Part &part, const Part &keptPart, std::expected<Part, ReadError> result)
+    {
+        if (result) {
+            part = std::move(*result);
+            return;
+        }
+        problems.append(result.error().errorDescription());
+        if (result.error().kind() == ReadError::Kind::NoAccess)
+            isBlocked = true;
+        else
+            part = keptPart;
+    }
+};
+
+Read Read::reused(const Source &source, const Library::Snapshot &previous)
+{
+    const QString id = source.id();
+    Read read;
+    read.bookmarks = previous.bookmarkTrees.value(id);
+    for (const HistoryItem &item : previous.history) {
+        if (item.source.id() == id)
+            read.history.append(item);
+    }
+    read.favicons = previous.sourceFavicons.value(id);
+    if (previous.problems.contains(id))
+        read.problems = {previous.problems.value(id)};
+    read.isBlocked = source.kind == Source::Kind::Safari && previous.safariBlocked;
+    return read;
+}
+
+Read Read::of(const Source &source, const Read &kept, const ReadContext &context, const Clock &clock,
+              CoreTurns &turns)
+{
+    Read read;
+    {
+        const CoreTurns::Turn turn(turns);
+        read = once(source, kept, context);
+    }
+    if (read.problems.isEmpty() || read.isBlocked)
+        return read;
+    // A browser that is just replacing its files has done so by then.
+    clock.sleep(retryDelay, context.stop);
+    const CoreTurns::Turn turn(turns);
+    return once(source, kept, context);
+}
+
+Read Read::once(const Source &source, const Read &kept, const ReadContext &context)
+{
+    Read read;
+    std::expected<Favicons, ReadError> favicons;
+    if (source.kind == Source::Kind::Safari) {
+        read.take(read.history, kept.history, SafariReader::history(source, HistoryQuery::recent(), context));
+        read.take(read.bookmarks, kept.bookmarks, SafariReader::bookmarks(source, context));
+        // There is one store for all profiles; the default one stands for them.
+        if (!source.profile)
+            favicons = FaviconReader::safari(context);
+    } else {
+        read.take(read.bookmarks, kept.bookmarks, ChromiumReader::bookmarks(source, context));
+        read.take(read.history, kept.history,
+                  ChromiumReader::history(source, HistoryQuery::recent(), context));
+        favicons = FaviconReader::chromium(source, context);
+    }
+    // Icons are an ornament: nobody is told when they cannot be read, and nothing is tried again for them.
+    read.favicons = favicons ? std::move(*favicons) : kept.favicons;
+    return read;
+}
+
+/// The Safari profiles of the last snapshot, where a partial load need not look for them again.
+std::optional<QList<Source>> knownSafariProfiles(const Library::ReadRequest &request)
+{
+    if (!request.only)
+        return {};
+    QList<Source> known = request.previous.browserProfiles;
+    known.removeIf([](const Source &source) { return source.kind != Source::Kind::Safari; });
+    if (known.isEmpty())
+        return {};
+    for (const QString &id : *request.only) {
+        const bool isSafari = id.startsWith(u"safari");
+        if (isSafari && !hasSource(known, id))
+            return {};
+    }
+    return known;
+}
+
+Library::Snapshot assemble(const QList<Source> &profiles, const QList<Source> &enabled,
+                           std::vector<Read> reads)
+{
+    Library::Snapshot snapshot;
+    snapshot.sources = enabled;
+    snapshot.browserProfiles = profiles;
+    for (size_t i = 0; i < reads.size(); ++i) {
+        const Source &source = enabled[static_cast<qsizetype>(i)];
+        const QString id = source.id();
+        Read &read = reads[i];
+        for (const BookmarkNode &root : std::as_const(read.bookmarks))
+            snapshot.bookmarks += root.flattened();
+        snapshot.bookmarkTrees.insert(id, std::move(read.bookmarks));
+        snapshot.history += std::move(read.history);
+        for (auto favicon = read.favicons.cbegin(); favicon != read.favicons.cend(); ++favicon) {
+            if (!snapshot.favicons.contains(favicon.key()))
+                snapshot.favicons.insert(favicon.key(), favicon.value());
+        }
+        snapshot.sourceFavicons.insert(id, std::move(read.favicons));
+        if (!read.problems.isEmpty())
+            snapshot.problems.insert(id, read.problems.join(u'\n'));
+        if (source.kind == Source::Kind::Safari && read.isBlocked)
+            snapshot.safariBlocked = true;
+    }
+    return snapshot;
+}
+
+} // namespace
+
+QList<Source> Library::allProfiles(const std::optional<QList<Source>> &knownSafari,
+                                   const ReadContext &context)
+{
+    QList<Source> result;
+    if (knownSafari)
+        result = *knownSafari;
+    else if (context.folders.hasSafari)
+        result = SafariReader::profiles(context);
+    for (const Source::Kind kind : Source::chromium)
+        result += ChromiumReader::profiles(kind, context);
+    return result;
+}
+
+Library::Snapshot Library::readAll(const ReadRequest &request, const ReadContext &context, const Clock &clock)
+{
+    const QList<Source> profiles = allProfiles(knownSafariProfiles(request), context);
+    QList<Source> enabled = profiles;
+    enabled.removeIf([&request](const Source &source) { return request.disabled.contains(source.id()); });
+
+    std::vector<Read> reads(static_cast<size_t>(enabled.size()));
+    forEachInParallel(reads.size(), [&](size_t index, CoreTurns &turns) {
+        const Source &source = enabled.at(static_cast<qsizetype>(index));
+        const bool isRequested = !request.only || request.only->contains(source.id());
+        const bool isKnown = hasSource(request.previous.sources, source.id());
+        const Read kept = Read::reused(source, request.previous);
+        reads[index] = isKnown && !isRequested ? kept : Read::of(source, kept, context, clock, turns);
+    });
+    return assemble(profiles, enabled, std::move(reads));
+}
+
+HistoryResults Library::history(const HistoryQuery &query, const QList<Source> &sources,
+                                const ReadContext &context)
+{
+    // Each task writes into the slot of the place in which it finished.
+    std::vector<QList<HistoryItem>> results(static_cast<size_t>(sources.size()));
+    std::atomic<size_t> finished = 0;
+    forEachInParallel(results.size(), [&](size_t index, CoreTurns &turns) {
+        const CoreTurns::Turn turn(turns);
+        const Source &source = sources.at(static_cast<qsizetype>(index));
+        auto rows = source.kind == Source::Kind::Safari ? SafariReader::history(source, query, context)
+                                                        : ChromiumReader::history(source, query, context);
+        results[finished.fetch_add(1)] = std::move(rows).value_or(QList<HistoryItem>());
+    });
+
+    HistoryResults merged;
+    for (QList<HistoryItem> &rows : results) {
+        merged.isCapped = merged.isCapped || (query.isSearch() && rows.size() >= query.limit);
+        merged.items += std::move(rows);
+    }
+    // The SQL also matched the site's text further on in the URL.
+    if (query.site)
+        merged.items.removeIf([&query](const HistoryItem &item) { return item.site != *query.site; });
+    return merged;
+}
+
+QSet<QString> Library::storedDisabledProfiles(const UserDefaults &defaults)
+{
+    const QStringList stored = defaults.stringList(u"disabledProfiles"_s).value_or(QStringList());
+    QSet<QString> result(stored.cbegin(), stored.cend());
+    // The older form knew Chrome's profiles only, by folder name.
+    for (const QString &profile : defaults.stringList(u"disabledChromeProfiles"_s).value_or(QStringList()))
+        result.insert(u"chrome/" % profile);
+    return result;
+}
+
+ReadContext Library::readContext(const Platform &platform)
+{
+    return {.folders = BrowserFolders::of(platform.folders),
+            .files = &platform.files,
+            .locale = QLocale::system().collation().name(),
+            .stop = {}};
+}
+
+} // namespace roamlet

@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+#include <semaphore>
+#include <thread>
+#include <vector>
+
+namespace roamlet
+{
+
+/// Turns at the machine's cores: as many as there are cores can be held at a time.
+class CoreTurns
+{
+public:
+    /// Waits for a turn and gives it back when it goes.
+    class Turn
+    {
+    public:
+        explicit Turn(CoreTurns &turns) : m_turns(turns) { m_turns.m_free.acquire(); }
+        Turn(const Turn &) = delete;
+        Turn &operator=(const Turn &) = delete;
+        ~Turn() { m_turns.m_free.release(); }
+
+    private:
+        CoreTurns &m_turns;
+    };
+
+private:
+    std::counting_semaphore<> m_free{
+        std::max<std::ptrdiff_t>(1, static_cast<std::ptrdiff_t>(std::thread::hardware_concurrency()))};
+};
+
+/// Calls work(0, turns) … work(count - 1, turns), each on a thread of its own, and returns when all have
+/// ended. Work that keeps a core busy takes a turn first; work that only waits takes none, so that it keeps
+/// nobody waiting.
+template<typename Work>
+void forEachInParallel(std::size_t count, Work work)
+{
+    CoreTurns turns;
+    if (count == 1) {
+        work(std::size_t{0}, turns);
+        return;
+    }
+    std::vector<std::jthread> threads;
+    threads.reserve(count);
+    for (std::size_t i = 0; i < count; ++i)
+        threads.emplace_back([i, &work, &turns] { work(i, turns); });
+}
+
+} // namespace roamlet

@@ -1,0 +1,234 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "Platform/Linux/InotifyFileEvents.h"
+
+#include "Platform/Clock.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QMultiHash>
+#include <QObject>
+#include <QSet>
+#include <QSocketNotifier>
+
+#include <sys/inotify.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+#include <utility>
+
+namespace roamlet
+{
+
+namespace
+{
+
+/// For a folder in which something may appear on the way to one that we want.
+constexpr std::uint32_t arrivals = IN_CREATE | IN_MOVED_TO | IN_DELETE_SELF | IN_MOVE_SELF | IN_ONLYDIR;
+/// For a folder whose files count.
+constexpr std::uint32_t changes = arrivals | IN_MODIFY | IN_CLOSE_WRITE | IN_DELETE | IN_MOVED_FROM;
+
+class InotifyStream final : public FileEvents::Stream
+{
+public:
+    InotifyStream(int descriptor, const QStringList &roots, FileEvents::Handler handler, const Clock &clock)
+        : m_descriptor(descriptor),
+          m_roots(roots),
+          m_handler(std::move(handler)),
+          m_clock(clock),
+          m_notifier(descriptor, QSocketNotifier::Read)
+    {
+        QObject::connect(&m_notifier, &QSocketNotifier::activated, &m_context, [this] { readEvents(); });
+        watchRoots(Contents::Known);
+    }
+    InotifyStream(const InotifyStream &) = delete;
+    InotifyStream &operator=(const InotifyStream &) = delete;
+    ~InotifyStream() override
+    {
+        m_notifier.setEnabled(false);
+        ::close(m_descriptor);
+    }
+
+private:
+    /// Whether the files in a folder that is watched from now on were there before anybody listened.
+    enum class Contents { Known, New };
+
+    bool isRoot(const QString &folder) const { return m_roots.contains(folder); }
+    bool isRootOrDirectlyBelow(const QString &folder) const
+    {
+        return isRoot(folder) || isRoot(QFileInfo(folder).path());
+    }
+    bool isWatched(const QString &folder) const
+    {
+        return std::find(m_folders.cbegin(), m_folders.cend(), folder) != m_folders.cend();
+    }
+
+    bool watch(const QString &folder)
+    {
+        const int number = inotify_add_watch(m_descriptor, QFile::encodeName(folder).constData(),
+                                             isRootOrDirectlyBelow(folder) ? changes : arrivals);
+        if (number < 0)
+            return false;
+        if (!m_folders.contains(number, folder))
+            m_folders.insert(number, folder);
+        return true;
+    }
+
+    void watchRoots(Contents contents)
+    {
+        for (const QString &root : std::as_const(m_roots)) {
+            if (!isWatched(root))
+                watchRoot(root, contents);
+        }
+    }
+
+    void watchRoot(const QString &root, Contents contents)
+    {
+        if (watch(root)) {
+            watchContents(root, contents);
+            return;
+        }
+        // Wait where the next folder on the way to the root would appear.
+        QString next = root;
+        QString ancestor = QFileInfo(root).path();
+        while (ancestor != next && !watch(ancestor)) {
+            next = ancestor;
+            ancestor = QFileInfo(ancestor).path();
+        }
+        // It may have appeared between the two looks.
+        if (next != root && watch(next))
+            watchRoot(root, Contents::New);
+    }
+
+    void watchContents(const QString &root, Contents contents)
+    {
+        if (contents == Contents::New)
+            noteFilesIn(root);
+        const QStringList subfolders =
+            QDir(root).entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden | QDir::System);
+        for (const QString &name : subfolders)
+            watchSubfolder(root % u'/' % name, contents);
+    }
+
+    void watchSubfolder(const QString &folder, Contents contents)
+    {
+        if (watch(folder) && contents == Contents::New)
+            noteFilesIn(folder);
+    }
+
+    void noteFilesIn(const QString &folder)
+    {
+        const QStringList names = QDir(folder).entryList(QDir::Files | QDir::Hidden | QDir::System);
+        for (const QString &name : names)
+            note(folder % u'/' % name);
+    }
+
+    void note(const QString &path)
+    {
+        if (m_changed.isEmpty())
+            m_clock.after(InotifyFileEvents::latency, &m_context, [this] { report(); });
+        m_changed.insert(path);
+    }
+
+    void report()
+    {
+        QStringList paths = std::exchange(m_changed, {}).values();
+        paths.sort();
+        m_handler(paths);
+    }
+
+    void readEvents()
+    {
+        constexpr size_t bufferSize = size_t{64} << 10U;
+        alignas(inotify_event) std::array<char, bufferSize> buffer;
+        for (;;) {
+            const ssize_t length = ::read(m_descriptor, buffer.data(), buffer.size());
+            if (length <= 0)
+                return;
+            for (const char *position = buffer.data(); position < buffer.data() + length;) {
+                inotify_event event = {};
+                std::memcpy(&event, position, sizeof(event));
+                const char *name = position + sizeof(event);
+                handle(event, event.len > 0 ? QFile::decodeName(name) : QString());
+                position = name + event.len;
+            }
+        }
+    }
+
+    void handle(const inotify_event &event, const QString &name)
+    {
+        if ((event.mask & IN_Q_OVERFLOW) != 0) {
+            reportEverything();
+            return;
+        }
+        const QStringList folders = m_folders.values(event.wd);
+        if ((event.mask & IN_IGNORED) != 0) {
+            m_folders.remove(event.wd);
+            for (const QString &folder : folders) {
+                if (isRootOrDirectlyBelow(folder))
+                    watchSubfolder(folder, Contents::Known);
+            }
+            watchRoots(Contents::New);
+            return;
+        }
+        if ((event.mask & IN_MOVE_SELF) != 0) {
+            // The kernel goes on watching it under its new name. Let go of it; where one of the names that we
+            // know still leads to a folder, that one is watched again.
+            inotify_rm_watch(m_descriptor, event.wd);
+            return;
+        }
+        for (const QString &folder : folders) {
+            if (!name.isEmpty())
+                handleEntry(folder, name, event.mask);
+        }
+    }
+
+    void handleEntry(const QString &folder, const QString &name, std::uint32_t mask)
+    {
+        const QString path = folder.endsWith(u'/') ? QString(folder % name) : QString(folder % u'/' % name);
+        if ((mask & IN_ISDIR) == 0) {
+            if (isRootOrDirectlyBelow(folder))
+                note(path);
+        } else if ((mask & (IN_CREATE | IN_MOVED_TO)) != 0) {
+            if (isRoot(folder))
+                watchSubfolder(path, Contents::New);
+            watchRoots(Contents::New);
+        }
+    }
+
+    /// Events were lost: anything may have changed.
+    void reportEverything()
+    {
+        watchRoots(Contents::New);
+        for (const QString &root : std::as_const(m_roots)) {
+            if (isWatched(root))
+                watchContents(root, Contents::New);
+        }
+    }
+
+    int m_descriptor;
+    QStringList m_roots;
+    FileEvents::Handler m_handler;
+    const Clock &m_clock;
+    /// By the kernel's number. Two names can lead to one folder.
+    QMultiHash<int, QString> m_folders;
+    QSet<QString> m_changed;
+    QSocketNotifier m_notifier;
+    QObject m_context;
+};
+
+} // namespace
+
+std::unique_ptr<FileEvents::Stream> InotifyFileEvents::open(const QStringList &folders, Handler handler)
+{
+    const int descriptor = inotify_init1(IN_NONBLOCK | IN_CLOEXEC);
+    if (descriptor < 0)
+        return nullptr;
+    return std::make_unique<InotifyStream>(descriptor, folders, std::move(handler), m_clock);
+}
+
+} // namespace roamlet

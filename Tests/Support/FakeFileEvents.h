@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "Platform/FileEvents.h"
+
+#include <QStringList>
+
+#include <utility>
+
+namespace roamlet::testing
+{
+
+/// Reports what a test tells it to.
+class FakeFileEvents final : public FileEvents
+{
+public:
+    std::unique_ptr<Stream> open(const QStringList &folders, Handler handler) override
+    {
+        watchedFolders = folders;
+        if (!isAvailable)
+            return nullptr;
+        m_handler = std::move(handler);
+        return std::make_unique<Stream>();
+    }
+
+    /// Hands these paths to whoever opened the stream.
+    void report(const QStringList &paths) const
+    {
+        if (m_handler)
+            m_handler(paths);
+    }
+
+    /// Whether the system offers file events at all.
+    bool isAvailable = true;
+    /// The folders that were asked for.
+    QStringList watchedFolders;
+
+private:
+    Handler m_handler;
+};
+
+} // namespace roamlet::testing

@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "Platform/Linux/LinuxFiles.h"
+
+#include <functional>
+
+namespace roamlet::testing
+{
+
+/// The real file system, with a test's hand in it.
+class InterceptedFiles final : public LinuxFiles
+{
+public:
+    /// Asked before a file is read or copied; an error is answered in its place. Called on the reading
+    /// thread.
+    std::function<std::error_code(const QString &path)> failure;
+    /// Called after a file was copied, before anybody looks at its stamp again. Called on the reading thread.
+    std::function<void(const QString &source)> afterCopy;
+
+    std::expected<QByteArray, std::error_code> read(const QString &path) const override
+    {
+        if (const std::error_code error = failureOf(path))
+            return std::unexpected(error);
+        return LinuxFiles::read(path);
+    }
+
+    std::error_code copy(const QString &source, const QString &target,
+                         const std::stop_token &stop) const override
+    {
+        if (const std::error_code error = failureOf(source))
+            return error;
+        const std::error_code error = LinuxFiles::copy(source, target, stop);
+        if (!error && afterCopy)
+            afterCopy(source);
+        return error;
+    }
+
+private:
+    std::error_code failureOf(const QString &path) const
+    {
+        return failure ? failure(path) : std::error_code{};
+    }
+};
+
+} // namespace roamlet::testing
