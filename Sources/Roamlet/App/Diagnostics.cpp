@@ -1,2 +1,328 @@
-// x
-int uix;
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "App/Diagnostics.h"
+
+#include "App/TextLayout.h"
+#include "Export/BookmarkExport.h"
+#include "Library/BrowserWatcher.h"
+#include "Library/Library.h"
+#include "Platform/Clock.h"
+#include "Platform/Console.h"
+#include "Platform/Folders.h"
+#include "Readers/ChromiumReader.h"
+#include "Readers/SafariReader.h"
+
+#include <QDateTime>
+#include <QEventLoop>
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+
+namespace roamlet::Diagnostics
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+constexpr int success = 0;
+constexpr int failure = 1;
+
+/// Titles and labels wider than this do not push the next column of all the other rows away.
+constexpr int widestCell = 60;
+constexpr qsizetype topLength = 10;
+constexpr double defaultWatchSeconds = 60;
+
+QString localTime(PointInTime time)
+{
+    constexpr double farthestSeconds = 1e12;
+    const double seconds = secondsSince1970(time);
+    if (!std::isfinite(seconds) || std::abs(seconds) > farthestSeconds)
+        return u"unknown time"_s;
+    const auto milliseconds = static_cast<qint64>(std::floor(seconds * 1000));
+    return QDateTime::fromMSecsSinceEpoch(milliseconds).toString(u"yyyy-MM-dd HH:mm"_s);
+}
+
+class Stopwatch
+{
+public:
+    /// The seconds since the beginning with two decimals, the same in every language.
+    QString seconds() const
+    {
+        const std::chrono::duration<double> elapsed = std::chrono::steady_clock::now() - m_begin;
+        return QString::number(elapsed.count(), 'f', 2);
+    }
+
+private:
+    std::chrono::steady_clock::time_point m_begin = std::chrono::steady_clock::now();
+};
+
+/// One run of one job.
+class Job
+{
+public:
+    Job(const Platform &platform, Console &console, const std::stop_token &stop)
+        : m_platform(platform), m_console(console), m_stop(stop), m_context(Library::readContext(platform))
+    {
+        m_context.stop = stop;
+    }
+
+    int summary();
+    int exportBookmarks(const std::optional<QString> &formatName, const std::optional<QString> &sourceID);
+    int top();
+    int search(const HistoryQuery &query);
+    int watch(const std::optional<QString> &duration);
+
+private:
+    QList<Source> enabledSources() const
+    {
+        const QSet<QString> disabled = Library::storedDisabledProfiles(m_platform.defaults);
+        QList<Source> sources = Library::allProfiles({}, m_context);
+        sources.removeIf([&disabled](const Source &source) { return disabled.contains(source.id()); });
+        return sources;
+    }
+
+    /// The bookmarks of one source, or why there are none.
+    std::expected<QList<BookmarkNode>, QString> bookmarks(const QString &sourceID) const;
+    /// What stands for the source that the watcher reports.
+    QString labelOf(const QString &sourceID) const;
+
+    /// A text of the user's as it may be shown: unchanged, but never obeyed by a terminal.
+    QString text(const QString &stored) const
+    {
+        return m_console.isTerminal() ? TextLayout::shown(stored) : stored;
+    }
+    int print(const QStringList &lines) { return write(lines.join(u'\n') % u'\n'); }
+    int write(const QString &output);
+    void complain(const QString &message) { m_console.writeError(QString(message % u'\n').toUtf8()); }
+
+    const Platform &m_platform;
+    Console &m_console;
+    std::stop_token m_stop;
+    ReadContext m_context;
+    bool m_canWrite = true;
+};
+
+int Job::write(const QString &output)
+{
+    if (m_stop.stop_requested())
+        return failure;
+    const std::error_code error = m_console.writeOutput(output.toUtf8());
+    m_canWrite = !error;
+    // Whoever closed the pipe has seen enough.
+    if (!error || error == std::errc::broken_pipe)
+        return success;
+    complain(u"roamlet: cannot write: " % QString::fromStdString(error.message()));
+    return failure;
+}
+
+int Job::summary()
+{
+    const Stopwatch stopwatch;
+    const QSet<QString> disabled = Library::storedDisabledProfiles(m_platform.defaults);
+    const Library::Snapshot snapshot =
+        Library::readAll({.disabled = disabled, .only = {}, .previous = {}}, m_context, m_platform.clock);
+
+    QHash<QString, qint64> rows;
+    QHash<QString, PointInTime> latest;
+    for (const HistoryItem &item : snapshot.history) {
+        const QString id = item.source.id();
+        ++rows[id];
+        const auto known = latest.constFind(id);
+        if (known == latest.cend() || *known < item.lastVisit)
+            latest.insert(id, item.lastVisit);
+    }
+
+    QList<QStringList> cells;
+    for (const Source &source : snapshot.sources) {
+        const QString id = source.id();
+        qint64 bookmarkCount = 0;
+        qint64 folderCount = 0;
+        for (const BookmarkNode &root : snapshot.bookmarkTrees.value(id)) {
+            bookmarkCount += root.bookmarkCount();
+            folderCount += root.folderCount();
+        }
+        const QString newest = latest.contains(id) ? localTime(latest.value(id)) : u"none"_s;
+        cells.append(
+            {text(source.label()),
+             QString::number(bookmarkCount) % u" bookmarks, " % QString::number(folderCount) % u" folders",
+             QString::number(snapshot.sourceFavicons.value(id).size()) % u" site icons",
+             QString::number(rows.value(id)) % u" history URLs, latest visit " % newest});
+    }
+    const QStringList aligned = TextLayout::aligned(cells, widestCell);
+
+    QStringList lines;
+    for (qsizetype i = 0; i < aligned.size(); ++i) {
+        lines.append(aligned[i]);
+        const QString problem = snapshot.problems.value(snapshot.sources[i].id());
+        for (const QString &line : problem.split(u'\n', Qt::SkipEmptyParts))
+            lines.append(u"  ! " % text(line));
+    }
+    QStringList switchedOff;
+    for (const Source &source : snapshot.browserProfiles) {
+        if (disabled.contains(source.id()))
+            switchedOff.append(text(source.label()));
+    }
+    if (!switchedOff.isEmpty())
+        lines.append(u"Turned off in Settings: " % switchedOff.join(u", "_s));
+    if (snapshot.safariBlocked)
+        lines.append(u"Safari is blocked: grant Full Disk Access."_s);
+    if (snapshot.browserProfiles.isEmpty())
+        complain(u"No browser profiles were found in " % m_platform.folders.home());
+    lines.append(u"Read in " % stopwatch.seconds() % u's');
+    return print(lines);
+}
+
+std::expected<QList<BookmarkNode>, QString> Job::bookmarks(const QString &sourceID) const
+{
+    const QList<Source> sources = enabledSources();
+    const auto source = std::ranges::find(sources, sourceID, &Source::id);
+    if (source == sources.end()) {
+        const bool isDisabled = Library::storedDisabledProfiles(m_platform.defaults).contains(sourceID);
+        return std::unexpected(isDisabled ? QString(sourceID % u" is turned off in Settings.")
+                                          : QString(u"There is no source " % sourceID % u'.'));
+    }
+    const auto trees = source->kind == Source::Kind::Safari ? SafariReader::bookmarks(*source, m_context)
+                                                            : ChromiumReader::bookmarks(*source, m_context);
+    if (!trees)
+        return std::unexpected(trees.error().errorDescription());
+    return *trees;
+}
+
+int Job::exportBookmarks(const std::optional<QString> &formatName, const std::optional<QString> &sourceID)
+{
+    const std::optional<BookmarkExport::Format> format =
+        formatName ? BookmarkExport::format(*formatName) : std::nullopt;
+    if (!format) {
+        print({u"Formats: html, markdown, csv"_s});
+        return failure;
+    }
+    const auto tree = bookmarks(sourceID.value_or(Source::safari().id()));
+    if (!tree)
+        complain(u"roamlet: " % tree.error());
+    const QList<BookmarkNode> roots = tree.value_or(QList<BookmarkNode>());
+    QList<Bookmark> flat;
+    for (const BookmarkNode &root : roots)
+        flat += root.flattened();
+    return write(BookmarkExport::render(*format, roots, flat));
+}
+
+int Job::top()
+{
+    const Stopwatch stopwatch;
+    const auto query = HistoryQuery::matching({}, {}, HistoryQuery::Order::MostVisited);
+    QList<HistoryItem> rows = Library::history(query, enabledSources(), m_context).items;
+    std::ranges::stable_sort(rows, std::ranges::greater(), &HistoryItem::visitCount);
+
+    QList<QStringList> cells;
+    for (const HistoryItem &row : rows.first(std::min(rows.size(), topLength)))
+        cells.append(
+            {QString::number(row.visitCount), text(row.source.name), text(row.site), text(row.title)});
+    QStringList lines;
+    if (m_console.isTerminal()) {
+        int countWidth = 0;
+        for (const QStringList &row : std::as_const(cells))
+            countWidth = std::max(countWidth, TextLayout::width(row.first()));
+        for (QStringList &row : cells)
+            row.first() = TextLayout::rightAligned(row.first(), countWidth);
+        lines = TextLayout::aligned(cells, widestCell);
+    } else {
+        for (const QStringList &row : std::as_const(cells))
+            lines.append(row.join(u"  "_s));
+    }
+    lines.append(QString::number(rows.size()) % u" URLs in " % stopwatch.seconds() % u's');
+    return print(lines);
+}
+
+int Job::search(const HistoryQuery &query)
+{
+    const Stopwatch stopwatch;
+    HistoryResults results = Library::history(query, enabledSources(), m_context);
+    std::ranges::stable_sort(results.items, std::ranges::greater(), &HistoryItem::lastVisit);
+
+    QList<QStringList> cells;
+    cells.reserve(results.items.size());
+    for (const HistoryItem &item : std::as_const(results.items)) {
+        const QString title = text(item.title);
+        cells.append({localTime(item.lastVisit), text(item.source.label()),
+                      m_console.isTerminal() ? TextLayout::elided(title, widestCell) : title,
+                      text(item.url)});
+    }
+    QStringList lines = TextLayout::aligned(cells, widestCell);
+    lines.append(QString::number(results.items.size()) %
+                 (results.items.size() == 1 ? u" match, " : u" matches, ") %
+                 (results.isCapped ? u"capped" : u"complete") % u", in " % stopwatch.seconds() % u's');
+    return print(lines);
+}
+
+QString Job::labelOf(const QString &sourceID) const
+{
+    const QList<Source> sources = Library::allProfiles({}, m_context);
+    const auto source = std::ranges::find(sources, sourceID, &Source::id);
+    return source == sources.end() ? sourceID : source->label();
+}
+
+int Job::watch(const std::optional<QString> &duration)
+{
+    static const QRegularExpression decimal(u"^[+-]?([0-9]+\\.?[0-9]*|\\.[0-9]+)([eE][+-]?[0-9]+)?$"_s);
+    double seconds = defaultWatchSeconds;
+    if (duration && decimal.match(*duration).hasMatch())
+        seconds = duration->toDouble();
+    // The longest time that a timer can be set for is some 24 days.
+    constexpr double longest = 2'000'000;
+    const auto milliseconds = static_cast<qint64>(std::clamp(seconds, 0.0, longest) * 1000);
+
+    int status = success;
+    QEventLoop loop;
+    const BrowserWatcher watcher(m_platform, [&](const QSet<QString> &sourceIDs) {
+        QStringList labels;
+        for (const QString &id : sourceIDs)
+            labels.append(text(labelOf(id)));
+        labels.sort();
+        const PointInTime now = std::chrono::time_point_cast<PointInTime::duration>(m_platform.clock.now());
+        status = print({localTime(now) % u"  " % labels.join(u", "_s)});
+        if (!m_canWrite)
+            loop.quit();
+    });
+    m_platform.clock.after(std::chrono::milliseconds(milliseconds), &loop, [&loop] { loop.quit(); });
+    const std::stop_callback end(m_stop,
+                                 [&loop] { QMetaObject::invokeMethod(&loop, "quit", Qt::QueuedConnection); });
+    complain(u"Watching the browsers' folders for "_s %
+             QString::number(static_cast<double>(milliseconds) / 1000) % u" s.");
+    loop.exec();
+    return status;
+}
+
+} // namespace
+
+int run(const Command &command, const Platform &platform, Console &console, const std::stop_token &stop)
+{
+    Job job(platform, console, stop);
+    switch (command.job) {
+    case Command::Job::Summary:
+        return job.summary();
+    case Command::Job::Export:
+        return job.exportBookmarks(command.argument, command.sourceID);
+    case Command::Job::Top:
+        return job.top();
+    case Command::Job::Search:
+        return job.search(
+            HistoryQuery::matching(command.argument.value_or(QString()), {}, HistoryQuery::Order::Latest));
+    case Command::Job::Site:
+        return job.search(HistoryQuery::matching({}, command.argument, HistoryQuery::Order::Latest));
+    case Command::Job::Watch:
+        return job.watch(command.argument);
+    case Command::Job::Help:
+    case Command::Job::Version:
+    case Command::Job::Windows:
+    case Command::Job::Unknown:
+        break;
+    }
+    Q_UNREACHABLE();
+}
+
+} // namespace roamlet::Diagnostics

@@ -1,5 +1,9 @@
-// x
-int main()
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "App/RoamletApp.h"
+
+int main(int argc, char **argv)
 {
-    return 0;
+    return roamlet::RoamletApp::run(argc, argv);
 }

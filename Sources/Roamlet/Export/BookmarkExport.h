@@ -20,7 +20,7 @@ namespace roamlet::BookmarkExport
 enum class Format { Html, Markdown, Csv };
 
 /// Every format, in the order in which they are offered.
-constexpr std::array formats{Format::Html, Format::Markdown, Format::Csv};
+inline constexpr std::array formats{Format::Html, Format::Markdown, Format::Csv};
 
 /// "html", "markdown" or "csv".
 QString rawValue(Format format);

@@ -3,6 +3,8 @@
 
 #include "Platform/Linux/LinuxFiles.h"
 
+#include "Platform/Linux/LinuxIO.h"
+
 #include <QFile>
 
 #include <fcntl.h>
@@ -26,11 +28,6 @@ constexpr mode_t onlyTheUserReads = 0600;
 /// Small enough that a request to stop is met at once, large enough that the calls do not count.
 constexpr size_t bytesPerCopy = size_t{8} << 20U;
 constexpr size_t bytesPerRead = size_t{256} << 10U;
-
-std::error_code lastError()
-{
-    return {errno, std::generic_category()};
-}
 
 class FileDescriptor
 {
@@ -85,20 +82,6 @@ std::expected<OpenFile, std::error_code> openForReading(const QString &path)
     return OpenFile{std::move(file), static_cast<size_t>(attributes.st_size)};
 }
 
-std::error_code writeAll(int target, const char *bytes, size_t count)
-{
-    while (count > 0) {
-        const ssize_t written = ::write(target, bytes, count);
-        if (written < 0 && errno == EINTR)
-            continue;
-        if (written < 0)
-            return lastError();
-        bytes += written;
-        count -= static_cast<size_t>(written);
-    }
-    return {};
-}
-
 /// For file systems between which the kernel does not copy by itself.
 std::error_code copyThroughMemory(int source, int target, const std::stop_token &stop)
 {
@@ -111,7 +94,7 @@ std::error_code copyThroughMemory(int source, int target, const std::stop_token 
             return lastError();
         if (count == 0)
             return {};
-        if (const std::error_code error = writeAll(target, buffer.data(), static_cast<size_t>(count)))
+        if (const std::error_code error = writeAll(target, QByteArrayView(buffer.data(), count)))
             return error;
     }
     return std::make_error_code(std::errc::operation_canceled);

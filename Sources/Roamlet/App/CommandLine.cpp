@@ -1,0 +1,70 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "App/CommandLine.h"
+
+namespace roamlet
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+/// The word right after the first place of a switch.
+std::optional<QString> wordAfter(const QStringList &arguments, const QString &option)
+{
+    const qsizetype place = arguments.indexOf(option);
+    if (place < 0 || place + 1 >= arguments.size())
+        return {};
+    return arguments[place + 1];
+}
+
+} // namespace
+
+Command Command::of(const QStringList &arguments)
+{
+    if (arguments.contains(u"--summary"))
+        return {.job = Job::Summary, .argument = {}, .sourceID = {}};
+    if (arguments.contains(u"--export"))
+        return {.job = Job::Export,
+                .argument = wordAfter(arguments, u"--export"_s),
+                .sourceID = wordAfter(arguments, u"--source"_s)};
+    if (arguments.contains(u"--top"))
+        return {.job = Job::Top, .argument = {}, .sourceID = {}};
+    if (const qsizetype place = arguments.indexOf(u"--search"); place >= 0)
+        return {.job = Job::Search, .argument = arguments.sliced(place + 1).join(u' '), .sourceID = {}};
+    if (arguments.contains(u"--site"))
+        return {.job = Job::Site, .argument = wordAfter(arguments, u"--site"_s), .sourceID = {}};
+    if (arguments.contains(u"--watch"))
+        return {.job = Job::Watch, .argument = wordAfter(arguments, u"--watch"_s), .sourceID = {}};
+    if (arguments.contains(u"--help") || arguments.contains(u"-h"))
+        return {.job = Job::Help, .argument = {}, .sourceID = {}};
+    if (arguments.contains(u"--version") || arguments.contains(u"-v"))
+        return {.job = Job::Version, .argument = {}, .sourceID = {}};
+    if (!arguments.isEmpty())
+        return {.job = Job::Unknown, .argument = arguments.first(), .sourceID = {}};
+    return {};
+}
+
+QString Command::help()
+{
+    return u"Usage: roamlet [SWITCH]\n"
+           "\n"
+           "Roamlet gathers the history and the bookmarks of Safari, Chrome and Edge, every profile of\n"
+           "each, and never writes to the browsers' files.\n"
+           "\n"
+           "  --summary            what every profile holds\n"
+           "  --search WORD...     pages whose title or address holds all the words, newest first\n"
+           "  --site SITE          pages of one site, such as example.org, newest first\n"
+           "  --top                the most visited pages\n"
+           "  --export FORMAT      the bookmarks of one profile as html, markdown or csv\n"
+           "    --source ID        the profile, such as \"chrome/Profile 1\" (Safari's when left out)\n"
+           "  --watch [SECONDS]    tell which profiles change, for 60 seconds when left out\n"
+           "  -h, --help           this text\n"
+           "  -v, --version        the version\n"
+           "\n"
+           "Profiles that are switched off in the settings are not read.\n"_s;
+}
+
+} // namespace roamlet

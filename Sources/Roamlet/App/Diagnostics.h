@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "App/CommandLine.h"
+#include "Platform/Platform.h"
+
+#include <stop_token>
+
+namespace roamlet
+{
+
+class Console;
+
+/// The jobs that run the engine without a window, print and end.
+namespace Diagnostics
+{
+
+/// Runs the job of `command`, which is one of the six, and returns the process's status. Blocks until it has
+/// finished, until nobody reads the output any more or until `stop` is requested. Watching needs a
+/// QCoreApplication.
+int run(const Command &command, const Platform &platform, Console &console, const std::stop_token &stop);
+
+} // namespace Diagnostics
+
+} // namespace roamlet

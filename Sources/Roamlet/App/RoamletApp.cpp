@@ -1,0 +1,90 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "App/RoamletApp.h"
+
+#include "App/CommandLine.h"
+#include "App/Diagnostics.h"
+#include "Platform/Linux/LinuxConsole.h"
+#include "Platform/Linux/LinuxPlatform.h"
+#include "Platform/Linux/StopSignals.h"
+
+#include <QCoreApplication>
+#include <QFile>
+
+#include <clocale>
+#include <langinfo.h>
+#include <optional>
+#include <string_view>
+
+namespace roamlet::RoamletApp
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+constexpr int success = 0;
+constexpr int misuse = 2;
+
+QStringList argumentsOf(int argc, char **argv)
+{
+    QStringList result;
+    for (int i = 1; i < argc; ++i)
+        result.append(QFile::decodeName(argv[i]));
+    return result;
+}
+
+/// Services often run without a locale. Texts are UTF-8 here in any case; only the encoding is changed.
+void useUnicode()
+{
+    setlocale(LC_ALL, "");
+    if (std::string_view(nl_langinfo(CODESET)) != "UTF-8") {
+        qputenv("LC_ALL", "C.UTF-8");
+        setlocale(LC_ALL, "");
+    }
+}
+
+int runDiagnostics(const Command &command, int argc, char **argv)
+{
+    StopSignals signals;
+    LinuxConsole console;
+    LinuxPlatform platform;
+    // Only watching needs an event loop; everything else starts faster without one.
+    std::optional<QCoreApplication> application;
+    if (command.job == Command::Job::Watch)
+        application.emplace(argc, argv);
+    const int status = Diagnostics::run(command, platform.services(), console, signals.token());
+    signals.endProcessIfAsked();
+    return status;
+}
+
+} // namespace
+
+int run(int argc, char **argv)
+{
+    useUnicode();
+    const Command command = Command::of(argumentsOf(argc, argv));
+    LinuxConsole console;
+    switch (command.job) {
+    case Command::Job::Help:
+        console.writeOutput(Command::help().toUtf8());
+        return success;
+    case Command::Job::Version:
+        console.writeOutput("Roamlet " ROAMLET_VERSION "\n");
+        return success;
+    case Command::Job::Windows:
+        console.writeError("roamlet: this version has no window yet. roamlet --help lists what it can do.\n");
+        return misuse;
+    case Command::Job::Unknown:
+        console.writeError(QString(u"roamlet: unknown switch "_s % command.argument.value_or(QString()) %
+                                   u". roamlet --help lists what there is.\n")
+                               .toUtf8());
+        return misuse;
+    default:
+        return runDiagnostics(command, argc, argv);
+    }
+}
+
+} // namespace roamlet::RoamletApp

@@ -1,0 +1,18 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QByteArrayView>
+
+#include <system_error>
+
+namespace roamlet
+{
+
+/// The last failed call's error.
+std::error_code lastError();
+/// Writes all the bytes to a file descriptor, however many calls that takes.
+std::error_code writeAll(int descriptor, QByteArrayView bytes);
+
+} // namespace roamlet

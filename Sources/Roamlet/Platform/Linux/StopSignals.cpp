@@ -1,0 +1,76 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "Platform/Linux/StopSignals.h"
+
+#include <signal.h>
+#include <sys/eventfd.h>
+#include <sys/signalfd.h>
+#include <unistd.h>
+
+#include <array>
+#include <cstdint>
+#include <poll.h>
+
+namespace roamlet
+{
+
+namespace
+{
+
+sigset_t stopSignals()
+{
+    sigset_t signals;
+    sigemptyset(&signals);
+    for (const int number : {SIGINT, SIGTERM, SIGHUP})
+        sigaddset(&signals, number);
+    return signals;
+}
+
+} // namespace
+
+StopSignals::StopSignals()
+{
+    // Every thread that starts later inherits the mask, so only the listener ever sees these signals.
+    const sigset_t signals = stopSignals();
+    pthread_sigmask(SIG_BLOCK, &signals, nullptr);
+    m_signals = signalfd(-1, &signals, SFD_CLOEXEC);
+    m_wake = eventfd(0, EFD_CLOEXEC);
+    m_listener = std::jthread([this] { listen(); });
+}
+
+StopSignals::~StopSignals()
+{
+    eventfd_write(m_wake, 1);
+    m_listener.join();
+    close(m_wake);
+    close(m_signals);
+    const sigset_t signals = stopSignals();
+    pthread_sigmask(SIG_UNBLOCK, &signals, nullptr);
+}
+
+void StopSignals::listen()
+{
+    std::array<pollfd, 2> sources{pollfd{m_signals, POLLIN, 0}, pollfd{m_wake, POLLIN, 0}};
+    while (poll(sources.data(), sources.size(), -1) < 0) {
+    }
+    signalfd_siginfo signal = {};
+    if ((sources[0].revents & POLLIN) == 0 || read(m_signals, &signal, sizeof(signal)) != sizeof(signal))
+        return;
+    m_received = static_cast<int>(signal.ssi_signo);
+    m_stop.request_stop();
+}
+
+void StopSignals::endProcessIfAsked()
+{
+    const int number = m_received;
+    if (number == 0)
+        return;
+    signal(number, SIG_DFL);
+    raise(number);
+    // It is still blocked; letting it through ends the process.
+    const sigset_t signals = stopSignals();
+    pthread_sigmask(SIG_UNBLOCK, &signals, nullptr);
+}
+
+} // namespace roamlet
