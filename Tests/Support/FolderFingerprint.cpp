@@ -13,7 +13,7 @@
 #include <filesystem>
 #include <ostream>
 
-namespace roamlet
+namespace roamlet::testing
 {
 
 namespace
@@ -101,4 +101,4 @@ std::ostream &operator<<(std::ostream &stream, const FolderFingerprint &fingerpr
     return stream << "fingerprint of " << fingerprint.entries().size() << " files and folders";
 }
 
-} // namespace roamlet
+} // namespace roamlet::testing

@@ -11,7 +11,7 @@
 #include <map>
 #include <string>
 
-namespace roamlet
+namespace roamlet::testing
 {
 
 /// Everything about the files below a folder that a program which only reads must leave as it was.
@@ -56,4 +56,4 @@ private:
 /// Lets a failed expectation say what was fingerprinted instead of dumping bytes.
 std::ostream &operator<<(std::ostream &stream, const FolderFingerprint &fingerprint);
 
-} // namespace roamlet
+} // namespace roamlet::testing
