@@ -64,6 +64,14 @@ public:
         return rows;
     }
 
+    /// These rows and then those.
+    Rows operator+(const QList<Row> &more) const
+    {
+        return generated(m_count + more.size(), [first = *this, more](qsizetype index) {
+            return index < first.m_count ? first.at(index) : more.at(index - first.m_count);
+        });
+    }
+
     qsizetype count() const { return m_count; }
     Row at(qsizetype index) const { return m_make(index); }
 
