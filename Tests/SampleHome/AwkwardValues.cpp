@@ -314,7 +314,8 @@ QVariantList awkwardSafariEntries()
 
 QJsonObject awkwardProfiles()
 {
-    return {{u"Profile 10"_s, QJsonObject{{u"name"_s, u"Ten"_s}}},
+    return {{u"Profile 2"_s, QJsonObject{{u"name"_s, u"Two"_s}}},
+            {u"Profile 10"_s, QJsonObject{{u"name"_s, u"Ten"_s}}},
             {u"Profile 20"_s, QJsonObject{{u"name"_s, u"Never shown by Edge"_s},
                                           {u"is_using_default_name"_s, true},
                                           {u"edge_account_type"_s, 1}}},

@@ -26,12 +26,15 @@ namespace
 
 constexpr double spanInSeconds = 2 * 365 * 86'400.0;
 
-/// When row number `row` of so many was visited last, in Unix seconds: later rows are newer, and newer ones
-/// closer.
-double visitTime(const Options &options, qsizetype row)
+/// When a row was visited last, in Unix seconds: later rows are newer and closer together, the last one is
+/// the newest.
+double visitTime(const Options &options, quint64 seed, qsizetype row)
 {
     const double age = 1 - double(row + 1) / double(options.rowsPerProfile);
-    return double(options.newestVisit.toSecsSinceEpoch()) - spanInSeconds * std::pow(age, 1.5);
+    // Otherwise all profiles would share their times.
+    const qint64 jitter = age > 0 ? Random(seed - quint64(row)).below(3'600'000'000) : 0;
+    return double(options.newestVisit.toSecsSinceEpoch()) - spanInSeconds * std::pow(age, 1.5) -
+           double(jitter) * 1e-6;
 }
 
 /// Most pages are seen once, a few every day.
@@ -139,6 +142,8 @@ void HomeWriter::writeChromium(const Chromium &browser)
     if (m_options.isAwkward) {
         const QJsonObject more = awkwardProfiles();
         for (auto profile = more.begin(); profile != more.end(); ++profile) {
+            if (infoCache.contains(profile.key()))
+                continue;
             infoCache.insert(profile.key(), profile.value());
             if (profile.key() != u"Profile 404")
                 makeFolder(browser.root % u'/' % profile.key());
@@ -171,7 +176,7 @@ void HomeWriter::writeChromiumHistory(const QString &folder, quint64 seed, Journ
     const QList<HistoryRow> awkward = m_options.isAwkward ? awkwardHistory(newest()) : QList<HistoryRow>();
     const auto row = [&](qsizetype number) {
         const Page visited = page(seed, number);
-        const double time = visitTime(m_options, number);
+        const double time = visitTime(m_options, seed, number);
         const auto microseconds = chromiumTime(0) + std::llround(time * 1e6);
         return HistoryRow{.url = visited.url,
                           .title = visited.title,
@@ -264,7 +269,7 @@ void HomeWriter::writeSafariProfileHistory(const QString &path, quint64 seed)
         const bool isOlder = index >= count;
         const qsizetype number = isOlder ? (index - count) * 2 : index;
         const QString title = page(seed, number).title;
-        const double time = safariTime(visitTime(m_options, number)) + (isOlder ? -86'400.5 : 0);
+        const double time = safariTime(visitTime(m_options, seed, number)) + (isOlder ? -86'400.5 : 0);
         return SafariVisit{
             .itemID = number + 1, .time = time, .title = isOlder ? title % u" (loading)" : title};
     };
