@@ -5,6 +5,7 @@
 
 #include "Platform/Files.h"
 #include "Platform/Processes.h"
+#include "Readers/LiteralLike.h"
 #include "Readers/ReadContext.h"
 
 #include <QFile>
@@ -134,6 +135,7 @@ public:
     /// The message when it fails.
     std::expected<void, QString> open(const QString &path)
     {
+        prepareLibrary();
         // Read-write, so that SQLite can replay the copied logs into the copy.
         const int result =
             sqlite3_open_v2(QFile::encodeName(path).constData(), &m_handle, SQLITE_OPEN_READWRITE, nullptr);
@@ -143,6 +145,7 @@ public:
         sqlite3_db_config(m_handle, SQLITE_DBCONFIG_ENABLE_VIEW, 0, nullptr);
         sqlite3_db_config(m_handle, SQLITE_DBCONFIG_ENABLE_TRIGGER, 0, nullptr);
         sqlite3_db_config(m_handle, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
+        LiteralLike::install(m_handle);
         sqlite3_progress_handler(m_handle, stepsPerCheck, &Connection::shallEnd, this);
         return {};
     }
@@ -161,6 +164,13 @@ public:
 
 private:
     static constexpr int stepsPerCheck = 10'000;
+
+    /// Once in the process. SQLite's count of its memory costs a lock for each allocation, of which a search
+    /// makes several for each row.
+    static void prepareLibrary()
+    {
+        [[maybe_unused]] static const int result = sqlite3_config(SQLITE_CONFIG_MEMSTATUS, 0);
+    }
 
     static int shallEnd(void *connection)
     {

@@ -1,0 +1,18 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+struct sqlite3;
+
+/// SQLite's LIKE, faster for the only patterns that searches here use: an escaped text between two "%". The
+/// built-in one compares character by character from every place in the text; on a million rows that is most
+/// of a search.
+namespace roamlet::LiteralLike
+{
+
+/// Lets statements of this connection use it for "LIKE ? ESCAPE ?". It answers exactly as the built-in one
+/// does.
+void install(sqlite3 *connection);
+
+} // namespace roamlet::LiteralLike
