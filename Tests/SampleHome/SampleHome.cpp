@@ -154,7 +154,7 @@ void HomeWriter::writeChromium(const Chromium &browser)
 
 void HomeWriter::writeChromiumProfile(const QString &folder, quint64 seed, int number)
 {
-    // A killed browser leaves a journal. Its files may have been in write-ahead mode, too, when an extension
+    // One profile with each kind of leftover: a reader has to cope with both.
     // asked for it.
     const Journal journal = !m_options.leavesLogs ? Journal::Clean
                             : number % 2 == 0     ? Journal::HotJournal
