@@ -155,7 +155,6 @@ void HomeWriter::writeChromium(const Chromium &browser)
 void HomeWriter::writeChromiumProfile(const QString &folder, quint64 seed, int number)
 {
     // One profile with each kind of leftover: a reader has to cope with both.
-    // asked for it.
     const Journal journal = !m_options.leavesLogs ? Journal::Clean
                             : number % 2 == 0     ? Journal::HotJournal
                                                   : Journal::UnmergedWal;
