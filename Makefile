@@ -1,0 +1,29 @@
+# SPDX-License-Identifier: MIT
+# Each command installs what it needs (Debian 12, as root or with sudo), builds and does its work.
+
+.PHONY: run test check lint format sanitizers bench clean
+
+run: ## Build Roamlet and start it
+	@Scripts/run.sh
+
+test: ## Build and run every test
+	@Scripts/test.sh dev
+
+check: lint sanitizers test ## Everything a change has to pass
+
+lint: ## Check the formatting and the code
+	@Scripts/lint.sh
+
+format: ## Format the code
+	@Scripts/install-dependencies.sh lint
+	@git ls-files '*.cpp' '*.h' | xargs clang-format-19 -i
+
+sanitizers: ## Run every test under the address, undefined-behaviour and thread sanitizers
+	@Scripts/test.sh asan
+	@Scripts/test.sh tsan
+
+bench: ## Measure Roamlet against the plain alternatives
+	@Scripts/bench.sh
+
+clean: ## Remove everything that was built
+	@rm -rf build

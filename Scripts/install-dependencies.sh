@@ -1,0 +1,48 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+# Installs what is missing for each of the purposes named: build, test, lint, bench.
+set -euo pipefail
+
+build=(g++ cmake ninja-build pkg-config qt6-base-dev libsqlite3-dev libicu-dev libplist-dev nlohmann-json3-dev)
+test=(libgtest-dev libgmock-dev sqlite3)
+# Without the browser the test that needs it says that it was skipped.
+optional_test=(chromium)
+lint=(git clang-format-19 clang-tidy-19)
+bench=(libbenchmark-dev hyperfine sqlite3 time)
+
+is_installed() { [ "$(dpkg-query -W -f '${db:Status-Status}' "$1" 2>/dev/null)" = installed ]; }
+
+as_root() {
+  if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi
+}
+
+install_missing() {
+  local missing=()
+  for package in "$@"; do
+    is_installed "$package" || missing+=("$package")
+  done
+  [ ${#missing[@]} -gt 0 ] || return 0
+  if ! command -v apt-get >/dev/null; then
+    echo "Install these packages of your system first: ${missing[*]}" >&2
+    return 1
+  fi
+  echo "Installing ${missing[*]}"
+  as_root env DEBIAN_FRONTEND=noninteractive apt-get update -q >/dev/null
+  as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends "${missing[@]}" >/dev/null
+}
+
+for purpose in "$@"; do
+  case "$purpose" in
+    build | test | lint | bench)
+      declare -n packages="$purpose"
+      install_missing "${packages[@]}"
+      ;;
+    *)
+      echo "unknown purpose: $purpose" >&2
+      exit 2
+      ;;
+  esac
+  if [ "$purpose" = test ]; then
+    install_missing "${optional_test[@]}" || echo "Could not install ${optional_test[*]}; going on without."
+  fi
+done

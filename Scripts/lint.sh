@@ -1,0 +1,22 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+# Fails when a file is not formatted or clang-tidy has something to say. With file names: only about these.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+Scripts/install-dependencies.sh build test bench lint
+if [ $# -gt 0 ]; then
+  files=("$@")
+else
+  mapfile -t files < <(git ls-files '*.cpp' '*.h')
+fi
+clang-format-19 --dry-run --Werror "${files[@]}"
+echo "The formatting is right."
+
+cmake --preset dev -DROAMLET_BENCHMARKS=ON >/dev/null
+cmake --build --preset dev --target roamlet_core_autogen >/dev/null
+mapfile -t sources < <(printf '%s\n' "${files[@]}" | grep '\.cpp$')
+# Warnings that only the other compiler knows are none of clang-tidy's business.
+printf '%s\0' "${sources[@]}" | xargs -0 -P "$(nproc)" -n 1 \
+  clang-tidy-19 -p build/dev --quiet --extra-arg=-Wno-unknown-warning-option 2>/dev/null
+echo "clang-tidy has nothing to say."

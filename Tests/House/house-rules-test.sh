@@ -1,0 +1,92 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+# Breaks each house rule in a small house of its own and expects the check to say so.
+set -euo pipefail
+check=$(cd "$(dirname "$0")/../.." && pwd)/Scripts/check-house-rules.sh
+house=$(mktemp -d)
+trap 'rm -rf "$house"' EXIT
+failures=0
+
+new_house() {
+  rm -rf "${house:?}"/*
+  mkdir -p "$house"/Sources/Roamlet/{Model,Platform/Linux,Readers,Library,Lists,Export,Opening,App} \
+    "$house"/{Tests,Benchmarks,Scripts,cmake}
+}
+
+put() {
+  printf '// SPDX-FileCopyrightText: 2026 The Roamlet authors\n// SPDX-License-Identifier: MIT\n%b\n' "$2" >"$house/$1"
+}
+
+expect() {
+  local expected=$1 name=$2 actual=kept
+  "$check" "$house" >/dev/null 2>&1 || actual=broken
+  if [ "$actual" != "$expected" ]; then
+    echo "FAILED: $name: expected $expected, got $actual"
+    failures=$((failures + 1))
+  fi
+}
+
+new_house
+expect kept "an empty house"
+
+# folder, what it includes, kept or broken
+while read -r folder included expected; do
+  new_house
+  put "Sources/Roamlet/$folder/File.cpp" "#include \"$included/Other.h\""
+  expect "$expected" "$folder includes $included"
+done <<'CASES'
+Model Model kept
+Model Platform broken
+Model Readers broken
+Platform Model broken
+Platform Platform kept
+Readers Model kept
+Readers Platform kept
+Readers Library broken
+Readers Platform/Linux broken
+Library Readers kept
+Library Export broken
+Library App broken
+Lists Model kept
+Lists Library broken
+Export Model kept
+Export Platform broken
+Opening Platform kept
+Opening Library broken
+App Library kept
+App Lists kept
+App Export kept
+App Platform/Linux kept
+CASES
+
+new_house
+put Sources/Roamlet/Library/File.cpp '#include <QWidget>'
+expect broken "a widget in the core"
+new_house
+put Sources/Roamlet/Library/File.cpp '#include <QtWidgets/QWidget>'
+expect broken "a widget in the core, by its long name"
+new_house
+put Sources/Roamlet/App/File.cpp '#include <QWidget>'
+expect kept "a widget in the App"
+new_house
+put Sources/Roamlet/Readers/File.cpp 'auto text = tr("Hello");'
+expect broken "a worded text in the core"
+new_house
+mkdir -p "$house/Sources/Roamlet/Attic"
+put Sources/Roamlet/Attic/File.cpp ''
+expect broken "a folder that nobody knows"
+new_house
+put Tests/FileTest.cpp 'QTest::qWait(100);'
+expect broken "a test that waits for a time"
+new_house
+printf 'int x;\n' >"$house/Sources/Roamlet/Model/File.cpp"
+expect broken "a file without a licence"
+new_house
+put Sources/Roamlet/Model/File.h 'int x();'
+expect broken "a header without a guard"
+new_house
+put Sources/Roamlet/Model/File.h '#pragma once\nusing namespace std;'
+expect broken "a header that opens a namespace"
+
+[ "$failures" -eq 0 ] && echo "Every broken rule was noticed."
+exit "$failures"
