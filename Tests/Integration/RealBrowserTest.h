@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "HeadlessBrowser.h"
+#include "Model/Source.h"
+#include "Support/TestHome.h"
+
+#include <QDir>
+#include <QString>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+namespace roamlet::testing
+{
+
+/// A home folder in which a real Chromium keeps its profiles where it does by itself.
+class RealBrowserTest : public ::testing::Test
+{
+protected:
+    void SetUp() override;
+
+    QString userData() const { return home.path(QStringLiteral(".config/chromium")); }
+    HeadlessBrowser::Options options(const QString &profile) const;
+    /// The source of one profile, found as the program finds it.
+    Source source(const QString &profile) const;
+    /// Runs `read` and expects that neither a file of the browser nor a private copy remains changed by it.
+    /// The browser must stand still meanwhile.
+    static void expectNothingTouched(const TestHome &home, const QString &userData,
+                                     const std::function<void()> &read);
+    void expectNothingTouched(const std::function<void()> &read) const
+    {
+        expectNothingTouched(home, userData(), read);
+    }
+    /// Writes a file below the user data folder before the browser has ever run.
+    void place(const QString &relativePath, const QByteArray &bytes) const;
+
+    TestHome home;
+    QTemporaryDir browserTemporary;
+};
+
+} // namespace roamlet::testing
