@@ -8,14 +8,12 @@
 #include "Platform/Linux/LinuxConsole.h"
 #include "Platform/Linux/LinuxPlatform.h"
 #include "Platform/Linux/StopSignals.h"
+#include "Platform/Linux/UnicodeLocale.h"
 
 #include <QCoreApplication>
 #include <QFile>
 
-#include <clocale>
-#include <langinfo.h>
 #include <optional>
-#include <string_view>
 
 namespace roamlet::RoamletApp
 {
@@ -26,6 +24,7 @@ namespace
 {
 
 constexpr int success = 0;
+constexpr int failure = 1;
 constexpr int misuse = 2;
 
 QStringList argumentsOf(int argc, char **argv)
@@ -36,14 +35,10 @@ QStringList argumentsOf(int argc, char **argv)
     return result;
 }
 
-/// Services often run without a locale. Texts are UTF-8 here in any case; only the encoding is changed.
-void useUnicode()
+int print(Console &console, const QByteArray &text)
 {
-    setlocale(LC_ALL, "");
-    if (std::string_view(nl_langinfo(CODESET)) != "UTF-8") {
-        qputenv("LC_ALL", "C.UTF-8");
-        setlocale(LC_ALL, "");
-    }
+    const std::error_code error = console.writeOutput(text);
+    return error && error != std::errc::broken_pipe ? failure : success;
 }
 
 int runDiagnostics(const Command &command, int argc, char **argv)
@@ -64,16 +59,14 @@ int runDiagnostics(const Command &command, int argc, char **argv)
 
 int run(int argc, char **argv)
 {
-    useUnicode();
+    useUnicodeLocale();
     const Command command = Command::of(argumentsOf(argc, argv));
     LinuxConsole console;
     switch (command.job) {
     case Command::Job::Help:
-        console.writeOutput(Command::help().toUtf8());
-        return success;
+        return print(console, Command::help().toUtf8());
     case Command::Job::Version:
-        console.writeOutput("Roamlet " ROAMLET_VERSION "\n");
-        return success;
+        return print(console, "Roamlet " ROAMLET_VERSION "\n");
     case Command::Job::Windows:
         console.writeError("roamlet: this version has no window yet. roamlet --help lists what it can do.\n");
         return misuse;

@@ -18,7 +18,7 @@ struct HistoryItem {
     /// Never empty when the URL is not.
     QString title;
     QString url;
-    PointInTime lastVisit{};
+    PointInTime lastVisit;
     qint64 visitCount = 0;
     Source source;
     /// Lower-cased title, line feed, URL.

@@ -21,7 +21,8 @@ public:
 
     /// Writes all the bytes or tells why not; std::errc::broken_pipe when nobody reads them any more.
     virtual std::error_code writeOutput(QByteArrayView bytes) = 0;
-    virtual std::error_code writeError(QByteArrayView bytes) = 0;
+    /// Writes as much as it can: there is nobody left to tell when that fails.
+    virtual void writeError(QByteArrayView bytes) = 0;
     /// Whether a person reads the output on a terminal, as opposed to a file or another program.
     virtual bool isTerminal() const = 0;
     /// How many columns the terminal has.

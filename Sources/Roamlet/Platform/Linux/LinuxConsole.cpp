@@ -22,9 +22,9 @@ std::error_code LinuxConsole::writeOutput(QByteArrayView bytes)
     return writeAll(STDOUT_FILENO, bytes);
 }
 
-std::error_code LinuxConsole::writeError(QByteArrayView bytes)
+void LinuxConsole::writeError(QByteArrayView bytes)
 {
-    return writeAll(STDERR_FILENO, bytes);
+    [[maybe_unused]] const std::error_code ignored = writeAll(STDERR_FILENO, bytes);
 }
 
 bool LinuxConsole::isTerminal() const

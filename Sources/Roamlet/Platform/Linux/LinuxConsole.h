@@ -15,7 +15,7 @@ public:
     LinuxConsole();
 
     std::error_code writeOutput(QByteArrayView bytes) override;
-    std::error_code writeError(QByteArrayView bytes) override;
+    void writeError(QByteArrayView bytes) override;
     bool isTerminal() const override;
     int columns() const override;
 };

@@ -27,6 +27,8 @@ constexpr mode_t onlyTheUserEnters = 0700;
 constexpr mode_t onlyTheUserReads = 0600;
 /// Small enough that a request to stop is met at once, large enough that the calls do not count.
 constexpr size_t bytesPerCopy = size_t{8} << 20U;
+/// Far beyond every file that is read whole; a damaged or sparse one can claim any size.
+constexpr size_t largestInMemory = size_t{1} << 30U;
 constexpr size_t bytesPerRead = size_t{256} << 10U;
 
 class FileDescriptor
@@ -140,6 +142,8 @@ std::expected<QByteArray, std::error_code> LinuxFiles::read(const QString &path)
     const auto file = openForReading(path);
     if (!file)
         return std::unexpected(file.error());
+    if (file->size > largestInMemory)
+        return std::unexpected(std::make_error_code(std::errc::file_too_large));
     // The size is only a hint: the file can grow or shrink while it is read.
     QByteArray content;
     content.reserve(static_cast<qsizetype>(file->size) + 1);
