@@ -3,6 +3,7 @@
 
 #include "App/Diagnostics.h"
 
+#include "App/Printing.h"
 #include "App/TextLayout.h"
 #include "Export/BookmarkExport.h"
 #include "Library/BrowserWatcher.h"
@@ -111,13 +112,9 @@ int Job::write(const QString &output)
 {
     if (m_stop.stop_requested())
         return failure;
-    const std::error_code error = m_console.writeOutput(output.toUtf8());
-    m_canWrite = !error;
-    // Whoever closed the pipe has seen enough.
-    if (!error || error == std::errc::broken_pipe)
-        return success;
-    complain(u"roamlet: cannot write: " % QString::fromStdString(error.message()));
-    return failure;
+    const Printed printed = roamlet::print(m_console, output);
+    m_canWrite = printed == Printed::Written;
+    return printed == Printed::Failed ? failure : success;
 }
 
 int Job::summary()

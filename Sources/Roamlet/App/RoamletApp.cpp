@@ -5,6 +5,7 @@
 
 #include "App/CommandLine.h"
 #include "App/Diagnostics.h"
+#include "App/Printing.h"
 #include "Platform/Linux/LinuxConsole.h"
 #include "Platform/Linux/LinuxPlatform.h"
 #include "Platform/Linux/StopSignals.h"
@@ -35,10 +36,9 @@ QStringList argumentsOf(int argc, char **argv)
     return result;
 }
 
-int print(Console &console, const QByteArray &text)
+int printed(Console &console, const QString &text)
 {
-    const std::error_code error = console.writeOutput(text);
-    return error && error != std::errc::broken_pipe ? failure : success;
+    return print(console, text) == Printed::Failed ? failure : success;
 }
 
 int runDiagnostics(const Command &command, int argc, char **argv)
@@ -64,9 +64,9 @@ int run(int argc, char **argv)
     LinuxConsole console;
     switch (command.job) {
     case Command::Job::Help:
-        return print(console, Command::help().toUtf8());
+        return printed(console, Command::help());
     case Command::Job::Version:
-        return print(console, "Roamlet " ROAMLET_VERSION "\n");
+        return printed(console, u"Roamlet " ROAMLET_VERSION "\n"_s);
     case Command::Job::Windows:
         console.writeError("roamlet: this version has no window yet. roamlet --help lists what it can do.\n");
         return misuse;

@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "App/Printing.h"
+
+#include "Platform/Console.h"
+
+namespace roamlet
+{
+
+Printed print(Console &console, const QString &text)
+{
+    const std::error_code error = console.writeOutput(text.toUtf8());
+    if (!error)
+        return Printed::Written;
+    if (error == std::errc::broken_pipe)
+        return Printed::Unread;
+    console.writeError(
+        QString(u"roamlet: cannot write: " % QString::fromStdString(error.message()) % u'\n').toUtf8());
+    return Printed::Failed;
+}
+
+} // namespace roamlet

@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QString>
+
+namespace roamlet
+{
+
+class Console;
+
+/// What became of a text.
+enum class Printed {
+    Written,
+    Unread, ///< whoever read the output has closed it, and has seen enough
+    Failed, ///< the error stream says why
+};
+
+/// Writes a text to the output as UTF-8.
+Printed print(Console &console, const QString &text);
+
+} // namespace roamlet
