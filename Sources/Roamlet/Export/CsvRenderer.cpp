@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
+#include "Export/ExportDate.h"
 #include "Export/Renderers.h"
-#include "Model/PointInTime.h"
 
 #include <QDateTime>
 #include <QTextBoundaryFinder>
@@ -52,7 +52,7 @@ QString isoDate(const std::optional<PointInTime> &date)
 {
     if (!date)
         return {};
-    const auto seconds = static_cast<qint64>(std::floor(secondsSince1970(*date)));
+    const auto seconds = wholeSeconds(std::floor(secondsSince1970(*date)));
     const QDateTime utc = QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC);
     const auto digits = [](int number, int width) { return u"%1"_s.arg(number, width, 10, QChar(u'0')); };
     return digits(utc.date().year(), 4) % u'-' % digits(utc.date().month(), 2) % u'-' %

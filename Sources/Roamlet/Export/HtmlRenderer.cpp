@@ -1,10 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
+#include "Export/ExportDate.h"
 #include "Export/Renderers.h"
-#include "Model/PointInTime.h"
 
-#include <limits>
 #include <vector>
 
 namespace roamlet::BookmarkExport
@@ -49,11 +48,7 @@ QString dateAttribute(const std::optional<PointInTime> &date)
 {
     if (!date)
         return {};
-    const double seconds = secondsSince1970(*date);
-    // Readers hand on nothing like it.
-    Q_ASSERT(seconds > static_cast<double>(std::numeric_limits<qint64>::min()) &&
-             seconds < static_cast<double>(std::numeric_limits<qint64>::max()));
-    return u" ADD_DATE=\"" % QString::number(static_cast<qint64>(seconds)) % u'"';
+    return u" ADD_DATE=\"" % QString::number(wholeSeconds(secondsSince1970(*date))) % u'"';
 }
 
 QString indent(size_t depth)

@@ -24,6 +24,8 @@ struct Collation::Native {
             return;
         }
         ucol_setAttribute(collator.get(), UCOL_NUMERIC_COLLATION, UCOL_ON, &status);
+        // Some languages have it the other way round.
+        ucol_setAttribute(collator.get(), UCOL_CASE_FIRST, UCOL_LOWER_FIRST, &status);
     }
 };
 

@@ -100,7 +100,7 @@ private:
             ancestor = QFileInfo(ancestor).path();
         }
         // It may have appeared between the two looks.
-        if (next != root && watch(next))
+        if (watch(next))
             watchRoot(root, Contents::New);
     }
 
@@ -169,8 +169,9 @@ private:
         if ((event.mask & IN_IGNORED) != 0) {
             m_folders.remove(event.wd);
             for (const QString &folder : folders) {
-                if (isRootOrDirectlyBelow(folder))
-                    watchSubfolder(folder, Contents::Known);
+                // Another one may have taken its place already.
+                if (!isRoot(folder) && isRootOrDirectlyBelow(folder))
+                    watchSubfolder(folder, Contents::New);
             }
             watchRoots(Contents::New);
             return;
@@ -190,10 +191,13 @@ private:
     void handleEntry(const QString &folder, const QString &name, std::uint32_t mask)
     {
         const QString path = folder.endsWith(u'/') ? QString(folder % name) : QString(folder % u'/' % name);
-        if ((mask & IN_ISDIR) == 0) {
+        const bool hasArrived = (mask & (IN_CREATE | IN_MOVED_TO)) != 0;
+        // A link to a folder arrives as if it were a file.
+        const bool isFolder = (mask & IN_ISDIR) != 0 || (hasArrived && QFileInfo(path).isDir());
+        if (!isFolder) {
             if (isRootOrDirectlyBelow(folder))
                 note(path);
-        } else if ((mask & (IN_CREATE | IN_MOVED_TO)) != 0) {
+        } else if (hasArrived) {
             if (isRoot(folder))
                 watchSubfolder(path, Contents::New);
             watchRoots(Contents::New);

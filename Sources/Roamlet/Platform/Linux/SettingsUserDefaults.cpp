@@ -9,7 +9,7 @@ namespace roamlet
 using namespace Qt::StringLiterals;
 
 SettingsUserDefaults::SettingsUserDefaults()
-    : m_settings(QSettings::IniFormat, QSettings::UserScope, u"Roamlet"_s, u"Roamlet"_s)
+    : m_settings(QSettings::NativeFormat, QSettings::UserScope, u"Roamlet"_s, u"Roamlet"_s)
 {
     // Only the user's own file: another program's or the system's settings are not ours.
     m_settings.setFallbacksEnabled(false);

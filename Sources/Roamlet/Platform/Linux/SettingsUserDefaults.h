@@ -14,7 +14,8 @@ namespace roamlet
 class SettingsUserDefaults final : public UserDefaults
 {
 public:
-    /// The user's own file, "Roamlet/Roamlet.conf" in the configuration folder.
+    /// The user's own file, "Roamlet/Roamlet.conf" in the configuration folder: the native format here is
+    /// INI.
     SettingsUserDefaults();
     /// The file at `path`.
     explicit SettingsUserDefaults(const QString &path);
