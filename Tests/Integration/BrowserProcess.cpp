@@ -9,13 +9,13 @@
 #include <QFile>
 
 #include <fcntl.h>
-#include <signal.h>
 #include <sys/mount.h>
 #include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
+#include <csignal>
 #include <sched.h>
 #include <string>
 
@@ -128,7 +128,7 @@ bool BrowserProcess::freeze()
 {
     return waitUntil([this] {
         signalAll(SIGSTOP);
-        return std::ranges::all_of(members(), [](const Member &member) { return member.state == 'T'; });
+        return std::ranges::all_of(members(), [](const Member &member) { return member.isStopped; });
     });
 }
 
@@ -165,12 +165,14 @@ QList<BrowserProcess::Member> BrowserProcess::members() const
         QFile file(u"/proc/" % name % u"/stat");
         if (!isProcess || !file.open(QIODevice::ReadOnly))
             continue;
-        // After the name, which may hold anything: state, parent, group, session.
+        // After the name, which may hold anything: state, parent, group, session. Nothing is left to read of
+        // a process that has just ended.
         const QByteArray line = file.readAll();
         const QList<QByteArray> fields = line.mid(line.lastIndexOf(')') + 2).split(' ');
-        const char state = fields.value(0, "Z").at(0);
-        if (fields.value(3).toInt() == m_session && state != 'Z' && state != 'X')
-            found.append({.id = id, .state = state});
+        const QByteArray state = fields.first();
+        const bool isRunning = !state.isEmpty() && state != "Z" && state != "X";
+        if (isRunning && fields.value(3).toInt() == m_session)
+            found.append({.id = id, .isStopped = state == "T"});
     }
     return found;
 }

@@ -52,7 +52,7 @@ public:
 private:
     struct Member {
         pid_t id = 0;
-        char state = 0;
+        bool isStopped = false;
     };
 
     /// The browser's processes that still run.

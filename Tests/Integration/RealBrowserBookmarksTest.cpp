@@ -65,7 +65,8 @@ void append(const QJsonObject &node, const QStringList &folders, QList<Kept> *li
     }
     // The node above the root folders has no title and no place in a path.
     const bool isTop = !node.contains(u"parentId"_s);
-    for (const QJsonValue &child : node.value(u"children"_s).toArray())
+    const QJsonArray children = node.value(u"children"_s).toArray();
+    for (const auto &child : children)
         append(child.toObject(), isTop ? folders : folders + QStringList{title}, list);
 }
 
