@@ -1,0 +1,167 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "App/CommandLine.h"
+
+#include <gmock/gmock.h>
+#include <ostream>
+
+namespace roamlet
+{
+
+using namespace Qt::StringLiterals;
+
+/// What a failed expectation prints.
+static void PrintTo(const Command &command, std::ostream *stream)
+{
+    *stream << "job " << static_cast<int>(command.job) << " of \""
+            << command.argument.value_or(u"(nothing)"_s).toStdString() << "\" for \""
+            << command.sourceID.value_or(u"(nothing)"_s).toStdString() << '"';
+}
+
+namespace testing
+{
+
+namespace
+{
+
+using Job = Command::Job;
+using ::testing::HasSubstr;
+
+Command command(Job job, const std::optional<QString> &argument = {},
+                const std::optional<QString> &sourceID = {})
+{
+    return {.job = job, .argument = argument, .sourceID = sourceID};
+}
+
+} // namespace
+
+TEST(CommandLineTest, nothing_asks_for_the_windows)
+{
+    EXPECT_EQ(Command::of({}), command(Job::Windows));
+}
+
+TEST(CommandLineTest, each_switch_alone_is_its_job)
+{
+    EXPECT_EQ(Command::of({u"--summary"_s}), command(Job::Summary));
+    EXPECT_EQ(Command::of({u"--export"_s}), command(Job::Export));
+    EXPECT_EQ(Command::of({u"--top"_s}), command(Job::Top));
+    EXPECT_EQ(Command::of({u"--search"_s}), command(Job::Search, u""_s));
+    EXPECT_EQ(Command::of({u"--site"_s}), command(Job::Site));
+    EXPECT_EQ(Command::of({u"--watch"_s}), command(Job::Watch));
+    EXPECT_EQ(Command::of({u"--help"_s}), command(Job::Help));
+    EXPECT_EQ(Command::of({u"-h"_s}), command(Job::Help));
+    EXPECT_EQ(Command::of({u"--version"_s}), command(Job::Version));
+    EXPECT_EQ(Command::of({u"-v"_s}), command(Job::Version));
+}
+
+TEST(CommandLineTest, the_switch_tested_first_decides_wherever_it_stands)
+{
+    const QStringList inOrder{u"--summary"_s, u"--export"_s, u"--top"_s,
+                              u"--search"_s,  u"--site"_s,   u"--watch"_s};
+    const QList<Job> jobs{Job::Summary, Job::Export, Job::Top, Job::Search, Job::Site, Job::Watch};
+    for (qsizetype first = 0; first < inOrder.size(); ++first) {
+        for (qsizetype second = first + 1; second < inOrder.size(); ++second) {
+            SCOPED_TRACE(QString(inOrder[first] % u" and " % inOrder[second]).toStdString());
+            EXPECT_EQ(Command::of({inOrder[first], inOrder[second]}).job, jobs[first]);
+            EXPECT_EQ(Command::of({inOrder[second], inOrder[first]}).job, jobs[first]);
+            EXPECT_EQ(Command::of({u"--help"_s, inOrder[second], u"--version"_s, inOrder[first]}).job,
+                      jobs[first]);
+        }
+    }
+}
+
+TEST(CommandLineTest, summary_counts_anywhere_even_among_search_words)
+{
+    EXPECT_EQ(Command::of({u"--search"_s, u"news"_s, u"--summary"_s}), command(Job::Summary));
+    EXPECT_EQ(Command::of({u"--site"_s, u"--summary"_s}), command(Job::Summary));
+    EXPECT_EQ(Command::of({u"--export"_s, u"html"_s, u"--source"_s, u"--summary"_s}), command(Job::Summary));
+}
+
+TEST(CommandLineTest, export_takes_the_next_word_as_its_format)
+{
+    EXPECT_EQ(Command::of({u"--export"_s, u"csv"_s}), command(Job::Export, u"csv"_s));
+    EXPECT_EQ(Command::of({u"--export"_s, u"--top"_s}), command(Job::Export, u"--top"_s));
+    EXPECT_EQ(Command::of({u"--export"_s, u"--source"_s, u"edge/Default"_s}),
+              command(Job::Export, u"--source"_s, u"edge/Default"_s));
+    EXPECT_EQ(Command::of({u"--export"_s, u""_s}), command(Job::Export, u""_s));
+}
+
+TEST(CommandLineTest, the_source_may_stand_before_or_after_the_format)
+{
+    const Command expected = command(Job::Export, u"html"_s, u"chrome/Profile 1"_s);
+    EXPECT_EQ(Command::of({u"--export"_s, u"html"_s, u"--source"_s, u"chrome/Profile 1"_s}), expected);
+    EXPECT_EQ(Command::of({u"--source"_s, u"chrome/Profile 1"_s, u"--export"_s, u"html"_s}), expected);
+}
+
+TEST(CommandLineTest, a_source_switch_without_a_word_names_no_source)
+{
+    EXPECT_EQ(Command::of({u"--export"_s, u"html"_s, u"--source"_s}), command(Job::Export, u"html"_s));
+}
+
+TEST(CommandLineTest, a_switch_counts_at_its_first_place)
+{
+    EXPECT_EQ(Command::of({u"--export"_s, u"html"_s, u"--export"_s, u"csv"_s}),
+              command(Job::Export, u"html"_s));
+    EXPECT_EQ(Command::of({u"--export"_s, u"html"_s, u"--source"_s, u"a"_s, u"--source"_s, u"b"_s}),
+              command(Job::Export, u"html"_s, u"a"_s));
+    EXPECT_EQ(Command::of({u"--site"_s, u"a.org"_s, u"--site"_s, u"b.org"_s}),
+              command(Job::Site, u"a.org"_s));
+    EXPECT_EQ(Command::of({u"--watch"_s, u"1"_s, u"--watch"_s, u"2"_s}), command(Job::Watch, u"1"_s));
+    EXPECT_EQ(Command::of({u"--search"_s, u"a"_s, u"--search"_s, u"b"_s}),
+              command(Job::Search, u"a --search b"_s));
+}
+
+TEST(CommandLineTest, search_joins_everything_after_it_with_single_blanks)
+{
+    EXPECT_EQ(Command::of({u"--search"_s, u"Blue"_s, u"Bike"_s}), command(Job::Search, u"Blue Bike"_s));
+    EXPECT_EQ(Command::of({u"ignored"_s, u"--search"_s, u" two  blanks "_s, u""_s, u"end"_s}),
+              command(Job::Search, u" two  blanks   end"_s));
+}
+
+TEST(CommandLineTest, words_of_a_search_may_look_like_switches_tested_later)
+{
+    EXPECT_EQ(Command::of({u"--search"_s, u"--site"_s, u"--watch"_s, u"--help"_s, u"-v"_s, u"--source"_s}),
+              command(Job::Search, u"--site --watch --help -v --source"_s));
+}
+
+TEST(CommandLineTest, site_takes_the_next_word_as_typed)
+{
+    EXPECT_EQ(Command::of({u"--site"_s, u"WWW.Example.org"_s}), command(Job::Site, u"WWW.Example.org"_s));
+    EXPECT_EQ(Command::of({u"--site"_s, u"--watch"_s}), command(Job::Site, u"--watch"_s));
+    EXPECT_EQ(Command::of({u"--site"_s, u""_s}), command(Job::Site, u""_s));
+}
+
+TEST(CommandLineTest, watch_takes_the_next_word_whatever_it_is)
+{
+    EXPECT_EQ(Command::of({u"--watch"_s, u"2.5"_s}), command(Job::Watch, u"2.5"_s));
+    EXPECT_EQ(Command::of({u"--watch"_s, u"soon"_s}), command(Job::Watch, u"soon"_s));
+}
+
+TEST(CommandLineTest, switches_are_whole_words_in_lower_case)
+{
+    EXPECT_EQ(Command::of({u"--Summary"_s}), command(Job::Unknown, u"--Summary"_s));
+    EXPECT_EQ(Command::of({u"--top=5"_s}), command(Job::Unknown, u"--top=5"_s));
+    EXPECT_EQ(Command::of({u"-summary"_s}), command(Job::Unknown, u"-summary"_s));
+    EXPECT_EQ(Command::of({u"--sum"_s}), command(Job::Unknown, u"--sum"_s));
+}
+
+TEST(CommandLineTest, the_first_word_is_named_when_there_is_no_job)
+{
+    EXPECT_EQ(Command::of({u"--frobnicate"_s, u"--other"_s}), command(Job::Unknown, u"--frobnicate"_s));
+    EXPECT_EQ(Command::of({u"--source"_s, u"safari"_s}), command(Job::Unknown, u"--source"_s));
+    EXPECT_EQ(Command::of({u""_s}), command(Job::Unknown, u""_s));
+}
+
+TEST(CommandLineTest, help_names_every_switch)
+{
+    const std::string help = Command::help().toStdString();
+    for (const char *option : {"--summary", "--export", "--source", "--top", "--search", "--site", "--watch",
+                               "--help", "--version", "html", "markdown", "csv"})
+        EXPECT_THAT(help, HasSubstr(option));
+    EXPECT_TRUE(help.ends_with('\n'));
+}
+
+} // namespace testing
+
+} // namespace roamlet
