@@ -169,7 +169,7 @@ QList<BrowserProcess::Member> BrowserProcess::members() const
         // a process that has just ended.
         const QByteArray line = file.readAll();
         const QList<QByteArray> fields = line.mid(line.lastIndexOf(')') + 2).split(' ');
-        const QByteArray state = fields.first();
+        const QByteArray &state = fields.first();
         const bool isRunning = !state.isEmpty() && state != "Z" && state != "X";
         if (isRunning && fields.value(3).toInt() == m_session)
             found.append({.id = id, .isStopped = state == "T"});
