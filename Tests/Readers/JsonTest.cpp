@@ -1,0 +1,136 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "Readers/Json.h"
+
+#include "Readers/ReaderTest.h"
+
+namespace roamlet::testing
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+Json::Value valueOf(const QByteArray &bytes)
+{
+    const auto json = Json::parse(bytes);
+    EXPECT_TRUE(json.has_value()) << bytes.constData();
+    return json.value_or(Json::Value());
+}
+
+/// Whether `bytes` is refused, with a reason.
+bool isRefused(const QByteArray &bytes)
+{
+    const auto json = Json::parse(bytes);
+    return !json && !json.error().isEmpty();
+}
+
+} // namespace
+
+TEST(Json, onlyOneCompleteTextIsAccepted)
+{
+    EXPECT_TRUE(Json::parse(" \t\r\n{\"a\": [1, 2.5, null, true, \"x\"]} \n").has_value());
+    for (const char *text :
+         {"", " ", "{", "{\"a\":", "[1, 2", "{} {}", "[1,]", "{\"a\":1,}", "{a: 1}", "'a'", "01", "nul",
+          "// comment\n{}", "/* comment */ {}", "\"unfinished", "\"\\x\"", "NaN"}) {
+        EXPECT_TRUE(isRefused(text)) << text;
+    }
+}
+
+TEST(Json, aByteOrderMarkIsRefused)
+{
+    EXPECT_TRUE(isRefused("\xEF\xBB\xBF{}"));
+}
+
+TEST(Json, aNulIsRefusedWhereverItStands)
+{
+    EXPECT_TRUE(isRefused(QByteArray("\0", 1)));
+    EXPECT_TRUE(isRefused(QByteArray("\0{}", 3)));
+    EXPECT_TRUE(isRefused(QByteArray("{\0}", 3)));
+    EXPECT_TRUE(isRefused(QByteArray("\"a\0b\"", 5)));
+    EXPECT_TRUE(isRefused(QByteArray("{}\0", 3)));
+    EXPECT_TRUE(isRefused(QByteArray("{}\0{\"a\": 1}", 11)));
+}
+
+TEST(Json, brokenEncodingsAreRefused)
+{
+    EXPECT_TRUE(isRefused("\"\xC3\""));
+    EXPECT_TRUE(isRefused("\"\xC3(\""));
+    EXPECT_TRUE(isRefused("\"\xED\xA0\x80\""));
+    EXPECT_TRUE(isRefused("\"\xF8\x88\x80\x80\x80\""));
+    EXPECT_TRUE(isRefused("\"\\ud800\""));
+    EXPECT_TRUE(isRefused("\"Z\xFC"
+                          "rich\""));
+    EXPECT_TRUE(isRefused(QByteArray("\xFF\xFE{\0}\0", 6)));
+}
+
+TEST(Json, aNumberThatNothingCanHoldIsRefusedAndNoCrash)
+{
+    EXPECT_TRUE(isRefused("1e999"));
+}
+
+TEST(Json, membersOfWhatIsNoObjectAreNotThere)
+{
+    const Json::Value list = valueOf("[1]");
+    EXPECT_EQ(Json::member(list, "a"), nullptr);
+    const Json::Value object = valueOf(R"({"a": {"b": 1}, "c": null, "d": []})");
+    EXPECT_NE(Json::member(object, "a"), nullptr);
+    EXPECT_NE(Json::member(object, "c"), nullptr);
+    EXPECT_EQ(Json::member(object, "x"), nullptr);
+    EXPECT_NE(Json::objectMember(object, "a"), nullptr);
+    EXPECT_EQ(Json::objectMember(object, "c"), nullptr);
+    EXPECT_EQ(Json::objectMember(object, "d"), nullptr);
+    EXPECT_EQ(Json::objectMember(object, "x"), nullptr);
+}
+
+TEST(Json, onlyStringsAreTexts)
+{
+    const Json::Value object =
+        valueOf(R"({"s": "Zo\u00eb \ud83d\ude00", "n": 1, "b": true, "e": "", "z": "a\u0000b"})");
+    EXPECT_EQ(Json::text(Json::member(object, "s")), u"Zoë 😀"_s);
+    EXPECT_EQ(Json::text(Json::member(object, "n")), std::nullopt);
+    EXPECT_EQ(Json::text(Json::member(object, "b")), std::nullopt);
+    EXPECT_EQ(Json::text(Json::member(object, "x")), std::nullopt);
+    EXPECT_EQ(Json::text(Json::member(object, "e")), u""_s);
+    EXPECT_EQ(Json::text(Json::member(object, "z")), u"a"_s);
+}
+
+TEST(Json, anIntegerMayBeWrittenWithAFraction)
+{
+    const auto isOne = [](const char *text) {
+        const Json::Value value = valueOf(text);
+        return Json::isInteger(&value, 1);
+    };
+    EXPECT_TRUE(isOne("1"));
+    EXPECT_TRUE(isOne("1.0"));
+    EXPECT_TRUE(isOne("1e0"));
+    for (const char *text : {"0", "-1", "1.5", "true", "\"1\"", "null", "[1]", "18446744073709551615"})
+        EXPECT_FALSE(isOne(text)) << text;
+    EXPECT_FALSE(Json::isInteger(nullptr, 1));
+}
+
+TEST(Json, onlyTrueIsTrue)
+{
+    const auto isTrue = [](const char *text) {
+        const Json::Value value = valueOf(text);
+        return Json::isTrue(&value);
+    };
+    EXPECT_TRUE(isTrue("true"));
+    for (const char *text : {"false", "1", "1.0", "\"true\"", "null", "[]", "{}"})
+        EXPECT_FALSE(isTrue(text)) << text;
+    EXPECT_FALSE(Json::isTrue(nullptr));
+}
+
+TEST(Json, nestingNeedsNoStack)
+{
+    for (const qsizetype depth : {5'000, 1'000'000}) {
+        EXPECT_TRUE(Json::parse(QByteArray(depth, '[') + QByteArray(depth, ']')).has_value());
+        EXPECT_TRUE(
+            Json::parse(QByteArray("{\"a\":").repeated(depth) + "1" + QByteArray(depth, '}')).has_value());
+        EXPECT_TRUE(isRefused(QByteArray(depth, '[')));
+    }
+}
+
+} // namespace roamlet::testing
