@@ -16,6 +16,7 @@
 
 #include <QDateTime>
 #include <QEventLoop>
+#include <QLocale>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -289,7 +290,8 @@ int Job::watch(const std::optional<QString> &duration)
     const std::stop_callback end(m_stop,
                                  [&loop] { QMetaObject::invokeMethod(&loop, "quit", Qt::QueuedConnection); });
     complain(u"Watching the browsers' folders for "_s %
-             QString::number(static_cast<double>(milliseconds) / 1000) % u" s.");
+             QString::number(static_cast<double>(milliseconds) / 1000, 'f', QLocale::FloatingPointShortest) %
+             u" s.");
     loop.exec();
     return status;
 }

@@ -13,7 +13,7 @@ Printed print(Console &console, const QString &text)
     const std::error_code error = console.writeOutput(text.toUtf8());
     if (!error)
         return Printed::Written;
-    if (error == std::errc::broken_pipe)
+    if (error == std::errc::broken_pipe || error == std::errc::operation_canceled)
         return Printed::Unread;
     console.writeError(
         QString(u"roamlet: cannot write: " % QString::fromStdString(error.message()) % u'\n').toUtf8());

@@ -13,7 +13,7 @@ class Console;
 /// What became of a text.
 enum class Printed {
     Written,
-    Unread, ///< whoever read the output has closed it, and has seen enough
+    Unread, ///< whoever read the output has closed it, or the user wants the run to end
     Failed, ///< the error stream says why
 };
 

@@ -44,7 +44,7 @@ int printed(Console &console, const QString &text)
 int runDiagnostics(const Command &command, int argc, char **argv)
 {
     StopSignals signals;
-    LinuxConsole console;
+    LinuxConsole console(signals.token());
     LinuxPlatform platform;
     // Only watching needs an event loop; everything else starts faster without one.
     std::optional<QCoreApplication> application;
@@ -61,7 +61,7 @@ int run(int argc, char **argv)
 {
     useUnicodeLocale();
     const Command command = Command::of(argumentsOf(argc, argv));
-    LinuxConsole console;
+    LinuxConsole console({});
     switch (command.job) {
     case Command::Job::Help:
         return printed(console, Command::help());

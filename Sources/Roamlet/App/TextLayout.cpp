@@ -38,8 +38,12 @@ int characterWidth(QStringView character)
 {
     constexpr char32_t asEmoji = 0xFE0F;
     int result = 0;
-    for (const char32_t codePoint : character.toUcs4())
-        result = std::max(result, codePoint == asEmoji && result > 0 ? 2 : codePointWidth(codePoint));
+    int flagLetters = 0;
+    for (const char32_t codePoint : character.toUcs4()) {
+        flagLetters += codePoint >= 0x1F1E6 && codePoint <= 0x1F1FF ? 1 : 0;
+        const bool isWide = flagLetters == 2 || (codePoint == asEmoji && result > 0);
+        result = std::max(result, isWide ? 2 : codePointWidth(codePoint));
+    }
     return result;
 }
 

@@ -14,6 +14,9 @@ std::expected<Value, QString> parse(const QByteArray &bytes)
     // browser's.
     if (bytes.startsWith("\xEF\xBB\xBF"))
         return std::unexpected(u"not valid JSON: it begins with a byte-order mark"_s);
+    // The library would take it for the end of the text.
+    if (bytes.contains('\0'))
+        return std::unexpected(u"not valid JSON: it holds a NUL"_s);
     try {
         return Value::parse(bytes.begin(), bytes.end());
     } catch (const Value::parse_error &error) {

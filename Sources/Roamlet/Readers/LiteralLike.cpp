@@ -137,6 +137,12 @@ std::string_view textOf(sqlite3_value *value)
     return {text, static_cast<size_t>(sqlite3_value_bytes(value))};
 }
 
+bool isUsableEscape(std::string_view escape)
+{
+    return escape.size() == 1 && static_cast<unsigned char>(escape.front()) < 0x80 && escape != "%" &&
+           escape != "_";
+}
+
 /// `text LIKE pattern ESCAPE escape`, for arguments in the order in which SQLite hands them over.
 void like(sqlite3_context *context, int /*count*/, sqlite3_value **arguments)
 {
@@ -147,10 +153,16 @@ void like(sqlite3_context *context, int /*count*/, sqlite3_value **arguments)
         return;
     }
     const std::string_view text = textOf(textValue);
+    const std::string_view escape = textOf(arguments[2]);
+    if (escape.data() == nullptr)
+        return; // NULL, as LIKE has it
+    if (!isUsableEscape(escape)) {
+        sqlite3_result_error(context, "ESCAPE expression must be a single character", -1);
+        return;
+    }
     const auto *pattern = static_cast<const Pattern *>(sqlite3_get_auxdata(context, 0));
     if (pattern == nullptr) {
         const std::string_view patternText = textOf(patternValue);
-        const std::string_view escape = textOf(arguments[2]);
         const int limit =
             sqlite3_limit(sqlite3_context_db_handle(context), SQLITE_LIMIT_LIKE_PATTERN_LENGTH, -1);
         if (std::cmp_greater(patternText.size(), limit)) {
@@ -158,7 +170,7 @@ void like(sqlite3_context *context, int /*count*/, sqlite3_value **arguments)
             return;
         }
         auto made = std::make_unique<Pattern>();
-        if (patternText.data() != nullptr && escape.size() == 1)
+        if (patternText.data() != nullptr)
             made->needle = needleOf(patternText, escape.front());
         sqlite3_set_auxdata(context, 0, made.release(),
                             [](void *kept) { delete static_cast<Pattern *>(kept); });
@@ -170,8 +182,7 @@ void like(sqlite3_context *context, int /*count*/, sqlite3_value **arguments)
         sqlite3_result_int(context, pattern->needle->isIn(text) ? 1 : 0);
         return;
     }
-    const std::string_view escape = textOf(arguments[2]);
-    const unsigned int escapeCharacter = escape.empty() ? 0U : static_cast<unsigned char>(escape.front());
+    const auto escapeCharacter = static_cast<unsigned char>(escape.front());
     const int difference = sqlite3_strlike(textOf(patternValue).data(), text.data(), escapeCharacter);
     sqlite3_result_int(context, difference == 0 ? 1 : 0);
 }

@@ -111,6 +111,9 @@ public:
                 // Most often there is none.
                 static_cast<void>(m_files.copy(m_source + suffix, path() + suffix, stop));
             }
+            // A copy without its logs is worse than none.
+            if (stop.stop_requested())
+                return std::make_error_code(std::errc::operation_canceled);
             if (stamp(m_files, m_source) == before)
                 break;
         }
@@ -247,8 +250,10 @@ void SQLiteSnapshot::removeLeftovers(const Files &files, const QString &temporar
         if (!name.startsWith(folderPrefix))
             continue;
         const QStringList pieces = name.sliced(folderPrefix.size()).split(u'-', Qt::SkipEmptyParts);
+        const QString id = pieces.value(0);
         bool isNumber = false;
-        const std::int32_t process = pieces.isEmpty() ? 0 : pieces.first().toInt(&isNumber);
+        const std::int32_t process = id.toInt(&isNumber);
+        isNumber = isNumber && id == id.trimmed();
         // Never the copies of a run that is still alive, whoever's it is.
         if (!isNumber || !Processes::exists(process))
             files.removeFolder(temporaryFolder % u'/' % name);

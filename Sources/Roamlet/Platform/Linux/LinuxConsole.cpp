@@ -6,20 +6,45 @@
 #include "Platform/Linux/LinuxIO.h"
 
 #include <signal.h>
+#include <sys/eventfd.h>
 #include <sys/ioctl.h>
 #include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <climits>
+#include <poll.h>
 
 namespace roamlet
 {
 
-LinuxConsole::LinuxConsole()
+LinuxConsole::LinuxConsole(const std::stop_token &stop)
+    : m_wake(eventfd(0, EFD_CLOEXEC)), m_onStop(stop, [this] { eventfd_write(m_wake, 1); })
 {
     signal(SIGPIPE, SIG_IGN);
 }
 
+LinuxConsole::~LinuxConsole()
+{
+    close(m_wake);
+}
+
 std::error_code LinuxConsole::writeOutput(QByteArrayView bytes)
 {
-    return writeAll(STDOUT_FILENO, bytes);
+    // So much can be written without waiting to a pipe that has room at all.
+    constexpr qsizetype atOnce = PIPE_BUF;
+    while (!bytes.isEmpty()) {
+        std::array<pollfd, 2> descriptors{pollfd{STDOUT_FILENO, POLLOUT, 0}, pollfd{m_wake, POLLIN, 0}};
+        if (poll(descriptors.data(), descriptors.size(), -1) < 0)
+            continue;
+        if (descriptors[1].revents != 0)
+            return std::make_error_code(std::errc::operation_canceled);
+        const QByteArrayView part = bytes.first(std::min(atOnce, bytes.size()));
+        if (const std::error_code error = writeAll(STDOUT_FILENO, part))
+            return error;
+        bytes = bytes.sliced(part.size());
+    }
+    return {};
 }
 
 void LinuxConsole::writeError(QByteArrayView bytes)

@@ -5,6 +5,9 @@
 
 #include "Platform/Console.h"
 
+#include <functional>
+#include <stop_token>
+
 namespace roamlet
 {
 
@@ -12,12 +15,18 @@ namespace roamlet
 class LinuxConsole final : public Console
 {
 public:
-    LinuxConsole();
+    /// A write for which nobody makes room ends when `stop` is requested (std::errc::operation_canceled).
+    explicit LinuxConsole(const std::stop_token &stop);
+    ~LinuxConsole() override;
 
     std::error_code writeOutput(QByteArrayView bytes) override;
     void writeError(QByteArrayView bytes) override;
     bool isTerminal() const override;
     int columns() const override;
+
+private:
+    int m_wake;
+    std::stop_callback<std::function<void()>> m_onStop;
 };
 
 } // namespace roamlet

@@ -4,6 +4,7 @@
 #include "Platform/Linux/LinuxFolders.h"
 
 #include "Platform/Files.h"
+#include "Platform/Linux/ConfigHome.h"
 #include "Platform/UserDefaults.h"
 
 #include <QDir>
@@ -34,11 +35,7 @@ std::optional<QString> configuredRoot(const UserDefaults &defaults, const QStrin
 
 LinuxFolders::Environment LinuxFolders::Environment::ofThisProcess()
 {
-    // A relative path in this variable is invalid and to be ignored.
-    const QString configHome = qEnvironmentVariable("XDG_CONFIG_HOME");
-    return {.home = QDir::homePath(),
-            .configHome = QDir::isAbsolutePath(configHome) ? configHome : QString(),
-            .temporary = QDir::tempPath()};
+    return {.home = QDir::homePath(), .configHome = roamlet::configHome(), .temporary = QDir::tempPath()};
 }
 
 LinuxFolders::LinuxFolders(Environment environment, const Files &files, const UserDefaults &defaults)

@@ -18,12 +18,16 @@ namespace roamlet
 namespace
 {
 
+/// Without the ones that whoever started the program told it to ignore, as nohup does.
 sigset_t stopSignals()
 {
     sigset_t signals;
     sigemptyset(&signals);
-    for (const int number : {SIGINT, SIGTERM, SIGHUP})
-        sigaddset(&signals, number);
+    for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
+        struct sigaction action = {};
+        if (sigaction(number, nullptr, &action) == 0 && action.sa_handler != SIG_IGN)
+            sigaddset(&signals, number);
+    }
     return signals;
 }
 

@@ -1,0 +1,139 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "Platform/Linux/AutostartLoginService.h"
+
+#include "Platform/Linux/ConfigHome.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+#include <optional>
+#include <utility>
+
+namespace roamlet
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+const QString desktopFileName = u"org.roamlet.Roamlet.desktop"_s;
+
+/// An argument of an Exec line: quoted, with what the quotes do not cover escaped once for them and once for
+/// the file.
+QString quotedArgument(const QString &argument)
+{
+    QString result;
+    for (const QChar c : argument) {
+        if (c == u'"' || c == u'`' || c == u'$')
+            result += u"\\\\";
+        else if (c == u'\\')
+            result += u"\\\\\\";
+        else if (c == u'%')
+            result += u'%';
+        result += c;
+    }
+    return u'"' % result % u'"';
+}
+
+/// The value of a key in the entry's main group, or nothing.
+std::optional<QString> value(const QString &entry, const QString &key)
+{
+    bool isMainGroup = false;
+    for (const QString &rawLine : entry.split(u'\n')) {
+        const QString line = rawLine.trimmed();
+        if (line.startsWith(u'[')) {
+            isMainGroup = line == u"[Desktop Entry]";
+            continue;
+        }
+        const qsizetype sign = line.indexOf(u'=');
+        if (isMainGroup && sign > 0 && line.first(sign).trimmed() == key)
+            return line.sliced(sign + 1).trimmed();
+    }
+    return {};
+}
+
+} // namespace
+
+AutostartLoginService::Environment AutostartLoginService::Environment::ofThisProcess()
+{
+    const QString appImage = qEnvironmentVariable("APPIMAGE");
+    return {.configHome = roamlet::configHome(),
+            .program = appImage.isEmpty() ? QCoreApplication::applicationFilePath() : appImage};
+}
+
+AutostartLoginService::AutostartLoginService(Environment environment) : m_environment(std::move(environment))
+{
+}
+
+QString AutostartLoginService::entryPath() const
+{
+    return m_environment.configHome % u"/autostart/" % desktopFileName;
+}
+
+LoginService::Status AutostartLoginService::status() const
+{
+    QFile file(entryPath());
+    if (!file.open(QIODevice::ReadOnly))
+        return Status::NotRegistered;
+    constexpr qint64 longestEntry = qint64{64} << 10U;
+    const QString entry = QString::fromUtf8(file.read(longestEntry));
+    // An entry without a command starts nothing.
+    if (value(entry, u"Exec"_s).value_or(QString()).isEmpty())
+        return Status::NotRegistered;
+    // Desktops switch an entry off in one of these two ways.
+    const bool isSwitchedOff =
+        value(entry, u"Hidden"_s) == u"true" || value(entry, u"X-GNOME-Autostart-enabled"_s) == u"false";
+    return isSwitchedOff ? Status::RequiresApproval : Status::Enabled;
+}
+
+std::expected<void, QString> AutostartLoginService::registerProgram()
+{
+    if (status() == Status::RequiresApproval)
+        return {};
+    const QString folder = QFileInfo(entryPath()).path();
+    // A failure shows when the file is opened, with the system's words.
+    QDir().mkpath(folder);
+    QSaveFile file(entryPath());
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Text))
+        return std::unexpected(file.errorString());
+    file.write(QString(u"[Desktop Entry]\n"
+                       "Type=Application\n"
+                       "Version=1.0\n"
+                       "Name=Roamlet\n"
+                       "Comment=Browser history and bookmarks in one place\n"
+                       "Icon=org.roamlet.Roamlet\n"
+                       "Exec=" %
+                       quotedArgument(m_environment.program) % u' ' % QLatin1StringView(launchMarker) %
+                       u"\n"
+                       "Terminal=false\n"
+                       "X-GNOME-Autostart-enabled=true\n")
+                   .toUtf8());
+    if (!file.commit())
+        return std::unexpected(file.errorString());
+    return {};
+}
+
+std::expected<void, QString> AutostartLoginService::unregisterProgram()
+{
+    QFile file(entryPath());
+    if (!file.exists() || file.remove())
+        return {};
+    return std::unexpected(file.errorString());
+}
+
+bool AutostartLoginService::isInstalledCopy() const
+{
+    // An installation puts the desktop entry beside the program; a build folder or a download has none.
+    const QFileInfo program(QFileInfo(m_environment.program).canonicalFilePath());
+    const QDir folder = program.dir();
+    return folder.dirName() == u"bin" &&
+           QFileInfo::exists(QDir::cleanPath(folder.path() % u"/../share/applications/" % desktopFileName));
+}
+
+} // namespace roamlet

@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "Platform/RunningInstance.h"
+
+#include <QDBusConnection>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+#include <QVariantMap>
+
+namespace roamlet
+{
+
+/// The one running program, by its well-known name on the session bus. Answers as a desktop's launcher
+/// expects of an application that can be activated.
+class DBusRunningInstance final : public QObject, public RunningInstance
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
+
+public:
+    /// On the user's session bus.
+    DBusRunningInstance();
+    explicit DBusRunningInstance(const QDBusConnection &bus);
+    ~DBusRunningInstance() override;
+
+    Claim claim(std::function<void()> activated) override;
+
+public Q_SLOTS:
+    /// A later start, or the desktop, brings the program forward.
+    void
+    Activate(const QVariantMap &platformData); // NOLINT(readability-identifier-naming): the interface's name
+    /// There is nothing that could be opened with this program; it comes forward.
+    void Open(const QStringList &uris, const QVariantMap &platformData);
+    void ActivateAction(const QString &name, const QVariantList &parameters, const QVariantMap &platformData);
+
+private:
+    QDBusConnection m_bus;
+    std::function<void()> m_activated;
+};
+
+} // namespace roamlet
