@@ -25,12 +25,11 @@ public:
             output.append(bytes.data(), bytes.size());
         return outputError;
     }
-    std::error_code writeError(QByteArrayView bytes) override
+    void writeError(QByteArrayView bytes) override
     {
         errors.append(bytes.data(), bytes.size());
         if (onError)
             onError();
-        return {};
     }
     bool isTerminal() const override { return terminal; }
     int columns() const override { return 80; }
