@@ -4,7 +4,7 @@
 set -euo pipefail
 
 build=(g++ cmake ninja-build pkg-config qt6-base-dev libsqlite3-dev libicu-dev libplist-dev nlohmann-json3-dev)
-test=(libgtest-dev libgmock-dev sqlite3)
+test=(libgtest-dev libgmock-dev sqlite3 dbus-daemon desktop-file-utils)
 # Without the browser the test that needs it says that it was skipped.
 optional_test=(chromium)
 lint=(git clang-format-19 clang-tidy-19)

@@ -3,7 +3,7 @@
 
 #include "BrowserProcess.h"
 
-#include "Waiting.h"
+#include "Support/Waiting.h"
 
 #include <QDir>
 #include <QFile>

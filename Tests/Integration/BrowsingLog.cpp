@@ -4,7 +4,7 @@
 #include "BrowsingLog.h"
 
 #include "HeadlessBrowser.h"
-#include "Waiting.h"
+#include "Support/Waiting.h"
 
 #include <QDateTime>
 #include <QUrl>

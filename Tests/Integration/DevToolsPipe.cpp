@@ -3,7 +3,7 @@
 
 #include "DevToolsPipe.h"
 
-#include "Waiting.h"
+#include "Support/Waiting.h"
 
 #include <QJsonDocument>
 #include <QSocketNotifier>

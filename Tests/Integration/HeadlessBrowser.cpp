@@ -3,7 +3,7 @@
 
 #include "HeadlessBrowser.h"
 
-#include "Waiting.h"
+#include "Support/Waiting.h"
 
 #include <QDir>
 #include <QFile>

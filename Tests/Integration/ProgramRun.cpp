@@ -4,7 +4,7 @@
 #include "ProgramRun.h"
 
 #include "Support/TestHome.h"
-#include "Waiting.h"
+#include "Support/Waiting.h"
 
 #include <QProcess>
 

@@ -5,7 +5,7 @@
 #include "ProgramRun.h"
 #include "Readers/ChromiumReader.h"
 #include "RealBrowserTest.h"
-#include "Waiting.h"
+#include "Support/Waiting.h"
 
 #include <QFile>
 #include <QJsonArray>

@@ -9,7 +9,7 @@
 #include "Readers/ChromiumReader.h"
 #include "Readers/FaviconReader.h"
 #include "RealBrowserTest.h"
-#include "Waiting.h"
+#include "Support/Waiting.h"
 
 #include <QDateTime>
 #include <QImage>

@@ -1,0 +1,176 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "Platform/Linux/AutostartLoginService.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+namespace roamlet::testing
+{
+namespace
+{
+
+using namespace Qt::StringLiterals;
+using Status = LoginService::Status;
+
+class AutostartLoginServiceTest : public ::testing::Test
+{
+protected:
+    AutostartLoginService service(const QString &program = u"/usr/bin/roamlet"_s) const
+    {
+        return AutostartLoginService({.configHome = folder.filePath(u"config"_s), .program = program});
+    }
+
+    QString entry() const
+    {
+        QFile file(service().entryPath());
+        return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    }
+
+    void writeEntry(const QByteArray &content) const
+    {
+        QDir().mkpath(folder.filePath(u"config/autostart"_s));
+        QFile file(service().entryPath());
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+    }
+
+    QTemporaryDir folder;
+};
+
+TEST_F(AutostartLoginServiceTest, NothingIsRegisteredAtFirst)
+{
+    EXPECT_EQ(service().status(), Status::NotRegistered);
+}
+
+TEST_F(AutostartLoginServiceTest, RegisteringWritesAnEntryThatStartsTheProgramWithTheMarker)
+{
+    ASSERT_TRUE(service().registerProgram());
+    EXPECT_EQ(service().status(), Status::Enabled);
+    EXPECT_EQ(service().entryPath(), folder.filePath(u"config/autostart/org.roamlet.Roamlet.desktop"_s));
+    EXPECT_TRUE(entry().contains(u"\nExec=\"/usr/bin/roamlet\" --started-at-login\n"_s))
+        << qPrintable(entry());
+}
+
+TEST_F(AutostartLoginServiceTest, UnregisteringRemovesTheEntry)
+{
+    ASSERT_TRUE(service().registerProgram());
+    ASSERT_TRUE(service().unregisterProgram());
+    EXPECT_EQ(service().status(), Status::NotRegistered);
+    EXPECT_FALSE(QFile::exists(service().entryPath()));
+    EXPECT_TRUE(service().unregisterProgram()) << "what is not there is off the list";
+}
+
+TEST_F(AutostartLoginServiceTest, WhatTheDesktopSwitchedOffRequiresApprovalAndStaysOff)
+{
+    for (const char *line : {"Hidden=true", "X-GNOME-Autostart-enabled=false", "Hidden = true"}) {
+        writeEntry("[Desktop Entry]\nType=Application\nName=Roamlet\nExec=/usr/bin/roamlet\n" +
+                   QByteArray(line) + "\n");
+        EXPECT_EQ(service().status(), Status::RequiresApproval) << line;
+        EXPECT_TRUE(service().registerProgram());
+        EXPECT_EQ(service().status(), Status::RequiresApproval) << line;
+        EXPECT_TRUE(service().unregisterProgram());
+        EXPECT_TRUE(service().registerProgram());
+        EXPECT_EQ(service().status(), Status::Enabled) << "taken off the list and put on it again";
+        EXPECT_TRUE(service().unregisterProgram());
+    }
+}
+
+TEST_F(AutostartLoginServiceTest, OnlyTheMainGroupCounts)
+{
+    writeEntry("[Desktop Entry]\nExec=/usr/bin/roamlet\n[Desktop Action x]\nHidden=true\n");
+    EXPECT_EQ(service().status(), Status::Enabled);
+    writeEntry("[Desktop Action x]\nExec=/usr/bin/roamlet\n");
+    EXPECT_EQ(service().status(), Status::NotRegistered);
+}
+
+TEST_F(AutostartLoginServiceTest, AnEntryWithoutACommandIsNoRegistration)
+{
+    for (const QByteArray &content :
+         {QByteArray(), QByteArray("[Desktop Entry]\nExec=\n"), QByteArray("\0\xff", 2),
+          QByteArray("[Desktop Entry]\nName=Roamlet\n")}) {
+        writeEntry(content);
+        EXPECT_EQ(service().status(), Status::NotRegistered);
+        EXPECT_TRUE(service().registerProgram());
+        EXPECT_EQ(service().status(), Status::Enabled);
+    }
+}
+
+TEST_F(AutostartLoginServiceTest, AFolderThatCannotBeMadeIsAnErrorInTheSystemsWords)
+{
+    QFile file(folder.filePath(u"config"_s));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.close();
+    const auto result = service().registerProgram();
+    ASSERT_FALSE(result);
+    EXPECT_FALSE(result.error().isEmpty());
+    EXPECT_EQ(service().status(), Status::NotRegistered);
+}
+
+TEST_F(AutostartLoginServiceTest, AFolderWithoutPermissionIsAnErrorInTheSystemsWords)
+{
+    if (geteuid() == 0)
+        GTEST_SKIP() << "root may write everywhere";
+    const QString autostart = folder.filePath(u"config/autostart"_s);
+    ASSERT_TRUE(QDir().mkpath(autostart));
+    ASSERT_TRUE(QFile::setPermissions(autostart, QFile::ReadOwner | QFile::ExeOwner));
+    EXPECT_FALSE(service().registerProgram());
+    QFile::setPermissions(autostart, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+}
+
+TEST_F(AutostartLoginServiceTest, TheEntryIsValid)
+{
+    const QString validator = QStandardPaths::findExecutable(u"desktop-file-validate"_s);
+    if (validator.isEmpty())
+        GTEST_SKIP() << "desktop-file-validate is not installed";
+    for (const QString &program :
+         {u"/usr/bin/roamlet"_s, u"/home/anna/My \"apps\"/Roam$let `1` 100% \\x/roamlet"_s}) {
+        ASSERT_TRUE(service(program).registerProgram());
+        QProcess process;
+        process.start(validator, {service().entryPath()});
+        ASSERT_TRUE(process.waitForFinished());
+        const QByteArray complaints = process.readAllStandardOutput() + process.readAllStandardError();
+        EXPECT_EQ(process.exitCode(), 0) << complaints.constData() << qPrintable(entry());
+    }
+}
+
+TEST_F(AutostartLoginServiceTest, APathIsQuotedAsDesktopEntriesWantIt)
+{
+    ASSERT_TRUE(service(u"/a b/\"c\"/$d/`e`/\\f/100%"_s).registerProgram());
+    // The quotes want one backslash before these, and the file doubles each.
+    EXPECT_TRUE(entry().contains(u"\nExec=\"/a b/\\\\\"c\\\\\"/\\\\$d/\\\\`e\\\\`/\\\\\\\\f/100%%\" "_s))
+        << qPrintable(entry());
+}
+
+TEST_F(AutostartLoginServiceTest, OnlyAProgramBesideItsDesktopEntryIsAnInstalledCopy)
+{
+    const auto touch = [this](const QString &path) {
+        QDir().mkpath(QFileInfo(folder.filePath(path)).path());
+        QFile file(folder.filePath(path));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        return folder.filePath(path);
+    };
+    const QString built = touch(u"build/dev/roamlet"_s);
+    const QString installed = touch(u"usr/bin/roamlet"_s);
+    EXPECT_FALSE(service(built).isInstalledCopy());
+    EXPECT_FALSE(service(installed).isInstalledCopy());
+    touch(u"usr/share/applications/org.roamlet.Roamlet.desktop"_s);
+    EXPECT_TRUE(service(installed).isInstalledCopy());
+    touch(u"build/share/applications/org.roamlet.Roamlet.desktop"_s);
+    EXPECT_FALSE(service(built).isInstalledCopy());
+    EXPECT_FALSE(service(folder.filePath(u"usr/bin/gone"_s)).isInstalledCopy());
+
+    const QString link = folder.filePath(u"link"_s);
+    ASSERT_TRUE(QFile::link(installed, link));
+    EXPECT_TRUE(service(link).isInstalledCopy());
+}
+
+} // namespace
+} // namespace roamlet::testing

@@ -1,0 +1,129 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "Platform/Linux/DBusRunningInstance.h"
+
+#include "Support/Waiting.h"
+
+#include <QDBusMessage>
+#include <QProcess>
+#include <QStandardPaths>
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <thread>
+
+namespace roamlet::testing
+{
+namespace
+{
+
+using namespace Qt::StringLiterals;
+using Claim = RunningInstance::Claim;
+
+/// A session bus of the test's own.
+class DBusRunningInstanceTest : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        const QString daemon = QStandardPaths::findExecutable(u"dbus-daemon"_s);
+        if (daemon.isEmpty())
+            GTEST_SKIP() << "dbus-daemon is not installed";
+        bus.start(daemon, {u"--session"_s, u"--nofork"_s, u"--print-address"_s});
+        ASSERT_TRUE(waitUntil([this] { return bus.canReadLine(); }));
+        address = QString::fromUtf8(bus.readLine()).trimmed();
+    }
+
+    void TearDown() override
+    {
+        for (const QString &name : std::as_const(names))
+            QDBusConnection::disconnectFromBus(name);
+        bus.terminate();
+        bus.waitForFinished();
+    }
+
+    QDBusConnection connection(const QString &name)
+    {
+        names.append(name);
+        return QDBusConnection::connectToBus(address, name);
+    }
+
+    /// Claims from another thread, as another process would, while this one answers.
+    Claim claimElsewhere(const QString &name)
+    {
+        names.append(name);
+        std::atomic<bool> isDone = false;
+        Claim claim = Claim::Alone;
+        const std::jthread other([&] {
+            DBusRunningInstance instance(QDBusConnection::connectToBus(address, name));
+            claim = instance.claim([] {});
+            isDone = true;
+        });
+        EXPECT_TRUE(waitUntil([&isDone] { return isDone.load(); }));
+        return claim;
+    }
+
+    QProcess bus;
+    QString address;
+    QStringList names;
+};
+
+TEST_F(DBusRunningInstanceTest, TheFirstOneRuns)
+{
+    DBusRunningInstance first(connection(u"first"_s));
+    EXPECT_EQ(first.claim([] {}), Claim::First);
+}
+
+TEST_F(DBusRunningInstanceTest, ALaterStartActivatesTheFirstAndHandsOver)
+{
+    int activations = 0;
+    DBusRunningInstance first(connection(u"first"_s));
+    ASSERT_EQ(first.claim([&activations] { ++activations; }), Claim::First);
+    EXPECT_EQ(claimElsewhere(u"second"_s), Claim::HandedOver);
+    EXPECT_EQ(activations, 1);
+    EXPECT_EQ(claimElsewhere(u"third"_s), Claim::HandedOver);
+    EXPECT_EQ(activations, 2);
+}
+
+TEST_F(DBusRunningInstanceTest, TheNameIsFreeAgainWhenTheFirstHasEnded)
+{
+    {
+        DBusRunningInstance first(connection(u"first"_s));
+        ASSERT_EQ(first.claim([] {}), Claim::First);
+    }
+    DBusRunningInstance second(connection(u"second"_s));
+    EXPECT_EQ(second.claim([] {}), Claim::First);
+}
+
+TEST_F(DBusRunningInstanceTest, TheDesktopCanActivateIt)
+{
+    int activations = 0;
+    DBusRunningInstance first(connection(u"first"_s));
+    ASSERT_EQ(first.claim([&activations] { ++activations; }), Claim::First);
+    QDBusConnection desktop = connection(u"desktop"_s);
+    QDBusMessage activate = QDBusMessage::createMethodCall(
+        u"org.roamlet.Roamlet"_s, u"/org/roamlet/Roamlet"_s, u"org.freedesktop.Application"_s, u"Activate"_s);
+    activate << QVariantMap();
+    ASSERT_TRUE(desktop.send(activate));
+    EXPECT_TRUE(waitUntil([&activations] { return activations == 1; }));
+}
+
+TEST_F(DBusRunningInstanceTest, AFirstOneThatIsStuckDoesNotKeepTheSecondForever)
+{
+    const QDBusConnection stuck = connection(u"stuck"_s);
+    // The name is taken, but nothing stands behind it.
+    ASSERT_TRUE(QDBusConnection(stuck).registerService(u"org.roamlet.Roamlet"_s));
+    EXPECT_EQ(claimElsewhere(u"second"_s), Claim::HandedOver);
+}
+
+TEST(DBusRunningInstanceWithoutABusTest, TheProgramRunsAlone)
+{
+    DBusRunningInstance instance(QDBusConnection::connectToBus(u"unix:path=/nonexistent/bus"_s, u"no bus"_s));
+    EXPECT_EQ(instance.claim([] {}), Claim::Alone);
+    QDBusConnection::disconnectFromBus(u"no bus"_s);
+}
+
+} // namespace
+} // namespace roamlet::testing
