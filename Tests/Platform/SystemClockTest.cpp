@@ -1,0 +1,129 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "Platform/Linux/SystemClock.h"
+
+#include <QCoreApplication>
+#include <QObject>
+#include <QTest>
+#include <QThread>
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <memory>
+#include <thread>
+
+namespace roamlet::testing
+{
+
+using namespace std::chrono_literals;
+using Steady = std::chrono::steady_clock;
+
+namespace
+{
+constexpr auto patience = 20'000;
+const std::stop_token never;
+} // namespace
+
+TEST(SystemClock, tellsTheTime)
+{
+    const auto before = std::chrono::system_clock::now();
+    const auto now = SystemClock().now();
+    EXPECT_LE(before, now);
+    EXPECT_LE(now, std::chrono::system_clock::now());
+}
+
+TEST(SystemClock, sleepsAsLongAsAsked)
+{
+    const auto start = Steady::now();
+    SystemClock().sleep(30ms, never);
+    EXPECT_GE(Steady::now() - start, 30ms);
+}
+
+TEST(SystemClock, doesNotSleepForNothing)
+{
+    const auto start = Steady::now();
+    SystemClock().sleep(0ms, never);
+    SystemClock().sleep(-1h, never);
+    EXPECT_LT(Steady::now() - start, 10s);
+}
+
+TEST(SystemClock, isWokenByAStopThatWasRequestedBefore)
+{
+    const auto start = Steady::now();
+    std::jthread sleeper([](const std::stop_token &stop) {
+        while (!stop.stop_requested())
+            std::this_thread::yield();
+        SystemClock().sleep(1h, stop);
+    });
+    sleeper.request_stop();
+    sleeper.join();
+    EXPECT_LT(Steady::now() - start, 10s);
+}
+
+TEST(SystemClock, isWokenByAStopFromAnotherThread)
+{
+    const auto start = Steady::now();
+    std::jthread sleeper([](const std::stop_token &stop) { SystemClock().sleep(1h, stop); });
+    sleeper.request_stop();
+    sleeper.join();
+    EXPECT_LT(Steady::now() - start, 10s);
+}
+
+TEST(SystemClock, callsBackOnceAndNotTooEarly)
+{
+    QObject context;
+    int calls = 0;
+    const QThread *thread = nullptr;
+    const auto start = Steady::now();
+    SystemClock().after(30ms, &context, [&] {
+        ++calls;
+        thread = QThread::currentThread();
+        EXPECT_GE(Steady::now() - start, 30ms);
+    });
+    EXPECT_EQ(calls, 0) << "never before the caller returned";
+    ASSERT_TRUE(QTest::qWaitFor([&] { return calls > 0; }, patience));
+    EXPECT_EQ(thread, context.thread());
+
+    int later = 0;
+    SystemClock().after(60ms, &context, [&] { ++later; });
+    ASSERT_TRUE(QTest::qWaitFor([&] { return later > 0; }, patience));
+    EXPECT_EQ(calls, 1) << "it does not repeat";
+}
+
+TEST(SystemClock, callsBackInTheOrderOfTheTimes)
+{
+    QObject context;
+    QList<int> calls;
+    const SystemClock clock;
+    clock.after(60ms, &context, [&] { calls.append(2); });
+    clock.after(1ms, &context, [&] { calls.append(1); });
+    ASSERT_TRUE(QTest::qWaitFor([&] { return calls.size() == 2; }, patience));
+    EXPECT_EQ(calls, (QList<int>{1, 2}));
+}
+
+TEST(SystemClock, aCallBackAtOnceWaitsForTheEventLoop)
+{
+    QObject context;
+    bool isCalled = false;
+    SystemClock().after(0ms, &context, [&] { isCalled = true; });
+    EXPECT_FALSE(isCalled);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return isCalled; }, patience));
+}
+
+TEST(SystemClock, nobodyIsCalledBackWhoIsGone)
+{
+    bool isGoneCalled = false;
+    bool isThereCalled = false;
+    QObject there;
+    auto gone = std::make_unique<QObject>();
+    const SystemClock clock;
+    clock.after(1ms, gone.get(), [&] { isGoneCalled = true; });
+    clock.after(20ms, &there, [&] { isThereCalled = true; });
+    gone.reset();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return isThereCalled; }, patience));
+    EXPECT_FALSE(isGoneCalled);
+}
+
+} // namespace roamlet::testing
