@@ -1,0 +1,279 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "App/Diagnostics.h"
+#include "BrowserHome.h"
+#include "Support/FakeConsole.h"
+
+#include <QTimer>
+
+#include <chrono>
+#include <ctime>
+#include <functional>
+#include <gmock/gmock.h>
+#include <optional>
+#include <utility>
+
+namespace roamlet::testing
+{
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace
+{
+
+using ::testing::HasSubstr;
+
+/// Runs "--watch" and, once the program waits for changes, takes steps one after the other, each with the
+/// event loop in between, as long as it waits.
+class Watching
+{
+public:
+    explicit Watching(const std::optional<QString> &duration) : m_arguments{u"--watch"_s}
+    {
+        if (duration)
+            m_arguments.append(*duration);
+    }
+
+    /// Ends after the last step at the latest.
+    int run(QList<std::function<void()>> steps)
+    {
+        steps.append([this] { stop.request_stop(); });
+        QObject context;
+        // The program says that it watches just before it waits.
+        console.onError = [&] { takeStep(steps, 0, &context); };
+        return Diagnostics::run(Command::of(m_arguments), home.platform(), console, stop.get_token());
+    }
+
+    BrowserHome home;
+    FakeConsole console;
+    std::stop_source stop;
+
+private:
+    static void takeStep(const QList<std::function<void()>> &steps, qsizetype index, QObject *context)
+    {
+        QTimer::singleShot(0, context, [&steps, index, context] {
+            steps[index]();
+            if (index + 1 < steps.size())
+                takeStep(steps, index + 1, context);
+        });
+    }
+
+    QStringList m_arguments;
+};
+
+/// Whether "--watch" with this word watches for exactly this time.
+bool lasts(const std::optional<QString> &word, std::chrono::milliseconds duration)
+{
+    Watching watching(word);
+    bool endsEarly = true;
+    bool endsLate = false;
+    watching.run({[&] { watching.home.clock.advance(duration - 1ms); },
+                  [&] {
+                      endsEarly = false;
+                      watching.home.clock.advance(1ms);
+                  },
+                  [&] { endsLate = true; }});
+    EXPECT_EQ(watching.console.output, "");
+    return !endsEarly && !endsLate;
+}
+
+/// Whether "--watch" with this word ends without any time going by.
+bool endsAtOnce(const std::optional<QString> &word)
+{
+    Watching watching(word);
+    bool endsLate = false;
+    const int status = watching.run({[&] { watching.home.clock.advance(0ms); }, [&] { endsLate = true; }});
+    EXPECT_EQ(watching.console.output, "");
+    return status == 0 && !endsLate;
+}
+
+class DiagnosticsWatchTest : public ::testing::Test
+{
+protected:
+    static void SetUpTestSuite()
+    {
+        qputenv("TZ", BrowserHome::timeZone);
+        tzset();
+    }
+    static void TearDownTestSuite()
+    {
+        qunsetenv("TZ");
+        tzset();
+    }
+};
+
+} // namespace
+
+TEST_F(DiagnosticsWatchTest, watches_for_a_minute_unless_told_otherwise)
+{
+    EXPECT_TRUE(lasts({}, 60s));
+}
+
+TEST_F(DiagnosticsWatchTest, takes_every_decimal_number_of_seconds)
+{
+    EXPECT_TRUE(lasts(u"10"_s, 10s));
+    EXPECT_TRUE(lasts(u"2.5"_s, 2500ms));
+    EXPECT_TRUE(lasts(u"0.25"_s, 250ms));
+    EXPECT_TRUE(lasts(u".5"_s, 500ms));
+    EXPECT_TRUE(lasts(u"007"_s, 7s));
+    EXPECT_TRUE(lasts(u"+3"_s, 3s));
+    EXPECT_TRUE(lasts(u"1e1"_s, 10s));
+    EXPECT_TRUE(lasts(u"90000"_s, 25h));
+}
+
+TEST_F(DiagnosticsWatchTest, words_that_are_no_number_mean_a_minute)
+{
+    for (const QString &word : {u"soon"_s, u""_s, u" "_s, u"ten"_s, u"12s"_s, u"1,5"_s, u"1 5"_s, u"1.2.3"_s,
+                                u"."_s, u"-"_s, u"e5"_s, u"１２"_s, u"٣"_s, u"5\n"_s}) {
+        SCOPED_TRACE(word.toStdString());
+        EXPECT_TRUE(lasts(word, 60s));
+    }
+}
+
+TEST_F(DiagnosticsWatchTest, no_time_and_less_end_at_once)
+{
+    for (const QString &word : {u"0"_s, u"0.0"_s, u"-0"_s, u"-5"_s, u"-1e9"_s, u"1e-400"_s})
+        EXPECT_TRUE(endsAtOnce(word)) << word.toStdString();
+}
+
+TEST_F(DiagnosticsWatchTest, huge_numbers_last_longer_than_anybody_waits)
+{
+    for (const QString &word : {u"1e9"_s, u"99999999999999999999999999"_s, u"1e400"_s, u"1e999999999999"_s}) {
+        SCOPED_TRACE(word.toStdString());
+        Watching watching(word);
+        bool lastsLonger = false;
+        watching.run({[&] { watching.home.clock.advance(24h * 20); }, [&] { lastsLonger = true; }});
+        EXPECT_TRUE(lastsLonger);
+    }
+}
+
+TEST_F(DiagnosticsWatchTest, says_on_the_error_stream_how_long_it_watches)
+{
+    const QList<std::pair<QString, std::string>> cases{
+        {u"10"_s, "10 s"}, {u"2.5"_s, "2.5 s"}, {u"soon"_s, "60 s"}, {u"1234567.25"_s, "1234567.25 s"}};
+    for (const auto &[word, expected] : cases) {
+        Watching watching(word);
+        watching.run({});
+        EXPECT_THAT(watching.console.errors.toStdString(), HasSubstr(' ' + expected));
+    }
+}
+
+TEST_F(DiagnosticsWatchTest, reports_changed_sources_with_local_time_and_labels_on_one_line)
+{
+    Watching watching(u"60"_s);
+    const BrowserHome &home = watching.home;
+    home.addPages();
+    EXPECT_EQ(watching.run({[&] {
+                                home.fileEvents.report({home.edge(u"Default/History"_s),
+                                                        home.chrome(u"Profile 1/History"_s),
+                                                        home.chrome(u"Default/History"_s)});
+                            },
+                            [&] { watching.home.clock.advance(1h); }}),
+              0);
+    EXPECT_EQ(watching.console.output.toStdString(),
+              "2026-05-09 11:43  Chrome - Personal, Chrome - Work, Edge - Office\n");
+}
+
+TEST_F(DiagnosticsWatchTest, reports_each_change_at_its_own_time)
+{
+    Watching watching(u"600"_s);
+    const BrowserHome &home = watching.home;
+    home.addPages();
+    watching.run({[&] { home.fileEvents.report({home.edge(u"Default/History"_s)}); },
+                  [&] {
+                      watching.home.clock.advance(2min);
+                      home.addBookmarks();
+                      home.fileEvents.report({home.chrome(u"Default/Bookmarks"_s)});
+                  }});
+    EXPECT_EQ(watching.console.output.toStdString(), "2026-05-09 11:43  Edge - Office\n"
+                                                     "2026-05-09 11:45  Chrome - Personal\n");
+}
+
+TEST_F(DiagnosticsWatchTest, stays_silent_about_files_that_did_not_change_or_are_not_read)
+{
+    Watching watching(u"60"_s);
+    const BrowserHome &home = watching.home;
+    home.addPages();
+    home.addIcons();
+    watching.run({[&] { home.fileEvents.report({home.edge(u"Default/History"_s)}); },
+                  [&] { home.fileEvents.report({home.edge(u"Default/History"_s)}); },
+                  [&] {
+                      home.fileEvents.report(
+                          {home.chrome(u"Default/Favicons"_s), home.chrome(u"Local State"_s)});
+                  }});
+    EXPECT_EQ(watching.console.lines().size(), 1);
+}
+
+TEST_F(DiagnosticsWatchTest, names_a_profile_that_is_in_no_list_by_its_id)
+{
+    Watching watching(u"60"_s);
+    const BrowserHome &home = watching.home;
+    home.addPages();
+    watching.run({[&] { home.fileEvents.report({home.chrome(u"Profile 9/History"_s)}); }});
+    EXPECT_EQ(watching.console.output.toStdString(), "2026-05-09 11:43  chrome/Profile 9\n");
+}
+
+TEST_F(DiagnosticsWatchTest, names_cannot_command_a_terminal)
+{
+    Watching watching(u"60"_s);
+    const BrowserHome &home = watching.home;
+    home.addPages();
+    watching.console.terminal = true;
+    watching.run({[&] { home.fileEvents.report({home.chrome(u"Evil\u001B[2J\n/History"_s)}); }});
+    EXPECT_EQ(watching.console.output.toStdString(), "2026-05-09 11:43  chrome/Evil␛[2J␊\n");
+}
+
+TEST_F(DiagnosticsWatchTest, ends_when_nobody_reads_any_more)
+{
+    Watching watching(u"60"_s);
+    const BrowserHome &home = watching.home;
+    home.addPages();
+    watching.console.outputError = std::make_error_code(std::errc::broken_pipe);
+    bool goesOn = false;
+    EXPECT_EQ(watching.run({[&] { home.fileEvents.report({home.edge(u"Default/History"_s)}); },
+                            [&] { goesOn = true; }}),
+              0);
+    EXPECT_FALSE(goesOn);
+}
+
+TEST_F(DiagnosticsWatchTest, ends_with_a_reason_when_it_cannot_write)
+{
+    Watching watching(u"60"_s);
+    const BrowserHome &home = watching.home;
+    home.addPages();
+    watching.console.outputError = std::make_error_code(std::errc::no_space_on_device);
+    EXPECT_EQ(watching.run({[&] {
+        // Its own message needs no further step.
+        watching.console.onError = nullptr;
+        home.fileEvents.report({home.edge(u"Default/History"_s)});
+    }}),
+              1);
+    EXPECT_THAT(watching.console.errors.toStdString(), HasSubstr("No space left on device"));
+}
+
+TEST_F(DiagnosticsWatchTest, goes_on_without_file_events_and_ends_in_time)
+{
+    Watching watching(u"60"_s);
+    watching.home.fileEvents.isAvailable = false;
+    bool goesOn = false;
+    EXPECT_EQ(watching.run({[&] { watching.home.clock.advance(59s); },
+                            [&] {
+                                goesOn = true;
+                                watching.home.clock.advance(1s);
+                            }}),
+              0);
+    EXPECT_TRUE(goesOn);
+}
+
+TEST_F(DiagnosticsWatchTest, leaves_no_copies_behind)
+{
+    Watching watching(u"60"_s);
+    const BrowserHome &home = watching.home;
+    home.addPages();
+    watching.run({[&] { home.fileEvents.report({home.edge(u"Default/History"_s)}); }});
+    EXPECT_EQ(home.leftovers(), QStringList());
+}
+
+} // namespace roamlet::testing
