@@ -49,4 +49,29 @@ int Collation::compare(QStringView left, QStringView right) const
                         right.utf16(), static_cast<int32_t>(right.size()));
 }
 
+void Collation::appendSortKey(QStringView text, std::vector<char> &keys) const
+{
+    if (!m_native->collator) {
+        for (const QChar c : text) {
+            // Seven bits a byte, so that none is zero.
+            for (const int shift : {14, 7, 0})
+                keys.push_back(static_cast<char>(0x80 | ((c.unicode() >> shift) & 0x7f)));
+        }
+        keys.push_back('\0');
+        return;
+    }
+    const std::size_t begin = keys.size();
+    const auto write = [&](std::size_t capacity) {
+        keys.resize(begin + capacity);
+        return static_cast<std::size_t>(
+            ucol_getSortKey(m_native->collator.get(), text.utf16(), static_cast<int32_t>(text.size()),
+                            reinterpret_cast<uint8_t *>(&keys[begin]), static_cast<int32_t>(capacity)));
+    };
+    const std::size_t capacity = (2 * static_cast<std::size_t>(text.size())) + 32;
+    const std::size_t needed = write(capacity);
+    if (needed > capacity)
+        write(needed);
+    keys.resize(begin + needed);
+}
+
 } // namespace roamlet

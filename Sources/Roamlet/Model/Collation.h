@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <memory>
+#include <vector>
 
 namespace roamlet
 {
@@ -24,6 +25,10 @@ public:
 
     /// Less than, equal to or greater than zero.
     int compare(QStringView left, QStringView right) const;
+
+    /// Appends bytes to `keys`, none of them zero, and then a zero. Compared byte by byte they have the order
+    /// of the texts: whoever sorts many texts makes one key for each instead of comparing them in pairs.
+    void appendSortKey(QStringView text, std::vector<char> &keys) const;
 
 private:
     struct Native;

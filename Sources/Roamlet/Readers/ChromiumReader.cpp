@@ -5,6 +5,7 @@
 
 #include "Model/Collation.h"
 #include "Platform/Files.h"
+#include "Readers/BookmarkTree.h"
 #include "Readers/Json.h"
 #include "Readers/SQLiteSnapshot.h"
 
@@ -63,16 +64,19 @@ std::optional<PointInTime> dateAdded(const Json::Value *value)
 }
 
 /// The children of a folder entry: none unless the list holds objects only.
-const Json::Value::array_t &childEntries(const Json::Value &folder)
+std::vector<const Json::Value *> childEntries(const Json::Value *folder)
 {
-    static const Json::Value::array_t none;
-    const Json::Value *children = Json::member(folder, "children");
+    const Json::Value *children = Json::member(*folder, "children");
     if (children == nullptr || !children->is_array())
-        return none;
-    const auto &entries = children->get_ref<const Json::Value::array_t &>();
-    const bool areObjects =
-        std::ranges::all_of(entries, [](const Json::Value &entry) { return entry.is_object(); });
-    return areObjects ? entries : none;
+        return {};
+    std::vector<const Json::Value *> entries;
+    entries.reserve(children->size());
+    for (const Json::Value &entry : *children) {
+        if (!entry.is_object())
+            return {};
+        entries.push_back(&entry);
+    }
+    return entries;
 }
 
 /// The node of one entry, a folder still without its children; nothing for what is neither folder nor
@@ -97,38 +101,6 @@ std::optional<BookmarkNode> nodeWithoutChildren(const Json::Value &entry, const 
         node.title = *node.url;
     node.dateAdded = dateAdded(Json::member(entry, "date_added"));
     return node;
-}
-
-/// The tree below one entry. Without recursion: the file decides how deep it goes.
-std::optional<BookmarkNode> tree(const Json::Value &root, const Source &source)
-{
-    struct OpenFolder {
-        BookmarkNode node;
-        const Json::Value::array_t *entries;
-        size_t next = 0;
-    };
-    std::optional<BookmarkNode> rootNode = nodeWithoutChildren(root, source);
-    if (!rootNode || !rootNode->isFolder())
-        return rootNode;
-    std::vector<OpenFolder> open;
-    open.push_back({std::move(*rootNode), &childEntries(root)});
-    for (;;) {
-        OpenFolder &folder = open.back();
-        if (folder.next < folder.entries->size()) {
-            const Json::Value &entry = (*folder.entries)[folder.next++];
-            std::optional<BookmarkNode> child = nodeWithoutChildren(entry, source);
-            if (child && child->isFolder())
-                open.push_back({std::move(*child), &childEntries(entry)});
-            else if (child)
-                folder.node.children->append(std::move(*child));
-            continue;
-        }
-        BookmarkNode finished = std::move(folder.node);
-        open.pop_back();
-        if (open.empty())
-            return finished;
-        open.back().node.children->append(std::move(finished));
-    }
 }
 
 QString historyStatement(const HistoryQuery &query)
@@ -222,7 +194,11 @@ std::expected<QList<BookmarkNode>, ReadError> bookmarks(const Source &source, co
     const Json::Value *roots = Json::objectMember(*json, "roots");
     for (const char *key : {"bookmark_bar", "other", "synced"}) {
         const Json::Value *root = roots != nullptr ? Json::objectMember(*roots, key) : nullptr;
-        std::optional<BookmarkNode> node = root != nullptr ? tree(*root, source) : std::nullopt;
+        if (root == nullptr)
+            continue;
+        std::optional<BookmarkNode> node = bookmarkTree(
+            root, [&source](const Json::Value *entry, bool) { return nodeWithoutChildren(*entry, source); },
+            childEntries);
         if (!node || node->bookmarkCount() == 0)
             continue;
         node->isBar = std::string_view(key) == "bookmark_bar";

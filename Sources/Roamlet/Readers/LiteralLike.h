@@ -11,8 +11,8 @@ struct sqlite3;
 namespace roamlet::LiteralLike
 {
 
-/// Lets statements of this connection use it for "LIKE ? ESCAPE ?". It answers exactly as the built-in one does where
-/// the escape is an ASCII character other than the wildcards; any other escape is an error.
+/// Lets statements of this connection use it for "LIKE ? ESCAPE ?". It answers exactly as the built-in one
+/// does where the escape is an ASCII character other than the wildcards; any other escape is an error.
 void install(sqlite3 *connection);
 
 } // namespace roamlet::LiteralLike

@@ -4,6 +4,7 @@
 #include "Readers/SafariReader.h"
 
 #include "Platform/Files.h"
+#include "Readers/BookmarkTree.h"
 #include "Readers/PropertyList.h"
 #include "Readers/SQLiteSnapshot.h"
 
@@ -89,37 +90,13 @@ public:
     {
     }
 
-    /// The tree at and below an entry that is shown at the top. Without recursion: the file decides how deep
-    /// it goes.
+    /// The tree at and below an entry that is shown at the top.
     std::optional<BookmarkNode> node(PropertyListValue rootEntry) const
     {
-        struct OpenFolder {
-            BookmarkNode node;
-            std::vector<PropertyListValue> entries;
-            size_t next = 0;
-        };
-        std::optional<BookmarkNode> root = nodeWithoutChildren(rootEntry, true);
-        if (!root || !root->isFolder())
-            return root;
-        std::vector<OpenFolder> open;
-        open.push_back({std::move(*root), rootEntry.member("Children").dictionaries()});
-        for (;;) {
-            OpenFolder &folder = open.back();
-            if (folder.next < folder.entries.size()) {
-                const PropertyListValue entry = folder.entries[folder.next++];
-                std::optional<BookmarkNode> child = nodeWithoutChildren(entry, false);
-                if (child && child->isFolder())
-                    open.push_back({std::move(*child), entry.member("Children").dictionaries()});
-                else if (child)
-                    folder.node.children->append(std::move(*child));
-                continue;
-            }
-            BookmarkNode finished = std::move(folder.node);
-            open.pop_back();
-            if (open.empty())
-                return finished;
-            open.back().node.children->append(std::move(finished));
-        }
+        return bookmarkTree(
+            rootEntry,
+            [this](PropertyListValue entry, bool isRoot) { return nodeWithoutChildren(entry, isRoot); },
+            [](PropertyListValue entry) { return entry.member("Children").dictionaries(); });
     }
 
 private:

@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "Lists/UserCalendar.h"
+#include "Model/PointInTime.h"
+
+#include <QString>
+
+#include <memory>
+
+namespace roamlet
+{
+
+/// Computes with the days, weeks and months of one user's calendar. Not cheap: make one for a whole list, and
+/// use it on one thread.
+class CalendarMath
+{
+public:
+    explicit CalendarMath(const UserCalendar &calendar);
+    ~CalendarMath();
+    CalendarMath(const CalendarMath &) = delete;
+    CalendarMath &operator=(const CalendarMath &) = delete;
+
+    /// `time`, or the nearest moment that calendars count when browsers have stored nonsense.
+    static PointInTime countable(PointInTime time);
+
+    /// The first moment of the day that contains `time`. It is not always midnight: where clocks are put
+    /// forward at midnight, the day begins at one.
+    PointInTime startOfDay(PointInTime time);
+    PointInTime startOfWeek(PointInTime time);
+    PointInTime startOfMonth(PointInTime time);
+    PointInTime startOfPreviousDay(PointInTime startOfDay);
+    PointInTime startOfPreviousWeek(PointInTime startOfWeek);
+    PointInTime startOfNextMonth(PointInTime startOfMonth);
+
+    /// "March 2025", "marzo de 2025", "2025年3月".
+    QString monthTitle(PointInTime time);
+
+private:
+    struct Native;
+    std::unique_ptr<Native> m_native;
+};
+
+} // namespace roamlet

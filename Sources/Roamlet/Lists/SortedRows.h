@@ -1,0 +1,70 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "Lists/SortComparator.h"
+#include "Model/Collation.h"
+
+#include <QList>
+#include <QString>
+
+#include <functional>
+#include <optional>
+#include <stop_token>
+#include <utility>
+#include <variant>
+#include <vector>
+
+namespace roamlet
+{
+
+/// One comparator over rows that are known by their numbers only.
+struct SortLevel {
+    using Rank = std::function<quint64(qsizetype row)>;
+    using Text = std::function<QString(qsizetype row)>;
+
+    SortOrder order = SortOrder::Forward;
+    std::variant<Rank, Text> value;
+};
+
+/// The numbers of `count` rows in the order of `levels`: the first decides, each further one only between
+/// rows that are equal in all before it. Rows that are equal in all keep their order. Nothing when `stop` is
+/// requested on the way.
+std::optional<std::vector<qsizetype>> sortedRowNumbers(qsizetype count, const std::vector<SortLevel> &levels,
+                                                       const Collation &collation,
+                                                       const std::stop_token &stop = {});
+
+/// `rows` in the order of `order`; see above.
+template<typename Row>
+std::optional<QList<Row>> sortedRows(QList<Row> rows, const QList<SortComparator<Row>> &order,
+                                     const Collation &collation, const std::stop_token &stop = {})
+{
+    if (order.isEmpty())
+        return rows;
+    // Copies them where somebody else holds the same list, one after the other as they lie in memory. What
+    // follows only moves them: following each row's strings in sorted order would wait for memory each time.
+    Row *unsorted = rows.data();
+
+    std::vector<SortLevel> levels;
+    for (const SortComparator<Row> &comparator : order) {
+        std::visit(
+            [&](auto field) {
+                levels.push_back({.order = comparator.order, .value = [field, unsorted](qsizetype row) {
+                                      return field(unsorted[row]);
+                                  }});
+            },
+            SortColumns<Row>::field(comparator.column));
+    }
+    const std::optional numbers = sortedRowNumbers(rows.size(), levels, collation, stop);
+    if (!numbers)
+        return {};
+
+    QList<Row> sorted;
+    sorted.reserve(rows.size());
+    for (const qsizetype number : *numbers)
+        sorted.append(std::move(unsorted[number]));
+    return sorted;
+}
+
+} // namespace roamlet

@@ -1,0 +1,90 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "Lists/UserCalendar.h"
+
+#include <unicode/calendar.h>
+#include <unicode/dtfmtsym.h>
+#include <unicode/locid.h>
+#include <unicode/timezone.h>
+
+#include <memory>
+
+namespace roamlet
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+/// The weekdays in the library's order, which begins with Sunday at 1.
+Qt::DayOfWeek weekday(UCalendarDaysOfWeek day)
+{
+    return day == UCAL_SUNDAY ? Qt::Sunday : static_cast<Qt::DayOfWeek>(day - 1);
+}
+
+Qt::DayOfWeek usualFirstWeekday(const QString &locale)
+{
+    UErrorCode status = U_ZERO_ERROR;
+    const std::unique_ptr<icu::Calendar> calendar(
+        icu::Calendar::createInstance(icu::Locale(locale.toLatin1().constData()), status));
+    if (U_FAILURE(status))
+        return Qt::Monday;
+    const UCalendarDaysOfWeek day = calendar->getFirstDayOfWeek(status);
+    return U_SUCCESS(status) ? weekday(day) : Qt::Monday;
+}
+
+bool hasMonthNames(const icu::Locale &locale)
+{
+    UErrorCode status = U_ZERO_ERROR;
+    const icu::DateFormatSymbols symbols(locale, status);
+    const icu::Locale found = symbols.getLocale(ULOC_VALID_LOCALE, status);
+    return U_SUCCESS(status) && *found.getLanguage() != '\0';
+}
+
+QString hostTimeZone()
+{
+    const std::unique_ptr<icu::TimeZone> zone(icu::TimeZone::detectHostTimeZone());
+    icu::UnicodeString name;
+    if (zone)
+        zone->getID(name);
+    return QString::fromUtf16(name.getBuffer(), name.length());
+}
+
+} // namespace
+
+QString UserCalendar::localeOf(const QString &posixName)
+{
+    const QString modifier = posixName.section(u'@', 1);
+    QString name = posixName.section(u'@', 0, 0).section(u'.', 0, 0);
+    if (name.isEmpty() || name == u"C" || name == u"POSIX")
+        return u"en_001"_s;
+    const QString script = modifier == u"latin" ? u"Latn"_s : modifier == u"cyrillic" ? u"Cyrl"_s : QString();
+    const QString region = name.section(u'_', 1);
+    if (!script.isEmpty())
+        name = name.section(u'_', 0, 0) % u'_' % script %
+               (region.isEmpty() ? QString() : QString(u'_' % region));
+    const icu::Locale locale(name.toLatin1().constData());
+    if (!locale.isBogus() && hasMonthNames(locale))
+        return QString::fromLatin1(locale.getName());
+    const QString country = QString::fromLatin1(locale.isBogus() ? "" : locale.getCountry());
+    return country.isEmpty() ? u"en_001"_s : QString(u"en_" % country);
+}
+
+UserCalendar UserCalendar::of(const QString &timeZone, const QString &locale)
+{
+    return {.timeZone = timeZone, .locale = locale, .firstWeekday = usualFirstWeekday(locale)};
+}
+
+UserCalendar UserCalendar::ofSystem()
+{
+    for (const char *variable : {"LC_ALL", "LC_TIME", "LANG"}) {
+        const QString name = qEnvironmentVariable(variable);
+        if (!name.isEmpty())
+            return of(hostTimeZone(), localeOf(name));
+    }
+    return of(hostTimeZone(), localeOf({}));
+}
+
+} // namespace roamlet
