@@ -32,7 +32,6 @@ public:
             onError();
     }
     bool isTerminal() const override { return terminal; }
-    int columns() const override { return 80; }
 
     /// What was written to the output stream, without the line end after the last line.
     QStringList lines() const

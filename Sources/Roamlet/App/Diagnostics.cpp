@@ -266,7 +266,8 @@ QString Job::labelOf(const QString &sourceID) const
 
 int Job::watch(const std::optional<QString> &duration)
 {
-    static const QRegularExpression decimal(u"^[+-]?([0-9]+\\.?[0-9]*|\\.[0-9]+)([eE][+-]?[0-9]+)?$"_s);
+    static const QRegularExpression decimal(
+        QRegularExpression::anchoredPattern(u"[+-]?([0-9]+\\.?[0-9]*|\\.[0-9]+)([eE][+-]?[0-9]+)?"));
     double seconds = defaultWatchSeconds;
     if (duration && decimal.match(*duration).hasMatch())
         seconds = duration->toDouble();

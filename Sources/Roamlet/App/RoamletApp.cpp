@@ -59,6 +59,7 @@ int runDiagnostics(const Command &command, int argc, char **argv)
 
 int run(int argc, char **argv)
 {
+    LinuxConsole::holdClosedStreams();
     useUnicodeLocale();
     const Command command = Command::of(argumentsOf(argc, argv));
     LinuxConsole console({});

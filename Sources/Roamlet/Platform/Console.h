@@ -25,8 +25,6 @@ public:
     virtual void writeError(QByteArrayView bytes) = 0;
     /// Whether a person reads the output on a terminal, as opposed to a file or another program.
     virtual bool isTerminal() const = 0;
-    /// How many columns the terminal has.
-    virtual int columns() const = 0;
 };
 
 } // namespace roamlet

@@ -5,14 +5,15 @@
 
 #include "Platform/Linux/LinuxIO.h"
 
+#include <fcntl.h>
 #include <signal.h>
 #include <sys/eventfd.h>
-#include <sys/ioctl.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <array>
 #include <climits>
+#include <cstdlib>
 #include <poll.h>
 
 namespace roamlet
@@ -57,11 +58,13 @@ bool LinuxConsole::isTerminal() const
     return isatty(STDOUT_FILENO) == 1;
 }
 
-int LinuxConsole::columns() const
+void LinuxConsole::holdClosedStreams()
 {
-    constexpr int usual = 80;
-    winsize size = {};
-    return ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0 ? size.ws_col : usual;
+    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        // The lowest free number is the one that is taken.
+        if (fcntl(stream, F_GETFD) < 0 && open("/", O_PATH) != stream)
+            abort();
+    }
 }
 
 } // namespace roamlet

@@ -22,7 +22,10 @@ public:
     std::error_code writeOutput(QByteArrayView bytes) override;
     void writeError(QByteArrayView bytes) override;
     bool isTerminal() const override;
-    int columns() const override;
+
+    /// Takes the places of standard streams that were closed before the start, so that no file opened later
+    /// gets the output; writing to them goes on failing. Before anything is opened.
+    static void holdClosedStreams();
 
 private:
     int m_wake;
