@@ -430,7 +430,6 @@ TEST_F(LinuxFilesTest, copyingTellsWhyItFailed)
 TEST_F(LinuxFilesTest, aCopyThatFindsNoRoomLeavesNothing)
 {
     const QString source = file(u"source"_s, bytes(4 << 20));
-    const FolderFingerprint before(path({}));
     const std::error_code error = [&] {
         const FileSizeLimit limit(1 << 20);
         return copy(source, path(u"target"_s));
