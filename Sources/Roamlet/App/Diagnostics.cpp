@@ -90,8 +90,8 @@ private:
 
     /// The bookmarks of one source, or why there are none.
     std::expected<QList<BookmarkNode>, QString> bookmarks(const QString &sourceID) const;
-    /// What stands for the source that the watcher reports.
-    QString labelOf(const QString &sourceID) const;
+    /// What stands for the sources that the watcher reports, sorted.
+    QStringList labels(const QSet<QString> &sourceIDs) const;
 
     /// A text of the user's as it may be shown: unchanged, but never obeyed by a terminal.
     QString text(const QString &stored) const
@@ -257,11 +257,19 @@ int Job::search(const HistoryQuery &query)
     return print(lines);
 }
 
-QString Job::labelOf(const QString &sourceID) const
+QStringList Job::labels(const QSet<QString> &sourceIDs) const
 {
-    const QList<Source> sources = Library::allProfiles({}, m_context);
-    const auto source = std::ranges::find(sources, sourceID, &Source::id);
-    return source == sources.end() ? sourceID : source->label();
+    // A browser may have been installed since the start.
+    ReadContext context = Library::readContext(m_platform);
+    context.stop = m_stop;
+    const QList<Source> sources = Library::allProfiles({}, context);
+    QStringList result;
+    for (const QString &id : sourceIDs) {
+        const auto source = std::ranges::find(sources, id, &Source::id);
+        result.append(text(source == sources.end() ? id : source->label()));
+    }
+    result.sort();
+    return result;
 }
 
 int Job::watch(const std::optional<QString> &duration)
@@ -278,12 +286,8 @@ int Job::watch(const std::optional<QString> &duration)
     int status = success;
     QEventLoop loop;
     const BrowserWatcher watcher(m_platform, [&](const QSet<QString> &sourceIDs) {
-        QStringList labels;
-        for (const QString &id : sourceIDs)
-            labels.append(text(labelOf(id)));
-        labels.sort();
         const PointInTime now = std::chrono::time_point_cast<PointInTime::duration>(m_platform.clock.now());
-        status = print({localTime(now) % u"  " % labels.join(u", "_s)});
+        status = print({localTime(now) % u"  " % labels(sourceIDs).join(u", "_s)});
         if (!m_canWrite)
             loop.quit();
     });

@@ -3,6 +3,9 @@
 
 #include "Lists/CalendarMath.h"
 
+#include <QDateTime>
+#include <QTimeZone>
+
 #include <unicode/calendar.h>
 #include <unicode/locid.h>
 #include <unicode/smpdtfmt.h>
@@ -10,6 +13,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace roamlet
 {
@@ -20,42 +24,68 @@ namespace
 /// Far enough for every date that a browser can have stored, and near enough for every calendar.
 constexpr double farthestSeconds = 1e12;
 
-/// The library counts whole milliseconds. Days begin at whole seconds, and rounding must never lift the last
-/// moment of a day into the next one.
-UDate milliseconds(PointInTime time)
+/// No clock on earth is farther from UTC.
+constexpr double farthestOffset = 26.0 * 3600;
+
+QDateTime utc(double seconds)
 {
-    return std::floor(secondsSince1970(CalendarMath::countable(time))) * 1000;
+    return QDateTime::fromSecsSinceEpoch(static_cast<qint64>(seconds), Qt::UTC);
 }
 
-icu::UnicodeString unicode(const QString &text)
+QTimeZone knownTimeZone(const QString &name)
 {
-    return {text.utf16(), static_cast<int32_t>(text.size())};
+    const QTimeZone zone(name.toLatin1());
+    return zone.isValid() ? zone : QTimeZone::utc();
 }
 
 } // namespace
 
 struct CalendarMath::Native {
+    // The time zone is not left to the calendar: distributions keep the system's rules up to date, but not
+    // the library's own copy of them. The calendar counts in what the clock on the wall shows, as if that
+    // were UTC.
+    QTimeZone zone;
     UErrorCode status = U_ZERO_ERROR;
     std::unique_ptr<icu::Calendar> calendar;
     std::unique_ptr<icu::DateFormat> monthFormat;
 
-    explicit Native(const UserCalendar &user)
+    explicit Native(const UserCalendar &user) : zone(knownTimeZone(user.timeZone))
     {
         const icu::Locale locale(user.locale.toLatin1().constData());
-        std::unique_ptr<icu::TimeZone> zone(icu::TimeZone::createTimeZone(unicode(user.timeZone)));
-        calendar.reset(icu::Calendar::createInstance(zone.release(), locale, status));
+        calendar.reset(icu::Calendar::createInstance(icu::TimeZone::getGMT()->clone(), locale, status));
         if (U_FAILURE(status))
             return;
-        calendar->setFirstDayOfWeek(user.firstWeekday == Qt::Sunday
-                                        ? UCAL_SUNDAY
-                                        : static_cast<UCalendarDaysOfWeek>(user.firstWeekday + 1));
-        // The first moment of a day: of a midnight that comes twice the first, of one that never comes the
-        // moment at which the clocks are put forward.
-        calendar->setRepeatedWallTimeOption(UCAL_WALLTIME_FIRST);
-        calendar->setSkippedWallTimeOption(UCAL_WALLTIME_NEXT_VALID);
+        // There the week begins with Sunday at 1.
+        calendar->setFirstDayOfWeek(static_cast<UCalendarDaysOfWeek>(user.firstWeekday % 7 + 1));
         // The library remembers the pattern of each locale; looking it up anew takes longer than a list does.
         monthFormat.reset(
             icu::DateFormat::createInstanceForSkeleton(calendar->clone(), "yMMMM", locale, status));
+    }
+
+    /// What the clock on the wall shows, in whole seconds: days begin at whole seconds, and rounding must
+    /// never lift the last moment of a day into the next one.
+    double wallTime(PointInTime time) const
+    {
+        const double seconds = std::floor(secondsSince1970(countable(time)));
+        return seconds + zone.offsetFromUtc(utc(seconds));
+    }
+
+    /// The first moment at which the clock on the wall shows `wall` or more. A time that comes twice is met
+    /// the first time, one that never comes at the moment at which the clocks are put forward over it.
+    PointInTime firstMoment(double wall) const
+    {
+        const QTimeZone::OffsetDataList changes =
+            zone.transitions(utc(wall - farthestOffset), utc(wall + farthestOffset));
+        double begin = wall - farthestOffset;
+        double offset = zone.offsetFromUtc(utc(begin));
+        for (const QTimeZone::OffsetData &change : changes) {
+            const auto end = static_cast<double>(change.atUtc.toSecsSinceEpoch());
+            if (const double moment = std::max(begin, wall - offset); moment < end)
+                return pointInTime(moment);
+            begin = end;
+            offset = change.offsetFromUtc;
+        }
+        return pointInTime(std::max(begin, wall - offset));
     }
 
     /// Goes to `time`, changes the day and returns the first moment of the day that this leads to. Without
@@ -66,12 +96,12 @@ struct CalendarMath::Native {
         if (U_FAILURE(status))
             return time;
         UErrorCode result = U_ZERO_ERROR;
-        calendar->setTime(milliseconds(time), result);
+        calendar->setTime(wallTime(time) * 1000, result);
         change(result);
         for (const UCalendarDateFields field : {UCAL_HOUR_OF_DAY, UCAL_MINUTE, UCAL_SECOND, UCAL_MILLISECOND})
             calendar->set(field, 0);
-        const UDate start = calendar->getTime(result);
-        return U_SUCCESS(result) ? pointInTime(start / 1000) : time;
+        const UDate midnight = calendar->getTime(result);
+        return U_SUCCESS(result) ? firstMoment(midnight / 1000) : time;
     }
 };
 
@@ -130,7 +160,7 @@ QString CalendarMath::monthTitle(PointInTime time)
     if (U_FAILURE(m_native->status))
         return {};
     icu::UnicodeString title;
-    m_native->monthFormat->format(milliseconds(time), title);
+    m_native->monthFormat->format(m_native->wallTime(time) * 1000, title);
     return QString::fromUtf16(title.getBuffer(), title.length());
 }
 

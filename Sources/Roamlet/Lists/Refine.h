@@ -16,6 +16,7 @@
 #include <optional>
 #include <stop_token>
 #include <utility>
+#include <vector>
 
 namespace roamlet
 {
@@ -53,14 +54,18 @@ std::optional<QList<Row>> refinedRows(const QList<Row> &rows, const QStringList 
 {
     if (words.isEmpty())
         return sortedRows(rows, order, collation, stop);
-    QList<Row> kept;
+    std::vector<const Row *> found;
     for (const Row &row : rows) {
         if (stop.stop_requested())
             return {};
         const auto &text = std::invoke(key, row);
         if (std::ranges::all_of(words, [&text](const QString &word) { return text.contains(word); }))
-            kept.append(row);
+            found.push_back(&row);
     }
+    QList<Row> kept;
+    kept.reserve(static_cast<qsizetype>(found.size()));
+    for (const Row *row : found)
+        kept.append(*row);
     return sortedRows(std::move(kept), order, collation, stop);
 }
 

@@ -15,15 +15,16 @@ namespace
 constexpr quint64 signBit = quint64{1} << 63;
 
 template<typename Row>
-QString title(const Row &row)
+QStringView title(const Row &row, QString & /*made*/)
 {
     return row.title;
 }
 
 template<typename Row>
-QString sourceLabel(const Row &row)
+QStringView sourceLabel(const Row &row, QString &made)
 {
-    return row.source.label();
+    made = row.source.label();
+    return made;
 }
 
 template<typename Row>
@@ -77,7 +78,7 @@ SortField<Bookmark> SortColumns<Bookmark>::field(Column column)
     case Column::Title:
         break;
     case Column::Folder:
-        return [](const Bookmark &bookmark) { return bookmark.folder; };
+        return [](const Bookmark &bookmark, QString & /*made*/) { return QStringView(bookmark.folder); };
     case Column::DateAdded:
         return dateAdded<Bookmark>;
     case Column::Source:

@@ -33,9 +33,15 @@ struct OptionalDateComparator {
 quint64 sortRank(qint64 number);
 quint64 sortRank(std::optional<PointInTime> date);
 
-/// What a column gives of a row for sorting: a rank, or a text that is compared as the user's language does.
+/// What a column gives of a row for sorting: a rank,
 template<typename Row>
-using SortField = std::variant<quint64 (*)(const Row &), QString (*)(const Row &)>;
+using SortRank = quint64 (*)(const Row &row);
+/// or a text that is compared as the user's language does. It lies in the row, or in `made` when it had to be
+/// put together: counting references to a string of each row takes longer than sorting them.
+template<typename Row>
+using SortText = QStringView (*)(const Row &row, QString &made);
+template<typename Row>
+using SortField = std::variant<SortRank<Row>, SortText<Row>>;
 
 /// The columns by which rows of a type can be sorted.
 template<typename Row>

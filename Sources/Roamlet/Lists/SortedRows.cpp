@@ -4,7 +4,6 @@
 #include "Lists/SortedRows.h"
 
 #include <algorithm>
-#include <cstring>
 #include <numeric>
 #include <span>
 
@@ -17,76 +16,84 @@ namespace
 /// Rows that the levels so far found equal.
 using Run = std::span<qsizetype>;
 
-/// Sorts `entries`, writes their rows to `run` and returns the runs that are equal.
-template<typename Entry, typename Less>
-void sortEntries(Run run, std::vector<Entry> &entries, std::vector<Run> &equalRuns, Less less)
+struct Entry {
+    /// What the row is sorted by now: its rank, or the next bytes of its key as a number.
+    quint64 rank;
+    /// Where its key goes on.
+    std::size_t key;
+    qsizetype row;
+};
+
+/// Sorts `entries` by their ranks and calls `equal` for each part with more than one entry of the same rank.
+template<typename Equal>
+void sortByRank(std::span<Entry> entries, Equal equal)
 {
     // Lists mostly come as they are wanted.
-    if (!std::ranges::is_sorted(entries, less))
-        std::ranges::stable_sort(entries, less);
-    for (std::size_t begin = 0, i = 0; i < entries.size(); ++i) {
-        run[i] = entries[i].row;
-        const bool isLast = i + 1 == entries.size() || less(entries[i], entries[i + 1]);
-        if (isLast) {
-            if (i > begin)
-                equalRuns.push_back(run.subspan(begin, i + 1 - begin));
-            begin = i + 1;
-        }
+    if (!std::ranges::is_sorted(entries, {}, &Entry::rank))
+        std::ranges::stable_sort(entries, {}, &Entry::rank);
+    for (auto begin = entries.begin(); begin != entries.end();) {
+        const auto end = std::find_if(
+            begin, entries.end(), [rank = begin->rank](const Entry &entry) { return entry.rank != rank; });
+        if (end - begin > 1)
+            equal(std::span(begin, end));
+        begin = end;
     }
 }
 
+/// Sorts runs by one level.
 class Sorter
 {
 public:
-    Sorter(const Collation &collation, SortOrder order) : m_collation(collation), m_order(order) {}
+    Sorter(const Collation &collation, SortOrder order)
+        : m_collation(collation), m_reversal(order == SortOrder::Forward ? 0 : ~quint64{0})
+    {
+    }
 
+    /// Sorts `run` and appends the parts of it that are equal to `equalRuns`.
     void sort(Run run, const SortLevel::Rank &rank, std::vector<Run> &equalRuns)
     {
-        const quint64 mask = m_order == SortOrder::Forward ? 0 : ~quint64{0};
-        m_ranks.clear();
+        m_entries.clear();
         for (const qsizetype row : run)
-            m_ranks.push_back({rank(row) ^ mask, row});
-        sortEntries(run, m_ranks, equalRuns,
-                    [](const RankEntry &left, const RankEntry &right) { return left.rank < right.rank; });
+            m_entries.push_back({rank(row) ^ m_reversal, 0, row});
+        sortByRank(m_entries, [&](std::span<Entry> equal) { equalRuns.push_back(runOf(equal, run)); });
+        write(run);
     }
 
     void sort(Run run, const SortLevel::Text &text, std::vector<Run> &equalRuns)
     {
+        m_entries.clear();
         m_keys.clear();
-        m_texts.clear();
+        QString made;
         for (const qsizetype row : run) {
-            const std::size_t key = m_keys.size();
-            m_collation.appendSortKey(text(row), m_keys);
-            m_texts.push_back({beginning(key), key, row});
+            m_entries.push_back({0, m_keys.size(), row});
+            m_collation.appendSortKey(text(row, made), m_keys);
         }
-        const auto before = [this](const TextEntry &left, const TextEntry &right) {
-            return left.beginning != right.beginning ? left.beginning < right.beginning
-                                                     : std::strcmp(&m_keys[left.key], &m_keys[right.key]) < 0;
-        };
-        if (m_order == SortOrder::Forward)
-            sortEntries(run, m_texts, equalRuns, before);
-        else
-            sortEntries(run, m_texts, equalRuns,
-                        [&](const TextEntry &left, const TextEntry &right) { return before(right, left); });
+        // Eight bytes of all keys at a time, and the next eight only where these are equal: comparing whole
+        // keys in pairs would wait for memory in each comparison.
+        m_open.assign(1, m_entries);
+        while (!m_open.empty()) {
+            const std::span<Entry> entries = m_open.back();
+            m_open.pop_back();
+            for (Entry &entry : entries)
+                entry.rank = nextBytes(entry.key) ^ m_reversal;
+            sortByRank(entries, [&](std::span<Entry> equal) {
+                const bool isWholeKey = ((equal.front().rank ^ m_reversal) & 0xff) == 0;
+                if (isWholeKey)
+                    equalRuns.push_back(runOf(equal, run));
+                else
+                    m_open.push_back(equal);
+            });
+        }
+        write(run);
     }
 
 private:
-    struct RankEntry {
-        quint64 rank;
-        qsizetype row;
-    };
-    struct TextEntry {
-        /// The first bytes of the key as a number: most comparisons end here.
-        quint64 beginning;
-        std::size_t key;
-        qsizetype row;
-    };
-
-    quint64 beginning(std::size_t key) const
+    /// The next bytes at `key` as a number, and moves on behind them. A key that has ended gives zeros.
+    quint64 nextBytes(std::size_t &key) const
     {
         quint64 result = 0;
         for (std::size_t i = 0; i < sizeof result; ++i) {
-            const auto byte = static_cast<unsigned char>(key < m_keys.size() ? m_keys[key] : '\0');
+            const auto byte = static_cast<unsigned char>(m_keys[key]);
             result = result << 8 | byte;
             if (byte != 0)
                 ++key;
@@ -94,11 +101,19 @@ private:
         return result;
     }
 
+    Run runOf(std::span<Entry> entries, Run run) const
+    {
+        return run.subspan(static_cast<std::size_t>(entries.data() - m_entries.data()), entries.size());
+    }
+
+    void write(Run run) const { std::ranges::transform(m_entries, run.begin(), &Entry::row); }
+
     const Collation &m_collation;
-    SortOrder m_order;
-    std::vector<RankEntry> m_ranks;
-    std::vector<TextEntry> m_texts;
+    quint64 m_reversal;
+    std::vector<Entry> m_entries;
     std::vector<char> m_keys;
+    /// Parts of the entries whose keys are equal so far.
+    std::vector<std::span<Entry>> m_open;
 };
 
 } // namespace

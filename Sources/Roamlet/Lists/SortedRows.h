@@ -22,11 +22,25 @@ namespace roamlet
 /// One comparator over rows that are known by their numbers only.
 struct SortLevel {
     using Rank = std::function<quint64(qsizetype row)>;
-    using Text = std::function<QString(qsizetype row)>;
+    /// The text lies in the row, or in `made` when it had to be put together.
+    using Text = std::function<QStringView(qsizetype row, QString &made)>;
+
+    using Value = std::variant<Rank, Text>;
 
     SortOrder order = SortOrder::Forward;
-    std::variant<Rank, Text> value;
+    Value value;
 };
+
+/// `field` of the row with a number among those that begin at `rows`.
+template<typename Row>
+SortLevel::Value sortValue(const SortField<Row> &field, const Row *rows)
+{
+    if (const auto *rank = std::get_if<SortRank<Row>>(&field))
+        return [rank = *rank, rows](qsizetype row) { return rank(rows[row]); };
+    return [text = std::get<SortText<Row>>(field), rows](qsizetype row, QString &made) {
+        return text(rows[row], made);
+    };
+}
 
 /// The numbers of `count` rows in the order of `levels`: the first decides, each further one only between
 /// rows that are equal in all before it. Rows that are equal in all keep their order. Nothing when `stop` is
@@ -47,15 +61,8 @@ std::optional<QList<Row>> sortedRows(QList<Row> rows, const QList<SortComparator
     Row *unsorted = rows.data();
 
     std::vector<SortLevel> levels;
-    for (const SortComparator<Row> &comparator : order) {
-        std::visit(
-            [&](auto field) {
-                levels.push_back({.order = comparator.order, .value = [field, unsorted](qsizetype row) {
-                                      return field(unsorted[row]);
-                                  }});
-            },
-            SortColumns<Row>::field(comparator.column));
-    }
+    for (const SortComparator<Row> &comparator : order)
+        levels.push_back({comparator.order, sortValue(SortColumns<Row>::field(comparator.column), unsorted)});
     const std::optional numbers = sortedRowNumbers(rows.size(), levels, collation, stop);
     if (!numbers)
         return {};

@@ -3,10 +3,11 @@
 
 #include "Lists/UserCalendar.h"
 
+#include <QTimeZone>
+
 #include <unicode/calendar.h>
 #include <unicode/dtfmtsym.h>
 #include <unicode/locid.h>
-#include <unicode/timezone.h>
 
 #include <memory>
 
@@ -43,15 +44,6 @@ bool hasMonthNames(const icu::Locale &locale)
     return U_SUCCESS(status) && *found.getLanguage() != '\0';
 }
 
-QString hostTimeZone()
-{
-    const std::unique_ptr<icu::TimeZone> zone(icu::TimeZone::detectHostTimeZone());
-    icu::UnicodeString name;
-    if (zone)
-        zone->getID(name);
-    return QString::fromUtf16(name.getBuffer(), name.length());
-}
-
 } // namespace
 
 QString UserCalendar::localeOf(const QString &posixName)
@@ -79,12 +71,13 @@ UserCalendar UserCalendar::of(const QString &timeZone, const QString &locale)
 
 UserCalendar UserCalendar::ofSystem()
 {
+    const QString timeZone = QString::fromLatin1(QTimeZone::systemTimeZoneId());
     for (const char *variable : {"LC_ALL", "LC_TIME", "LANG"}) {
         const QString name = qEnvironmentVariable(variable);
         if (!name.isEmpty())
-            return of(hostTimeZone(), localeOf(name));
+            return of(timeZone, localeOf(name));
     }
-    return of(hostTimeZone(), localeOf({}));
+    return of(timeZone, localeOf({}));
 }
 
 } // namespace roamlet

@@ -125,9 +125,14 @@ std::optional<QString> binaryRefusal(QByteArrayView bytes)
     std::vector<State> states(objects.count(), State::New);
     std::vector<std::uint64_t> unfolded(objects.count(), 1);
     std::vector<Visit> open;
+    // Lists that overlap in a damaged file would cost far more memory here than the file has bytes.
+    std::uint64_t followed = 0;
     const auto enter = [&](std::uint64_t object) {
         Visit visit{object, {}};
         if (!objects.references(object, visit.references))
+            return false;
+        followed += visit.references.size();
+        if (followed > most)
             return false;
         states[object] = State::Open;
         open.push_back(std::move(visit));
@@ -159,20 +164,80 @@ std::optional<QString> binaryRefusal(QByteArrayView bytes)
     return {};
 }
 
+/// The elements of an XML text, seen as the library sees them: what it skips must not count here either.
+class XmlElements
+{
+public:
+    explicit XmlElements(QByteArrayView text) : m_text(text) {}
+
+    /// The inside of the next tag, without its brackets; nothing at the end.
+    std::optional<QByteArrayView> next()
+    {
+        for (;;) {
+            const qsizetype start = m_text.indexOf('<', m_position);
+            if (start < 0)
+                return {};
+            m_position = start + 1;
+            const QByteArrayView rest = m_text.sliced(m_position);
+            if (rest.startsWith("!--")) {
+                skipTo("-->");
+            } else if (rest.startsWith("![CDATA[")) {
+                skipTo("]]>");
+            } else if (rest.startsWith('?')) {
+                skipQuotedTo("?>");
+            } else if (rest.startsWith("!DOCTYPE")) {
+                skipDocumentType();
+            } else {
+                skipQuotedTo(">");
+                return m_text.sliced(start + 1, std::max<qsizetype>(m_position - start - 2, 0));
+            }
+        }
+    }
+
+private:
+    void skipTo(QByteArrayView end)
+    {
+        const qsizetype place = m_text.indexOf(end, m_position);
+        m_position = place < 0 ? m_text.size() : place + end.size();
+    }
+
+    /// An end between double quotes is none.
+    void skipQuotedTo(QByteArrayView end)
+    {
+        while (m_position < m_text.size() && !m_text.sliced(m_position).startsWith(end)) {
+            const bool isQuote = m_text[m_position++] == '"';
+            if (isQuote)
+                skipTo("\"");
+        }
+        m_position = std::min(m_position + end.size(), m_text.size());
+    }
+
+    void skipDocumentType()
+    {
+        const qsizetype end = m_text.indexOf('>', m_position);
+        const qsizetype subset = m_text.indexOf('[', m_position);
+        skipTo(subset >= 0 && subset < end ? "]>" : ">");
+    }
+
+    QByteArrayView m_text;
+    qsizetype m_position = 0;
+};
+
 std::optional<QString> xmlRefusal(QByteArrayView bytes)
 {
     int depth = 0;
-    int deepest = 0;
-    for (qsizetype tag = bytes.indexOf('<'); tag >= 0; tag = bytes.indexOf('<', tag + 1)) {
-        const QByteArrayView rest = bytes.sliced(tag + 1);
-        if (rest.startsWith("dict") || rest.startsWith("array"))
-            deepest = std::max(deepest, ++depth);
-        else if (rest.startsWith("/dict") || rest.startsWith("/array"))
+    XmlElements elements(bytes);
+    while (const std::optional<QByteArrayView> tag = elements.next()) {
+        if (tag->endsWith('/'))
+            continue;
+        if (tag->startsWith("dict") || tag->startsWith("array"))
+            ++depth;
+        else if (tag->startsWith("/dict") || tag->startsWith("/array"))
             --depth;
-        else if (rest.startsWith("!ENTITY"))
-            return u"not a property list: it declares entities"_s;
+        if (depth > deepestNesting)
+            return u"it is nested too deeply"_s;
     }
-    return deepest > deepestNesting ? std::optional(u"it is nested too deeply"_s) : std::nullopt;
+    return {};
 }
 
 } // namespace

@@ -16,7 +16,6 @@
 #include <sys/inotify.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <array>
 #include <cstring>
 #include <utility>
@@ -62,15 +61,11 @@ private:
     {
         return isRoot(folder) || isRoot(QFileInfo(folder).path());
     }
-    bool isWatched(const QString &folder) const
-    {
-        return std::find(m_folders.cbegin(), m_folders.cend(), folder) != m_folders.cend();
-    }
-
     bool watch(const QString &folder)
     {
-        const int number = inotify_add_watch(m_descriptor, QFile::encodeName(folder).constData(),
-                                             isRootOrDirectlyBelow(folder) ? changes : arrivals);
+        const int number =
+            inotify_add_watch(m_descriptor, QFile::encodeName(folder).constData(),
+                              (isRootOrDirectlyBelow(folder) ? changes : arrivals) | IN_MASK_ADD);
         if (number < 0)
             return false;
         if (!m_folders.contains(number, folder))
@@ -81,7 +76,7 @@ private:
     void watchRoots(Contents contents)
     {
         for (const QString &root : std::as_const(m_roots)) {
-            if (!isWatched(root))
+            if (!m_watchedRoots.contains(root))
                 watchRoot(root, contents);
         }
     }
@@ -89,6 +84,7 @@ private:
     void watchRoot(const QString &root, Contents contents)
     {
         if (watch(root)) {
+            m_watchedRoots.insert(root);
             watchContents(root, contents);
             return;
         }
@@ -116,7 +112,10 @@ private:
 
     void watchSubfolder(const QString &folder, Contents contents)
     {
-        if (watch(folder) && contents == Contents::New)
+        // A root can lie in another one.
+        if (isRoot(folder))
+            watchRoots(contents);
+        else if (watch(folder) && contents == Contents::New)
             noteFilesIn(folder);
     }
 
@@ -168,6 +167,8 @@ private:
         const QStringList folders = m_folders.values(event.wd);
         if ((event.mask & IN_IGNORED) != 0) {
             m_folders.remove(event.wd);
+            for (const QString &folder : folders)
+                m_watchedRoots.remove(folder);
             for (const QString &folder : folders) {
                 // Another one may have taken its place already.
                 if (!isRoot(folder) && isRootOrDirectlyBelow(folder))
@@ -204,14 +205,15 @@ private:
         }
     }
 
-    /// Events were lost: anything may have changed.
+    /// Events were lost: anything may have changed, also which folders there are.
     void reportEverything()
     {
+        const QList<int> numbers = m_folders.uniqueKeys();
+        for (const int number : numbers)
+            inotify_rm_watch(m_descriptor, number);
+        m_folders.clear();
+        m_watchedRoots.clear();
         watchRoots(Contents::New);
-        for (const QString &root : std::as_const(m_roots)) {
-            if (isWatched(root))
-                watchContents(root, Contents::New);
-        }
     }
 
     int m_descriptor;
@@ -220,6 +222,7 @@ private:
     const Clock &m_clock;
     /// By the kernel's number. Two names can lead to one folder.
     QMultiHash<int, QString> m_folders;
+    QSet<QString> m_watchedRoots;
     QSet<QString> m_changed;
     QSocketNotifier m_notifier;
     QObject m_context;

@@ -35,7 +35,11 @@ std::optional<QString> configuredRoot(const UserDefaults &defaults, const QStrin
 
 LinuxFolders::Environment LinuxFolders::Environment::ofThisProcess()
 {
-    return {.home = QDir::homePath(), .configHome = roamlet::configHome(), .temporary = QDir::tempPath()};
+    // As it stands: where it does not exist, making the private copies there makes it or says why it cannot.
+    const QString temporary = qEnvironmentVariable("TMPDIR");
+    return {.home = QDir::homePath(),
+            .configHome = roamlet::configHome(),
+            .temporary = QDir::isAbsolutePath(temporary) ? QDir::cleanPath(temporary) : u"/tmp"_s};
 }
 
 LinuxFolders::LinuxFolders(Environment environment, const Files &files, const UserDefaults &defaults)

@@ -1,0 +1,128 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "Lists/DayGroups.h"
+
+#include "Lists/CalendarMath.h"
+
+#include <QHash>
+
+#include <algorithm>
+#include <array>
+#include <numeric>
+#include <utility>
+
+namespace roamlet
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+/// Gives each moment the section that it belongs to.
+class DaySections
+{
+public:
+    struct Section {
+        QString title;
+        PointInTime date;
+    };
+
+    DaySections(PointInTime now, const UserCalendar &calendar, SectionNumbers &numbers)
+        : m_math(calendar), m_numbers(numbers)
+    {
+        const PointInTime today = m_math.startOfDay(now);
+        const PointInTime thisWeek = m_math.startOfWeek(now);
+        // In this order: a week may begin in the month before, and yesterday may lie in the week before.
+        add(u"Today"_s, today);
+        add(u"Yesterday"_s, m_math.startOfPreviousDay(today));
+        add(u"Earlier This Week"_s, thisWeek);
+        add(u"Last Week"_s, m_math.startOfPreviousWeek(thisWeek));
+        add(u"Earlier This Month"_s, m_math.startOfMonth(now));
+    }
+
+    std::size_t sectionOf(PointInTime time)
+    {
+        for (std::size_t section = 0; section < recentCount; ++section) {
+            if (time >= m_sections[section].date)
+                return section;
+        }
+        const PointInTime counted = CalendarMath::countable(time);
+        if (!m_lastMonth.contains(counted))
+            m_lastMonth = monthOf(counted);
+        return m_lastMonth.section;
+    }
+
+    const std::vector<Section> &sections() const { return m_sections; }
+
+private:
+    static constexpr std::size_t recentCount = 5;
+
+    struct Month {
+        PointInTime begin;
+        PointInTime end;
+        std::size_t section;
+
+        bool contains(PointInTime time) const { return time >= begin && time < end; }
+    };
+
+    std::size_t add(const QString &title, PointInTime date)
+    {
+        m_sections.push_back({title, date});
+        return m_numbers.addSection();
+    }
+
+    Month monthOf(PointInTime time)
+    {
+        const auto next = std::ranges::upper_bound(m_months, time, {}, &Month::begin);
+        if (next != m_months.begin() && std::prev(next)->contains(time))
+            return *std::prev(next);
+        const PointInTime begin = m_math.startOfMonth(time);
+        const QString title = m_math.monthTitle(begin);
+        // Years before the first have the same names as those after it.
+        auto section = m_sectionOfTitle.constFind(title);
+        if (section == m_sectionOfTitle.constEnd())
+            section = m_sectionOfTitle.insert(title, add(title, begin));
+        return *m_months.insert(next, {begin, m_math.startOfNextMonth(begin), *section});
+    }
+
+    CalendarMath m_math;
+    SectionNumbers &m_numbers;
+    std::vector<Section> m_sections;
+    /// The months that rows were found in, by their beginning.
+    std::vector<Month> m_months;
+    Month m_lastMonth{};
+    QHash<QString, std::size_t> m_sectionOfTitle;
+};
+
+} // namespace
+
+QList<RowGroup<HistoryItem>> dayGroups(const QList<HistoryItem> &items, bool newestFirst, PointInTime now,
+                                       const UserCalendar &calendar)
+{
+    if (items.isEmpty())
+        return {};
+    SectionNumbers numbers(items.size());
+    DaySections days(now, calendar, numbers);
+    for (const HistoryItem &item : items)
+        numbers.addRow(days.sectionOf(item.lastVisit));
+
+    std::vector<QList<HistoryItem>> rowsOfSection = numbers.distribute(items);
+    std::vector<std::size_t> order(rowsOfSection.size());
+    std::iota(order.begin(), order.end(), std::size_t{0});
+    std::ranges::sort(order, [&](std::size_t left, std::size_t right) {
+        const PointInTime leftDate = days.sections()[left].date;
+        const PointInTime rightDate = days.sections()[right].date;
+        return newestFirst ? leftDate > rightDate : leftDate < rightDate;
+    });
+
+    QList<RowGroup<HistoryItem>> groups;
+    for (const std::size_t section : order) {
+        if (!rowsOfSection[section].isEmpty())
+            groups.append({days.sections()[section].title, {}, std::move(rowsOfSection[section])});
+    }
+    return groups;
+}
+
+} // namespace roamlet
