@@ -36,12 +36,12 @@ Command command(Job job, const std::optional<QString> &argument = {},
 
 } // namespace
 
-TEST(CommandLineTest, nothing_asks_for_the_windows)
+TEST(CommandLineTest, nothingAsksForTheWindows)
 {
     EXPECT_EQ(Command::of({}), command(Job::Windows));
 }
 
-TEST(CommandLineTest, each_switch_alone_is_its_job)
+TEST(CommandLineTest, eachSwitchAloneIsItsJob)
 {
     EXPECT_EQ(Command::of({u"--summary"_s}), command(Job::Summary));
     EXPECT_EQ(Command::of({u"--export"_s}), command(Job::Export));
@@ -55,7 +55,7 @@ TEST(CommandLineTest, each_switch_alone_is_its_job)
     EXPECT_EQ(Command::of({u"-v"_s}), command(Job::Version));
 }
 
-TEST(CommandLineTest, the_switch_tested_first_decides_wherever_it_stands)
+TEST(CommandLineTest, theSwitchTestedFirstDecidesWhereverItStands)
 {
     const QStringList inOrder{u"--summary"_s, u"--export"_s, u"--top"_s,
                               u"--search"_s,  u"--site"_s,   u"--watch"_s};
@@ -71,14 +71,14 @@ TEST(CommandLineTest, the_switch_tested_first_decides_wherever_it_stands)
     }
 }
 
-TEST(CommandLineTest, summary_counts_anywhere_even_among_search_words)
+TEST(CommandLineTest, summaryCountsAnywhereEvenAmongSearchWords)
 {
     EXPECT_EQ(Command::of({u"--search"_s, u"news"_s, u"--summary"_s}), command(Job::Summary));
     EXPECT_EQ(Command::of({u"--site"_s, u"--summary"_s}), command(Job::Summary));
     EXPECT_EQ(Command::of({u"--export"_s, u"html"_s, u"--source"_s, u"--summary"_s}), command(Job::Summary));
 }
 
-TEST(CommandLineTest, export_takes_the_next_word_as_its_format)
+TEST(CommandLineTest, exportTakesTheNextWordAsItsFormat)
 {
     EXPECT_EQ(Command::of({u"--export"_s, u"csv"_s}), command(Job::Export, u"csv"_s));
     EXPECT_EQ(Command::of({u"--export"_s, u"--top"_s}), command(Job::Export, u"--top"_s));
@@ -87,19 +87,19 @@ TEST(CommandLineTest, export_takes_the_next_word_as_its_format)
     EXPECT_EQ(Command::of({u"--export"_s, u""_s}), command(Job::Export, u""_s));
 }
 
-TEST(CommandLineTest, the_source_may_stand_before_or_after_the_format)
+TEST(CommandLineTest, theSourceMayStandBeforeOrAfterTheFormat)
 {
     const Command expected = command(Job::Export, u"html"_s, u"chrome/Profile 1"_s);
     EXPECT_EQ(Command::of({u"--export"_s, u"html"_s, u"--source"_s, u"chrome/Profile 1"_s}), expected);
     EXPECT_EQ(Command::of({u"--source"_s, u"chrome/Profile 1"_s, u"--export"_s, u"html"_s}), expected);
 }
 
-TEST(CommandLineTest, a_source_switch_without_a_word_names_no_source)
+TEST(CommandLineTest, aSourceSwitchWithoutAWordNamesNoSource)
 {
     EXPECT_EQ(Command::of({u"--export"_s, u"html"_s, u"--source"_s}), command(Job::Export, u"html"_s));
 }
 
-TEST(CommandLineTest, a_switch_counts_at_its_first_place)
+TEST(CommandLineTest, aSwitchCountsAtItsFirstPlace)
 {
     EXPECT_EQ(Command::of({u"--export"_s, u"html"_s, u"--export"_s, u"csv"_s}),
               command(Job::Export, u"html"_s));
@@ -112,33 +112,33 @@ TEST(CommandLineTest, a_switch_counts_at_its_first_place)
               command(Job::Search, u"a --search b"_s));
 }
 
-TEST(CommandLineTest, search_joins_everything_after_it_with_single_blanks)
+TEST(CommandLineTest, searchJoinsEverythingAfterItWithSingleBlanks)
 {
     EXPECT_EQ(Command::of({u"--search"_s, u"Blue"_s, u"Bike"_s}), command(Job::Search, u"Blue Bike"_s));
     EXPECT_EQ(Command::of({u"ignored"_s, u"--search"_s, u" two  blanks "_s, u""_s, u"end"_s}),
               command(Job::Search, u" two  blanks   end"_s));
 }
 
-TEST(CommandLineTest, words_of_a_search_may_look_like_switches_tested_later)
+TEST(CommandLineTest, wordsOfASearchMayLookLikeSwitchesTestedLater)
 {
     EXPECT_EQ(Command::of({u"--search"_s, u"--site"_s, u"--watch"_s, u"--help"_s, u"-v"_s, u"--source"_s}),
               command(Job::Search, u"--site --watch --help -v --source"_s));
 }
 
-TEST(CommandLineTest, site_takes_the_next_word_as_typed)
+TEST(CommandLineTest, siteTakesTheNextWordAsTyped)
 {
     EXPECT_EQ(Command::of({u"--site"_s, u"WWW.Example.org"_s}), command(Job::Site, u"WWW.Example.org"_s));
     EXPECT_EQ(Command::of({u"--site"_s, u"--watch"_s}), command(Job::Site, u"--watch"_s));
     EXPECT_EQ(Command::of({u"--site"_s, u""_s}), command(Job::Site, u""_s));
 }
 
-TEST(CommandLineTest, watch_takes_the_next_word_whatever_it_is)
+TEST(CommandLineTest, watchTakesTheNextWordWhateverItIs)
 {
     EXPECT_EQ(Command::of({u"--watch"_s, u"2.5"_s}), command(Job::Watch, u"2.5"_s));
     EXPECT_EQ(Command::of({u"--watch"_s, u"soon"_s}), command(Job::Watch, u"soon"_s));
 }
 
-TEST(CommandLineTest, switches_are_whole_words_in_lower_case)
+TEST(CommandLineTest, switchesAreWholeWordsInLowerCase)
 {
     EXPECT_EQ(Command::of({u"--Summary"_s}), command(Job::Unknown, u"--Summary"_s));
     EXPECT_EQ(Command::of({u"--top=5"_s}), command(Job::Unknown, u"--top=5"_s));
@@ -146,14 +146,14 @@ TEST(CommandLineTest, switches_are_whole_words_in_lower_case)
     EXPECT_EQ(Command::of({u"--sum"_s}), command(Job::Unknown, u"--sum"_s));
 }
 
-TEST(CommandLineTest, the_first_word_is_named_when_there_is_no_job)
+TEST(CommandLineTest, theFirstWordIsNamedWhenThereIsNoJob)
 {
     EXPECT_EQ(Command::of({u"--frobnicate"_s, u"--other"_s}), command(Job::Unknown, u"--frobnicate"_s));
     EXPECT_EQ(Command::of({u"--source"_s, u"safari"_s}), command(Job::Unknown, u"--source"_s));
     EXPECT_EQ(Command::of({u""_s}), command(Job::Unknown, u""_s));
 }
 
-TEST(CommandLineTest, help_names_every_switch)
+TEST(CommandLineTest, helpNamesEverySwitch)
 {
     const std::string help = Command::help().toStdString();
     for (const char *option : {"--summary", "--export", "--source", "--top", "--search", "--site", "--watch",

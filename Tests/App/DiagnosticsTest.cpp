@@ -120,7 +120,7 @@ const QByteArray emptyCsv = "Browser,Profile,Folder,Title,URL,Added\r\n";
 
 // --summary
 
-TEST_F(DiagnosticsTest, summary_counts_what_each_source_holds)
+TEST_F(DiagnosticsTest, summaryCountsWhatEachSourceHolds)
 {
     home.addPages();
     home.addBookmarks();
@@ -135,13 +135,13 @@ TEST_F(DiagnosticsTest, summary_counts_what_each_source_holds)
     EXPECT_EQ(console.errors, "");
 }
 
-TEST_F(DiagnosticsTest, summary_ends_with_the_seconds_taken)
+TEST_F(DiagnosticsTest, summaryEndsWithTheSecondsTaken)
 {
     home.addPages();
     EXPECT_THAT(linesOf({u"--summary"_s}).last().toStdString(), MatchesRegex("Read in " + seconds + "s"));
 }
 
-TEST_F(DiagnosticsTest, summary_counts_no_more_urls_than_a_load_keeps)
+TEST_F(DiagnosticsTest, summaryCountsNoMoreUrlsThanALoadKeeps)
 {
     home.addProfiles();
     sample::writeHistory(
@@ -152,14 +152,14 @@ TEST_F(DiagnosticsTest, summary_counts_no_more_urls_than_a_load_keeps)
                 HasSubstr("1000 history URLs, latest visit 2026-05-09 11:43"));
 }
 
-TEST_F(DiagnosticsTest, summary_of_a_profile_without_visits_names_no_time)
+TEST_F(DiagnosticsTest, summaryOfAProfileWithoutVisitsNamesNoTime)
 {
     home.addProfiles();
     EXPECT_THAT(linesOf({u"--summary"_s}).first().toStdString(),
                 MatchesRegex(".*  0 history URLs, latest visit [a-z]+"));
 }
 
-TEST_F(DiagnosticsTest, summary_lists_the_switched_off_sources_by_label_in_discovery_order)
+TEST_F(DiagnosticsTest, summaryListsTheSwitchedOffSourcesByLabelInDiscoveryOrder)
 {
     home.addPages();
     switchOff({u"edge/Default"_s, u"chrome/Default"_s, u"chrome/Profile 404"_s});
@@ -170,7 +170,7 @@ TEST_F(DiagnosticsTest, summary_lists_the_switched_off_sources_by_label_in_disco
     EXPECT_THAT(lines[2].toStdString(), StartsWith("Read in "));
 }
 
-TEST_F(DiagnosticsTest, summary_says_when_safari_refused_access)
+TEST_F(DiagnosticsTest, summarySaysWhenSafariRefusedAccess)
 {
     home.addPages();
     addSafari();
@@ -190,7 +190,7 @@ TEST_F(DiagnosticsTest, summary_says_when_safari_refused_access)
     EXPECT_THAT(home.clock.sleeps(), ::testing::IsEmpty()) << "a refusal is not tried again";
 }
 
-TEST_F(DiagnosticsTest, summary_does_not_call_safari_blocked_for_another_browser_or_another_failure)
+TEST_F(DiagnosticsTest, summaryDoesNotCallSafariBlockedForAnotherBrowserOrAnotherFailure)
 {
     home.addPages();
     addSafari();
@@ -205,7 +205,7 @@ TEST_F(DiagnosticsTest, summary_does_not_call_safari_blocked_for_another_browser
     EXPECT_FALSE(lines.contains(u"Safari is blocked: grant Full Disk Access."_s));
 }
 
-TEST_F(DiagnosticsTest, summary_shows_every_problem_of_a_source_below_it)
+TEST_F(DiagnosticsTest, summaryShowsEveryProblemOfASourceBelowIt)
 {
     home.addPages();
     sample::writeFile(home.chrome(u"Profile 1/History"_s), "foreign");
@@ -219,7 +219,7 @@ TEST_F(DiagnosticsTest, summary_shows_every_problem_of_a_source_below_it)
     EXPECT_THAT(lines[4].toStdString(), StartsWith("Edge - Office "));
 }
 
-TEST_F(DiagnosticsTest, summary_of_an_empty_home_says_that_there_is_nothing)
+TEST_F(DiagnosticsTest, summaryOfAnEmptyHomeSaysThatThereIsNothing)
 {
     const QStringList lines = linesOf({u"--summary"_s});
     ASSERT_EQ(lines.size(), 1) << text(lines);
@@ -229,7 +229,7 @@ TEST_F(DiagnosticsTest, summary_of_an_empty_home_says_that_there_is_nothing)
 
 // --top
 
-TEST_F(DiagnosticsTest, top_prints_count_name_site_and_title_two_blanks_apart)
+TEST_F(DiagnosticsTest, topPrintsCountNameSiteAndTitleTwoBlanksApart)
 {
     home.addPages();
     const QStringList lines = linesOf({u"--top"_s});
@@ -244,7 +244,7 @@ TEST_F(DiagnosticsTest, top_prints_count_name_site_and_title_two_blanks_apart)
     EXPECT_THAT(lines[6].toStdString(), MatchesRegex("6 URLs in " + seconds + "s"));
 }
 
-TEST_F(DiagnosticsTest, top_cuts_after_ten_and_counts_all_rows)
+TEST_F(DiagnosticsTest, topCutsAfterTenAndCountsAllRows)
 {
     home.addProfiles();
     QList<sample::HistoryRow> rows;
@@ -258,7 +258,7 @@ TEST_F(DiagnosticsTest, top_cuts_after_ten_and_counts_all_rows)
     EXPECT_THAT(lines[10].toStdString(), MatchesRegex("12 URLs in " + seconds + "s"));
 }
 
-TEST_F(DiagnosticsTest, top_collects_up_to_a_thousand_rows_of_each_source)
+TEST_F(DiagnosticsTest, topCollectsUpToAThousandRowsOfEachSource)
 {
     home.addPages();
     sample::writeHistory(
@@ -268,7 +268,7 @@ TEST_F(DiagnosticsTest, top_collects_up_to_a_thousand_rows_of_each_source)
     EXPECT_THAT(linesOf({u"--top"_s}).last().toStdString(), StartsWith("1005 URLs in "));
 }
 
-TEST_F(DiagnosticsTest, top_keeps_rows_of_equal_counts_as_their_source_delivered_them)
+TEST_F(DiagnosticsTest, topKeepsRowsOfEqualCountsAsTheirSourceDeliveredThem)
 {
     home.addProfiles();
     sample::writeHistory(
@@ -281,7 +281,7 @@ TEST_F(DiagnosticsTest, top_keeps_rows_of_equal_counts_as_their_source_delivered
                                 u"4  Personal  older.example  t"_s})));
 }
 
-TEST_F(DiagnosticsTest, top_without_a_site_keeps_its_column_empty)
+TEST_F(DiagnosticsTest, topWithoutASiteKeepsItsColumnEmpty)
 {
     home.addProfiles();
     sample::writeHistory(home.chrome(u"Default/History"_s),
@@ -289,7 +289,7 @@ TEST_F(DiagnosticsTest, top_without_a_site_keeps_its_column_empty)
     EXPECT_EQ(text(rowsOf({u"--top"_s})), text(QStringList({u"4  Personal    Local"_s})));
 }
 
-TEST_F(DiagnosticsTest, top_without_history_prints_a_count_of_none)
+TEST_F(DiagnosticsTest, topWithoutHistoryPrintsACountOfNone)
 {
     home.addProfiles();
     const QStringList lines = linesOf({u"--top"_s});
@@ -297,7 +297,7 @@ TEST_F(DiagnosticsTest, top_without_history_prints_a_count_of_none)
     EXPECT_THAT(lines[0].toStdString(), MatchesRegex("0 URLs in " + seconds + "s"));
 }
 
-TEST_F(DiagnosticsTest, top_stands_in_columns_on_a_terminal)
+TEST_F(DiagnosticsTest, topStandsInColumnsOnATerminal)
 {
     sample::writeLocalState(home.chrome(u"Local State"_s),
                             {{u"Default"_s, QJsonObject{{u"name"_s, u"東京"_s}}},
@@ -313,7 +313,7 @@ TEST_F(DiagnosticsTest, top_stands_in_columns_on_a_terminal)
 
 // --search and --site
 
-TEST_F(DiagnosticsTest, search_prints_the_newest_first_with_local_time_label_title_and_url)
+TEST_F(DiagnosticsTest, searchPrintsTheNewestFirstWithLocalTimeLabelTitleAndUrl)
 {
     home.addPages();
     EXPECT_EQ(text(rowsOf({u"--search"_s, u"PAGE"_s})),
@@ -331,7 +331,7 @@ TEST_F(DiagnosticsTest, search_prints_the_newest_first_with_local_time_label_tit
                                 "https://bike.example.com/"_s})));
 }
 
-TEST_F(DiagnosticsTest, search_needs_every_word_and_says_how_many_matched)
+TEST_F(DiagnosticsTest, searchNeedsEveryWordAndSaysHowManyMatched)
 {
     home.addPages();
     const QStringList lines = linesOf({u"--search"_s, u"Bike"_s, u"example.com"_s});
@@ -344,7 +344,7 @@ TEST_F(DiagnosticsTest, search_needs_every_word_and_says_how_many_matched)
                 MatchesRegex("0 matches, complete, in " + seconds + "s"));
 }
 
-TEST_F(DiagnosticsTest, search_keeps_pages_of_the_same_time_as_their_source_delivered_them)
+TEST_F(DiagnosticsTest, searchKeepsPagesOfTheSameTimeAsTheirSourceDeliveredThem)
 {
     home.addProfiles();
     QList<sample::HistoryRow> rows;
@@ -361,7 +361,7 @@ TEST_F(DiagnosticsTest, search_keeps_pages_of_the_same_time_as_their_source_deli
         EXPECT_TRUE(found[i].endsWith(delivered.items[i].url));
 }
 
-TEST_F(DiagnosticsTest, search_that_reached_the_limit_is_called_capped)
+TEST_F(DiagnosticsTest, searchThatReachedTheLimitIsCalledCapped)
 {
     home.addPages();
     const auto rows = [](qsizetype count) {
@@ -379,7 +379,7 @@ TEST_F(DiagnosticsTest, search_that_reached_the_limit_is_called_capped)
         << "a plain listing is never capped";
 }
 
-TEST_F(DiagnosticsTest, search_and_site_without_a_word_list_everything)
+TEST_F(DiagnosticsTest, searchAndSiteWithoutAWordListEverything)
 {
     home.addPages();
     const QStringList all = rowsOf({u"--search"_s});
@@ -388,7 +388,7 @@ TEST_F(DiagnosticsTest, search_and_site_without_a_word_list_everything)
     EXPECT_EQ(text(rowsOf({u"--site"_s})), text(all));
 }
 
-TEST_F(DiagnosticsTest, search_takes_wildcards_and_later_switches_for_words)
+TEST_F(DiagnosticsTest, searchTakesWildcardsAndLaterSwitchesForWords)
 {
     home.addProfiles();
     sample::writeHistory(
@@ -400,7 +400,7 @@ TEST_F(DiagnosticsTest, search_takes_wildcards_and_later_switches_for_words)
     EXPECT_EQ(rowsOf({u"--search"_s, u"--watch"_s}).size(), 1);
 }
 
-TEST_F(DiagnosticsTest, site_finds_the_host_with_and_without_www_and_port_only)
+TEST_F(DiagnosticsTest, siteFindsTheHostWithAndWithoutWwwAndPortOnly)
 {
     home.addPages();
     const QStringList rows = rowsOf({u"--site"_s, u"example.org"_s});
@@ -409,7 +409,7 @@ TEST_F(DiagnosticsTest, site_finds_the_host_with_and_without_www_and_port_only)
     EXPECT_THAT(rows[1].toStdString(), HasSubstr("https://example.org:8443/bike"));
 }
 
-TEST_F(DiagnosticsTest, site_is_taken_as_typed)
+TEST_F(DiagnosticsTest, siteIsTakenAsTyped)
 {
     home.addPages();
     EXPECT_EQ(text(rowsOf({u"--site"_s, u"Example.org"_s})), text(QStringList()));
@@ -417,7 +417,7 @@ TEST_F(DiagnosticsTest, site_is_taken_as_typed)
     EXPECT_EQ(text(rowsOf({u"--site"_s, u" example.org"_s})), text(QStringList()));
 }
 
-TEST_F(DiagnosticsTest, site_says_capped_for_rows_that_only_mention_it)
+TEST_F(DiagnosticsTest, siteSaysCappedForRowsThatOnlyMentionIt)
 {
     home.addProfiles();
     sample::writeHistory(
@@ -431,7 +431,7 @@ TEST_F(DiagnosticsTest, site_says_capped_for_rows_that_only_mention_it)
     EXPECT_THAT(lines.last().toStdString(), StartsWith("10 matches, capped, in "));
 }
 
-TEST_F(DiagnosticsTest, a_source_that_fails_contributes_no_rows_and_no_message)
+TEST_F(DiagnosticsTest, aSourceThatFailsContributesNoRowsAndNoMessage)
 {
     home.addPages();
     sample::writeFile(home.chrome(u"Default/History"_s), "foreign");
@@ -440,7 +440,7 @@ TEST_F(DiagnosticsTest, a_source_that_fails_contributes_no_rows_and_no_message)
     EXPECT_EQ(console.errors, "");
 }
 
-TEST_F(DiagnosticsTest, texts_are_printed_as_stored_when_no_terminal_shows_them)
+TEST_F(DiagnosticsTest, textsArePrintedAsStoredWhenNoTerminalShowsThem)
 {
     home.addProfiles();
     const QString title = u"\u001B[31mred\u001B[0m\ttab\nline \u202Ereversed\u009B"_s;
@@ -452,7 +452,7 @@ TEST_F(DiagnosticsTest, texts_are_printed_as_stored_when_no_terminal_shows_them)
                 StartsWith("1  Personal  a.example  " + title.toStdString() + '\n'));
 }
 
-TEST_F(DiagnosticsTest, texts_on_a_terminal_cannot_command_it)
+TEST_F(DiagnosticsTest, textsOnATerminalCannotCommandIt)
 {
     sample::writeLocalState(home.chrome(u"Local State"_s),
                             {{u"Default"_s, QJsonObject{{u"name"_s, u"Evil\u001B]0;name\u0007"_s}}}});
@@ -474,7 +474,7 @@ TEST_F(DiagnosticsTest, texts_on_a_terminal_cannot_command_it)
                 HasSubstr("␛[31mred<U+0085>␉tab␊line <U+202E>reversed"));
 }
 
-TEST_F(DiagnosticsTest, times_that_no_calendar_knows_are_no_obstacle)
+TEST_F(DiagnosticsTest, timesThatNoCalendarKnowsAreNoObstacle)
 {
     home.addProfiles();
     auto first = BrowserHome::page(u"https://first.example/"_s, u"t"_s, 1, 0);
@@ -493,7 +493,7 @@ TEST_F(DiagnosticsTest, times_that_no_calendar_knows_are_no_obstacle)
 
 // --export
 
-TEST_F(DiagnosticsTest, export_prints_the_document_and_nothing_else)
+TEST_F(DiagnosticsTest, exportPrintsTheDocumentAndNothingElse)
 {
     home.addProfiles();
     home.addBookmarks();
@@ -532,7 +532,7 @@ TEST_F(DiagnosticsTest, export_prints_the_document_and_nothing_else)
     EXPECT_EQ(console.errors, "");
 }
 
-TEST_F(DiagnosticsTest, export_takes_the_default_safari_source_when_none_is_named)
+TEST_F(DiagnosticsTest, exportTakesTheDefaultSafariSourceWhenNoneIsNamed)
 {
     home.addProfiles();
     home.addBookmarks();
@@ -541,7 +541,7 @@ TEST_F(DiagnosticsTest, export_takes_the_default_safari_source_when_none_is_name
               "# Bookmarks\n\n## Favorites\n\n- [Apple](<https://apple.example/>)\n");
 }
 
-TEST_F(DiagnosticsTest, export_shows_control_characters_as_stored_on_a_terminal_or_not)
+TEST_F(DiagnosticsTest, exportShowsControlCharactersAsStoredOnATerminalOrNot)
 {
     home.addProfiles();
     home.addBookmarks();
@@ -551,7 +551,7 @@ TEST_F(DiagnosticsTest, export_shows_control_characters_as_stored_on_a_terminal_
     EXPECT_EQ(outputOf(arguments), piped);
 }
 
-TEST_F(DiagnosticsTest, export_of_an_unknown_source_is_empty_and_says_why)
+TEST_F(DiagnosticsTest, exportOfAnUnknownSourceIsEmptyAndSaysWhy)
 {
     home.addProfiles();
     home.addBookmarks();
@@ -562,7 +562,7 @@ TEST_F(DiagnosticsTest, export_of_an_unknown_source_is_empty_and_says_why)
     EXPECT_EQ(outputOf({u"--export"_s, u"csv"_s, u"--source"_s, u""_s}), emptyCsv);
 }
 
-TEST_F(DiagnosticsTest, export_of_a_switched_off_source_is_empty_and_says_why)
+TEST_F(DiagnosticsTest, exportOfASwitchedOffSourceIsEmptyAndSaysWhy)
 {
     home.addProfiles();
     home.addBookmarks();
@@ -571,7 +571,7 @@ TEST_F(DiagnosticsTest, export_of_a_switched_off_source_is_empty_and_says_why)
     EXPECT_THAT(console.errors.toStdString(), HasSubstr("turned off"));
 }
 
-TEST_F(DiagnosticsTest, export_of_an_unreadable_source_is_empty_and_says_why)
+TEST_F(DiagnosticsTest, exportOfAnUnreadableSourceIsEmptyAndSaysWhy)
 {
     home.addProfiles();
     sample::writeFile(home.chrome(u"Default/Bookmarks"_s), "[1, 2");
@@ -580,7 +580,7 @@ TEST_F(DiagnosticsTest, export_of_an_unreadable_source_is_empty_and_says_why)
                 HasSubstr("Couldn't read " + home.chrome(u"Default/Bookmarks"_s).toStdString() + ": "));
 }
 
-TEST_F(DiagnosticsTest, export_without_safari_or_bookmarks_is_empty)
+TEST_F(DiagnosticsTest, exportWithoutSafariOrBookmarksIsEmpty)
 {
     EXPECT_EQ(outputOf({u"--export"_s, u"markdown"_s}), emptyMarkdown);
     home.addProfiles();
@@ -589,7 +589,7 @@ TEST_F(DiagnosticsTest, export_without_safari_or_bookmarks_is_empty)
     EXPECT_EQ(console.errors, "") << "a profile without bookmarks is no error";
 }
 
-TEST_F(DiagnosticsTest, an_unknown_format_gets_the_list_of_formats)
+TEST_F(DiagnosticsTest, anUnknownFormatGetsTheListOfFormats)
 {
     home.addProfiles();
     home.addBookmarks();
@@ -613,7 +613,7 @@ TEST_F(DiagnosticsTest, an_unknown_format_gets_the_list_of_formats)
 
 // Every job
 
-TEST_F(DiagnosticsTest, no_job_reads_a_profile_that_is_switched_off)
+TEST_F(DiagnosticsTest, noJobReadsAProfileThatIsSwitchedOff)
 {
     home.addPages();
     home.addBookmarks();
@@ -650,7 +650,7 @@ TEST_F(DiagnosticsTest, no_job_reads_a_profile_that_is_switched_off)
     }
 }
 
-TEST_F(DiagnosticsTest, a_reader_that_went_away_ends_every_job_quietly)
+TEST_F(DiagnosticsTest, aReaderThatWentAwayEndsEveryJobQuietly)
 {
     home.addPages();
     console.outputError = std::make_error_code(std::errc::broken_pipe);
@@ -663,7 +663,7 @@ TEST_F(DiagnosticsTest, a_reader_that_went_away_ends_every_job_quietly)
     }
 }
 
-TEST_F(DiagnosticsTest, output_that_cannot_be_written_is_a_failure_with_a_reason)
+TEST_F(DiagnosticsTest, outputThatCannotBeWrittenIsAFailureWithAReason)
 {
     home.addPages();
     console.outputError = std::make_error_code(std::errc::no_space_on_device);
@@ -678,7 +678,7 @@ TEST_F(DiagnosticsTest, output_that_cannot_be_written_is_a_failure_with_a_reason
     }
 }
 
-TEST_F(DiagnosticsTest, a_run_that_was_asked_to_stop_prints_nothing)
+TEST_F(DiagnosticsTest, aRunThatWasAskedToStopPrintsNothing)
 {
     home.addPages();
     stop.request_stop();
@@ -688,7 +688,7 @@ TEST_F(DiagnosticsTest, a_run_that_was_asked_to_stop_prints_nothing)
     EXPECT_EQ(console.writes, 0);
 }
 
-TEST_F(DiagnosticsTest, seconds_are_written_with_a_point_in_every_language)
+TEST_F(DiagnosticsTest, secondsAreWrittenWithAPointInEveryLanguage)
 {
     home.addPages();
     const QLocale before;

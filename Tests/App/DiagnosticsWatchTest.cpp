@@ -106,12 +106,12 @@ protected:
 
 } // namespace
 
-TEST_F(DiagnosticsWatchTest, watches_for_a_minute_unless_told_otherwise)
+TEST_F(DiagnosticsWatchTest, watchesForAMinuteUnlessToldOtherwise)
 {
     EXPECT_TRUE(lasts({}, 60s));
 }
 
-TEST_F(DiagnosticsWatchTest, takes_every_decimal_number_of_seconds)
+TEST_F(DiagnosticsWatchTest, takesEveryDecimalNumberOfSeconds)
 {
     EXPECT_TRUE(lasts(u"10"_s, 10s));
     EXPECT_TRUE(lasts(u"2.5"_s, 2500ms));
@@ -123,7 +123,7 @@ TEST_F(DiagnosticsWatchTest, takes_every_decimal_number_of_seconds)
     EXPECT_TRUE(lasts(u"90000"_s, 25h));
 }
 
-TEST_F(DiagnosticsWatchTest, words_that_are_no_number_mean_a_minute)
+TEST_F(DiagnosticsWatchTest, wordsThatAreNoNumberMeanAMinute)
 {
     for (const QString &word : {u"soon"_s, u""_s, u" "_s, u"ten"_s, u"12s"_s, u"1,5"_s, u"1 5"_s, u"1.2.3"_s,
                                 u"."_s, u"-"_s, u"e5"_s, u"１２"_s, u"٣"_s, u"5\n"_s}) {
@@ -132,13 +132,13 @@ TEST_F(DiagnosticsWatchTest, words_that_are_no_number_mean_a_minute)
     }
 }
 
-TEST_F(DiagnosticsWatchTest, no_time_and_less_end_at_once)
+TEST_F(DiagnosticsWatchTest, noTimeAndLessEndAtOnce)
 {
     for (const QString &word : {u"0"_s, u"0.0"_s, u"-0"_s, u"-5"_s, u"-1e9"_s, u"1e-400"_s})
         EXPECT_TRUE(endsAtOnce(word)) << word.toStdString();
 }
 
-TEST_F(DiagnosticsWatchTest, huge_numbers_last_longer_than_anybody_waits)
+TEST_F(DiagnosticsWatchTest, hugeNumbersLastLongerThanAnybodyWaits)
 {
     for (const QString &word : {u"1e9"_s, u"99999999999999999999999999"_s, u"1e400"_s, u"1e999999999999"_s}) {
         SCOPED_TRACE(word.toStdString());
@@ -149,7 +149,7 @@ TEST_F(DiagnosticsWatchTest, huge_numbers_last_longer_than_anybody_waits)
     }
 }
 
-TEST_F(DiagnosticsWatchTest, says_on_the_error_stream_how_long_it_watches)
+TEST_F(DiagnosticsWatchTest, saysOnTheErrorStreamHowLongItWatches)
 {
     const QList<std::pair<QString, std::string>> cases{
         {u"10"_s, "10 s"}, {u"2.5"_s, "2.5 s"}, {u"soon"_s, "60 s"}, {u"1234567.25"_s, "1234567.25 s"}};
@@ -160,7 +160,7 @@ TEST_F(DiagnosticsWatchTest, says_on_the_error_stream_how_long_it_watches)
     }
 }
 
-TEST_F(DiagnosticsWatchTest, reports_changed_sources_with_local_time_and_labels_on_one_line)
+TEST_F(DiagnosticsWatchTest, reportsChangedSourcesWithLocalTimeAndLabelsOnOneLine)
 {
     Watching watching(u"60"_s);
     const BrowserHome &home = watching.home;
@@ -176,7 +176,7 @@ TEST_F(DiagnosticsWatchTest, reports_changed_sources_with_local_time_and_labels_
               "2026-05-09 11:43  Chrome - Personal, Chrome - Work, Edge - Office\n");
 }
 
-TEST_F(DiagnosticsWatchTest, reports_each_change_at_its_own_time)
+TEST_F(DiagnosticsWatchTest, reportsEachChangeAtItsOwnTime)
 {
     Watching watching(u"600"_s);
     const BrowserHome &home = watching.home;
@@ -191,7 +191,7 @@ TEST_F(DiagnosticsWatchTest, reports_each_change_at_its_own_time)
                                                      "2026-05-09 11:45  Chrome - Personal\n");
 }
 
-TEST_F(DiagnosticsWatchTest, stays_silent_about_files_that_did_not_change_or_are_not_read)
+TEST_F(DiagnosticsWatchTest, staysSilentAboutFilesThatDidNotChangeOrAreNotRead)
 {
     Watching watching(u"60"_s);
     const BrowserHome &home = watching.home;
@@ -206,7 +206,7 @@ TEST_F(DiagnosticsWatchTest, stays_silent_about_files_that_did_not_change_or_are
     EXPECT_EQ(watching.console.lines().size(), 1);
 }
 
-TEST_F(DiagnosticsWatchTest, names_a_profile_that_is_in_no_list_by_its_id)
+TEST_F(DiagnosticsWatchTest, namesAProfileThatIsInNoListByItsId)
 {
     Watching watching(u"60"_s);
     const BrowserHome &home = watching.home;
@@ -215,7 +215,7 @@ TEST_F(DiagnosticsWatchTest, names_a_profile_that_is_in_no_list_by_its_id)
     EXPECT_EQ(watching.console.output.toStdString(), "2026-05-09 11:43  chrome/Profile 9\n");
 }
 
-TEST_F(DiagnosticsWatchTest, names_cannot_command_a_terminal)
+TEST_F(DiagnosticsWatchTest, namesCannotCommandATerminal)
 {
     Watching watching(u"60"_s);
     const BrowserHome &home = watching.home;
@@ -225,7 +225,7 @@ TEST_F(DiagnosticsWatchTest, names_cannot_command_a_terminal)
     EXPECT_EQ(watching.console.output.toStdString(), "2026-05-09 11:43  chrome/Evil␛[2J␊\n");
 }
 
-TEST_F(DiagnosticsWatchTest, ends_when_nobody_reads_any_more)
+TEST_F(DiagnosticsWatchTest, endsWhenNobodyReadsAnyMore)
 {
     Watching watching(u"60"_s);
     const BrowserHome &home = watching.home;
@@ -238,7 +238,7 @@ TEST_F(DiagnosticsWatchTest, ends_when_nobody_reads_any_more)
     EXPECT_FALSE(goesOn);
 }
 
-TEST_F(DiagnosticsWatchTest, ends_with_a_reason_when_it_cannot_write)
+TEST_F(DiagnosticsWatchTest, endsWithAReasonWhenItCannotWrite)
 {
     Watching watching(u"60"_s);
     const BrowserHome &home = watching.home;
@@ -253,7 +253,7 @@ TEST_F(DiagnosticsWatchTest, ends_with_a_reason_when_it_cannot_write)
     EXPECT_THAT(watching.console.errors.toStdString(), HasSubstr("No space left on device"));
 }
 
-TEST_F(DiagnosticsWatchTest, goes_on_without_file_events_and_ends_in_time)
+TEST_F(DiagnosticsWatchTest, goesOnWithoutFileEventsAndEndsInTime)
 {
     Watching watching(u"60"_s);
     watching.home.fileEvents.isAvailable = false;
@@ -267,7 +267,7 @@ TEST_F(DiagnosticsWatchTest, goes_on_without_file_events_and_ends_in_time)
     EXPECT_TRUE(goesOn);
 }
 
-TEST_F(DiagnosticsWatchTest, leaves_no_copies_behind)
+TEST_F(DiagnosticsWatchTest, leavesNoCopiesBehind)
 {
     Watching watching(u"60"_s);
     const BrowserHome &home = watching.home;

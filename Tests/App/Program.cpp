@@ -113,9 +113,9 @@ Ended Program::runOnTerminal(const QStringList &arguments) const
         EXPECT_EQ(openpty(&master, &slave, nullptr, &settings, nullptr), 0);
         Program onTerminal = *this;
         onTerminal.prepare = [this, slave] {
+            dup2(slave, STDOUT_FILENO);
             if (prepare)
                 prepare();
-            dup2(slave, STDOUT_FILENO);
         };
         QProcess process;
         onTerminal.start(process, arguments);

@@ -16,6 +16,7 @@
 #include <array>
 #include <gmock/gmock.h>
 #include <memory>
+#include <string>
 #include <utility>
 
 namespace roamlet::testing
@@ -64,6 +65,19 @@ protected:
         }
         return largest;
     }
+    /// Copies of smaller histories may be gone again at any moment.
+    static void expectOnlyTheUserReadsCopies()
+    {
+        for (const QString &copy : sharedHome->leftovers()) {
+            const QString folder = sharedHome->temporary() % u'/' % copy;
+            for (const QString &path : {folder, QString(folder % u"/History")}) {
+                struct stat status = {};
+                if (::stat(path.toUtf8().constData(), &status) == 0) {
+                    EXPECT_EQ(status.st_mode & 0077U, 0U) << path.toStdString();
+                }
+            }
+        }
+    }
     /// Starts a job, sends the signal as soon as the condition holds, and expects an end by it that leaves
     /// nothing.
     void interrupt(const QStringList &arguments, const std::function<bool()> &condition)
@@ -88,45 +102,31 @@ protected:
 
 std::unique_ptr<BrowserHome> ProgramSignalsTest::sharedHome;
 
+/// Interrupts jobs that wait for somebody to read.
+class ProgramBlockedTest : public ::testing::TestWithParam<int>
+{
+};
+
+std::string nameOf(const ::testing::TestParamInfo<int> &signal)
+{
+    return signal.param == SIGINT ? "interrupt" : signal.param == SIGTERM ? "terminate" : "hangup";
+}
+
 } // namespace
 
-TEST_P(ProgramSignalsTest, ends_a_job_that_has_begun_to_copy)
+TEST_P(ProgramSignalsTest, endsAJobThatHasBegunToCopy)
 {
     interrupt(endlessSearch(), [] { return !sharedHome->leftovers().isEmpty(); });
 }
 
-TEST_P(ProgramSignalsTest, ends_a_job_that_searches)
+TEST_P(ProgramSignalsTest, endsAJobThatSearches)
 {
     const qint64 size = QFileInfo(sharedHome->chrome(u"Default/History"_s)).size();
     ASSERT_GT(size, 30'000'000);
     interrupt(endlessSearch(), [size] { return copiedBytes() == size; });
 }
 
-TEST_P(ProgramSignalsTest, the_copy_is_the_users_own)
-{
-    interrupt(endlessSearch(), [] {
-        const QStringList copies = sharedHome->leftovers();
-        if (copiedBytes() <= 0)
-            return false;
-        const auto modeOf = [](const QString &path) {
-            struct stat status = {};
-            return ::stat(path.toUtf8().constData(), &status) == 0 ? status.st_mode & 0777U : 0U;
-        };
-        for (const QString &copy : copies) {
-            const QString folder = sharedHome->temporary() % u'/' % copy;
-            // A copy of another profile may already be gone again.
-            if (const unsigned int mode = modeOf(folder)) {
-                EXPECT_EQ(mode, 0700U);
-            }
-            if (const unsigned int mode = modeOf(folder % u"/History")) {
-                EXPECT_EQ(mode, 0600U);
-            }
-        }
-        return true;
-    });
-}
-
-TEST_P(ProgramSignalsTest, ends_a_job_whose_output_nobody_reads)
+TEST_P(ProgramBlockedTest, endsAlthoughNobodyReadsItsOutput)
 {
     BrowserHome home;
     home.addProfiles();
@@ -161,11 +161,7 @@ TEST_P(ProgramSignalsTest, ends_a_job_whose_output_nobody_reads)
     close(ends[1]);
 }
 
-INSTANTIATE_TEST_SUITE_P(StopSignals, ProgramSignalsTest, ::testing::Values(SIGINT, SIGTERM, SIGHUP),
-                         [](const auto &test) {
-                             return test.param == SIGINT    ? "interrupt"
-                                    : test.param == SIGTERM ? "terminate"
-                                                            : "hangup";
-                         });
+INSTANTIATE_TEST_SUITE_P(StopSignals, ProgramSignalsTest, ::testing::Values(SIGINT, SIGTERM, SIGHUP), nameOf);
+INSTANTIATE_TEST_SUITE_P(StopSignals, ProgramBlockedTest, ::testing::Values(SIGINT, SIGTERM, SIGHUP), nameOf);
 
 } // namespace roamlet::testing

@@ -72,7 +72,7 @@ const QList<QStringList> readingJobs{{u"--summary"_s},
 
 // What it is asked for
 
-TEST_F(ProgramTest, help_and_version_go_to_the_output)
+TEST_F(ProgramTest, helpAndVersionGoToTheOutput)
 {
     const Ended help = program.run({u"--help"_s});
     EXPECT_EQ(help.status, 0);
@@ -87,7 +87,7 @@ TEST_F(ProgramTest, help_and_version_go_to_the_output)
     EXPECT_EQ(program.run({u"-v"_s}).output, version.output);
 }
 
-TEST_F(ProgramTest, an_unknown_switch_is_named_with_status_2)
+TEST_F(ProgramTest, anUnknownSwitchIsNamedWithStatus2)
 {
     for (const QString &word : {u"--frobnicate"_s, u"--Summary"_s, u"history"_s, u"--größe"_s}) {
         const Ended ended = program.run({word, u"--other"_s});
@@ -97,7 +97,7 @@ TEST_F(ProgramTest, an_unknown_switch_is_named_with_status_2)
     }
 }
 
-TEST_F(ProgramTest, the_switch_tested_first_decides)
+TEST_F(ProgramTest, theSwitchTestedFirstDecides)
 {
     home.addPages();
     EXPECT_THAT(linesOf({u"--top"_s, u"--search"_s, u"nowhere"_s, u"--summary"_s}).back(),
@@ -106,7 +106,7 @@ TEST_F(ProgramTest, the_switch_tested_first_decides)
     EXPECT_EQ(program.run({u"--top"_s, u"--export"_s}).output, "Formats: html, markdown, csv\n");
 }
 
-TEST_F(ProgramTest, an_unknown_or_missing_format_lists_the_formats_with_status_1)
+TEST_F(ProgramTest, anUnknownOrMissingFormatListsTheFormatsWithStatus1)
 {
     home.addBookmarks();
     for (const QStringList &arguments : {QStringList{u"--export"_s},
@@ -121,7 +121,7 @@ TEST_F(ProgramTest, an_unknown_or_missing_format_lists_the_formats_with_status_1
 
 // What it prints to another program
 
-TEST_F(ProgramTest, summary_lists_sources_then_switched_off_ones_then_the_seconds)
+TEST_F(ProgramTest, summaryListsSourcesThenSwitchedOffOnesThenTheSeconds)
 {
     home.addPages();
     home.addBookmarks();
@@ -134,7 +134,7 @@ TEST_F(ProgramTest, summary_lists_sources_then_switched_off_ones_then_the_second
                             MatchesRegex("Read in " + seconds + "s")));
 }
 
-TEST_F(ProgramTest, top_is_exact_to_the_byte)
+TEST_F(ProgramTest, topIsExactToTheByte)
 {
     home.addPages();
     const Ended ended = program.run({u"--top"_s});
@@ -150,7 +150,7 @@ TEST_F(ProgramTest, top_is_exact_to_the_byte)
                              seconds + "s\n"));
 }
 
-TEST_F(ProgramTest, search_lists_the_newest_first_and_counts)
+TEST_F(ProgramTest, searchListsTheNewestFirstAndCounts)
 {
     home.addPages();
     EXPECT_THAT(linesOf({u"--search"_s, u"bike"_s, u"PAGE"_s}),
@@ -161,7 +161,7 @@ TEST_F(ProgramTest, search_lists_the_newest_first_and_counts)
                             MatchesRegex("2 matches, complete, in " + seconds + "s")));
 }
 
-TEST_F(ProgramTest, site_lists_one_site)
+TEST_F(ProgramTest, siteListsOneSite)
 {
     home.addPages();
     EXPECT_THAT(linesOf({u"--site"_s, u"example.org"_s}),
@@ -171,7 +171,7 @@ TEST_F(ProgramTest, site_lists_one_site)
     EXPECT_EQ(linesOf({u"--site"_s}).size(), 7U);
 }
 
-TEST_F(ProgramTest, words_in_other_languages_are_found_in_every_locale)
+TEST_F(ProgramTest, wordsInOtherLanguagesAreFoundInEveryLocale)
 {
     home.addPages();
     for (const char *locale :
@@ -186,7 +186,7 @@ TEST_F(ProgramTest, words_in_other_languages_are_found_in_every_locale)
     EXPECT_EQ(linesOf({u"--search"_s, u"東京"_s}).size(), 2U);
 }
 
-TEST_F(ProgramTest, folders_with_foreign_names_are_read_without_a_locale)
+TEST_F(ProgramTest, foldersWithForeignNamesAreReadWithoutALocale)
 {
     sample::writeLocalState(home.chrome(u"Local State"_s),
                             {{u"Größe 東"_s, QJsonObject{{u"name"_s, u"Ä"_s}}}});
@@ -196,7 +196,7 @@ TEST_F(ProgramTest, folders_with_foreign_names_are_read_without_a_locale)
     EXPECT_EQ(program.run({u"--export"_s, u"csv"_s, u"--source"_s, u"chrome/Größe 東"_s}).errors, "");
 }
 
-TEST_F(ProgramTest, an_unknown_time_zone_means_universal_time)
+TEST_F(ProgramTest, anUnknownTimeZoneMeansUniversalTime)
 {
     home.addPages();
     program.environment.insert(u"TZ"_s, u"Nowhere/At_All"_s);
@@ -205,7 +205,7 @@ TEST_F(ProgramTest, an_unknown_time_zone_means_universal_time)
     EXPECT_THAT(linesOf({u"--search"_s, u"daily"_s}).front(), StartsWith("2026-05-09 06:13  "));
 }
 
-TEST_F(ProgramTest, texts_in_a_pipe_are_exactly_as_stored)
+TEST_F(ProgramTest, textsInAPipeAreExactlyAsStored)
 {
     home.addProfiles();
     const QByteArray title = "\x1B[31m\ttab\nline \xE2\x80\xAEreversed\xC2\x9B \r end";
@@ -218,7 +218,7 @@ TEST_F(ProgramTest, texts_in_a_pipe_are_exactly_as_stored)
                 HasSubstr("  " + title.toStdString() + "  https://a.example/\n"));
 }
 
-TEST_F(ProgramTest, titles_of_a_megabyte_are_printed_whole)
+TEST_F(ProgramTest, titlesOfAMegabyteArePrintedWhole)
 {
     home.addProfiles();
     sample::writeHistory(
@@ -231,7 +231,7 @@ TEST_F(ProgramTest, titles_of_a_megabyte_are_printed_whole)
     EXPECT_LT(program.run({u"--search"_s}).output.size(), 1'001'000) << "a long title widens no other row";
 }
 
-TEST_F(ProgramTest, export_adds_nothing_to_the_document)
+TEST_F(ProgramTest, exportAddsNothingToTheDocument)
 {
     home.addProfiles();
     home.addBookmarks();
@@ -247,7 +247,7 @@ TEST_F(ProgramTest, export_adds_nothing_to_the_document)
               "Chrome,Personal,Phone,C,https://c.example/,\r\n");
 }
 
-TEST_F(ProgramTest, export_of_what_cannot_be_read_is_an_empty_document_and_a_message)
+TEST_F(ProgramTest, exportOfWhatCannotBeReadIsAnEmptyDocumentAndAMessage)
 {
     home.addProfiles();
     home.addBookmarks();
@@ -274,7 +274,7 @@ TEST_F(ProgramTest, export_of_what_cannot_be_read_is_an_empty_document_and_a_mes
 
 // Profiles that are switched off
 
-TEST_F(ProgramTest, profiles_switched_off_in_the_settings_file_are_not_read)
+TEST_F(ProgramTest, profilesSwitchedOffInTheSettingsFileAreNotRead)
 {
     home.addPages();
     home.addBookmarks();
@@ -292,7 +292,7 @@ TEST_F(ProgramTest, profiles_switched_off_in_the_settings_file_are_not_read)
                             "Turned off in Settings: Chrome - Work, Edge - Office", StartsWith("Read in ")));
 }
 
-TEST_F(ProgramTest, the_older_list_of_chrome_profiles_still_counts)
+TEST_F(ProgramTest, theOlderListOfChromeProfilesStillCounts)
 {
     home.addPages();
     home.setSettings("disabledChromeProfiles=Profile 1\n");
@@ -304,7 +304,7 @@ TEST_F(ProgramTest, the_older_list_of_chrome_profiles_still_counts)
     EXPECT_THAT(linesOf({u"--top"_s}), ElementsAre(StartsWith("0 URLs in ")));
 }
 
-TEST_F(ProgramTest, a_settings_file_of_garbage_switches_nothing_off)
+TEST_F(ProgramTest, aSettingsFileOfGarbageSwitchesNothingOff)
 {
     home.addPages();
     for (const QByteArray &content : {QByteArray("disabledProfiles=\n"),
@@ -319,7 +319,7 @@ TEST_F(ProgramTest, a_settings_file_of_garbage_switches_nothing_off)
 
 // Homes
 
-TEST_F(ProgramTest, an_empty_home_is_no_error)
+TEST_F(ProgramTest, anEmptyHomeIsNoError)
 {
     for (const QStringList &arguments : readingJobs) {
         const Ended ended = program.run(arguments);
@@ -332,7 +332,7 @@ TEST_F(ProgramTest, an_empty_home_is_no_error)
         EXPECT_EQ(program.run(arguments).status, 0) << arguments.first().toStdString();
 }
 
-TEST_F(ProgramTest, a_mac_home_with_unusual_values_and_open_logs_is_read_whole)
+TEST_F(ProgramTest, aMacHomeWithUnusualValuesAndOpenLogsIsReadWhole)
 {
     sample::build(home.path(), {.rowsPerProfile = 300, .isAwkward = true, .leavesLogs = true});
     const auto summary = linesOf({u"--summary"_s});
@@ -347,7 +347,7 @@ TEST_F(ProgramTest, a_mac_home_with_unusual_values_and_open_logs_is_read_whole)
     EXPECT_EQ(program.runOnTerminal({u"--search"_s}).status, 0);
 }
 
-TEST_F(ProgramTest, a_linux_home_is_found_below_the_configuration_folder)
+TEST_F(ProgramTest, aLinuxHomeIsFoundBelowTheConfigurationFolder)
 {
     sample::build(home.path(), {.layout = sample::Layout::Linux, .rowsPerProfile = 20});
     EXPECT_THAT(linesOf({u"--summary"_s}),
@@ -357,7 +357,7 @@ TEST_F(ProgramTest, a_linux_home_is_found_below_the_configuration_folder)
     EXPECT_EQ(linesOf({u"--summary"_s}).size(), 4U);
 }
 
-TEST_F(ProgramTest, a_user_without_a_home_gets_empty_answers)
+TEST_F(ProgramTest, aUserWithoutAHomeGetsEmptyAnswers)
 {
     program.environment.remove(u"HOME"_s);
     program.environment.remove(u"XDG_CONFIG_HOME"_s);
@@ -367,7 +367,7 @@ TEST_F(ProgramTest, a_user_without_a_home_gets_empty_answers)
         EXPECT_EQ(program.run(arguments).status, 0) << arguments.first().toStdString();
 }
 
-TEST_F(ProgramTest, without_a_temporary_folder_the_summary_says_why)
+TEST_F(ProgramTest, withoutATemporaryFolderTheSummarySaysWhy)
 {
     home.addPages();
     sample::writeFile(home.temporary() % u"/file", "in the way");
@@ -382,7 +382,7 @@ TEST_F(ProgramTest, without_a_temporary_folder_the_summary_says_why)
     EXPECT_THAT(linesOf({u"--top"_s}), ElementsAre(StartsWith("0 URLs in ")));
 }
 
-TEST_F(ProgramTest, copies_of_others_stay_where_they_are)
+TEST_F(ProgramTest, copiesOfOthersStayWhereTheyAre)
 {
     home.addPages();
     sample::writeFile(home.temporary() % u"/Roamlet-999999999-OLD/History", "left by a run that died");
@@ -440,7 +440,7 @@ private:
 
 } // namespace
 
-TEST_F(ProgramWithoutPermissionTest, a_refused_file_is_named_and_the_others_are_read)
+TEST_F(ProgramWithoutPermissionTest, aRefusedFileIsNamedAndTheOthersAreRead)
 {
     forbid(home.chrome(u"Default/History"_s));
     const auto lines = linesOf({u"--summary"_s});
@@ -454,7 +454,7 @@ TEST_F(ProgramWithoutPermissionTest, a_refused_file_is_named_and_the_others_are_
     EXPECT_EQ(linesOf({u"--search"_s}).size(), 4U);
 }
 
-TEST_F(ProgramWithoutPermissionTest, a_refused_folder_is_named_and_the_others_are_read)
+TEST_F(ProgramWithoutPermissionTest, aRefusedFolderIsNamedAndTheOthersAreRead)
 {
     forbid(home.chrome(u"Default"_s));
     const auto lines = linesOf({u"--summary"_s});
@@ -469,7 +469,7 @@ TEST_F(ProgramWithoutPermissionTest, a_refused_folder_is_named_and_the_others_ar
     EXPECT_THAT(exported.errors.toStdString(), HasSubstr("macOS blocked access to "));
 }
 
-TEST_F(ProgramWithoutPermissionTest, a_refused_safari_is_reported_as_blocked)
+TEST_F(ProgramWithoutPermissionTest, aRefusedSafariIsReportedAsBlocked)
 {
     const QString file = home.path(u"Library/Safari/History.db"_s);
     sample::writeFile(file, "secret");
@@ -480,7 +480,7 @@ TEST_F(ProgramWithoutPermissionTest, a_refused_safari_is_reported_as_blocked)
     EXPECT_EQ(lines[lines.size() - 2], "Safari is blocked: grant Full Disk Access.");
 }
 
-TEST_F(ProgramWithoutPermissionTest, a_temporary_folder_that_refuses_is_no_crash)
+TEST_F(ProgramWithoutPermissionTest, aTemporaryFolderThatRefusesIsNoCrash)
 {
     forbid(home.temporary(), 0500);
     const auto lines = linesOf({u"--summary"_s});
@@ -490,7 +490,7 @@ TEST_F(ProgramWithoutPermissionTest, a_temporary_folder_that_refuses_is_no_crash
 
 // Where the output goes
 
-TEST_F(ProgramTest, a_pipe_closed_at_once_ends_every_job_quietly)
+TEST_F(ProgramTest, aPipeClosedAtOnceEndsEveryJobQuietly)
 {
     home.addPages();
     home.addBookmarks();
@@ -509,7 +509,7 @@ TEST_F(ProgramTest, a_pipe_closed_at_once_ends_every_job_quietly)
     }
 }
 
-TEST_F(ProgramTest, a_pipe_closed_after_the_first_line_ends_the_program_quietly)
+TEST_F(ProgramTest, aPipeClosedAfterTheFirstLineEndsTheProgramQuietly)
 {
     home.addProfiles();
     sample::writeHistory(home.chrome(u"Default/History"_s),
@@ -524,7 +524,7 @@ TEST_F(ProgramTest, a_pipe_closed_after_the_first_line_ends_the_program_quietly)
     EXPECT_TRUE(ended.lines().first().endsWith(u"https://example.org/0"));
 }
 
-TEST_F(ProgramTest, a_full_disk_is_a_failure_with_a_reason)
+TEST_F(ProgramTest, aFullDiskIsAFailureWithAReason)
 {
     home.addPages();
     home.addBookmarks();
@@ -541,7 +541,7 @@ TEST_F(ProgramTest, a_full_disk_is_a_failure_with_a_reason)
     }
 }
 
-TEST_F(ProgramTest, a_closed_output_is_a_failure_and_not_a_hang)
+TEST_F(ProgramTest, aClosedOutputIsAFailureAndNotAHang)
 {
     home.addPages();
     home.addBookmarks();
@@ -553,7 +553,7 @@ TEST_F(ProgramTest, a_closed_output_is_a_failure_and_not_a_hang)
     }
 }
 
-TEST_F(ProgramTest, closed_standard_streams_are_not_mistaken_for_files)
+TEST_F(ProgramTest, closedStandardStreamsAreNotMistakenForFiles)
 {
     home.addPages();
     EXPECT_EQ(program.runInShell(u"timeout -s KILL 20 \"$0\" --top <&- 2>&-"_s).lines().size(), 7);
@@ -561,9 +561,34 @@ TEST_F(ProgramTest, closed_standard_streams_are_not_mistaken_for_files)
     EXPECT_EQ(program.runInShell(u"timeout -s KILL 20 \"$0\" --top <&- >&- 2>&-"_s).status, 1);
 }
 
+TEST_F(ProgramTest, anOutputThatDoesNotWaitGetsEverything)
+{
+    // Whoever shares a terminal with the program may have set it to refuse instead of to wait.
+    home.addProfiles();
+    sample::writeHistory(home.chrome(u"Default/History"_s),
+                         sample::Rows<sample::HistoryRow>::generated(1000, [](qsizetype i) {
+                             return BrowserHome::page(u"https://example.org/"_s % QString(500, u'p'), u"t"_s,
+                                                      1, BrowserHome::newest - i);
+                         }));
+    program.prepare = [] { fcntl(STDOUT_FILENO, F_SETFL, fcntl(STDOUT_FILENO, F_GETFL) | O_NONBLOCK); };
+    for (const Ended &ended : {program.run({u"--search"_s}), program.runOnTerminal({u"--search"_s})}) {
+        EXPECT_EQ(ended.status, 0);
+        EXPECT_EQ(ended.errors, "");
+        EXPECT_EQ(ended.lines().size(), 1001);
+    }
+}
+
+TEST_F(ProgramTest, wordsThatAreNoTextFindNothing)
+{
+    home.addPages();
+    const Ended ended = program.runInShell(u"\"$0\" --search $'\\xff\\xfe' $'\\xc3'"_s);
+    EXPECT_EQ(ended.status, 0);
+    EXPECT_THAT(ended.output.toStdString(), StartsWith("0 matches, complete, in "));
+}
+
 // On a terminal
 
-TEST_F(ProgramTest, a_terminal_shows_control_characters_and_does_not_obey_them)
+TEST_F(ProgramTest, aTerminalShowsControlCharactersAndDoesNotObeyThem)
 {
     home.addProfiles();
     const QString title = u"\u001B]0;gotcha\u0007\u001B[2J\tx\r\nnext\u009B1m\u202Eend"_s;
@@ -583,7 +608,7 @@ TEST_F(ProgramTest, a_terminal_shows_control_characters_and_does_not_obey_them)
     }
 }
 
-TEST_F(ProgramTest, a_terminal_gets_columns_of_equal_width)
+TEST_F(ProgramTest, aTerminalGetsColumnsOfEqualWidth)
 {
     home.addPages();
     EXPECT_THAT(program.runOnTerminal({u"--top"_s}).output.toStdString(),
@@ -601,7 +626,7 @@ TEST_F(ProgramTest, a_terminal_gets_columns_of_equal_width)
                    "2 matches, complete, in "));
 }
 
-TEST_F(ProgramTest, a_terminal_gets_long_titles_cut)
+TEST_F(ProgramTest, aTerminalGetsLongTitlesCut)
 {
     home.addProfiles();
     sample::writeHistory(

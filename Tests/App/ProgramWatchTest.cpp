@@ -57,7 +57,7 @@ const std::string moment = "20[0-9][0-9]-[01][0-9]-[0-3][0-9] [0-2][0-9]:[0-5][0
 
 } // namespace
 
-TEST_F(ProgramWatchTest, reports_a_page_that_is_visited_meanwhile)
+TEST_F(ProgramWatchTest, reportsAPageThatIsVisitedMeanwhile)
 {
     home.addPages();
     startWatching(u"300"_s);
@@ -70,7 +70,7 @@ TEST_F(ProgramWatchTest, reports_a_page_that_is_visited_meanwhile)
     EXPECT_EQ(home.leftovers(), QStringList());
 }
 
-TEST_F(ProgramWatchTest, reports_files_that_are_replaced_and_profiles_that_appear)
+TEST_F(ProgramWatchTest, reportsFilesThatAreReplacedAndProfilesThatAppear)
 {
     home.addPages();
     startWatching(u"300"_s);
@@ -87,7 +87,7 @@ TEST_F(ProgramWatchTest, reports_files_that_are_replaced_and_profiles_that_appea
     EXPECT_EQ(Program::end(process).signal, SIGTERM);
 }
 
-TEST_F(ProgramWatchTest, reports_a_browser_that_is_installed_meanwhile)
+TEST_F(ProgramWatchTest, reportsABrowserThatIsInstalledMeanwhile)
 {
     startWatching(u"300"_s);
     home.addPages();
@@ -96,7 +96,7 @@ TEST_F(ProgramWatchTest, reports_a_browser_that_is_installed_meanwhile)
     EXPECT_EQ(Program::end(process).signal, SIGINT);
 }
 
-TEST_F(ProgramWatchTest, ends_by_itself_with_status_0)
+TEST_F(ProgramWatchTest, endsByItselfWithStatus0)
 {
     for (const QString &duration : {u"0"_s, u"0.05"_s, u"-1"_s, u".01"_s}) {
         const Ended ended = program.run({u"--watch"_s, duration});
@@ -106,7 +106,7 @@ TEST_F(ProgramWatchTest, ends_by_itself_with_status_0)
     }
 }
 
-TEST_F(ProgramWatchTest, every_stop_signal_ends_it)
+TEST_F(ProgramWatchTest, everyStopSignalEndsIt)
 {
     home.addPages();
     for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
@@ -118,7 +118,7 @@ TEST_F(ProgramWatchTest, every_stop_signal_ends_it)
     }
 }
 
-TEST_F(ProgramWatchTest, a_run_that_shall_survive_the_end_of_the_session_does)
+TEST_F(ProgramWatchTest, aRunThatShallSurviveTheEndOfTheSessionDoes)
 {
     home.addPages();
     program.prepare = [] { ::signal(SIGHUP, SIG_IGN); };
@@ -130,7 +130,7 @@ TEST_F(ProgramWatchTest, a_run_that_shall_survive_the_end_of_the_session_does)
     EXPECT_EQ(Program::end(process).signal, SIGTERM);
 }
 
-TEST_F(ProgramWatchTest, reads_no_profile_that_is_switched_off)
+TEST_F(ProgramWatchTest, readsNoProfileThatIsSwitchedOff)
 {
     home.addPages();
     home.setSettings("disabledProfiles=edge/Default\n");
@@ -142,7 +142,7 @@ TEST_F(ProgramWatchTest, reads_no_profile_that_is_switched_off)
     EXPECT_EQ(Program::end(process).signal, SIGTERM);
 }
 
-TEST_F(ProgramWatchTest, closing_the_output_ends_it_at_the_next_report)
+TEST_F(ProgramWatchTest, closingTheOutputEndsItAtTheNextReport)
 {
     home.addPages();
     std::array<int, 2> ends{};

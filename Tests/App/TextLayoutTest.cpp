@@ -10,7 +10,7 @@ namespace roamlet::testing
 
 using namespace Qt::StringLiterals;
 
-TEST(TextLayoutTest, plain_text_is_as_wide_as_long)
+TEST(TextLayoutTest, plainTextIsAsWideAsLong)
 {
     EXPECT_EQ(TextLayout::width(u""), 0);
     EXPECT_EQ(TextLayout::width(u"Roamlet ~!"), 10);
@@ -19,7 +19,7 @@ TEST(TextLayoutTest, plain_text_is_as_wide_as_long)
     EXPECT_EQ(TextLayout::width(u"مرحبا"), 5);
 }
 
-TEST(TextLayoutTest, east_asian_and_full_width_characters_take_two_columns)
+TEST(TextLayoutTest, eastAsianAndFullWidthCharactersTakeTwoColumns)
 {
     EXPECT_EQ(TextLayout::width(u"東京"), 4);
     EXPECT_EQ(TextLayout::width(u"한국어"), 6);
@@ -29,7 +29,7 @@ TEST(TextLayoutTest, east_asian_and_full_width_characters_take_two_columns)
     EXPECT_EQ(TextLayout::width(u"\u1112\u1161\u11AB"), 2) << "a syllable written as three letters";
 }
 
-TEST(TextLayoutTest, combining_marks_take_none)
+TEST(TextLayoutTest, combiningMarksTakeNone)
 {
     EXPECT_EQ(TextLayout::width(u"e\u0301"), 1);
     EXPECT_EQ(TextLayout::width(u"Z\u0351\u036B\u0343alg\u0321o"), 5);
@@ -37,7 +37,7 @@ TEST(TextLayoutTest, combining_marks_take_none)
     EXPECT_EQ(TextLayout::width(u"か\u3099"), 2);
 }
 
-TEST(TextLayoutTest, an_emoji_takes_two_columns_however_many_parts_it_has)
+TEST(TextLayoutTest, anEmojiTakesTwoColumnsHoweverManyPartsItHas)
 {
     EXPECT_EQ(TextLayout::width(u"😀"), 2);
     EXPECT_EQ(TextLayout::width(u"👨\u200D👩\u200D👧"), 2) << "a family joined of three";
@@ -46,7 +46,7 @@ TEST(TextLayoutTest, an_emoji_takes_two_columns_however_many_parts_it_has)
     EXPECT_EQ(TextLayout::width(u"🇩🇪"), 2) << "a flag of two letters";
 }
 
-TEST(TextLayoutTest, padding_counts_columns)
+TEST(TextLayoutTest, paddingCountsColumns)
 {
     EXPECT_EQ(TextLayout::padded(u"ab"_s, 4), u"ab  "_s);
     EXPECT_EQ(TextLayout::padded(u"東"_s, 4), u"東  "_s);
@@ -58,7 +58,7 @@ TEST(TextLayoutTest, padding_counts_columns)
     EXPECT_EQ(TextLayout::rightAligned(u""_s, 2), u"  "_s);
 }
 
-TEST(TextLayoutTest, eliding_keeps_what_fits)
+TEST(TextLayoutTest, elidingKeepsWhatFits)
 {
     EXPECT_EQ(TextLayout::elided(u""_s, 5), u""_s);
     EXPECT_EQ(TextLayout::elided(u"abcde"_s, 5), u"abcde"_s);
@@ -66,7 +66,7 @@ TEST(TextLayoutTest, eliding_keeps_what_fits)
     EXPECT_EQ(TextLayout::elided(u"東京"_s, 4), u"東京"_s);
 }
 
-TEST(TextLayoutTest, eliding_never_splits_a_character_nor_exceeds_the_columns)
+TEST(TextLayoutTest, elidingNeverSplitsACharacterNorExceedsTheColumns)
 {
     EXPECT_EQ(TextLayout::elided(u"ab東京"_s, 5), u"ab東…"_s);
     EXPECT_EQ(TextLayout::elided(u"abc東京"_s, 5), u"abc…"_s) << "half of a wide character is not shown";
@@ -80,18 +80,18 @@ TEST(TextLayoutTest, eliding_never_splits_a_character_nor_exceeds_the_columns)
     }
 }
 
-TEST(TextLayoutTest, a_title_of_a_million_characters_is_elided_like_any_other)
+TEST(TextLayoutTest, aTitleOfAMillionCharactersIsElidedLikeAnyOther)
 {
     EXPECT_EQ(TextLayout::elided(QString(1'000'000, u'x'), 10), u"xxxxxxxxx…"_s);
 }
 
-TEST(TextLayoutTest, ordinary_text_is_shown_as_it_is)
+TEST(TextLayoutTest, ordinaryTextIsShownAsItIs)
 {
     const QString text = u"Ä \u00A0 東京 😀 e\u0301 ~ مرحبا \u200D \u2400"_s;
     EXPECT_EQ(TextLayout::shown(text), text);
 }
 
-TEST(TextLayoutTest, control_characters_are_shown_as_pictures)
+TEST(TextLayoutTest, controlCharactersAreShownAsPictures)
 {
     for (char16_t code = 0; code < u' '; ++code) {
         const char16_t picture = u'\u2400' + code;
@@ -101,7 +101,7 @@ TEST(TextLayoutTest, control_characters_are_shown_as_pictures)
     EXPECT_EQ(TextLayout::shown(u"a\tb\r\nc\u007F"_s), u"a␉b␍␊c␡"_s);
 }
 
-TEST(TextLayoutTest, eight_bit_control_characters_are_named)
+TEST(TextLayoutTest, eightBitControlCharactersAreNamed)
 {
     for (char16_t code = 0x80; code < 0xA0; ++code) {
         const QString expected = u"<U+00"_s % QString::number(code, 16).toUpper() % u'>';
@@ -110,7 +110,7 @@ TEST(TextLayoutTest, eight_bit_control_characters_are_named)
     EXPECT_EQ(TextLayout::shown(u"\u009B2J"_s), u"<U+009B>2J"_s);
 }
 
-TEST(TextLayoutTest, marks_that_turn_or_break_a_line_are_named)
+TEST(TextLayoutTest, marksThatTurnOrBreakALineAreNamed)
 {
     for (const QChar mark : u"\u202A\u202B\u202C\u202D\u202E\u2066\u2067\u2068\u2069\u200E\u200F\u061C"
                             "\u2028\u2029"_s) {
@@ -119,7 +119,7 @@ TEST(TextLayoutTest, marks_that_turn_or_break_a_line_are_named)
     }
 }
 
-TEST(TextLayoutTest, columns_stand_below_each_other)
+TEST(TextLayoutTest, columnsStandBelowEachOther)
 {
     EXPECT_EQ(TextLayout::aligned({}, 10), QStringList());
     EXPECT_EQ(TextLayout::aligned({{u"only"_s}}, 10), QStringList({u"only"_s}));
@@ -127,19 +127,19 @@ TEST(TextLayoutTest, columns_stand_below_each_other)
               QStringList({u"a     bb  c"_s, u"東京  b   cc"_s}));
 }
 
-TEST(TextLayoutTest, the_last_column_is_not_padded)
+TEST(TextLayoutTest, theLastColumnIsNotPadded)
 {
     EXPECT_EQ(TextLayout::aligned({{u"a"_s, u"b"_s}, {u"a"_s, u"bbb"_s}}, 10),
               QStringList({u"a  b"_s, u"a  bbb"_s}));
 }
 
-TEST(TextLayoutTest, a_cell_wider_than_the_widest_pushes_its_own_row_only)
+TEST(TextLayoutTest, aCellWiderThanTheWidestPushesItsOwnRowOnly)
 {
     EXPECT_EQ(TextLayout::aligned({{u"a"_s, u"x"_s}, {u"abcdefgh"_s, u"y"_s}, {u"abc"_s, u"z"_s}}, 4),
               QStringList({u"a     x"_s, u"abcdefgh  y"_s, u"abc   z"_s}));
 }
 
-TEST(TextLayoutTest, rows_of_different_lengths_are_possible)
+TEST(TextLayoutTest, rowsOfDifferentLengthsArePossible)
 {
     EXPECT_EQ(TextLayout::aligned({{}, {u"a"_s}, {u"bb"_s, u"c"_s}, {u"d"_s, u"e"_s, u"f"_s}}, 10),
               QStringList({u""_s, u"a"_s, u"bb  c"_s, u"d   e  f"_s}));

@@ -201,7 +201,7 @@ const QByteArray nul(1, '\0');
 
 } // namespace
 
-TEST_F(LiteralLikeTest, is_called_in_the_place_of_the_built_in_one)
+TEST_F(LiteralLikeTest, isCalledInThePlaceOfTheBuiltInOne)
 {
     // Otherwise all the comparisons here would compare the built-in one with itself.
     Connection connection(Connection::Like::Ours);
@@ -210,7 +210,7 @@ TEST_F(LiteralLikeTest, is_called_in_the_place_of_the_built_in_one)
     EXPECT_EQ(own, "1 ");
 }
 
-TEST_F(LiteralLikeTest, finds_literal_texts_as_the_built_in_one_does)
+TEST_F(LiteralLikeTest, findsLiteralTextsAsTheBuiltInOneDoes)
 {
     const QList<QByteArray> pieces = letters + foreignLetters + wildcards + brokenLetters;
     RandomText random(1);
@@ -230,7 +230,7 @@ TEST_F(LiteralLikeTest, finds_literal_texts_as_the_built_in_one_does)
     }
 }
 
-TEST_F(LiteralLikeTest, treats_every_other_pattern_as_the_built_in_one_does)
+TEST_F(LiteralLikeTest, treatsEveryOtherPatternAsTheBuiltInOneDoes)
 {
     const QList<QByteArray> pieces = letters.first(4) + wildcards + wildcards + foreignLetters.first(3);
     RandomText random(2);
@@ -243,7 +243,7 @@ TEST_F(LiteralLikeTest, treats_every_other_pattern_as_the_built_in_one_does)
         expectSameForAllTexts(random.of(pieces, 7));
 }
 
-TEST_F(LiteralLikeTest, treats_broken_texts_and_patterns_as_the_built_in_one_does)
+TEST_F(LiteralLikeTest, treatsBrokenTextsAndPatternsAsTheBuiltInOneDoes)
 {
     const QList<QByteArray> pieces = brokenLetters + letters.first(2) + QList<QByteArray>{"%"};
     RandomText random(3);
@@ -257,7 +257,7 @@ TEST_F(LiteralLikeTest, treats_broken_texts_and_patterns_as_the_built_in_one_doe
     }
 }
 
-TEST_F(LiteralLikeTest, a_text_ends_at_a_nul)
+TEST_F(LiteralLikeTest, aTextEndsAtANul)
 {
     RandomText random(4);
     QList<Value> texts{nul,
@@ -274,7 +274,7 @@ TEST_F(LiteralLikeTest, a_text_ends_at_a_nul)
         expectSameForAllTexts('%' + QByteArray(word) + '%');
 }
 
-TEST_F(LiteralLikeTest, a_pattern_ends_at_a_nul)
+TEST_F(LiteralLikeTest, aPatternEndsAtANul)
 {
     setTexts({QByteArray("ab"), QByteArray("xabx"), "ab" + nul + "cd", QByteArray(), QByteArray("%ab")});
     const QList<QByteArray> patterns{
@@ -284,7 +284,7 @@ TEST_F(LiteralLikeTest, a_pattern_ends_at_a_nul)
         expectSameForAllTexts(pattern);
 }
 
-TEST_F(LiteralLikeTest, finds_a_word_at_every_place_of_a_text)
+TEST_F(LiteralLikeTest, findsAWordAtEveryPlaceOfAText)
 {
     // Texts are compared in blocks; words and texts around one and two blocks are where that could go wrong.
     for (const qsizetype wordLength : {1, 2, 3, 15, 30, 31, 32, 33, 34, 63, 64, 65}) {
@@ -307,7 +307,7 @@ TEST_F(LiteralLikeTest, finds_a_word_at_every_place_of_a_text)
     }
 }
 
-TEST_F(LiteralLikeTest, finds_words_of_two_letters_as_the_built_in_one_does)
+TEST_F(LiteralLikeTest, findsWordsOfTwoLettersAsTheBuiltInOneDoes)
 {
     // Many places where the first and the last letter fit.
     RandomText random(5);
@@ -321,7 +321,7 @@ TEST_F(LiteralLikeTest, finds_words_of_two_letters_as_the_built_in_one_does)
     }
 }
 
-TEST_F(LiteralLikeTest, every_byte_equals_the_same_bytes_as_with_the_built_in_one)
+TEST_F(LiteralLikeTest, everyByteEqualsTheSameBytesAsWithTheBuiltInOne)
 {
     QList<Value> texts;
     for (int byte = 1; byte < 256; ++byte)
@@ -331,7 +331,7 @@ TEST_F(LiteralLikeTest, every_byte_equals_the_same_bytes_as_with_the_built_in_on
         expectSameForAllTexts('%' + escaped(QByteArray(1, static_cast<char>(byte))) + '%');
 }
 
-TEST_F(LiteralLikeTest, only_ascii_letters_lose_their_case)
+TEST_F(LiteralLikeTest, onlyAsciiLettersLoseTheirCase)
 {
     EXPECT_EQ(ours.ask(oneText, {QByteArray("Big CAT"), QByteArray("%cat%")}), "1 ");
     EXPECT_EQ(ours.ask(oneText, {QByteArray("ÉTÉ"), QByteArray("%été%")}), "0 ");
@@ -339,7 +339,7 @@ TEST_F(LiteralLikeTest, only_ascii_letters_lose_their_case)
     EXPECT_EQ(ours.ask(oneText, {QByteArray("a[b"), QByteArray("%a{b%")}), "0 ");
 }
 
-TEST_F(LiteralLikeTest, values_that_are_no_texts_are_treated_as_the_built_in_one_does)
+TEST_F(LiteralLikeTest, valuesThatAreNoTextsAreTreatedAsTheBuiltInOneDoes)
 {
     const QList<Value> values{nullptr,
                               qint64{0},
@@ -368,7 +368,7 @@ TEST_F(LiteralLikeTest, values_that_are_no_texts_are_treated_as_the_built_in_one
         expectSame(allTexts, {pattern});
 }
 
-TEST_F(LiteralLikeTest, patterns_up_to_the_limit_are_used_and_longer_ones_refused)
+TEST_F(LiteralLikeTest, patternsUpToTheLimitAreUsedAndLongerOnesRefused)
 {
     const QByteArray longest(49'998, 'a');
     expectSame(oneText, {QByteArray(60'000, 'A'), '%' + longest + '%'});
@@ -386,14 +386,14 @@ TEST_F(LiteralLikeTest, patterns_up_to_the_limit_are_used_and_longer_ones_refuse
     expectSame(oneText, {QByteArray("abcd"), QByteArray("%abcd%")});
 }
 
-TEST_F(LiteralLikeTest, texts_of_megabytes_are_searched_to_their_end)
+TEST_F(LiteralLikeTest, textsOfMegabytesAreSearchedToTheirEnd)
 {
     const QByteArray haystack(3'000'000, 'h');
     EXPECT_EQ(ours.ask(oneText, {haystack + "Needle", QByteArray("%needle%")}), "1 ");
     EXPECT_EQ(ours.ask(oneText, {haystack + "Needl", QByteArray("%needle%")}), "0 ");
 }
 
-TEST_F(LiteralLikeTest, patterns_out_of_a_column_may_differ_in_each_row)
+TEST_F(LiteralLikeTest, patternsOutOfAColumnMayDifferInEachRow)
 {
     for (Connection *connection : {&ours, &builtIn}) {
         connection->execute(
@@ -405,7 +405,7 @@ TEST_F(LiteralLikeTest, patterns_out_of_a_column_may_differ_in_each_row)
     expectSame("SELECT text NOT LIKE pattern ESCAPE '\\' FROM pairs", {});
 }
 
-TEST_F(LiteralLikeTest, a_statement_with_several_patterns_keeps_them_apart)
+TEST_F(LiteralLikeTest, aStatementWithSeveralPatternsKeepsThemApart)
 {
     setTexts(
         {QByteArray("red bike"), QByteArray("blue bike"), QByteArray("red car"), QByteArray("bike red")});
@@ -416,12 +416,12 @@ TEST_F(LiteralLikeTest, a_statement_with_several_patterns_keeps_them_apart)
     EXPECT_EQ(ours.ask(sql, {QByteArray("%red%"), QByteArray("%red%")}), "bike red red bike red car ");
 }
 
-TEST_F(LiteralLikeTest, another_character_can_be_the_escape)
+TEST_F(LiteralLikeTest, anotherCharacterCanBeTheEscape)
 {
     expectSameWithEscapes({QByteArray("!"), QByteArray("x"), QByteArray("X"), QByteArray("\\"), qint64{7}});
 }
 
-TEST_F(LiteralLikeTest, a_wildcard_or_a_foreign_letter_as_the_escape_is_refused)
+TEST_F(LiteralLikeTest, aWildcardOrAForeignLetterAsTheEscapeIsRefused)
 {
     // The one difference to the built-in one: an error instead of a wrong answer.
     for (const char *escape : {"%", "_", "é"}) {
@@ -431,19 +431,19 @@ TEST_F(LiteralLikeTest, a_wildcard_or_a_foreign_letter_as_the_escape_is_refused)
     }
 }
 
-TEST_F(LiteralLikeTest, an_escape_that_is_no_single_character_is_refused)
+TEST_F(LiteralLikeTest, anEscapeThatIsNoSingleCharacterIsRefused)
 {
     expectSameWithEscapes({QByteArray(""), QByteArray("ab"), qint64{77}, nullptr});
 }
 
-TEST_F(LiteralLikeTest, like_without_an_escape_and_glob_stay_the_built_in_ones)
+TEST_F(LiteralLikeTest, likeWithoutAnEscapeAndGlobStayTheBuiltInOnes)
 {
     setTexts({QByteArray("abc"), QByteArray("a\\c"), QByteArray("a%c")});
     expectSame("SELECT text LIKE ?1 FROM texts", {QByteArray("%\\%")});
     expectSame("SELECT text GLOB ?1 FROM texts", {QByteArray("a*")});
 }
 
-TEST(LiteralLikeEncodingTest, a_database_in_utf_16_answers_the_same)
+TEST(LiteralLikeEncodingTest, aDatabaseInUtf16AnswersTheSame)
 {
     for (const char *encoding : {"UTF-16le", "UTF-16be"}) {
         Connection ours(Connection::Like::Ours, encoding);
