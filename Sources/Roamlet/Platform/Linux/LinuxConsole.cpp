@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <climits>
 #include <cstdlib>
 #include <poll.h>
@@ -40,10 +41,14 @@ std::error_code LinuxConsole::writeOutput(QByteArrayView bytes)
             continue;
         if (descriptors[1].revents != 0)
             return std::make_error_code(std::errc::operation_canceled);
-        const QByteArrayView part = bytes.first(std::min(atOnce, bytes.size()));
-        if (const std::error_code error = writeAll(STDOUT_FILENO, part))
-            return error;
-        bytes = bytes.sliced(part.size());
+        // One write for each look: whoever shares a terminal with us may have set it to refuse instead of to
+        // wait.
+        const ssize_t written =
+            ::write(STDOUT_FILENO, bytes.data(), static_cast<size_t>(std::min(atOnce, bytes.size())));
+        if (written >= 0)
+            bytes = bytes.sliced(written);
+        else if (errno != EINTR && errno != EAGAIN)
+            return lastError();
     }
     return {};
 }
