@@ -3,6 +3,7 @@
 
 #include "Platform/Linux/LinuxFiles.h"
 
+#include "Platform/FileSizeLimit.h"
 #include "Platform/WithoutPrivileges.h"
 #include "SampleHome/PlainFiles.h"
 #include "Support/FolderFingerprint.h"
@@ -13,8 +14,6 @@
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
-#include <signal.h>
-#include <sys/resource.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/un.h>
@@ -94,29 +93,6 @@ public:
 
 private:
     mode_t m_before = ::umask(0);
-};
-
-/// No file can grow beyond this size for as long as this lives, as on a disk that is full.
-class FileSizeLimit
-{
-public:
-    explicit FileSizeLimit(rlim_t size) : m_handler(::signal(SIGXFSZ, SIG_IGN))
-    {
-        ::getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit limit{size, m_before.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    FileSizeLimit(const FileSizeLimit &) = delete;
-    FileSizeLimit &operator=(const FileSizeLimit &) = delete;
-    ~FileSizeLimit()
-    {
-        ::setrlimit(RLIMIT_FSIZE, &m_before);
-        ::signal(SIGXFSZ, m_handler);
-    }
-
-private:
-    sighandler_t m_handler;
-    rlimit m_before{};
 };
 
 } // namespace
