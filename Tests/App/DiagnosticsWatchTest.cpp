@@ -3,12 +3,12 @@
 
 #include "App/Diagnostics.h"
 #include "BrowserHome.h"
+#include "LocalTime.h"
 #include "Support/FakeConsole.h"
 
 #include <QTimer>
 
 #include <chrono>
-#include <ctime>
 #include <functional>
 #include <gmock/gmock.h>
 #include <optional>
@@ -92,16 +92,7 @@ bool endsAtOnce(const std::optional<QString> &word)
 class DiagnosticsWatchTest : public ::testing::Test
 {
 protected:
-    static void SetUpTestSuite()
-    {
-        qputenv("TZ", BrowserHome::timeZone);
-        tzset();
-    }
-    static void TearDownTestSuite()
-    {
-        qunsetenv("TZ");
-        tzset();
-    }
+    LocalTime localTime;
 };
 
 } // namespace

@@ -1,0 +1,142 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "DiagnosticsTest.h"
+#include "EmptyDocuments.h"
+#include "SampleHome/PlainFiles.h"
+
+#include <gmock/gmock.h>
+
+namespace roamlet::testing
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+using ::testing::HasSubstr;
+
+using DiagnosticsExportTest = DiagnosticsTest;
+
+} // namespace
+
+TEST_F(DiagnosticsExportTest, printsTheDocumentAndNothingElse)
+{
+    home.addProfiles();
+    home.addBookmarks();
+    EXPECT_EQ(
+        outputOf({u"--export"_s, u"html"_s, u"--source"_s, u"chrome/Default"_s}).toStdString(),
+        "<!DOCTYPE NETSCAPE-Bookmark-file-1>\n"
+        "<META HTTP-EQUIV=\"Content-Type\" CONTENT=\"text/html; charset=UTF-8\">\n"
+        "<TITLE>Bookmarks</TITLE>\n"
+        "<H1>Bookmarks</H1>\n"
+        "<DL><p>\n"
+        "    <DT><H3 PERSONAL_TOOLBAR_FOLDER=\"true\">Bar</H3>\n"
+        "    <DL><p>\n"
+        "        <DT><A HREF=\"https://a.example/?x=1&amp;y=2\" ADD_DATE=\"1778307200\">A &amp; B</A>\n"
+        "        <DT><H3>Sub</H3>\n"
+        "        <DL><p>\n"
+        "            <DT><A HREF=\"https://b.example/\" ADD_DATE=\"1778307200\">Größe, &quot;東京&quot;</A>\n"
+        "        </DL><p>\n"
+        "        <DT><H3>Empty</H3>\n"
+        "        <DL><p>\n"
+        "        </DL><p>\n"
+        "    </DL><p>\n"
+        "    <DT><H3>Phone</H3>\n"
+        "    <DL><p>\n"
+        "        <DT><A HREF=\"https://c.example/\">C</A>\n"
+        "    </DL><p>\n"
+        "</DL><p>\n");
+    EXPECT_EQ(outputOf({u"--export"_s, u"csv"_s, u"--source"_s, u"chrome/Default"_s}).toStdString(),
+              "Browser,Profile,Folder,Title,URL,Added\r\n"
+              "Chrome,Personal,Bar,A & B,https://a.example/?x=1&y=2,2026-05-09T06:13:20Z\r\n"
+              "Chrome,Personal,Bar › Sub,\"Größe, \"\"東京\"\"\",https://b.example/,2026-05-09T06:13:20Z\r\n"
+              "Chrome,Personal,Phone,C,https://c.example/,\r\n");
+    EXPECT_EQ(outputOf({u"--export"_s, u"markdown"_s, u"--source"_s, u"chrome/Default"_s}).toStdString(),
+              "# Bookmarks\n\n## Bar\n\n- [A & B](<https://a.example/?x=1&y=2>)\n\n### Sub\n\n"
+              "- [Größe, \"東京\"](<https://b.example/>)\n\n### Empty\n\n## Phone\n\n- "
+              "[C](<https://c.example/>)\n");
+    EXPECT_EQ(console.errors, "");
+}
+
+TEST_F(DiagnosticsExportTest, takesTheDefaultSafariSourceWhenNoneIsNamed)
+{
+    home.addProfiles();
+    home.addBookmarks();
+    addSafari();
+    EXPECT_EQ(outputOf({u"--export"_s, u"markdown"_s}).toStdString(),
+              "# Bookmarks\n\n## Favorites\n\n- [Apple](<https://apple.example/>)\n");
+}
+
+TEST_F(DiagnosticsExportTest, showsControlCharactersAsStoredOnATerminalOrNot)
+{
+    home.addProfiles();
+    home.addBookmarks();
+    const QStringList arguments{u"--export"_s, u"csv"_s, u"--source"_s, u"chrome/Default"_s};
+    const QByteArray piped = outputOf(arguments);
+    console.terminal = true;
+    EXPECT_EQ(outputOf(arguments), piped);
+}
+
+TEST_F(DiagnosticsExportTest, ofAnUnknownSourceIsEmptyAndSaysWhy)
+{
+    home.addProfiles();
+    home.addBookmarks();
+    EXPECT_EQ(outputOf({u"--export"_s, u"html"_s, u"--source"_s, u"chrome/Nobody"_s}), emptyHtml);
+    EXPECT_THAT(console.errors.toStdString(), HasSubstr("chrome/Nobody"));
+    EXPECT_EQ(outputOf({u"--export"_s, u"markdown"_s, u"--source"_s, u"Chrome/Default"_s}), emptyMarkdown)
+        << "ids are exact";
+    EXPECT_EQ(outputOf({u"--export"_s, u"csv"_s, u"--source"_s, u""_s}), emptyCsv);
+}
+
+TEST_F(DiagnosticsExportTest, ofASwitchedOffSourceIsEmptyAndSaysWhy)
+{
+    home.addProfiles();
+    home.addBookmarks();
+    switchOff({u"chrome/Default"_s});
+    EXPECT_EQ(outputOf({u"--export"_s, u"csv"_s, u"--source"_s, u"chrome/Default"_s}), emptyCsv);
+    EXPECT_THAT(console.errors.toStdString(), HasSubstr("turned off"));
+}
+
+TEST_F(DiagnosticsExportTest, ofAnUnreadableSourceIsEmptyAndSaysWhy)
+{
+    home.addProfiles();
+    sample::writeFile(home.chrome(u"Default/Bookmarks"_s), "[1, 2");
+    EXPECT_EQ(outputOf({u"--export"_s, u"html"_s, u"--source"_s, u"chrome/Default"_s}), emptyHtml);
+    EXPECT_THAT(console.errors.toStdString(),
+                HasSubstr("Couldn't read " + home.chrome(u"Default/Bookmarks"_s).toStdString() + ": "));
+}
+
+TEST_F(DiagnosticsExportTest, withoutSafariOrBookmarksIsEmpty)
+{
+    EXPECT_EQ(outputOf({u"--export"_s, u"markdown"_s}), emptyMarkdown);
+    home.addProfiles();
+    console.errors.clear();
+    EXPECT_EQ(outputOf({u"--export"_s, u"markdown"_s, u"--source"_s, u"edge/Default"_s}), emptyMarkdown);
+    EXPECT_EQ(console.errors, "") << "a profile without bookmarks is no error";
+}
+
+TEST_F(DiagnosticsExportTest, anUnknownFormatGetsTheListOfFormats)
+{
+    home.addProfiles();
+    home.addBookmarks();
+    const QList<QStringList> wrong{{u"--export"_s},
+                                   {u"--export"_s, u"HTML"_s},
+                                   {u"--export"_s, u"htm"_s},
+                                   {u"--export"_s, u"md"_s},
+                                   {u"--export"_s, u" html"_s},
+                                   {u"--export"_s, u""_s},
+                                   {u"--export"_s, u"--source"_s, u"chrome/Default"_s},
+                                   {u"--source"_s, u"chrome/Default"_s, u"--export"_s},
+                                   {u"--export"_s, u"--top"_s}};
+    for (const QStringList &arguments : wrong) {
+        SCOPED_TRACE(arguments.join(u' ').toStdString());
+        console.output.clear();
+        EXPECT_EQ(run(arguments), 1);
+        EXPECT_EQ(console.output, "Formats: html, markdown, csv\n");
+        EXPECT_EQ(console.errors, "");
+    }
+}
+
+} // namespace roamlet::testing

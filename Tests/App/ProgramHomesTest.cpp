@@ -1,0 +1,102 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "EmptyDocuments.h"
+#include "ProgramTest.h"
+#include "SampleHome/PlainFiles.h"
+#include "SampleHome/SampleHome.h"
+
+#include <QDir>
+
+#include <gmock/gmock.h>
+
+namespace roamlet::testing
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::MatchesRegex;
+using ::testing::StartsWith;
+
+using ProgramHomesTest = ProgramTest;
+
+} // namespace
+
+TEST_F(ProgramHomesTest, anEmptyHomeIsNoError)
+{
+    for (const QStringList &arguments : readingJobs) {
+        const Ended ended = program.run(arguments);
+        EXPECT_EQ(ended.status, 0) << arguments.first().toStdString();
+    }
+    EXPECT_EQ(program.run({u"--export"_s, u"html"_s}).output, emptyHtml);
+    EXPECT_EQ(program.run({u"--watch"_s, u"0"_s}).status, 0);
+    QDir(home.path()).removeRecursively();
+    for (const QStringList &arguments : readingJobs)
+        EXPECT_EQ(program.run(arguments).status, 0) << arguments.first().toStdString();
+}
+
+TEST_F(ProgramHomesTest, aMacHomeWithUnusualValuesAndOpenLogsIsReadWhole)
+{
+    sample::build(home.path(), {.rowsPerProfile = 300, .isAwkward = true, .leavesLogs = true});
+    const auto summary = linesOf({u"--summary"_s});
+    EXPECT_THAT(summary.front(), StartsWith("Safari - Personal"));
+    EXPECT_THAT(summary, ::testing::Contains(StartsWith("Chrome - Work")));
+    for (const std::string &line : summary)
+        EXPECT_THAT(line, ::testing::Not(HasSubstr("Couldn't read")));
+    EXPECT_THAT(linesOf({u"--top"_s}).back(), MatchesRegex("[0-9]+ URLs in " + seconds + "s"));
+    for (const QStringList &arguments : readingJobs)
+        EXPECT_EQ(program.run(arguments).status, 0) << arguments.first().toStdString();
+    EXPECT_THAT(program.run({u"--export"_s, u"html"_s}).output.toStdString(), HasSubstr("<DT><A HREF="));
+    EXPECT_EQ(program.runOnTerminal({u"--search"_s}).status, 0);
+}
+
+TEST_F(ProgramHomesTest, aLinuxHomeIsFoundBelowTheConfigurationFolder)
+{
+    sample::build(home.path(), {.layout = sample::Layout::Linux, .rowsPerProfile = 20});
+    EXPECT_THAT(linesOf({u"--summary"_s}),
+                ElementsAre(StartsWith("Chrome - Work "), StartsWith("Chrome - Personal "),
+                            StartsWith("Edge - Personal"), StartsWith("Read in ")));
+    program.environment.remove(u"XDG_CONFIG_HOME"_s);
+    EXPECT_EQ(linesOf({u"--summary"_s}).size(), 4U);
+}
+
+TEST_F(ProgramHomesTest, aUserWithoutAHomeGetsEmptyAnswers)
+{
+    program.environment.remove(u"HOME"_s);
+    program.environment.remove(u"XDG_CONFIG_HOME"_s);
+    EXPECT_EQ(program.run({u"--site"_s, u"nowhere.invalid"_s}).status, 0);
+    program.environment.insert(u"HOME"_s, u"/dev/null"_s);
+    for (const QStringList &arguments : readingJobs)
+        EXPECT_EQ(program.run(arguments).status, 0) << arguments.first().toStdString();
+}
+
+TEST_F(ProgramHomesTest, withoutATemporaryFolderTheSummarySaysWhy)
+{
+    home.addPages();
+    sample::writeFile(home.temporary() % u"/file", "in the way");
+    program.environment.insert(u"TMPDIR"_s, QString(home.temporary() % u"/file/below"));
+    const auto lines = linesOf({u"--summary"_s});
+    ASSERT_EQ(lines.size(), 7U);
+    EXPECT_THAT(lines[0], StartsWith("Chrome - Personal  "));
+    EXPECT_THAT(lines[0], HasSubstr("  0 history URLs"));
+    EXPECT_THAT(lines[1], HasSubstr("Couldn't read " + home.chrome(u"Default/History"_s).toStdString() +
+                                    ": Not a directory"));
+    EXPECT_THAT(linesOf({u"--search"_s}), ElementsAre(StartsWith("0 matches, complete, in ")));
+    EXPECT_THAT(linesOf({u"--top"_s}), ElementsAre(StartsWith("0 URLs in ")));
+}
+
+TEST_F(ProgramHomesTest, copiesOfOthersStayWhereTheyAre)
+{
+    home.addPages();
+    sample::writeFile(home.temporary() % u"/Roamlet-999999999-OLD/History", "left by a run that died");
+    for (const QStringList &arguments : readingJobs)
+        EXPECT_EQ(program.run(arguments).status, 0);
+    EXPECT_EQ(home.leftovers(), QStringList(u"Roamlet-999999999-OLD"_s));
+}
+
+} // namespace roamlet::testing

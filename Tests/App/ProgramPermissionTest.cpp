@@ -1,0 +1,122 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "EmptyDocuments.h"
+#include "ProgramTest.h"
+#include "SampleHome/PlainFiles.h"
+
+#include <QFileInfo>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <gmock/gmock.h>
+#include <grp.h>
+#include <utility>
+
+namespace roamlet::testing
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+using ::testing::AllOf;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::StartsWith;
+
+/// A user who owns nothing here, where the tests run as somebody whom no permission stops.
+constexpr unsigned int nobody = 65'534;
+
+class ProgramPermissionTest : public ProgramTest
+{
+protected:
+    void SetUp() override
+    {
+        home.addPages();
+        home.addBookmarks();
+        if (geteuid() != 0)
+            return;
+        // The other user must be able to come as far as here and to write copies.
+        const QString folder = QFileInfo(home.path()).path();
+        ASSERT_EQ(chmod(folder.toUtf8().constData(), 0755), 0);
+        ASSERT_EQ(chmod(home.temporary().toUtf8().constData(), 0777), 0);
+        program.prepare = [] {
+            // After these calls nobody is left who could report a failure; the program would then read it
+            // all.
+            if (setgroups(0, nullptr) != 0 || setgid(nobody) != 0 || setuid(nobody) != 0)
+                _exit(99);
+        };
+        QProcess probe;
+        program.start(probe, {u"--version"_s});
+        if (Program::end(probe).status != 0)
+            GTEST_SKIP() << "another user cannot start the program here";
+    }
+    void forbid(const QString &path, unsigned int mode = 0)
+    {
+        ASSERT_EQ(chmod(path.toUtf8().constData(), mode), 0);
+        m_forbidden.append(path);
+    }
+    void TearDown() override
+    {
+        for (const QString &path : std::as_const(m_forbidden))
+            chmod(path.toUtf8().constData(), 0700);
+    }
+
+private:
+    QStringList m_forbidden;
+};
+
+} // namespace
+
+TEST_F(ProgramPermissionTest, aRefusedFileIsNamedAndTheOthersAreRead)
+{
+    forbid(home.chrome(u"Default/History"_s));
+    const auto lines = linesOf({u"--summary"_s});
+    EXPECT_THAT(
+        lines,
+        ElementsAre(
+            AllOf(StartsWith("Chrome - Personal  3 bookmarks"), HasSubstr("  0 history URLs")),
+            HasSubstr("macOS blocked access to " + home.chrome(u"Default/History"_s).toStdString() + "."),
+            AllOf(StartsWith("Chrome - Work"), HasSubstr("  2 history URLs")),
+            AllOf(StartsWith("Edge - Office"), HasSubstr("  1 history URLs")), StartsWith("Read in ")));
+    EXPECT_EQ(linesOf({u"--search"_s}).size(), 4U);
+}
+
+TEST_F(ProgramPermissionTest, aRefusedFolderIsNamedAndTheOthersAreRead)
+{
+    forbid(home.chrome(u"Default"_s));
+    const auto lines = linesOf({u"--summary"_s});
+    ASSERT_EQ(lines.size(), 6U);
+    EXPECT_THAT(lines[1], HasSubstr("macOS blocked access to " +
+                                    home.chrome(u"Default/Bookmarks"_s).toStdString() + "."));
+    EXPECT_THAT(lines[2], HasSubstr("macOS blocked access to " +
+                                    home.chrome(u"Default/History"_s).toStdString() + "."));
+    const Ended exported = program.run({u"--export"_s, u"html"_s, u"--source"_s, u"chrome/Default"_s});
+    EXPECT_EQ(exported.status, 0);
+    EXPECT_EQ(exported.output, emptyHtml);
+    EXPECT_THAT(exported.errors.toStdString(), HasSubstr("macOS blocked access to "));
+}
+
+TEST_F(ProgramPermissionTest, aRefusedSafariIsReportedAsBlocked)
+{
+    const QString file = home.path(u"Library/Safari/History.db"_s);
+    sample::writeFile(file, "secret");
+    forbid(file);
+    const auto lines = linesOf({u"--summary"_s});
+    EXPECT_THAT(lines.front(), StartsWith("Safari "));
+    ASSERT_GE(lines.size(), 2U);
+    EXPECT_EQ(lines[lines.size() - 2], "Safari is blocked: grant Full Disk Access.");
+}
+
+TEST_F(ProgramPermissionTest, aTemporaryFolderThatRefusesIsNoCrash)
+{
+    forbid(home.temporary(), 0500);
+    const auto lines = linesOf({u"--summary"_s});
+    EXPECT_THAT(lines[1], HasSubstr("Default/History"));
+    EXPECT_THAT(linesOf({u"--top"_s}), ElementsAre(StartsWith("0 URLs in ")));
+}
+
+} // namespace roamlet::testing
