@@ -1,0 +1,118 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+# Measures Roamlet against plain alternatives and prints one table of ratios. Each ratio is the one of two medians that
+# were taken in the same run, ours and theirs in turn. A target that is missed is said so; it is no error.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+Scripts/install-dependencies.sh build bench
+cmake --preset bench >/dev/null
+cmake --build --preset bench --target all roamlet-sample-home
+bin=$PWD/build/bench
+homes=$PWD/build/bench-homes
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+mkdir -p "$homes"
+export TMPDIR=$work
+
+home() { # name, options of the builder
+  local name=$1
+  shift
+  [ -d "$homes/$name" ] || "$bin/roamlet-sample-home" --layout linux --safari -1 "$@" "$homes/$name" >&2
+}
+
+rows=()
+row() { # job, against, ours, theirs, at most
+  rows+=("$(awk -v job="$1" -v against="$2" -v ours="$3" -v theirs="$4" -v most="$5" 'BEGIN {
+    ratio = ours / theirs
+    printf "%-52s | %-40s | %9.1f | %9.1f | %5.2f | %5.2f | %s", job, against, ours, theirs, ratio, most,
+           ratio <= most ? "met" : "MISSED"
+  }')")
+}
+
+# Runs two plain commands in turn, on one of the sample homes, and leaves the medians, in milliseconds, in $ours and
+# $theirs. No shell stands between: it would take longer than some of what is measured.
+compare() { # home, rounds, ours, theirs
+  local home=$homes/$1 rounds=$2
+  : >"$work/ours"
+  : >"$work/theirs"
+  for round in $(seq 0 "$rounds"); do
+    for side in ours theirs; do
+      local command=$3
+      [ $side = theirs ] && command=$4
+      HOME=$home XDG_CONFIG_HOME=$home/.config hyperfine --style none --runs 1 --shell=none --export-csv "$work/csv" \
+        "$command" >/dev/null 2>&1
+      # The first round only warms up.
+      [ "$round" -eq 0 ] || awk -F, 'NR == 2 { print $2 * 1000 }' "$work/csv" >>"$work/$side"
+    done
+  done
+  ours=$(sort -n "$work/ours" | awk '{ a[NR] = $1 } END { print a[int((NR + 1) / 2)] }')
+  theirs=$(sort -n "$work/theirs" | awk '{ a[NR] = $1 } END { print a[int((NR + 1) / 2)] }')
+}
+
+recent="SELECT id, url, title, last_visit_time, visit_count FROM urls WHERE hidden = 0"
+search="$recent AND (url || ' ' || title) LIKE '%garden%' ESCAPE '\\' AND (url || ' ' || title) LIKE '%maps%' ESCAPE '\\'
+ORDER BY last_visit_time DESC LIMIT 1000"
+
+echo "Preparing the sample homes"
+home million --chrome 1 --edge 0 --rows 1000000 --bookmarks 1000 --icons 100
+home tenth --chrome 1 --edge 0 --rows 100000 --bookmarks 1000 --icons 100
+home profiles --chrome 4 --edge 4 --rows 100000 --bookmarks 1000 --icons 5000
+home ten --chrome 1 --edge 0 --rows 10 --bookmarks 10 --icons 1
+
+echo "Measuring; the load of the machine is $(cut -d' ' -f1-3 /proc/loadavg)"
+copy=$work/copy
+mkdir "$copy"
+million=$homes/million/.config/google-chrome/Default
+roamlet=$bin/roamlet
+
+cat >"$work/plain-search" <<SEARCH
+cp '$million/History' '$copy/History'
+sqlite3 '$copy/History' "$search" >/dev/null
+SEARCH
+compare million 15 "$roamlet --search garden maps" "bash $work/plain-search"
+rm -f "$copy"/*
+row "--search of two words, 1,000,000 rows (ms)" "cp, sqlite3 with the same statement" "$ours" "$theirs" 0.9
+
+cat >"$work/plain-summary" <<SUMMARY
+for profile in $homes/profiles/.config/{google-chrome,microsoft-edge}/*/; do
+  for file in History Favicons; do
+    cp "\$profile/\$file"* $copy/
+  done
+  sqlite3 $copy/History "$recent ORDER BY last_visit_time DESC LIMIT 1000" >/dev/null
+  sqlite3 $copy/Favicons "SELECT icon_id, image_data, width FROM favicon_bitmaps; SELECT page_url, icon_id FROM icon_mapping" >/dev/null
+  cat "\$profile/Bookmarks" >/dev/null
+  rm -f $copy/*
+done
+SUMMARY
+compare profiles 9 "$roamlet --summary" "bash $work/plain-summary"
+row "--summary of 8 profiles of 100,000 rows (ms)" "cp, sqlite3, one after the other" "$ours" "$theirs" 0.7
+
+compare ten 41 "$roamlet --export html --source chrome/Default" "$bin/BenchmarkEmptyProgram"
+row "--export html of ten bookmarks, whole process (ms)" "an empty Qt Core program" "$ours" "$theirs" 2
+
+peak=$(HOME=$homes/million XDG_CONFIG_HOME=$homes/million/.config \
+  /usr/bin/time -f %M "$roamlet" --search garden maps 2>&1 >/dev/null | tail -n 1)
+row "peak memory of the search (MB)" "60 MB" "$(awk "BEGIN { print $peak / 1024 }")" 60 1
+
+compare million 7 "$roamlet --search garden maps" \
+  "env HOME=$homes/tenth XDG_CONFIG_HOME=$homes/tenth/.config $roamlet --search garden maps"
+row "reading 1,000,000 rows (ms)" "100,000 rows" "$ours" "$theirs" 11
+
+# The medians of one benchmark program, as "name milliseconds" of processor time.
+medians() {
+  "$bin/$1" --benchmark_format=csv --benchmark_repetitions=5 --benchmark_report_aggregates_only=true 2>/dev/null \
+    | awk -F, '/_median"/ { gsub(/"/, "", $1); sub(/_median$/, "", $1); print $1, ($5 == "ns" ? $4 / 1e6 : $5 == "us" ? $4 / 1e3 : $4) }'
+}
+
+medians BenchmarkRenderBookmarks >"$work/render"
+for format in html markdown csv; do
+  few=$(awk -v name="render/$format/10000" '$1 == name { print $2 }' "$work/render")
+  many=$(awk -v name="render/$format/100000" '$1 == name { print $2 }' "$work/render")
+  row "rendering 100,000 bookmarks as $format (ms)" "10,000 bookmarks" "$many" "$few" 11
+done
+
+
+
+printf '\n%-52s | %-40s | %9s | %9s | %5s | %5s |\n' "job" "against" "ours" "theirs" "ratio" "most"
+printf '%s\n' "${rows[@]}"
