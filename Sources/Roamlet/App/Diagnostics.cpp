@@ -100,7 +100,11 @@ private:
     }
     int print(const QStringList &lines) { return write(lines.join(u'\n') % u'\n'); }
     int write(const QString &output);
-    void complain(const QString &message) { m_console.writeError(QString(message % u'\n').toUtf8()); }
+    /// A message holds paths and ids, and it may be read on a terminal.
+    void complain(const QString &message)
+    {
+        m_console.writeError(QString(TextLayout::shown(message) % u'\n').toUtf8());
+    }
 
     const Platform &m_platform;
     Console &m_console;

@@ -15,7 +15,7 @@ namespace roamlet
 /// How a list is cut into sections.
 enum class Grouping { None, Day, Site };
 
-constexpr std::array allGroupings{Grouping::None, Grouping::Day, Grouping::Site};
+inline constexpr std::array allGroupings{Grouping::None, Grouping::Day, Grouping::Site};
 
 /// "none", "day" or "site".
 QString rawValue(Grouping grouping);

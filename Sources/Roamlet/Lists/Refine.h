@@ -15,6 +15,7 @@
 #include <memory>
 #include <optional>
 #include <stop_token>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -69,13 +70,17 @@ std::optional<QList<Row>> refinedRows(const QList<Row> &rows, const QStringList 
     return sortedRows(std::move(kept), order, collation, stop);
 }
 
+/// Takes the rows, or nothing when the refinement was stopped.
+template<typename Row>
+using RefineDelivery = std::type_identity_t<std::function<void(std::optional<QList<Row>>)>>;
+
 /// Refines `rows` in the background, after a short wait when there is something to search for: keys that
 /// are typed quickly should not each start a search. `deliver` is called once on the main thread, with
 /// nothing when a stop was requested through the source that is returned; what is shown then stays.
 template<typename Row, typename Key>
 std::stop_source refine(RefineRunner &runner, QList<Row> rows, const QString &search,
                         QList<SortComparator<Row>> order, Key key, std::shared_ptr<const Collation> collation,
-                        std::function<void(std::optional<QList<Row>>)> deliver)
+                        RefineDelivery<Row> deliver)
 {
     std::stop_source source;
     const QString text = refineText(search);

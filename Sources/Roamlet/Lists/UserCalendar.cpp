@@ -10,6 +10,7 @@
 #include <unicode/locid.h>
 
 #include <memory>
+#include <string_view>
 
 namespace roamlet
 {
@@ -36,12 +37,14 @@ Qt::DayOfWeek usualFirstWeekday(const QString &locale)
     return U_SUCCESS(status) ? weekday(day) : Qt::Monday;
 }
 
-bool hasMonthNames(const icu::Locale &locale)
+/// Whether the library knows the language: for others it takes the process's own locale or mere numbers.
+bool hasMonthNames(icu::Locale locale)
 {
     UErrorCode status = U_ZERO_ERROR;
+    locale.canonicalize(status);
     const icu::DateFormatSymbols symbols(locale, status);
     const icu::Locale found = symbols.getLocale(ULOC_VALID_LOCALE, status);
-    return U_SUCCESS(status) && *found.getLanguage() != '\0';
+    return U_SUCCESS(status) && std::string_view(found.getLanguage()) == locale.getLanguage();
 }
 
 } // namespace
@@ -60,7 +63,7 @@ QString UserCalendar::localeOf(const QString &posixName)
     const icu::Locale locale(name.toLatin1().constData());
     if (!locale.isBogus() && hasMonthNames(locale))
         return QString::fromLatin1(locale.getName());
-    const QString country = QString::fromLatin1(locale.isBogus() ? "" : locale.getCountry());
+    const QString country = locale.isBogus() ? QString() : QString::fromLatin1(locale.getCountry());
     return country.isEmpty() ? u"en_001"_s : QString(u"en_" % country);
 }
 

@@ -70,6 +70,8 @@ BookmarkNode::~BookmarkNode()
     }
 }
 
+bool BookmarkNode::operator==(const BookmarkNode &other) const = default;
+
 qint64 BookmarkNode::bookmarkCount() const
 {
     qint64 count = 0;

@@ -1,0 +1,114 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "Library/LibraryHome.h"
+
+#include "SampleHome/PropertyLists.h"
+#include "Support/Waiting.h"
+
+#include <QBuffer>
+#include <QImage>
+
+namespace roamlet::testing
+{
+
+using namespace Qt::StringLiterals;
+
+void LibraryHome::TearDown()
+{
+    EXPECT_TRUE(home.leftovers().isEmpty()) << qPrintable(home.leftovers().join(u' '));
+}
+
+void LibraryHome::addChromium()
+{
+    sample::writeLocalState(chromeFile(u"Local State"_s),
+                            {{u"Default"_s, QJsonObject{{u"name"_s, u"Personal"_s}}},
+                             {u"Profile 1"_s, QJsonObject{{u"name"_s, u"Work"_s}}}});
+    sample::writeLocalState(edgeFile(u"Local State"_s),
+                            {{u"Default"_s, QJsonObject{{u"name"_s, u"Office"_s}}}});
+    setChromeHistory(u"Default"_s, {u"a1"_s, u"a2"_s});
+    setChromeHistory(u"Profile 1"_s, {u"b1"_s}, newest + 100);
+    sample::writeHistory(edgeFile(u"Default/History"_s),
+                         {sample::HistoryRow{.url = u"https://edge.example/"_s,
+                                             .title = u"e1"_s,
+                                             .visitCount = 3,
+                                             .lastVisitTime = sample::chromiumTime(newest + 50)}});
+    sample::writeBookmarks(
+        chromeFile(u"Default/Bookmarks"_s),
+        {{u"bookmark_bar"_s,
+          sample::folderNode(u"1"_s, u"Bar"_s,
+                             {sample::bookmarkNode(u"5"_s, u"Mark"_s, u"https://mark.example/"_s, 0)})}});
+}
+
+void LibraryHome::addSafari()
+{
+    sample::writeSafariHistory(
+        safariFile(u"History.db"_s), {sample::SafariItem{.id = 1, .url = u"https://s.example/"_s}},
+        {sample::SafariVisit{.itemID = 1, .time = sample::safariTime(newest + 10), .title = u"s1"_s}});
+    sample::writePropertyList(
+        safariFile(u"Bookmarks.plist"_s),
+        {{u"Children"_s,
+          QVariantList{sample::safariFolder(
+              u"F"_s, u"BookmarksBar"_s,
+              {sample::safariBookmark(u"B"_s, u"Safari mark"_s, u"https://smark.example/"_s, {})})}}},
+        sample::PropertyListFormat::Binary);
+    sample::writeSafariFavicons(
+        safariFile(u"Favicon Cache"_s),
+        {sample::SafariIcon{.uuid = u"U"_s, .timestamp = 1, .image = png(16, Qt::green)}},
+        {sample::SafariIconPage{.url = u"https://shared.example/"_s, .uuid = u"U"_s}});
+}
+
+void LibraryHome::setChromeHistory(const QString &profile, const QStringList &pageTitles, qint64 newestVisit)
+{
+    QList<sample::HistoryRow> rows;
+    for (qsizetype i = 0; i < pageTitles.size(); ++i) {
+        rows.append({.id = {},
+                     .url = u"https://" % pageTitles[i] % u".example/",
+                     .title = pageTitles[i],
+                     .visitCount = 1,
+                     .lastVisitTime = sample::chromiumTime(newestVisit - i),
+                     .hidden = false});
+    }
+    sample::writeHistory(chromeFile(profile % u"/History"), rows);
+}
+
+void LibraryHome::setChromeIcon(const QString &profile, const QString &pageUrl, const QByteArray &image)
+{
+    sample::writeFavicons(chromeFile(profile % u"/Favicons"),
+                          {sample::FaviconBitmap{.iconID = 1, .image = image, .width = 16}},
+                          {sample::FaviconMapping{.pageURL = pageUrl, .iconID = 1}});
+}
+
+void LibraryHome::loadNow(Library &library, const std::optional<QSet<QString>> &only)
+{
+    library.load(only);
+    ASSERT_TRUE(waitUntil([&library] { return !library.isLoading(); }));
+}
+
+QStringList titles(const QList<HistoryItem> &items)
+{
+    QStringList result;
+    for (const HistoryItem &item : items)
+        result.append(item.title);
+    return result;
+}
+
+QStringList ids(const QList<Source> &sources)
+{
+    QStringList result;
+    for (const Source &source : sources)
+        result.append(source.id());
+    return result;
+}
+
+QByteArray png(int side, const QColor &colour)
+{
+    QImage image(side, side, QImage::Format_ARGB32);
+    image.fill(colour);
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "PNG");
+    return buffer.data();
+}
+
+} // namespace roamlet::testing

@@ -1,0 +1,175 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "Library/LibraryHome.h"
+#include "Support/Waiting.h"
+
+#include <QCoreApplication>
+
+#include <memory>
+#include <semaphore>
+
+namespace roamlet::testing
+{
+namespace
+{
+
+using namespace Qt::StringLiterals;
+
+class LibrarySearchTest : public LibraryHome
+{
+protected:
+    HistoryResults search(const QString &text, const std::optional<QString> &site = {}) const
+    {
+        const ReadContext context = Library::readContext(const_cast<TestHome &>(home).platform());
+        return Library::history(HistoryQuery::matching(text, site, HistoryQuery::Order::Latest),
+                                Library::allProfiles({}, context), context);
+    }
+
+    void setRows(const QString &profile, qsizetype count, const QString &url)
+    {
+        sample::writeHistory(chromeFile(profile % u"/History"),
+                             sample::Rows<sample::HistoryRow>::generated(count, [url](qsizetype i) {
+                                 return sample::HistoryRow{.url = url % QString::number(i),
+                                                           .title = u"word"_s,
+                                                           .lastVisitTime = sample::chromiumTime(newest - i)};
+                             }));
+    }
+};
+
+TEST_F(LibrarySearchTest, NoSourcesGiveNothing)
+{
+    const ReadContext context = home.context();
+    EXPECT_EQ(Library::history(HistoryQuery::matching(u"x"_s, {}, HistoryQuery::Order::Latest), {}, context),
+              HistoryResults());
+}
+
+TEST_F(LibrarySearchTest, EverySourceIsSearchedAndSafariToo)
+{
+    addChromium();
+    addSafari();
+    EXPECT_EQ(search(u"example"_s).items.size(), 5);
+    EXPECT_EQ(titles(search(u"s1"_s).items), QStringList{u"s1"_s});
+    EXPECT_EQ(titles(search(u"  E1  EDGE "_s).items), QStringList{u"e1"_s});
+}
+
+TEST_F(LibrarySearchTest, TwoFullSourcesGiveTwoThousandRowsAndAreCapped)
+{
+    addChromium();
+    setRows(u"Default"_s, 1200, u"https://w.example/"_s);
+    setRows(u"Profile 1"_s, 1000, u"https://w.example/"_s);
+    const HistoryResults results = search(u"word"_s);
+    EXPECT_EQ(results.items.size(), 2000);
+    EXPECT_TRUE(results.isCapped);
+}
+
+TEST_F(LibrarySearchTest, OneRowLessIsNotCapped)
+{
+    addChromium();
+    setRows(u"Default"_s, 999, u"https://w.example/"_s);
+    EXPECT_FALSE(search(u"word"_s).isCapped);
+    setRows(u"Default"_s, 1000, u"https://w.example/"_s);
+    EXPECT_TRUE(search(u"word"_s).isCapped);
+}
+
+TEST_F(LibrarySearchTest, ThePlainListingIsNeverCapped)
+{
+    addChromium();
+    setRows(u"Default"_s, 1500, u"https://w.example/"_s);
+    const HistoryResults results = search({});
+    EXPECT_FALSE(results.isCapped);
+    EXPECT_EQ(results.items.size(), 1000 + 2);
+}
+
+TEST_F(LibrarySearchTest, ASiteIsComparedExactlyAfterTheCap)
+{
+    addChromium();
+    sample::writeHistory(
+        chromeFile(u"Default/History"_s), sample::Rows<sample::HistoryRow>::generated(1000, [](qsizetype i) {
+            const QString url = i < 10 ? u"https://www.site.example/%1"_s.arg(i)
+                                       : u"https://other.example/?u=https://site.example/%1"_s.arg(i);
+            return sample::HistoryRow{
+                .url = url, .title = u"t"_s, .lastVisitTime = sample::chromiumTime(newest - i)};
+        }));
+    const HistoryResults results = search({}, u"site.example"_s);
+    EXPECT_EQ(results.items.size(), 10);
+    EXPECT_TRUE(results.isCapped);
+}
+
+TEST_F(LibrarySearchTest, ASourceThatCannotBeReadContributesNothing)
+{
+    addChromium();
+    home.files.failure = [this](const QString &path) {
+        return path == chromeFile(u"Default/History"_s) ? std::make_error_code(std::errc::io_error)
+                                                        : std::error_code{};
+    };
+    EXPECT_EQ(search(u"example"_s).items.size(), 2);
+}
+
+TEST_F(LibrarySearchTest, AWordThatIsTooLongForTheDatabaseFindsNothing)
+{
+    addChromium();
+    EXPECT_EQ(search(QString(60'000, u'x')), HistoryResults());
+}
+
+TEST_F(LibrarySearchTest, TheLibrarySearchesOneSourceOrAllOfTheSnapshot)
+{
+    addChromium();
+    Library library(home.platform());
+    loadNow(library);
+    QObject context;
+    const auto found = [&](const std::optional<QString> &id) {
+        std::optional<HistoryResults> results;
+        library.queryHistory(HistoryQuery::recent(), id, &context,
+                             [&results](const HistoryResults &r) { results = r; });
+        EXPECT_FALSE(results) << "never before the call has returned";
+        EXPECT_TRUE(waitUntil([&results] { return results.has_value(); }));
+        QStringList result = titles(results->items);
+        result.sort();
+        return result;
+    };
+    EXPECT_EQ(found(u"chrome/Default"_s), (QStringList{u"a1"_s, u"a2"_s}));
+    EXPECT_EQ(found({}), (QStringList{u"a1"_s, u"a2"_s, u"b1"_s, u"e1"_s}));
+    EXPECT_EQ(found(u"unknown"_s), QStringList());
+}
+
+TEST_F(LibrarySearchTest, ASearchThatIsDroppedDeliversNothing)
+{
+    addChromium();
+    Library library(home.platform());
+    loadNow(library);
+    QObject context;
+    int deliveries = 0;
+    const auto count = [&deliveries](const HistoryResults &) { ++deliveries; };
+    std::stop_source dropped = library.queryHistory(HistoryQuery::recent(), {}, &context, count);
+    dropped.request_stop();
+    auto shortLived = std::make_unique<QObject>();
+    library.queryHistory(HistoryQuery::recent(), {}, shortLived.get(), count);
+    shortLived.reset();
+    bool isLast = false;
+    library.queryHistory(HistoryQuery::recent(), {}, &context,
+                         [&isLast](const HistoryResults &) { isLast = true; });
+    ASSERT_TRUE(waitUntil([&isLast] { return isLast; }));
+    ASSERT_TRUE(waitUntil([this] { return home.leftovers().isEmpty(); }));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(deliveries, 0);
+}
+
+TEST_F(LibrarySearchTest, ALibraryThatGoesDuringASearchLeavesNothing)
+{
+    addChromium();
+    std::counting_semaphore<> copies(0);
+    QObject context;
+    {
+        Library library(home.platform());
+        loadNow(library);
+        home.files.afterCopy = [&copies](const QString &) { copies.release(); };
+        library.queryHistory(HistoryQuery::recent(), {}, &context, [](const HistoryResults &) { FAIL(); });
+        copies.acquire();
+    }
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(home.leftovers().isEmpty());
+}
+
+} // namespace
+} // namespace roamlet::testing

@@ -1,0 +1,199 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "Library/LibraryHome.h"
+#include "Platform/Linux/SettingsUserDefaults.h"
+#include "Support/Waiting.h"
+
+#include <QSignalSpy>
+
+namespace roamlet::testing
+{
+namespace
+{
+
+using namespace Qt::StringLiterals;
+
+using LibrarySettingsTest = LibraryHome;
+
+QStringList order(const Library &library)
+{
+    return ids(library.ordered(library.snapshot().browserProfiles));
+}
+
+TEST_F(LibrarySettingsTest, AProfileThatIsSwitchedOffIsFoundButNotRead)
+{
+    addChromium();
+    home.defaults.setStringList(u"disabledProfiles"_s, {u"chrome/Profile 1"_s});
+    Library library(home.platform());
+    loadNow(library);
+    EXPECT_EQ(ids(library.snapshot().sources), (QStringList{u"chrome/Default"_s, u"edge/Default"_s}));
+    EXPECT_EQ(library.snapshot().browserProfiles.size(), 3);
+    EXPECT_FALSE(titles(library.snapshot().history).contains(u"b1"_s));
+}
+
+TEST_F(LibrarySettingsTest, SwitchingStoresTheIdsSortedAndReloads)
+{
+    addChromium();
+    Library library(home.platform());
+    loadNow(library);
+    const QSignalSpy changes(&library, &Library::disabledProfilesChanged);
+    const QList<Source> profiles = library.snapshot().browserProfiles;
+    library.setEnabled(false, profiles[2]);
+    library.setEnabled(false, profiles[0]);
+    ASSERT_TRUE(waitUntil([&library] { return !library.isLoading(); }));
+    EXPECT_EQ(changes.count(), 2);
+    EXPECT_EQ(home.defaults.stringList(u"disabledProfiles"_s),
+              (QStringList{u"chrome/Default"_s, u"edge/Default"_s}));
+    EXPECT_EQ(ids(library.snapshot().sources), QStringList{u"chrome/Profile 1"_s});
+    library.setEnabled(true, profiles[0]);
+    ASSERT_TRUE(waitUntil([&library] { return !library.isLoading(); }));
+    EXPECT_EQ(home.defaults.stringList(u"disabledProfiles"_s), QStringList{u"edge/Default"_s});
+    EXPECT_EQ(library.snapshot().sources.size(), 2);
+}
+
+TEST_F(LibrarySettingsTest, TheOlderListOfChromeProfilesCountsUntilTheNextChange)
+{
+    addChromium();
+    home.defaults.setStringList(u"disabledChromeProfiles"_s, {u"Profile 1"_s});
+    Library library(home.platform());
+    loadNow(library);
+    EXPECT_EQ(ids(library.snapshot().sources), (QStringList{u"chrome/Default"_s, u"edge/Default"_s}));
+    EXPECT_FALSE(home.defaults.contains(u"disabledProfiles"_s)) << "reading changes nothing";
+    library.setEnabled(false, library.snapshot().browserProfiles.last());
+    ASSERT_TRUE(waitUntil([&library] { return !library.isLoading(); }));
+    EXPECT_EQ(home.defaults.stringList(u"disabledProfiles"_s),
+              (QStringList{u"chrome/Profile 1"_s, u"edge/Default"_s}));
+    EXPECT_FALSE(home.defaults.contains(u"disabledChromeProfiles"_s));
+}
+
+TEST_F(LibrarySettingsTest, ChoicesSurviveInARealFile)
+{
+    addChromium();
+    const QString file = home.path(u"Roamlet.conf"_s);
+    {
+        SettingsUserDefaults defaults(file);
+        Library library({home.folders, home.files, defaults, home.fileEvents, home.clock});
+        loadNow(library);
+        library.setEnabled(false, library.snapshot().browserProfiles[1]);
+        library.moveProfiles({2}, 0);
+        ASSERT_TRUE(waitUntil([&library] { return !library.isLoading(); }));
+    }
+    SettingsUserDefaults defaults(file);
+    Library library({home.folders, home.files, defaults, home.fileEvents, home.clock});
+    EXPECT_EQ(library.disabledProfiles(), QSet<QString>{u"chrome/Profile 1"_s});
+    loadNow(library);
+    EXPECT_EQ(order(library), (QStringList{u"edge/Default"_s, u"chrome/Default"_s, u"chrome/Profile 1"_s}));
+}
+
+TEST_F(LibrarySettingsTest, ProfilesMoveAsRowsOfAListDo)
+{
+    addChromium();
+    addSafari();
+    struct Move {
+        QSet<qsizetype> offsets;
+        qsizetype destination;
+        QStringList result;
+    };
+    const QString s = u"safari"_s;
+    const QString d = u"chrome/Default"_s;
+    const QString w = u"chrome/Profile 1"_s;
+    const QString e = u"edge/Default"_s;
+    const QList<Move> moves{{{0}, 4, {d, w, e, s}},    {{3}, 0, {e, s, d, w}}, {{0}, 2, {d, s, w, e}},
+                            {{0}, 0, {s, d, w, e}},    {{0}, 1, {s, d, w, e}}, {{0, 2}, 4, {d, e, s, w}},
+                            {{1, 3}, 0, {d, e, s, w}}, {{}, 2, {s, d, w, e}}};
+    for (const Move &move : moves) {
+        home.defaults.remove(u"sourceOrder"_s);
+        Library library(home.platform());
+        loadNow(library);
+        const int generation = library.generation();
+        const QSignalSpy changes(&library, &Library::sourceOrderChanged);
+        library.moveProfiles(move.offsets, move.destination);
+        EXPECT_EQ(order(library), move.result);
+        EXPECT_EQ(home.defaults.stringList(u"sourceOrder"_s), move.result);
+        EXPECT_EQ(changes.count(), 1);
+        EXPECT_FALSE(library.isLoading());
+        EXPECT_EQ(library.generation(), generation) << "an order needs no reload";
+    }
+}
+
+TEST_F(LibrarySettingsTest, SourcesThatTheOrderDoesNotKnowFollowInTheirOwnOrder)
+{
+    addChromium();
+    addSafari();
+    home.defaults.setStringList(u"sourceOrder"_s, {u"edge/Default"_s, u"gone"_s, u"edge/Default"_s});
+    Library library(home.platform());
+    loadNow(library);
+    EXPECT_EQ(order(library),
+              (QStringList{u"edge/Default"_s, u"safari"_s, u"chrome/Default"_s, u"chrome/Profile 1"_s}));
+    EXPECT_EQ(library.source(u"chrome/Default"_s)->name, u"Personal"_s);
+    EXPECT_EQ(library.source(u"gone"_s), std::nullopt);
+    EXPECT_EQ(library.source({}), std::nullopt);
+}
+
+TEST_F(LibrarySettingsTest, AllBookmarksAreOneFolderForEachSourceInTheUsersOrder)
+{
+    addChromium();
+    addSafari();
+    home.defaults.setStringList(u"sourceOrder"_s, {u"chrome/Default"_s});
+    Library library(home.platform());
+    loadNow(library);
+    const QList<BookmarkNode> all = library.bookmarkTree({});
+    ASSERT_EQ(all.size(), 4);
+    EXPECT_EQ(all[0].id, u"source/chrome/Default"_s);
+    EXPECT_EQ(all[0].title, u"Chrome - Personal"_s);
+    EXPECT_EQ(all[0].children, library.snapshot().bookmarkTrees.value(u"chrome/Default"_s));
+    EXPECT_EQ(all[0].source.id(), u"chrome/Default"_s);
+    EXPECT_EQ(all[1].id, u"source/safari"_s);
+    EXPECT_TRUE(all[3].isFolder());
+    EXPECT_EQ(library.bookmarkTree(u"safari"_s), library.snapshot().bookmarkTrees.value(u"safari"_s));
+    EXPECT_TRUE(library.bookmarkTree(u"gone"_s).isEmpty());
+}
+
+TEST_F(LibrarySettingsTest, TheMenuShowsTheTenPagesVisitedLast)
+{
+    addChromium();
+    QStringList many;
+    for (int i = 0; i < 12; ++i)
+        many.append(u"page%1"_s.arg(i));
+    setChromeHistory(u"Default"_s, many, newest + 60);
+    Library library(home.platform());
+    loadNow(library);
+    QStringList expected{u"b1"_s};
+    for (int i = 0; i < 9; ++i)
+        expected.append(u"page%1"_s.arg(i));
+    EXPECT_EQ(titles(library.menuRecent()), expected);
+    EXPECT_EQ(library.menuUpdated(), library.lastLoaded());
+}
+
+TEST_F(LibrarySettingsTest, PagesOfTheSameTimeStayInTheSnapshotsOrder)
+{
+    addChromium();
+    setChromeHistory(u"Default"_s, {u"first"_s});
+    setChromeHistory(u"Profile 1"_s, {u"second"_s});
+    Library library(home.platform());
+    loadNow(library);
+    EXPECT_EQ(titles(library.menuRecent()), (QStringList{u"e1"_s, u"first"_s, u"second"_s}));
+}
+
+TEST_F(LibrarySettingsTest, AnOpenMenuDoesNotChangeUntilItIsClosed)
+{
+    addChromium();
+    Library library(home.platform());
+    loadNow(library);
+    const QStringList before = titles(library.menuRecent());
+    const std::optional<PointInTime> updated = library.menuUpdated();
+    library.setMenuOpen(true);
+    setChromeHistory(u"Default"_s, {u"newest"_s}, newest + 1000);
+    home.clock.advance(std::chrono::seconds(60));
+    loadNow(library);
+    EXPECT_EQ(titles(library.menuRecent()), before);
+    EXPECT_EQ(library.menuUpdated(), updated);
+    library.setMenuOpen(false);
+    EXPECT_EQ(library.menuRecent().first().title, u"newest"_s);
+    EXPECT_EQ(library.menuUpdated(), library.lastLoaded());
+    EXPECT_NE(library.menuUpdated(), updated);
+}
+
+} // namespace
+} // namespace roamlet::testing

@@ -1,0 +1,61 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "Library/Parallel.h"
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <latch>
+
+namespace roamlet::testing
+{
+namespace
+{
+
+TEST(ParallelTest, EveryIndexIsWorkedOnOnce)
+{
+    for (const size_t count : {size_t{0}, size_t{1}, size_t{2}, size_t{50}}) {
+        std::vector<std::atomic<int>> calls(count);
+        forEachInParallel(count, [&calls](size_t index, CoreTurns &turns) {
+            const CoreTurns::Turn turn(turns);
+            ++calls[index];
+        });
+        for (const std::atomic<int> &number : calls)
+            EXPECT_EQ(number, 1);
+    }
+}
+
+TEST(ParallelTest, NoMoreHaveATurnThanThereAreCores)
+{
+    const int cores = static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
+    std::atomic<int> busy = 0;
+    std::atomic<int> most = 0;
+    forEachInParallel(20, [&](size_t, CoreTurns &turns) {
+        const CoreTurns::Turn turn(turns);
+        const int now = ++busy;
+        for (int seen = most; now > seen && !most.compare_exchange_weak(seen, now);) {
+        }
+        std::this_thread::yield();
+        --busy;
+    });
+    EXPECT_LE(most, cores);
+    EXPECT_GE(most, 1);
+}
+
+TEST(ParallelTest, WhoOnlyWaitsKeepsNobodyFromWorking)
+{
+    // All of them wait for each other without a turn; that ends only when all of them run.
+    constexpr int count = 30;
+    std::latch everybody(count);
+    std::atomic<int> worked = 0;
+    forEachInParallel(count, [&](size_t, CoreTurns &turns) {
+        everybody.arrive_and_wait();
+        const CoreTurns::Turn turn(turns);
+        ++worked;
+    });
+    EXPECT_EQ(worked, count);
+}
+
+} // namespace
+} // namespace roamlet::testing
