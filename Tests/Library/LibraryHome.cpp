@@ -47,10 +47,10 @@ void LibraryHome::addSafari()
         {sample::SafariVisit{.itemID = 1, .time = sample::safariTime(newest + 10), .title = u"s1"_s}});
     sample::writePropertyList(
         safariFile(u"Bookmarks.plist"_s),
-        {{u"Children"_s,
-          QVariantList{sample::safariFolder(
-              u"F"_s, u"BookmarksBar"_s,
-              {sample::safariBookmark(u"B"_s, u"Safari mark"_s, u"https://smark.example/"_s, {})})}}},
+        QVariantMap{{u"Children"_s, QVariantList{sample::safariFolder(
+                                        u"F"_s, u"BookmarksBar"_s,
+                                        {sample::safariBookmark(u"B"_s, u"Safari mark"_s,
+                                                                u"https://smark.example/"_s, {})})}}},
         sample::PropertyListFormat::Binary);
     sample::writeSafariFavicons(
         safariFile(u"Favicon Cache"_s),
