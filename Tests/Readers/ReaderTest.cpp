@@ -127,6 +127,28 @@ QStringList titlesOf(const QList<BookmarkNode> &nodes)
     return titles;
 }
 
+HistoryQuery listing(HistoryQuery::Order order, qint64 limit)
+{
+    return {.words = {}, .site = {}, .order = order, .limit = limit};
+}
+
+QStringList outlineOf(const QList<BookmarkNode> &nodes)
+{
+    QStringList lines;
+    for (const BookmarkNode &node : nodes) {
+        QStringList parts{node.id, node.title};
+        if (node.url)
+            parts.append(*node.url);
+        if (node.dateAdded)
+            parts.append(QString::number(secondsSince1970(*node.dateAdded), 'f', 3));
+        lines.append(parts.join(u" | "_s) + (node.isFolder() ? u" /"_s : QString()) +
+                     (node.isBar ? u" *"_s : QString()));
+        for (const QString &line : outlineOf(node.children.value_or(QList<BookmarkNode>())))
+            lines.append(u"  "_s + line);
+    }
+    return lines;
+}
+
 void onAnotherThread(const std::function<void()> &work)
 {
     std::thread(work).join();

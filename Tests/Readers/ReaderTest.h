@@ -4,7 +4,7 @@
 #pragma once
 
 #include "Model/Bookmark.h"
-#include "Model/HistoryItem.h"
+#include "Model/HistoryQuery.h"
 #include "Model/ReadError.h"
 #include "Support/FolderFingerprint.h"
 #include "Support/TestHome.h"
@@ -56,6 +56,13 @@ private:
 /// The titles in their order.
 QStringList titlesOf(const QList<HistoryItem> &items);
 QStringList titlesOf(const QList<BookmarkNode> &nodes);
+
+/// The plain listing in this order and of this length.
+HistoryQuery listing(HistoryQuery::Order order, qint64 limit = HistoryQuery::defaultLimit);
+
+/// One line for each node, indented by its depth: id, title, URL and date in seconds since 1970, as far as it
+/// has them; folders end in "/", the bar has a "*".
+QStringList outlineOf(const QList<BookmarkNode> &nodes);
 
 /// Runs this on a thread of its own, as the readers do; a stack that overflows there ends the tests.
 void onAnotherThread(const std::function<void()> &work);
