@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <random>
 #include <utility>
+#include <vector>
 
 namespace roamlet::testing
 {
@@ -102,6 +103,42 @@ TEST(Collation, readsOnlyTheViewsThatItIsGiven)
     const Collation collation(u"en_US"_s);
     const QString text = u"abcabd"_s;
     EXPECT_EQ(collation.compare(QStringView(text).first(2), QStringView(text).sliced(3, 2)), 0);
+}
+
+TEST(Collation, sortKeysHaveTheOrderOfTheTexts)
+{
+    const QStringList texts{
+        u""_s,       u"a"_s,    u"A"_s,       u"á"_s, u"a9"_s,         u"a10"_s, u"résumé"_s,
+        u"Resume"_s, u"日本"_s, u"e\u0301"_s, u"é"_s, u"\U0001F600"_s, u"- -"_s, QString(5000, u'漢')};
+    for (const QString &locale : locales) {
+        const Collation collation(locale);
+        const auto key = [&collation](const QString &text) {
+            std::vector<char> bytes;
+            collation.appendSortKey(text, bytes);
+            EXPECT_EQ(std::ranges::find(bytes, '\0'), bytes.end() - 1) << qPrintable(text);
+            return QByteArray(bytes.data());
+        };
+        for (const QString &left : texts) {
+            for (const QString &right : texts) {
+                EXPECT_EQ(key(left).compare(key(right)) <=> 0, collation.compare(left, right) <=> 0)
+                    << qPrintable(locale) << ": " << qPrintable(left) << ", " << qPrintable(right);
+            }
+        }
+    }
+}
+
+TEST(Collation, sortKeysAreAppended)
+{
+    const Collation collation(u"en_US"_s);
+    std::vector<char> one;
+    collation.appendSortKey(u"one", one);
+    std::vector<char> two;
+    collation.appendSortKey(u"two", two);
+    std::vector<char> both;
+    collation.appendSortKey(u"one", both);
+    collation.appendSortKey(u"two", both);
+    one.insert(one.end(), two.begin(), two.end());
+    EXPECT_EQ(both, one);
 }
 
 TEST(Collation, canBeMoved)

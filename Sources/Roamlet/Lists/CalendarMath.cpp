@@ -13,7 +13,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 
 namespace roamlet
 {
@@ -34,8 +33,9 @@ QDateTime utc(double seconds)
 
 QTimeZone knownTimeZone(const QString &name)
 {
+    // Without a name it would be the zone of this machine.
     const QTimeZone zone(name.toLatin1());
-    return zone.isValid() ? zone : QTimeZone::utc();
+    return !name.isEmpty() && zone.isValid() ? zone : QTimeZone::utc();
 }
 
 } // namespace
@@ -53,7 +53,7 @@ struct CalendarMath::Native {
     {
         const icu::Locale locale(user.locale.toLatin1().constData());
         calendar.reset(icu::Calendar::createInstance(icu::TimeZone::getGMT()->clone(), locale, status));
-        if (U_FAILURE(status))
+        if (U_FAILURE(status) != 0)
             return;
         // There the week begins with Sunday at 1.
         calendar->setFirstDayOfWeek(static_cast<UCalendarDaysOfWeek>(user.firstWeekday % 7 + 1));
@@ -93,7 +93,7 @@ struct CalendarMath::Native {
     template<typename Change>
     PointInTime dayStart(PointInTime time, Change change)
     {
-        if (U_FAILURE(status))
+        if (U_FAILURE(status) != 0)
             return time;
         UErrorCode result = U_ZERO_ERROR;
         calendar->setTime(wallTime(time) * 1000, result);
@@ -101,7 +101,7 @@ struct CalendarMath::Native {
         for (const UCalendarDateFields field : {UCAL_HOUR_OF_DAY, UCAL_MINUTE, UCAL_SECOND, UCAL_MILLISECOND})
             calendar->set(field, 0);
         const UDate midnight = calendar->getTime(result);
-        return U_SUCCESS(result) ? firstMoment(midnight / 1000) : time;
+        return U_SUCCESS(result) != 0 ? firstMoment(midnight / 1000) : time;
     }
 };
 
@@ -157,7 +157,7 @@ PointInTime CalendarMath::startOfNextMonth(PointInTime startOfMonth)
 
 QString CalendarMath::monthTitle(PointInTime time)
 {
-    if (U_FAILURE(m_native->status))
+    if (U_FAILURE(m_native->status) != 0)
         return {};
     icu::UnicodeString title;
     m_native->monthFormat->format(m_native->wallTime(time) * 1000, title);

@@ -8,8 +8,6 @@
 #include <QHash>
 
 #include <algorithm>
-#include <array>
-#include <numeric>
 #include <utility>
 
 namespace roamlet
@@ -110,7 +108,8 @@ QList<RowGroup<HistoryItem>> dayGroups(const QList<HistoryItem> &items, bool new
 
     std::vector<QList<HistoryItem>> rowsOfSection = numbers.distribute(items);
     std::vector<std::size_t> order(rowsOfSection.size());
-    std::iota(order.begin(), order.end(), std::size_t{0});
+    for (std::size_t section = 0; section < order.size(); ++section)
+        order[section] = section;
     std::ranges::sort(order, [&](std::size_t left, std::size_t right) {
         const PointInTime leftDate = days.sections()[left].date;
         const PointInTime rightDate = days.sections()[right].date;

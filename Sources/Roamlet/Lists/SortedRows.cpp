@@ -4,7 +4,6 @@
 #include "Lists/SortedRows.h"
 
 #include <algorithm>
-#include <numeric>
 #include <span>
 
 namespace roamlet
@@ -122,8 +121,10 @@ std::optional<std::vector<qsizetype>> sortedRowNumbers(qsizetype count, const st
                                                        const Collation &collation,
                                                        const std::stop_token &stop)
 {
-    std::vector<qsizetype> numbers(static_cast<std::size_t>(count));
-    std::iota(numbers.begin(), numbers.end(), 0);
+    std::vector<qsizetype> numbers;
+    numbers.reserve(static_cast<std::size_t>(count));
+    for (qsizetype row = 0; row < count; ++row)
+        numbers.push_back(row);
     std::vector<Run> runs{Run(numbers)};
     for (const SortLevel &level : levels) {
         // A level is only asked about rows that are still equal: keys of texts are what takes the time.

@@ -31,10 +31,10 @@ Qt::DayOfWeek usualFirstWeekday(const QString &locale)
     UErrorCode status = U_ZERO_ERROR;
     const std::unique_ptr<icu::Calendar> calendar(
         icu::Calendar::createInstance(icu::Locale(locale.toLatin1().constData()), status));
-    if (U_FAILURE(status))
+    if (U_FAILURE(status) != 0)
         return Qt::Monday;
     const UCalendarDaysOfWeek day = calendar->getFirstDayOfWeek(status);
-    return U_SUCCESS(status) ? weekday(day) : Qt::Monday;
+    return U_SUCCESS(status) != 0 ? weekday(day) : Qt::Monday;
 }
 
 /// Whether the library knows the language: for others it takes the process's own locale or mere numbers.
@@ -44,7 +44,7 @@ bool hasMonthNames(icu::Locale locale)
     locale.canonicalize(status);
     const icu::DateFormatSymbols symbols(locale, status);
     const icu::Locale found = symbols.getLocale(ULOC_VALID_LOCALE, status);
-    return U_SUCCESS(status) && std::string_view(found.getLanguage()) == locale.getLanguage();
+    return U_SUCCESS(status) != 0 && std::string_view(found.getLanguage()) == locale.getLanguage();
 }
 
 } // namespace
@@ -55,15 +55,17 @@ QString UserCalendar::localeOf(const QString &posixName)
     QString name = posixName.section(u'@', 0, 0).section(u'.', 0, 0);
     if (name.isEmpty() || name == u"C" || name == u"POSIX")
         return u"en_001"_s;
-    const QString script = modifier == u"latin" ? u"Latn"_s : modifier == u"cyrillic" ? u"Cyrl"_s : QString();
+    QString script;
+    if (modifier == u"latin")
+        script = u"_Latn"_s;
+    else if (modifier == u"cyrillic")
+        script = u"_Cyrl"_s;
     const QString region = name.section(u'_', 1);
-    if (!script.isEmpty())
-        name = name.section(u'_', 0, 0) % u'_' % script %
-               (region.isEmpty() ? QString() : QString(u'_' % region));
+    name = name.section(u'_', 0, 0) % script % (region.isEmpty() ? QString() : QString(u'_' % region));
     const icu::Locale locale(name.toLatin1().constData());
-    if (!locale.isBogus() && hasMonthNames(locale))
+    if (locale.isBogus() == 0 && hasMonthNames(locale))
         return QString::fromLatin1(locale.getName());
-    const QString country = locale.isBogus() ? QString() : QString::fromLatin1(locale.getCountry());
+    const QString country = locale.isBogus() != 0 ? QString() : QString::fromLatin1(locale.getCountry());
     return country.isEmpty() ? u"en_001"_s : QString(u"en_" % country);
 }
 

@@ -18,7 +18,7 @@ struct Collation::Native {
     {
         UErrorCode status = U_ZERO_ERROR;
         collator.reset(ucol_open(locale.constData(), &status));
-        if (U_FAILURE(status)) {
+        if (U_FAILURE(status) != 0) {
             // The library's data can be missing; plain code order is better than no list at all.
             collator.reset();
             return;
