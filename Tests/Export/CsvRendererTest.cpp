@@ -72,7 +72,7 @@ TEST(CsvRenderer, anEmptyListIsTheHeader)
 
 TEST(CsvRenderer, everyBookmarkIsOneLine)
 {
-    BookmarkNode tree =
+    const BookmarkNode tree =
         folder(u"Bar"_s, {folder(u"Inner"_s, {bookmark(u"One"_s, u"https://one/"_s, 1'709'647'629)}),
                           bookmark(u"Two"_s, u"https://two/"_s)});
     EXPECT_EQ(csv(tree.flattened()), "Safari,,Bar › Inner,One,https://one/,2024-03-05T14:07:09Z\r\n"
@@ -108,10 +108,10 @@ TEST(CsvRenderer, theUrlIsQuotedWhereItMustBe)
 
 TEST(CsvRenderer, fieldsWithSpecialCharactersAreQuoted)
 {
-    expectFields({{u"a,b"_s, "\"a,b\""},
-                  {u"say \"hi\""_s, "\"say \"\"hi\"\"\""},
-                  {u"\""_s, "\"\"\"\""},
-                  {u"\"\""_s, "\"\"\"\"\"\""},
+    expectFields({{u"a,b"_s, R"("a,b")"},
+                  {u"say \"hi\""_s, R"("say ""hi""")"},
+                  {u"\""_s, R"("""")"},
+                  {u"\"\""_s, R"("""""")"},
                   {u","_s, "\",\""},
                   {u"a\nb"_s, "\"a\nb\""},
                   {u"a\rb"_s, "\"a\rb\""},
@@ -126,7 +126,7 @@ TEST(CsvRenderer, otherFieldsAreNot)
                   {u"=1+1"_s, "=1+1"},
                   {u"a\u2028b\u0085c\vd\fe"_s, "a\u2028b\u0085c\vd\fe"},
                   {u"，＂“”"_s, "，＂“”"},
-                  {u"日本 😀 \u202eabc"_s, "日本 😀 \u202eabc"}});
+                  {u"日本 😀 \u202eabc\u202c"_s, "日本 😀 \u202eabc\u202c"}});
 }
 
 TEST(CsvRenderer, aPairOfCarriageReturnAndLineFeedNeedsNoQuotes)

@@ -128,8 +128,9 @@ TEST(HtmlRenderer, replacementsDoNotCareWhatACharacterIsPartOf)
 
 TEST(HtmlRenderer, otherTextStaysAsItIs)
 {
-    EXPECT_EQ(line(bookmark(u"Ü 日本 😀 \u202etxt\u200f \u0001 ' ` / \\"_s, u"https://ü.example/日本"_s)),
-              "<DT><A HREF=\"https://ü.example/日本\">Ü 日本 😀 \u202etxt\u200f \u0001 ' ` / \\</A>");
+    EXPECT_EQ(
+        line(bookmark(u"Ü 日本 😀 \u202etxt\u202c\u200f \u0001 ' ` / \\"_s, u"https://ü.example/日本"_s)),
+        "<DT><A HREF=\"https://ü.example/日本\">Ü 日本 😀 \u202etxt\u202c\u200f \u0001 ' ` / \\</A>");
 }
 
 TEST(HtmlRenderer, aBookmarkWithoutUrlOrTitleIsAnEmptyLink)

@@ -306,9 +306,9 @@ TEST(HistoryQuery, wordsAndSiteMustBothMatch)
 TEST(HistoryQuery, equalityAndHashCoverEveryField)
 {
     const HistoryQuery original{.words = {u"a"_s, u"b"_s}, .site = u"x"_s, .order = latest, .limit = 10};
-    const HistoryQuery copy = original;
-    EXPECT_EQ(copy, original);
-    EXPECT_EQ(qHash(copy), qHash(original));
+    const HistoryQuery same{.words = {u"a"_s, u"b"_s}, .site = u"x"_s, .order = latest, .limit = 10};
+    EXPECT_EQ(same, original);
+    EXPECT_EQ(qHash(same), qHash(original));
     QList<HistoryQuery> others(7, original);
     others[0].words = QStringList{u"b"_s, u"a"_s};
     others[1].words = QStringList{u"a"_s};

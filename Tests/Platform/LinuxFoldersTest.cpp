@@ -15,6 +15,7 @@
 #include <gtest/gtest.h>
 
 #include <optional>
+#include <ranges>
 
 namespace roamlet::testing
 {
@@ -105,9 +106,9 @@ TEST_F(LinuxFoldersTest, chromeIsLookedForInEveryPlaceBestFirst)
                              home(u".var/app/org.chromium.Chromium/config/chromium"_s)};
     EXPECT_EQ(folders().dataRootCandidates(chrome), places);
     // From the last to the first, each that appears takes over.
-    for (auto place = places.crbegin(); place != places.crend(); ++place) {
-        sample::makeFolder(*place);
-        EXPECT_EQ(folders().dataRoot(chrome), *place);
+    for (const QString &place : places | std::views::reverse) {
+        sample::makeFolder(place);
+        EXPECT_EQ(folders().dataRoot(chrome), place);
         EXPECT_TRUE(folders().hasData(chrome));
     }
     EXPECT_FALSE(folders().hasData(edge));
@@ -121,9 +122,9 @@ TEST_F(LinuxFoldersTest, edgeIsLookedForInEveryPlaceBestFirst)
                              home(u".var/app/com.microsoft.Edge/config/microsoft-edge"_s),
                              home(u".var/app/com.microsoft.Edge/config/microsoft-edge-beta"_s)};
     EXPECT_EQ(folders().dataRootCandidates(edge), places);
-    for (auto place = places.crbegin(); place != places.crend(); ++place) {
-        sample::makeFolder(*place);
-        EXPECT_EQ(folders().dataRoot(edge), *place);
+    for (const QString &place : places | std::views::reverse) {
+        sample::makeFolder(place);
+        EXPECT_EQ(folders().dataRoot(edge), place);
         EXPECT_TRUE(folders().hasData(edge));
     }
     EXPECT_FALSE(folders().hasData(chrome));
