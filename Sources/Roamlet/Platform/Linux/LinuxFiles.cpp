@@ -123,9 +123,9 @@ std::error_code copyContent(int source, int target, const std::stop_token &stop)
 bool LinuxFiles::exists(const QString &path) const
 {
     struct stat attributes = {};
-    // Only these two say that nothing is there; a refusal says that something may be.
+    // Only these say that nothing is there; a refusal says that something may be.
     return ::stat(QFile::encodeName(path).constData(), &attributes) == 0 ||
-           (errno != ENOENT && errno != ENOTDIR);
+           (errno != ENOENT && errno != ENOTDIR && errno != ENAMETOOLONG);
 }
 
 QString LinuxFiles::fileStamp(const QString &path) const
