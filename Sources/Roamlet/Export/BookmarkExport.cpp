@@ -83,7 +83,13 @@ std::expected<void, QString> write(const QString &text, const QString &path)
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
         return std::unexpected(file.errorString());
-    file.write(text.toUtf8());
+    const QByteArray bytes = text.toUtf8();
+    // On a full disk a part is written and nothing else says so; committing that would lose the old file.
+    if (file.write(bytes) != bytes.size() || !file.flush()) {
+        const QString reason = file.errorString();
+        file.cancelWriting();
+        return std::unexpected(reason);
+    }
     if (!file.commit())
         return std::unexpected(file.errorString());
     return {};

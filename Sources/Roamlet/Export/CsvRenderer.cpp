@@ -5,10 +5,14 @@
 #include "Export/Renderers.h"
 
 #include <QDateTime>
-#include <QTextBoundaryFinder>
+#include <QStringList>
+
+#include <unicode/ubrk.h>
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
+#include <memory>
 
 namespace roamlet::BookmarkExport
 {
@@ -23,25 +27,47 @@ bool isSpecial(QChar c)
     return c == u',' || c == u'"' || c == u'\n' || c == u'\r';
 }
 
-/// Whether one of the special characters stands alone as a character that a person would see. One that is
-/// part of a larger one, such as the two halves of CR LF, does not count.
-bool needsQuotes(const QString &value)
+/// Finds the characters that a person would see. Qt's own finder does not know all that the standard joins.
+class Characters
 {
-    if (std::ranges::none_of(value, isSpecial))
-        return false;
-    QTextBoundaryFinder characters(QTextBoundaryFinder::Grapheme, value);
-    qsizetype start = 0;
-    for (qsizetype end = characters.toNextBoundary(); end >= 0; end = characters.toNextBoundary()) {
-        if (end - start == 1 && isSpecial(value[start]))
-            return true;
-        start = end;
+public:
+    Characters()
+    {
+        UErrorCode status = U_ZERO_ERROR;
+        m_iterator.reset(ubrk_open(UBRK_CHARACTER, "root", nullptr, 0, &status));
     }
-    return false;
-}
 
-QString field(const QString &value)
+    /// Whether one of the special characters stands alone. One that is part of a larger one, such as the two
+    /// halves of CR LF, does not count.
+    bool hasSpecialOne(const QString &text) const
+    {
+        if (std::ranges::none_of(text, isSpecial))
+            return false;
+        UErrorCode status = U_ZERO_ERROR;
+        ubrk_setText(m_iterator.get(), reinterpret_cast<const UChar *>(text.utf16()),
+                     static_cast<std::int32_t>(text.size()), &status);
+        if (U_FAILURE(status))
+            return true;
+        std::int32_t start = ubrk_first(m_iterator.get());
+        for (std::int32_t end = ubrk_next(m_iterator.get()); end != UBRK_DONE;
+             end = ubrk_next(m_iterator.get())) {
+            if (end - start == 1 && isSpecial(text[start]))
+                return true;
+            start = end;
+        }
+        return false;
+    }
+
+private:
+    struct Close {
+        void operator()(UBreakIterator *iterator) const { ubrk_close(iterator); }
+    };
+    std::unique_ptr<UBreakIterator, Close> m_iterator;
+};
+
+QString field(const QString &value, const Characters &characters)
 {
-    if (!needsQuotes(value))
+    if (!characters.hasSpecialOne(value))
         return value;
     return u'"' % QString(value).replace(u'"', u"\"\""_s) % u'"';
 }
@@ -65,12 +91,14 @@ QString isoDate(const std::optional<PointInTime> &date)
 QString renderCsv(const QList<Bookmark> &flat)
 {
     QString text = u"Browser,Profile,Folder,Title,URL,Added\r\n"_s;
+    const Characters characters;
     for (const Bookmark &bookmark : flat) {
         const QString browser = Source::displayName(bookmark.source.kind);
         const QString profile = bookmark.source.name == browser ? QString() : bookmark.source.name;
-        text += field(browser) % u',' % field(profile) % u',' % field(bookmark.folder) % u',' %
-                field(bookmark.title) % u',' % field(bookmark.url) % u',' %
-                field(isoDate(bookmark.dateAdded)) % u"\r\n";
+        const QStringList values{browser,        profile,      bookmark.folder,
+                                 bookmark.title, bookmark.url, isoDate(bookmark.dateAdded)};
+        for (qsizetype i = 0; i < values.size(); ++i)
+            text += field(values[i], characters) % (i + 1 < values.size() ? u","_s : u"\r\n"_s);
     }
     return text;
 }

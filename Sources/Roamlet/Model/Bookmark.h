@@ -48,7 +48,8 @@ public:
     BookmarkNode &operator=(BookmarkNode &&) = default;
     ~BookmarkNode();
 
-    /// Member by member. Defined apart, since a list of nodes compares by it while this class is still incomplete.
+    /// Member by member. Defined apart, since a list of nodes compares by it while this class is still
+    /// incomplete.
     bool operator==(const BookmarkNode &other) const;
 
     QString id;

@@ -27,6 +27,13 @@ struct FaviconData {
 /// Where a site's icon is.
 using Favicon = std::variant<FaviconFile, FaviconData>;
 
+inline size_t qHash(const Favicon &favicon, size_t seed = 0)
+{
+    const auto *file = std::get_if<FaviconFile>(&favicon);
+    return file != nullptr ? qHashMulti(seed, favicon.index(), file->path)
+                           : qHashMulti(seed, favicon.index(), std::get<FaviconData>(favicon).bytes);
+}
+
 /// Icons by site, as Site::name gives it.
 using Favicons = QHash<QString, Favicon>;
 

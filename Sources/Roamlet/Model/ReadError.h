@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QHashFunctions>
 #include <QString>
 
 #include <system_error>
@@ -46,5 +47,10 @@ private:
     QString m_path;
     QString m_reason;
 };
+
+inline size_t qHash(const ReadError &error, size_t seed = 0)
+{
+    return qHashMulti(seed, static_cast<int>(error.kind()), error.path(), error.reason());
+}
 
 } // namespace roamlet
