@@ -198,8 +198,9 @@ int main(int argc, char **argv)
 {
     // Memory that was once used is kept. Otherwise the larger lists, and only those, would get theirs anew
     // from the kernel in every round, and that would take longer than the work.
-    mallopt(M_MMAP_MAX, 0);
-    mallopt(M_TRIM_THRESHOLD, std::numeric_limits<int>::max());
+    // There is only one thread yet.
+    mallopt(M_MMAP_MAX, 0);                                     // NOLINT(concurrency-mt-unsafe)
+    mallopt(M_TRIM_THRESHOLD, std::numeric_limits<int>::max()); // NOLINT(concurrency-mt-unsafe)
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
 }

@@ -241,9 +241,10 @@ TEST(DayGroups, monthsStandInTheOrderOfTimeInEveryLanguage)
 TEST(DayGroups, putNonsenseIntoTheOldestAndTheNewestSections)
 {
     constexpr double infinity = std::numeric_limits<double>::infinity();
-    QList<HistoryItem> rows{visited(u"never"_s, pointInTime(std::numeric_limits<double>::quiet_NaN())),
-                            visited(u"future"_s, pointInTime(infinity)),
-                            visited(u"past"_s, pointInTime(-infinity)), row(u"2025-03-13T11:00:00+01:00"_s)};
+    const QList<HistoryItem> rows{visited(u"never"_s, pointInTime(std::numeric_limits<double>::quiet_NaN())),
+                                  visited(u"future"_s, pointInTime(infinity)),
+                                  visited(u"past"_s, pointInTime(-infinity)),
+                                  row(u"2025-03-13T11:00:00+01:00"_s)};
     const QList<RowGroup<HistoryItem>> groups =
         dayGroups(rows, true, at(u"2025-03-13T12:00:00+01:00"_s), berlin);
     ASSERT_EQ(groups.size(), 2);

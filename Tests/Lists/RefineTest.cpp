@@ -38,7 +38,7 @@ public:
     }
     void run(std::function<void()> work, std::function<void()> deliver) override
     {
-        m_jobs.push_back([work = std::move(work), deliver = std::move(deliver)] {
+        m_jobs.emplace_back([work = std::move(work), deliver = std::move(deliver)] {
             work();
             deliver();
         });
