@@ -7,6 +7,9 @@
 
 #include <benchmark/benchmark.h>
 
+#include <limits>
+#include <malloc.h>
+
 namespace
 {
 
@@ -34,7 +37,8 @@ QList<BookmarkNode> tree(qsizetype bookmarks)
             for (qsizetype j = 0; j < perFolder && written < bookmarks; ++j, ++written) {
                 BookmarkNode leaf;
                 leaf.title = u"Page %1, about [things] and \"others\""_s.arg(written);
-                leaf.url = u"https://www.site-%1.example/articles/%2?a=1&b=2"_s.arg(written % 500).arg(written);
+                leaf.url =
+                    u"https://www.site-%1.example/articles/%2?a=1&b=2"_s.arg(written % 500).arg(written);
                 leaf.dateAdded = pointInTime(firstDate + static_cast<double>(written));
                 leaf.source = Source::safari();
                 inner.children->append(leaf);
@@ -65,4 +69,12 @@ BENCHMARK_CAPTURE(render, html, roamlet::BookmarkExport::Format::Html)->Arg(few)
 BENCHMARK_CAPTURE(render, markdown, roamlet::BookmarkExport::Format::Markdown)->Arg(few)->Arg(many);
 BENCHMARK_CAPTURE(render, csv, roamlet::BookmarkExport::Format::Csv)->Arg(few)->Arg(many);
 
-BENCHMARK_MAIN();
+int main(int argc, char **argv)
+{
+    // Memory that was freed is kept, or only the large list would get fresh pages from the kernel each time.
+    mallopt(M_MMAP_THRESHOLD, std::numeric_limits<int>::max());
+    mallopt(M_TRIM_THRESHOLD, std::numeric_limits<int>::max());
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
