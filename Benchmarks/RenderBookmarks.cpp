@@ -72,8 +72,9 @@ BENCHMARK_CAPTURE(render, csv, roamlet::BookmarkExport::Format::Csv)->Arg(few)->
 int main(int argc, char **argv)
 {
     // Memory that was freed is kept, or only the large list would get fresh pages from the kernel each time.
-    mallopt(M_MMAP_THRESHOLD, std::numeric_limits<int>::max());
-    mallopt(M_TRIM_THRESHOLD, std::numeric_limits<int>::max());
+    // There is only one thread yet.
+    mallopt(M_MMAP_MAX, 0);                                     // NOLINT(concurrency-mt-unsafe)
+    mallopt(M_TRIM_THRESHOLD, std::numeric_limits<int>::max()); // NOLINT(concurrency-mt-unsafe)
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     return 0;
