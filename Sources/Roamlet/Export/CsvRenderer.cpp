@@ -46,7 +46,7 @@ public:
         UErrorCode status = U_ZERO_ERROR;
         ubrk_setText(m_iterator.get(), reinterpret_cast<const UChar *>(text.utf16()),
                      static_cast<std::int32_t>(text.size()), &status);
-        if (U_FAILURE(status))
+        if (U_FAILURE(status) != 0)
             return true;
         std::int32_t start = ubrk_first(m_iterator.get());
         for (std::int32_t end = ubrk_next(m_iterator.get()); end != UBRK_DONE;
