@@ -38,9 +38,12 @@ while IFS= read -r file; do
     if [[ $included == Platform/Linux/* && $file != Sources/Roamlet/Platform/Linux/* && $folder != App ]]; then
       fail "$file includes $included" "Only App chooses the system; everybody else takes the interface in Platform."
     fi
-  done < <(sed -n 's/^ *# *include *"\([^"]*\)".*/\1/p' "$file")
-  if [ "$folder" != App ]; then
-    if grep -nE '^ *# *include *<(QtWidgets/|QWidget|QApplication|QGuiApplication|QDialog|QMenu|QMessageBox|QMainWindow|QAbstractButton|QLabel|QTableView|QTreeView)' "$file"; then
+    if [[ $file == Sources/Roamlet/App/Diagnostics/* && $room == App && $included != App/Diagnostics/* ]]; then
+      fail "$file includes $included" "The jobs of the command line run without what the windows need."
+    fi
+  done < <(sed -n 's/^ *# *include *[<"]\([^">]*\/[^">]*\)[>"].*/\1/p' "$file" | grep -E "^(Model|Platform|Readers|Library|Lists|Export|Opening|App)/" || true)
+  if [[ $folder != App || $file == Sources/Roamlet/App/Diagnostics/* ]]; then
+    if grep -nE '^ *# *include *<(QtWidgets/|QApplication|QGuiApplication|Q[A-Za-z]*(Widget|Dialog|Menu|MenuBar|MessageBox|Window|Button|Label|TableView|TreeView|ListView|ItemView|HeaderView|Edit|ComboBox|CheckBox|Layout|Action|TrayIcon)>)' "$file"; then
       fail "$file includes a header of the window system" "The core runs without a display; widgets belong in App."
     fi
     if grep -nE '(^|[^[:alnum:]_])tr\(' "$file"; then

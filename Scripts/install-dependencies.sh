@@ -3,7 +3,7 @@
 # Installs what is missing for each of the purposes named: build, test, lint, bench.
 set -euo pipefail
 
-build=(g++ cmake ninja-build pkg-config qt6-base-dev libsqlite3-dev libicu-dev libplist-dev nlohmann-json3-dev tzdata)
+build=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-svg-dev libsqlite3-dev libicu-dev libplist-dev nlohmann-json3-dev tzdata)
 test=(libgtest-dev libgmock-dev sqlite3 dbus-daemon desktop-file-utils)
 # Without the browser the test that needs it says that it was skipped.
 optional_test=(chromium)

@@ -14,6 +14,7 @@ new_house() {
 }
 
 put() {
+  mkdir -p "$(dirname "$house/$1")"
   printf '// SPDX-FileCopyrightText: 2026 The Roamlet authors\n// SPDX-License-Identifier: MIT\n%b\n' "$2" >"$house/$1"
 }
 
@@ -65,6 +66,21 @@ expect broken "a widget in the core"
 new_house
 put Sources/Roamlet/Library/File.cpp '#include <QtWidgets/QWidget>'
 expect broken "a widget in the core, by its long name"
+new_house
+put Sources/Roamlet/Library/File.cpp '#include <QPushButton>'
+expect broken "a button in the core"
+new_house
+put Sources/Roamlet/Library/File.cpp '#include <QByteArrayView>'
+expect kept "a view of bytes in the core"
+new_house
+put Sources/Roamlet/Model/File.cpp '#include <Library/Library.h>'
+expect broken "a wrong direction in angle brackets"
+new_house
+put Sources/Roamlet/App/Diagnostics/File.cpp '#include <QWidget>'
+expect broken "a widget in the jobs of the command line"
+new_house
+put Sources/Roamlet/App/Diagnostics/File.cpp '#include "App/Window/MainWindow.h"'
+expect broken "a window in the jobs of the command line"
 new_house
 put Sources/Roamlet/App/File.cpp '#include <QWidget>'
 expect kept "a widget in the App"

@@ -3,10 +3,11 @@
 
 #pragma once
 
+/// The program with its windows.
 namespace roamlet::RoamletApp
 {
 
-/// Runs the program as its arguments say and returns the process's status.
+/// Runs until the user quits, and returns the process's status.
 int run(int argc, char **argv);
 
 } // namespace roamlet::RoamletApp

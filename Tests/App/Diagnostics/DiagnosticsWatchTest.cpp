@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
-#include "App/Diagnostics.h"
+#include "App/Diagnostics/Diagnostics.h"
 #include "BrowserHome.h"
 #include "LocalTime.h"
 #include "Support/FakeConsole.h"

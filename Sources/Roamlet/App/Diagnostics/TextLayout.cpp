@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
-#include "App/TextLayout.h"
+#include "App/Diagnostics/TextLayout.h"
 
 #include <QTextBoundaryFinder>
 

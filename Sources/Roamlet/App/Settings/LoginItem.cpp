@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
-#include "App/LoginItem.h"
+#include "App/Settings/LoginItem.h"
 
 #include "Platform/LoginService.h"
 #include "Platform/UserDefaults.h"

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
-#include "App/Printing.h"
+#include "App/Diagnostics/Printing.h"
 
 #include "Platform/Console.h"
 

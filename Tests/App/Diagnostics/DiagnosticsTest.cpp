@@ -3,7 +3,7 @@
 
 #include "DiagnosticsTest.h"
 
-#include "App/Diagnostics.h"
+#include "App/Diagnostics/Diagnostics.h"
 #include "SampleHome/PropertyLists.h"
 #include "SampleHome/SafariFiles.h"
 #include "Support/FolderFingerprint.h"

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "App/CommandLine.h"
+#include "App/Diagnostics/CommandLine.h"
 #include "Platform/Platform.h"
 
 #include <stop_token>

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
-#include "App/Diagnostics.h"
+#include "App/Diagnostics/Diagnostics.h"
 
-#include "App/Printing.h"
-#include "App/TextLayout.h"
+#include "App/Diagnostics/Printing.h"
+#include "App/Diagnostics/TextLayout.h"
 #include "Export/BookmarkExport.h"
 #include "Library/BrowserWatcher.h"
 #include "Library/Library.h"

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
-#include "App/CommandLine.h"
+#include "App/Diagnostics/CommandLine.h"
 
 namespace roamlet
 {

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
-#include "App/LoginItem.h"
+#include "App/Settings/LoginItem.h"
 
 #include "Support/FakeLoginService.h"
 #include "Support/MemoryUserDefaults.h"

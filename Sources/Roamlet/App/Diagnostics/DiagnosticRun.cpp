@@ -1,0 +1,83 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "App/Diagnostics/DiagnosticRun.h"
+
+#include "App/Diagnostics/CommandLine.h"
+#include "App/Diagnostics/Diagnostics.h"
+#include "App/Diagnostics/Printing.h"
+#include "Platform/Linux/LinuxConsole.h"
+#include "Platform/Linux/LinuxPlatform.h"
+#include "Platform/Linux/StopSignals.h"
+#include "Platform/Linux/UnicodeLocale.h"
+
+#include <QCoreApplication>
+#include <QFile>
+
+#include <optional>
+
+namespace roamlet::DiagnosticRun
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+constexpr int success = 0;
+constexpr int failure = 1;
+constexpr int misuse = 2;
+
+QStringList argumentsOf(int argc, char **argv)
+{
+    QStringList result;
+    for (int i = 1; i < argc; ++i)
+        result.append(QFile::decodeName(argv[i]));
+    return result;
+}
+
+int printed(Console &console, const QString &text)
+{
+    return print(console, text) == Printed::Failed ? failure : success;
+}
+
+int runDiagnostics(const Command &command, int argc, char **argv)
+{
+    StopSignals signals;
+    LinuxConsole console(signals.token());
+    LinuxPlatform platform;
+    // Only watching needs an event loop; everything else starts faster without one.
+    std::optional<QCoreApplication> application;
+    if (command.job == Command::Job::Watch)
+        application.emplace(argc, argv);
+    const int status = Diagnostics::run(command, platform.services(), console, signals.token());
+    signals.endProcessIfAsked();
+    return status;
+}
+
+} // namespace
+
+std::optional<int> run(int argc, char **argv)
+{
+    LinuxConsole::holdClosedStreams();
+    useUnicodeLocale();
+    const Command command = Command::of(argumentsOf(argc, argv));
+    LinuxConsole console({});
+    switch (command.job) {
+    case Command::Job::Help:
+        return printed(console, Command::help());
+    case Command::Job::Version:
+        return printed(console, u"Roamlet " ROAMLET_VERSION "\n"_s);
+    case Command::Job::Windows:
+        return {};
+    case Command::Job::Unknown:
+        console.writeError(QString(u"roamlet: unknown switch "_s % command.argument.value_or(QString()) %
+                                   u". roamlet --help lists what there is.\n")
+                               .toUtf8());
+        return misuse;
+    default:
+        return runDiagnostics(command, argc, argv);
+    }
+}
+
+} // namespace roamlet::DiagnosticRun

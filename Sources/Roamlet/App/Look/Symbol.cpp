@@ -1,0 +1,111 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "App/Look/Symbol.h"
+
+#include <QFile>
+#include <QGuiApplication>
+#include <QIconEngine>
+#include <QPainter>
+#include <QPalette>
+#include <QPixmapCache>
+#include <QSvgRenderer>
+
+/// The resources of a static library are there only once somebody asks for them, from outside of any
+/// namespace.
+static void useResources()
+{
+    Q_INIT_RESOURCE(Resources);
+}
+
+namespace roamlet
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+/// Draws a symbol as a stencil through which the text's colour shows.
+class SymbolEngine final : public QIconEngine
+{
+public:
+    SymbolEngine(QString path, const std::optional<QColor> &color) : m_path(std::move(path)), m_color(color)
+    {
+    }
+
+    void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State state) override
+    {
+        const qreal ratio = painter->device() != nullptr ? painter->device()->devicePixelRatioF() : 1;
+        painter->drawPixmap(rect, scaledPixmap(rect.size() * ratio, mode, state, ratio));
+    }
+
+    QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override
+    {
+        return scaledPixmap(size, mode, state, 1);
+    }
+
+    QPixmap scaledPixmap(const QSize &size, QIcon::Mode mode, QIcon::State /*state*/, qreal scale) override
+    {
+        const QColor color = m_color.value_or(textColor(mode));
+        const QString key = u"roamlet-symbol/%1/%2x%3@%4/%5"_s.arg(m_path)
+                                .arg(size.width())
+                                .arg(size.height())
+                                .arg(scale)
+                                .arg(color.rgba(), 0, 16);
+        QPixmap result;
+        if (QPixmapCache::find(key, &result))
+            return result;
+        result = drawn(size, color);
+        result.setDevicePixelRatio(scale);
+        QPixmapCache::insert(key, result);
+        return result;
+    }
+
+    QIconEngine *clone() const override { return new SymbolEngine(m_path, m_color); }
+
+private:
+    static QColor textColor(QIcon::Mode mode)
+    {
+        const QPalette palette = QGuiApplication::palette();
+        switch (mode) {
+        case QIcon::Disabled:
+            return palette.color(QPalette::Disabled, QPalette::WindowText);
+        case QIcon::Selected:
+            return palette.color(QPalette::Active, QPalette::HighlightedText);
+        default:
+            return palette.color(QPalette::Active, QPalette::WindowText);
+        }
+    }
+
+    QPixmap drawn(const QSize &size, const QColor &color) const
+    {
+        QSvgRenderer renderer(m_path);
+        QPixmap pixmap(size);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        const QSizeF fitting = renderer.defaultSize().toSizeF().scaled(size.toSizeF(), Qt::KeepAspectRatio);
+        QRectF place({}, fitting);
+        place.moveCenter(QRectF(pixmap.rect()).center());
+        renderer.render(&painter, place);
+        painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+        painter.fillRect(pixmap.rect(), color);
+        return pixmap;
+    }
+
+    QString m_path;
+    std::optional<QColor> m_color;
+};
+
+} // namespace
+
+QIcon symbolIcon(const QString &name, const std::optional<QColor> &color)
+{
+    useResources();
+    const QString path = u":/symbols/%1.svg"_s.arg(name);
+    if (!QFile::exists(path))
+        return {};
+    return QIcon(new SymbolEngine(path, color));
+}
+
+} // namespace roamlet

@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QColor>
+#include <QIcon>
+#include <QString>
+
+#include <optional>
+
+namespace roamlet
+{
+
+/// One of our single-colour symbols, such as "chart.bar" or "lock.fill", in the colour of the text around it:
+/// it follows the palette, the selection and what is disabled. With a colour it keeps to that one. A null
+/// icon for a name that there is not.
+QIcon symbolIcon(const QString &name, const std::optional<QColor> &color = {});
+
+} // namespace roamlet
