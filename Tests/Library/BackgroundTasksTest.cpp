@@ -5,12 +5,16 @@
 
 #include "Support/Waiting.h"
 
+#include <QCoreApplication>
 #include <QThread>
 
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <memory>
+#include <optional>
 #include <semaphore>
+#include <utility>
 
 namespace roamlet::testing
 {
@@ -35,13 +39,89 @@ TEST(BackgroundTasksTest, WorkRunsElsewhereAndItsResultComesBackHere)
     EXPECT_EQ(delivered, 2);
 }
 
+TEST(BackgroundTasksTest, AResultThatCanOnlyBeMovedArrives)
+{
+    BackgroundTasks tasks;
+    QObject context;
+    std::unique_ptr<int> delivered;
+    tasks.run(
+        &context, [](const std::stop_token &) { return std::make_unique<int>(5); },
+        [&delivered](std::unique_ptr<int> result) { delivered = std::move(result); });
+    ASSERT_TRUE(waitUntil([&delivered] { return delivered != nullptr; }));
+    EXPECT_EQ(*delivered, 5);
+}
+
+TEST(BackgroundTasksTest, NothingIsDeliveredToWhoIsGoneOrHasStopped)
+{
+    std::counting_semaphore<> ended(0);
+    BackgroundTasks tasks;
+    QObject context;
+    auto gone = std::make_unique<QObject>();
+    int deliveries = 0;
+    const auto work = [&ended](const std::stop_token &) {
+        ended.release();
+        return true;
+    };
+    const auto count = [&deliveries](bool) { ++deliveries; };
+    tasks.run(gone.get(), work, count);
+    std::stop_source stopped = tasks.run(&context, work, count);
+    // Both have ended here, and neither was delivered yet.
+    ended.acquire();
+    ended.acquire();
+    gone.reset();
+    stopped.request_stop();
+    std::stop_source wanted = tasks.run(&context, work, count);
+    ASSERT_TRUE(waitUntil([&deliveries] { return deliveries > 0; }));
+    wanted.request_stop();
+    EXPECT_EQ(deliveries, 1);
+}
+
+TEST(BackgroundTasksTest, AStopReachesOnlyTheWorkThatItIsFor)
+{
+    std::binary_semaphore mayLook(0);
+    BackgroundTasks tasks;
+    QObject context;
+    std::optional<bool> sawStop;
+    std::stop_source other =
+        tasks.run(&context, [](const std::stop_token &) { return true; }, [](bool) { FAIL(); });
+    tasks.run(
+        &context,
+        [&mayLook](const std::stop_token &stop) {
+            mayLook.acquire();
+            return stop.stop_requested();
+        },
+        [&sawStop](bool saw) { sawStop = saw; });
+    other.request_stop();
+    mayLook.release();
+    ASSERT_TRUE(waitUntil([&sawStop] { return sawStop.has_value(); }));
+    EXPECT_EQ(sawStop, false);
+}
+
+TEST(BackgroundTasksTest, WhatEndedIsNotDeliveredAfterGoing)
+{
+    QObject context;
+    {
+        std::binary_semaphore ended(0);
+        BackgroundTasks tasks;
+        tasks.run(
+            &context,
+            [&ended](const std::stop_token &) {
+                ended.release();
+                return true;
+            },
+            [](bool) { FAIL(); });
+        ended.acquire();
+    }
+    QCoreApplication::processEvents();
+}
+
 TEST(BackgroundTasksTest, GoingAsksAllWorkToStopAndWaitsForIt)
 {
     std::atomic<int> ended = 0;
     QObject context;
     {
-        BackgroundTasks tasks;
         std::counting_semaphore<> started(0);
+        BackgroundTasks tasks;
         for (int i = 0; i < 3; ++i) {
             tasks.run(
                 &context,

@@ -9,6 +9,9 @@
 
 #include <QFile>
 
+#include <algorithm>
+#include <memory>
+
 namespace roamlet::testing
 {
 namespace
@@ -29,7 +32,7 @@ protected:
 TEST_F(BrowserWatcherTest, FilesBelongToTheSourceInWhoseFolderTheyLie)
 {
     addChromium();
-    const QString container = home.path(u"Library/Containers/com.apple.Safari/Data/Library/Safari/"_s);
+    const QString container = safariContainerFile({});
     struct Row {
         QString path;
         std::optional<QString> id;
@@ -54,13 +57,31 @@ TEST_F(BrowserWatcherTest, FilesBelongToTheSourceInWhoseFolderTheyLie)
         {container % u"Profiles/UUID-1/History.db", u"safari/UUID-1"_s},
         {container % u"Profiles/UUID-1/Bookmarks.plist", u"safari/UUID-1"_s},
         {container % u"Profiles/History.db", {}},
+        {container % u"Profiles/UUID-1/Sub/History.db", {}},
+        {container % u"Profiles/UUID-1/History", {}},
         {container % u"SafariTabs.db", {}},
+        {container % u"History.db", {}},
+        {safariFile(u"History.db-shm"_s), {}},
+        {safariFile(u"Bookmarks"_s), {}},
+        {chromeFile(u"Default/History.db"_s), {}},
+        {chromeFile(u"Default"_s), {}},
+        {u"/x" % chromeFile(u"Default/History"_s), {}},
         {home.path(u"Default/History"_s), {}},
         {u"History"_s, {}},
         {u""_s, {}},
     };
     for (const Row &row : rows)
         EXPECT_EQ(sourceID(row.path), row.id) << qPrintable(row.path);
+}
+
+TEST_F(BrowserWatcherTest, DataThatTheUserPutElsewhereBelongsToItsBrowserToo)
+{
+    home.defaults.setString(u"dataRoot.chrome"_s, home.path(u"else/where"_s));
+    home.defaults.setString(u"dataRoot.safari"_s, home.path(u"backup"_s));
+    EXPECT_EQ(sourceID(home.path(u"else/where/Profile 2/History"_s)), u"chrome/Profile 2"_s);
+    EXPECT_EQ(sourceID(chromeFile(u"Default/History"_s)), std::nullopt);
+    EXPECT_EQ(sourceID(home.path(u"backup/History.db"_s)), u"safari"_s);
+    EXPECT_EQ(sourceID(safariFile(u"History.db"_s)), std::nullopt);
 }
 
 TEST_F(BrowserWatcherTest, AnUnchangedFileIsReportedOnlyTheFirstTime)
@@ -76,7 +97,7 @@ TEST_F(BrowserWatcherTest, AnUnchangedFileIsReportedOnlyTheFirstTime)
     setChromeHistory(u"Default"_s, {u"more"_s, u"than"_s, u"before"_s});
     home.fileEvents.report({history});
     EXPECT_EQ(reports.size(), 2);
-    QFile::remove(history);
+    change([&history] { QFile::remove(history); });
     home.fileEvents.report({history});
     home.fileEvents.report({history});
     EXPECT_EQ(reports.size(), 3) << "gone counts once";
@@ -96,38 +117,183 @@ TEST_F(BrowserWatcherTest, OneReportNamesAllItsSources)
     EXPECT_EQ(reports.size(), 1);
 }
 
-TEST_F(BrowserWatcherTest, ManyChangesWithinFiveSecondsAreOneReload)
+TEST_F(BrowserWatcherTest, EachFileOfASourceHasItsOwnStamp)
 {
     addChromium();
-    home.fileEvents.isAvailable = true;
+    int reports = 0;
+    const BrowserWatcher watcher(home.platform(), [&reports](const QSet<QString> &) { ++reports; });
+    home.fileEvents.report({chromeFile(u"Default/History"_s)});
+    home.fileEvents.report({chromeFile(u"Default/Bookmarks"_s)});
+    EXPECT_EQ(reports, 2) << "each file counts the first time";
+    home.fileEvents.report({chromeFile(u"Default/Bookmarks"_s), chromeFile(u"Default/History"_s)});
+    EXPECT_EQ(reports, 2);
+    change([this] { sample::writeBookmarks(chromeFile(u"Default/Bookmarks"_s), {}); });
+    home.fileEvents.report({chromeFile(u"Default/History"_s), chromeFile(u"Default/Bookmarks"_s)});
+    EXPECT_EQ(reports, 3);
+}
+
+TEST_F(BrowserWatcherTest, AFileThatOnlyGotANewModeIsUnchanged)
+{
+    addChromium();
+    int reports = 0;
+    const BrowserWatcher watcher(home.platform(), [&reports](const QSet<QString> &) { ++reports; });
+    const QString history = chromeFile(u"Default/History"_s);
+    home.fileEvents.report({history});
+    change([&history] { QFile::setPermissions(history, QFile::ReadOwner); });
+    home.fileEvents.report({history});
+    EXPECT_EQ(reports, 1);
+}
+
+TEST_F(BrowserWatcherTest, SafarisFoldersAreAskedForFirst)
+{
+    const BrowserWatcher watcher(home.platform(), [](const QSet<QString> &) { FAIL(); });
+    const QStringList &folders = home.fileEvents.watchedFolders;
+    const QList<qsizetype> places{
+        folders.indexOf(home.path(u"Library/Safari"_s)), folders.indexOf(safariContainerFile(u"Profiles"_s)),
+        folders.indexOf(home.path(u"Library/Application Support/Google/Chrome"_s)),
+        folders.indexOf(home.path(u"Library/Application Support/Microsoft Edge"_s))};
+    EXPECT_FALSE(places.contains(-1));
+    EXPECT_TRUE(std::ranges::is_sorted(places));
+}
+
+TEST_F(BrowserWatcherTest, ABrowserThatIsInstalledLaterElsewhereIsKnown)
+{
+    QList<QSet<QString>> reports;
+    const BrowserWatcher watcher(home.platform(),
+                                 [&reports](const QSet<QString> &report) { reports.append(report); });
+    const QString root = home.path(u".config/google-chrome"_s);
+    EXPECT_TRUE(home.fileEvents.watchedFolders.contains(root));
+    const QString history = root % u"/Default/History";
+    home.fileEvents.report({history});
+    EXPECT_TRUE(reports.isEmpty()) << "nothing is read from there yet";
+    change([&history] { sample::writeHistory(history, {}); });
+    home.fileEvents.report({history});
+    EXPECT_EQ(reports, QList<QSet<QString>>{{u"chrome/Default"_s}});
+}
+
+TEST_F(BrowserWatcherTest, AWatcherThatGoesEndsItsStream)
+{
+    class Events final : public FileEvents
+    {
+    public:
+        std::unique_ptr<Stream> open(const QStringList &, Handler) override
+        {
+            class Counted final : public Stream
+            {
+            public:
+                explicit Counted(int &open) : m_open(open) { ++m_open; }
+                ~Counted() override { --m_open; }
+
+            private:
+                int &m_open;
+            };
+            return std::make_unique<Counted>(openStreams);
+        }
+
+        int openStreams = 0;
+    };
+    Events events;
+    {
+        const Platform platform{home.folders, home.files, home.defaults, events, home.clock};
+        const BrowserWatcher watcher(platform, [](const QSet<QString> &) {});
+        EXPECT_EQ(events.openStreams, 1);
+    }
+    EXPECT_EQ(events.openStreams, 0);
+}
+
+TEST_F(BrowserWatcherTest, TenChangesToThreeProfilesAreOneReloadOfJustThese)
+{
+    addChromium();
+    addSafari();
     Library library(home.platform());
     library.start();
     ASSERT_TRUE(waitUntil([&library] { return !library.isLoading(); }));
-    setChromeHistory(u"Default"_s, {u"changed"_s});
+    recordReads();
+    const QStringList files{chromeFile(u"Default/History"_s), chromeFile(u"Profile 1/History"_s),
+                            edgeFile(u"Default/History"_s)};
     for (int i = 0; i < 10; ++i) {
         setChromeHistory(u"Profile 1"_s, QStringList(i + 1, u"p"_s));
-        home.fileEvents.report({chromeFile(u"Default/History"_s), chromeFile(u"Profile 1/History"_s),
-                                edgeFile(u"Default/History"_s)});
+        home.fileEvents.report({files[i % 3], files[1]});
         home.clock.advance(400ms);
     }
+    setChromeHistory(u"Default"_s, {u"changed"_s});
     EXPECT_EQ(library.generation(), 1);
-    EXPECT_FALSE(library.isLoading());
     home.clock.advance(999ms);
     EXPECT_FALSE(library.isLoading()) << "4,999 ms after the first change";
     home.clock.advance(1ms);
     EXPECT_TRUE(library.isLoading());
     ASSERT_TRUE(waitUntil([&library] { return !library.isLoading(); }));
     EXPECT_EQ(library.generation(), 2);
+    EXPECT_EQ(takeReads(), (QStringList{u"chrome/Default"_s, u"chrome/Profile 1"_s, u"edge/Default"_s}));
     EXPECT_TRUE(titles(library.snapshot().history).contains(u"changed"_s));
     EXPECT_EQ(home.clock.waiting(), 0U);
     home.clock.advance(1h);
     EXPECT_FALSE(library.isLoading());
 
     setChromeHistory(u"Default"_s, {u"changed again"_s, u"x"_s});
-    home.fileEvents.report({chromeFile(u"Default/History"_s)});
+    home.fileEvents.report({files[0]});
     home.clock.advance(5s);
     ASSERT_TRUE(waitUntil([&library] { return !library.isLoading(); }));
     EXPECT_EQ(library.generation(), 3);
+    EXPECT_EQ(takeReads(), QStringList{u"chrome/Default"_s});
+}
+
+TEST_F(BrowserWatcherTest, ALoadThatRunsTakesTheChangesAlong)
+{
+    addChromium();
+    Library library(home.platform());
+    library.start();
+    ASSERT_TRUE(waitUntil([&library] { return !library.isLoading(); }));
+    Gate gate;
+    recordReads(&gate);
+    library.load(QSet<QString>{u"edge/Default"_s});
+    gate.awaitReader();
+    home.fileEvents.report({chromeFile(u"Default/History"_s)});
+    gate.open();
+    ASSERT_TRUE(waitUntil([&library] { return !library.isLoading(); }));
+    EXPECT_EQ(takeReads(), (QStringList{u"chrome/Default"_s, u"edge/Default"_s})) << "without waiting";
+    EXPECT_EQ(library.generation(), 3);
+    home.clock.advance(5s);
+    EXPECT_FALSE(library.isLoading()) << "nothing is left to read";
+    EXPECT_EQ(library.generation(), 3);
+    EXPECT_EQ(library.lastLoaded(), pointInTime(newest + 5));
+}
+
+TEST_F(BrowserWatcherTest, ADelayThatEndsDuringALoadLeavesTheChangesToItsNextPass)
+{
+    addChromium();
+    Library library(home.platform());
+    library.start();
+    ASSERT_TRUE(waitUntil([&library] { return !library.isLoading(); }));
+    home.fileEvents.report({chromeFile(u"Default/History"_s)});
+    home.clock.advance(4s);
+    Gate gate;
+    recordReads(&gate);
+    // A load in between has the change from the start; a second change comes while it runs.
+    library.load(QSet<QString>{u"edge/Default"_s});
+    gate.awaitReader();
+    home.fileEvents.report({chromeFile(u"Profile 1/History"_s)});
+    home.clock.advance(1s);
+    EXPECT_EQ(home.clock.waiting(), 0U);
+    gate.open();
+    ASSERT_TRUE(waitUntil([&library] { return !library.isLoading(); }));
+    EXPECT_EQ(takeReads(), (QStringList{u"chrome/Default"_s, u"chrome/Profile 1"_s, u"edge/Default"_s}));
+    EXPECT_EQ(library.generation(), 3);
+}
+
+TEST_F(BrowserWatcherTest, ALibraryThatGoesBeforeTheDelayEndsReadsNothing)
+{
+    addChromium();
+    {
+        Library library(home.platform());
+        library.start();
+        ASSERT_TRUE(waitUntil([&library] { return !library.isLoading(); }));
+        home.fileEvents.report({chromeFile(u"Default/History"_s)});
+        EXPECT_EQ(home.clock.waiting(), 1U);
+    }
+    recordReads();
+    home.clock.advance(1h);
+    EXPECT_EQ(takeReads(), QStringList());
 }
 
 TEST_F(BrowserWatcherTest, WithoutFileEventsEverythingElseWorks)

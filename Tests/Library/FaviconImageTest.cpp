@@ -4,12 +4,15 @@
 #include "Library/FaviconImage.h"
 
 #include "Library/LibraryHome.h"
+#include "SampleHome/PlainFiles.h"
 #include "Support/TestHome.h"
 
-#include <QDir>
+#include <QBuffer>
 #include <QFile>
+#include <QImage>
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 namespace roamlet::testing
 {
@@ -21,6 +24,28 @@ using namespace Qt::StringLiterals;
 class FaviconImageTest : public ::testing::Test
 {
 protected:
+    static QByteArray encoded(int width, int height, const char *format)
+    {
+        QImage image(width, height, QImage::Format_RGB32);
+        image.fill(Qt::red);
+        QBuffer buffer;
+        buffer.open(QIODevice::WriteOnly);
+        EXPECT_TRUE(image.save(&buffer, format)) << format;
+        return buffer.data();
+    }
+
+    /// An icon file of one picture that claims these sides.
+    static QByteArray ico(char width, char height, const QByteArray &picture)
+    {
+        QByteArray bytes = QByteArray::fromHex("000001000100");
+        bytes.append(width).append(height).append(QByteArray::fromHex("000001002000"));
+        for (const qsizetype number : {picture.size(), qsizetype{22}}) {
+            for (int shift = 0; shift < 32; shift += 8)
+                bytes.append(static_cast<char>((number >> shift) & 0xff));
+        }
+        return bytes + picture;
+    }
+
     QImage decode(const QByteArray &bytes) const
     {
         return FaviconImage::decode(FaviconData{bytes}, home.files);
@@ -38,15 +63,59 @@ TEST_F(FaviconImageTest, AnIconKeepsItsSizeAndColours)
 
 TEST_F(FaviconImageTest, ALargeIconIsScaledDownAndKeepsItsShape)
 {
+    EXPECT_EQ(decode(png(64, Qt::red)).size(), QSize(64, 64));
+    EXPECT_EQ(decode(png(65, Qt::red)).size(), QSize(64, 64));
     EXPECT_EQ(decode(png(512, Qt::red)).size(), QSize(64, 64));
+    EXPECT_EQ(decode(encoded(200, 100, "PNG")).size(), QSize(64, 32));
+    EXPECT_EQ(decode(encoded(100, 200, "PNG")).size(), QSize(32, 64));
+    EXPECT_EQ(decode(encoded(2048, 1, "PNG")).size(), QSize(64, 1)) << "a line stays a line";
+}
+
+TEST_F(FaviconImageTest, WhatIsClearStaysClear)
+{
+    EXPECT_EQ(decode(png(16, QColor(0, 0, 0, 0))).pixelColor(0, 0).alpha(), 0);
+    EXPECT_EQ(decode(png(128, QColor(0, 0, 0, 0))).pixelColor(0, 0).alpha(), 0);
+}
+
+TEST_F(FaviconImageTest, TheUsualFormatsAreKnown)
+{
+    for (const char *format : {"PNG", "JPEG", "BMP"})
+        EXPECT_EQ(decode(encoded(20, 10, format)).size(), QSize(20, 10)) << format;
+    EXPECT_EQ(decode(ico(32, 32, png(32, Qt::blue))).pixelColor(9, 9), QColor(Qt::blue));
+}
+
+TEST_F(FaviconImageTest, OtherFormatsAreRefused)
+{
+    for (const char *format : {"XPM", "XBM", "PPM"}) {
+        const QByteArray bytes = encoded(16, 16, format);
+        ASSERT_FALSE(bytes.isEmpty()) << format;
+        EXPECT_TRUE(decode(bytes).isNull()) << format;
+    }
+}
+
+TEST_F(FaviconImageTest, AFileThatIsTooLargeIsNotDecoded)
+{
+    constexpr qsizetype limit = 8 * 1024 * 1024;
+    QByteArray bytes = png(16, Qt::red);
+    bytes.resize(limit, '\0');
+    EXPECT_FALSE(decode(bytes).isNull());
+    bytes.append('\0');
+    EXPECT_TRUE(decode(bytes).isNull());
 }
 
 TEST_F(FaviconImageTest, WhatClaimsToBeHugeIsNotDecoded)
 {
-    EXPECT_TRUE(decode(png(2049, Qt::red)).isNull());
+    EXPECT_FALSE(decode(png(2048, Qt::red)).isNull());
+    EXPECT_TRUE(decode(encoded(2049, 1, "PNG")).isNull());
+    EXPECT_TRUE(decode(encoded(1, 2049, "PNG")).isNull());
     QByteArray lying = png(16, Qt::red);
     lying.replace(16, 4, QByteArray::fromHex("7fffffff")); // the width in the header
     EXPECT_TRUE(decode(lying).isNull());
+}
+
+TEST_F(FaviconImageTest, AnIconThatSaysItIsSmallMayNotHoldAHugePicture)
+{
+    EXPECT_TRUE(decode(ico(16, 16, png(2049, Qt::red))).isNull());
 }
 
 TEST_F(FaviconImageTest, BrokenBytesAreNoIcon)
@@ -55,6 +124,7 @@ TEST_F(FaviconImageTest, BrokenBytesAreNoIcon)
     EXPECT_TRUE(decode({}).isNull());
     EXPECT_TRUE(decode("hello").isNull());
     EXPECT_TRUE(decode(QByteArray(100, '\0')).isNull());
+    EXPECT_TRUE(decode(whole.first(whole.size() / 2)).isNull());
     for (qsizetype length = 0; length < whole.size(); ++length)
         decode(whole.first(length));
     for (qsizetype i = 0; i < whole.size(); ++i) {
@@ -88,14 +158,14 @@ TEST_F(FaviconImageTest, OfAnAnimationTheFirstPictureCounts)
 
 TEST_F(FaviconImageTest, AFileIsReadFromDisk)
 {
-    QFile file(home.path(u"icon.png"_s));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(png(16, Qt::blue));
-    file.close();
-    EXPECT_EQ(FaviconImage::decode(FaviconFile{file.fileName()}, home.files).pixelColor(0, 0),
-              QColor(Qt::blue));
+    const QString file = home.path(u"icon.png"_s);
+    sample::writeFile(file, png(16, Qt::blue));
+    EXPECT_EQ(FaviconImage::decode(FaviconFile{file}, home.files).pixelColor(0, 0), QColor(Qt::blue));
     EXPECT_TRUE(FaviconImage::decode(FaviconFile{home.path(u"missing"_s)}, home.files).isNull());
     EXPECT_TRUE(FaviconImage::decode(FaviconFile{home.path()}, home.files).isNull());
+    const QString pipe = home.path(u"pipe"_s);
+    ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    EXPECT_TRUE(FaviconImage::decode(FaviconFile{pipe}, home.files).isNull()) << "and nobody waits for it";
 }
 
 } // namespace

@@ -9,6 +9,10 @@
 #include <QBuffer>
 #include <QImage>
 
+#include <atomic>
+#include <memory>
+#include <utility>
+
 namespace roamlet::testing
 {
 
@@ -17,45 +21,74 @@ using namespace Qt::StringLiterals;
 void LibraryHome::TearDown()
 {
     EXPECT_TRUE(home.leftovers().isEmpty()) << qPrintable(home.leftovers().join(u' '));
+    expectUntouched();
+}
+
+void LibraryHome::expectUntouched() const
+{
+    EXPECT_EQ(m_asWritten.differencesTo(FolderFingerprint(home.path())), "");
+}
+
+void LibraryHome::fail(const QString &path, std::errc error)
+{
+    home.files.failure = [path, error](const QString &file) {
+        return file == path ? std::make_error_code(error) : std::error_code{};
+    };
 }
 
 void LibraryHome::addChromium()
 {
-    sample::writeLocalState(chromeFile(u"Local State"_s),
-                            {{u"Default"_s, QJsonObject{{u"name"_s, u"Personal"_s}}},
-                             {u"Profile 1"_s, QJsonObject{{u"name"_s, u"Work"_s}}}});
-    sample::writeLocalState(edgeFile(u"Local State"_s),
-                            {{u"Default"_s, QJsonObject{{u"name"_s, u"Office"_s}}}});
     setChromeHistory(u"Default"_s, {u"a1"_s, u"a2"_s});
     setChromeHistory(u"Profile 1"_s, {u"b1"_s}, newest + 100);
-    sample::writeHistory(edgeFile(u"Default/History"_s),
-                         {sample::HistoryRow{.url = u"https://edge.example/"_s,
-                                             .title = u"e1"_s,
-                                             .visitCount = 3,
-                                             .lastVisitTime = sample::chromiumTime(newest + 50)}});
-    sample::writeBookmarks(
-        chromeFile(u"Default/Bookmarks"_s),
-        {{u"bookmark_bar"_s,
-          sample::folderNode(u"1"_s, u"Bar"_s,
-                             {sample::bookmarkNode(u"5"_s, u"Mark"_s, u"https://mark.example/"_s, 0)})}});
+    change([this] {
+        sample::writeLocalState(chromeFile(u"Local State"_s),
+                                {{u"Default"_s, QJsonObject{{u"name"_s, u"Personal"_s}}},
+                                 {u"Profile 1"_s, QJsonObject{{u"name"_s, u"Work"_s}}}});
+        sample::writeLocalState(edgeFile(u"Local State"_s),
+                                {{u"Default"_s, QJsonObject{{u"name"_s, u"Office"_s}}}});
+        sample::writeHistory(edgeFile(u"Default/History"_s),
+                             {sample::HistoryRow{.url = u"https://edge.example/"_s,
+                                                 .title = u"e1"_s,
+                                                 .visitCount = 3,
+                                                 .lastVisitTime = sample::chromiumTime(newest + 50)}});
+        sample::writeBookmarks(
+            chromeFile(u"Default/Bookmarks"_s),
+            {{u"bookmark_bar"_s,
+              sample::folderNode(u"1"_s, u"Bar"_s,
+                                 {sample::bookmarkNode(u"5"_s, u"Mark"_s, u"https://mark.example/"_s, 0)})}});
+    });
 }
 
 void LibraryHome::addSafari()
 {
-    sample::writeSafariHistory(
-        safariFile(u"History.db"_s), {sample::SafariItem{.id = 1, .url = u"https://s.example/"_s}},
-        {sample::SafariVisit{.itemID = 1, .time = sample::safariTime(newest + 10), .title = u"s1"_s}});
-    sample::writePropertyList(
-        safariFile(u"Bookmarks.plist"_s),
-        QVariantMap{{u"Children"_s, QVariantList{sample::safariFolder(
-                                        u"F"_s, u"BookmarksBar"_s,
-                                        {sample::safariBookmark(u"B"_s, u"Safari mark"_s,
-                                                                u"https://smark.example/"_s, {})})}}},
-        sample::PropertyListFormat::Binary);
-    sample::writeSafariFavicons(
-        safariFile(u"Favicon Cache"_s),
-        {sample::SafariIcon{.uuid = u"U"_s, .timestamp = 1, .image = png(16, Qt::green)}},
-        {sample::SafariIconPage{.url = u"https://shared.example/"_s, .uuid = u"U"_s}});
+    change([this] {
+        sample::writeSafariHistory(
+            safariFile(u"History.db"_s), {sample::SafariItem{.id = 1, .url = u"https://s.example/"_s}},
+            {sample::SafariVisit{.itemID = 1, .time = sample::safariTime(newest + 10), .title = u"s1"_s}});
+        sample::writePropertyList(
+            safariFile(u"Bookmarks.plist"_s),
+            QVariantMap{{u"Children"_s, QVariantList{sample::safariFolder(
+                                            u"F"_s, u"BookmarksBar"_s,
+                                            {sample::safariBookmark(u"B"_s, u"Safari mark"_s,
+                                                                    u"https://smark.example/"_s, {})})}}},
+            sample::PropertyListFormat::Binary);
+        sample::writeSafariFavicons(
+            safariFile(u"Favicon Cache"_s),
+            {sample::SafariIcon{.uuid = u"U"_s, .timestamp = 1, .image = png(16, Qt::green)}},
+            {sample::SafariIconPage{.url = u"https://shared.example/"_s, .uuid = u"U"_s}});
+    });
+}
+
+void LibraryHome::addSafariProfile()
+{
+    change([this] {
+        sample::writeSafariTabs(safariContainerFile(u"SafariTabs.db"_s),
+                                {sample::SafariProfileRow{.title = u"Travel"_s, .serverID = u"T"_s}});
+        sample::writeSafariHistory(
+            safariContainerFile(u"Profiles/T/History.db"_s),
+            {sample::SafariItem{.id = 1, .url = u"https://t.example/"_s}},
+            {sample::SafariVisit{.itemID = 1, .time = sample::safariTime(newest + 20), .title = u"t1"_s}});
+    });
 }
 
 void LibraryHome::setChromeHistory(const QString &profile, const QStringList &pageTitles, qint64 newestVisit)
@@ -69,14 +102,41 @@ void LibraryHome::setChromeHistory(const QString &profile, const QStringList &pa
                      .lastVisitTime = sample::chromiumTime(newestVisit - i),
                      .hidden = false});
     }
-    sample::writeHistory(chromeFile(profile % u"/History"), rows);
+    change([&] { sample::writeHistory(chromeFile(profile % u"/History"), rows); });
 }
 
 void LibraryHome::setChromeIcon(const QString &profile, const QString &pageUrl, const QByteArray &image)
 {
-    sample::writeFavicons(chromeFile(profile % u"/Favicons"),
-                          {sample::FaviconBitmap{.iconID = 1, .image = image, .width = 16}},
-                          {sample::FaviconMapping{.pageURL = pageUrl, .iconID = 1}});
+    change([&] {
+        sample::writeFavicons(chromeFile(profile % u"/Favicons"),
+                              {sample::FaviconBitmap{.iconID = 1, .image = image, .width = 16}},
+                              {sample::FaviconMapping{.pageURL = pageUrl, .iconID = 1}});
+    });
+}
+
+void LibraryHome::recordReads(Gate *gate)
+{
+    home.files.failure = [this, gate, isFirst = std::make_shared<std::atomic_flag>(),
+                          folders = home.context().folders](const QString &path) {
+        const bool isHistory = path.endsWith(u"/History") || path.endsWith(u"/History.db");
+        const std::optional<QString> id = BrowserWatcher::sourceID(path, folders);
+        if (!isHistory || !id)
+            return std::error_code{};
+        {
+            const std::scoped_lock lock(m_readsMutex);
+            m_reads.append(*id);
+        }
+        if (gate != nullptr && !isFirst->test_and_set())
+            gate->pass();
+        return std::error_code{};
+    };
+}
+
+QStringList LibraryHome::takeReads()
+{
+    const std::scoped_lock lock(m_readsMutex);
+    m_reads.sort();
+    return std::exchange(m_reads, {});
 }
 
 void LibraryHome::loadNow(Library &library, const std::optional<QSet<QString>> &only)

@@ -6,6 +6,7 @@
 #include "Library/Library.h"
 #include "SampleHome/ChromiumFiles.h"
 #include "SampleHome/SafariFiles.h"
+#include "Support/FolderFingerprint.h"
 #include "Support/TestHome.h"
 
 #include <QByteArray>
@@ -15,10 +16,33 @@
 
 #include <gtest/gtest.h>
 
+#include <mutex>
+#include <semaphore>
+
 namespace roamlet::testing
 {
 
-/// A Mac's home folder with browsers in it, and the Library on top. After each test no private copy is left.
+/// Holds back the first reader that comes to it until a test lets it through.
+class Gate
+{
+public:
+    /// On the reading thread.
+    void pass()
+    {
+        m_arrived.release();
+        m_opened.acquire();
+    }
+    /// Waits until a reader stands at the gate.
+    void awaitReader() { m_arrived.acquire(); }
+    void open() { m_opened.release(); }
+
+private:
+    std::binary_semaphore m_arrived{0};
+    std::binary_semaphore m_opened{0};
+};
+
+/// A Mac's home folder with browsers in it, and the Library on top. After each test no private copy is left,
+/// and the home is as the test itself wrote it.
 class LibraryHome : public ::testing::Test
 {
 protected:
@@ -27,10 +51,22 @@ protected:
 
     void TearDown() override;
 
+    /// Writes into the home as a browser would. Everything else that happens to it is a failure.
+    template<typename Write>
+    void change(const Write &write)
+    {
+        expectUntouched();
+        write();
+        m_asWritten = FolderFingerprint(home.path());
+    }
+    void expectUntouched() const;
+
     /// Chrome with the profiles Default ("Personal") and Profile 1 ("Work"), Edge with Default ("Office").
     void addChromium();
     /// Safari with one page, one bookmark and one icon.
     void addSafari();
+    /// The named Safari profile "Travel" with the identifier "T", one page, and no bookmarks of its own.
+    void addSafariProfile();
     /// Replaces the history of a Chrome profile by pages with these titles, the first one newest.
     void setChromeHistory(const QString &profile, const QStringList &titles, qint64 newestVisit = newest);
     void setChromeIcon(const QString &profile, const QString &pageUrl, const QByteArray &image);
@@ -44,11 +80,28 @@ protected:
         return home.path(u"Library/Application Support/Microsoft Edge/" % file);
     }
     QString safariFile(const QString &file) const { return home.path(u"Library/Safari/" % file); }
+    QString safariContainerFile(const QString &file) const
+    {
+        return home.path(u"Library/Containers/com.apple.Safari/Data/Library/Safari/" % file);
+    }
+
+    /// From now on reading this file fails in this way; all others can be read.
+    void fail(const QString &path, std::errc error);
+
+    /// From now on writes down whose history is read; the first reader has to pass the gate, if there is one.
+    void recordReads(Gate *gate = nullptr);
+    /// The ids of the sources whose history was read since the last call, sorted.
+    QStringList takeReads();
 
     /// Loads and waits until the loop has ended.
     void loadNow(Library &library, const std::optional<QSet<QString>> &only = {});
 
     TestHome home;
+
+private:
+    FolderFingerprint m_asWritten{home.path()};
+    std::mutex m_readsMutex;
+    QStringList m_reads;
 };
 
 /// The titles in their order.

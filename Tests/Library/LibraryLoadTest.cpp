@@ -2,11 +2,9 @@
 // SPDX-License-Identifier: MIT
 
 #include "Library/LibraryHome.h"
-#include "Support/FolderFingerprint.h"
 #include "Support/Waiting.h"
 
 #include <QDir>
-#include <QFile>
 #include <QSignalSpy>
 
 #include <atomic>
@@ -23,11 +21,23 @@ using namespace std::chrono_literals;
 class LibraryLoadTest : public LibraryHome
 {
 protected:
-    void refuse(const QString &path)
+    static void awaitEnd(const Library &library)
     {
-        home.files.failure = [path](const QString &file) {
-            return file == path ? std::make_error_code(std::errc::permission_denied) : std::error_code{};
-        };
+        ASSERT_TRUE(waitUntil([&library] { return !library.isLoading(); }));
+    }
+
+    /// A second profile of Edge's with one page.
+    void addEdgeProfile()
+    {
+        change([this] {
+            sample::writeLocalState(edgeFile(u"Local State"_s),
+                                    {{u"Default"_s, QJsonObject{{u"name"_s, u"Office"_s}}},
+                                     {u"Profile 1"_s, QJsonObject{{u"name"_s, u"New"_s}}}});
+            sample::writeHistory(edgeFile(u"Profile 1/History"_s),
+                                 {sample::HistoryRow{.url = u"https://n.example/"_s,
+                                                     .title = u"new"_s,
+                                                     .lastVisitTime = sample::chromiumTime(newest)}});
+        });
     }
 };
 
@@ -36,6 +46,7 @@ TEST_F(LibraryLoadTest, AnEmptyHomeLoadsAnEmptySnapshot)
     Library library(home.platform());
     EXPECT_EQ(library.snapshot(), Library::Snapshot());
     EXPECT_EQ(library.lastLoaded(), std::nullopt);
+    EXPECT_EQ(library.generation(), 0);
     loadNow(library);
     EXPECT_EQ(library.snapshot(), Library::Snapshot());
     EXPECT_EQ(library.generation(), 1);
@@ -43,11 +54,10 @@ TEST_F(LibraryLoadTest, AnEmptyHomeLoadsAnEmptySnapshot)
     EXPECT_TRUE(home.clock.sleeps().empty());
 }
 
-TEST_F(LibraryLoadTest, EverythingIsReadInDiscoveryOrderAndNothingIsTouched)
+TEST_F(LibraryLoadTest, EverythingIsReadInDiscoveryOrder)
 {
     addChromium();
     addSafari();
-    const FolderFingerprint before(home.path());
     Library library(home.platform());
     loadNow(library);
     const Library::Snapshot &snapshot = library.snapshot();
@@ -62,7 +72,17 @@ TEST_F(LibraryLoadTest, EverythingIsReadInDiscoveryOrderAndNothingIsTouched)
     EXPECT_EQ(snapshot.bookmarkTrees.value(u"chrome/Default"_s).size(), 1);
     EXPECT_TRUE(snapshot.problems.isEmpty());
     EXPECT_FALSE(snapshot.safariBlocked);
-    EXPECT_EQ(before.differencesTo(FolderFingerprint(home.path())), "");
+}
+
+TEST_F(LibraryLoadTest, TheUsersOrderDoesNotChangeTheSnapshots)
+{
+    addChromium();
+    home.defaults.setStringList(u"sourceOrder"_s, {u"edge/Default"_s, u"chrome/Profile 1"_s});
+    Library library(home.platform());
+    loadNow(library);
+    EXPECT_EQ(ids(library.snapshot().sources),
+              (QStringList{u"chrome/Default"_s, u"chrome/Profile 1"_s, u"edge/Default"_s}));
+    EXPECT_EQ(titles(library.snapshot().history), (QStringList{u"a1"_s, u"a2"_s, u"b1"_s, u"e1"_s}));
 }
 
 TEST_F(LibraryLoadTest, SignalsTellOfEachChangeOnce)
@@ -73,76 +93,197 @@ TEST_F(LibraryLoadTest, SignalsTellOfEachChangeOnce)
     const QSignalSpy loading(&library, &Library::isLoadingChanged);
     const QSignalSpy loaded(&library, &Library::lastLoadedChanged);
     const QSignalSpy recent(&library, &Library::menuRecentChanged);
-    loadNow(library);
+    library.load({});
+    EXPECT_EQ(loading.count(), 1);
+    EXPECT_TRUE(library.isLoading());
+    EXPECT_EQ(snapshots.count(), 0);
+    awaitEnd(library);
     EXPECT_EQ(snapshots.count(), 1);
     EXPECT_EQ(loading.count(), 2);
     EXPECT_EQ(loaded.count(), 1);
     EXPECT_EQ(recent.count(), 1);
 }
 
+TEST_F(LibraryLoadTest, WhoHearsOfASnapshotFindsItsGenerationAndALoadThatRuns)
+{
+    addChromium();
+    Library library(home.platform());
+    QList<int> generations;
+    QObject::connect(&library, &Library::snapshotChanged, &library, [&] {
+        generations.append(library.generation());
+        EXPECT_EQ(library.snapshot().sources.size(), 3);
+        EXPECT_TRUE(library.isLoading());
+    });
+    QObject::connect(&library, &Library::lastLoadedChanged, &library,
+                     [&library] { EXPECT_FALSE(library.isLoading()); });
+    loadNow(library);
+    loadNow(library, QSet<QString>{u"edge/Default"_s});
+    EXPECT_EQ(generations, (QList<int>{1, 2}));
+}
+
+TEST_F(LibraryLoadTest, ALoadWasFinishedWhenItsLastPassEnded)
+{
+    addChromium();
+    Gate gate;
+    recordReads(&gate);
+    Library library(home.platform());
+    library.load({});
+    gate.awaitReader();
+    home.clock.advance(7s);
+    gate.open();
+    awaitEnd(library);
+    EXPECT_EQ(library.lastLoaded(), pointInTime(newest + 7));
+}
+
 TEST_F(LibraryLoadTest, RequestsDuringALoadAreOneFurtherPassOfJustThese)
 {
     addChromium();
-    std::binary_semaphore mayCopy(0);
-    std::atomic<int> copies = 0;
-    home.files.failure = [&](const QString &path) {
-        if (path.endsWith(u"/History"_s) && copies.fetch_add(1) == 0)
-            mayCopy.acquire();
-        return std::error_code{};
-    };
+    Gate gate;
+    recordReads(&gate);
     Library library(home.platform());
+    const QSignalSpy loading(&library, &Library::isLoadingChanged);
     library.load({});
+    gate.awaitReader();
     library.load(QSet<QString>{u"chrome/Default"_s});
     library.load(QSet<QString>{u"chrome/Default"_s});
-    EXPECT_TRUE(library.isLoading());
-    mayCopy.release();
-    ASSERT_TRUE(waitUntil([&library] { return !library.isLoading(); }));
+    library.load(QSet<QString>{u"edge/Default"_s});
+    gate.open();
+    awaitEnd(library);
     EXPECT_EQ(library.generation(), 2);
-    EXPECT_EQ(copies, 3 + 1) << "three profiles, then one of them again";
+    EXPECT_EQ(loading.count(), 2) << "one loop";
+    EXPECT_EQ(takeReads(), (QStringList{u"chrome/Default"_s, u"chrome/Default"_s, u"chrome/Profile 1"_s,
+                                        u"edge/Default"_s, u"edge/Default"_s}));
 }
 
 TEST_F(LibraryLoadTest, AFullRequestWinsOverPartialOnes)
 {
     addChromium();
-    std::binary_semaphore mayCopy(0);
-    std::atomic<int> copies = 0;
-    home.files.failure = [&](const QString &path) {
-        if (path.endsWith(u"/History"_s) && copies.fetch_add(1) == 0)
-            mayCopy.acquire();
-        return std::error_code{};
-    };
     Library library(home.platform());
-    library.load({});
+    loadNow(library);
+    Gate gate;
+    recordReads(&gate);
+    library.load(QSet<QString>{u"edge/Default"_s});
+    gate.awaitReader();
     library.load(QSet<QString>{u"chrome/Default"_s});
     library.load({});
-    mayCopy.release();
-    ASSERT_TRUE(waitUntil([&library] { return !library.isLoading(); }));
+    library.load(QSet<QString>{u"chrome/Default"_s});
+    gate.open();
+    awaitEnd(library);
+    EXPECT_EQ(library.generation(), 3) << "the partial requests need no pass of their own";
+    EXPECT_EQ(takeReads(), (QStringList{u"chrome/Default"_s, u"chrome/Profile 1"_s, u"edge/Default"_s,
+                                        u"edge/Default"_s}));
+}
+
+TEST_F(LibraryLoadTest, ARequestFromWhoHearsOfASnapshotIsAFurtherPass)
+{
+    addChromium();
+    Library library(home.platform());
+    QObject::connect(&library, &Library::snapshotChanged, &library, [&library] {
+        if (library.generation() == 1)
+            library.load(QSet<QString>{u"chrome/Default"_s});
+    });
+    recordReads();
+    loadNow(library);
     EXPECT_EQ(library.generation(), 2);
-    EXPECT_EQ(copies, 6);
+    EXPECT_EQ(takeReads(), (QStringList{u"chrome/Default"_s, u"chrome/Default"_s, u"chrome/Profile 1"_s,
+                                        u"edge/Default"_s}));
+}
+
+TEST_F(LibraryLoadTest, ARequestFromWhoHearsOfTheEndStartsAnew)
+{
+    addChromium();
+    Library library(home.platform());
+    QObject::connect(&library, &Library::lastLoadedChanged, &library, [&library] {
+        if (library.generation() == 1)
+            library.load({});
+    });
+    library.load({});
+    ASSERT_TRUE(waitUntil([&library] { return library.generation() == 2 && !library.isLoading(); }));
+}
+
+TEST_F(LibraryLoadTest, ARequestForNothingReadsNothing)
+{
+    addChromium();
+    Library library(home.platform());
+    loadNow(library);
+    const Library::Snapshot before = library.snapshot();
+    recordReads();
+    home.clock.advance(60s);
+    library.load(QSet<QString>());
+    EXPECT_FALSE(library.isLoading());
+    EXPECT_EQ(library.generation(), 1);
+    EXPECT_EQ(library.lastLoaded(), pointInTime(newest + 60)) << "the loop ran, if without a pass";
+    EXPECT_EQ(library.menuUpdated(), library.lastLoaded());
+    EXPECT_EQ(takeReads(), QStringList());
 }
 
 TEST_F(LibraryLoadTest, APartialLoadReadsOnlyWhatWasAskedForAndWhatIsNew)
 {
     addChromium();
+    addSafari();
     Library library(home.platform());
     loadNow(library);
     setChromeHistory(u"Default"_s, {u"changed"_s});
     setChromeHistory(u"Profile 1"_s, {u"changed too"_s});
-    sample::writeLocalState(edgeFile(u"Local State"_s),
-                            {{u"Default"_s, QJsonObject{{u"name"_s, u"Office"_s}}},
-                             {u"Profile 1"_s, QJsonObject{{u"name"_s, u"New"_s}}}});
-    sample::writeHistory(edgeFile(u"Profile 1/History"_s),
-                         {sample::HistoryRow{.url = u"https://n.example/"_s,
-                                             .title = u"new"_s,
-                                             .lastVisitTime = sample::chromiumTime(newest)}});
+    addEdgeProfile();
+    recordReads();
     loadNow(library, QSet<QString>{u"chrome/Default"_s});
-    EXPECT_EQ(titles(library.snapshot().history), (QStringList{u"changed"_s, u"b1"_s, u"e1"_s, u"new"_s}));
+    EXPECT_EQ(takeReads(), (QStringList{u"chrome/Default"_s, u"edge/Profile 1"_s}));
+    EXPECT_EQ(titles(library.snapshot().history),
+              (QStringList{u"s1"_s, u"changed"_s, u"b1"_s, u"e1"_s, u"new"_s}));
+    EXPECT_EQ(library.snapshot().bookmarks.size(), 2);
+    EXPECT_EQ(library.snapshot().favicons.size(), 1);
+}
+
+TEST_F(LibraryLoadTest, APartialLoadOfAnUnknownSourceTakesOverEverything)
+{
+    addChromium();
+    addSafari();
+    Library library(home.platform());
+    loadNow(library);
+    const Library::Snapshot before = library.snapshot();
+    recordReads();
+    loadNow(library, QSet<QString>{u"chrome/Profile 9"_s});
+    EXPECT_EQ(library.snapshot(), before);
+    EXPECT_EQ(library.generation(), 2);
+    EXPECT_EQ(takeReads(), QStringList());
+}
+
+TEST_F(LibraryLoadTest, APartialLoadDropsWhatIsGone)
+{
+    addChromium();
+    Library library(home.platform());
+    loadNow(library);
+    change([this] { QDir(edgeFile(u"Default"_s)).removeRecursively(); });
+    loadNow(library, QSet<QString>{u"chrome/Default"_s});
+    EXPECT_EQ(ids(library.snapshot().browserProfiles),
+              (QStringList{u"chrome/Default"_s, u"chrome/Profile 1"_s}));
+    EXPECT_EQ(titles(library.snapshot().history), (QStringList{u"a1"_s, u"a2"_s, u"b1"_s}));
+    EXPECT_FALSE(library.snapshot().bookmarkTrees.contains(u"edge/Default"_s));
+}
+
+TEST_F(LibraryLoadTest, AProfileThatWasSwitchedOffBeforeIsNewToAPartialPass)
+{
+    addChromium();
+    const ReadContext context = Library::readContext(home.platform());
+    const QSet<QString> edge{u"edge/Default"_s};
+    const Library::Snapshot without =
+        Library::readAll({.disabled = edge, .only = {}, .previous = {}}, context, home.clock);
+    ASSERT_EQ(titles(without.history), (QStringList{u"a1"_s, u"a2"_s, u"b1"_s}));
+    recordReads();
+    const Library::Snapshot with =
+        Library::readAll({.disabled = {}, .only = QSet<QString>{u"chrome/Default"_s}, .previous = without},
+                         context, home.clock);
+    EXPECT_EQ(takeReads(), (QStringList{u"chrome/Default"_s, u"edge/Default"_s}));
+    EXPECT_EQ(titles(with.history), (QStringList{u"a1"_s, u"a2"_s, u"b1"_s, u"e1"_s}));
 }
 
 TEST_F(LibraryLoadTest, SafariProfilesAreLookedForOnlyWhenAPartialLoadNeedsThem)
 {
     addChromium();
     addSafari();
+    addSafariProfile();
+    home.defaults.setStringList(u"disabledProfiles"_s, {u"safari/T"_s});
     std::atomic<int> looks = 0;
     home.files.failure = [&looks](const QString &path) {
         looks += path.endsWith(u"/SafariTabs.db"_s) ? 1 : 0;
@@ -152,164 +293,40 @@ TEST_F(LibraryLoadTest, SafariProfilesAreLookedForOnlyWhenAPartialLoadNeedsThem)
     loadNow(library);
     EXPECT_EQ(looks, 1);
     loadNow(library, QSet<QString>{u"chrome/Default"_s});
+    loadNow(library, QSet<QString>{u"chrome/unknown"_s});
     loadNow(library, QSet<QString>{u"safari"_s, u"chrome/Default"_s});
-    EXPECT_EQ(looks, 1) << "the known one serves";
-    loadNow(library, QSet<QString>{u"safari/unknown"_s});
+    loadNow(library, QSet<QString>{u"safari/T"_s});
+    EXPECT_EQ(looks, 1) << "the known ones serve, also the ones that are switched off";
+    EXPECT_EQ(ids(library.snapshot().browserProfiles).first(2), (QStringList{u"safari"_s, u"safari/T"_s}));
+    loadNow(library, QSet<QString>{u"safari"_s, u"safari/unknown"_s});
     EXPECT_EQ(looks, 2);
     loadNow(library);
     EXPECT_EQ(looks, 3);
 }
 
-TEST_F(LibraryLoadTest, WhatCannotBeReadIsTriedOnceMoreAfterASecondAndKeepsWhatWasKnown)
+TEST_F(LibraryLoadTest, TheFirstLoadLooksForSafariEvenWhenItIsAPartialOne)
 {
-    addChromium();
+    addSafari();
+    addSafariProfile();
     Library library(home.platform());
-    loadNow(library);
-    const QString history = chromeFile(u"Default/History"_s);
-    std::atomic<int> attempts = 0;
-    home.files.failure = [&](const QString &path) {
-        if (path != history)
-            return std::error_code{};
-        ++attempts;
-        return std::make_error_code(std::errc::io_error);
-    };
-    loadNow(library);
-    EXPECT_EQ(attempts, 2);
-    EXPECT_EQ(home.clock.sleeps(), std::vector<Clock::Duration>{1000ms});
-    EXPECT_EQ(library.snapshot().problems.value(u"chrome/Default"_s),
-              QString(u"Couldn't read " % history % u": Input/output error"));
-    EXPECT_EQ(titles(library.snapshot().history), (QStringList{u"a1"_s, u"a2"_s, u"b1"_s, u"e1"_s}));
-    EXPECT_EQ(library.snapshot().problems.size(), 1);
-
-    home.files.failure = {};
     loadNow(library, QSet<QString>{u"chrome/Default"_s});
-    EXPECT_TRUE(library.snapshot().problems.isEmpty());
+    EXPECT_EQ(ids(library.snapshot().sources), (QStringList{u"safari"_s, u"safari/T"_s}));
+    EXPECT_EQ(titles(library.snapshot().history), (QStringList{u"s1"_s, u"t1"_s}));
 }
 
-TEST_F(LibraryLoadTest, ARetryThatSucceedsLeavesNoProblem)
+TEST_F(LibraryLoadTest, ASafariThatAppearsIsFoundByTheNextLoadOfAnything)
 {
     addChromium();
-    std::atomic<int> attempts = 0;
-    home.files.failure = [&](const QString &path) {
-        const bool fails = path == chromeFile(u"Default/History"_s) && attempts.fetch_add(1) == 0;
-        return fails ? std::make_error_code(std::errc::io_error) : std::error_code{};
-    };
     Library library(home.platform());
     loadNow(library);
-    EXPECT_TRUE(library.snapshot().problems.isEmpty());
-    EXPECT_EQ(titles(library.snapshot().history), (QStringList{u"a1"_s, u"a2"_s, u"b1"_s, u"e1"_s}));
-}
-
-TEST_F(LibraryLoadTest, SeveralProblemsOfASourceAreOneLineEach)
-{
-    addChromium();
-    QFile::remove(chromeFile(u"Default/History"_s));
-    QFile history(chromeFile(u"Default/History"_s));
-    ASSERT_TRUE(history.open(QIODevice::WriteOnly));
-    history.write("not a database, by no means, none at all");
-    history.close();
-    QFile bookmarks(chromeFile(u"Default/Bookmarks"_s));
-    ASSERT_TRUE(bookmarks.open(QIODevice::WriteOnly));
-    bookmarks.write("{");
-    bookmarks.close();
-    Library library(home.platform());
-    loadNow(library);
-    const QStringList lines = library.snapshot().problems.value(u"chrome/Default"_s).split(u'\n');
-    ASSERT_EQ(lines.size(), 2);
-    EXPECT_TRUE(lines[0].startsWith(u"Couldn't read " % bookmarks.fileName() % u": not valid JSON"_s));
-    EXPECT_EQ(lines[1], u"Couldn't read query: file is not a database"_s);
-}
-
-TEST_F(LibraryLoadTest, ARefusalEmptiesThePartAndIsNotTriedAgain)
-{
     addSafari();
-    Library library(home.platform());
-    loadNow(library);
-    ASSERT_EQ(titles(library.snapshot().history), QStringList{u"s1"_s});
-    refuse(safariFile(u"History.db"_s));
-    loadNow(library);
-    EXPECT_TRUE(library.snapshot().history.isEmpty());
-    EXPECT_EQ(library.snapshot().bookmarks.size(), 1) << "the other parts are read";
-    EXPECT_TRUE(library.snapshot().safariBlocked);
-    EXPECT_EQ(library.snapshot().problems.value(u"safari"_s),
-              QString(u"macOS blocked access to " % safariFile(u"History.db"_s) % u"."));
-    EXPECT_TRUE(home.clock.sleeps().empty());
-
-    home.files.failure = {};
-    loadNow(library);
-    EXPECT_FALSE(library.snapshot().safariBlocked);
-    EXPECT_EQ(titles(library.snapshot().history), QStringList{u"s1"_s});
-}
-
-TEST_F(LibraryLoadTest, ARefusalByAnotherBrowserDoesNotBlockSafari)
-{
-    addChromium();
-    refuse(chromeFile(u"Default/History"_s));
-    Library library(home.platform());
-    loadNow(library);
-    EXPECT_FALSE(library.snapshot().safariBlocked);
-    EXPECT_TRUE(library.snapshot().problems.contains(u"chrome/Default"_s));
-    EXPECT_EQ(titles(library.snapshot().history), (QStringList{u"b1"_s, u"e1"_s}));
-}
-
-TEST_F(LibraryLoadTest, IconsThatCannotBeReadAreKeptWithoutAWord)
-{
-    addChromium();
-    setChromeIcon(u"Default"_s, u"https://icon.example/"_s, png(16, Qt::red));
-    Library library(home.platform());
-    loadNow(library);
-    ASSERT_TRUE(library.snapshot().favicons.contains(u"icon.example"_s));
-    home.files.failure = [this](const QString &path) {
-        return path == chromeFile(u"Default/Favicons"_s) ? std::make_error_code(std::errc::io_error)
-                                                         : std::error_code{};
-    };
-    loadNow(library);
-    EXPECT_TRUE(library.snapshot().favicons.contains(u"icon.example"_s));
-    EXPECT_TRUE(library.snapshot().problems.isEmpty());
-    EXPECT_TRUE(home.clock.sleeps().empty());
-}
-
-TEST_F(LibraryLoadTest, TheFirstSourcesIconOfASiteWins)
-{
-    addChromium();
-    addSafari();
-    setChromeIcon(u"Default"_s, u"https://shared.example/"_s, png(16, Qt::red));
-    setChromeIcon(u"Profile 1"_s, u"https://shared.example/"_s, png(16, Qt::blue));
-    Library library(home.platform());
-    loadNow(library);
-    EXPECT_TRUE(std::holds_alternative<FaviconFile>(library.snapshot().favicons.value(u"shared.example"_s)));
-    EXPECT_EQ(library.snapshot().sourceFavicons.value(u"chrome/Profile 1"_s).value(u"shared.example"_s),
-              Favicon(FaviconData{png(16, Qt::blue)}));
-}
-
-TEST_F(LibraryLoadTest, AnIconIsDecodedOnceForEachGenerationAlsoWhenItIsBroken)
-{
-    addChromium();
-    setChromeIcon(u"Default"_s, u"https://icon.example/"_s, png(16, Qt::red));
-    setChromeIcon(u"Profile 1"_s, u"https://broken.example/"_s, "no image at all");
-    Library library(home.platform());
-    loadNow(library);
-    const std::optional<QImage> image = library.favicon(u"icon.example"_s);
-    ASSERT_TRUE(image);
-    EXPECT_EQ(image->pixelColor(3, 3), QColor(Qt::red));
-    EXPECT_EQ(library.favicon(u"icon.example"_s)->cacheKey(), image->cacheKey());
-    EXPECT_EQ(library.favicon(u"broken.example"_s), std::nullopt);
-    EXPECT_EQ(library.favicon(u"broken.example"_s), std::nullopt);
-    EXPECT_EQ(library.favicon(u"unknown.example"_s), std::nullopt);
-
-    loadNow(library);
-    EXPECT_NE(library.favicon(u"icon.example"_s)->cacheKey(), image->cacheKey());
-}
-
-TEST_F(LibraryLoadTest, AnIconFileIsReadWhenItIsAskedForAndAMissingOneIsNothing)
-{
-    addSafari();
-    Library library(home.platform());
-    loadNow(library);
-    ASSERT_TRUE(library.favicon(u"shared.example"_s));
-    loadNow(library);
-    QFile::remove(std::get<FaviconFile>(library.snapshot().favicons.value(u"shared.example"_s)).path);
-    EXPECT_EQ(library.favicon(u"shared.example"_s), std::nullopt);
+    loadNow(library, QSet<QString>{u"chrome/Default"_s});
+    EXPECT_EQ(ids(library.snapshot().sources).first(), u"safari"_s);
+    addSafariProfile();
+    loadNow(library, QSet<QString>{u"chrome/Default"_s});
+    EXPECT_EQ(library.snapshot().sources.size(), 4) << "Safari is known by now";
+    loadNow(library, QSet<QString>{u"safari/T"_s});
+    EXPECT_EQ(ids(library.snapshot().sources).first(2), (QStringList{u"safari"_s, u"safari/T"_s}));
 }
 
 TEST_F(LibraryLoadTest, StartingSweepsLoadsAndWatches)
@@ -319,8 +336,10 @@ TEST_F(LibraryLoadTest, StartingSweepsLoadsAndWatches)
     ASSERT_TRUE(QDir().mkpath(leftover));
     Library library(home.platform());
     library.start();
+    EXPECT_TRUE(library.isLoading());
     ASSERT_TRUE(waitUntil([&] { return !library.isLoading() && !QDir(leftover).exists(); }));
     EXPECT_EQ(library.generation(), 1);
+    EXPECT_EQ(library.snapshot().sources.size(), 3);
     EXPECT_TRUE(home.fileEvents.watchedFolders.contains(chromeFile(u""_s).chopped(1)));
 }
 
@@ -332,7 +351,7 @@ TEST_F(LibraryLoadTest, ALibraryThatGoesWhileItLoadsLeavesNothing)
     home.files.afterCopy = [&copies](const QString &) { copies.release(); };
     {
         Library library(home.platform());
-        library.load({});
+        library.start();
         copies.acquire();
     }
     EXPECT_TRUE(home.leftovers().isEmpty());

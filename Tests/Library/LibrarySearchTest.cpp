@@ -19,21 +19,47 @@ using namespace Qt::StringLiterals;
 class LibrarySearchTest : public LibraryHome
 {
 protected:
-    HistoryResults search(const QString &text, const std::optional<QString> &site = {}) const
+    HistoryResults search(const QString &text, const std::optional<QString> &site = {})
     {
-        const ReadContext context = Library::readContext(const_cast<TestHome &>(home).platform());
+        const ReadContext context = Library::readContext(home.platform());
         return Library::history(HistoryQuery::matching(text, site, HistoryQuery::Order::Latest),
                                 Library::allProfiles({}, context), context);
     }
 
+    /// What the Library answers about the source, or about all of them.
+    static HistoryResults ask(Library &library, const std::optional<QString> &id,
+                              const HistoryQuery &query = HistoryQuery::recent())
+    {
+        QObject context;
+        std::optional<HistoryResults> results;
+        library.queryHistory(query, id, &context, [&results](const HistoryResults &delivered) {
+            EXPECT_FALSE(results) << "once";
+            results = delivered;
+        });
+        EXPECT_FALSE(results) << "never before the call has returned";
+        EXPECT_TRUE(waitUntil([&results] { return results.has_value(); }));
+        return results.value_or(HistoryResults());
+    }
+
+    static QStringList sortedTitles(const HistoryResults &results)
+    {
+        QStringList result = titles(results.items);
+        result.sort();
+        return result;
+    }
+
+    /// So many pages of a Chrome profile, the newest one first: `url` and a number, all with the same title.
     void setRows(const QString &profile, qsizetype count, const QString &url)
     {
-        sample::writeHistory(chromeFile(profile % u"/History"),
-                             sample::Rows<sample::HistoryRow>::generated(count, [url](qsizetype i) {
-                                 return sample::HistoryRow{.url = url % QString::number(i),
-                                                           .title = u"word"_s,
-                                                           .lastVisitTime = sample::chromiumTime(newest - i)};
-                             }));
+        change([&] {
+            sample::writeHistory(chromeFile(profile % u"/History"),
+                                 sample::Rows<sample::HistoryRow>::generated(count, [url](qsizetype i) {
+                                     return sample::HistoryRow{.url = url % QString::number(i),
+                                                               .title = u"word"_s,
+                                                               .lastVisitTime =
+                                                                   sample::chromiumTime(newest - i)};
+                                 }));
+        });
     }
 };
 
@@ -84,13 +110,17 @@ TEST_F(LibrarySearchTest, ThePlainListingIsNeverCapped)
 TEST_F(LibrarySearchTest, ASiteIsComparedExactlyAfterTheCap)
 {
     addChromium();
-    sample::writeHistory(
-        chromeFile(u"Default/History"_s), sample::Rows<sample::HistoryRow>::generated(1000, [](qsizetype i) {
-            const QString url = i < 10 ? u"https://www.site.example/%1"_s.arg(i)
-                                       : u"https://other.example/?u=https://site.example/%1"_s.arg(i);
-            return sample::HistoryRow{
-                .url = url, .title = u"t"_s, .lastVisitTime = sample::chromiumTime(newest - i)};
-        }));
+    change([this] {
+        sample::writeHistory(chromeFile(u"Default/History"_s),
+                             sample::Rows<sample::HistoryRow>::generated(1000, [](qsizetype i) {
+                                 const QString url =
+                                     i < 10 ? u"https://www.site.example/%1"_s.arg(i)
+                                            : u"https://other.example/?u=https://site.example/%1"_s.arg(i);
+                                 return sample::HistoryRow{.url = url,
+                                                           .title = u"t"_s,
+                                                           .lastVisitTime = sample::chromiumTime(newest - i)};
+                             }));
+    });
     const HistoryResults results = search({}, u"site.example"_s);
     EXPECT_EQ(results.items.size(), 10);
     EXPECT_TRUE(results.isCapped);
@@ -112,25 +142,88 @@ TEST_F(LibrarySearchTest, AWordThatIsTooLongForTheDatabaseFindsNothing)
     EXPECT_EQ(search(QString(60'000, u'x')), HistoryResults());
 }
 
+TEST_F(LibrarySearchTest, ASiteOfWhichThereAreFewerRowsIsNotCapped)
+{
+    addChromium();
+    setRows(u"Default"_s, 999, u"https://site.example/"_s);
+    const HistoryResults results = search({}, u"site.example"_s);
+    EXPECT_EQ(results.items.size(), 999);
+    EXPECT_FALSE(results.isCapped);
+    EXPECT_EQ(search({}, u"ite.example"_s), HistoryResults()) << "the end of a site is another site";
+    setRows(u"Default"_s, 1000, u"https://site.example/"_s);
+    EXPECT_TRUE(search({}, u"site.example"_s).isCapped);
+}
+
+TEST_F(LibrarySearchTest, RowsComeSourceBySourceInTheOrderOfTheirQuery)
+{
+    addChromium();
+    setRows(u"Default"_s, 50, u"https://d.example/"_s);
+    setRows(u"Profile 1"_s, 50, u"https://p.example/"_s);
+    const HistoryResults results = search(u"word"_s);
+    ASSERT_EQ(results.items.size(), 100);
+    for (qsizetype i = 1; i < 100; ++i) {
+        if (i == 50)
+            EXPECT_NE(results.items[i].source.id(), results.items[i - 1].source.id());
+        else
+            EXPECT_GT(results.items[i - 1].lastVisit, results.items[i].lastVisit) << i;
+    }
+}
+
+TEST_F(LibrarySearchTest, RowsOfSeveralSourcesAreNotMadeOne)
+{
+    addChromium();
+    setChromeHistory(u"Default"_s, {u"same"_s});
+    setChromeHistory(u"Profile 1"_s, {u"same"_s});
+    EXPECT_EQ(titles(search(u"same"_s).items), (QStringList{u"same"_s, u"same"_s}));
+}
+
 TEST_F(LibrarySearchTest, TheLibrarySearchesOneSourceOrAllOfTheSnapshot)
 {
     addChromium();
     Library library(home.platform());
+    EXPECT_EQ(ask(library, {}), HistoryResults()) << "no snapshot, no sources";
     loadNow(library);
-    QObject context;
-    const auto found = [&](const std::optional<QString> &id) {
-        std::optional<HistoryResults> results;
-        library.queryHistory(HistoryQuery::recent(), id, &context,
-                             [&results](const HistoryResults &r) { results = r; });
-        EXPECT_FALSE(results) << "never before the call has returned";
-        EXPECT_TRUE(waitUntil([&results] { return results.has_value(); }));
-        QStringList result = titles(results->items);
-        result.sort();
-        return result;
-    };
-    EXPECT_EQ(found(u"chrome/Default"_s), (QStringList{u"a1"_s, u"a2"_s}));
-    EXPECT_EQ(found({}), (QStringList{u"a1"_s, u"a2"_s, u"b1"_s, u"e1"_s}));
-    EXPECT_EQ(found(u"unknown"_s), QStringList());
+    EXPECT_EQ(sortedTitles(ask(library, u"chrome/Default"_s)), (QStringList{u"a1"_s, u"a2"_s}));
+    EXPECT_EQ(sortedTitles(ask(library, {})), (QStringList{u"a1"_s, u"a2"_s, u"b1"_s, u"e1"_s}));
+    EXPECT_EQ(ask(library, u"unknown"_s), HistoryResults());
+    EXPECT_EQ(ask(library, u""_s), HistoryResults());
+    EXPECT_EQ(
+        ask(library, {}, HistoryQuery::matching(u"edge"_s, {}, HistoryQuery::Order::Latest)).items.size(), 1);
+}
+
+TEST_F(LibrarySearchTest, TheLibraryAsksTheDatabasesAndNotTheSnapshot)
+{
+    addChromium();
+    Library library(home.platform());
+    loadNow(library);
+    setChromeHistory(u"Default"_s, {u"since then"_s});
+    EXPECT_EQ(sortedTitles(ask(library, u"chrome/Default"_s)), QStringList{u"since then"_s});
+    EXPECT_EQ(library.generation(), 1);
+}
+
+TEST_F(LibrarySearchTest, ProfilesThatAreSwitchedOffAreNotSearched)
+{
+    addChromium();
+    home.defaults.setStringList(u"disabledProfiles"_s, {u"chrome/Default"_s});
+    Library library(home.platform());
+    loadNow(library);
+    EXPECT_EQ(sortedTitles(ask(library, {})), (QStringList{u"b1"_s, u"e1"_s}));
+    EXPECT_EQ(ask(library, u"chrome/Default"_s), HistoryResults());
+}
+
+TEST_F(LibrarySearchTest, ASearchDoesNotWaitForALoad)
+{
+    addChromium();
+    Library library(home.platform());
+    loadNow(library);
+    Gate gate;
+    recordReads(&gate);
+    library.load(QSet<QString>{u"chrome/Default"_s});
+    gate.awaitReader();
+    EXPECT_EQ(sortedTitles(ask(library, u"edge/Default"_s)), QStringList{u"e1"_s});
+    EXPECT_TRUE(library.isLoading());
+    gate.open();
+    ASSERT_TRUE(waitUntil([&library] { return !library.isLoading(); }));
 }
 
 TEST_F(LibrarySearchTest, ASearchThatIsDroppedDeliversNothing)
@@ -141,15 +234,16 @@ TEST_F(LibrarySearchTest, ASearchThatIsDroppedDeliversNothing)
     QObject context;
     int deliveries = 0;
     const auto count = [&deliveries](const HistoryResults &) { ++deliveries; };
+    Gate gate;
+    recordReads(&gate);
     std::stop_source dropped = library.queryHistory(HistoryQuery::recent(), {}, &context, count);
+    gate.awaitReader();
     dropped.request_stop();
     auto shortLived = std::make_unique<QObject>();
     library.queryHistory(HistoryQuery::recent(), {}, shortLived.get(), count);
     shortLived.reset();
-    bool isLast = false;
-    library.queryHistory(HistoryQuery::recent(), {}, &context,
-                         [&isLast](const HistoryResults &) { isLast = true; });
-    ASSERT_TRUE(waitUntil([&isLast] { return isLast; }));
+    gate.open();
+    EXPECT_EQ(ask(library, {}).items.size(), 4);
     ASSERT_TRUE(waitUntil([this] { return home.leftovers().isEmpty(); }));
     QCoreApplication::processEvents();
     EXPECT_EQ(deliveries, 0);

@@ -3,6 +3,7 @@
 
 #include "Library/LibraryHome.h"
 #include "Platform/Linux/SettingsUserDefaults.h"
+#include "SampleHome/PlainFiles.h"
 #include "Support/Waiting.h"
 
 #include <QSignalSpy>
@@ -70,7 +71,7 @@ TEST_F(LibrarySettingsTest, TheOlderListOfChromeProfilesCountsUntilTheNextChange
 TEST_F(LibrarySettingsTest, ChoicesSurviveInARealFile)
 {
     addChromium();
-    const QString file = home.path(u"Roamlet.conf"_s);
+    const QString file = home.temporary() % u"/settings/Roamlet.conf";
     {
         SettingsUserDefaults defaults(file);
         Library library({home.folders, home.files, defaults, home.fileEvents, home.clock});
@@ -84,6 +85,99 @@ TEST_F(LibrarySettingsTest, ChoicesSurviveInARealFile)
     EXPECT_EQ(library.disabledProfiles(), QSet<QString>{u"chrome/Profile 1"_s});
     loadNow(library);
     EXPECT_EQ(order(library), (QStringList{u"edge/Default"_s, u"chrome/Default"_s, u"chrome/Profile 1"_s}));
+}
+
+TEST_F(LibrarySettingsTest, TheLastProfileThatIsSwitchedOnAgainIsOnInARealFileToo)
+{
+    addChromium();
+    const QString file = home.temporary() % u"/settings/Roamlet.conf";
+    {
+        SettingsUserDefaults defaults(file);
+        Library library({home.folders, home.files, defaults, home.fileEvents, home.clock});
+        loadNow(library);
+        library.setEnabled(false, library.snapshot().browserProfiles[1]);
+        library.setEnabled(true, library.snapshot().browserProfiles[1]);
+    }
+    SettingsUserDefaults defaults(file);
+    Library library({home.folders, home.files, defaults, home.fileEvents, home.clock});
+    EXPECT_TRUE(library.disabledProfiles().isEmpty());
+}
+
+TEST_F(LibrarySettingsTest, AFileWrittenByHandCounts)
+{
+    addChromium();
+    const QString file = home.temporary() % u"/settings/Roamlet.conf";
+    sample::writeFile(file, "[General]\n"
+                            "disabledProfiles=chrome/Profile 1, edge/Default\n"
+                            "disabledChromeProfiles=Default\n"
+                            "sourceOrder=edge/Default, chrome/Profile 1, edge/Default\n");
+    SettingsUserDefaults defaults(file);
+    Library library({home.folders, home.files, defaults, home.fileEvents, home.clock});
+    EXPECT_EQ(library.disabledProfiles(),
+              (QSet<QString>{u"chrome/Profile 1"_s, u"edge/Default"_s, u"chrome/Default"_s}));
+    loadNow(library);
+    EXPECT_TRUE(library.snapshot().sources.isEmpty());
+    EXPECT_EQ(order(library), (QStringList{u"edge/Default"_s, u"chrome/Profile 1"_s, u"chrome/Default"_s}));
+}
+
+TEST_F(LibrarySettingsTest, SwitchingOnAProfileOfTheOlderListEndsThatList)
+{
+    addChromium();
+    home.defaults.setStringList(u"disabledChromeProfiles"_s, {u"Profile 1"_s});
+    home.defaults.setStringList(u"disabledProfiles"_s, {u"gone"_s});
+    Library library(home.platform());
+    loadNow(library);
+    ASSERT_EQ(library.snapshot().sources.size(), 2);
+    library.setEnabled(true, library.snapshot().browserProfiles[1]);
+    EXPECT_FALSE(home.defaults.contains(u"disabledChromeProfiles"_s));
+    EXPECT_EQ(home.defaults.stringList(u"disabledProfiles"_s), QStringList{u"gone"_s})
+        << "a profile that is not there now may come back";
+    ASSERT_TRUE(waitUntil([&library] { return !library.isLoading(); }));
+    EXPECT_EQ(library.snapshot().sources.size(), 3);
+}
+
+TEST_F(LibrarySettingsTest, SwitchingDuringALoadIsSeenByItsNextPass)
+{
+    addChromium();
+    Library library(home.platform());
+    loadNow(library);
+    const Source source = *library.source(u"chrome/Default"_s);
+    Gate gate;
+    recordReads(&gate);
+    library.load({});
+    gate.awaitReader();
+    library.setEnabled(false, source);
+    gate.open();
+    ASSERT_TRUE(waitUntil([&library] { return !library.isLoading(); }));
+    EXPECT_EQ(library.generation(), 3);
+    EXPECT_EQ(ids(library.snapshot().sources), (QStringList{u"chrome/Profile 1"_s, u"edge/Default"_s}));
+}
+
+TEST_F(LibrarySettingsTest, SettingsAreReadWhenTheLibraryIsMade)
+{
+    addChromium();
+    Library library(home.platform());
+    home.defaults.setStringList(u"disabledProfiles"_s, {u"chrome/Profile 1"_s});
+    home.defaults.setStringList(u"sourceOrder"_s, {u"edge/Default"_s});
+    loadNow(library);
+    EXPECT_EQ(library.snapshot().sources.size(), 3);
+    EXPECT_EQ(order(library).first(), u"chrome/Default"_s);
+}
+
+TEST_F(LibrarySettingsTest, AMoveForgetsProfilesThatAreGoneAndKeepsTheOnesThatAreOff)
+{
+    addChromium();
+    home.defaults.setStringList(u"sourceOrder"_s, {u"gone"_s, u"edge/Default"_s});
+    home.defaults.setStringList(u"disabledProfiles"_s, {u"chrome/Default"_s});
+    Library library(home.platform());
+    loadNow(library);
+    library.moveProfiles({0}, 2);
+    EXPECT_EQ(home.defaults.stringList(u"sourceOrder"_s),
+              (QStringList{u"chrome/Default"_s, u"edge/Default"_s, u"chrome/Profile 1"_s}));
+    library.moveProfiles({0}, 3);
+    EXPECT_EQ(order(library), (QStringList{u"edge/Default"_s, u"chrome/Profile 1"_s, u"chrome/Default"_s}))
+        << "a second move starts from the first one's result";
+    EXPECT_EQ(library.source(u"chrome/Default"_s), std::nullopt) << "it is off";
 }
 
 TEST_F(LibrarySettingsTest, ProfilesMoveAsRowsOfAListDo)
@@ -148,6 +242,20 @@ TEST_F(LibrarySettingsTest, AllBookmarksAreOneFolderForEachSourceInTheUsersOrder
     EXPECT_TRUE(all[3].isFolder());
     EXPECT_EQ(library.bookmarkTree(u"safari"_s), library.snapshot().bookmarkTrees.value(u"safari"_s));
     EXPECT_TRUE(library.bookmarkTree(u"gone"_s).isEmpty());
+    EXPECT_EQ(ids(library.snapshot().sources).first(), u"safari"_s) << "the snapshot has its own order";
+}
+
+TEST_F(LibrarySettingsTest, AllBookmarksLeaveOutProfilesThatAreOff)
+{
+    addChromium();
+    home.defaults.setStringList(u"disabledProfiles"_s, {u"chrome/Default"_s});
+    Library library(home.platform());
+    EXPECT_TRUE(library.bookmarkTree({}).isEmpty()) << "before anything was read";
+    loadNow(library);
+    const QList<BookmarkNode> all = library.bookmarkTree({});
+    ASSERT_EQ(all.size(), 2);
+    EXPECT_EQ(all[0].id, u"source/chrome/Profile 1"_s);
+    EXPECT_TRUE(library.bookmarkTree(u"chrome/Default"_s).isEmpty());
 }
 
 TEST_F(LibrarySettingsTest, TheMenuShowsTheTenPagesVisitedLast)
@@ -193,6 +301,36 @@ TEST_F(LibrarySettingsTest, AnOpenMenuDoesNotChangeUntilItIsClosed)
     EXPECT_EQ(library.menuRecent().first().title, u"newest"_s);
     EXPECT_EQ(library.menuUpdated(), library.lastLoaded());
     EXPECT_NE(library.menuUpdated(), updated);
+}
+
+TEST_F(LibrarySettingsTest, AMenuThatClosesBeforeTheFirstLoadIsEmpty)
+{
+    addChromium();
+    Library library(home.platform());
+    const QSignalSpy changes(&library, &Library::menuRecentChanged);
+    library.setMenuOpen(true);
+    EXPECT_EQ(changes.count(), 0);
+    library.setMenuOpen(false);
+    EXPECT_TRUE(library.menuRecent().isEmpty());
+    EXPECT_EQ(library.menuUpdated(), std::nullopt);
+}
+
+TEST_F(LibrarySettingsTest, AMenuThatClosesDuringALoadShowsTheLastSnapshot)
+{
+    addChromium();
+    Library library(home.platform());
+    loadNow(library);
+    library.setMenuOpen(true);
+    setChromeHistory(u"Default"_s, {u"newest"_s}, newest + 1000);
+    Gate gate;
+    recordReads(&gate);
+    library.load({});
+    gate.awaitReader();
+    library.setMenuOpen(false);
+    EXPECT_EQ(library.menuRecent().first().title, u"b1"_s);
+    gate.open();
+    ASSERT_TRUE(waitUntil([&library] { return !library.isLoading(); }));
+    EXPECT_EQ(library.menuRecent().first().title, u"newest"_s);
 }
 
 } // namespace

@@ -5,8 +5,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <atomic>
 #include <latch>
+#include <thread>
+#include <vector>
 
 namespace roamlet::testing
 {
@@ -26,21 +29,24 @@ TEST(ParallelTest, EveryIndexIsWorkedOnOnce)
     }
 }
 
-TEST(ParallelTest, NoMoreHaveATurnThanThereAreCores)
+TEST(ParallelTest, AsManyHaveATurnAsThereAreCoresAndNoMore)
 {
     const int cores = static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
+    std::latch firstOnes(cores);
+    std::atomic<int> arrivals = 0;
     std::atomic<int> busy = 0;
     std::atomic<int> most = 0;
-    forEachInParallel(20, [&](size_t, CoreTurns &turns) {
+    forEachInParallel(static_cast<size_t>(cores) * 5, [&](size_t, CoreTurns &turns) {
         const CoreTurns::Turn turn(turns);
         const int now = ++busy;
         for (int seen = most; now > seen && !most.compare_exchange_weak(seen, now);) {
         }
-        std::this_thread::yield();
+        // Ends only when all of the first ones have their turn at the same time.
+        if (arrivals++ < cores)
+            firstOnes.arrive_and_wait();
         --busy;
     });
-    EXPECT_LE(most, cores);
-    EXPECT_GE(most, 1);
+    EXPECT_EQ(most, cores);
 }
 
 TEST(ParallelTest, WhoOnlyWaitsKeepsNobodyFromWorking)

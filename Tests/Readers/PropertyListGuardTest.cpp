@@ -112,14 +112,57 @@ TEST(PropertyListGuard, noTagCountsThatTheParserDoesNotSee)
 {
     // What looks like closing tags here is none: all of these nest 200,000 deep.
     constexpr int depth = 200'000;
-    for (const char *open : {"<array><!--</array>-->", "<array><!-- > </array> -->", "<array a=\"</array>\">",
-                             "<array a='</array>'>", "<array><?x </array>?>", "<array><?x \"?></array>\"?>",
-                             "<dict><key><![CDATA[</dict>]]></key>", "<dict><key>a<!--</dict>--></key>"}) {
+    for (const char *open :
+         {"<array><!--</array>-->", "<array><!-- > </array> -->", "<array a=\"</array>\">",
+          "<array a='</array>'>", "<array><?x </array>?>", "<array><?x \"?></array>\"?>",
+          "<array><!--></array>-->", "<array><!---></array>-->", "<array><!DOCTYPE \">\" \"</array>\">",
+          "<array><!DOCTYPE a [\"]>\" </array>]>", "<array><!DOCTYPE </array>>",
+          "<dict><key><![CDATA[</dict>]]></key>", "<dict><key>a<!--</dict>--></key>"}) {
         const QByteArray bytes = QByteArray("<plist>") + QByteArray(open).repeated(depth);
         EXPECT_TRUE(isSurvived(bytes)) << open;
         const QByteArray close = QByteArray(open).startsWith("<array") ? "</array>" : "</dict>";
         EXPECT_TRUE(isSurvived(bytes + close.repeated(depth) + "</plist>")) << open;
     }
+}
+
+TEST(PropertyListGuard, aDocumentTypeHidesNoMoreThanItself)
+{
+    constexpr int depth = 200'000;
+    const QByteArray nested = QByteArray("<array>").repeated(depth) + QByteArray("</array>").repeated(depth);
+    for (const char *type :
+         {"<!DOCTYPE \"[\">", "<!DOCTYPE a \"b[c\">", "<!DOCTYPE>", "<!DOCTYPE [<!ELEMENT a>]>"}) {
+        const QByteArray bytes = type + plist(nested) + "<!-- ]> -->";
+        EXPECT_TRUE(refusal(bytes).has_value()) << type;
+        EXPECT_TRUE(isSurvived(bytes)) << type;
+    }
+    EXPECT_EQ(refusal(QByteArray("<!DOCTYPE a [<!ELEMENT dict ANY>]>" + plist("<string/>"))), std::nullopt);
+}
+
+TEST(PropertyListGuard, theTimeGrowsWithTheSize)
+{
+    // Were what follows looked at again and again, this would take minutes.
+    for (const char *piece : {"<!DOCTYPE>", "<!DOCTYPE a>", "<!DOCTYPE [", "<!--", "<!---->", "<?", "<?a?>",
+                              "<\"", "<", "<a \"", "<![CDATA["}) {
+        EXPECT_EQ(refusal(QByteArray(piece).repeated(300'000)), std::nullopt) << piece;
+    }
+}
+
+TEST(PropertyListGuard, aListMayConsistOfReferences)
+{
+    BinaryPropertyList list;
+    const int number = list.integer(1);
+    list.nestedArrays(500, list.array(QList<int>(100'000, number)));
+    EXPECT_EQ(refusal(list.finish()), std::nullopt);
+    EXPECT_TRUE(PropertyList::parse(list.finish()).has_value());
+}
+
+TEST(PropertyListGuard, aWideListFarInsideIsRefused)
+{
+    // The parser compares each value with all that are around it.
+    BinaryPropertyList list;
+    const int number = list.integer(1);
+    list.nestedArrays(deepestNesting - 2, list.array(QList<int>(1'000'000, number)));
+    EXPECT_EQ(refusal(list.finish()), u"it is nested too deeply"_s);
 }
 
 TEST(PropertyListGuard, tagsInTextsDoNotCount)

@@ -18,6 +18,9 @@ namespace
 /// What an icon may claim to be before anything is decoded: the sizes in files lie.
 constexpr int largestHonestSide = 2048;
 constexpr qsizetype largestHonestFile = qsizetype{8} << 20U;
+/// In MiB: what a picture of the largest side takes. The directory of an .ico file may say 16 x 16 and the
+/// picture inside be huge.
+constexpr int mostMemory = 4 * largestHonestSide * largestHonestSide >> 20;
 
 QByteArray encoded(const Favicon &favicon, const Files &files)
 {
@@ -40,12 +43,15 @@ QImage decode(const Favicon &favicon, const Files &files)
     QByteArray bytes = encoded(favicon, files);
     if (bytes.isEmpty() || bytes.size() > largestHonestFile)
         return {};
+    QImageReader::setAllocationLimit(mostMemory);
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::ReadOnly);
     QImageReader reader(&buffer);
     reader.setDecideFormatFromContent(true);
+    // First: once the size was asked for, the reader of .ico files no longer knows its format.
+    const QByteArray format = reader.format();
     const QSize size = reader.size();
-    if (!isPixelFormat(reader.format()) || size.isEmpty() || size.width() > largestHonestSide ||
+    if (!isPixelFormat(format) || size.isEmpty() || size.width() > largestHonestSide ||
         size.height() > largestHonestSide)
         return {};
     const QImage image = reader.read();

@@ -74,11 +74,11 @@ public:
             length = number(position, width);
             position += width;
         }
-        if (length > m_table / m_referenceWidth / 2)
+        // A dictionary has a key for each value.
+        const std::uint64_t perEntry = type == dictionaryType ? 2 : 1;
+        if (length > (m_table - position) / m_referenceWidth / perEntry)
             return false;
-        const std::uint64_t references = type == dictionaryType ? 2 * length : length;
-        if (references * m_referenceWidth > m_table - position)
-            return false;
+        const std::uint64_t references = perEntry * length;
         result.reserve(references);
         for (std::uint64_t i = 0; i < references; ++i) {
             result.push_back(number(position + (i * m_referenceWidth), m_referenceWidth));
@@ -127,6 +127,7 @@ std::optional<QString> binaryRefusal(QByteArrayView bytes)
     std::vector<Visit> open;
     // Lists that overlap in a damaged file would cost far more memory here than the file has bytes.
     std::uint64_t followed = 0;
+    std::uint64_t deepest = 0;
     const auto enter = [&](std::uint64_t object) {
         Visit visit{object, {}};
         if (!objects.references(object, visit.references))
@@ -136,6 +137,7 @@ std::optional<QString> binaryRefusal(QByteArrayView bytes)
             return false;
         states[object] = State::Open;
         open.push_back(std::move(visit));
+        deepest = std::max<std::uint64_t>(deepest, open.size());
         return true;
     };
     if (!enter(objects.root()))
@@ -161,6 +163,10 @@ std::optional<QString> binaryRefusal(QByteArrayView bytes)
         if (!enter(reference))
             return damaged;
     }
+    // The library compares each value with everything around it.
+    constexpr std::uint64_t mostComparisons = 1'000'000'000;
+    if (unfolded[objects.root()] > mostComparisons / deepest)
+        return u"it is nested too deeply"_s;
     return {};
 }
 
@@ -180,12 +186,14 @@ public:
             m_position = start + 1;
             const QByteArrayView rest = m_text.sliced(m_position);
             if (rest.startsWith("!--")) {
+                m_position += 3;
                 skipTo("-->");
             } else if (rest.startsWith("![CDATA[")) {
                 skipTo("]]>");
             } else if (rest.startsWith('?')) {
                 skipQuotedTo("?>");
             } else if (rest.startsWith("!DOCTYPE")) {
+                m_position += 8;
                 skipDocumentType();
             } else {
                 skipQuotedTo(">");
@@ -212,11 +220,20 @@ private:
         m_position = std::min(m_position + end.size(), m_text.size());
     }
 
+    /// Up to its ">", or up to "]>" when there is a "[" before that; neither counts between double quotes.
     void skipDocumentType()
     {
-        const qsizetype end = m_text.indexOf('>', m_position);
-        const qsizetype subset = m_text.indexOf('[', m_position);
-        skipTo(subset >= 0 && subset < end ? "]>" : ">");
+        while (m_position < m_text.size()) {
+            const char character = m_text[m_position++];
+            if (character == '>')
+                return;
+            if (character == '[') {
+                skipQuotedTo("]>");
+                return;
+            }
+            if (character == '"')
+                skipTo("\"");
+        }
     }
 
     QByteArrayView m_text;
