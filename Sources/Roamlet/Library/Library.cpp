@@ -22,8 +22,6 @@ namespace
 {
 
 const QString sourceOrderKey = u"sourceOrder"_s;
-const QString disabledProfilesKey = u"disabledProfiles"_s;
-const QString disabledChromeProfilesKey = u"disabledChromeProfiles"_s;
 
 /// Browsers write in bursts; one reload is enough for each.
 constexpr std::chrono::seconds reloadDelay{5};
@@ -116,8 +114,8 @@ void Library::setEnabled(bool isEnabled, const Source &source)
         m_disabledProfiles.insert(source.id());
     QStringList stored = m_disabledProfiles.values();
     stored.sort();
-    m_platform.defaults.setStringList(disabledProfilesKey, stored);
-    m_platform.defaults.remove(disabledChromeProfilesKey);
+    m_platform.defaults.setStringList(disabledProfilesKey.toString(), stored);
+    m_platform.defaults.remove(disabledChromeProfilesKey.toString());
     Q_EMIT disabledProfilesChanged();
     load({});
 }

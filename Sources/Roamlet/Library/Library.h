@@ -138,6 +138,11 @@ Q_SIGNALS:
     void sourceOrderChanged();
 
 private:
+    /// The ids of the profiles that are switched off,
+    static constexpr QStringView disabledProfilesKey = u"disabledProfiles";
+    /// and the older form, which knew Chrome's profiles only, by folder name.
+    static constexpr QStringView disabledChromeProfilesKey = u"disabledChromeProfiles";
+
     void readNext();
     void publish(Snapshot snapshot);
     void filesChanged(const QSet<QString> &sourceIDs);

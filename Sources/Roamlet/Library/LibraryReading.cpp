@@ -222,10 +222,10 @@ HistoryResults Library::history(const HistoryQuery &query, const QList<Source> &
 
 QSet<QString> Library::storedDisabledProfiles(const UserDefaults &defaults)
 {
-    const QStringList stored = defaults.stringList(u"disabledProfiles"_s).value_or(QStringList());
+    const QStringList stored = defaults.stringList(disabledProfilesKey.toString()).value_or(QStringList());
     QSet<QString> result(stored.cbegin(), stored.cend());
-    // The older form knew Chrome's profiles only, by folder name.
-    for (const QString &profile : defaults.stringList(u"disabledChromeProfiles"_s).value_or(QStringList()))
+    const std::optional<QStringList> ofChrome = defaults.stringList(disabledChromeProfilesKey.toString());
+    for (const QString &profile : ofChrome.value_or(QStringList()))
         result.insert(u"chrome/" % profile);
     return result;
 }

@@ -161,6 +161,7 @@ public:
     {
         constexpr std::int64_t always = 20'000'000;
         constexpr std::int64_t perByte = 20;
+        // Asking for the size takes steps as well.
         m_checksLeft = always / stepsPerCheck;
         m_checksLeft = (always + perByte * size()) / stepsPerCheck * (1 + parameters);
     }

@@ -85,8 +85,8 @@ PropertyListValue find(PropertyListValue root, const QString &id)
 class TreeBuilder
 {
 public:
-    TreeBuilder(const Source &source, const QSet<QString> &excludedIDs)
-        : m_source(source), m_excludedIDs(excludedIDs)
+    TreeBuilder(Source source, QSet<QString> excludedIDs)
+        : m_source(std::move(source)), m_excludedIDs(std::move(excludedIDs))
     {
     }
 
@@ -129,8 +129,8 @@ private:
         return {};
     }
 
-    const Source &m_source;
-    const QSet<QString> &m_excludedIDs;
+    Source m_source;
+    QSet<QString> m_excludedIDs;
 };
 
 /// The one folder that is a named profile's favourites; it plays the part of the bookmarks bar.

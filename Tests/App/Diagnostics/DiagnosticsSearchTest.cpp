@@ -50,11 +50,11 @@ TEST_F(DiagnosticsSearchTest, searchNeedsEveryWordAndSaysHowManyMatched)
     const QStringList lines = linesOf({u"--search"_s, u"Bike"_s, u"example.com"_s});
     ASSERT_EQ(lines.size(), 2) << text(lines);
     EXPECT_THAT(lines[0].toStdString(), HasSubstr("Red Bike page"));
-    EXPECT_THAT(lines[1].toStdString(), MatchesRegex("1 match, complete, in " + seconds + "s"));
+    EXPECT_THAT(lines[1].toStdString(), MatchesRegex("1 match, not capped, in " + seconds + "s"));
     EXPECT_THAT(linesOf({u"--search"_s, u"bike"_s}).last().toStdString(),
-                MatchesRegex("2 matches, complete, in " + seconds + "s"));
+                MatchesRegex("2 matches, not capped, in " + seconds + "s"));
     EXPECT_THAT(linesOf({u"--search"_s, u"nowhere"_s}).last().toStdString(),
-                MatchesRegex("0 matches, complete, in " + seconds + "s"));
+                MatchesRegex("0 matches, not capped, in " + seconds + "s"));
 }
 
 TEST_F(DiagnosticsSearchTest, searchKeepsPagesOfTheSameTimeAsTheirSourceDeliveredThem)
@@ -84,11 +84,11 @@ TEST_F(DiagnosticsSearchTest, searchThatReachedTheLimitIsCalledCapped)
     };
     sample::writeHistory(home.edge(u"Default/History"_s), rows(999));
     EXPECT_THAT(linesOf({u"--search"_s, u"many"_s}).last().toStdString(),
-                StartsWith("999 matches, complete, in "));
+                StartsWith("999 matches, not capped, in "));
     sample::writeHistory(home.edge(u"Default/History"_s), rows(1000));
     EXPECT_THAT(linesOf({u"--search"_s, u"many"_s}).last().toStdString(),
                 StartsWith("1000 matches, capped, in "));
-    EXPECT_THAT(linesOf({u"--search"_s}).last().toStdString(), StartsWith("1005 matches, complete, in "))
+    EXPECT_THAT(linesOf({u"--search"_s}).last().toStdString(), StartsWith("1005 matches, not capped, in "))
         << "a plain listing is never capped";
 }
 

@@ -56,6 +56,13 @@ TEST_F(ProgramJobsTest, anUnknownSwitchIsNamedWithStatus2)
     }
 }
 
+TEST_F(ProgramJobsTest, anUnknownSwitchIsNotObeyedByTheTerminal)
+{
+    const Ended ended = program.run({u"\x1b[31mred"_s});
+    EXPECT_EQ(ended.status, 2);
+    EXPECT_THAT(ended.errors.toStdString(), AllOf(HasSubstr("[31mred"), ::testing::Not(HasSubstr("\x1b"))));
+}
+
 TEST_F(ProgramJobsTest, theSwitchTestedFirstDecides)
 {
     home.addPages();
@@ -115,7 +122,7 @@ TEST_F(ProgramJobsTest, searchListsTheNewestFirstAndCounts)
                                   HasSubstr("  https://example.org:8443/bike")),
                             AllOf(StartsWith("2026-05-08 11:43  Chrome - Work  "),
                                   HasSubstr("  https://bike.example.com/")),
-                            MatchesRegex("2 matches, complete, in " + seconds + "s")));
+                            MatchesRegex("2 matches, not capped, in " + seconds + "s")));
 }
 
 TEST_F(ProgramJobsTest, siteListsOneSite)
@@ -124,7 +131,7 @@ TEST_F(ProgramJobsTest, siteListsOneSite)
     EXPECT_THAT(linesOf({u"--site"_s, u"example.org"_s}),
                 ElementsAre(StartsWith("2026-05-09 11:43  Chrome - Personal  Daily page"),
                             StartsWith("2026-05-09 09:43  Chrome - Personal  Blue Bike page"),
-                            MatchesRegex("2 matches, complete, in " + seconds + "s")));
+                            MatchesRegex("2 matches, not capped, in " + seconds + "s")));
     EXPECT_EQ(linesOf({u"--site"_s}).size(), 7U);
 }
 
@@ -234,7 +241,7 @@ TEST_F(ProgramJobsTest, wordsThatAreNoTextFindNothing)
     home.addPages();
     const Ended ended = program.runInShell(u"\"$0\" --search $'\\xff\\xfe' $'\\xc3'"_s);
     EXPECT_EQ(ended.status, 0);
-    EXPECT_THAT(ended.output.toStdString(), StartsWith("0 matches, complete, in "));
+    EXPECT_THAT(ended.output.toStdString(), StartsWith("0 matches, not capped, in "));
 }
 
 TEST_F(ProgramJobsTest, profilesSwitchedOffInTheSettingsFileAreNotRead)

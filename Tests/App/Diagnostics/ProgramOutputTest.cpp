@@ -148,7 +148,7 @@ TEST_F(ProgramOutputTest, aTerminalGetsColumnsOfEqualWidth)
         program.runOnTerminal({u"--search"_s, u"bike"_s}).output.toStdString(),
         StartsWith("2026-05-09 09:43  Chrome - Personal  Blue Bike page 東京  https://example.org:8443/bike\n"
                    "2026-05-08 11:43  Chrome - Work      Red Bike page        https://bike.example.com/\n"
-                   "2 matches, complete, in "));
+                   "2 matches, not capped, in "));
 }
 
 TEST_F(ProgramOutputTest, aTerminalGetsLongTitlesCut)

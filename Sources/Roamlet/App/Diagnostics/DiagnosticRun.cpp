@@ -71,9 +71,8 @@ std::optional<int> run(int argc, char **argv)
     case Command::Job::Windows:
         return {};
     case Command::Job::Unknown:
-        console.writeError(QString(u"roamlet: unknown switch "_s % command.argument.value_or(QString()) %
-                                   u". roamlet --help lists what there is.\n")
-                               .toUtf8());
+        complain(console, u"unknown switch "_s % command.argument.value_or(QString()) %
+                              u". roamlet --help lists what there is.");
         return misuse;
     default:
         return runDiagnostics(command, argc, argv);

@@ -100,11 +100,7 @@ private:
     }
     int print(const QStringList &lines) { return write(lines.join(u'\n') % u'\n'); }
     int write(const QString &output);
-    /// A message holds paths and ids, and it may be read on a terminal.
-    void complain(const QString &message)
-    {
-        m_console.writeError(QString(TextLayout::shown(message) % u'\n').toUtf8());
-    }
+    void complain(const QString &message) { roamlet::complain(m_console, message); }
 
     const Platform &m_platform;
     Console &m_console;
@@ -205,7 +201,7 @@ int Job::exportBookmarks(const std::optional<QString> &formatName, const std::op
     }
     const auto tree = bookmarks(sourceID.value_or(Source::safari().id()));
     if (!tree)
-        complain(u"roamlet: " % tree.error());
+        complain(tree.error());
     const QList<BookmarkNode> roots = tree.value_or(QList<BookmarkNode>());
     QList<Bookmark> flat;
     for (const BookmarkNode &root : roots)
@@ -257,7 +253,7 @@ int Job::search(const HistoryQuery &query)
     QStringList lines = TextLayout::aligned(cells, widestCell);
     lines.append(QString::number(results.items.size()) %
                  (results.items.size() == 1 ? u" match, " : u" matches, ") %
-                 (results.isCapped ? u"capped" : u"complete") % u", in " % stopwatch.seconds() % u's');
+                 (results.isCapped ? u"capped" : u"not capped") % u", in " % stopwatch.seconds() % u's');
     return print(lines);
 }
 

@@ -3,6 +3,7 @@
 
 #include "App/Diagnostics/Printing.h"
 
+#include "App/Diagnostics/TextLayout.h"
 #include "Platform/Console.h"
 
 namespace roamlet
@@ -15,9 +16,13 @@ Printed print(Console &console, const QString &text)
         return Printed::Written;
     if (error == std::errc::broken_pipe || error == std::errc::operation_canceled)
         return Printed::Unread;
-    console.writeError(
-        QString(u"roamlet: cannot write: " % QString::fromStdString(error.message()) % u'\n').toUtf8());
+    complain(console, u"cannot write: " % QString::fromStdString(error.message()));
     return Printed::Failed;
+}
+
+void complain(Console &console, const QString &message)
+{
+    console.writeError(QString(u"roamlet: " % TextLayout::shown(message) % u'\n').toUtf8());
 }
 
 } // namespace roamlet

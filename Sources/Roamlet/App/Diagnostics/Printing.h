@@ -19,5 +19,8 @@ enum class Printed {
 
 /// Writes a text to the output as UTF-8.
 Printed print(Console &console, const QString &text);
+/// Writes a message to the error stream, a line of its own under the program's name. It may hold paths and
+/// ids and be read on a terminal: control characters are shown, not obeyed.
+void complain(Console &console, const QString &message);
 
 } // namespace roamlet
