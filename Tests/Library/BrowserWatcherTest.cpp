@@ -3,7 +3,7 @@
 
 #include "Library/BrowserWatcher.h"
 
-#include "Library/LibraryHome.h"
+#include "Support/LibraryHome.h"
 #include "Platform/Linux/InotifyFileEvents.h"
 #include "Support/Waiting.h"
 

@@ -3,7 +3,7 @@
 
 #include "Library/FaviconImage.h"
 
-#include "Library/LibraryHome.h"
+#include "Support/LibraryHome.h"
 #include "SampleHome/PlainFiles.h"
 #include "Support/TestHome.h"
 

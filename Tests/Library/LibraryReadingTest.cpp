@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
-#include "Library/LibraryHome.h"
+#include "Support/LibraryHome.h"
 #include "SampleHome/PlainFiles.h"
 
 #include <atomic>

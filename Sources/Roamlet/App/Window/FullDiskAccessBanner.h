@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "App/Window/Strip.h"
+
+namespace roamlet
+{
+
+/// Says that the system keeps Safari's files from us, and how to change that.
+class FullDiskAccessBanner final : public Strip
+{
+    Q_OBJECT
+
+public:
+    explicit FullDiskAccessBanner(QWidget *parent = nullptr);
+
+Q_SIGNALS:
+    void openSettingsRequested();
+    void reloadRequested();
+};
+
+} // namespace roamlet

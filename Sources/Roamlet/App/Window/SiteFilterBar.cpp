@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "App/Window/SiteFilterBar.h"
+
+#include "App/Look/ElidedLabel.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+
+namespace roamlet
+{
+
+using namespace Qt::StringLiterals;
+
+SiteFilterBar::SiteFilterBar(QWidget *parent)
+    : Strip(Tone::Notice, parent), m_icon(new QLabel(this)), m_text(new ElidedLabel(this))
+{
+    setObjectName(u"siteFilterBar"_s);
+    m_text->setObjectName(u"siteFilterText"_s);
+    auto *clear = new QPushButton(u"Show All Sites"_s, this);
+    clear->setObjectName(u"showAllSitesButton"_s);
+    clear->setAutoDefault(false);
+    connect(clear, &QPushButton::clicked, this, &SiteFilterBar::clearRequested);
+    row()->addWidget(m_icon);
+    row()->addWidget(m_text, 1);
+    row()->addWidget(clear);
+}
+
+void SiteFilterBar::setSite(const QString &site, const std::optional<QImage> &image)
+{
+    constexpr int side = 16;
+    m_text->setText(u"Only " % site);
+    m_icon->setVisible(image.has_value());
+    if (!image)
+        return;
+    const qreal ratio = devicePixelRatioF();
+    QPixmap pixmap = QPixmap::fromImage(
+        image->scaled(QSize(side, side) * ratio, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    pixmap.setDevicePixelRatio(ratio);
+    m_icon->setPixmap(pixmap);
+}
+
+} // namespace roamlet

@@ -1,0 +1,180 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "App/Window/Sidebar.h"
+
+#include "App/Window/SidebarModel.h"
+#include "Support/LibraryHome.h"
+#include "Support/Waiting.h"
+
+#include <QAbstractItemModelTester>
+#include <QAction>
+#include <QContextMenuEvent>
+#include <QMenu>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <gmock/gmock.h>
+
+namespace roamlet::testing
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+/// The rows, headings in brackets.
+QStringList texts(const QAbstractItemModel &model)
+{
+    QStringList result;
+    for (int row = 0; row < model.rowCount(); ++row) {
+        const QModelIndex index = model.index(row, 0);
+        const QString text = index.data().toString();
+        result.append(index.data(SidebarModel::IsHeadingRole).toBool() ? u'[' % text % u']' : text);
+    }
+    return result;
+}
+
+} // namespace
+
+class SidebarTest : public LibraryHome
+{
+protected:
+    Library library{home.platform()};
+};
+
+TEST_F(SidebarTest, listsAllSourcesTogetherAndThenEachOne)
+{
+    addChromium();
+    SidebarModel model(library);
+    const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
+    EXPECT_EQ(texts(model),
+              QStringList({u"[Library]"_s, u"Recent History"_s, u"Most Visited"_s, u"All Bookmarks"_s}));
+    loadNow(library);
+    EXPECT_EQ(texts(model), QStringList({u"[Library]"_s, u"Recent History"_s, u"Most Visited"_s,
+                                         u"All Bookmarks"_s, u"[Chrome - Personal]"_s, u"History"_s,
+                                         u"Bookmarks"_s, u"[Chrome - Work]"_s, u"History"_s, u"Bookmarks"_s,
+                                         u"[Edge - Office]"_s, u"History"_s, u"Bookmarks"_s}));
+    EXPECT_EQ(model.pane(model.index(5)), Pane(HistoryPane{u"chrome/Default"_s}));
+    EXPECT_EQ(model.pane(model.index(2)), Pane(MostVisitedPane()));
+    EXPECT_EQ(model.pane(model.index(4)), std::nullopt);
+    EXPECT_EQ(model.index(5).data(Qt::AccessibleTextRole), u"Chrome - Personal: History"_s);
+}
+
+TEST_F(SidebarTest, followsTheUsersOrder)
+{
+    addChromium();
+    SidebarModel model(library);
+    loadNow(library);
+    library.moveProfiles({2}, 0);
+    EXPECT_EQ(texts(model)[4], u"[Edge - Office]");
+}
+
+TEST_F(SidebarTest, aReloadThatChangesNoSourceMovesNothing)
+{
+    addChromium();
+    SidebarModel model(library);
+    loadNow(library);
+    const QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
+    loadNow(library);
+    EXPECT_EQ(resets.size(), 0);
+}
+
+TEST_F(SidebarTest, theKeyboardGoesFromRowToRowAndSkipsTheHeadings)
+{
+    addChromium();
+    loadNow(library);
+    Sidebar sidebar(library);
+    sidebar.resize(220, 400);
+    sidebar.select(BookmarksPane());
+    QTest::keyClick(&sidebar, Qt::Key_Down);
+    EXPECT_EQ(sidebar.pane(), Pane(HistoryPane{u"chrome/Default"_s}));
+    QTest::keyClick(&sidebar, Qt::Key_Up);
+    EXPECT_EQ(sidebar.pane(), Pane(BookmarksPane()));
+}
+
+TEST_F(SidebarTest, aClickSelectsARowAndAHeadingDoesNothing)
+{
+    addChromium();
+    loadNow(library);
+    Sidebar sidebar(library);
+    sidebar.resize(220, 600);
+    sidebar.show();
+    int changes = 0;
+    QObject::connect(&sidebar, &Sidebar::paneSelected, [&changes] { ++changes; });
+    const auto click = [&sidebar](int row) {
+        QTest::mouseClick(sidebar.viewport(), Qt::LeftButton, {},
+                          sidebar.visualRect(sidebar.model()->index(row, 0)).center());
+    };
+    click(2);
+    EXPECT_EQ(sidebar.pane(), Pane(MostVisitedPane()));
+    EXPECT_EQ(changes, 1);
+    click(4);
+    EXPECT_EQ(sidebar.pane(), Pane(MostVisitedPane()));
+}
+
+TEST_F(SidebarTest, theSelectionOutlivesAReloadAndASourceThatIsGoneForAWhile)
+{
+    addChromium();
+    loadNow(library);
+    Sidebar sidebar(library);
+    int changes = 0;
+    QObject::connect(&sidebar, &Sidebar::paneSelected, [&changes] { ++changes; });
+    const Pane pane = BookmarksPane{u"chrome/Profile 1"_s};
+    sidebar.select(pane);
+    const auto selectedText = [&sidebar] {
+        const QModelIndexList rows = sidebar.selectionModel()->selectedIndexes();
+        return rows.isEmpty() ? QString() : rows.first().data(Qt::AccessibleTextRole).toString();
+    };
+    EXPECT_EQ(selectedText(), u"Chrome - Work: Bookmarks");
+    library.setEnabled(false, *library.source(u"chrome/Profile 1"_s));
+    ASSERT_TRUE(waitUntil([this] { return !library.isLoading(); }));
+    EXPECT_EQ(selectedText(), u"");
+    const auto &profiles = library.snapshot().browserProfiles;
+    const auto work = std::ranges::find(profiles, u"chrome/Profile 1"_s, &Source::id);
+    ASSERT_NE(work, profiles.end());
+    library.setEnabled(true, *work);
+    ASSERT_TRUE(waitUntil([this] { return !library.isLoading(); }));
+    EXPECT_EQ(selectedText(), u"Chrome - Work: Bookmarks");
+    EXPECT_EQ(changes, 0);
+}
+
+TEST_F(SidebarTest, theContextMenuExportsABookmarksRowThatHasSome)
+{
+    addChromium();
+    loadNow(library);
+    Sidebar sidebar(library);
+    sidebar.resize(220, 600);
+    sidebar.show();
+    std::optional<std::optional<QString>> exported;
+    QObject::connect(&sidebar, &Sidebar::exportRequested,
+                     [&exported](const std::optional<QString> &id) { exported = id; });
+    const auto openMenu = [&sidebar](int row) -> QMenu * {
+        const QPoint place = sidebar.visualRect(sidebar.model()->index(row, 0)).center();
+        QContextMenuEvent event(QContextMenuEvent::Mouse, place, sidebar.viewport()->mapToGlobal(place));
+        QCoreApplication::sendEvent(sidebar.viewport(), &event);
+        return sidebar.findChild<QMenu *>(u"sidebarMenu"_s);
+    };
+    EXPECT_EQ(openMenu(5), nullptr);
+
+    QMenu *ofAll = openMenu(3);
+    ASSERT_NE(ofAll, nullptr);
+    EXPECT_EQ(ofAll->actions().first()->text(), u"Export Bookmarks…");
+    EXPECT_TRUE(ofAll->actions().first()->isEnabled());
+    ofAll->actions().first()->trigger();
+    EXPECT_EQ(exported, std::optional<std::optional<QString>>(std::optional<QString>()));
+    delete ofAll;
+
+    QMenu *ofOne = openMenu(6);
+    ASSERT_NE(ofOne, nullptr);
+    ofOne->actions().first()->trigger();
+    EXPECT_EQ(exported, std::optional<std::optional<QString>>(u"chrome/Default"_s));
+    delete ofOne;
+
+    QMenu *withoutBookmarks = openMenu(12);
+    ASSERT_NE(withoutBookmarks, nullptr);
+    EXPECT_FALSE(withoutBookmarks->actions().first()->isEnabled());
+}
+
+} // namespace roamlet::testing
