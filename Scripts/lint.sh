@@ -14,7 +14,7 @@ clang-format-19 --dry-run --Werror "${files[@]}"
 echo "The formatting is right."
 
 cmake --preset dev -DROAMLET_BENCHMARKS=ON >/dev/null
-cmake --build --preset dev --target roamlet_core_autogen >/dev/null
+cmake --build --preset dev --target roamlet_core_autogen roamlet_diagnostics_autogen roamlet_ui_autogen >/dev/null
 mapfile -t sources < <(printf '%s\n' "${files[@]}" | grep '\.cpp$')
 # Warnings that only the other compiler knows are none of clang-tidy's business.
 printf '%s\0' "${sources[@]}" | xargs -0 -P "$(nproc)" -n 1 \
