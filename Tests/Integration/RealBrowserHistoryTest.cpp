@@ -228,7 +228,7 @@ void RealBrowserHistoryTest::expectSearches() const
 
     // Words in any order and any case, some in the title and some in the address, across both profiles.
     const ProgramRun words = ProgramRun::of(home, {u"--search"_s, u"EXAMPLE"_s, u"gärten"_s});
-    EXPECT_THAT(words.lines().last().toStdString(), ::testing::StartsWith("2 matches, complete"));
+    EXPECT_THAT(words.lines().last().toStdString(), ::testing::StartsWith("2 matches, not capped"));
     EXPECT_EQ(urls(printedVisits(words)), asSet(privateLog.entries().keys().filter(u"/www.garten.example"_s) +
                                                 workLog.entries().keys().filter(u"xn--bcher-kva"_s)));
 
