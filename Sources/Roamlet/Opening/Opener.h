@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "Model/Source.h"
+
+#include <QImage>
+#include <QList>
+#include <QMap>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+#include <utility>
+
+namespace roamlet
+{
+
+class Workspace;
+
+/// Hands links back to the browser, and to the very profile, that they came from. It waits for nobody and
+/// reports nothing: what cannot be opened is not opened. On the main thread.
+class Opener final
+{
+public:
+    /// The URL of a record, and where the record came from.
+    struct Link {
+        QString url;
+        Source source;
+    };
+
+    explicit Opener(Workspace &workspace) : m_workspace(workspace) {}
+
+    static QString bundleID(Source::Kind kind);
+
+    /// Opens each link in the browser and the profile that it came from.
+    void openLinks(const QList<Link> &links);
+    /// Opens URLs with an application, in whichever profile it chooses.
+    void open(const QStringList &urls, const QString &bundleID);
+    /// Opens URLs in a profile of Chrome or Edge.
+    void openInChromium(const QStringList &urls, Source::Kind kind, const std::optional<QString> &profile);
+    /// Shows the browser's own page of the source's history.
+    void showHistory(const Source &source);
+    /// Opens the browser's bookmark manager for the source, at a folder where that is possible.
+    void editBookmarks(const Source &source, const std::optional<QString> &folderID);
+
+    /// Whether the browser is installed.
+    bool isInstalled(Source::Kind kind) const;
+    /// The browser's icon at 16 x 16 points, or nothing when there is none. An icon that was found is kept.
+    std::optional<QImage> icon(Source::Kind kind, qreal devicePixelRatio);
+
+private:
+    void openChromiumPage(const QString &page, Source::Kind kind, const std::optional<QString> &profile);
+
+    Workspace &m_workspace;
+    QMap<std::pair<Source::Kind, qreal>, QImage> m_icons;
+};
+
+} // namespace roamlet
