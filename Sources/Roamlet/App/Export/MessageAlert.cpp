@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "App/Export/MessageAlert.h"
+
+#include <QMessageBox>
+
+namespace roamlet
+{
+
+using namespace Qt::StringLiterals;
+
+void MessageAlert::show(QWidget *parent, const QString &problem, const QString &subject)
+{
+    auto *box =
+        new QMessageBox(QMessageBox::Critical, tr("Export Bookmarks"), problem, QMessageBox::Ok, parent);
+    box->setObjectName(u"alert"_s);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    // A file's name is no markup.
+    box->setTextFormat(Qt::PlainText);
+    box->setInformativeText(subject);
+    box->open();
+}
+
+} // namespace roamlet
