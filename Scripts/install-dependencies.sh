@@ -3,10 +3,11 @@
 # Installs what is missing for each of the purposes named: build, test, lint, bench.
 set -euo pipefail
 
-build=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-svg-dev libsqlite3-dev libicu-dev libplist-dev nlohmann-json3-dev tzdata)
+build=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-svg-dev libsqlite3-dev libicu-dev libplist-dev libsodium-dev nlohmann-json3-dev
+  libglib2.0-dev libx11-dev libxdo-dev tzdata)
 test=(libgtest-dev libgmock-dev sqlite3 dbus-daemon desktop-file-utils)
-# Without the browser the test that needs it says that it was skipped.
-optional_test=(chromium)
+# Without these the tests that need them say that they were skipped.
+optional_test=(chromium xvfb openbox)
 lint=(git clang-format-19 clang-tidy-19)
 bench=(libbenchmark-dev hyperfine sqlite3 time)
 

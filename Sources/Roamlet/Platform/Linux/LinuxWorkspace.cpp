@@ -1,0 +1,163 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "Platform/Linux/LinuxWorkspace.h"
+
+#include "Platform/Linux/Workspace/DetachedProcess.h"
+#include "Platform/Linux/Workspace/XdoBrowserWindows.h"
+
+#include <QDir>
+#include <QIcon>
+#include <QPainter>
+#include <QPixmap>
+#include <QStandardPaths>
+#include <QUrl>
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+namespace roamlet
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+const QString safariID = u"com.apple.Safari"_s;
+
+/// Whether the address is one of Safari's own pages, which no browser here knows.
+bool isSafariPage(const QString &url)
+{
+    const QString scheme = QUrl(url).scheme();
+    return scheme == u"history" || scheme == u"bookmarks";
+}
+
+/// What a browser is started with to open URLs in a profile.
+QStringList profileCommand(const BrowserInstallation &installation, const QString &profile,
+                           const QStringList &urls)
+{
+    // Without the second one a profile that was deleted would come back, empty.
+    return installation.entry.command +
+           QStringList{u"--profile-directory=" % profile, u"--ignore-profile-directory-if-not-exists"_s} +
+           urls;
+}
+
+/// The icon on a square of exactly `side` points: themes have other sizes, and not every icon is a square.
+QImage onSquare(const QIcon &icon, int side, qreal devicePixelRatio)
+{
+    const int pixels = qRound(side * devicePixelRatio);
+    QImage square(pixels, pixels, QImage::Format_ARGB32_Premultiplied);
+    square.fill(Qt::transparent);
+    const QImage image = icon.pixmap(QSize(side, side), devicePixelRatio)
+                             .toImage()
+                             .scaled(pixels, pixels, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    QPainter painter(&square);
+    const QSize rest = square.size() - image.size();
+    painter.drawImage(QRect(QPoint(rest.width() / 2, rest.height() / 2), image.size()), image);
+    painter.end();
+    square.setDevicePixelRatio(devicePixelRatio);
+    return square;
+}
+
+} // namespace
+
+LinuxWorkspace::Environment LinuxWorkspace::Environment::ofThisProcess()
+{
+    const bool isWayland =
+        !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") || qgetenv("XDG_SESSION_TYPE") == "wayland";
+    return {.dataFolders = QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation),
+            .display = isWayland ? QByteArray() : qgetenv("DISPLAY")};
+}
+
+LinuxWorkspace::LinuxWorkspace(const Environment &environment, const Folders &folders, const Clock &clock,
+                               PasteNotice notice)
+    : LinuxWorkspace(environment.dataFolders, folders, clock,
+                     std::make_unique<XdoBrowserWindows>(environment.display), std::move(notice))
+{
+}
+
+LinuxWorkspace::LinuxWorkspace(QStringList dataFolders, const Folders &folders, const Clock &clock,
+                               std::unique_ptr<BrowserWindows> windows, PasteNotice notice)
+    : m_dataFolders(std::move(dataFolders)),
+      m_folders(folders),
+      m_windows(std::move(windows)),
+      m_steering(*m_windows, clock),
+      m_notice(std::move(notice))
+{
+}
+
+LinuxWorkspace::~LinuxWorkspace() = default;
+
+bool LinuxWorkspace::hasApplication(const QString &bundleID) const
+{
+    return BrowserInstallation::any(bundleID, m_folders, m_dataFolders).has_value();
+}
+
+std::optional<QImage> LinuxWorkspace::icon(const QString &bundleID, int side, qreal devicePixelRatio) const
+{
+    const auto installation = BrowserInstallation::any(bundleID, m_folders, m_dataFolders);
+    if (!installation || installation->entry.icon.isEmpty())
+        return {};
+    const QString &name = installation->entry.icon;
+    const QIcon icon = QDir::isAbsolutePath(name) ? QIcon(name) : QIcon::fromTheme(name);
+    if (icon.pixmap(QSize(side, side)).isNull())
+        return {};
+    return onSquare(icon, side, devicePixelRatio);
+}
+
+void LinuxWorkspace::open(const QStringList &urls, const QString &bundleID)
+{
+    if (bundleID == safariID) {
+        QStringList links;
+        std::ranges::remove_copy_if(urls, std::back_inserter(links), isSafariPage);
+        if (!links.isEmpty())
+            DesktopEntry::launchPreferred(u"https"_s, links);
+    } else if (const auto installation = BrowserInstallation::any(bundleID, m_folders, m_dataFolders)) {
+        installation->entry.launch(urls);
+    }
+}
+
+void LinuxWorkspace::openSystemURL(const QString &url)
+{
+    DesktopEntry::launchPreferred(QUrl(url).scheme(), {url});
+}
+
+void LinuxWorkspace::start(const QString &program, const QStringList &arguments)
+{
+    DetachedProcess::start(QStringList(program) + arguments);
+}
+
+bool LinuxWorkspace::openInProfile(const QStringList &urls, const QString &bundleID, const QString &profile)
+{
+    if (const auto installation = BrowserInstallation::ofData(bundleID, m_folders, m_dataFolders))
+        DetachedProcess::start(profileCommand(*installation, profile, urls));
+    return true;
+}
+
+bool LinuxWorkspace::showPage(const QString &page, const QString &bundleID,
+                              const std::optional<QString> &profile)
+{
+    const auto installation = profile ? BrowserInstallation::ofData(bundleID, m_folders, m_dataFolders)
+                                      : BrowserInstallation::any(bundleID, m_folders, m_dataFolders);
+    if (!installation)
+        return true;
+    const QStringList blank{u"about:blank"_s};
+    const auto openBlankTab = [installation = *installation, profile, blank] {
+        if (profile)
+            DetachedProcess::start(profileCommand(installation, *profile, blank));
+        else
+            installation.entry.launch(blank);
+    };
+    if (m_windows->canSteer()) {
+        m_steering.show(
+            {.page = page, .windowClasses = installation->windowClasses, .openBlankTab = openBlankTab});
+    } else {
+        m_notice.show(page);
+        openBlankTab();
+    }
+    return true;
+}
+
+} // namespace roamlet

@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "Platform/Linux/Workspace/DetachedProcess.h"
+
+#include "Platform/Linux/Workspace/GLibPointer.h"
+
+#include <QByteArray>
+#include <QList>
+
+#include <signal.h>
+#include <unistd.h>
+
+#include <vector>
+
+namespace roamlet::DetachedProcess
+{
+
+bool start(const QStringList &command)
+{
+    QList<QByteArray> texts;
+    for (const QString &text : command)
+        texts.append(text.toLocal8Bit());
+    std::vector<char *> arguments;
+    for (QByteArray &text : texts)
+        arguments.push_back(text.data());
+    arguments.push_back(nullptr);
+    // Without G_SPAWN_DO_NOT_REAP_CHILD a process in between starts the program, so that it becomes nobody's
+    // child that would have to be waited for.
+    return g_spawn_async(nullptr, arguments.data(), nullptr, spawnFlags, prepareChild, nullptr, nullptr,
+                         nullptr) != FALSE;
+}
+
+void prepareChild(void * /*unused*/)
+{
+    // A session of its own: what is typed into our terminal is not meant for it.
+    setsid();
+    signal(SIGPIPE, SIG_DFL);
+    sigset_t none;
+    sigemptyset(&none);
+    pthread_sigmask(SIG_SETMASK, &none, nullptr);
+}
+
+} // namespace roamlet::DetachedProcess

@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QStringList>
+
+/// Programs that are started and then left alone.
+namespace roamlet::DetachedProcess
+{
+
+/// Starts a program with its arguments. No shell sees them, nobody waits for it, it goes on when this process
+/// ends, and it leaves no zombie. False when it could not be started.
+bool start(const QStringList &command);
+/// Runs in a new process before it becomes another program, and undoes what this program has changed for
+/// itself: the signals that it blocks or ignores, and its terminal. Makes system calls only.
+void prepareChild(void *unused);
+
+} // namespace roamlet::DetachedProcess

@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <gio/gdesktopappinfo.h>
+#include <gio/gio.h>
+#include <memory>
+
+namespace roamlet
+{
+
+/// How every other program is started: found along $PATH, with nothing to read and nowhere to write to, since
+/// browsers talk a lot.
+constexpr auto spawnFlags = static_cast<GSpawnFlags>(static_cast<unsigned>(G_SPAWN_SEARCH_PATH) |
+                                                     static_cast<unsigned>(G_SPAWN_STDOUT_TO_DEV_NULL) |
+                                                     static_cast<unsigned>(G_SPAWN_STDERR_TO_DEV_NULL));
+
+struct GLibDeleter {
+    void operator()(gchar *text) const { g_free(text); }
+    void operator()(gchar **texts) const { g_strfreev(texts); }
+    void operator()(GList *list) const { g_list_free(list); }
+    void operator()(GAppInfo *info) const { g_object_unref(info); }
+    void operator()(GDesktopAppInfo *info) const { g_object_unref(info); }
+};
+
+/// Owns what the library hands over.
+template<typename Type>
+using GLibPointer = std::unique_ptr<Type, GLibDeleter>;
+
+} // namespace roamlet
