@@ -3,9 +3,7 @@
 
 #include "Platform/Linux/Workspace/PasteNotice.h"
 
-#include <QClipboard>
 #include <QDBusMessage>
-#include <QGuiApplication>
 #include <QStringList>
 #include <QVariantMap>
 
@@ -15,13 +13,6 @@ namespace roamlet
 {
 
 using namespace Qt::StringLiterals;
-
-PasteNotice::PasteNotice(Wording wording)
-    : PasteNotice(
-          QDBusConnection::sessionBus(),
-          [](const QString &text) { QGuiApplication::clipboard()->setText(text); }, std::move(wording))
-{
-}
 
 PasteNotice::PasteNotice(const QDBusConnection &bus, SetClipboard setClipboard, Wording wording)
     : m_bus(bus), m_setClipboard(std::move(setClipboard)), m_wording(std::move(wording))

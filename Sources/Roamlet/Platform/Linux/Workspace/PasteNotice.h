@@ -23,8 +23,6 @@ public:
     using Wording = std::function<Words(const QString &page)>;
     using SetClipboard = std::function<void(const QString &text)>;
 
-    /// On the user's session bus and desktop.
-    explicit PasteNotice(Wording wording);
     PasteNotice(const QDBusConnection &bus, SetClipboard setClipboard, Wording wording);
 
     /// Puts the address on the clipboard and says so. Without a session bus it says nothing.
