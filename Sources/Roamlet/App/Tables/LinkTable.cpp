@@ -1,0 +1,250 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "App/Tables/LinkTable.h"
+
+#include "App/Tables/TableHeader.h"
+#include "Library/Library.h"
+#include "Lists/Refine.h"
+#include "Platform/Clock.h"
+
+#include <QClipboard>
+#include <QEvent>
+#include <QGuiApplication>
+#include <QMenu>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace roamlet
+{
+
+using namespace Qt::StringLiterals;
+
+using Action = LinkMenuEntry::Action;
+
+LinkTable::LinkTable(const WindowServices &services, const Kind &kind, QWidget *parent)
+    : QWidget(parent),
+      m_services(services),
+      m_layoutKey(kind.layoutKey),
+      m_nothingText(kind.nothingText),
+      m_model(kind.columns, localText()),
+      m_view(*new TableView(m_model, kind.shape, this)),
+      m_icons(services.library, services.opener, m_view)
+{
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(&m_view);
+    setFocusProxy(&m_view);
+
+    m_view.setObjectName(kind.objectName);
+    m_view.setAccessibleName(kind.accessibleName);
+    m_model.setIcons(&m_icons);
+    m_view.tableHeader().setColumnLayout(ColumnLayout::load(services.defaults, m_layoutKey));
+    showWhyItIsEmpty();
+
+    connect(&services.library, &Library::snapshotChanged, this, [this] {
+        m_icons.clear();
+        refreshIfVisible();
+    });
+    connect(&m_view, &TableView::openRequested, this, &LinkTable::openSelection);
+    connect(&m_view, &TableView::copyRequested, this, &LinkTable::copySelection);
+    connect(&m_view, &TableView::linkMenuRequested, this, &LinkTable::showLinkMenu);
+    TableHeader &header = m_view.tableHeader();
+    connect(&header, &TableHeader::columnLayoutEdited, this, &LinkTable::saveColumnLayout);
+    connect(&header, &TableHeader::menuRequested, this, &LinkTable::showColumnMenu);
+    connect(&header, &QHeaderView::sectionClicked, this, [this](int column) { sortBy(column); });
+}
+
+LinkTable::~LinkTable()
+{
+    // The view would ask for icons that are gone by then.
+    m_model.setIcons(nullptr);
+    delete &m_view;
+}
+
+void LinkTable::setInputs(const TableInputs &inputs)
+{
+    if (inputs == m_inputs)
+        return;
+    m_inputs = inputs;
+    refreshIfVisible();
+}
+
+void LinkTable::refreshIfVisible()
+{
+    if (isVisible())
+        refresh();
+}
+
+void LinkTable::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    refresh();
+}
+
+void LinkTable::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    // A window that was left open over night still says "Today" about yesterday.
+    if (event->type() == QEvent::ActivationChange && isVisible() && isActiveWindow() &&
+        localText().today() != m_model.localText().today()) {
+        invalidate();
+        refresh();
+    }
+}
+
+LocalText LinkTable::localText() const
+{
+    const auto now = std::chrono::time_point_cast<PointInTime::duration>(m_services.clock.now());
+    return {m_services.calendar(), now};
+}
+
+void LinkTable::showList(const SharedRowTree &tree, TableView::Scrolling scrolling)
+{
+    m_model.setLocalText(localText());
+    m_view.showTree(tree, scrolling);
+    showWhyItIsEmpty();
+    Q_EMIT rowCountChanged(rowCount());
+}
+
+void LinkTable::showThatItWorks()
+{
+    m_view.setEmptyText(refineText(m_inputs.search).isEmpty() ? u"Reading…"_s : u"Searching…"_s);
+}
+
+void LinkTable::showWhyItIsEmpty()
+{
+    m_view.setEmptyText(emptyText());
+}
+
+QString LinkTable::emptyText() const
+{
+    const Library &library = m_services.library;
+    if (library.generation() == 0)
+        return u"Reading…"_s;
+    if (library.snapshot().browserProfiles.isEmpty())
+        return u"No browser found.\nRoamlet looks for the data of Safari, Google Chrome and Microsoft Edge."_s;
+    if (library.snapshot().sources.isEmpty())
+        return u"All profiles are switched off in the settings."_s;
+    if (m_inputs.sourceID && library.snapshot().problems.contains(*m_inputs.sourceID))
+        return CellText::oneLine(library.snapshot().problems.value(*m_inputs.sourceID));
+    const QString searched = m_inputs.search.trimmed();
+    const QString where = m_inputs.site ? QString(u" on " % CellText::oneLine(*m_inputs.site)) : QString();
+    if (!searched.isEmpty())
+        return u"Nothing found for “"_s % CellText::oneLine(searched, CellText::longestMenuText) % u"”" %
+               where;
+    return m_inputs.site ? QString(u"Nothing found" % where) : m_nothingText;
+}
+
+void LinkTable::showSortIndicator(int column, Qt::SortOrder order)
+{
+    m_view.tableHeader().setSortIndicator(column, order);
+}
+
+QList<Opener::Link> LinkTable::selectedLinks() const
+{
+    return menuSubject(m_view.selectedRows()).items;
+}
+
+void LinkTable::openSelection()
+{
+    m_services.opener.openLinks(selectedLinks());
+}
+
+void LinkTable::copySelection()
+{
+    if (const QList<Opener::Link> links = selectedLinks(); !links.isEmpty())
+        QGuiApplication::clipboard()->setText(clipboardText(links));
+}
+
+void LinkTable::showLinkMenu(const QPoint &place)
+{
+    QList<Source::Kind> installed;
+    for (const Source::Kind kind : {Source::Kind::Safari, Source::Kind::Chrome, Source::Kind::Edge}) {
+        if (m_services.opener.isInstalled(kind))
+            installed.append(kind);
+    }
+    const LinkMenuSubject subject = menuSubject(m_view.selectedRows());
+    const QList<LinkMenuEntry> entries = linkMenuEntries(subject, installed);
+    if (entries.isEmpty())
+        return;
+    auto *menu = new QMenu(this);
+    menu->setObjectName(u"linkMenu"_s);
+    menu->setAccessibleName(u"Links"_s);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (const LinkMenuEntry &entry : entries) {
+        if (entry.action == Action::Separator)
+            menu->addSeparator();
+        else
+            menu->addAction(CellText::inMenu(entry.title), this,
+                            [this, entry, subject] { perform(entry, subject); });
+    }
+    menu->popup(place);
+}
+
+void LinkTable::perform(const LinkMenuEntry &entry, const LinkMenuSubject &subject)
+{
+    Opener &opener = m_services.opener;
+    switch (entry.action) {
+    case Action::Separator:
+        return;
+    case Action::EditBookmarks:
+        opener.editBookmarks(subject.editTarget->source, subject.editTarget->folderID);
+        return;
+    case Action::ShowHistory:
+        opener.showHistory(*subject.historySource);
+        return;
+    case Action::OpenInOriginalBrowsers:
+        opener.openLinks(subject.items);
+        return;
+    case Action::OpenInBrowser: {
+        QStringList urls;
+        for (const Opener::Link &link : subject.items)
+            urls.append(link.url);
+        opener.open(urls, Opener::bundleID(entry.browser));
+        return;
+    }
+    case Action::CopyURLs:
+        QGuiApplication::clipboard()->setText(clipboardText(subject.items));
+        return;
+    case Action::ShowOnlySite:
+        Q_EMIT onlySiteRequested(*subject.site);
+        return;
+    }
+}
+
+void LinkTable::showColumnMenu(const QPoint &place)
+{
+    TableHeader &header = m_view.tableHeader();
+    auto *menu = new QMenu(this);
+    menu->setObjectName(u"columnMenu"_s);
+    menu->setAccessibleName(u"Columns"_s);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (int column = 0; column < columns().size(); ++column) {
+        QAction *action = menu->addAction(columns()[column].title);
+        action->setCheckable(true);
+        action->setChecked(!header.isSectionHidden(column));
+        action->setEnabled(column != TableHeader::titleColumn);
+        connect(action, &QAction::toggled, &header,
+                [&header, column](bool isShown) { header.setColumnShown(column, isShown); });
+    }
+    menu->addSeparator();
+    QMenu *orders = menu->addMenu(u"Sort By"_s);
+    for (int column = 0; column < columns().size(); ++column)
+        orders->addAction(columns()[column].title, this, [this, column] { sortBy(column); });
+    menu->addAction(u"Default Order"_s, this, [this] { sortByDefault(); });
+    menu->addSeparator();
+    menu->addAction(u"Default Columns"_s, this, [this, &header] {
+        header.setColumnLayout({});
+        saveColumnLayout();
+    });
+    menu->popup(place);
+}
+
+void LinkTable::saveColumnLayout()
+{
+    m_view.tableHeader().columnLayout().save(m_services.defaults, m_layoutKey);
+}
+
+} // namespace roamlet

@@ -1,0 +1,120 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "App/Tables/LinkMenu.h"
+#include "App/Tables/RowIcons.h"
+#include "App/Tables/TableModel.h"
+#include "App/Tables/TableView.h"
+#include "App/Window/WindowServices.h"
+#include "Lists/Grouping.h"
+
+#include <QString>
+#include <QWidget>
+
+#include <optional>
+
+namespace roamlet
+{
+
+/// What a table is asked to show.
+struct TableInputs {
+    /// Absent for all sources.
+    std::optional<QString> sourceID;
+    /// As typed.
+    QString search;
+    /// Absent for all sites.
+    std::optional<QString> site;
+    Grouping grouping = Grouping::None;
+
+    bool operator==(const TableInputs &) const = default;
+};
+
+/// What the three tables of the main window have in common: a view of links that are opened, copied and asked
+/// for a menu, and columns that the user arranges. A table that nobody sees does no work; it catches up when
+/// it is shown.
+class LinkTable : public QWidget
+{
+    Q_OBJECT
+
+public:
+    ~LinkTable() override;
+
+    void setInputs(const TableInputs &inputs);
+    const TableInputs &inputs() const { return m_inputs; }
+    /// How many links the shown list has, in open and closed sections and folders.
+    qsizetype rowCount() const { return m_model.tree()->linkCount(); }
+    TableView &view() const { return m_view; }
+
+    /// Opens the selected links in the browsers that they came from.
+    void openSelection();
+    /// Puts the selected links' URLs on the clipboard.
+    void copySelection();
+
+Q_SIGNALS:
+    /// A list is shown; it may have as many rows as the one before.
+    void rowCountChanged(qsizetype count);
+    /// The user wants to see this site only.
+    void onlySiteRequested(QString site);
+
+protected:
+    /// What one table is and the others are not.
+    struct Kind {
+        /// The view's name in the program,
+        QString objectName;
+        /// and to those who cannot see it.
+        QString accessibleName;
+        /// Under which the arrangement of the columns is stored.
+        QString layoutKey;
+        TableView::Shape shape;
+        QList<TableColumn> columns;
+        /// Said when there is nothing to show, and nothing was searched for.
+        QString nothingText;
+    };
+
+    LinkTable(const WindowServices &services, const Kind &kind, QWidget *parent);
+
+    /// Sees to it that what is shown is what is asked for. Only called while the table is visible.
+    virtual void refresh() = 0;
+    /// The same list has to be made again.
+    virtual void invalidate() = 0;
+    /// The user wants this column to decide first, or the other way round if it already does.
+    virtual void sortBy(int column) = 0;
+    /// The user wants the order back in which the list came at first.
+    virtual void sortByDefault() = 0;
+    virtual LinkMenuSubject menuSubject(const QList<TableRow> &rows) const = 0;
+
+    void refreshIfVisible();
+    /// Says that the list is on its way, where an empty one is shown.
+    void showThatItWorks();
+    /// Says why there is nothing to see, where that is so.
+    void showWhyItIsEmpty();
+    void showList(const SharedRowTree &tree, TableView::Scrolling scrolling);
+    /// `column` is -1 for none.
+    void showSortIndicator(int column, Qt::SortOrder order);
+    const WindowServices &services() const { return m_services; }
+    const QList<TableColumn> &columns() const { return m_model.columns(); }
+
+    void showEvent(QShowEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    LocalText localText() const;
+    QString emptyText() const;
+    QList<Opener::Link> selectedLinks() const;
+    void showLinkMenu(const QPoint &place);
+    void perform(const LinkMenuEntry &entry, const LinkMenuSubject &subject);
+    void showColumnMenu(const QPoint &place);
+    void saveColumnLayout();
+
+    WindowServices m_services;
+    QString m_layoutKey;
+    QString m_nothingText;
+    TableInputs m_inputs;
+    TableModel m_model;
+    TableView &m_view;
+    RowIcons m_icons;
+};
+
+} // namespace roamlet

@@ -1,0 +1,90 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "App/Tables/RowIcons.h"
+
+#include "App/Look/Symbol.h"
+#include "Library/Library.h"
+#include "Opening/Opener.h"
+
+#include <QImage>
+#include <QPainter>
+#include <QPixmap>
+#include <QWidget>
+
+namespace roamlet
+{
+
+using namespace Qt::StringLiterals;
+
+RowIcons::RowIcons(Library &library, Opener &opener, const QWidget &widget)
+    : m_library(library),
+      m_opener(opener),
+      m_widget(widget),
+      m_globe(symbolIcon(u"globe"_s)),
+      m_folder(symbolIcon(u"folder"_s))
+{
+}
+
+const QIcon &RowIcons::site(const QString &site)
+{
+    const QIcon &icon = siteIfKnown(site);
+    return icon.isNull() ? m_globe : icon;
+}
+
+const QIcon &RowIcons::siteIfKnown(const QString &site)
+{
+    followDisplay();
+    auto icon = m_sites.constFind(site);
+    if (icon == m_sites.cend()) {
+        const std::optional<QImage> image = m_library.favicon(site);
+        icon = m_sites.insert(site, image ? iconOf(*image) : QIcon());
+    }
+    return *icon;
+}
+
+const QIcon &RowIcons::browser(Source::Kind kind)
+{
+    followDisplay();
+    auto icon = m_browsers.constFind(kind);
+    if (icon == m_browsers.cend()) {
+        const std::optional<QImage> image = m_opener.icon(kind, m_ratio);
+        const QString symbol = kind == Source::Kind::Safari ? u"safari"_s : u"globe"_s;
+        icon = m_browsers.insert(kind, image ? iconOf(*image) : symbolIcon(symbol));
+    }
+    return *icon;
+}
+
+void RowIcons::clear()
+{
+    m_sites.clear();
+    // A browser may have been installed in the meantime.
+    m_browsers.clear();
+}
+
+void RowIcons::followDisplay()
+{
+    if (const qreal ratio = m_widget.devicePixelRatioF(); ratio != m_ratio) {
+        m_ratio = ratio;
+        clear();
+    }
+}
+
+QIcon RowIcons::iconOf(const QImage &image) const
+{
+    const int pixels = qRound(side * m_ratio);
+    QImage scaled = image.scaled(pixels, pixels, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    scaled.setDevicePixelRatio(1);
+    QPixmap pixmap(pixels, pixels);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.drawImage((pixels - scaled.width()) / 2, (pixels - scaled.height()) / 2, scaled);
+    painter.end();
+    pixmap.setDevicePixelRatio(m_ratio);
+    QIcon icon(pixmap);
+    // A site's colours are its own, also in a selected row.
+    icon.addPixmap(pixmap, QIcon::Selected);
+    return icon;
+}
+
+} // namespace roamlet

@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "App/Tables/RowTree.h"
+
+#include "Lists/SortedRows.h"
+
+#include <utility>
+
+namespace roamlet
+{
+
+RowTree::RowTree() : m_nodes(1) {}
+
+std::optional<RowTree> RowTree::ofBookmarks(const QList<BookmarkNode> &nodes,
+                                            const QList<SortComparator<BookmarkNode>> &order,
+                                            const Collation &collation, const std::stop_token &stop)
+{
+    RowTree tree;
+    // The folders whose content is still missing, in the order of their nodes. Foreign trees may be deep, so
+    // nothing here recurses.
+    struct Open {
+        Number number;
+        QList<BookmarkNode> children;
+    };
+    std::vector<Open> folders{{root, nodes}};
+    for (std::size_t i = 0; i < folders.size(); ++i) {
+        Open folder = std::move(folders[i]);
+        const std::optional sorted = sortedRows(std::move(folder.children), order, collation, stop);
+        if (!sorted || stop.stop_requested())
+            return {};
+        tree.beginChildren(folder.number);
+        std::optional<QString> id;
+        if (folder.number != root)
+            id = tree.row(folder.number).id;
+        for (const BookmarkNode &node : *sorted) {
+            if (node.isFolder() && !node.children->isEmpty())
+                folders.push_back({tree.m_nodes.size(), *node.children});
+            tree.append(folder.number, TableRow::of(node, id));
+        }
+    }
+    return tree;
+}
+
+void RowTree::beginChildren(Number parent)
+{
+    m_nodes[parent].firstChild = m_nodes.size();
+}
+
+void RowTree::append(Number parent, TableRow row)
+{
+    if (row.kind == TableRow::Kind::Link)
+        ++m_linkCount;
+    const int depth = parent == root ? 0 : m_nodes[parent].depth + 1;
+    m_nodes.push_back({.row = std::move(row),
+                       .parent = parent,
+                       .position = m_nodes[parent].childCount++,
+                       .firstChild = 0,
+                       .childCount = 0,
+                       .depth = depth});
+}
+
+} // namespace roamlet

@@ -1,0 +1,106 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "App/Tables/TableRow.h"
+#include "Lists/RowGroup.h"
+#include "Lists/SortComparator.h"
+#include "Model/Collation.h"
+
+#include <QList>
+
+#include <memory>
+#include <optional>
+#include <stop_token>
+#include <vector>
+
+namespace roamlet
+{
+
+/// What a table shows, as one unchanging value that any thread may build: rows, each with the rows below it.
+/// Children lie side by side, so that a place is found without searching.
+class RowTree
+{
+public:
+    using Number = std::size_t;
+
+    struct Node {
+        TableRow row;
+        /// The number of the node above; the root's is its own.
+        Number parent = 0;
+        /// How many siblings come before.
+        int position = 0;
+        Number firstChild = 0;
+        int childCount = 0;
+        int depth = 0;
+
+        bool operator==(const Node &) const = default;
+    };
+
+    /// Stands for the whole list and is not shown.
+    static constexpr Number root = 0;
+
+    /// An empty list.
+    RowTree();
+
+    /// Rows without sections.
+    template<typename Row>
+    static RowTree ofRows(const QList<Row> &rows)
+    {
+        RowTree tree;
+        tree.m_nodes.reserve(1 + static_cast<std::size_t>(rows.size()));
+        tree.appendChildren(root, rows);
+        return tree;
+    }
+
+    template<typename Row>
+    static RowTree ofGroups(const QList<RowGroup<Row>> &groups)
+    {
+        qsizetype count = groups.size();
+        for (const RowGroup<Row> &group : groups)
+            count += group.rows.size();
+        RowTree tree;
+        tree.m_nodes.reserve(1 + static_cast<std::size_t>(count));
+        tree.beginChildren(root);
+        for (const RowGroup<Row> &group : groups)
+            tree.append(root, TableRow::section(group.title, group.site));
+        Number section = tree.m_nodes[root].firstChild;
+        for (const RowGroup<Row> &group : groups)
+            tree.appendChildren(section++, group.rows);
+        return tree;
+    }
+
+    /// Folders and bookmarks as they lie in each other, each folder's content in the order of `order`.
+    /// Nothing when `stop` is requested on the way.
+    static std::optional<RowTree> ofBookmarks(const QList<BookmarkNode> &nodes,
+                                              const QList<SortComparator<BookmarkNode>> &order,
+                                              const Collation &collation, const std::stop_token &stop = {});
+
+    bool operator==(const RowTree &) const = default;
+
+    const Node &node(Number number) const { return m_nodes[number]; }
+    const TableRow &row(Number number) const { return m_nodes[number].row; }
+    /// All nodes, the root first, parents before their children.
+    const std::vector<Node> &nodes() const { return m_nodes; }
+    /// How many links there are, whatever is open or closed.
+    qsizetype linkCount() const { return m_linkCount; }
+
+private:
+    template<typename Row>
+    void appendChildren(Number parent, const QList<Row> &rows)
+    {
+        beginChildren(parent);
+        for (const Row &row : rows)
+            append(parent, TableRow::of(row));
+    }
+    void beginChildren(Number parent);
+    void append(Number parent, TableRow row);
+
+    std::vector<Node> m_nodes;
+    qsizetype m_linkCount = 0;
+};
+
+using SharedRowTree = std::shared_ptr<const RowTree>;
+
+} // namespace roamlet

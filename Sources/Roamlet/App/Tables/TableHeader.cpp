@@ -1,0 +1,202 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "App/Tables/TableHeader.h"
+
+#include "App/Tables/TableModel.h"
+
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QStyleOptionFocusRect>
+
+#include <algorithm>
+
+namespace roamlet
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+/// In widths of a digit: what the title keeps when the others want more than there is.
+constexpr int narrowestTitle = 16;
+constexpr int narrowestColumn = 3;
+
+} // namespace
+
+TableHeader::TableHeader(const TableModel &model, QWidget *parent)
+    : QHeaderView(Qt::Horizontal, parent), m_model(model)
+{
+    setSectionsClickable(true);
+    setSectionsMovable(true);
+    setFirstSectionMovable(true);
+    setStretchLastSection(false);
+    setSortIndicatorShown(true);
+    setHighlightSections(false);
+    setDefaultAlignment(Qt::AlignLeading | Qt::AlignVCenter);
+    setMinimumSectionSize(narrowestColumn * fontMetrics().horizontalAdvance(u'0'));
+    // Fitting a column to its content looks at the rows in sight only.
+    setResizeContentsPrecision(0);
+    setFocusPolicy(Qt::TabFocus);
+    setAccessibleName(u"Columns"_s);
+    connect(this, &QHeaderView::sectionResized, this, [this](int column, int /*before*/, int width) {
+        if (m_isDragging) {
+            m_chosenWidths.insert(column, width);
+            m_isEdited = true;
+        }
+    });
+    connect(this, &QHeaderView::sectionMoved, this, [this] { m_isEdited |= m_isDragging; });
+}
+
+void TableHeader::setColumnLayout(const ColumnLayout &layout)
+{
+    QStringList identifiers;
+    for (const TableColumn &column : m_model.columns())
+        identifiers.append(column.identifier);
+    // What the layout names comes first; a column that is newer than the layout stays behind its neighbour.
+    QStringList named = layout.order;
+    named.removeIf([&identifiers](const QString &identifier) { return !identifiers.contains(identifier); });
+    for (qsizetype i = 0; i < identifiers.size(); ++i) {
+        if (!named.contains(identifiers[i]))
+            named.insert(i == 0 ? 0 : named.indexOf(identifiers[i - 1]) + 1, identifiers[i]);
+    }
+
+    m_chosenWidths.clear();
+    for (int column = 0; column < count(); ++column) {
+        const QString &identifier = identifiers[column];
+        int width = suitableWidth(column);
+        if (layout.widths.contains(identifier)) {
+            width = std::max(layout.widths.value(identifier), minimumSectionSize());
+            m_chosenWidths.insert(column, width);
+        }
+        // A hidden column has no size that could be set.
+        setSectionHidden(column, false);
+        resizeSection(column, width);
+        setSectionHidden(column, column != titleColumn && layout.hidden.contains(identifier));
+    }
+    for (int place = 0; place < count(); ++place)
+        moveSection(visualIndex(static_cast<int>(identifiers.indexOf(named[place]))), place);
+    fillWithTitle();
+}
+
+ColumnLayout TableHeader::columnLayout() const
+{
+    ColumnLayout layout;
+    for (int place = 0; place < count(); ++place) {
+        const int column = logicalIndex(place);
+        const QString &identifier = m_model.columns()[column].identifier;
+        layout.order.append(identifier);
+        if (isSectionHidden(column))
+            layout.hidden.insert(identifier);
+        if (m_chosenWidths.contains(column))
+            layout.widths.insert(identifier, m_chosenWidths.value(column));
+    }
+    return layout;
+}
+
+void TableHeader::setColumnShown(int column, bool isShown)
+{
+    if (column == titleColumn)
+        return;
+    setSectionHidden(column, !isShown);
+    fillWithTitle();
+    Q_EMIT columnLayoutEdited();
+}
+
+int TableHeader::suitableWidth(int column) const
+{
+    return m_model.columns()[column].width * fontMetrics().horizontalAdvance(u'0');
+}
+
+void TableHeader::fillWithTitle()
+{
+    if (count() == 0 || m_chosenWidths.contains(titleColumn))
+        return;
+    const int others = length() - sectionSize(titleColumn);
+    resizeSection(titleColumn, std::max(viewport()->width() - others,
+                                        narrowestTitle * fontMetrics().horizontalAdvance(u'0')));
+}
+
+void TableHeader::mousePressEvent(QMouseEvent *event)
+{
+    m_isDragging = true;
+    QHeaderView::mousePressEvent(event);
+}
+
+void TableHeader::mouseReleaseEvent(QMouseEvent *event)
+{
+    QHeaderView::mouseReleaseEvent(event);
+    finishDragging();
+}
+
+void TableHeader::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    m_isDragging = true;
+    QHeaderView::mouseDoubleClickEvent(event);
+    finishDragging();
+}
+
+void TableHeader::finishDragging()
+{
+    m_isDragging = false;
+    if (!m_isEdited)
+        return;
+    m_isEdited = false;
+    fillWithTitle();
+    Q_EMIT columnLayoutEdited();
+}
+
+void TableHeader::keyPressEvent(QKeyEvent *event)
+{
+    switch (event->key()) {
+    case Qt::Key_Space:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        Q_EMIT menuRequested(mapToGlobal(rect().bottomLeft()));
+        return;
+    default:
+        // Not the views' keys: there is no cell to go to.
+        event->ignore();
+    }
+}
+
+void TableHeader::contextMenuEvent(QContextMenuEvent *event)
+{
+    Q_EMIT menuRequested(event->reason() == QContextMenuEvent::Mouse ? event->globalPos()
+                                                                     : mapToGlobal(rect().bottomLeft()));
+}
+
+void TableHeader::focusInEvent(QFocusEvent *event)
+{
+    QHeaderView::focusInEvent(event);
+    viewport()->update();
+}
+
+void TableHeader::focusOutEvent(QFocusEvent *event)
+{
+    QHeaderView::focusOutEvent(event);
+    viewport()->update();
+}
+
+void TableHeader::paintEvent(QPaintEvent *event)
+{
+    QHeaderView::paintEvent(event);
+    if (!hasFocus())
+        return;
+    QPainter painter(viewport());
+    QStyleOptionFocusRect option;
+    option.initFrom(viewport());
+    option.rect = viewport()->rect();
+    option.state |= QStyle::State_KeyboardFocusChange;
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+}
+
+void TableHeader::resizeEvent(QResizeEvent *event)
+{
+    QHeaderView::resizeEvent(event);
+    fillWithTitle();
+}
+
+} // namespace roamlet

@@ -1,0 +1,183 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "App/Tables/TableModel.h"
+
+#include "App/Tables/RowIcons.h"
+
+#include <utility>
+
+namespace roamlet
+{
+
+using namespace Qt::StringLiterals;
+
+TableModel::TableModel(QList<TableColumn> columns, LocalText localText, QObject *parent)
+    : QAbstractItemModel(parent),
+      m_columns(std::move(columns)),
+      m_localText(std::move(localText)),
+      m_tree(std::make_shared<RowTree>())
+{
+}
+
+void TableModel::setTree(SharedRowTree tree)
+{
+    beginResetModel();
+    m_tree = std::move(tree);
+    endResetModel();
+}
+
+RowTree::Number TableModel::numberOf(const QModelIndex &index) const
+{
+    return index.isValid() ? index.internalId() : RowTree::root;
+}
+
+QModelIndex TableModel::indexOf(RowTree::Number number, int column) const
+{
+    if (number == RowTree::root)
+        return {};
+    return createIndex(m_tree->node(number).position, column, number);
+}
+
+QModelIndex TableModel::index(int row, int column, const QModelIndex &parent) const
+{
+    if (!hasIndex(row, column, parent))
+        return {};
+    return createIndex(row, column,
+                       m_tree->node(numberOf(parent)).firstChild + static_cast<RowTree::Number>(row));
+}
+
+QModelIndex TableModel::parent(const QModelIndex &child) const
+{
+    return child.isValid() ? indexOf(m_tree->node(child.internalId()).parent) : QModelIndex();
+}
+
+int TableModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.column() > 0 ? 0 : m_tree->node(numberOf(parent)).childCount;
+}
+
+int TableModel::columnCount(const QModelIndex & /*parent*/) const
+{
+    return static_cast<int>(m_columns.size());
+}
+
+bool TableModel::hasChildren(const QModelIndex &parent) const
+{
+    return rowCount(parent) > 0;
+}
+
+Qt::ItemFlags TableModel::flags(const QModelIndex &index) const
+{
+    if (!index.isValid())
+        return {};
+    const RowTree::Node &node = m_tree->node(index.internalId());
+    Qt::ItemFlags result = Qt::ItemIsEnabled;
+    // Headings can be reached with the keyboard, but there is nothing to be done with them.
+    if (node.row.kind != TableRow::Kind::Section)
+        result |= Qt::ItemIsSelectable;
+    if (node.row.kind == TableRow::Kind::Link)
+        result |= Qt::ItemNeverHasChildren;
+    return result;
+}
+
+QVariant TableModel::data(const QModelIndex &index, int role) const
+{
+    if (!index.isValid())
+        return {};
+    const RowTree::Node &node = m_tree->node(index.internalId());
+    const TableColumn::Content content = m_columns[index.column()].content;
+    // The heading of a section and the name of a folder stand alone.
+    if (node.row.kind != TableRow::Kind::Link && content != TableColumn::Content::Title &&
+        (node.row.kind == TableRow::Kind::Section || content != TableColumn::Content::Date))
+        return {};
+    switch (role) {
+    case Qt::DisplayRole:
+        return text(node.row, content);
+    case Qt::DecorationRole:
+        return icon(node.row, content);
+    case Qt::ToolTipRole:
+        return toolTip(node.row, content);
+    case Qt::AccessibleTextRole:
+        return accessibleText(node, content);
+    default:
+        return {};
+    }
+}
+
+QVariant TableModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || section < 0 || section >= m_columns.size())
+        return {};
+    switch (role) {
+    case Qt::DisplayRole:
+    case Qt::AccessibleTextRole:
+        return m_columns[section].title;
+    case Qt::TextAlignmentRole:
+        return QVariant::fromValue(Qt::AlignLeading | Qt::AlignVCenter);
+    default:
+        return {};
+    }
+}
+
+QString TableModel::text(const TableRow &row, TableColumn::Content content) const
+{
+    switch (content) {
+    case TableColumn::Content::Title:
+        // A bookmark without a name is still a row that can be read.
+        return CellText::oneLine(row.title.isEmpty() ? row.url : row.title);
+    case TableColumn::Content::Date:
+        return row.date ? m_localText.briefDate(*row.date) : QString();
+    case TableColumn::Content::Visits:
+        return m_localText.number(row.visits);
+    case TableColumn::Content::Folder:
+        return CellText::oneLine(row.folder);
+    case TableColumn::Content::Source:
+        return CellText::oneLine(row.source.label());
+    }
+    return {};
+}
+
+QString TableModel::accessibleText(const RowTree::Node &node, TableColumn::Content content) const
+{
+    const QString shown = text(node.row, content);
+    if (content != TableColumn::Content::Title || node.row.kind == TableRow::Kind::Link)
+        return shown;
+    const QString count = m_localText.number(node.childCount);
+    const QString items = node.childCount == 1 ? u"1 item"_s : QString(count % u" items");
+    return node.row.kind == TableRow::Kind::Folder ? QString(shown % u", folder, " % items)
+                                                   : QString(shown % u", " % items);
+}
+
+QString TableModel::toolTip(const TableRow &row, TableColumn::Content content) const
+{
+    if (content == TableColumn::Content::Date)
+        return row.date ? m_localText.fullDate(*row.date) : QString();
+    const QString shown = text(row, content);
+    if (content == TableColumn::Content::Title && row.kind == TableRow::Kind::Link && row.url != row.title)
+        return CellText::toolTip({shown, row.url});
+    return CellText::toolTip({shown});
+}
+
+QVariant TableModel::icon(const TableRow &row, TableColumn::Content content) const
+{
+    if (m_icons == nullptr)
+        return {};
+    if (content == TableColumn::Content::Source)
+        return m_icons->browser(row.source.kind);
+    if (content != TableColumn::Content::Title)
+        return {};
+    switch (row.kind) {
+    case TableRow::Kind::Section: {
+        const QIcon &known = m_icons->siteIfKnown(row.site);
+        return known.isNull() ? QVariant() : QVariant(known);
+    }
+    case TableRow::Kind::Folder:
+        return m_icons->folder();
+    case TableRow::Kind::Link:
+        return m_icons->site(row.site);
+    }
+    return {};
+}
+
+} // namespace roamlet

@@ -1,0 +1,368 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "App/Tables/TableView.h"
+
+#include "App/Tables/TableHeader.h"
+#include "App/Tables/TableModel.h"
+
+#include <QContextMenuEvent>
+#include <QIcon>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPainter>
+#include <QScrollBar>
+#include <QStyleOption>
+
+#include <algorithm>
+#include <unordered_set>
+
+namespace roamlet
+{
+
+using Kind = TableRow::Kind;
+
+TableView::TableView(TableModel &model, Shape shape, QWidget *parent)
+    : QTreeView(parent),
+      m_model(model),
+      m_header(*new TableHeader(model, this)),
+      m_emptyLabel(*new QLabel(viewport()))
+{
+    setHeader(&m_header);
+    setModel(&model);
+    m_header.setStretchLastSection(false);
+    setUniformRowHeights(true);
+    setAlternatingRowColors(true);
+    setAllColumnsShowFocus(true);
+    setSelectionMode(QAbstractItemView::ExtendedSelection);
+    setSelectionBehavior(QAbstractItemView::SelectRows);
+    setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setFrameShape(QFrame::NoFrame);
+    setAnimated(false);
+    if (shape == Shape::List) {
+        // Headings are drawn over the whole width, and the rows below them begin where others do.
+        setRootIsDecorated(false);
+        setIndentation(0);
+    }
+
+    m_emptyLabel.setObjectName(QStringLiteral("emptyText"));
+    m_emptyLabel.setAlignment(Qt::AlignCenter);
+    m_emptyLabel.setTextFormat(Qt::PlainText);
+    m_emptyLabel.setWordWrap(true);
+    m_emptyLabel.setAttribute(Qt::WA_TransparentForMouseEvents);
+    m_emptyLabel.setForegroundRole(QPalette::PlaceholderText);
+
+    connect(this, &QTreeView::expanded, this, [this](const QModelIndex &index) { noteToggled(index, true); });
+    connect(this, &QTreeView::collapsed, this, [this](const QModelIndex &index) {
+        noteToggled(index, false);
+        deselectBelow(index);
+    });
+}
+
+bool TableView::isKind(const QModelIndex &index, Kind kind) const
+{
+    return index.isValid() && m_model.rowAt(index).kind == kind;
+}
+
+bool TableView::isOpen(const RowTree::Node &node) const
+{
+    const bool isOutermost = node.depth == 0;
+    return isOutermost != m_toggled.contains(node.row.id);
+}
+
+void TableView::noteToggled(const QModelIndex &index, bool isNowOpen)
+{
+    if (m_isRestoring)
+        return;
+    const RowTree::Node &node = m_model.tree()->node(index.internalId());
+    if (isOpen(node) == isNowOpen)
+        return;
+    if (!m_toggled.remove(node.row.id))
+        m_toggled.insert(node.row.id);
+}
+
+void TableView::toggle(const QModelIndex &index)
+{
+    setExpanded(index.siblingAtColumn(0), !isExpanded(index.siblingAtColumn(0)));
+}
+
+void TableView::deselectBelow(const QModelIndex &index)
+{
+    // A row that cannot be seen must not be opened or copied with the others.
+    QItemSelection hidden;
+    for (const QItemSelectionRange &range : selectionModel()->selection()) {
+        for (QModelIndex above = range.parent(); above.isValid(); above = above.parent()) {
+            if (above == index) {
+                hidden.append(range);
+                break;
+            }
+        }
+    }
+    selectionModel()->select(hidden, QItemSelectionModel::Deselect);
+}
+
+QList<TableRow> TableView::selectedRows() const
+{
+    std::unordered_set<RowTree::Number> selected;
+    for (const QItemSelectionRange &range : selectionModel()->selection()) {
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            selected.insert(m_model.index(row, 0, range.parent()).internalId());
+    }
+    QList<TableRow> rows;
+    rows.reserve(static_cast<qsizetype>(selected.size()));
+    // Numbers go level by level; people read from top to bottom.
+    const RowTree &tree = *m_model.tree();
+    std::vector<RowTree::Number> open{RowTree::root};
+    while (!open.empty() && static_cast<std::size_t>(rows.size()) < selected.size()) {
+        const RowTree::Number number = open.back();
+        open.pop_back();
+        if (selected.contains(number))
+            rows.append(tree.row(number));
+        const RowTree::Node &node = tree.node(number);
+        for (int child = node.childCount - 1; child >= 0; --child)
+            open.push_back(node.firstChild + static_cast<RowTree::Number>(child));
+    }
+    return rows;
+}
+
+void TableView::setEmptyText(const QString &text)
+{
+    m_emptyLabel.setText(text);
+    m_emptyLabel.setVisible(m_model.rowCount() == 0 && !text.isEmpty());
+    setAccessibleDescription(m_model.rowCount() == 0 ? text : QString());
+}
+
+QString TableView::emptyText() const
+{
+    return m_model.rowCount() == 0 ? m_emptyLabel.text() : QString();
+}
+
+void TableView::showTree(const SharedRowTree &tree, Scrolling scrolling)
+{
+    if (tree == m_model.tree()) {
+        // The same rows, but perhaps with other icons.
+        viewport()->update();
+        if (scrolling == Scrolling::ToTop)
+            scrollToTop();
+        return;
+    }
+    const Place before = place();
+    m_isRestoring = true;
+    m_model.setTree(tree);
+    openFoldersAndSections();
+    restore(before, scrolling);
+    m_isRestoring = false;
+    setEmptyText(m_emptyLabel.text());
+}
+
+TableView::Place TableView::place() const
+{
+    Place place;
+    for (const QItemSelectionRange &range : selectionModel()->selection()) {
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            place.selected.insert(m_model.rowAt(m_model.index(row, 0, range.parent())).id);
+    }
+    if (const QModelIndex current = currentIndex(); current.isValid()) {
+        place.current = m_model.rowAt(current).id;
+        place.column = current.column();
+    }
+    place.isAtTop = verticalScrollBar()->value() == verticalScrollBar()->minimum();
+    place.horizontal = horizontalScrollBar()->value();
+    if (const QModelIndex top = indexAt(QPoint(0, 0)); top.isValid()) {
+        place.top = m_model.rowAt(top).id;
+        place.topOffset = visualRect(top).top();
+    }
+    return place;
+}
+
+void TableView::openFoldersAndSections()
+{
+    const std::vector<RowTree::Node> &nodes = m_model.tree()->nodes();
+    for (RowTree::Number number = 1; number < nodes.size(); ++number) {
+        if (nodes[number].childCount > 0 && isOpen(nodes[number]))
+            setExpanded(m_model.indexOf(number), true);
+    }
+}
+
+void TableView::restore(const Place &place, Scrolling scrolling)
+{
+    const std::vector<RowTree::Node> &nodes = m_model.tree()->nodes();
+    QItemSelection selection;
+    QSet<QString> wanted = place.selected;
+    QModelIndex current;
+    QModelIndex top;
+    // Neighbours are selected together: many single rows would slow down every question about the selection.
+    RowTree::Number first = RowTree::root;
+    RowTree::Number last = RowTree::root;
+    const auto select = [&] {
+        if (first != RowTree::root)
+            selection.append(QItemSelectionRange(m_model.indexOf(first),
+                                                 m_model.indexOf(last, m_model.columnCount() - 1)));
+    };
+    for (RowTree::Number number = 1; number < nodes.size(); ++number) {
+        const QString &id = nodes[number].row.id;
+        if (!place.current.isEmpty() && !current.isValid() && id == place.current)
+            current = m_model.indexOf(number, place.column);
+        if (!place.top.isEmpty() && !top.isValid() && id == place.top)
+            top = m_model.indexOf(number);
+        if (wanted.isEmpty() || !wanted.remove(id))
+            continue;
+        if (first != RowTree::root && last + 1 == number && nodes[last].parent == nodes[number].parent) {
+            last = number;
+            continue;
+        }
+        select();
+        first = last = number;
+    }
+    select();
+    selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+    // After the selection, of which it is to say nothing.
+    if (current.isValid())
+        selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
+
+    if (scrolling == Scrolling::ToTop || place.isAtTop) {
+        scrollToTop();
+    } else if (top.isValid()) {
+        scrollTo(top, QAbstractItemView::PositionAtTop);
+        QScrollBar &bar = *verticalScrollBar();
+        bar.setValue(bar.value() + visualRect(top).top() - place.topOffset);
+    }
+    horizontalScrollBar()->setValue(place.horizontal);
+}
+
+void TableView::drawRow(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
+{
+    if (isKind(index, Kind::Section))
+        drawSection(painter, option, index);
+    else
+        QTreeView::drawRow(painter, option, index);
+}
+
+void TableView::drawSection(QPainter *painter, const QStyleOptionViewItem &option,
+                            const QModelIndex &index) const
+{
+    QStyleOptionViewItem row = option;
+    row.features &= ~QStyleOptionViewItem::Alternate;
+    row.state.setFlag(QStyle::State_Selected, false);
+    row.rect = QRect(0, option.rect.top(), viewport()->width(), option.rect.height());
+    painter->fillRect(row.rect, palette().color(QPalette::Base));
+    style()->drawPrimitive(QStyle::PE_PanelItemViewRow, &row, painter, this);
+
+    const int arrow = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
+    const int margin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1;
+    const auto mirrored = [&row](const QRect &rect) {
+        return QStyle::visualRect(row.direction, row.rect, rect);
+    };
+    QRect rest = row.rect;
+    QStyleOption branch = row;
+    branch.rect = mirrored(QRect(rest.left(), rest.top(), arrow, rest.height()));
+    branch.state = QStyle::State_Children | QStyle::State_Enabled;
+    branch.state.setFlag(QStyle::State_Open, isExpanded(index));
+    style()->drawPrimitive(QStyle::PE_IndicatorBranch, &branch, painter, this);
+    rest.setLeft(rest.left() + arrow + margin);
+
+    if (const QIcon icon = index.data(Qt::DecorationRole).value<QIcon>(); !icon.isNull()) {
+        const int side = row.decorationSize.height();
+        icon.paint(painter, mirrored(QRect(rest.left(), rest.top(), side, rest.height())));
+        rest.setLeft(rest.left() + side + 2 * margin);
+    }
+    QFont bold = font();
+    bold.setBold(true);
+    painter->save();
+    painter->setFont(bold);
+    const QString title =
+        QFontMetrics(bold).elidedText(index.data().toString(), Qt::ElideRight, rest.width());
+    style()->drawItemText(painter, mirrored(rest), static_cast<int>(Qt::AlignVCenter | Qt::AlignLeading),
+                          palette(), isEnabled(), title, QPalette::Text);
+    painter->restore();
+
+    if (hasFocus() && currentIndex().siblingAtColumn(0) == index.siblingAtColumn(0)) {
+        QStyleOptionFocusRect focus;
+        focus.initFrom(this);
+        focus.rect = row.rect;
+        focus.state |= QStyle::State_KeyboardFocusChange | QStyle::State_Item;
+        focus.backgroundColor = palette().color(QPalette::Base);
+        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, painter, this);
+    }
+}
+
+void TableView::mousePressEvent(QMouseEvent *event)
+{
+    const QModelIndex index = indexAt(event->position().toPoint());
+    if (!isKind(index, Kind::Section)) {
+        QTreeView::mousePressEvent(event);
+        return;
+    }
+    if (event->button() != Qt::LeftButton)
+        return;
+    selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+    toggle(index);
+}
+
+void TableView::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    const QModelIndex index = indexAt(event->position().toPoint());
+    if (isKind(index, Kind::Section)) {
+        // Each of two quick clicks counts.
+        mousePressEvent(event);
+        return;
+    }
+    QTreeView::mouseDoubleClickEvent(event);
+    if (event->button() == Qt::LeftButton && isKind(index, Kind::Link))
+        Q_EMIT openRequested();
+}
+
+void TableView::keyPressEvent(QKeyEvent *event)
+{
+    if (event->matches(QKeySequence::Copy)) {
+        Q_EMIT copyRequested();
+        return;
+    }
+    const QModelIndex current = currentIndex();
+    const bool hasModifiers = (event->modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier;
+    switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (hasModifiers)
+            break;
+        if (isKind(current, Kind::Section) || isKind(current, Kind::Folder))
+            toggle(current);
+        else
+            Q_EMIT openRequested();
+        return;
+    case Qt::Key_Space:
+        if (!isKind(current, Kind::Section))
+            break;
+        toggle(current);
+        return;
+    default:
+        break;
+    }
+    QTreeView::keyPressEvent(event);
+}
+
+void TableView::contextMenuEvent(QContextMenuEvent *event)
+{
+    const bool isMouse = event->reason() == QContextMenuEvent::Mouse;
+    const QModelIndex index = isMouse ? indexAt(event->pos()) : currentIndex();
+    if (!index.isValid() || isKind(index, Kind::Section))
+        return;
+    if (!selectionModel()->isSelected(index))
+        setCurrentIndex(index);
+    if (isMouse) {
+        Q_EMIT linkMenuRequested(event->globalPos());
+        return;
+    }
+    scrollTo(index);
+    Q_EMIT linkMenuRequested(viewport()->mapToGlobal(visualRect(index).center()));
+}
+
+void TableView::resizeEvent(QResizeEvent *event)
+{
+    QTreeView::resizeEvent(event);
+    m_emptyLabel.setGeometry(viewport()->rect());
+}
+
+} // namespace roamlet
