@@ -1,0 +1,86 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "Platform/Clock.h"
+#include "Platform/Update.h"
+
+#include <QByteArray>
+#include <QObject>
+#include <QPointer>
+#include <QUrl>
+
+#include <functional>
+#include <optional>
+
+class QNetworkAccessManager;
+class QNetworkReply;
+
+namespace roamlet
+{
+
+/// How all addresses of an update are fetched.
+struct HttpOptions {
+    enum class Loopback { Refused, Allowed };
+
+    /// Whether this machine's own address will do without encryption. Nobody stands in between there; tests
+    /// need it.
+    Loopback loopback = Loopback::Refused;
+    /// The longest time in which nothing comes.
+    Clock::Duration patience = std::chrono::seconds(30);
+    /// How the program calls itself.
+    QByteArray userAgent;
+
+    /// Whether an answer from there can be trusted to be from there.
+    bool allows(const QUrl &address) const;
+};
+
+/// One address that is being fetched. Destroying it cancels it, and nothing is called any more. On the main
+/// thread.
+class HttpTransfer final : public QObject
+{
+public:
+    struct Head {
+        /// The length of what comes, when the server says.
+        std::optional<qint64> length;
+        /// As "text/html", without anything behind it.
+        QString contentType;
+        /// Where the redirects ended.
+        QUrl address;
+    };
+    struct Handlers {
+        /// Called once, before the first piece. An error that it returns ends the transfer.
+        std::function<std::optional<UpdateError>(const Head &)> begin;
+        /// Called for each piece. An error that it returns ends the transfer.
+        std::function<std::optional<UpdateError>(const QByteArray &)> receive;
+        /// Called at the end, with nothing when everything came. It may destroy the transfer.
+        std::function<void(const std::optional<UpdateError> &)> finish;
+    };
+
+    /// Starts at once; the handlers are called from the event loop. With a `limit` everything has to be there
+    /// within that time.
+    HttpTransfer(QNetworkAccessManager &network, const Clock &clock, HttpOptions options, const QUrl &address,
+                 Handlers handlers, std::optional<Clock::Duration> limit = {});
+    ~HttpTransfer() override;
+
+private:
+    void send(QNetworkAccessManager &network, const QUrl &address);
+    void watch();
+    void follow(const QUrl &address);
+    void readPieces();
+    std::optional<UpdateError> begin();
+    void complete();
+    UpdateError replyError() const;
+    void finish(const std::optional<UpdateError> &error);
+    void letGo();
+
+    const Clock &m_clock;
+    HttpOptions m_options;
+    Handlers m_handlers;
+    QPointer<QNetworkReply> m_reply;
+    bool m_hasBegun = false;
+    bool m_hasHeardSomething = false;
+};
+
+} // namespace roamlet

@@ -1,0 +1,69 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "Platform/Linux/Updates/HttpTransfer.h"
+
+#include <QFile>
+#include <QObject>
+
+#include <memory>
+#include <thread>
+
+namespace roamlet
+{
+
+/// A package that is being fetched into a file and checked. The file gets its name only when its length and
+/// its signature are right; before, and after any failure, there is no such file. Destroying the download
+/// cancels it. On the main thread.
+class PackageDownload
+{
+public:
+    struct Package {
+        QUrl address;
+        /// In bytes, when the feed says.
+        std::optional<qint64> length;
+        /// In Base64, as the feed has it.
+        QByteArray signature;
+    };
+    struct Handlers {
+        /// How far it is. The total is absent when nobody said how much there is.
+        std::function<void(qint64 received, std::optional<qint64> total)> progress;
+        /// Everything is there and is being checked.
+        std::function<void()> verifying;
+        /// Called at the end, with nothing when the file stands. It may destroy the download.
+        std::function<void(const std::optional<UpdateError> &)> finish;
+    };
+
+    /// `key` is the decoded public key; `target` the path of the file, in a folder that exists.
+    PackageDownload(QNetworkAccessManager &network, const Clock &clock, const HttpOptions &options,
+                    Package package, const QByteArray &key, const QString &target, Handlers handlers);
+    PackageDownload(const PackageDownload &) = delete;
+    PackageDownload &operator=(const PackageDownload &) = delete;
+    ~PackageDownload();
+
+private:
+    std::optional<UpdateError> prepare();
+    std::optional<UpdateError> begin(const HttpTransfer::Head &head);
+    std::optional<UpdateError> receive(const QByteArray &piece);
+    void verify();
+    void finish(const std::optional<UpdateError> &error);
+    UpdateError writeError() const;
+
+    Package m_package;
+    QByteArray m_key;
+    QByteArray m_signature;
+    QString m_target;
+    Handlers m_handlers;
+    QFile m_file;
+    std::optional<qint64> m_total;
+    qint64 m_received = 0;
+    /// What the check found; written by its thread and read when that has ended.
+    std::optional<UpdateError> m_verdict;
+    std::unique_ptr<HttpTransfer> m_transfer;
+    QObject m_receiver;
+    std::jthread m_verification;
+};
+
+} // namespace roamlet

@@ -1,0 +1,90 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "Platform/Linux/Updates/UpdateInstaller.h"
+
+#include "Platform/Linux/LinuxIO.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+#include <sys/stat.h>
+
+#include <cstdio>
+#include <utility>
+
+namespace roamlet
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+UpdateError lastErrorAs(UpdateError::Code code)
+{
+    return {code, QString::fromStdString(lastError().message())};
+}
+
+} // namespace
+
+UpdateInstaller::Environment UpdateInstaller::Environment::ofThisProcess()
+{
+    return {.appImage = qEnvironmentVariable("APPIMAGE"),
+            .packageFolder =
+                QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) % u"/Roamlet/Updates",
+            .startProcess = {},
+            .restart = {}};
+}
+
+UpdateInstaller::UpdateInstaller(Environment environment) : m_environment(std::move(environment)) {}
+
+std::expected<QString, UpdateError> UpdateInstaller::packagePath() const
+{
+    if (m_environment.appImage.isEmpty()) {
+        const QString folder = m_environment.packageFolder;
+        if (!QDir().mkpath(folder) || ::chmod(QFile::encodeName(folder).constData(), S_IRWXU) != 0)
+            return std::unexpected(lastErrorAs(UpdateError::Code::CannotWrite));
+        return QString(folder % u"/Roamlet.deb");
+    }
+    // In the same folder, so that it takes a mere renaming to put it in its place.
+    const QFileInfo program(QFileInfo(m_environment.appImage).canonicalFilePath());
+    if (!program.isFile())
+        return std::unexpected(UpdateError{UpdateError::Code::CannotInstall, m_environment.appImage});
+    return QString(program.path() % u"/." % program.fileName() % u".update");
+}
+
+std::optional<UpdateError> UpdateInstaller::install()
+{
+    const auto package = packagePath();
+    if (!package)
+        return package.error();
+    if (!m_environment.appImage.isEmpty())
+        return replaceAppImage(*package);
+    if (!m_environment.startProcess(u"xdg-open"_s, {*package}))
+        return UpdateError{UpdateError::Code::CannotInstall, u"xdg-open"_s};
+    return {};
+}
+
+std::optional<UpdateError> UpdateInstaller::replaceAppImage(const QString &package) const
+{
+    const QString program = QFileInfo(m_environment.appImage).canonicalFilePath();
+    const QByteArray oldName = QFile::encodeName(program);
+    const QByteArray newName = QFile::encodeName(package);
+    struct stat attributes = {};
+    constexpr mode_t permissions = S_IRWXU | S_IRWXG | S_IRWXO;
+    // The program that runs keeps its own file open; what it started from may go.
+    if (::stat(oldName.constData(), &attributes) != 0 ||
+        ::chmod(newName.constData(), (attributes.st_mode & permissions) | S_IXUSR) != 0 ||
+        std::rename(newName.constData(), oldName.constData()) != 0) {
+        const UpdateError error = lastErrorAs(UpdateError::Code::CannotInstall);
+        QFile::remove(package);
+        return error;
+    }
+    m_environment.restart(m_environment.appImage);
+    return {};
+}
+
+} // namespace roamlet

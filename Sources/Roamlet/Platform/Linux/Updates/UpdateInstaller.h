@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "Platform/Update.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <expected>
+#include <functional>
+#include <optional>
+
+namespace roamlet
+{
+
+/// Puts a package that was downloaded and checked in its place. On the main thread.
+class UpdateInstaller
+{
+public:
+    struct Environment {
+        /// The AppImage that the program was started from; empty when it was not.
+        QString appImage;
+        /// Where packages for the desktop's installer are kept. Nothing else is to be in there.
+        QString packageFolder;
+        /// Starts a program without waiting for it, and says whether that went well.
+        std::function<bool(const QString &program, const QStringList &arguments)> startProcess;
+        /// Ends this program in an orderly way and then starts the one at `path`. It must not be started
+        /// before this one has ended: of two, the second hands over to the first.
+        std::function<void(const QString &path)> restart;
+
+        /// Where this process keeps packages and whether it is an AppImage; the functions are left empty.
+        static Environment ofThisProcess();
+    };
+
+    explicit UpdateInstaller(Environment environment);
+
+    /// Where the package has to be for install(). Its folder is there, or the error tells why not.
+    std::expected<QString, UpdateError> packagePath() const;
+    /// Hands the package to the desktop's installer, or replaces the AppImage by it and restarts. Nothing
+    /// when that went well.
+    std::optional<UpdateError> install();
+
+private:
+    std::optional<UpdateError> replaceAppImage(const QString &package) const;
+
+    Environment m_environment;
+};
+
+} // namespace roamlet

@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "Platform/Clock.h"
+
+#include <QObject>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+namespace roamlet
+{
+
+class UserDefaults;
+
+/// When it is time for the next automatic check: once a day, and after a failure sooner, but less and less
+/// often. One timer runs until then, and none where nothing is to be checked. On the main thread.
+class UpdateSchedule
+{
+public:
+    /// `check` is called each time a check is due. The schedule then rests until the check's end is told.
+    UpdateSchedule(const Clock &clock, UserDefaults &defaults, std::function<void()> check);
+
+    /// Begins to plan. Without this call no check is ever due.
+    void start();
+    /// Whether the user wants automatic checks; they do until they say otherwise.
+    bool isAutomatic() const;
+    void setAutomatic(bool isAutomatic);
+
+    /// A check has begun, whoever asked for it.
+    void beginCheck();
+    /// The feed was read. From now on it is a day again.
+    void noteSuccess();
+    /// An automatic check failed.
+    void noteFailure();
+    /// The check that had begun is over, and the next one can be planned.
+    void endCheck();
+
+private:
+    void plan();
+    Clock::Duration timeUntilNextCheck();
+    std::optional<std::chrono::system_clock::time_point> lastCheck() const;
+    void setLastCheck(std::chrono::system_clock::time_point time);
+
+    const Clock &m_clock;
+    UserDefaults &m_defaults;
+    std::function<void()> m_check;
+    bool m_isStarted = false;
+    bool m_isChecking = false;
+    /// How often in a row it failed.
+    int m_failures = 0;
+    /// The timer's context; the timer ends with it.
+    std::unique_ptr<QObject> m_timer;
+};
+
+} // namespace roamlet

@@ -1,0 +1,240 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "Platform/Linux/Updates/UpdateSession.h"
+
+#include "Platform/UpdateDriver.h"
+
+#include <utility>
+
+namespace roamlet
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+constexpr qint64 longestFeed = qint64{8} << 20U;
+constexpr qint64 longestNotes = qint64{1} << 20U;
+
+ReleaseNotes notesOf(const DocumentDownload::Document &document)
+{
+    ReleaseNotes result;
+    const QString path = document.head.address.path();
+    if (document.head.contentType == u"text/markdown" || path.endsWith(u".md"_s))
+        result.format = ReleaseNotes::Format::Markdown;
+    else if (document.head.contentType == u"text/plain" || path.endsWith(u".txt"_s))
+        result.format = ReleaseNotes::Format::Plain;
+    result.text = QString::fromUtf8(document.content);
+    return result;
+}
+
+} // namespace
+
+/// The user answers when they like; by then the question may be another one, or nobody may be left to listen.
+template<typename Action>
+auto UpdateSession::inThisStep(Action action) const
+{
+    return [step = QPointer(m_step.get()), action = std::move(action)](auto... arguments) {
+        if (!step)
+            return;
+        // Acting can close the window that holds this.
+        const auto act = action;
+        act(arguments...);
+    };
+}
+
+UpdateSession::UpdateSession(const Setup &setup, Origin origin, Handlers handlers)
+    : m_setup(setup), m_handlers(std::move(handlers)), m_origin(origin)
+{
+}
+
+void UpdateSession::start()
+{
+    beginStep();
+    if (m_origin == Origin::User) {
+        m_sight = Sight::Window;
+        m_setup.userInterface.showChecking(inThisStep([this] { finish(); }));
+    }
+    if (m_setup.feed.isEmpty() || m_setup.publicKey.isEmpty())
+        return failToRead({UpdateError::Code::NotConfigured, {}});
+    m_document = std::make_unique<DocumentDownload>(
+        m_network, m_setup.clock, m_setup.http, m_setup.feed, longestFeed,
+        [this](const std::expected<DocumentDownload::Document, UpdateError> &feed) { readFeed(feed); });
+}
+
+void UpdateSession::bringToFront()
+{
+    m_origin = Origin::User;
+    if (m_sight == Sight::Window) {
+        m_setup.userInterface.focus();
+        if (m_choice)
+            giveAttention();
+        return;
+    }
+    if (m_choice)
+        return showUpdate();
+    m_sight = Sight::Window;
+    m_setup.userInterface.showChecking(inThisStep([this] { finish(); }));
+}
+
+void UpdateSession::readFeed(const std::expected<DocumentDownload::Document, UpdateError> &feed)
+{
+    if (!feed)
+        return failToRead(feed.error());
+    const auto items = Feed::parse(feed->content, feed->head.address);
+    m_document.reset();
+    if (!items)
+        return failToRead(items.error());
+    m_handlers.feedRead();
+    const std::optional<UpdateChoice> choice = UpdateChoice::best(*items, m_setup.host);
+    // Who asks wants to know, whatever was skipped before; and some updates are not to be skipped.
+    if (choice &&
+        (m_origin == Origin::User || choice->isCritical || !m_handlers.isSkipped(choice->item.version)))
+        return offer(*choice);
+    if (m_origin == Origin::Schedule)
+        return finish();
+    beginStep();
+    m_setup.userInterface.showUpToDate(inThisStep([this] { finish(); }));
+}
+
+void UpdateSession::failToRead(const UpdateError &error)
+{
+    m_handlers.feedFailed();
+    fail(error);
+}
+
+void UpdateSession::offer(const UpdateChoice &choice)
+{
+    m_choice = choice;
+    beginStep();
+    if (m_origin == Origin::Schedule)
+        return offerBySchedule();
+    m_setup.delegate.willHandleShowingUpdate(true, choice.update(), state());
+    showUpdate();
+}
+
+void UpdateSession::offerBySchedule()
+{
+    UpdateDriverDelegate &delegate = m_setup.delegate;
+    const Update update = m_choice->update();
+    const bool handlesShowing = !delegate.supportsGentleScheduledUpdateReminders() ||
+                                delegate.shouldHandleShowingScheduledUpdate(update, m_setup.isInFront());
+    delegate.willHandleShowingUpdate(handlesShowing, update, state());
+    // Otherwise it waits until the user asks.
+    if (handlesShowing)
+        showUpdate();
+}
+
+void UpdateSession::showUpdate()
+{
+    m_sight = Sight::Window;
+    const Update update = m_choice->update();
+    m_setup.userInterface.showUpdate(
+        update, inThisStep([this](UpdateUserInterface::Choice choice) { choose(choice); }));
+    if (m_origin == Origin::User || m_setup.isInFront())
+        giveAttention();
+    if (!update.notes && m_choice->item.notesAddress.isValid())
+        fetchNotes();
+}
+
+void UpdateSession::fetchNotes()
+{
+    m_document = std::make_unique<DocumentDownload>(
+        m_network, m_setup.clock, m_setup.http, m_choice->item.notesAddress, longestNotes,
+        // The update is as good without its notes.
+        [this](const std::expected<DocumentDownload::Document, UpdateError> &document) {
+            if (document)
+                m_setup.userInterface.showReleaseNotes(notesOf(*document));
+            m_document.reset();
+        });
+}
+
+void UpdateSession::choose(UpdateUserInterface::Choice choice)
+{
+    giveAttention();
+    m_document.reset();
+    switch (choice) {
+    case UpdateUserInterface::Choice::Install:
+        return download();
+    case UpdateUserInterface::Choice::Skip:
+        m_handlers.skip(m_choice->item.version);
+        return finish();
+    case UpdateUserInterface::Choice::Later:
+        return finish();
+    }
+}
+
+void UpdateSession::download()
+{
+    beginStep();
+    const auto path = m_setup.installer.packagePath();
+    if (!path)
+        return fail(path.error());
+    m_setup.userInterface.showDownload(m_choice->update(), inThisStep([this] { finish(); }));
+    const FeedItem::Package &package = m_choice->package;
+    m_package = std::make_unique<PackageDownload>(
+        m_network, m_setup.clock, m_setup.http,
+        PackageDownload::Package{
+            .address = package.address, .length = package.length, .signature = package.signature},
+        m_setup.publicKey, *path,
+        PackageDownload::Handlers{
+            .progress =
+                [this](qint64 received, std::optional<qint64> total) {
+                    m_setup.userInterface.setDownloadProgress(received, total);
+                },
+            .verifying = [this] { m_setup.userInterface.showVerifying(); },
+            .finish =
+                [this](const std::optional<UpdateError> &error) {
+                    if (error)
+                        fail(*error);
+                    else
+                        install();
+                },
+        });
+}
+
+void UpdateSession::install()
+{
+    m_package.reset();
+    beginStep();
+    if (const auto error = m_setup.installer.install())
+        return fail(*error);
+    finish();
+}
+
+void UpdateSession::fail(const UpdateError &error)
+{
+    m_document.reset();
+    m_package.reset();
+    beginStep();
+    // Nobody asked, so nobody is bothered; the next check tries again.
+    if (m_sight == Sight::Nothing)
+        return finish();
+    m_setup.userInterface.showError(error, inThisStep([this] { finish(); }));
+}
+
+void UpdateSession::finish()
+{
+    m_document.reset();
+    m_package.reset();
+    m_step.reset();
+    if (m_sight == Sight::Window)
+        m_setup.userInterface.close();
+    m_setup.delegate.willFinishUpdateSession();
+    m_handlers.finish();
+}
+
+void UpdateSession::giveAttention()
+{
+    if (!std::exchange(m_hasAttention, true))
+        m_setup.delegate.didReceiveUserAttention(m_choice->update());
+}
+
+UpdateState UpdateSession::state() const
+{
+    return {.stage = UpdateState::Stage::NotDownloaded, .isUserInitiated = m_origin == Origin::User};
+}
+
+} // namespace roamlet
