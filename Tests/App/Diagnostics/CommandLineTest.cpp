@@ -39,6 +39,8 @@ Command command(Job job, const std::optional<QString> &argument = {},
 TEST(CommandLineTest, nothingAsksForTheWindows)
 {
     EXPECT_EQ(Command::of({}), command(Job::Windows));
+    EXPECT_EQ(Command::of({u"--started-at-login"_s}), command(Job::Windows));
+    EXPECT_EQ(Command::of({u"--started-at-login"_s, u"--what"_s}), command(Job::Unknown, u"--what"_s));
 }
 
 TEST(CommandLineTest, eachSwitchAloneIsItsJob)

@@ -63,6 +63,16 @@ TEST_F(ProgramJobsTest, anUnknownSwitchIsNotObeyedByTheTerminal)
     EXPECT_THAT(ended.errors.toStdString(), AllOf(HasSubstr("[31mred"), ::testing::Not(HasSubstr("\x1b"))));
 }
 
+TEST_F(ProgramJobsTest, aWindowWithoutADisplayIsAFailureWithAReason)
+{
+    for (const QString &name : {u"DISPLAY"_s, u"WAYLAND_DISPLAY"_s, u"QT_QPA_PLATFORM"_s})
+        program.environment.remove(name);
+    const Ended ended = program.run({});
+    EXPECT_EQ(ended.status, 1);
+    EXPECT_EQ(ended.output, "");
+    EXPECT_THAT(ended.errors.toStdString(), AllOf(HasSubstr("no display"), HasSubstr("--help")));
+}
+
 TEST_F(ProgramJobsTest, theSwitchTestedFirstDecides)
 {
     home.addPages();

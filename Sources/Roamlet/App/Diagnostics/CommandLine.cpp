@@ -3,6 +3,8 @@
 
 #include "App/Diagnostics/CommandLine.h"
 
+#include "Platform/Linux/AutostartLoginService.h"
+
 namespace roamlet
 {
 
@@ -42,8 +44,10 @@ Command Command::of(const QStringList &arguments)
         return {.job = Job::Help, .argument = {}, .sourceID = {}};
     if (arguments.contains(u"--version") || arguments.contains(u"-v"))
         return {.job = Job::Version, .argument = {}, .sourceID = {}};
-    if (!arguments.isEmpty())
-        return {.job = Job::Unknown, .argument = arguments.first(), .sourceID = {}};
+    for (const QString &argument : arguments) {
+        if (argument != QLatin1StringView(AutostartLoginService::launchMarker))
+            return {.job = Job::Unknown, .argument = argument, .sourceID = {}};
+    }
     return {};
 }
 

@@ -14,6 +14,8 @@
 #include <QCoreApplication>
 #include <QFile>
 
+#include <algorithm>
+#include <array>
 #include <optional>
 
 namespace roamlet::DiagnosticRun
@@ -34,6 +36,13 @@ QStringList argumentsOf(int argc, char **argv)
     for (int i = 1; i < argc; ++i)
         result.append(QFile::decodeName(argv[i]));
     return result;
+}
+
+/// Without one, Qt would end the process without a word that helps.
+bool hasDisplay()
+{
+    return std::ranges::any_of(std::array{"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"},
+                               [](const char *name) { return !qEnvironmentVariableIsEmpty(name); });
 }
 
 int printed(Console &console, const QString &text)
@@ -69,7 +78,11 @@ std::optional<int> run(int argc, char **argv)
     case Command::Job::Version:
         return printed(console, u"Roamlet " ROAMLET_VERSION "\n"_s);
     case Command::Job::Windows:
-        return {};
+        if (hasDisplay())
+            return {};
+        complain(console,
+                 u"there is no display to open a window on. roamlet --help lists what works without one."_s);
+        return failure;
     case Command::Job::Unknown:
         complain(console, u"unknown switch "_s % command.argument.value_or(QString()) %
                               u". roamlet --help lists what there is.");
