@@ -109,4 +109,10 @@ QIcon symbolIcon(const QString &name, const std::optional<QColor> &color)
     return QIcon(new SymbolEngine(path, color));
 }
 
+QIcon applicationIcon()
+{
+    useResources();
+    return QIcon::fromTheme(u"org.roamlet.Roamlet"_s, QIcon(u":/org.roamlet.Roamlet.svg"_s));
+}
+
 } // namespace roamlet

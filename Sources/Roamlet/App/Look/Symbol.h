@@ -17,4 +17,7 @@ namespace roamlet
 /// icon for a name that there is not.
 QIcon symbolIcon(const QString &name, const std::optional<QColor> &color = {});
 
+/// The program's own icon: the desktop theme's drawing of it where there is one, and otherwise ours.
+QIcon applicationIcon();
+
 } // namespace roamlet
