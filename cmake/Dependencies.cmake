@@ -10,6 +10,7 @@ pkg_check_modules(PLIST REQUIRED IMPORTED_TARGET libplist-2.0)
 pkg_check_modules(SODIUM REQUIRED IMPORTED_TARGET libsodium)
 pkg_check_modules(GIO REQUIRED IMPORTED_TARGET gio-2.0 gio-unix-2.0)
 pkg_check_modules(X11 REQUIRED IMPORTED_TARGET x11)
+pkg_check_modules(XCB REQUIRED IMPORTED_TARGET xcb)
 # Debian's package of libxdo says nothing to pkg-config.
 find_library(XDO_LIBRARY xdo REQUIRED)
 find_path(XDO_INCLUDE_FOLDER xdo.h REQUIRED)
