@@ -128,6 +128,8 @@ QList<DesktopEntry> DesktopEntry::named(const QString &name, const QStringList &
 
 void DesktopEntry::launchPreferred(const QString &scheme, const QStringList &urls)
 {
+    if (scheme.isEmpty())
+        return;
     const GLibPointer<GAppInfo> info(g_app_info_get_default_for_uri_scheme(scheme.toUtf8().constData()));
     if (info && G_IS_DESKTOP_APP_INFO(info.get()) != FALSE)
         launchWith(G_DESKTOP_APP_INFO(info.get()), urls);

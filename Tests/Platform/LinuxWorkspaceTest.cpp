@@ -1,0 +1,404 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "Platform/Linux/LinuxWorkspace.h"
+
+#include "Platform/FakeBrowserWindows.h"
+#include "Platform/FakeDesktop.h"
+#include "Support/TestHome.h"
+
+#include <QDir>
+
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/prctl.h>
+#include <sys/wait.h>
+
+#include <cerrno>
+#include <chrono>
+
+namespace roamlet::testing
+{
+namespace
+{
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+const QString chromeID = u"com.google.Chrome"_s;
+const QString edgeID = u"com.microsoft.edgemac"_s;
+const QString safariID = u"com.apple.Safari"_s;
+
+class LinuxWorkspaceTest : public ::testing::Test
+{
+protected:
+    LinuxWorkspaceTest()
+        : workspace(desktop.dataFolders(), home.folders, home.clock, takeWindows(),
+                    {QDBusConnection(u"nobody"_s), [this](const QString &text) { clipboard = text; },
+                     [](const QString &) { return PasteNotice::Words(); }})
+    {
+    }
+
+    std::unique_ptr<BrowserWindows> takeWindows()
+    {
+        auto owner = std::make_unique<FakeBrowserWindows>();
+        windows = owner.get();
+        return owner;
+    }
+
+    /// Makes the browser's data lie in this folder below the home folder.
+    void keepDataIn(const QString &folder) { ASSERT_TRUE(QDir().mkpath(home.path(folder))); }
+
+    void addFlatpakChrome()
+    {
+        desktop.addEntry(u"com.google.Chrome.desktop"_s,
+                         desktop.addProgram(u"flatpak"_s) %
+                             u" run --branch=stable --command=/app/bin/chrome --file-forwarding "
+                             "com.google.Chrome @@u %U @@");
+    }
+
+    /// The program that opens a link of this browser's profile.
+    QString programForLink(const QString &bundleID)
+    {
+        EXPECT_TRUE(workspace.openInProfile({u"http://a/"_s}, bundleID, u"Default"_s));
+        return desktop.onlyStart().program;
+    }
+
+    TestHome home;
+    FakeDesktop desktop;
+    FakeBrowserWindows *windows = nullptr;
+    QString clipboard;
+    LinuxWorkspace workspace;
+};
+
+TEST_F(LinuxWorkspaceTest, AProfileIsOpenedByTheBrowsersOwnCommand)
+{
+    desktop.addApplication(u"google-chrome.desktop"_s, u"chrome"_s);
+    keepDataIn(u".config/google-chrome"_s);
+    EXPECT_TRUE(workspace.openInProfile({u"http://a/"_s, u"http://b/"_s}, chromeID, u"Profile 1"_s));
+    const FakeDesktop::Start start = desktop.onlyStart();
+    EXPECT_EQ(start.program, u"chrome");
+    EXPECT_EQ(start.arguments,
+              QStringList({u"--profile-directory=Profile 1"_s, u"--ignore-profile-directory-if-not-exists"_s,
+                           u"http://a/"_s, u"http://b/"_s}));
+}
+
+TEST_F(LinuxWorkspaceTest, NoShellSeesTheArguments)
+{
+    desktop.addApplication(u"google-chrome.desktop"_s, u"chrome"_s);
+    const QString url = u"http://a/$(touch x);`id`'\"&|\\ *?%u%20ä"_s;
+    workspace.openInProfile({url}, chromeID, u"$HOME \"1\""_s);
+    EXPECT_EQ(desktop.onlyStart().arguments,
+              QStringList({u"--profile-directory=$HOME \"1\""_s,
+                           u"--ignore-profile-directory-if-not-exists"_s, url}));
+}
+
+TEST_F(LinuxWorkspaceTest, TheEntrysOwnArgumentsStay)
+{
+    desktop.addEntry(u"google-chrome.desktop"_s, u"env LANG=C \"" % desktop.addProgram(u"my chrome"_s) %
+                                                     u"\" --dark \"--name=a b\" --rate=5%% %i %c %U");
+    workspace.openInProfile({u"http://a/"_s}, chromeID, u"Default"_s);
+    const FakeDesktop::Start start = desktop.onlyStart();
+    EXPECT_EQ(start.program, u"my chrome");
+    EXPECT_EQ(start.arguments,
+              QStringList({u"--dark"_s, u"--name=a b"_s, u"--rate=5%"_s, u"--profile-directory=Default"_s,
+                           u"--ignore-profile-directory-if-not-exists"_s, u"http://a/"_s}));
+}
+
+TEST_F(LinuxWorkspaceTest, EitherNameOfABrowsersEntryWillDo)
+{
+    desktop.addApplication(u"com.google.Chrome.desktop"_s, u"chrome"_s);
+    desktop.addApplication(u"com.microsoft.Edge.desktop"_s, u"edge"_s);
+    keepDataIn(u".config/google-chrome"_s);
+    keepDataIn(u".config/microsoft-edge"_s);
+    EXPECT_EQ(programForLink(chromeID), u"chrome");
+    EXPECT_TRUE(workspace.hasApplication(edgeID));
+}
+
+TEST_F(LinuxWorkspaceTest, EdgeIsKnownByItsPackagesEntry)
+{
+    desktop.addApplication(u"microsoft-edge.desktop"_s, u"edge"_s);
+    keepDataIn(u".config/microsoft-edge"_s);
+    EXPECT_EQ(programForLink(edgeID), u"edge");
+    EXPECT_FALSE(workspace.hasApplication(chromeID));
+}
+
+TEST_F(LinuxWorkspaceTest, DataOfTheFlatpakIsOpenedByTheFlatpak)
+{
+    desktop.addApplication(u"google-chrome.desktop"_s, u"chrome"_s);
+    addFlatpakChrome();
+    keepDataIn(u".var/app/com.google.Chrome/config/google-chrome"_s);
+    workspace.openInProfile({u"http://a/"_s}, chromeID, u"Default"_s);
+    const FakeDesktop::Start start = desktop.onlyStart();
+    EXPECT_EQ(start.program, u"flatpak");
+    EXPECT_EQ(start.arguments,
+              QStringList({u"run"_s, u"--branch=stable"_s, u"--command=/app/bin/chrome"_s,
+                           u"--file-forwarding"_s, u"com.google.Chrome"_s, u"--profile-directory=Default"_s,
+                           u"--ignore-profile-directory-if-not-exists"_s, u"http://a/"_s}));
+}
+
+TEST_F(LinuxWorkspaceTest, ThePackageIsToldFromTheFlatpakByItsCommand)
+{
+    addFlatpakChrome();
+    desktop.addEntry(u"com.google.Chrome.desktop"_s, desktop.addProgram(u"chrome"_s) % u" %U", {}, 1);
+    keepDataIn(u".config/google-chrome"_s);
+    EXPECT_EQ(programForLink(chromeID), u"chrome");
+}
+
+TEST_F(LinuxWorkspaceTest, AnotherInstallationDoesNotStandInForAProfile)
+{
+    addFlatpakChrome();
+    keepDataIn(u".config/google-chrome"_s);
+    // Its profiles are others, whatever their names.
+    EXPECT_TRUE(workspace.openInProfile({u"http://a/"_s}, chromeID, u"Default"_s));
+    EXPECT_TRUE(workspace.showPage(u"chrome://history/"_s, chromeID, u"Default"_s));
+    EXPECT_TRUE(desktop.starts().isEmpty());
+    EXPECT_EQ(windows->looks, 0);
+    // Without a profile the browser is the browser.
+    EXPECT_TRUE(workspace.hasApplication(chromeID));
+    workspace.open({u"http://a/"_s}, chromeID);
+    EXPECT_EQ(desktop.onlyStart().program, u"flatpak");
+}
+
+TEST_F(LinuxWorkspaceTest, ChromiumOpensItsOwnDataOnly)
+{
+    desktop.addApplication(u"chromium.desktop"_s, u"chromium"_s);
+    EXPECT_FALSE(workspace.hasApplication(chromeID));
+    keepDataIn(u".config/chromium"_s);
+    EXPECT_TRUE(workspace.hasApplication(chromeID));
+    EXPECT_EQ(programForLink(chromeID), u"chromium");
+    keepDataIn(u".config/google-chrome"_s);
+    EXPECT_FALSE(workspace.hasApplication(chromeID));
+}
+
+TEST_F(LinuxWorkspaceTest, ChromiumsOtherPackagesOpenTheirOwnData)
+{
+    desktop.addApplication(u"chromium.desktop"_s, u"chromium"_s);
+    desktop.addEntry(u"org.chromium.Chromium.desktop"_s,
+                     desktop.addProgram(u"flatpak"_s) % u" run org.chromium.Chromium @@u %U @@");
+    keepDataIn(u".var/app/org.chromium.Chromium/config/chromium"_s);
+    EXPECT_EQ(programForLink(chromeID), u"flatpak");
+}
+
+TEST_F(LinuxWorkspaceTest, ChromiumsSnapIsNotThePackage)
+{
+    desktop.addApplication(u"chromium.desktop"_s, u"chromium"_s);
+    keepDataIn(u"snap/chromium/common/chromium"_s);
+    workspace.openInProfile({u"http://a/"_s}, chromeID, u"Default"_s);
+    EXPECT_TRUE(desktop.starts().isEmpty());
+}
+
+TEST_F(LinuxWorkspaceTest, DataFromAMacIsOpenedByTheBrowserThatIsHere)
+{
+    keepDataIn(u"Library/Application Support/Google/Chrome"_s);
+    addFlatpakChrome();
+    EXPECT_EQ(programForLink(chromeID), u"flatpak");
+    desktop.addApplication(u"google-chrome.desktop"_s, u"chrome"_s);
+    workspace.open({u"http://a/"_s}, chromeID);
+    EXPECT_EQ(desktop.starts().value(0).program, u"chrome");
+}
+
+TEST_F(LinuxWorkspaceTest, AnEntryThatCannotBeStartedIsNoApplication)
+{
+    desktop.addEntry(u"google-chrome.desktop"_s, {});
+    EXPECT_FALSE(workspace.hasApplication(chromeID));
+    desktop.addEntry(u"google-chrome.desktop"_s, u""_s);
+    EXPECT_FALSE(workspace.hasApplication(chromeID));
+    desktop.addEntry(u"google-chrome.desktop"_s, u"%U"_s);
+    EXPECT_FALSE(workspace.hasApplication(chromeID));
+    desktop.addEntry(u"google-chrome.desktop"_s, u"/nonexistent/chrome %U"_s);
+    EXPECT_FALSE(workspace.hasApplication(chromeID));
+    desktop.addEntry(u"google-chrome.desktop"_s, u"\"unclosed %U"_s);
+    EXPECT_FALSE(workspace.hasApplication(chromeID));
+    desktop.addEntry(u"google-chrome.desktop"_s, desktop.addProgram(u"chrome"_s),
+                     u"TryExec=/nonexistent\n"_s);
+    EXPECT_FALSE(workspace.hasApplication(chromeID));
+
+    EXPECT_TRUE(workspace.openInProfile({u"http://a/"_s}, chromeID, u"Default"_s));
+    workspace.open({u"http://a/"_s}, chromeID);
+    EXPECT_TRUE(desktop.starts().isEmpty());
+    // The system's entry counts where the user's own is broken.
+    desktop.addEntry(u"google-chrome.desktop"_s, desktop.addProgram(u"chrome"_s) % u" %U", {}, 1);
+    EXPECT_TRUE(workspace.hasApplication(chromeID));
+}
+
+TEST_F(LinuxWorkspaceTest, AnEntryThatHidesTheApplicationHidesAllOfItsName)
+{
+    desktop.addEntry(u"google-chrome.desktop"_s, desktop.addProgram(u"chrome"_s) % u" %U", {}, 1);
+    EXPECT_TRUE(workspace.hasApplication(chromeID));
+    desktop.addEntry(u"google-chrome.desktop"_s, desktop.addProgram(u"chrome"_s) % u" %U",
+                     u"Hidden=true\n"_s);
+    EXPECT_FALSE(workspace.hasApplication(chromeID));
+}
+
+TEST_F(LinuxWorkspaceTest, ABrokenEntryIsNoApplication)
+{
+    desktop.addEntry(u"google-chrome.desktop"_s, desktop.addProgram(u"chrome"_s),
+                     u"Type=Link\nURL=http://a/\n"_s);
+    EXPECT_FALSE(workspace.hasApplication(chromeID));
+    EXPECT_TRUE(QDir().mkpath(desktop.dataFolders().first() % u"/applications/com.google.Chrome.desktop"));
+    EXPECT_FALSE(workspace.hasApplication(chromeID));
+}
+
+TEST_F(LinuxWorkspaceTest, UrlsWithoutAProfileGoToTheApplicationAtOnce)
+{
+    desktop.addApplication(u"microsoft-edge.desktop"_s, u"edge"_s);
+    workspace.open({u"http://a/?x='1'"_s, u"about:blank"_s}, edgeID);
+    EXPECT_EQ(desktop.onlyStart().arguments, QStringList({u"http://a/?x='1'"_s, u"about:blank"_s}));
+}
+
+TEST_F(LinuxWorkspaceTest, AnApplicationThatTakesOneUrlIsStartedForEach)
+{
+    desktop.addEntry(u"microsoft-edge.desktop"_s, desktop.addProgram(u"edge"_s) % u" %u");
+    workspace.open({u"http://a/"_s, u"http://b/"_s}, edgeID);
+    const QList<FakeDesktop::Start> starts = desktop.starts();
+    ASSERT_EQ(starts.size(), 2);
+    EXPECT_EQ(starts.at(0).arguments, QStringList({u"http://a/"_s}));
+    EXPECT_EQ(starts.at(1).arguments, QStringList({u"http://b/"_s}));
+}
+
+TEST_F(LinuxWorkspaceTest, SafariIsNeverHereAndItsLinksOpenInThePreferredBrowser)
+{
+    EXPECT_FALSE(workspace.hasApplication(safariID));
+    workspace.open({u"http://a/"_s}, safariID);
+    const FakeDesktop::Start start = desktop.onlyStart();
+    EXPECT_EQ(start.program, u"preferred-browser");
+    EXPECT_EQ(start.arguments, QStringList({u"--own-option"_s, u"http://a/"_s}));
+}
+
+TEST_F(LinuxWorkspaceTest, SafarisOwnPagesOpenNowhere)
+{
+    workspace.open({u"history://"_s}, safariID);
+    workspace.open({u"bookmarks://"_s}, safariID);
+    EXPECT_TRUE(desktop.starts().isEmpty());
+}
+
+TEST_F(LinuxWorkspaceTest, AnUnknownApplicationOpensNothing)
+{
+    EXPECT_FALSE(workspace.hasApplication(u"com.example.Other"_s));
+    workspace.open({u"http://a/"_s}, u"com.example.Other"_s);
+    EXPECT_TRUE(workspace.openInProfile({u"http://a/"_s}, u"com.example.Other"_s, u"Default"_s));
+    EXPECT_TRUE(workspace.showPage(u"chrome://history/"_s, u"com.example.Other"_s, {}));
+    EXPECT_TRUE(desktop.starts().isEmpty());
+}
+
+TEST_F(LinuxWorkspaceTest, ASystemUrlGoesToWhateverTheSystemHasForIt)
+{
+    workspace.openSystemURL(u"settings:privacy"_s);
+    const FakeDesktop::Start start = desktop.onlyStart();
+    EXPECT_EQ(start.program, u"system-handler");
+    EXPECT_EQ(start.arguments, QStringList({u"--own-option"_s, u"settings:privacy"_s}));
+}
+
+TEST_F(LinuxWorkspaceTest, ASystemUrlThatNobodyHandlesOpensNothing)
+{
+    workspace.openSystemURL(u"x-apple.systempreferences:privacy"_s);
+    workspace.openSystemURL(u"no url"_s);
+    workspace.openSystemURL({});
+    EXPECT_TRUE(desktop.starts().isEmpty());
+}
+
+TEST_F(LinuxWorkspaceTest, AProgramIsStartedWithItsArguments)
+{
+    workspace.start(desktop.addProgram(u"tool"_s), {u"-e"_s, u"line 1; $x"_s, QString()});
+    EXPECT_EQ(desktop.onlyStart().arguments, QStringList({u"-e"_s, u"line 1; $x"_s, QString()}));
+}
+
+TEST_F(LinuxWorkspaceTest, AProgramThatCannotBeStartedIsIgnored)
+{
+    workspace.start(u"/nonexistent/program"_s, {u"x"_s});
+    workspace.start(desktop.dataFolders().first(), {});
+    EXPECT_TRUE(desktop.starts().isEmpty());
+}
+
+TEST_F(LinuxWorkspaceTest, StartedProgramsGetTheSignalsThatThisOneBlocks)
+{
+    sigset_t mask;
+    sigset_t previous;
+    sigemptyset(&mask);
+    for (const int number : {SIGINT, SIGTERM, SIGHUP})
+        sigaddset(&mask, number);
+    ASSERT_EQ(pthread_sigmask(SIG_BLOCK, &mask, &previous), 0);
+    const auto previousHandler = signal(SIGPIPE, SIG_IGN);
+    desktop.addApplication(u"google-chrome.desktop"_s, u"chrome"_s);
+    workspace.openInProfile({u"http://a/"_s}, chromeID, u"Default"_s);
+    workspace.open({u"http://a/"_s}, chromeID);
+    signal(SIGPIPE, previousHandler);
+    pthread_sigmask(SIG_SETMASK, &previous, nullptr);
+
+    const QList<FakeDesktop::Start> starts = desktop.starts();
+    ASSERT_EQ(starts.size(), 2);
+    for (const FakeDesktop::Start &start : starts) {
+        EXPECT_EQ(start.blockedSignals.toULongLong(nullptr, 16), 0U);
+        EXPECT_EQ(start.ignoredSignals.toULongLong(nullptr, 16) & (1ULL << (SIGPIPE - 1)), 0U);
+    }
+}
+
+TEST_F(LinuxWorkspaceTest, NoStartedProgramBecomesAZombie)
+{
+    // As a user's session has it: whom nobody waits for falls to another process.
+    ASSERT_EQ(prctl(PR_SET_CHILD_SUBREAPER, 0), 0);
+    desktop.addApplication(u"google-chrome.desktop"_s, u"chrome"_s);
+    workspace.openInProfile({u"http://a/"_s}, chromeID, u"Default"_s);
+    workspace.open({u"http://a/"_s}, chromeID);
+    workspace.start(u"/nonexistent/program"_s, {});
+    EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1);
+    EXPECT_EQ(errno, ECHILD) << "a child is left that somebody would have to wait for";
+}
+
+TEST_F(LinuxWorkspaceTest, APageIsTypedIntoABlankTabOfTheProfile)
+{
+    desktop.addEntry(u"google-chrome.desktop"_s, desktop.addProgram(u"chrome"_s) % u" %U",
+                     u"StartupWMClass=My-Chrome\n"_s);
+    EXPECT_TRUE(workspace.showPage(u"chrome://history/"_s, chromeID, u"Profile 1"_s));
+    EXPECT_EQ(desktop.onlyStart().arguments,
+              QStringList({u"--profile-directory=Profile 1"_s, u"--ignore-profile-directory-if-not-exists"_s,
+                           u"about:blank"_s}));
+    EXPECT_EQ(windows->askedClasses, QStringList({u"google-chrome"_s, u"My-Chrome"_s}));
+    windows->window = {.id = 7, .title = u"about:blank - Google Chrome"_s, .isActive = true};
+    home.clock.advance(1s);
+    EXPECT_EQ(windows->keys.value(1), u"7: chrome://history/");
+    EXPECT_TRUE(clipboard.isEmpty());
+}
+
+TEST_F(LinuxWorkspaceTest, APageWithoutAProfileOpensInTheApplication)
+{
+    desktop.addApplication(u"microsoft-edge.desktop"_s, u"edge"_s);
+    EXPECT_TRUE(workspace.showPage(u"edge://favorites/"_s, edgeID, {}));
+    EXPECT_EQ(desktop.onlyStart().arguments, QStringList({u"about:blank"_s}));
+}
+
+TEST_F(LinuxWorkspaceTest, WhereNoWindowCanBeSteeredTheAddressGoesToTheClipboard)
+{
+    desktop.addApplication(u"google-chrome.desktop"_s, u"chrome"_s);
+    windows->isSteerable = false;
+    EXPECT_TRUE(workspace.showPage(u"chrome://bookmarks/?id=5"_s, chromeID, u"Default"_s));
+    EXPECT_EQ(desktop.onlyStart().arguments.value(2), u"about:blank");
+    EXPECT_EQ(clipboard, u"chrome://bookmarks/?id=5");
+    home.clock.advance(10s);
+    EXPECT_EQ(windows->looks, 0);
+}
+
+TEST(LinuxWorkspaceEnvironmentTest, NoWindowIsSteeredInAWaylandSession)
+{
+    struct Case {
+        const char *waylandDisplay;
+        const char *sessionType;
+        QByteArray display;
+    };
+    const Case cases[] = {{"", "", ":7"}, {"", "x11", ":7"}, {"wayland-0", "", ""}, {"", "wayland", ""}};
+    const QByteArray previous[] = {qgetenv("DISPLAY"), qgetenv("WAYLAND_DISPLAY"),
+                                   qgetenv("XDG_SESSION_TYPE")};
+    for (const auto &[waylandDisplay, sessionType, display] : cases) {
+        qputenv("DISPLAY", ":7");
+        qputenv("WAYLAND_DISPLAY", waylandDisplay);
+        qputenv("XDG_SESSION_TYPE", sessionType);
+        EXPECT_EQ(LinuxWorkspace::Environment::ofThisProcess().display, display);
+    }
+    qputenv("DISPLAY", previous[0]);
+    qputenv("WAYLAND_DISPLAY", previous[1]);
+    qputenv("XDG_SESSION_TYPE", previous[2]);
+}
+
+} // namespace
+} // namespace roamlet::testing

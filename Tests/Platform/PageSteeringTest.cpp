@@ -1,0 +1,216 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "Platform/Linux/Workspace/PageSteering.h"
+
+#include "Platform/FakeBrowserWindows.h"
+#include "Support/FakeClock.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+
+namespace roamlet::testing
+{
+namespace
+{
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+class PageSteeringTest : public ::testing::Test
+{
+protected:
+    void show(const QString &page)
+    {
+        steering.show({.page = page, .windowClasses = {u"chromium"_s}, .openBlankTab = [this] { ++tabs; }});
+    }
+    void showBlankTab(bool isActive = true)
+    {
+        windows.window = {.id = 7, .title = u"about:blank - Chromium"_s, .isActive = isActive};
+    }
+
+    FakeBrowserWindows windows;
+    FakeClock clock;
+    PageSteering steering{windows, clock};
+    int tabs = 0;
+};
+
+TEST_F(PageSteeringTest, TheAddressIsTypedIntoTheBlankTab)
+{
+    show(u"chrome://history/"_s);
+    EXPECT_EQ(tabs, 1);
+    EXPECT_EQ(windows.askedClasses, QStringList({u"chromium"_s}));
+    showBlankTab();
+    clock.advance(100ms);
+    EXPECT_EQ(windows.keys, QStringList({u"7: <ctrl+l>"_s}));
+    clock.advance(299ms);
+    EXPECT_EQ(windows.keys.size(), 1) << "the address field needs its time";
+    clock.advance(1ms);
+    EXPECT_EQ(windows.keys,
+              QStringList({u"7: <ctrl+l>"_s, u"7: chrome://history/"_s, u"7: <Delete>"_s, u"7: <Return>"_s}));
+    EXPECT_EQ(clock.waiting(), 0U);
+}
+
+TEST_F(PageSteeringTest, GivesUpQuietlyAfterFortyLooks)
+{
+    windows.window = {.id = 7, .title = u"Example - Chromium"_s, .isActive = true};
+    show(u"chrome://history/"_s);
+    clock.advance(3900ms);
+    EXPECT_EQ(windows.looks, 40);
+    EXPECT_EQ(clock.waiting(), 1U);
+    clock.advance(100ms);
+    showBlankTab();
+    clock.advance(10s);
+    EXPECT_EQ(windows.looks, 40);
+    EXPECT_TRUE(windows.keys.isEmpty());
+    EXPECT_EQ(clock.waiting(), 0U);
+}
+
+TEST_F(PageSteeringTest, TheLastLookStillCounts)
+{
+    show(u"chrome://history/"_s);
+    clock.advance(3800ms);
+    showBlankTab();
+    clock.advance(100ms);
+    EXPECT_EQ(windows.looks, 40);
+    clock.advance(1s);
+    EXPECT_EQ(windows.keys.value(1), u"7: chrome://history/");
+}
+
+TEST_F(PageSteeringTest, ABrowserWithoutAWindowIsWaitedFor)
+{
+    show(u"chrome://history/"_s);
+    clock.advance(2s);
+    EXPECT_TRUE(windows.keys.isEmpty());
+    showBlankTab();
+    clock.advance(1s);
+    EXPECT_EQ(windows.keys.value(1), u"7: chrome://history/");
+}
+
+TEST_F(PageSteeringTest, AWindowInTheBackgroundIsBroughtForwardOnce)
+{
+    showBlankTab(false);
+    windows.letsActivate = false;
+    show(u"chrome://history/"_s);
+    clock.advance(10s);
+    EXPECT_EQ(windows.keys, QStringList({u"(activate 7)"_s})) << "nothing is typed into what is not active";
+}
+
+TEST_F(PageSteeringTest, AWindowThatWasBroughtForwardIsSteered)
+{
+    showBlankTab(false);
+    show(u"chrome://history/"_s);
+    clock.advance(1s);
+    EXPECT_EQ(windows.keys.value(0), u"(activate 7)");
+    EXPECT_EQ(windows.keys.value(2), u"7: chrome://history/");
+}
+
+TEST_F(PageSteeringTest, NothingIsTypedWhenTheUserTurnsElsewhere)
+{
+    showBlankTab();
+    windows.onPress = [this] { windows.window->title = u"Mail - Chromium"_s; };
+    show(u"chrome://history/"_s);
+    clock.advance(10s);
+    EXPECT_EQ(windows.keys, QStringList({u"7: <ctrl+l>"_s}));
+}
+
+TEST_F(PageSteeringTest, AnotherBlankWindowIsStartedWithAnew)
+{
+    showBlankTab();
+    show(u"chrome://history/"_s);
+    windows.window->id = 8;
+    clock.advance(1s);
+    EXPECT_EQ(windows.keys.value(0), u"7: <ctrl+l>");
+    EXPECT_EQ(windows.keys.value(1), u"8: <ctrl+l>");
+    EXPECT_EQ(windows.keys.value(2), u"8: chrome://history/");
+}
+
+TEST_F(PageSteeringTest, KeysThatTheUserHoldsAreWaitedOut)
+{
+    showBlankTab();
+    windows.isShiftHeld = true;
+    show(u"chrome://history/"_s);
+    clock.advance(1s);
+    EXPECT_TRUE(windows.keys.isEmpty());
+    windows.isShiftHeld = false;
+    clock.advance(100ms);
+    windows.isShiftHeld = true;
+    clock.advance(300ms);
+    EXPECT_EQ(windows.keys, QStringList({u"7: <ctrl+l>"_s}));
+    windows.isShiftHeld = false;
+    clock.advance(1s);
+    EXPECT_EQ(windows.keys.value(2), u"7: chrome://history/");
+}
+
+TEST_F(PageSteeringTest, PagesAreShownOneAfterTheOther)
+{
+    show(u"chrome://history/"_s);
+    show(u"chrome://bookmarks/"_s);
+    EXPECT_EQ(tabs, 1) << "two blank tabs could not be told apart";
+    showBlankTab();
+    clock.advance(100ms);
+    windows.onPress = [this] {
+        if (windows.keys.last().endsWith(u"<Return>"))
+            windows.window->title = u"History - Chromium"_s;
+    };
+    clock.advance(300ms);
+    EXPECT_EQ(tabs, 2);
+    showBlankTab();
+    clock.advance(500ms);
+    EXPECT_EQ(windows.keys.value(1), u"7: chrome://history/");
+    EXPECT_EQ(windows.keys.value(5), u"7: chrome://bookmarks/");
+}
+
+TEST_F(PageSteeringTest, APageThatFailsDoesNotKeepTheNextOne)
+{
+    show(u"chrome://history/"_s);
+    show(u"chrome://bookmarks/"_s);
+    clock.advance(4s);
+    EXPECT_EQ(tabs, 2);
+    showBlankTab();
+    clock.advance(1s);
+    EXPECT_EQ(windows.keys.value(1), u"7: chrome://bookmarks/");
+    EXPECT_EQ(windows.keys.size(), 4);
+}
+
+TEST_F(PageSteeringTest, ABlankTabIsKnownByTheBeginningOfTheTitle)
+{
+    struct Case {
+        QString title;
+        bool isBlank;
+    };
+    const Case cases[] = {
+        {u"about:blank"_s, true},
+        {u"about:blank - Google Chrome"_s, true},
+        {u"about:blank and 2 more pages - Personal - Microsoft Edge"_s, true},
+        {u"\u202babout:blank - Chromium\u202c"_s, true},
+        {u"about:blanket - Chromium"_s, false},
+        {u"What is about:blank? - Chromium"_s, false},
+        {u"New Tab - Chromium"_s, false},
+        {QString(), false},
+    };
+    for (const auto &[title, isBlank] : cases) {
+        FakeBrowserWindows screen;
+        screen.window = {.id = 1, .title = title, .isActive = true};
+        PageSteering aSteering(screen, clock);
+        aSteering.show({.page = u"chrome://history/"_s, .windowClasses = {}, .openBlankTab = [] {}});
+        EXPECT_EQ(!screen.keys.isEmpty(), isBlank) << title.toStdString();
+    }
+}
+
+TEST(PageSteeringEndTest, NothingHappensOnceItIsGone)
+{
+    FakeBrowserWindows windows;
+    FakeClock clock;
+    {
+        PageSteering steering(windows, clock);
+        steering.show({.page = u"chrome://history/"_s, .windowClasses = {}, .openBlankTab = [] {}});
+    }
+    const int looks = windows.looks;
+    clock.advance(10s);
+    EXPECT_EQ(windows.looks, looks);
+}
+
+} // namespace
+} // namespace roamlet::testing
