@@ -1,0 +1,92 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "App/Export/ExportAction.h"
+#include "App/Window/Pane.h"
+#include "App/Window/PaneText.h"
+#include "App/Window/WindowServices.h"
+#include "Lists/Grouping.h"
+
+#include <QMap>
+#include <QSplitter>
+
+#include <optional>
+
+class QStackedWidget;
+
+namespace roamlet
+{
+
+class BookmarkTable;
+class BookmarkTree;
+class DetailHeader;
+class EmptyState;
+class FullDiskAccessBanner;
+class HistoryTable;
+class Sidebar;
+class SiteFilterBar;
+
+/// The content of the main window: the sidebar, and the list that is chosen there with what belongs to it.
+/// Only view state is kept here; everything else is read from the library.
+class ContentView final : public QSplitter
+{
+    Q_OBJECT
+
+public:
+    explicit ContentView(const WindowServices &services, QWidget *parent = nullptr);
+
+    const std::optional<Pane> &pane() const { return m_pane; }
+    void setPane(const std::optional<Pane> &pane);
+    /// Narrows the list to one site, or shows all again.
+    void setSite(const std::optional<QString> &site);
+    /// Reloads everything and shows that it is under way.
+    void reload();
+    /// To the search field, with its text selected.
+    void startSearch();
+    /// What the menu's export begins with; nothing while there is no bookmark.
+    std::optional<ExportAction> exportAction();
+    QMenu *groupingMenu() const;
+    /// The list's name, as it stands in the title.
+    QString title() const;
+
+Q_SIGNALS:
+    void titleChanged(const QString &title);
+    /// exportAction() may have become another one.
+    void exportActionChanged();
+    /// The sheet shall be shown.
+    void exportRequested(const roamlet::ExportRequest &request);
+
+private:
+    QWidget *makeDetail();
+    void connectTables();
+    /// Brings everything in line with the state.
+    void update();
+    void updateTitle();
+    void updateBanners();
+    void updateExport();
+    /// Gives the shown table its inputs, and shows it.
+    void updateList();
+    QWidget *shownList();
+    void setGrouping(Grouping grouping);
+
+    WindowServices m_services;
+    std::optional<Pane> m_pane = HistoryPane();
+    PaneText::ListState m_list;
+    QMap<GroupedList, Grouping> m_groupings;
+
+    Sidebar *m_sidebar;
+    DetailHeader *m_header;
+    FullDiskAccessBanner *m_accessBanner;
+    SiteFilterBar *m_siteBar;
+    QStackedWidget *m_lists;
+    EmptyState *m_nothingSelected;
+    EmptyState *m_noBrowsers;
+    HistoryTable *m_history;
+    HistoryTable *m_mostVisited;
+    BookmarkTable *m_bookmarks;
+    BookmarkTree *m_tree;
+};
+
+} // namespace roamlet

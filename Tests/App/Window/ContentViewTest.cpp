@@ -1,0 +1,367 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "App/Window/ContentView.h"
+
+#include "App/Tables/LinkTable.h"
+#include "App/Window/ReloadButton.h"
+#include "App/Window/Sidebar.h"
+#include "Opening/Opener.h"
+#include "Support/FakeWorkspace.h"
+#include "Support/LibraryHome.h"
+#include "Support/Waiting.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+#include <QTest>
+#include <QTreeView>
+
+#include <gmock/gmock.h>
+
+namespace roamlet::testing
+{
+
+using namespace Qt::StringLiterals;
+
+/// The window's content over a home with browsers, in English and in UTC.
+class ContentViewTest : public LibraryHome
+{
+protected:
+    void SetUp() override { QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates)); }
+    /// A search may still run; it is over, and its copy gone, when the library is.
+    void TearDown() override
+    {
+        library.reset();
+        LibraryHome::TearDown();
+    }
+
+    std::unique_ptr<ContentView> makeContent()
+    {
+        auto content = std::make_unique<ContentView>(
+            WindowServices{.library = *library,
+                           .defaults = home.defaults,
+                           .clock = home.clock,
+                           .folders = home.folders,
+                           .opener = opener,
+                           .workspace = workspace,
+                           .collation = std::make_shared<const Collation>(u"en_US"_s),
+                           .calendar = [] { return UserCalendar::of(u"UTC"_s, u"en_US"_s); }});
+        content->resize(1000, 600);
+        content->show();
+        return content;
+    }
+
+    template<typename Widget>
+    static Widget *part(const ContentView &content, const QString &name)
+    {
+        auto *widget = content.findChild<Widget *>(name);
+        EXPECT_NE(widget, nullptr) << qPrintable(name);
+        return widget;
+    }
+    static QString title(const ContentView &content)
+    {
+        return part<QWidget>(content, u"listTitle"_s)->accessibleName();
+    }
+    static QString subtitle(const ContentView &content)
+    {
+        return part<QWidget>(content, u"listSubtitle"_s)->accessibleName();
+    }
+    /// The object name of the table that is seen.
+    static QString shownTable(const ContentView &content)
+    {
+        for (const QTreeView *view : content.findChildren<QTreeView *>()) {
+            if (view->isVisible())
+                return view->objectName();
+        }
+        return {};
+    }
+    static bool isShown(const ContentView &content, const QString &name)
+    {
+        return part<QWidget>(content, name)->isVisible();
+    }
+    void expectSubtitle(const ContentView &content, const QString &text)
+    {
+        EXPECT_TRUE(waitUntil([&] {
+            home.clock.advance(std::chrono::milliseconds(300));
+            return subtitle(content) == text;
+        })) << qPrintable(subtitle(content));
+    }
+
+    FakeWorkspace workspace;
+    Opener opener{workspace};
+    std::unique_ptr<Library> library = std::make_unique<Library>(home.platform());
+};
+
+TEST_F(ContentViewTest, saysThatItReadsUntilTheFirstLoadHasEnded)
+{
+    addChromium();
+    const auto content = makeContent();
+    for (const std::optional<Pane> &pane :
+         {std::optional<Pane>(BookmarksPane()), std::optional<Pane>(MostVisitedPane()), std::optional<Pane>(),
+          std::optional<Pane>(HistoryPane())}) {
+        content->setPane(pane);
+        EXPECT_EQ(subtitle(*content), u"Reading…");
+    }
+    loadNow(*library);
+    expectSubtitle(*content, u"4 items"_s);
+    EXPECT_EQ(title(*content), u"Recent History");
+}
+
+TEST_F(ContentViewTest, eachPaneHasItsTable)
+{
+    addChromium();
+    loadNow(*library);
+    const auto content = makeContent();
+    EXPECT_EQ(shownTable(*content), u"historyTable");
+    content->setPane(BookmarksPane());
+    EXPECT_EQ(shownTable(*content), u"bookmarkTree");
+    expectSubtitle(*content, u"1 item"_s);
+    content->setPane(MostVisitedPane());
+    EXPECT_EQ(title(*content), u"Most Visited");
+    expectSubtitle(*content, u"4 items"_s);
+    content->setPane(HistoryPane{u"chrome/Default"_s});
+    EXPECT_EQ(title(*content), u"Personal History");
+    expectSubtitle(*content, u"2 items"_s);
+    content->setPane({});
+    EXPECT_EQ(shownTable(*content), u"");
+    EXPECT_EQ(title(*content), u"Roamlet");
+    const auto titles = content->findChildren<QLabel *>(u"emptyStateTitle"_s);
+    EXPECT_TRUE(std::ranges::any_of(titles, [](const QLabel *label) {
+        return label->isVisible() && label->text() == u"Pick something in the sidebar";
+    }));
+}
+
+TEST_F(ContentViewTest, theSidebarChoosesThePane)
+{
+    addChromium();
+    loadNow(*library);
+    const auto content = makeContent();
+    auto *sidebar = part<Sidebar>(*content, u"sidebar"_s);
+    QTest::keyClick(sidebar, Qt::Key_Down);
+    EXPECT_EQ(content->pane(), std::optional<Pane>(MostVisitedPane()));
+    QTest::keyClick(sidebar, Qt::Key_Down);
+    EXPECT_EQ(content->pane(), std::optional<Pane>(BookmarksPane()));
+}
+
+TEST_F(ContentViewTest, aSearchShowsBookmarksFlatAndClearingItTheTree)
+{
+    addChromium();
+    loadNow(*library);
+    const auto content = makeContent();
+    content->setPane(BookmarksPane());
+    auto *field = part<QLineEdit>(*content, u"searchField"_s);
+    EXPECT_EQ(field->placeholderText(), u"Title or URL");
+    QTest::keyClicks(field, u"  "_s);
+    EXPECT_EQ(shownTable(*content), u"bookmarkTree");
+    QTest::keyClicks(field, u"nowhere"_s);
+    EXPECT_EQ(shownTable(*content), u"bookmarkTable");
+    expectSubtitle(*content, u"0 items"_s);
+    QTest::keyClick(field, Qt::Key_Escape);
+    EXPECT_EQ(field->text(), u"");
+    EXPECT_EQ(shownTable(*content), u"bookmarkTree");
+    expectSubtitle(*content, u"1 item"_s);
+}
+
+TEST_F(ContentViewTest, groupedBySiteBookmarksStayFlatWithoutASearch)
+{
+    addChromium();
+    loadNow(*library);
+    home.defaults.setString(u"grouping.bookmarks"_s, u"site"_s);
+    const auto content = makeContent();
+    content->setPane(BookmarksPane());
+    EXPECT_EQ(shownTable(*content), u"bookmarkTable");
+    const QList<QAction *> choices = content->groupingMenu()->actions();
+    ASSERT_EQ(choices.size(), 2);
+    EXPECT_EQ(choices[0]->text(), u"Folders");
+    EXPECT_TRUE(choices[1]->isChecked());
+    choices[0]->trigger();
+    EXPECT_EQ(shownTable(*content), u"bookmarkTree");
+    EXPECT_EQ(home.defaults.string(u"grouping.bookmarks"_s), u"none"_s);
+}
+
+TEST_F(ContentViewTest, eachListOffersItsOwnGroupings)
+{
+    const auto content = makeContent();
+    const auto offered = [&content] {
+        QStringList result;
+        for (const QAction *action : content->groupingMenu()->actions())
+            result.append(action->text());
+        return result;
+    };
+    EXPECT_EQ(offered(), QStringList({u"None"_s, u"Day"_s, u"Site"_s}));
+    content->groupingMenu()->actions()[1]->trigger();
+    EXPECT_EQ(home.defaults.string(u"grouping.history"_s), u"day"_s);
+    content->setPane(MostVisitedPane());
+    EXPECT_EQ(offered(), QStringList({u"None"_s, u"Site"_s}));
+    EXPECT_TRUE(content->groupingMenu()->actions()[0]->isChecked());
+    content->setPane({});
+    EXPECT_EQ(offered(), QStringList());
+}
+
+TEST_F(ContentViewTest, aStoredGroupingThatTheListDoesNotHaveIsNone)
+{
+    home.defaults.setString(u"grouping.history"_s, u"month"_s);
+    home.defaults.setString(u"grouping.mostVisited"_s, u"day"_s);
+    home.defaults.setStringList(u"grouping.bookmarks"_s, {u"site"_s, u"day"_s});
+    const auto content = makeContent();
+    for (const Pane &pane : {Pane(HistoryPane()), Pane(MostVisitedPane()), Pane(BookmarksPane())}) {
+        content->setPane(pane);
+        EXPECT_TRUE(content->groupingMenu()->actions()[0]->isChecked());
+    }
+}
+
+TEST_F(ContentViewTest, oneSiteIsShownUnderABarThatLeadsBack)
+{
+    addChromium();
+    loadNow(*library);
+    const auto content = makeContent();
+    EXPECT_FALSE(isShown(*content, u"siteFilterBar"_s));
+    content->setSite(u"a1.example"_s);
+    EXPECT_TRUE(isShown(*content, u"siteFilterBar"_s));
+    EXPECT_EQ(part<QWidget>(*content, u"siteFilterText"_s)->accessibleName(), u"Only a1.example");
+    expectSubtitle(*content, u"1 item"_s);
+    // Another pane keeps it.
+    content->setPane(BookmarksPane());
+    EXPECT_TRUE(isShown(*content, u"siteFilterBar"_s));
+    EXPECT_EQ(shownTable(*content), u"bookmarkTable");
+    QTest::mouseClick(part<QPushButton>(*content, u"showAllSitesButton"_s), Qt::LeftButton);
+    EXPECT_FALSE(isShown(*content, u"siteFilterBar"_s));
+    EXPECT_EQ(shownTable(*content), u"bookmarkTree");
+}
+
+TEST_F(ContentViewTest, anotherPaneKeepsTheSearch)
+{
+    addChromium();
+    loadNow(*library);
+    const auto content = makeContent();
+    QTest::keyClicks(part<QLineEdit>(*content, u"searchField"_s), u"a1"_s);
+    expectSubtitle(*content, u"1 item"_s);
+    content->setPane(HistoryPane{u"chrome/Profile 1"_s});
+    expectSubtitle(*content, u"0 items"_s);
+    content->setPane(MostVisitedPane());
+    expectSubtitle(*content, u"1 item"_s);
+    EXPECT_EQ(part<QLineEdit>(*content, u"searchField"_s)->text(), u"a1");
+}
+
+TEST_F(ContentViewTest, aRefusalOfSafarisFilesShowsTheBanner)
+{
+    addSafari();
+    fail(safariFile(u"History.db"_s), std::errc::operation_not_permitted);
+    const auto content = makeContent();
+    EXPECT_FALSE(isShown(*content, u"fullDiskAccessBanner"_s));
+    loadNow(*library);
+    EXPECT_TRUE(isShown(*content, u"fullDiskAccessBanner"_s));
+    EXPECT_EQ(part<QLabel>(*content, u"fullDiskAccessHeading"_s)->text(), u"Roamlet can't read Safari yet");
+    EXPECT_EQ(part<QLabel>(*content, u"fullDiskAccessText"_s)->text(),
+              u"Turn on Roamlet in Privacy & Security › Full Disk Access, then reload.");
+    QTest::mouseClick(part<QPushButton>(*content, u"openSettingsButton"_s), Qt::LeftButton);
+    EXPECT_EQ(
+        workspace.requests,
+        QList<QStringList>(
+            {{u"system"_s, u"x-apple.systempreferences:com.apple.preference.security?Privacy_AllFiles"_s}}));
+    home.files.failure = {};
+    QTest::mouseClick(part<QPushButton>(*content, u"bannerReloadButton"_s), Qt::LeftButton);
+    EXPECT_TRUE(library->isLoading());
+    EXPECT_TRUE(waitUntil([&] { return !isShown(*content, u"fullDiskAccessBanner"_s); }));
+}
+
+TEST_F(ContentViewTest, theArrowTurnsWhileAReloadRuns)
+{
+    addChromium();
+    loadNow(*library);
+    const auto content = makeContent();
+    auto *button = part<ReloadButton>(*content, u"reloadButton"_s);
+    EXPECT_FALSE(button->isReloading());
+    QTest::mouseClick(button, Qt::LeftButton);
+    EXPECT_TRUE(button->isReloading());
+    EXPECT_TRUE(library->isLoading());
+    EXPECT_TRUE(waitUntil([&] { return !library->isLoading(); }));
+    EXPECT_FALSE(button->isReloading());
+}
+
+TEST_F(ContentViewTest, theExportIsThereOnlyWithBookmarks)
+{
+    addChromium();
+    const auto content = makeContent();
+    std::optional<ExportRequest> request;
+    QObject::connect(content.get(), &ContentView::exportRequested,
+                     [&request](const ExportRequest &wanted) { request = wanted; });
+    EXPECT_FALSE(part<QWidget>(*content, u"exportButton"_s)->isEnabled());
+    EXPECT_FALSE(content->exportAction().has_value());
+    loadNow(*library);
+    ASSERT_TRUE(content->exportAction().has_value());
+    EXPECT_EQ(content->exportAction()->sourceID, std::nullopt);
+    content->setPane(BookmarksPane{u"edge/Default"_s});
+    EXPECT_EQ(content->exportAction()->sourceID, std::nullopt);
+    content->setPane(BookmarksPane{u"chrome/Default"_s});
+    EXPECT_EQ(content->exportAction()->sourceID, u"chrome/Default"_s);
+    QTest::mouseClick(part<QWidget>(*content, u"exportButton"_s), Qt::LeftButton);
+    EXPECT_EQ(request, ExportRequest{.sourceID = u"chrome/Default"_s});
+}
+
+TEST_F(ContentViewTest, withoutAnyBrowserItSaysWhereItLooked)
+{
+    const auto content = makeContent();
+    loadNow(*library);
+    EXPECT_EQ(shownTable(*content), u"");
+    const auto texts = content->findChildren<QLabel *>(u"emptyStateText"_s);
+    const auto shown = std::ranges::find_if(texts, [](const QLabel *label) { return label->isVisible(); });
+    ASSERT_NE(shown, texts.end());
+    const std::string text = (*shown)->text().toStdString();
+    EXPECT_THAT(text, ::testing::HasSubstr("~/Library/Safari"));
+    EXPECT_THAT(text, ::testing::HasSubstr("~/.config/google-chrome"));
+    EXPECT_THAT(text, ::testing::HasSubstr("microsoft-edge"));
+    EXPECT_THAT(text, ::testing::Not(::testing::HasSubstr(home.path().toStdString())));
+}
+
+TEST_F(ContentViewTest, aSourceThatIsSwitchedOffWhileItIsShownLeavesAllOfThem)
+{
+    addChromium();
+    loadNow(*library);
+    const auto content = makeContent();
+    content->setPane(BookmarksPane{u"chrome/Profile 1"_s});
+    EXPECT_EQ(title(*content), u"Work Bookmarks");
+    library->setEnabled(false, *library->source(u"chrome/Profile 1"_s));
+    EXPECT_TRUE(waitUntil([&] { return !library->isLoading(); }));
+    EXPECT_EQ(title(*content), u"All Bookmarks");
+    content->setPane(HistoryPane{u"chrome/Profile 1"_s});
+    EXPECT_EQ(title(*content), u"Recent History");
+}
+
+TEST_F(ContentViewTest, theKeyboardGoesFromTheSearchToTheListAndBack)
+{
+    addChromium();
+    loadNow(*library);
+    const auto content = makeContent();
+    content->activateWindow();
+    content->startSearch();
+    auto *field = part<QLineEdit>(*content, u"searchField"_s);
+    EXPECT_TRUE(waitUntil([&] { return field->hasFocus(); }));
+    QTest::keyClick(field, Qt::Key_Down);
+    ASSERT_NE(QApplication::focusWidget(), nullptr);
+    EXPECT_EQ(QApplication::focusWidget()->objectName(), u"historyTable");
+    EXPECT_TRUE(QApplication::focusWidget()->isVisible());
+}
+
+TEST_F(ContentViewTest, everyControlHasAName)
+{
+    addChromium();
+    loadNow(*library);
+    const auto content = makeContent();
+    content->setSite(u"a1.example"_s);
+    for (const QWidget *widget : content->findChildren<QWidget *>()) {
+        const bool isControl = widget->focusPolicy() != Qt::NoFocus && widget->isVisible();
+        if (!isControl)
+            continue;
+        const auto *button = qobject_cast<const QAbstractButton *>(widget);
+        const QString name = widget->accessibleName().isEmpty() && button != nullptr
+                                 ? button->text()
+                                 : widget->accessibleName();
+        EXPECT_FALSE(name.isEmpty()) << widget->metaObject()->className() << ' '
+                                     << qPrintable(widget->objectName());
+    }
+}
+
+} // namespace roamlet::testing
