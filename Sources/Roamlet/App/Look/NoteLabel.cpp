@@ -3,6 +3,8 @@
 
 #include "App/Look/NoteLabel.h"
 
+#include "App/Look/MixedColor.h"
+
 #include <QEvent>
 #include <QGuiApplication>
 
@@ -16,13 +18,7 @@ namespace
 constexpr QRgb redOnLight = 0xffb3261e;
 constexpr QRgb redOnDark = 0xffff8a80;
 
-QColor mixed(const QColor &most, const QColor &rest)
-{
-    constexpr float share = 0.68F;
-    const auto mix = [](float a, float b) { return a * share + b * (1 - share); };
-    return QColor::fromRgbF(mix(most.redF(), rest.redF()), mix(most.greenF(), rest.greenF()),
-                            mix(most.blueF(), rest.blueF()));
-}
+constexpr float quietness = 0.32F;
 
 } // namespace
 
@@ -57,9 +53,10 @@ void NoteLabel::updateColor()
         parentWidget() != nullptr ? parentWidget()->palette() : QGuiApplication::palette();
     const QColor background = around.color(QPalette::Active, QPalette::Window);
     const bool isDark = background.lightnessF() < 0.5F;
-    const QColor color = m_tone == Tone::Problem
-                             ? QColor::fromRgba(isDark ? redOnDark : redOnLight)
-                             : mixed(around.color(QPalette::Active, QPalette::WindowText), background);
+    const QColor color =
+        m_tone == Tone::Problem
+            ? QColor::fromRgba(isDark ? redOnDark : redOnLight)
+            : mixedColor(around.color(QPalette::Active, QPalette::WindowText), background, quietness);
     if (palette().color(QPalette::Active, QPalette::WindowText) == color)
         return;
     QPalette own = palette();

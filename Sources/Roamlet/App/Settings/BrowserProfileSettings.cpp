@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "App/Settings/BrowserProfileSettings.h"
+
+#include "App/Look/NoteLabel.h"
+#include "App/Settings/ProfileList.h"
+#include "App/Settings/ProfileListModel.h"
+#include "Library/Library.h"
+
+#include <QVBoxLayout>
+
+namespace roamlet
+{
+
+using namespace Qt::StringLiterals;
+
+BrowserProfileSettings::BrowserProfileSettings(Library &library, QWidget *parent)
+    : QWidget(parent), m_library(library), m_list(new ProfileList)
+{
+    m_list->setObjectName(u"profileList"_s);
+    m_list->setAccessibleName(tr("Browser Profiles"));
+    m_list->setAccessibleDescription(tr("Space turns a profile on or off, Alt with an arrow key moves it."));
+    m_list->setModel(new ProfileListModel(library, m_list));
+    auto *note = new NoteLabel;
+    note->setObjectName(u"profileNote"_s);
+    note->setText(tr("Drag profiles to change their order in the sidebar. Roamlet only reads the profiles "
+                     "that are on, and new ones are on automatically."));
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(m_list);
+    layout->addWidget(note);
+
+    updatePlaceholder();
+    connect(&library, &Library::lastLoadedChanged, this, &BrowserProfileSettings::updatePlaceholder);
+}
+
+void BrowserProfileSettings::updatePlaceholder()
+{
+    m_list->setPlaceholderText(m_library.lastLoaded() ? tr("No browser profiles were found.")
+                                                      : tr("Reading…"));
+}
+
+} // namespace roamlet

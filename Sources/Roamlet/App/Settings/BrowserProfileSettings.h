@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QWidget>
+
+namespace roamlet
+{
+
+class Library;
+class ProfileList;
+
+/// The tab in which the user turns browser profiles on and off and puts them in order.
+class BrowserProfileSettings final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit BrowserProfileSettings(Library &library, QWidget *parent = nullptr);
+
+private:
+    void updatePlaceholder();
+
+    Library &m_library;
+    ProfileList *m_list;
+};
+
+} // namespace roamlet

@@ -1,0 +1,96 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "App/Settings/GeneralSettings.h"
+
+#include "App/Look/NoteLabel.h"
+#include "App/Look/Switch.h"
+#include "App/Look/SwitchRow.h"
+#include "App/Settings/LoginItem.h"
+#include "Platform/ActivationPolicy.h"
+#include "Platform/LoginService.h"
+#include "Platform/UserDefaults.h"
+
+#include <QGroupBox>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+
+namespace roamlet
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+constexpr QStringView showDockIconKey = u"showDockIcon";
+
+} // namespace
+
+GeneralSettings::GeneralSettings(const SettingsServices &services, QWidget *parent)
+    : QWidget(parent), m_services(services), m_loginNote(new NoteLabel)
+{
+    auto *presence = new QGroupBox;
+    auto *rows = new QVBoxLayout(presence);
+    m_login = addSwitch(rows, u"openAtLogin"_s, tr("Open at login"));
+    m_loginNote->setObjectName(u"openAtLoginNote"_s);
+    rows->addWidget(m_loginNote);
+    m_dockIcon = addSwitch(rows, u"showDockIcon"_s, tr("Show Dock icon"));
+    m_dockIcon->control().setChecked(m_services.defaults.boolean(showDockIconKey.toString()).value_or(false));
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(presence);
+    layout->addStretch();
+
+    showLoginStatus();
+    connect(&m_login->control(), &Switch::toggled, this, &GeneralSettings::setOpensAtLogin);
+    connect(&m_dockIcon->control(), &Switch::toggled, this, &GeneralSettings::setShowsDockIcon);
+}
+
+SwitchRow *GeneralSettings::addSwitch(QVBoxLayout *group, const QString &name, const QString &text)
+{
+    auto *row = new SwitchRow(text);
+    row->control().setObjectName(name);
+    group->addWidget(row);
+    return row;
+}
+
+void GeneralSettings::showEvent(QShowEvent *event)
+{
+    showLoginStatus();
+    QWidget::showEvent(event);
+}
+
+void GeneralSettings::setOpensAtLogin(bool isOn)
+{
+    m_loginProblem = LoginItem::set(isOn, m_services.loginService);
+    showLoginStatus();
+}
+
+void GeneralSettings::showLoginStatus()
+{
+    const LoginService::Status status = m_services.loginService.status();
+    {
+        // The switch shows what is, not what was wished for.
+        const QSignalBlocker blocker(m_login->control());
+        m_login->control().setChecked(status == LoginService::Status::Enabled);
+    }
+    QString text;
+    if (m_loginProblem)
+        text = *m_loginProblem;
+    else if (status == LoginService::Status::RequiresApproval)
+        text = tr("Approve Roamlet in System Settings › General › Login Items.");
+    m_loginNote->setTone(m_loginProblem ? NoteLabel::Tone::Problem : NoteLabel::Tone::Secondary);
+    m_loginNote->setText(text);
+    m_loginNote->setVisible(!text.isEmpty());
+}
+
+void GeneralSettings::setShowsDockIcon(bool isOn)
+{
+    m_services.defaults.setBoolean(showDockIconKey.toString(), isOn);
+    if (!m_services.isMainWindowOpen())
+        m_services.activation.setPolicy(isOn ? ActivationPolicy::Policy::Regular
+                                             : ActivationPolicy::Policy::Accessory);
+    m_services.activation.bringToFront();
+}
+
+} // namespace roamlet

@@ -1,0 +1,112 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "App/Settings/ProfileDelegate.h"
+
+#include "App/Look/MixedColor.h"
+#include "App/Look/Switch.h"
+#include "App/Look/Symbol.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace roamlet
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+constexpr int margin = 10;
+constexpr int handleSide = 14;
+
+} // namespace
+
+void ProfileDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
+                            const QModelIndex &index) const
+{
+    QStyleOptionViewItem item = option;
+    initStyleOption(&item, index);
+    const QStyle *style = item.widget != nullptr ? item.widget->style() : QApplication::style();
+    style->drawPrimitive(QStyle::PE_PanelItemViewItem, &item, painter, item.widget);
+
+    const bool isSelected = item.state.testFlag(QStyle::State_Selected);
+    const QPalette::ColorGroup group =
+        item.state.testFlag(QStyle::State_Active) ? QPalette::Active : QPalette::Inactive;
+    const QColor ground = item.palette.color(group, isSelected ? QPalette::Highlight : QPalette::Base);
+    const QColor text = item.palette.color(group, isSelected ? QPalette::HighlightedText : QPalette::Text);
+
+    const QRect inner = item.rect.adjusted(margin, 0, -margin, 0);
+    const QRect handle = QStyle::alignedRect(item.direction, Qt::AlignLeft | Qt::AlignVCenter,
+                                             QSize(handleSide, handleSide), inner);
+    symbolIcon(u"line.3.horizontal"_s, mixedColor(ground, text, 0.5F)).paint(painter, handle);
+
+    const QRect control = switchRect(item);
+    const int indent = handleSide + margin;
+    const QRect name =
+        QStyle::visualRect(item.direction, inner, inner.adjusted(indent, 0, -control.width() - margin, 0));
+    painter->setPen(text);
+    painter->setFont(item.font);
+    painter->drawText(name, QStyle::visualAlignment(item.direction, Qt::AlignLeft | Qt::AlignVCenter),
+                      item.fontMetrics.elidedText(item.text, Qt::ElideRight, name.width()));
+
+    QPalette around = item.palette;
+    if (isSelected) {
+        // On the selection the accent colour could not be seen: the text's colour takes its place.
+        around.setColor(QPalette::Active, QPalette::Window, ground);
+        around.setColor(QPalette::Active, QPalette::WindowText, text);
+        around.setColor(QPalette::Active, QPalette::Highlight, text);
+        around.setColor(QPalette::Active, QPalette::HighlightedText, ground);
+        around.setColor(QPalette::Active, QPalette::Base, text);
+    }
+    SwitchLook{.isOn = item.checkState == Qt::Checked,
+               .isEnabled = index.flags().testFlag(Qt::ItemIsUserCheckable),
+               .hasFocus = false,
+               .direction = item.direction}
+        .paint(*painter, QRectF(control), around);
+
+    if (item.state.testFlag(QStyle::State_HasFocus)) {
+        QStyleOptionFocusRect focus;
+        focus.QStyleOption::operator=(item);
+        focus.backgroundColor = ground;
+        style->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, painter, item.widget);
+    }
+}
+
+QSize ProfileDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const
+{
+    QStyleOptionViewItem item = option;
+    initStyleOption(&item, index);
+    const QSize control = SwitchLook::size(item.fontMetrics);
+    // As wide as the list; a name that does not fit is cut.
+    return {handleSide + control.width() + 4 * margin, control.height() + margin};
+}
+
+bool ProfileDelegate::editorEvent(QEvent *event, QAbstractItemModel *model,
+                                  const QStyleOptionViewItem &option, const QModelIndex &index)
+{
+    bool isTurned = false;
+    if (event->type() == QEvent::MouseButtonRelease) {
+        const auto *mouse = static_cast<QMouseEvent *>(event);
+        isTurned =
+            mouse->button() == Qt::LeftButton && switchRect(option).contains(mouse->position().toPoint());
+    } else if (event->type() == QEvent::KeyPress) {
+        isTurned = static_cast<QKeyEvent *>(event)->key() == Qt::Key_Space;
+    }
+    if (!isTurned)
+        return false;
+    const bool isOn = index.data(Qt::CheckStateRole).value<Qt::CheckState>() == Qt::Checked;
+    return model->setData(index, isOn ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
+}
+
+QRect ProfileDelegate::switchRect(const QStyleOptionViewItem &option)
+{
+    return QStyle::alignedRect(option.direction, Qt::AlignRight | Qt::AlignVCenter,
+                               SwitchLook::size(option.fontMetrics),
+                               option.rect.adjusted(margin, 0, -margin, 0));
+}
+
+} // namespace roamlet

@@ -1,0 +1,131 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "App/Settings/ProfileListModel.h"
+
+#include "Library/Library.h"
+
+#include <algorithm>
+
+namespace roamlet
+{
+
+namespace
+{
+
+/// Whether it is the source that the bookmarks of all of Safari belong to.
+bool holdsMainBookmarks(const Source &source)
+{
+    return source.kind == Source::Kind::Safari &&
+           std::holds_alternative<Source::AllExcept>(source.safariBookmarks);
+}
+
+} // namespace
+
+ProfileListModel::ProfileListModel(Library &library, QObject *parent)
+    : QAbstractListModel(parent), m_library(library)
+{
+    follow();
+    connect(&library, &Library::snapshotChanged, this, &ProfileListModel::follow);
+    connect(&library, &Library::sourceOrderChanged, this, &ProfileListModel::follow);
+    connect(&library, &Library::disabledProfilesChanged, this, &ProfileListModel::follow);
+}
+
+int ProfileListModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_profiles.size());
+}
+
+QVariant ProfileListModel::data(const QModelIndex &index, int role) const
+{
+    if (!index.isValid())
+        return {};
+    const Source &source = m_profiles[index.row()];
+    switch (role) {
+    case Qt::DisplayRole: {
+        // A profile's name has no limit; a screen has.
+        constexpr qsizetype longestLabel = 1000;
+        return source.label().left(longestLabel).simplified();
+    }
+    case Qt::CheckStateRole:
+        return m_disabled.contains(source.id()) ? Qt::Unchecked : Qt::Checked;
+    case Qt::ToolTipRole:
+        return holdsMainBookmarks(source) ? tr("Holds Safari's main bookmarks, so it's always on.")
+                                          : QVariant();
+    default:
+        return {};
+    }
+}
+
+bool ProfileListModel::setData(const QModelIndex &index, const QVariant &value, int role)
+{
+    if (role != Qt::CheckStateRole || !flags(index).testFlag(Qt::ItemIsUserCheckable))
+        return false;
+    m_library.setEnabled(value.toInt() == Qt::Checked, m_profiles[index.row()]);
+    return true;
+}
+
+Qt::ItemFlags ProfileListModel::flags(const QModelIndex &index) const
+{
+    if (!index.isValid())
+        return Qt::NoItemFlags;
+    Qt::ItemFlags result = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
+    result.setFlag(Qt::ItemIsUserCheckable, !holdsMainBookmarks(m_profiles[index.row()]));
+    return result;
+}
+
+bool ProfileListModel::moveRows(const QModelIndex & /*sourceParent*/, int sourceRow, int count,
+                                const QModelIndex & /*destinationParent*/, int destinationRow)
+{
+    const int end = sourceRow + count;
+    const bool isInPlace = destinationRow >= sourceRow && destinationRow <= end;
+    if (sourceRow < 0 || count < 1 || end > rowCount() || destinationRow < 0 || destinationRow > rowCount() ||
+        isInPlace)
+        return false;
+    QSet<qsizetype> offsets;
+    for (int row = sourceRow; row < end; ++row)
+        offsets.insert(row);
+    // The rows move when the Library says so.
+    m_library.moveProfiles(offsets, destinationRow);
+    return true;
+}
+
+void ProfileListModel::follow()
+{
+    const QList<Source> profiles = m_library.ordered(m_library.snapshot().browserProfiles);
+    const auto ids = [](const QList<Source> &sources) {
+        QStringList result;
+        for (const Source &source : sources)
+            result.append(source.id());
+        return result;
+    };
+    const QStringList before = ids(m_profiles);
+    const QStringList after = ids(profiles);
+    const auto take = [&] {
+        m_profiles = profiles;
+        m_disabled = m_library.disabledProfiles();
+    };
+    if (before == after) {
+        take();
+        if (!profiles.isEmpty())
+            Q_EMIT dataChanged(index(0), index(rowCount() - 1));
+        return;
+    }
+    if (!std::ranges::is_permutation(before, after)) {
+        beginResetModel();
+        take();
+        endResetModel();
+        return;
+    }
+    // The same profiles in another order: what is selected stays selected.
+    Q_EMIT layoutAboutToBeChanged();
+    const QModelIndexList kept = persistentIndexList();
+    QModelIndexList moved;
+    for (const QModelIndex &each : kept)
+        moved.append(index(static_cast<int>(after.indexOf(before[each.row()]))));
+    take();
+    changePersistentIndexList(kept, moved);
+    Q_EMIT layoutChanged();
+}
+
+} // namespace roamlet

@@ -1,0 +1,273 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "App/Settings/BrowserProfileSettings.h"
+
+#include "App/Look/NoteLabel.h"
+#include "App/Settings/ProfileList.h"
+#include "App/Settings/ProfileListModel.h"
+#include "Support/LibraryHome.h"
+#include "Support/Waiting.h"
+
+#include <QAbstractItemModelTester>
+#include <QTest>
+
+namespace roamlet::testing
+{
+namespace
+{
+
+using namespace Qt::StringLiterals;
+
+/// Safari, Safari's profile "Travel", Chrome's "Personal" and "Work", Edge's "Office".
+class BrowserProfileSettingsTest : public LibraryHome
+{
+protected:
+    void SetUp() override
+    {
+        addSafari();
+        addSafariProfile();
+        addChromium();
+        loadNow(library);
+        tab.resize(420, 320);
+        tab.show();
+        tab.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&tab));
+    }
+
+    ProfileList &list() { return *tab.findChild<ProfileList *>(); }
+    QAbstractItemModel &model() { return *list().model(); }
+    QModelIndex row(int number) { return model().index(number, 0); }
+    QStringList labels()
+    {
+        QStringList result;
+        for (int i = 0; i < model().rowCount(); ++i)
+            result.append(row(i).data().toString());
+        return result;
+    }
+    QPoint center(int number) { return list().visualRect(row(number)).center(); }
+    void clickSwitch(int number)
+    {
+        QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, list().switchRect(row(number)).center());
+    }
+    bool isOn(int number)
+    {
+        return row(number).data(Qt::CheckStateRole).value<Qt::CheckState>() == Qt::Checked;
+    }
+    /// Drags a row by its handle to the upper or the lower part of another.
+    void drag(int from, int to, int offset)
+    {
+        const QPoint start(12, center(from).y());
+        QTest::mousePress(list().viewport(), Qt::LeftButton, {}, start);
+        moveMouse(start + QPoint(0, 20));
+        moveMouse(QPoint(30, center(to).y() + offset));
+        QTest::mouseRelease(list().viewport(), Qt::LeftButton, {}, QPoint(30, center(to).y() + offset));
+    }
+    void moveMouse(QPoint position)
+    {
+        // With the button held down; the test library's own has none.
+        QMouseEvent event(QEvent::MouseMove, position, list().viewport()->mapToGlobal(position), Qt::NoButton,
+                          Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(list().viewport(), &event);
+    }
+
+    Library library{home.platform()};
+    BrowserProfileSettings tab{library};
+    const QStringList all{u"Safari - Personal"_s, u"Safari - Travel"_s, u"Chrome - Personal"_s,
+                          u"Chrome - Work"_s, u"Edge - Office"_s};
+};
+
+TEST_F(BrowserProfileSettingsTest, ListsEveryProfileInTheUsersOrderAndSaysWhatForBelow)
+{
+    EXPECT_EQ(labels(), all);
+    const auto *note = tab.findChild<NoteLabel *>();
+    EXPECT_EQ(note->text(),
+              u"Drag profiles to change their order in the sidebar. Roamlet only reads the profiles that "
+              "are on, and new ones are on automatically."_s);
+    EXPECT_TRUE(note->wordWrap());
+    EXPECT_GT(note->y(), list().geometry().bottom());
+}
+
+TEST_F(BrowserProfileSettingsTest, ASwitchTurnsItsProfileOffAndOnAgain)
+{
+    clickSwitch(3);
+    EXPECT_FALSE(isOn(3));
+    EXPECT_EQ(home.defaults.stringList(u"disabledProfiles"_s), QStringList{u"chrome/Profile 1"_s});
+    ASSERT_TRUE(waitUntil([this] { return !library.isLoading(); }));
+    EXPECT_EQ(labels(), all) << "a profile that is off stays in the list";
+    EXPECT_FALSE(isOn(3));
+    clickSwitch(3);
+    EXPECT_TRUE(isOn(3));
+    EXPECT_EQ(home.defaults.stringList(u"disabledProfiles"_s), QStringList());
+    ASSERT_TRUE(waitUntil([this] { return !library.isLoading(); }));
+}
+
+TEST_F(BrowserProfileSettingsTest, OnlyTheSwitchTurnsIt)
+{
+    QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, center(2));
+    EXPECT_TRUE(isOn(2));
+    QTest::mouseDClick(list().viewport(), Qt::LeftButton, {}, center(2));
+    EXPECT_TRUE(isOn(2));
+    QTest::mousePress(list().viewport(), Qt::LeftButton, {}, list().switchRect(row(2)).center());
+    QTest::mouseRelease(list().viewport(), Qt::LeftButton, {}, center(2));
+    EXPECT_TRUE(isOn(2)) << "released elsewhere";
+    EXPECT_EQ(list().currentIndex().row(), 2);
+}
+
+TEST_F(BrowserProfileSettingsTest, SpaceTurnsTheCurrentProfile)
+{
+    list().setFocus();
+    list().setCurrentIndex(row(0));
+    QTest::keyClick(&list(), Qt::Key_Down);
+    QTest::keyClick(&list(), Qt::Key_Down);
+    QTest::keyClick(&list(), Qt::Key_Space);
+    EXPECT_FALSE(isOn(2));
+    EXPECT_EQ(library.disabledProfiles(), QSet<QString>{u"chrome/Default"_s});
+    ASSERT_TRUE(waitUntil([this] { return !library.isLoading(); }));
+    EXPECT_EQ(list().currentIndex().row(), 2) << "a reload leaves the keyboard where it is";
+}
+
+TEST_F(BrowserProfileSettingsTest, SafarisMainSourceIsAlwaysOnAndSaysWhy)
+{
+    clickSwitch(0);
+    list().setCurrentIndex(row(0));
+    QTest::keyClick(&list(), Qt::Key_Space);
+    EXPECT_TRUE(isOn(0));
+    EXPECT_FALSE(home.defaults.contains(u"disabledProfiles"_s));
+    EXPECT_FALSE(row(0).flags().testFlag(Qt::ItemIsUserCheckable));
+    EXPECT_EQ(row(0).data(Qt::ToolTipRole), u"Holds Safari's main bookmarks, so it's always on."_s);
+}
+
+TEST_F(BrowserProfileSettingsTest, OtherProfilesOfSafariCanBeTurnedOffAndHaveNoTip)
+{
+    EXPECT_EQ(row(1).data(Qt::ToolTipRole), QVariant());
+    clickSwitch(1);
+    EXPECT_FALSE(isOn(1));
+    ASSERT_TRUE(waitUntil([this] { return !library.isLoading(); }));
+}
+
+TEST_F(BrowserProfileSettingsTest, DraggingMovesARow)
+{
+    drag(4, 0, -3);
+    EXPECT_EQ(labels(), (QStringList{all[4], all[0], all[1], all[2], all[3]}));
+    EXPECT_EQ(home.defaults.stringList(u"sourceOrder"_s),
+              (QStringList{u"edge/Default"_s, u"safari"_s, u"safari/T"_s, u"chrome/Default"_s,
+                           u"chrome/Profile 1"_s}));
+    drag(0, 2, 3);
+    EXPECT_EQ(labels(), (QStringList{all[0], all[1], all[4], all[2], all[3]}));
+    EXPECT_EQ(list().currentIndex().row(), 2) << "the row that was moved stays the current one";
+    EXPECT_TRUE(list().selectionModel()->isRowSelected(2));
+}
+
+TEST_F(BrowserProfileSettingsTest, ARowCanBeDraggedBelowTheLast)
+{
+    const QPoint below(30, list().viewport()->height() + 50);
+    QTest::mousePress(list().viewport(), Qt::LeftButton, {}, center(0));
+    moveMouse(below);
+    QTest::mouseRelease(list().viewport(), Qt::LeftButton, {}, below);
+    EXPECT_EQ(labels(), (QStringList{all[1], all[2], all[3], all[4], all[0]}));
+}
+
+TEST_F(BrowserProfileSettingsTest, ARowThatIsDroppedWhereItWasStoresNothing)
+{
+    drag(2, 2, 3);
+    drag(2, 2, -3);
+    drag(2, 1, 3);
+    EXPECT_EQ(labels(), all);
+    EXPECT_FALSE(home.defaults.contains(u"sourceOrder"_s));
+}
+
+TEST_F(BrowserProfileSettingsTest, EscapeEndsTheDragAndNothingMoves)
+{
+    QTest::mousePress(list().viewport(), Qt::LeftButton, {}, center(4));
+    moveMouse(center(0));
+    QTest::keyClick(&list(), Qt::Key_Escape);
+    QTest::mouseRelease(list().viewport(), Qt::LeftButton, {}, center(0));
+    EXPECT_EQ(labels(), all);
+    EXPECT_TRUE(tab.isVisible());
+}
+
+TEST_F(BrowserProfileSettingsTest, TheSwitchIsNoHandle)
+{
+    QTest::mousePress(list().viewport(), Qt::LeftButton, {}, list().switchRect(row(4)).center());
+    moveMouse(center(0));
+    QTest::mouseRelease(list().viewport(), Qt::LeftButton, {}, center(0));
+    EXPECT_EQ(labels(), all);
+}
+
+TEST_F(BrowserProfileSettingsTest, AReloadDuringADragDropsTheRowThatIsThen)
+{
+    QTest::mousePress(list().viewport(), Qt::LeftButton, {}, center(4));
+    moveMouse(center(1));
+    change([this] {
+        sample::writeLocalState(chromeFile(u"Local State"_s),
+                                {{u"Default"_s, QJsonObject{{u"name"_s, u"Personal"_s}}}});
+        sample::writeLocalState(edgeFile(u"Local State"_s), {});
+    });
+    loadNow(library);
+    QTest::mouseRelease(list().viewport(), Qt::LeftButton, {}, center(1));
+    EXPECT_EQ(labels(), (QStringList{all[0], all[1], all[2]})) << "the dragged profile is gone";
+}
+
+TEST_F(BrowserProfileSettingsTest, AltOrControlWithTheArrowsMoveTheCurrentRow)
+{
+    list().setFocus();
+    list().setCurrentIndex(row(1));
+    QTest::keyClick(&list(), Qt::Key_Down, Qt::AltModifier);
+    EXPECT_EQ(labels(), (QStringList{all[0], all[2], all[1], all[3], all[4]}));
+    QTest::keyClick(&list(), Qt::Key_Down, Qt::ControlModifier);
+    EXPECT_EQ(labels(), (QStringList{all[0], all[2], all[3], all[1], all[4]}));
+    QTest::keyClick(&list(), Qt::Key_Up, Qt::AltModifier);
+    QTest::keyClick(&list(), Qt::Key_Up, Qt::ControlModifier);
+    QTest::keyClick(&list(), Qt::Key_Up, Qt::ControlModifier);
+    QTest::keyClick(&list(), Qt::Key_Up, Qt::ControlModifier);
+    EXPECT_EQ(labels(), (QStringList{all[1], all[0], all[2], all[3], all[4]})) << "the top is the end";
+    list().setCurrentIndex(row(4));
+    QTest::keyClick(&list(), Qt::Key_Down, Qt::AltModifier);
+    EXPECT_EQ(labels(), (QStringList{all[1], all[0], all[2], all[3], all[4]})) << "and so is the bottom";
+}
+
+TEST_F(BrowserProfileSettingsTest, WithoutProfilesTheListSaysWhyItIsEmpty)
+{
+    TestHome empty;
+    Library nothing(empty.platform());
+    const BrowserProfileSettings other(nothing);
+    const auto *otherList = other.findChild<ProfileList *>();
+    EXPECT_EQ(otherList->placeholderText(), u"Reading…"_s);
+    loadNow(nothing);
+    EXPECT_EQ(otherList->model()->rowCount(), 0);
+    EXPECT_EQ(otherList->placeholderText(), u"No browser profiles were found."_s);
+}
+
+TEST_F(BrowserProfileSettingsTest, AnEndlessNameIsCut)
+{
+    change([&] {
+        sample::writeLocalState(chromeFile(u"Local State"_s),
+                                {{u"Default"_s, QJsonObject{{u"name"_s, QString(1'000'000, u'w')}}}});
+    });
+    loadNow(library);
+    EXPECT_EQ(labels()[2].size(), 1000);
+    EXPECT_LE(list().visualRect(row(2)).width(), list().viewport()->width());
+}
+
+TEST_F(BrowserProfileSettingsTest, TheModelIsAProperOne)
+{
+    ProfileListModel own(library);
+    const QAbstractItemModelTester tester(&own, QAbstractItemModelTester::FailureReportingMode::Fatal);
+    EXPECT_TRUE(own.moveRow({}, 0, {}, 3));
+    EXPECT_FALSE(own.moveRow({}, 1, {}, 1));
+    EXPECT_FALSE(own.moveRow({}, 1, {}, 2));
+    EXPECT_FALSE(own.moveRow({}, -1, {}, 3));
+    EXPECT_FALSE(own.moveRow({}, 0, {}, 6));
+    EXPECT_FALSE(own.setData(own.index(0), u"x"_s, Qt::EditRole));
+    EXPECT_TRUE(own.setData(own.index(0), Qt::Unchecked, Qt::CheckStateRole));
+    ASSERT_TRUE(waitUntil([this] { return !library.isLoading(); }));
+    EXPECT_EQ(own.rowCount(), 5);
+    setChromeHistory(u"Default"_s, {});
+    change([&] { sample::writeLocalState(chromeFile(u"Local State"_s), {}); });
+    loadNow(library);
+    EXPECT_LT(own.rowCount(), 5);
+}
+
+} // namespace
+} // namespace roamlet::testing

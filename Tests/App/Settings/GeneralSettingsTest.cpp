@@ -1,0 +1,229 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "App/Settings/GeneralSettings.h"
+
+#include "App/Look/NoteLabel.h"
+#include "App/Look/Switch.h"
+#include "App/Settings/SettingsWindow.h"
+#include "Library/Library.h"
+#include "Support/FakeActivationPolicy.h"
+#include "Support/FakeLoginService.h"
+#include "Support/TestHome.h"
+
+#include <QAccessible>
+#include <QTabWidget>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace roamlet::testing
+{
+namespace
+{
+
+using namespace Qt::StringLiterals;
+using Policy = ActivationPolicy::Policy;
+using Status = LoginService::Status;
+
+class GeneralSettingsTest : public ::testing::Test
+{
+protected:
+    void open()
+    {
+        window = std::make_unique<SettingsWindow>(
+            SettingsServices{library, home.defaults, login, activation, [this] { return isMainOpen; }});
+        window->open();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    }
+    Switch &control(const QString &name) const { return *window->findChild<Switch *>(name); }
+    Switch &atLogin() const { return control(u"openAtLogin"_s); }
+    Switch &dockIcon() const { return control(u"showDockIcon"_s); }
+    const NoteLabel &note() const { return *window->findChild<NoteLabel *>(u"openAtLoginNote"_s); }
+
+    TestHome home;
+    Library library{home.platform()};
+    FakeLoginService login;
+    FakeActivationPolicy activation;
+    bool isMainOpen = false;
+    std::unique_ptr<SettingsWindow> window;
+};
+
+TEST_F(GeneralSettingsTest, TheWindowHasTwoTabsWithSymbols)
+{
+    open();
+    auto *tabs = window->findChild<QTabWidget *>();
+    ASSERT_EQ(tabs->count(), 2);
+    EXPECT_EQ(tabs->tabText(0), u"General"_s);
+    EXPECT_EQ(tabs->tabText(1), u"Browser Profiles"_s);
+    EXPECT_FALSE(tabs->tabIcon(0).isNull());
+    EXPECT_FALSE(tabs->tabIcon(1).isNull());
+    EXPECT_EQ(tabs->currentIndex(), 0);
+    QTest::keyClick(window->focusWidget(), Qt::Key_Tab, Qt::ControlModifier);
+    EXPECT_EQ(tabs->currentIndex(), 1);
+}
+
+TEST_F(GeneralSettingsTest, EscapeClosesTheWindowAndItOpensAgain)
+{
+    open();
+    QTest::keyClick(window.get(), Qt::Key_Escape);
+    EXPECT_FALSE(window->isVisible());
+    window->open();
+    EXPECT_TRUE(window->isVisible());
+}
+
+TEST_F(GeneralSettingsTest, OpenAtLoginShowsTheServicesStatus)
+{
+    open();
+    EXPECT_FALSE(atLogin().isChecked());
+    EXPECT_FALSE(note().isVisible());
+    login.currentStatus = Status::Enabled;
+    open();
+    EXPECT_TRUE(atLogin().isChecked());
+    login.currentStatus = Status::RequiresApproval;
+    open();
+    EXPECT_FALSE(atLogin().isChecked());
+}
+
+TEST_F(GeneralSettingsTest, AStatusThatChangesMeanwhileShowsWhenTheTabAppears)
+{
+    open();
+    window->close();
+    login.currentStatus = Status::Enabled;
+    window->open();
+    EXPECT_TRUE(atLogin().isChecked());
+    EXPECT_EQ(login.registrations, 0) << "showing it is no change";
+}
+
+TEST_F(GeneralSettingsTest, OpenAtLoginRegistersAndUnregisters)
+{
+    open();
+    QTest::mouseClick(&atLogin(), Qt::LeftButton);
+    EXPECT_EQ(login.currentStatus, Status::Enabled);
+    EXPECT_TRUE(atLogin().isChecked());
+    EXPECT_FALSE(note().isVisible());
+    atLogin().setFocus();
+    QTest::keyClick(&atLogin(), Qt::Key_Space);
+    EXPECT_EQ(login.currentStatus, Status::NotRegistered);
+    EXPECT_FALSE(atLogin().isChecked());
+}
+
+TEST_F(GeneralSettingsTest, AClickOnTheWordsTurnsTheSwitch)
+{
+    open();
+    QTest::mouseClick(atLogin().parentWidget(), Qt::LeftButton, {}, QPoint(5, 5));
+    EXPECT_EQ(login.currentStatus, Status::Enabled);
+}
+
+TEST_F(GeneralSettingsTest, AFailedRegistrationFlipsTheSwitchBackAndSaysWhyInRed)
+{
+    login.error = u"<b>Operation not permitted</b>"_s;
+    open();
+    QTest::mouseClick(&atLogin(), Qt::LeftButton);
+    EXPECT_FALSE(atLogin().isChecked());
+    EXPECT_TRUE(note().isVisible());
+    EXPECT_EQ(note().text(), u"<b>Operation not permitted</b>"_s);
+    EXPECT_EQ(note().textFormat(), Qt::PlainText);
+    EXPECT_EQ(note().tone(), NoteLabel::Tone::Problem);
+    const QColor red = note().palette().color(QPalette::WindowText);
+    EXPECT_GT(red.red(), red.green() + 80);
+
+    login.error = {};
+    QTest::mouseClick(&atLogin(), Qt::LeftButton);
+    EXPECT_TRUE(atLogin().isChecked());
+    EXPECT_FALSE(note().isVisible());
+}
+
+TEST_F(GeneralSettingsTest, AFailedUnregistrationLeavesTheSwitchOn)
+{
+    login.currentStatus = Status::Enabled;
+    login.error = u"no"_s;
+    open();
+    QTest::mouseClick(&atLogin(), Qt::LeftButton);
+    EXPECT_TRUE(atLogin().isChecked());
+    EXPECT_EQ(note().text(), u"no"_s);
+}
+
+TEST_F(GeneralSettingsTest, ARegistrationThatNeedsApprovalSaysSo)
+{
+    /// The user has switched the entry off in the system's settings.
+    class PendingLoginService final : public LoginService
+    {
+    public:
+        Status status() const override { return current; }
+        std::expected<void, QString> registerProgram() override
+        {
+            current = Status::RequiresApproval;
+            return {};
+        }
+        std::expected<void, QString> unregisterProgram() override { return {}; }
+        bool isInstalledCopy() const override { return true; }
+        Status current = Status::NotRegistered;
+    } pending;
+    SettingsWindow own({library, home.defaults, pending, activation, [] { return false; }});
+    own.open();
+    auto *toggle = own.findChild<Switch *>(u"openAtLogin"_s);
+    QTest::mouseClick(toggle, Qt::LeftButton);
+    EXPECT_FALSE(toggle->isChecked());
+    const auto *hint = own.findChild<NoteLabel *>(u"openAtLoginNote"_s);
+    EXPECT_TRUE(hint->isVisible());
+    EXPECT_EQ(hint->text(), u"Approve Roamlet in System Settings › General › Login Items."_s);
+    EXPECT_EQ(hint->tone(), NoteLabel::Tone::Secondary);
+}
+
+TEST_F(GeneralSettingsTest, ShowDockIconIsOffUnlessStoredOtherwise)
+{
+    open();
+    EXPECT_FALSE(dockIcon().isChecked());
+    home.defaults.setString(u"showDockIcon"_s, u"yes"_s);
+    open();
+    EXPECT_FALSE(dockIcon().isChecked()) << "a value of another type is none";
+    home.defaults.setBoolean(u"showDockIcon"_s, true);
+    open();
+    EXPECT_TRUE(dockIcon().isChecked());
+    EXPECT_TRUE(activation.policies.isEmpty()) << "showing it is no change";
+}
+
+TEST_F(GeneralSettingsTest, ShowDockIconIsStoredAndSetsThePolicyBeforeComingToTheFront)
+{
+    open();
+    QTest::mouseClick(&dockIcon(), Qt::LeftButton);
+    EXPECT_EQ(home.defaults.boolean(u"showDockIcon"_s), true);
+    EXPECT_EQ(activation.policies, QList{Policy::Regular});
+    EXPECT_EQ(activation.timesInFront, 1);
+    EXPECT_EQ(activation.policyInFront, Policy::Regular);
+    QTest::mouseClick(&dockIcon(), Qt::LeftButton);
+    EXPECT_EQ(home.defaults.boolean(u"showDockIcon"_s), false);
+    EXPECT_EQ(activation.policies, (QList{Policy::Regular, Policy::Accessory}));
+    EXPECT_EQ(activation.timesInFront, 2);
+}
+
+TEST_F(GeneralSettingsTest, WhileTheMainWindowIsOpenItKeepsTheDockIcon)
+{
+    isMainOpen = true;
+    home.defaults.setBoolean(u"showDockIcon"_s, true);
+    open();
+    QTest::mouseClick(&dockIcon(), Qt::LeftButton);
+    EXPECT_EQ(home.defaults.boolean(u"showDockIcon"_s), false);
+    EXPECT_TRUE(activation.policies.isEmpty());
+    EXPECT_EQ(activation.timesInFront, 1);
+}
+
+TEST_F(GeneralSettingsTest, EverySwitchSaysWhatItIs)
+{
+    open();
+    for (const Switch *each : window->findChildren<Switch *>()) {
+        EXPECT_FALSE(each->objectName().isEmpty());
+        EXPECT_FALSE(each->accessibleName().isEmpty());
+        EXPECT_EQ(
+            QAccessible::queryAccessibleInterface(window->findChild<Switch *>(each->objectName()))->role(),
+            QAccessible::CheckBox);
+    }
+    EXPECT_EQ(atLogin().accessibleName(), u"Open at login"_s);
+    EXPECT_EQ(dockIcon().accessibleName(), u"Show Dock icon"_s);
+}
+
+} // namespace
+} // namespace roamlet::testing
