@@ -3,12 +3,9 @@
 
 #include "App/Window/ContentView.h"
 
-#include "App/Tables/LinkTable.h"
 #include "App/Window/ReloadButton.h"
 #include "App/Window/Sidebar.h"
-#include "Opening/Opener.h"
-#include "Support/FakeWorkspace.h"
-#include "Support/LibraryHome.h"
+#include "App/Window/WindowTest.h"
 #include "Support/Waiting.h"
 
 #include <QLabel>
@@ -25,41 +22,17 @@ namespace roamlet::testing
 
 using namespace Qt::StringLiterals;
 
-/// The window's content over a home with browsers, in English and in UTC.
-class ContentViewTest : public LibraryHome
+class ContentViewTest : public WindowTest
 {
 protected:
-    void SetUp() override { QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates)); }
-    /// A search may still run; it is over, and its copy gone, when the library is.
-    void TearDown() override
-    {
-        library.reset();
-        LibraryHome::TearDown();
-    }
-
     std::unique_ptr<ContentView> makeContent()
     {
-        auto content = std::make_unique<ContentView>(
-            WindowServices{.library = *library,
-                           .defaults = home.defaults,
-                           .clock = home.clock,
-                           .folders = home.folders,
-                           .opener = opener,
-                           .workspace = workspace,
-                           .collation = std::make_shared<const Collation>(u"en_US"_s),
-                           .calendar = [] { return UserCalendar::of(u"UTC"_s, u"en_US"_s); }});
+        auto content = std::make_unique<ContentView>(services());
         content->resize(1000, 600);
         content->show();
         return content;
     }
 
-    template<typename Widget>
-    static Widget *part(const ContentView &content, const QString &name)
-    {
-        auto *widget = content.findChild<Widget *>(name);
-        EXPECT_NE(widget, nullptr) << qPrintable(name);
-        return widget;
-    }
     static QString title(const ContentView &content)
     {
         return part<QWidget>(content, u"listTitle"_s)->accessibleName();
@@ -88,10 +61,6 @@ protected:
             return subtitle(content) == text;
         })) << qPrintable(subtitle(content));
     }
-
-    FakeWorkspace workspace;
-    Opener opener{workspace};
-    std::unique_ptr<Library> library = std::make_unique<Library>(home.platform());
 };
 
 TEST_F(ContentViewTest, saysThatItReadsUntilTheFirstLoadHasEnded)

@@ -106,7 +106,7 @@ void MainWindow::updateExportCommand()
 
 void MainWindow::showExportSheet(const ExportRequest &request)
 {
-    if (m_sheet) {
+    if (m_sheet && m_sheet->isVisible()) {
         m_sheet->raise();
         return;
     }
@@ -117,7 +117,6 @@ void MainWindow::showExportSheet(const ExportRequest &request)
                                .alert = m_services.alert,
                                .activation = m_services.activation},
                               this);
-    m_sheet->setAttribute(Qt::WA_DeleteOnClose);
     m_sheet->open();
 }
 

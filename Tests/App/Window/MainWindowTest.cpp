@@ -1,0 +1,168 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "App/Window/MainWindow.h"
+
+#include "App/AppDelegate.h"
+#include "App/Export/FakeAlert.h"
+#include "App/Export/FakeSavePanel.h"
+#include "App/Window/ContentView.h"
+#include "App/Window/Sidebar.h"
+#include "App/Window/WindowTest.h"
+#include "Support/FakeActivationPolicy.h"
+#include "Support/Waiting.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QTest>
+
+namespace roamlet::testing
+{
+
+using namespace Qt::StringLiterals;
+
+using Policy = ActivationPolicy::Policy;
+
+class MainWindowTest : public WindowTest
+{
+protected:
+    std::unique_ptr<MainWindow> makeWindow()
+    {
+        return std::make_unique<MainWindow>(MainWindow::Services{.content = services(),
+                                                                 .delegate = delegate,
+                                                                 .activation = activation,
+                                                                 .savePanel = savePanel,
+                                                                 .alert = alert});
+    }
+
+    FakeActivationPolicy activation;
+    AppDelegate delegate{home.defaults, activation};
+    FakeSavePanel savePanel;
+    FakeAlert alert;
+};
+
+TEST_F(MainWindowTest, openingItIsAnAppearanceAndClosingItADisappearance)
+{
+    const auto window = makeWindow();
+    EXPECT_FALSE(delegate.isMainWindowOpen());
+    window->open();
+    EXPECT_TRUE(delegate.isMainWindowOpen());
+    EXPECT_EQ(activation.current, Policy::Regular);
+    EXPECT_GE(activation.timesInFront, 1);
+    window->open();
+    EXPECT_EQ(activation.policies.size(), 1);
+    window->close();
+    EXPECT_FALSE(delegate.isMainWindowOpen());
+    EXPECT_EQ(activation.current, Policy::Accessory);
+}
+
+TEST_F(MainWindowTest, itIsNeverSmallerThanItsContentNeeds)
+{
+    const auto window = makeWindow();
+    window->open();
+    window->resize(100, 100);
+    EXPECT_EQ(window->size(), QSize(820, 480));
+}
+
+TEST_F(MainWindowTest, itsPlaceAndItsColumnsAreRemembered)
+{
+    {
+        const auto window = makeWindow();
+        window->open();
+        window->resize(900, 555);
+        window->content()->setSizes({300, 600});
+        window->close();
+    }
+    const auto window = makeWindow();
+    window->open();
+    EXPECT_EQ(window->size(), QSize(900, 555));
+    EXPECT_EQ(window->content()->sizes().first(), 300);
+}
+
+TEST_F(MainWindowTest, aStoredPlaceThatIsNoneIsPassedOver)
+{
+    home.defaults.setBytes(u"window.main"_s, "garbage");
+    home.defaults.setStringList(u"window.main.columns"_s, {u"a"_s, u"b"_s});
+    const auto window = makeWindow();
+    window->open();
+    EXPECT_GE(window->width(), 820);
+    EXPECT_GE(window->content()->sizes().first(), Sidebar::minimumWidthOfColumn);
+}
+
+TEST_F(MainWindowTest, theWindowsTitleIsTheLists)
+{
+    addChromium();
+    loadNow(*library);
+    const auto window = makeWindow();
+    EXPECT_EQ(window->windowTitle(), u"Recent History");
+    window->content()->setPane(BookmarksPane{u"chrome/Default"_s});
+    EXPECT_EQ(window->windowTitle(), u"Personal Bookmarks");
+}
+
+TEST_F(MainWindowTest, theExportCommandOpensTheSheetForTheShownSource)
+{
+    addChromium();
+    const auto window = makeWindow();
+    window->open();
+    auto *command = window->findChild<QAction *>(u"exportCommand"_s);
+    ASSERT_NE(command, nullptr);
+    EXPECT_EQ(command->text(), u"Export Bookmarks…");
+    EXPECT_FALSE(command->isEnabled());
+    loadNow(*library);
+    EXPECT_TRUE(command->isEnabled());
+
+    window->content()->setPane(BookmarksPane{u"chrome/Default"_s});
+    command->trigger();
+    auto *sheet = window->findChild<ExportPanel *>();
+    ASSERT_NE(sheet, nullptr);
+    EXPECT_TRUE(sheet->isVisible());
+    EXPECT_EQ(sheet->findChild<QComboBox *>()->currentText(), u"Chrome - Personal (1)");
+    command->trigger();
+    EXPECT_EQ(window->findChildren<ExportPanel *>().size(), 1);
+    QTest::keyClick(sheet, Qt::Key_Escape);
+    EXPECT_FALSE(sheet->isVisible());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(window->findChild<ExportPanel *>(), nullptr);
+
+    window->content()->setPane(HistoryPane());
+    command->trigger();
+    sheet = window->findChild<ExportPanel *>();
+    ASSERT_NE(sheet, nullptr);
+    EXPECT_EQ(sheet->findChild<QComboBox *>()->currentText(), u"All Browsers (1)");
+}
+
+TEST_F(MainWindowTest, reloadIsOffWhileTheLibraryLoads)
+{
+    addChromium();
+    const auto window = makeWindow();
+    window->open();
+    const auto *command = window->findChild<QAction *>(u"reloadCommand"_s);
+    EXPECT_TRUE(command->isEnabled());
+    EXPECT_EQ(command->shortcut(), QKeySequence(u"Ctrl+R"_s));
+    window->activateWindow();
+    ASSERT_TRUE(waitUntil([&window] { return window->isActiveWindow(); }));
+    QTest::keyClick(window.get(), Qt::Key_R, Qt::ControlModifier);
+    EXPECT_TRUE(library->isLoading());
+    EXPECT_FALSE(command->isEnabled());
+    ASSERT_TRUE(waitUntil([this] { return !library->isLoading(); }));
+    EXPECT_TRUE(command->isEnabled());
+}
+
+TEST_F(MainWindowTest, theKeyboardReachesTheSearchAndTheSettings)
+{
+    const auto window = makeWindow();
+    window->open();
+    window->activateWindow();
+    ASSERT_TRUE(waitUntil([&window] { return window->isActiveWindow(); }));
+    QTest::keyClick(window.get(), Qt::Key_F, Qt::ControlModifier);
+    EXPECT_TRUE(part<QLineEdit>(*window, u"searchField"_s)->hasFocus());
+    int asked = 0;
+    QObject::connect(window.get(), &MainWindow::settingsRequested, [&asked] { ++asked; });
+    QTest::keyClick(window.get(), Qt::Key_Comma, Qt::ControlModifier);
+    EXPECT_EQ(asked, 1);
+}
+
+} // namespace roamlet::testing
