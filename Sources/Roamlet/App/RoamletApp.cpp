@@ -3,12 +3,11 @@
 
 #include "App/RoamletApp.h"
 
-#include "App/AppDelegate.h"
 #include "App/Export/FileSavePanel.h"
 #include "App/Export/MessageAlert.h"
-#include "App/Window/MainWindow.h"
-#include "Library/Library.h"
-#include "Opening/Opener.h"
+#include "App/Settings/LoginItem.h"
+#include "App/Settings/SettingsServices.h"
+#include "Platform/ActivationPolicy.h"
 #include "Platform/Linux/AutostartLoginService.h"
 #include "Platform/Linux/DBusRunningInstance.h"
 #include "Platform/Linux/LinuxActivationPolicy.h"
@@ -19,10 +18,12 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QDBusConnection>
+#include <QIcon>
 #include <QLocale>
-#include <QStandardPaths>
 
-namespace roamlet::RoamletApp
+#include <algorithm>
+
+namespace roamlet
 {
 
 using namespace Qt::StringLiterals;
@@ -41,53 +42,107 @@ PasteNotice pasteNotice()
             }};
 }
 
+bool hasVisibleWindow()
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    return std::ranges::any_of(windows, [](const QWidget *window) {
+        return window->isVisible() && !window->isMinimized() && window->windowType() == Qt::Window;
+    });
+}
+
 } // namespace
 
-int run(int argc, char **argv)
+RoamletApp::RoamletApp(const Services &services)
+    : m_services(services),
+      m_delegate(services.platform.defaults, services.activation),
+      m_library(services.platform),
+      m_opener(services.workspace),
+      m_mainWindow(
+          {.content = {.library = m_library,
+                       .defaults = services.platform.defaults,
+                       .clock = services.platform.clock,
+                       .folders = services.platform.folders,
+                       .opener = m_opener,
+                       .workspace = services.workspace,
+                       .collation = std::make_shared<const Collation>(QLocale::system().collation().name()),
+                       .calendar = UserCalendar::ofSystem},
+           .delegate = m_delegate,
+           .activation = services.activation,
+           .savePanel = services.savePanel,
+           .alert = services.alert}),
+      m_settingsWindow({.library = m_library,
+                        .defaults = services.platform.defaults,
+                        .loginService = services.loginService,
+                        .activation = services.activation,
+                        .isMainWindowOpen = [this] { return m_delegate.isMainWindowOpen(); }})
+{
+    QObject::connect(&m_mainWindow, &MainWindow::settingsRequested, &m_settingsWindow, &SettingsWindow::open);
+}
+
+RoamletApp::~RoamletApp() = default;
+
+void RoamletApp::start(bool isLaunchedAtLogin)
+{
+    m_library.start();
+    LoginItem::setUpOnFirstLaunch(m_services.loginService, m_services.platform.defaults);
+    m_delegate.applicationWillFinishLaunching(isLaunchedAtLogin);
+    m_delegate.applicationDidFinishLaunching();
+    m_delegate.windowOpenerIsReady([this] { m_mainWindow.open(); });
+}
+
+void RoamletApp::reopen()
+{
+    m_delegate.applicationShouldHandleReopen(hasVisibleWindow());
+}
+
+int RoamletApp::run(int argc, char **argv)
 {
     // Before any other thread: each of them leaves the signals to this one.
     StopSignals signals;
-    QApplication application(argc, argv);
+    const QApplication application(argc, argv);
     QApplication::setApplicationDisplayName(u"Roamlet"_s);
+    QApplication::setApplicationVersion(u"" ROAMLET_VERSION ""_s);
     QApplication::setDesktopFileName(u"org.roamlet.Roamlet"_s);
     QApplication::setQuitOnLastWindowClosed(false);
-    const std::stop_callback quit(signals.token(), [&application] {
-        QMetaObject::invokeMethod(&application, &QCoreApplication::quit, Qt::QueuedConnection);
+    const std::stop_callback quit(signals.token(), [] {
+        QMetaObject::invokeMethod(QCoreApplication::instance(), &QCoreApplication::quit,
+                                  Qt::QueuedConnection);
     });
 
+    DBusRunningInstance instance;
+    RoamletApp *running = nullptr;
+    if (instance.claim([&running] {
+            if (running != nullptr)
+                running->reopen();
+        }) == RunningInstance::Claim::HandedOver)
+        return 0;
+
     LinuxPlatform platform;
-    const Platform services = platform.services();
     LinuxActivationPolicy activation;
-    AppDelegate delegate(services.defaults, activation);
-    delegate.applicationWillFinishLaunching(
-        application.arguments().contains(QLatin1StringView(AutostartLoginService::launchMarker)));
+    AutostartLoginService loginService(AutostartLoginService::Environment::ofThisProcess());
+    const Platform services = platform.services();
     LinuxWorkspace workspace(LinuxWorkspace::Environment::ofThisProcess(), services.folders, services.clock,
                              pasteNotice());
-    Opener opener(workspace);
     FileSavePanel savePanel(services.folders.home());
     MessageAlert alert;
-
-    Library library(services);
-    library.start();
-    MainWindow window(
-        {.content = {.library = library,
-                     .defaults = services.defaults,
-                     .clock = services.clock,
-                     .folders = services.folders,
-                     .opener = opener,
-                     .workspace = workspace,
-                     .collation = std::make_shared<const Collation>(QLocale::system().collation().name()),
-                     .calendar = UserCalendar::ofSystem},
-         .delegate = delegate,
-         .activation = activation,
-         .savePanel = savePanel,
-         .alert = alert});
-    delegate.applicationDidFinishLaunching();
-    delegate.windowOpenerIsReady([&window] { window.open(); });
-    const int status = QApplication::exec();
-    window.close();
+    int status = 0;
+    {
+        RoamletApp app({.platform = services,
+                        .activation = activation,
+                        .loginService = loginService,
+                        .workspace = workspace,
+                        .savePanel = savePanel,
+                        .alert = alert});
+        running = &app;
+        app.start(
+            QCoreApplication::arguments().contains(QLatin1StringView(AutostartLoginService::launchMarker)));
+        status = QApplication::exec();
+        running = nullptr;
+        app.mainWindow().close();
+    }
+    // The library is gone, and with it every private copy.
     signals.endProcessIfAsked();
     return status;
 }
 
-} // namespace roamlet::RoamletApp
+} // namespace roamlet

@@ -3,23 +3,13 @@
 
 #include "App/Window/Strip.h"
 
+#include "App/Look/MixedColor.h"
+
 #include <QHBoxLayout>
 #include <QPainter>
 
 namespace roamlet
 {
-
-namespace
-{
-
-QColor mixed(const QColor &ground, const QColor &tint, float share)
-{
-    const auto channel = [share](float from, float to) { return from + ((to - from) * share); };
-    return QColor::fromRgbF(channel(ground.redF(), tint.redF()), channel(ground.greenF(), tint.greenF()),
-                            channel(ground.blueF(), tint.blueF()));
-}
-
-} // namespace
 
 Strip::Strip(Tone tone, QWidget *parent) : QWidget(parent), m_tone(tone), m_row(new QHBoxLayout(this))
 {
@@ -37,8 +27,8 @@ void Strip::paintEvent(QPaintEvent * /*event*/)
     const QColor ground = palette().color(QPalette::Base);
     const QColor tint = m_tone == Tone::Warning ? warningColor() : palette().color(QPalette::Highlight);
     QPainter painter(this);
-    painter.fillRect(rect(), mixed(ground, tint, 0.12F));
-    painter.fillRect(QRect(0, height() - 1, width(), 1), mixed(ground, tint, 0.3F));
+    painter.fillRect(rect(), mixedColor(ground, tint, 0.12F));
+    painter.fillRect(QRect(0, height() - 1, width(), 1), mixedColor(ground, tint, 0.3F));
 }
 
 } // namespace roamlet
