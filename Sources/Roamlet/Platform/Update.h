@@ -44,7 +44,7 @@ struct UpdateError {
         NotConfigured,    ///< this build names no feed, or no usable key
         InsecureAddress,  ///< an address is no address, or one that anybody on the way could answer for
         TooManyRedirects, ///< the server sends us in circles
-        NetworkFailed,    ///< the detail is the system's words
+        NetworkFailed,    ///< the detail is the system's words, if it has any
         TimedOut,         ///< nothing came for too long
         ServerRefused,    ///< the detail is the server's status
         FeedTooLarge,     ///< the feed is longer than any honest one

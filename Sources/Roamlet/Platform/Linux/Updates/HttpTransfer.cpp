@@ -28,6 +28,15 @@ int statusOf(const QNetworkReply &reply)
     return reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
 }
 
+/// Where the answer sends us, when it does.
+std::optional<QUrl> redirection(const QNetworkReply &reply)
+{
+    const QVariant target = reply.attribute(QNetworkRequest::RedirectionTargetAttribute);
+    if (!target.isValid())
+        return {};
+    return reply.url().resolved(target.toUrl());
+}
+
 } // namespace
 
 bool HttpOptions::allows(const QUrl &address) const
@@ -42,7 +51,7 @@ bool HttpOptions::allows(const QUrl &address) const
 
 HttpTransfer::HttpTransfer(QNetworkAccessManager &network, const Clock &clock, HttpOptions options,
                            const QUrl &address, Handlers handlers, std::optional<Clock::Duration> limit)
-    : m_clock(clock), m_options(std::move(options)), m_handlers(std::move(handlers))
+    : m_network(network), m_clock(clock), m_options(std::move(options)), m_handlers(std::move(handlers))
 {
     if (!m_options.allows(address)) {
         m_clock.after(Clock::Duration::zero(), this, [this, address] {
@@ -50,7 +59,7 @@ HttpTransfer::HttpTransfer(QNetworkAccessManager &network, const Clock &clock, H
         });
         return;
     }
-    send(network, address);
+    send(address);
     watch();
     if (limit)
         m_clock.after(*limit, this, [this] { finish(UpdateError{UpdateError::Code::TimedOut, {}}); });
@@ -61,7 +70,7 @@ HttpTransfer::~HttpTransfer()
     letGo();
 }
 
-void HttpTransfer::send(QNetworkAccessManager &network, const QUrl &address)
+void HttpTransfer::send(const QUrl &address)
 {
     QNetworkRequest request(address);
     request.setHeader(QNetworkRequest::UserAgentHeader, m_options.userAgent);
@@ -72,14 +81,11 @@ void HttpTransfer::send(QNetworkAccessManager &network, const QUrl &address)
     request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
     request.setAttribute(QNetworkRequest::AuthenticationReuseAttribute, QNetworkRequest::Manual);
     // Each redirect is looked at here: Qt itself would follow one to anything that is no worse.
-    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
-                         QNetworkRequest::UserVerifiedRedirectPolicy);
-    request.setMaximumRedirectsAllowed(mostRedirects);
+    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
 
-    m_reply = network.get(request);
+    m_reply = m_network.get(request);
     // What nobody has read yet stays with the server.
     m_reply->setReadBufferSize(4 * bytesPerPiece);
-    connect(m_reply, &QNetworkReply::redirected, this, &HttpTransfer::follow);
     connect(m_reply, &QNetworkReply::readyRead, this, &HttpTransfer::readPieces);
     connect(m_reply, &QNetworkReply::finished, this, &HttpTransfer::complete);
 }
@@ -99,11 +105,12 @@ void HttpTransfer::watch()
 
 void HttpTransfer::follow(const QUrl &address)
 {
-    m_hasHeardSomething = true;
-    if (m_options.allows(address))
-        Q_EMIT m_reply->redirectAllowed();
-    else
-        finish(UpdateError{UpdateError::Code::InsecureAddress, address.toDisplayString()});
+    if (++m_redirects > mostRedirects)
+        return finish(UpdateError{UpdateError::Code::TooManyRedirects, {}});
+    if (!m_options.allows(address))
+        return finish(UpdateError{UpdateError::Code::InsecureAddress, address.toDisplayString()});
+    letGo();
+    send(address);
 }
 
 std::optional<UpdateError> HttpTransfer::begin()
@@ -118,6 +125,7 @@ std::optional<UpdateError> HttpTransfer::begin()
     const qint64 length = m_reply->rawHeader("Content-Length").trimmed().toLongLong(&isNumber);
     if (isNumber && length >= 0)
         head.length = length;
+    m_length = head.length;
     head.contentType = m_reply->header(QNetworkRequest::ContentTypeHeader)
                            .toString()
                            .section(u';', 0, 0)
@@ -130,10 +138,16 @@ std::optional<UpdateError> HttpTransfer::begin()
 void HttpTransfer::readPieces()
 {
     m_hasHeardSomething = true;
+    // The page that a redirect brings with it is for browsers.
+    if (redirection(*m_reply))
+        return;
     while (m_reply && m_reply->bytesAvailable() > 0) {
         std::optional<UpdateError> error = begin();
-        if (!error)
-            error = m_handlers.receive(m_reply->read(bytesPerPiece));
+        if (!error) {
+            const QByteArray piece = m_reply->read(bytesPerPiece);
+            m_received += piece.size();
+            error = m_handlers.receive(piece);
+        }
         if (error)
             return finish(error);
     }
@@ -143,25 +157,24 @@ void HttpTransfer::complete()
 {
     if (m_reply->error() != QNetworkReply::NoError)
         return finish(replyError());
+    if (const auto address = redirection(*m_reply))
+        return follow(*address);
     readPieces();
     // Reading may have ended it with an error.
     if (!m_reply)
         return;
-    finish(begin());
+    std::optional<UpdateError> error = begin();
+    // Qt does not always notice that a connection was cut.
+    if (!error && m_length && m_received != *m_length)
+        error = UpdateError{UpdateError::Code::NetworkFailed, {}};
+    finish(error);
 }
 
 UpdateError HttpTransfer::replyError() const
 {
-    switch (m_reply->error()) {
-    case QNetworkReply::TooManyRedirectsError:
-        return {UpdateError::Code::TooManyRedirects, {}};
-    case QNetworkReply::InsecureRedirectError:
-        return {UpdateError::Code::InsecureAddress, {}};
-    default:
-        if (const int status = statusOf(*m_reply); status >= firstRefusal)
-            return {UpdateError::Code::ServerRefused, QString::number(status)};
-        return {UpdateError::Code::NetworkFailed, m_reply->errorString()};
-    }
+    if (const int status = statusOf(*m_reply); status >= firstRefusal)
+        return {UpdateError::Code::ServerRefused, QString::number(status)};
+    return {UpdateError::Code::NetworkFailed, m_reply->errorString()};
 }
 
 void HttpTransfer::finish(const std::optional<UpdateError> &error)
@@ -181,7 +194,7 @@ void HttpTransfer::letGo()
     QNetworkReply *reply = m_reply;
     m_reply = nullptr;
     reply->disconnect(this);
-    reply->abort();
+    // Its end cancels it. To abort it now would cut it off in the middle of its own signal.
     reply->deleteLater();
 }
 

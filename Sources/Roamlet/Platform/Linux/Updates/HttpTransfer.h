@@ -65,7 +65,7 @@ public:
     ~HttpTransfer() override;
 
 private:
-    void send(QNetworkAccessManager &network, const QUrl &address);
+    void send(const QUrl &address);
     void watch();
     void follow(const QUrl &address);
     void readPieces();
@@ -75,10 +75,15 @@ private:
     void finish(const std::optional<UpdateError> &error);
     void letGo();
 
+    QNetworkAccessManager &m_network;
     const Clock &m_clock;
     HttpOptions m_options;
     Handlers m_handlers;
     QPointer<QNetworkReply> m_reply;
+    /// The length of what comes, when the server says.
+    std::optional<qint64> m_length;
+    qint64 m_received = 0;
+    int m_redirects = 0;
     bool m_hasBegun = false;
     bool m_hasHeardSomething = false;
 };

@@ -92,7 +92,8 @@ std::optional<UpdateError> PackageDownload::prepare()
     m_signature = *signature;
     if (m_package.length.value_or(0) > largestPackage)
         return UpdateError{UpdateError::Code::PackageTooLarge, {}};
-    // What an earlier download left, or what somebody else put there, is not written into.
+    // What an earlier download left, or what somebody else put there, is neither kept nor written into.
+    QFile::remove(m_target);
     m_file.remove();
     if (!m_file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered,
                      QFile::ReadOwner | QFile::WriteOwner))

@@ -1,0 +1,148 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "Platform/Linux/Updates/UpdateChoice.h"
+
+#include <gtest/gtest.h>
+
+namespace roamlet::testing
+{
+namespace
+{
+
+using namespace Qt::StringLiterals;
+
+class UpdateChoiceTest : public ::testing::Test
+{
+protected:
+    static FeedItem item(const QString &version, const QList<FeedItem::Package> &packages = {deb()})
+    {
+        FeedItem result;
+        result.version = version;
+        result.displayVersion = version;
+        result.packages = packages;
+        return result;
+    }
+    static FeedItem::Package package(const QString &name, const QString &system = {})
+    {
+        return {.address = QUrl(u"https://example.org/"_s % name),
+                .length = 10,
+                .signature = {},
+                .system = system};
+    }
+    static FeedItem::Package deb() { return package(u"roamlet.deb"_s); }
+
+    QString best(const QList<FeedItem> &items) const
+    {
+        const auto choice = UpdateChoice::best(items, host);
+        return choice ? choice->item.version : QString();
+    }
+
+    UpdateHost host{.version = u"1.0"_s,
+                    .kind = PackageKind::Debian,
+                    .systemVersion = u"6.1.0-18-amd64"_s,
+                    .architecture = u"x86_64"_s};
+};
+
+TEST_F(UpdateChoiceTest, TheNewestReleaseIsTakenWhereverItStands)
+{
+    EXPECT_EQ(best({item(u"1.1"_s), item(u"1.10"_s), item(u"1.9"_s)}), u"1.10"_s);
+}
+
+TEST_F(UpdateChoiceTest, NothingIsOfferedThatIsNotNewer)
+{
+    EXPECT_EQ(best({}), QString());
+    EXPECT_EQ(best({item(u"1.0"_s), item(u"1.0.0"_s), item(u"0.9"_s), item(u"1.0b7"_s)}), QString());
+}
+
+TEST_F(UpdateChoiceTest, ReleasesOnChannelsAreLeftOut)
+{
+    FeedItem beta = item(u"3.0"_s);
+    beta.channel = u"beta"_s;
+    EXPECT_EQ(best({beta, item(u"2.0"_s)}), u"2.0"_s);
+}
+
+TEST_F(UpdateChoiceTest, ASystemThatIsTooOldOrTooNewIsLeftAlone)
+{
+    FeedItem tooNew = item(u"3.0"_s);
+    tooNew.minimumSystemVersion = u"6.2"_s;
+    FeedItem tooOld = item(u"4.0"_s);
+    tooOld.maximumSystemVersion = u"6.0.9"_s;
+    FeedItem right = item(u"2.0"_s);
+    right.minimumSystemVersion = u"6.1"_s;
+    right.maximumSystemVersion = u"6.1"_s;
+    EXPECT_EQ(best({tooNew, tooOld, right}), u"2.0"_s);
+}
+
+TEST_F(UpdateChoiceTest, OnlyPackagesForThisSystemFit)
+{
+    EXPECT_EQ(best({item(u"2.0"_s, {package(u"roamlet.dmg"_s)})}), QString());
+    EXPECT_EQ(best({item(u"2.0"_s, {package(u"roamlet.deb"_s, u"macos"_s)})}), QString());
+    EXPECT_EQ(best({item(u"2.0"_s, {package(u"roamlet.deb"_s, u"linux-arm64"_s)})}), QString());
+    EXPECT_EQ(best({item(u"2.0"_s, {package(u"roamlet.deb"_s, u"linux"_s)})}), u"2.0"_s);
+    EXPECT_EQ(best({item(u"2.0"_s, {package(u"roamlet.DEB"_s, u"linux-x64"_s)})}), u"2.0"_s);
+    EXPECT_EQ(best({item(u"2.0"_s, {package(u"roamlet.deb"_s, u"linux-amd64"_s)})}), u"2.0"_s);
+    host.architecture = u"arm64"_s;
+    EXPECT_EQ(best({item(u"2.0"_s, {package(u"roamlet.deb"_s, u"linux-aarch64"_s)})}), u"2.0"_s);
+}
+
+TEST_F(UpdateChoiceTest, AReleaseWithoutAPackageThatFitsDoesNotHideAnOlderOne)
+{
+    EXPECT_EQ(best({item(u"2.0"_s), item(u"3.0"_s, {package(u"roamlet.dmg"_s)}), item(u"4.0"_s, {})}),
+              u"2.0"_s);
+}
+
+TEST_F(UpdateChoiceTest, ThePackageIsOfTheKindThatTheProgramIs)
+{
+    const QList<FeedItem> items{item(u"2.0"_s, {package(u"Roamlet.AppImage"_s), deb()})};
+    EXPECT_EQ(UpdateChoice::best(items, host)->package.address.fileName(), u"roamlet.deb"_s);
+    host.kind = PackageKind::AppImage;
+    EXPECT_EQ(UpdateChoice::best(items, host)->package.address.fileName(), u"Roamlet.AppImage"_s);
+}
+
+TEST_F(UpdateChoiceTest, AnAddressThatIsNoneFitsNobody)
+{
+    EXPECT_EQ(best({item(u"2.0"_s, {FeedItem::Package()})}), QString());
+}
+
+TEST_F(UpdateChoiceTest, AReleaseIsCriticalForThoseWhoAreOldEnough)
+{
+    const auto isCritical = [this](const std::optional<QString> &before) {
+        FeedItem release = item(u"2.0"_s);
+        release.criticalBefore = before;
+        return UpdateChoice::best({release}, host)->isCritical;
+    };
+    EXPECT_FALSE(isCritical({}));
+    EXPECT_TRUE(isCritical(QString()));
+    EXPECT_TRUE(isCritical(u"1.1"_s));
+    EXPECT_FALSE(isCritical(u"1.0"_s));
+}
+
+TEST_F(UpdateChoiceTest, WhatIsToldAboutItComesFromTheFeed)
+{
+    FeedItem release = item(u"205"_s);
+    release.displayVersion = u"2.0.5"_s;
+    release.notes = ReleaseNotes{ReleaseNotes::Format::Plain, u"New"_s};
+    release.criticalBefore = QString();
+    EXPECT_EQ(UpdateChoice::best({release}, host)->update(), (Update{.version = u"205"_s,
+                                                                     .displayVersion = u"2.0.5"_s,
+                                                                     .notes = release.notes,
+                                                                     .size = 10,
+                                                                     .isCritical = true}));
+}
+
+TEST_F(UpdateChoiceTest, ThisMachineHasAVersionToCompareWith)
+{
+    qunsetenv("APPIMAGE");
+    const UpdateHost here = UpdateHost::ofThisProcess(u"1.0"_s);
+    EXPECT_EQ(here.version, u"1.0"_s);
+    EXPECT_EQ(here.kind, PackageKind::Debian);
+    EXPECT_FALSE(here.systemVersion.isEmpty());
+    EXPECT_FALSE(here.architecture.isEmpty());
+    qputenv("APPIMAGE", "/home/anna/Roamlet.AppImage");
+    EXPECT_EQ(UpdateHost::ofThisProcess({}).kind, PackageKind::AppImage);
+    qunsetenv("APPIMAGE");
+}
+
+} // namespace
+} // namespace roamlet::testing

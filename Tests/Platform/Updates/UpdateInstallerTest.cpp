@@ -1,0 +1,181 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "Platform/Linux/Updates/UpdateInstaller.h"
+
+#include "../WithoutPrivileges.h"
+#include "UpdatesTest.h"
+
+#include <sys/stat.h>
+
+namespace roamlet::testing
+{
+namespace
+{
+
+using namespace Qt::StringLiterals;
+using Code = UpdateError::Code;
+
+class UpdateInstallerTest : public UpdatesTest
+{
+protected:
+    UpdateInstaller installer()
+    {
+        return UpdateInstaller({.appImage = appImage,
+                                .packageFolder = folder.filePath(u"cache/Roamlet/Updates"_s),
+                                .startProcess =
+                                    [this](const QString &program, const QStringList &arguments) {
+                                        started.append(QStringList(program) + arguments);
+                                        return canStart;
+                                    },
+                                .restart = [this](const QString &path) { restarted.append(path); }});
+    }
+
+    void makeAppImage(mode_t mode)
+    {
+        appImage = folder.filePath(u"Roamlet.AppImage"_s);
+        write(appImage, "old program");
+        ASSERT_EQ(::chmod(QFile::encodeName(appImage).constData(), mode), 0);
+    }
+
+    static mode_t modeOf(const QString &path)
+    {
+        struct stat attributes = {};
+        EXPECT_EQ(::stat(QFile::encodeName(path).constData(), &attributes), 0);
+        return attributes.st_mode & 07777U;
+    }
+
+    QString appImage;
+    bool canStart = true;
+    QList<QStringList> started;
+    QStringList restarted;
+};
+
+TEST_F(UpdateInstallerTest, APackageIsHandedToTheDesktop)
+{
+    const auto path = installer().packagePath();
+    ASSERT_TRUE(path);
+    EXPECT_EQ(*path, folder.filePath(u"cache/Roamlet/Updates/Roamlet.deb"_s));
+    write(*path, "package");
+    EXPECT_EQ(installer().install(), std::nullopt);
+    EXPECT_EQ(started, (QList<QStringList>{{u"xdg-open"_s, *path}}));
+    EXPECT_EQ(restarted, QStringList());
+    EXPECT_EQ(contentOf(*path), "package") << "the desktop reads it when it gets to it";
+}
+
+TEST_F(UpdateInstallerTest, OnlyTheUserEntersTheFolderOfPackages)
+{
+    const QString packages = folder.filePath(u"cache/Roamlet/Updates"_s);
+    ASSERT_TRUE(QDir().mkpath(packages));
+    ASSERT_EQ(::chmod(QFile::encodeName(packages).constData(), 0777), 0);
+    ASSERT_TRUE(installer().packagePath());
+    EXPECT_EQ(modeOf(packages), 0700U);
+}
+
+TEST_F(UpdateInstallerTest, ADesktopThatTakesNothingIsAnError)
+{
+    canStart = false;
+    EXPECT_EQ(installer().install(), (UpdateError{Code::CannotInstall, u"xdg-open"_s}));
+}
+
+TEST_F(UpdateInstallerTest, AFolderThatCannotBeMadeIsAnErrorInTheSystemsWords)
+{
+    write(folder.filePath(u"cache"_s), "a file");
+    const auto path = installer().packagePath();
+    ASSERT_FALSE(path);
+    EXPECT_EQ(path.error().code, Code::CannotWrite);
+    EXPECT_FALSE(path.error().detail.isEmpty());
+    EXPECT_EQ(installer().install(), path.error());
+}
+
+TEST_F(UpdateInstallerTest, AnAppImageIsReplacedInItsPlaceAndRestarted)
+{
+    makeAppImage(0750);
+    const auto path = installer().packagePath();
+    ASSERT_TRUE(path);
+    EXPECT_EQ(*path, folder.filePath(u".Roamlet.AppImage.update"_s));
+    write(*path, "new program");
+    ASSERT_EQ(::chmod(QFile::encodeName(*path).constData(), 0600), 0);
+    EXPECT_EQ(installer().install(), std::nullopt);
+    EXPECT_EQ(contentOf(appImage), "new program");
+    EXPECT_EQ(modeOf(appImage), 0750U);
+    EXPECT_EQ(names(), QStringList{u"Roamlet.AppImage"_s});
+    EXPECT_EQ(restarted, QStringList{appImage});
+    EXPECT_EQ(started, QList<QStringList>());
+}
+
+TEST_F(UpdateInstallerTest, ANewAppImageCanBeStartedByItsOwner)
+{
+    makeAppImage(0644);
+    write(*installer().packagePath(), "new program");
+    EXPECT_EQ(installer().install(), std::nullopt);
+    EXPECT_EQ(modeOf(appImage), 0744U);
+}
+
+TEST_F(UpdateInstallerTest, TheProgramThatRunsKeepsItsOldFile)
+{
+    makeAppImage(0755);
+    QFile running(appImage);
+    ASSERT_TRUE(running.open(QIODevice::ReadOnly));
+    write(*installer().packagePath(), "new program");
+    EXPECT_EQ(installer().install(), std::nullopt);
+    EXPECT_EQ(running.readAll(), "old program");
+}
+
+TEST_F(UpdateInstallerTest, ALinkStaysALink)
+{
+    makeAppImage(0755);
+    const QString real = appImage;
+    ASSERT_TRUE(QDir(folder.path()).mkdir(u"bin"_s));
+    appImage = folder.filePath(u"bin/roamlet"_s);
+    ASSERT_TRUE(QFile::link(real, appImage));
+    write(*installer().packagePath(), "new program");
+    EXPECT_EQ(installer().install(), std::nullopt);
+    EXPECT_EQ(contentOf(real), "new program");
+    EXPECT_TRUE(QFileInfo(appImage).isSymLink());
+    EXPECT_EQ(restarted, QStringList{appImage});
+}
+
+TEST_F(UpdateInstallerTest, AnAppImageThatWentAwayIsNotReplaced)
+{
+    appImage = folder.filePath(u"gone.AppImage"_s);
+    EXPECT_EQ(installer().packagePath().error().code, Code::CannotInstall);
+    EXPECT_EQ(installer().install()->code, Code::CannotInstall);
+    EXPECT_EQ(names(), QStringList());
+    EXPECT_EQ(restarted, QStringList());
+}
+
+TEST_F(UpdateInstallerTest, AReadOnlyFolderIsAnErrorAndTheOldProgramStays)
+{
+    makeAppImage(0755);
+    write(*installer().packagePath(), "new program");
+    ASSERT_EQ(::chmod(QFile::encodeName(folder.path()).constData(), 0555), 0);
+    {
+        const WithoutPrivileges nobody;
+        if (!nobody.arePermissionsChecked())
+            GTEST_SKIP() << "permissions stop nobody here";
+        const auto error = installer().install();
+        ASSERT_TRUE(error);
+        EXPECT_EQ(error->code, Code::CannotInstall);
+        EXPECT_FALSE(error->detail.isEmpty());
+    }
+    ASSERT_EQ(::chmod(QFile::encodeName(folder.path()).constData(), 0755), 0);
+    EXPECT_EQ(contentOf(appImage), "old program");
+    EXPECT_EQ(restarted, QStringList());
+}
+
+TEST_F(UpdateInstallerTest, ThisProcessKeepsPackagesAmongItsCaches)
+{
+    const QByteArray before = qgetenv("XDG_CACHE_HOME");
+    qputenv("XDG_CACHE_HOME", "/home/anna/cache");
+    qputenv("APPIMAGE", "/home/anna/Roamlet.AppImage");
+    const auto here = UpdateInstaller::Environment::ofThisProcess();
+    EXPECT_EQ(here.packageFolder, u"/home/anna/cache/Roamlet/Updates"_s);
+    EXPECT_EQ(here.appImage, u"/home/anna/Roamlet.AppImage"_s);
+    qunsetenv("APPIMAGE");
+    EXPECT_EQ(UpdateInstaller::Environment::ofThisProcess().appImage, QString());
+    qputenv("XDG_CACHE_HOME", before);
+}
+
+} // namespace
+} // namespace roamlet::testing
