@@ -50,7 +50,8 @@ void ProfileDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
         QStyle::visualRect(item.direction, inner, inner.adjusted(indent, 0, -control.width() - margin, 0));
     painter->setPen(text);
     painter->setFont(item.font);
-    painter->drawText(name, QStyle::visualAlignment(item.direction, Qt::AlignLeft | Qt::AlignVCenter),
+    const Qt::Alignment alignment = QStyle::visualAlignment(item.direction, Qt::AlignLeft | Qt::AlignVCenter);
+    painter->drawText(name, static_cast<int>(alignment.toInt()),
                       item.fontMetrics.elidedText(item.text, Qt::ElideRight, name.width()));
 
     QPalette around = item.palette;
