@@ -33,6 +33,8 @@ public:
     void press(std::uint64_t id, const QString &combination) override
     {
         keys.append(QStringLiteral("%1: <%2>").arg(id).arg(combination));
+        if (window && takesAddresses && combination == QStringLiteral("Return"))
+            window->title = QStringLiteral("A page");
         if (onPress)
             onPress();
     }
@@ -46,6 +48,8 @@ public:
     /// Whether the desktop does as it is told.
     bool letsActivate = true;
     std::optional<Window> window;
+    /// Whether the browser shows a page whose address was typed.
+    bool takesAddresses = true;
     /// Called after each combination of keys.
     std::function<void()> onPress;
 

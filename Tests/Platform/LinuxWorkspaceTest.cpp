@@ -357,7 +357,7 @@ TEST_F(LinuxWorkspaceTest, APageIsTypedIntoABlankTabOfTheProfile)
     EXPECT_EQ(windows->askedClasses, QStringList({u"google-chrome"_s, u"My-Chrome"_s}));
     windows->window = {.id = 7, .title = u"about:blank - Google Chrome"_s, .isActive = true};
     home.clock.advance(1s);
-    EXPECT_EQ(windows->keys.value(1), u"7: chrome://history/");
+    EXPECT_EQ(windows->keys.value(2), u"7: chrome://history/");
     EXPECT_TRUE(clipboard.isEmpty());
 }
 
