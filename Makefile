@@ -1,10 +1,18 @@
 # SPDX-License-Identifier: MIT
 # Each command installs what it needs (Debian 12, as root or with sudo), builds and does its work.
 
-.PHONY: run test check lint format sanitizers bench clean
+PREFIX ?= /usr/local
+
+.PHONY: run install package test check lint format sanitizers bench clean
 
 run: ## Build Roamlet and start it
 	@Scripts/run.sh
+
+install: ## Build Roamlet and install it below PREFIX, or into DESTDIR
+	@DESTDIR="$(DESTDIR)" Scripts/install.sh "$(PREFIX)"
+
+package: ## Make a Debian package of Roamlet
+	@Scripts/package.sh
 
 test: ## Build and run every test
 	@Scripts/test.sh dev

@@ -1,14 +1,15 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Installs what is missing for each of the purposes named: build, test, lint, bench.
+# Installs what is missing for each of the purposes named: build, test, lint, bench, packaging.
 set -euo pipefail
 
 build=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-svg-dev libsqlite3-dev libicu-dev libplist-dev libsodium-dev nlohmann-json3-dev
   libglib2.0-dev libx11-dev libxdo-dev tzdata)
-test=(libgtest-dev libgmock-dev sqlite3 dbus-daemon desktop-file-utils)
+test=(libgtest-dev libgmock-dev sqlite3 dbus-daemon desktop-file-utils appstream groff-base)
 # Without these the tests that need them say that they were skipped.
 optional_test=(chromium xvfb openbox)
 lint=(git clang-format-19 clang-tidy-19)
+packaging=(dpkg-dev file)
 bench=(libbenchmark-dev hyperfine sqlite3 time)
 
 is_installed() { [ "$(dpkg-query -W -f '${db:Status-Status}' "$1" 2>/dev/null)" = installed ]; }
@@ -34,7 +35,7 @@ install_missing() {
 
 for purpose in "$@"; do
   case "$purpose" in
-    build | test | lint | bench)
+    build | test | lint | bench | packaging)
       declare -n packages="$purpose"
       install_missing "${packages[@]}"
       ;;

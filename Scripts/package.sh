@@ -1,0 +1,19 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+# Builds the release and makes a Debian package of it. ROAMLET_PACKAGE_CONTACT says who answers for it.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+Scripts/install-dependencies.sh build packaging
+options=(-DCMAKE_INSTALL_PREFIX=/usr)
+[ -z "${ROAMLET_PACKAGE_CONTACT:-}" ] || options+=("-DROAMLET_PACKAGE_CONTACT=$ROAMLET_PACKAGE_CONTACT")
+cmake --preset release "${options[@]}" >/dev/null
+cmake --build --preset release
+# The same commit gives the same package, to the byte.
+if [ -z "${SOURCE_DATE_EPOCH:-}" ] && git rev-parse --git-dir >/dev/null 2>&1; then
+  SOURCE_DATE_EPOCH=$(git log -1 --format=%ct)
+  export SOURCE_DATE_EPOCH
+fi
+rm -f build/release/*.deb
+cpack --config build/release/CPackConfig.cmake -B build/release >/dev/null
+ls build/release/*.deb
