@@ -4,14 +4,20 @@
 #include "App/Tables/HistoryTable.h"
 
 #include "App/Tables/TableTest.h"
+#include "Support/Waiting.h"
 
+#include <QHeaderView>
+#include <QMenu>
 #include <QSignalSpy>
 #include <QTest>
+
+#include <gmock/gmock.h>
 
 namespace roamlet::testing
 {
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace
 {
@@ -32,6 +38,15 @@ protected:
         setPages(u"Profile 1"_s, {page(u"work"_s, 2 * hour, 7)});
         loadNow(*library);
     }
+
+    /// Types into the search field and waits as long as a person does.
+    void search(HistoryTable &table, const QString &text)
+    {
+        awaitList(table, [&] {
+            table.setInputs({.search = text});
+            home.clock.advance(HistoryTable::searchDelay);
+        });
+    }
 };
 
 } // namespace
@@ -48,6 +63,253 @@ TEST_F(HistoryTableTest, TheNewestPagesComeFirst)
                            "old|3/30/26|1|Chrome - Personal");
     EXPECT_EQ(table.rowCount(), 6);
     EXPECT_FALSE(table.isCapped());
+}
+
+TEST_F(HistoryTableTest, TheMostVisitedPagesComeFirstInTheOtherMode)
+{
+    HistoryTable table(services(), Mode::MostVisited);
+    show(table);
+    EXPECT_EQ(titles(table).substr(0, 11), "monday work");
+    EXPECT_EQ(table.view().accessibleName(), u"Most Visited");
+}
+
+TEST_F(HistoryTableTest, OneSourceIsShownAlone)
+{
+    HistoryTable table(services(), Mode::Recent);
+    show(table, {.sourceID = u"chrome/Profile 1"_s});
+    EXPECT_EQ(titles(table), "work");
+    awaitList(table, [&] { table.setInputs({.sourceID = u"chrome/Nobody"_s}); });
+    EXPECT_EQ(titles(table), "");
+}
+
+TEST_F(HistoryTableTest, NothingIsReadUntilTheTableIsSeen)
+{
+    recordReads();
+    HistoryTable table(services(), Mode::Recent);
+    expectNoList(table, [&] { table.setInputs({.sourceID = u"chrome/Default"_s}); });
+    EXPECT_TRUE(takeReads().isEmpty());
+    show(table, {.sourceID = u"chrome/Profile 1"_s});
+    EXPECT_EQ(takeReads(), QStringList{u"chrome/Profile 1"_s});
+}
+
+TEST_F(HistoryTableTest, AHiddenTableCatchesUpWhenItIsShown)
+{
+    HistoryTable table(services(), Mode::Recent);
+    show(table);
+    table.hide();
+    setPages(u"Profile 1"_s, {page(u"new"_s, 0)});
+    expectNoList(table, [&] { loadNow(*library); });
+    awaitList(table, [&] { table.show(); });
+    EXPECT_EQ(titles(table), "e1 new today yesterday monday old");
+}
+
+TEST_F(HistoryTableTest, AReloadShowsNewPages)
+{
+    HistoryTable table(services(), Mode::Recent);
+    show(table);
+    setPages(u"Profile 1"_s, {page(u"new"_s, 0), page(u"work"_s, 2 * hour)});
+    reload(table);
+    EXPECT_EQ(titles(table), "e1 new today work yesterday monday old");
+    EXPECT_EQ(table.rowCount(), 7);
+}
+
+TEST_F(HistoryTableTest, TypedWordsAreSearchedForAfterAWait)
+{
+    HistoryTable table(services(), Mode::Recent);
+    show(table);
+    recordReads();
+    expectNoList(table, [&] {
+        table.setInputs({.search = u"day"_s});
+        home.clock.advance(HistoryTable::searchDelay - 1ms);
+    });
+    EXPECT_TRUE(takeReads().isEmpty());
+    awaitList(table, [&] { home.clock.advance(1ms); });
+    EXPECT_EQ(titles(table), "today yesterday monday");
+    EXPECT_EQ(takeReads().size(), 3);
+}
+
+TEST_F(HistoryTableTest, EachKeyStartsTheWaitAnew)
+{
+    HistoryTable table(services(), Mode::Recent);
+    show(table);
+    recordReads();
+    expectNoList(table, [&] {
+        for (const QString &typed : {u"m"_s, u"mo"_s, u"mon"_s}) {
+            table.setInputs({.search = typed});
+            home.clock.advance(HistoryTable::searchDelay - 1ms);
+        }
+    });
+    awaitList(table, [&] { home.clock.advance(1ms); });
+    EXPECT_EQ(titles(table), "monday");
+    EXPECT_EQ(takeReads().size(), 3) << "one search of three sources";
+}
+
+TEST_F(HistoryTableTest, AnEmptiedFieldIsSearchedAtOnce)
+{
+    HistoryTable table(services(), Mode::Recent);
+    show(table);
+    search(table, u"monday"_s);
+    awaitList(table, [&] { table.setInputs({}); });
+    EXPECT_EQ(table.rowCount(), 6);
+}
+
+TEST_F(HistoryTableTest, BlanksAreNoSearch)
+{
+    HistoryTable table(services(), Mode::Recent);
+    show(table);
+    awaitList(table, [&] { table.setInputs({.search = u"   "_s}); });
+    EXPECT_EQ(table.rowCount(), 6);
+}
+
+TEST_F(HistoryTableTest, TheSameSearchRunsOnce)
+{
+    HistoryTable table(services(), Mode::Recent);
+    show(table);
+    search(table, u"day"_s);
+    recordReads();
+    // Typed and taken back before anything was searched.
+    table.setInputs({.search = u"days"_s});
+    table.setInputs({.search = u"day"_s});
+    expectNoList(table, [&] { home.clock.advance(1s); });
+    EXPECT_EQ(titles(table), "today yesterday monday");
+    EXPECT_TRUE(takeReads().isEmpty());
+}
+
+TEST_F(HistoryTableTest, SortingAndGroupingSearchNothing)
+{
+    HistoryTable table(services(), Mode::Recent);
+    show(table);
+    recordReads();
+    awaitList(table, [&] { clickHeader(table, HistoryTable::Title); });
+    awaitList(table, [&] { table.setInputs({.grouping = Grouping::Site}); });
+    EXPECT_TRUE(takeReads().isEmpty());
+}
+
+TEST_F(HistoryTableTest, ALateResultIsNotShown)
+{
+    HistoryTable table(services(), Mode::Recent);
+    show(table);
+    Gate gate;
+    recordReads(&gate);
+    const QSignalSpy lists(&table, &LinkTable::rowCountChanged);
+    table.setInputs({.sourceID = u"chrome/Default"_s});
+    gate.awaitReader();
+    awaitList(table, [&] { table.setInputs({.sourceID = u"edge/Default"_s}); });
+    EXPECT_EQ(titles(table), "e1");
+    gate.open();
+    awaitList(table, [&] { table.setInputs({.site = u"work.example"_s}); });
+    EXPECT_EQ(titles(table), "work");
+    EXPECT_EQ(lists.size(), 2);
+}
+
+TEST_F(HistoryTableTest, ASiteIsShownAlone)
+{
+    HistoryTable table(services(), Mode::Recent);
+    show(table);
+    awaitList(table, [&] { table.setInputs({.site = u"work.example"_s}); });
+    EXPECT_EQ(titles(table), "work");
+}
+
+TEST_F(HistoryTableTest, AFullSearchIsCapped)
+{
+    QList<sample::HistoryRow> rows;
+    for (int i = 0; i < HistoryQuery::defaultLimit + 5; ++i)
+        rows.append(page(u"word"_s, i, 1, u"https://many.example/%1"_s.arg(i)));
+    setPages(u"Default"_s, rows);
+    loadNow(*library);
+    HistoryTable table(services(), Mode::Recent);
+    const QSignalSpy capped(&table, &HistoryTable::isCappedChanged);
+    show(table);
+    EXPECT_FALSE(table.isCapped());
+    search(table, u"word"_s);
+    EXPECT_TRUE(table.isCapped());
+    EXPECT_EQ(capped.last().first(), true);
+    EXPECT_EQ(table.rowCount(), 1000);
+    search(table, u"work"_s);
+    EXPECT_FALSE(table.isCapped());
+}
+
+TEST_F(HistoryTableTest, TheColumnClickedLastDecidesFirst)
+{
+    HistoryTable table(services(), Mode::Recent);
+    show(table);
+    const QHeaderView &header = *table.view().header();
+    EXPECT_EQ(header.sortIndicatorSection(), HistoryTable::LastVisited);
+    EXPECT_EQ(header.sortIndicatorOrder(), Qt::DescendingOrder);
+    awaitList(table, [&] { clickHeader(table, HistoryTable::Title); });
+    EXPECT_EQ(titles(table), "e1 monday old today work yesterday");
+    EXPECT_EQ(header.sortIndicatorSection(), HistoryTable::Title);
+    EXPECT_EQ(header.sortIndicatorOrder(), Qt::AscendingOrder);
+    awaitList(table, [&] { clickHeader(table, HistoryTable::Title); });
+    EXPECT_EQ(titles(table), "yesterday work today old monday e1");
+    EXPECT_EQ(header.sortIndicatorOrder(), Qt::DescendingOrder);
+    awaitList(table, [&] { clickHeader(table, HistoryTable::Source); });
+    EXPECT_EQ(titles(table), "yesterday today old monday work e1") << "by source, then by title backwards";
+    awaitList(table, [&] { clickHeader(table, HistoryTable::Visits); });
+    EXPECT_EQ(titles(table), "monday work today e1 yesterday old") << "the most first";
+}
+
+TEST_F(HistoryTableTest, TheMenuOfTheHeaderSortsToo)
+{
+    HistoryTable table(services(), Mode::Recent);
+    show(table);
+    QTest::keyClick(table.view().header(), Qt::Key_Space);
+    awaitList(table, [&] {
+        QMenu *orders = table.findChild<QMenu *>(u"columnMenu"_s)->findChild<QMenu *>();
+        orders->actions().value(HistoryTable::Title)->trigger();
+    });
+    EXPECT_EQ(titles(table), "e1 monday old today work yesterday");
+    awaitList(table, [&] { choose(table, u"columnMenu"_s, u"Default Order"_s); });
+    EXPECT_EQ(titles(table), "e1 today work yesterday monday old");
+}
+
+TEST_F(HistoryTableTest, DaysAreSections)
+{
+    HistoryTable table(services(), Mode::Recent);
+    show(table, {.grouping = Grouping::Day});
+    EXPECT_EQ(titles(table),
+              "Today e1 today work Yesterday yesterday Earlier This Week monday March 2026 old");
+    EXPECT_EQ(table.rowCount(), 6);
+    awaitList(table, [&] { clickHeader(table, HistoryTable::LastVisited); });
+    EXPECT_EQ(titles(table),
+              "March 2026 old Earlier This Week monday Yesterday yesterday Today work today e1");
+}
+
+TEST_F(HistoryTableTest, SitesAreSections)
+{
+    HistoryTable table(services(), Mode::Recent);
+    show(table, {.grouping = Grouping::Site});
+    EXPECT_EQ(titles(table).substr(0, 24), "edge.example e1 monday.e");
+}
+
+TEST_F(HistoryTableTest, TheNextDayIsNoticedWhenTheWindowIsUsedAgain)
+{
+    HistoryTable table(services(), Mode::Recent);
+    show(table, {.grouping = Grouping::Day});
+    table.clearFocus();
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    home.clock.advance(24h);
+    awaitList(table, [&] { table.activateWindow(); });
+    EXPECT_EQ(titles(table).substr(0, 22), "Yesterday e1 today wor");
+}
+
+TEST_F(HistoryTableTest, AnEmptyListSaysWhy)
+{
+    Library fresh(home.platform());
+    HistoryTable table(services(), Mode::Recent);
+    show(table, {.sourceID = u"edge/Default"_s});
+    EXPECT_EQ(table.view().emptyText(), u"");
+    awaitList(table, [&] {
+        table.setInputs({.search = u"no & such"_s});
+        home.clock.advance(HistoryTable::searchDelay);
+    });
+    EXPECT_EQ(table.view().emptyText(), u"Nothing found for “no & such”");
+    awaitList(table, [&] { table.setInputs({.site = u"nowhere.example"_s}); });
+    EXPECT_EQ(table.view().emptyText(), u"Nothing found on nowhere.example");
+    awaitList(table, [&] { table.setInputs({.sourceID = u"chrome/Nobody"_s}); });
+    EXPECT_EQ(table.view().emptyText(), u"No history yet");
 }
 
 } // namespace roamlet::testing

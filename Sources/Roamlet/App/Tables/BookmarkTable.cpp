@@ -15,9 +15,9 @@ namespace
 
 using SortColumn = SortColumns<Bookmark>::Column;
 
-static_assert(static_cast<int>(SortColumn::Folder) == BookmarkTable::Folder
-              && static_cast<int>(SortColumn::DateAdded) == BookmarkTable::Added
-              && static_cast<int>(SortColumn::Source) == BookmarkTable::Source);
+static_assert(static_cast<int>(SortColumn::Folder) == BookmarkTable::Folder &&
+              static_cast<int>(SortColumn::DateAdded) == BookmarkTable::Added &&
+              static_cast<int>(SortColumn::Source) == BookmarkTable::Source);
 
 QList<TableColumn> bookmarkColumns()
 {
@@ -59,7 +59,7 @@ void BookmarkTable::refresh()
             return isBySite ? RowTree::ofGroups(siteGroups(rows, &Bookmark::site, *collation))
                             : RowTree::ofRows(rows);
         },
-        [this](const SharedRowTree &tree, ListChange change) { show(tree, change); });
+        [this](const SharedRowTree &tree, ListChange change) { deliver(tree, change); });
 }
 
 QList<Bookmark> BookmarkTable::bookmarks() const

@@ -67,7 +67,7 @@ void BookmarkTree::refresh()
          collation = services().collation](const std::stop_token &stop) {
             return RowTree::ofBookmarks(nodes, order, *collation, stop);
         },
-        [this](const SharedRowTree &tree, ListChange change) { show(tree, change); });
+        [this](const SharedRowTree &tree, ListChange change) { deliver(tree, change); });
 }
 
 LinkMenuSubject BookmarkTree::menuSubject(const QList<TableRow> &rows) const

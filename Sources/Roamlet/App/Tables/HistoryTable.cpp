@@ -141,7 +141,7 @@ void HistoryTable::makeList()
         [this, isCapped = m_found->results.isCapped](const SharedRowTree &tree, ListChange change) {
             m_isCapped = isCapped;
             Q_EMIT isCappedChanged(isCapped);
-            show(tree, change);
+            deliver(tree, change);
         });
 }
 

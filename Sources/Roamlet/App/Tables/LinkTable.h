@@ -21,11 +21,11 @@ namespace roamlet
 /// What a table is asked to show.
 struct TableInputs {
     /// Absent for all sources.
-    std::optional<QString> sourceID;
+    std::optional<QString> sourceID = {};
     /// As typed.
-    QString search;
+    QString search = {};
     /// Absent for all sites.
-    std::optional<QString> site;
+    std::optional<QString> site = {};
     Grouping grouping = Grouping::None;
 
     bool operator==(const TableInputs &) const = default;

@@ -80,7 +80,7 @@ protected:
                 .order = m_order,
                 .generation = services().library.generation()};
     }
-    void show(const SharedRowTree &tree, ListChange change)
+    void deliver(const SharedRowTree &tree, ListChange change)
     {
         showList(tree,
                  change == ListChange::Reloaded ? TableView::Scrolling::Stay : TableView::Scrolling::ToTop);

@@ -29,11 +29,9 @@ constexpr int narrowestColumn = 3;
 TableHeader::TableHeader(const TableModel &model, QWidget *parent)
     : QHeaderView(Qt::Horizontal, parent), m_model(model)
 {
-    setSectionsClickable(true);
     setSectionsMovable(true);
     setFirstSectionMovable(true);
     setStretchLastSection(false);
-    setSortIndicatorShown(true);
     setHighlightSections(false);
     setDefaultAlignment(Qt::AlignLeading | Qt::AlignVCenter);
     setMinimumSectionSize(narrowestColumn * fontMetrics().horizontalAdvance(u'0'));

@@ -30,7 +30,9 @@ TableView::TableView(TableModel &model, Shape shape, QWidget *parent)
 {
     setHeader(&m_header);
     setModel(&model);
-    m_header.setStretchLastSection(false);
+    // A view takes these away from a header that does not sort the model itself.
+    m_header.setSectionsClickable(true);
+    m_header.setSortIndicatorShown(true);
     setUniformRowHeights(true);
     setAlternatingRowColors(true);
     setAllColumnsShowFocus(true);

@@ -1,0 +1,269 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "App/Tables/BookmarkTable.h"
+#include "App/Tables/BookmarkTree.h"
+#include "App/Tables/TableTest.h"
+
+#include <QHeaderView>
+#include <QSignalSpy>
+#include <QTest>
+
+namespace roamlet::testing
+{
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace
+{
+
+/// Chrome's Default has a bar with a folder in it and another bookmark, Profile 1 a bookmark, Edge nothing.
+class BookmarkTablesTest : public TableTest
+{
+protected:
+    void SetUp() override
+    {
+        addChromium();
+        setBookmarks(
+            u"Default"_s,
+            {mark(u"5"_s, u"Zebra"_s, u"https://zoo.example/zebra"_s, newest - 60),
+             sample::folderNode(
+                 u"6"_s, u"Food"_s,
+                 {mark(u"7"_s, u"Apple pie"_s, u"https://food.example/pie"_s, newest - 3600),
+                  sample::folderNode(u"8"_s, u"Deep"_s,
+                                     {mark(u"9"_s, u"Bread"_s, u"https://food.example/bread"_s, 0)})}),
+             mark(u"10"_s, u"Ant"_s, u"https://zoo.example/ant"_s, newest - 40 * day)});
+        setBookmarks(u"Profile 1"_s, {mark(u"5"_s, u"Report"_s, u"https://work.example/"_s, newest)});
+        loadNow(*library);
+    }
+
+    static constexpr qint64 day = 24 * 3600;
+
+    static QJsonObject mark(const QString &id, const QString &title, const QString &url, qint64 added)
+    {
+        return sample::bookmarkNode(id, title, url, added == 0 ? 0 : sample::chromiumTime(added));
+    }
+    void setBookmarks(const QString &profile, const QJsonArray &children)
+    {
+        change([&] {
+            sample::writeBookmarks(chromeFile(profile % u"/Bookmarks"),
+                                   {{u"bookmark_bar"_s, sample::folderNode(u"1"_s, u"Bar"_s, children)}});
+        });
+    }
+    /// Types into the search field and waits as long as a person does.
+    void search(BookmarkTable &table, const TableInputs &inputs)
+    {
+        awaitList(table, [&] {
+            table.setInputs(inputs);
+            home.clock.advance(refineDelay);
+        });
+    }
+};
+
+using BookmarkTableTest = BookmarkTablesTest;
+using BookmarkTreeTest = BookmarkTablesTest;
+
+} // namespace
+
+TEST_F(BookmarkTableTest, BookmarksHaveTheBrowsersOrderAtFirst)
+{
+    BookmarkTable table(services());
+    show(table);
+    EXPECT_EQ(text(table), "Zebra|Bar|6:12 AM|Chrome - Personal\n"
+                           "Apple pie|Bar › Food|5:13 AM|Chrome - Personal\n"
+                           "Bread|Bar › Food › Deep|Chrome - Personal\n"
+                           "Ant|Bar|3/30/26|Chrome - Personal\n"
+                           "Report|Bar|6:13 AM|Chrome - Work");
+    EXPECT_EQ(table.rowCount(), 5);
+    EXPECT_EQ(table.view().header()->sortIndicatorSection(), -1);
+}
+
+TEST_F(BookmarkTableTest, ASourceAndASiteNarrowTheList)
+{
+    BookmarkTable table(services());
+    show(table, {.sourceID = u"chrome/Profile 1"_s});
+    EXPECT_EQ(titles(table), "Report");
+    awaitList(table, [&] { table.setInputs({.site = u"zoo.example"_s}); });
+    EXPECT_EQ(titles(table), "Zebra Ant");
+    awaitList(table, [&] { table.setInputs({.sourceID = u"chrome/Profile 1"_s, .site = u"zoo.example"_s}); });
+    EXPECT_EQ(titles(table), "");
+    EXPECT_EQ(table.view().emptyText(), u"Nothing found on zoo.example");
+    awaitList(table, [&] { table.setInputs({.sourceID = u"chrome/Nobody"_s}); });
+    EXPECT_EQ(table.view().emptyText(), u"No bookmarks yet");
+}
+
+TEST_F(BookmarkTableTest, TypedWordsAreSearchedForAfterAShorterWait)
+{
+    BookmarkTable table(services());
+    show(table);
+    expectNoList(table, [&] {
+        table.setInputs({.search = u" FOOD   bre"_s});
+        home.clock.advance(refineDelay - 1ms);
+    });
+    awaitList(table, [&] { home.clock.advance(1ms); });
+    EXPECT_EQ(titles(table), "Bread");
+}
+
+TEST_F(BookmarkTableTest, OnlyTheLastOfQuickKeysMakesAList)
+{
+    BookmarkTable table(services());
+    show(table);
+    const QSignalSpy lists(&table, &LinkTable::rowCountChanged);
+    for (const QString &typed : {u"a"_s, u"an"_s, u"ant"_s}) {
+        table.setInputs({.search = typed});
+        home.clock.advance(refineDelay - 1ms);
+    }
+    awaitList(table, [&] { home.clock.advance(refineDelay); });
+    EXPECT_EQ(titles(table), "Ant");
+    EXPECT_EQ(lists.size(), 1);
+}
+
+TEST_F(BookmarkTableTest, WhatIsTypedAndTakenBackMakesNoList)
+{
+    BookmarkTable table(services());
+    show(table);
+    expectNoList(table, [&] {
+        table.setInputs({.search = u"x"_s});
+        table.setInputs({});
+        home.clock.advance(1s);
+    });
+    EXPECT_EQ(table.rowCount(), 5);
+}
+
+TEST_F(BookmarkTableTest, SitesAreSections)
+{
+    BookmarkTable table(services());
+    show(table, {.grouping = Grouping::Site});
+    EXPECT_EQ(titles(table), "food.example Apple pie Bread work.example Report zoo.example Zebra Ant");
+}
+
+TEST_F(BookmarkTableTest, ABookmarkWithoutADateIsTheNewest)
+{
+    BookmarkTable table(services());
+    show(table);
+    awaitList(table, [&] { clickHeader(table, BookmarkTable::Added); });
+    EXPECT_EQ(titles(table), "Bread Report Zebra Apple pie Ant");
+    awaitList(table, [&] { clickHeader(table, BookmarkTable::Added); });
+    EXPECT_EQ(titles(table), "Ant Apple pie Zebra Report Bread");
+}
+
+TEST_F(BookmarkTableTest, TheMenuEditsTheFolder)
+{
+    BookmarkTable table(services());
+    show(table);
+    rightClick(table, u"Apple pie"_s);
+    choose(table, u"linkMenu"_s, u"Edit Chrome Bookmarks"_s);
+    EXPECT_EQ(workspace.requests.value(0),
+              (QStringList{u"page"_s, u"com.google.Chrome"_s, u"Default"_s, u"chrome://bookmarks/?id=6"_s}));
+}
+
+TEST_F(BookmarkTreeTest, TheOutermostFoldersAreOpenAtFirst)
+{
+    BookmarkTree table(services());
+    show(table, {.sourceID = u"chrome/Default"_s});
+    EXPECT_EQ(text(table), "Bar\n"
+                           "  Zebra|6:12 AM\n"
+                           "  Food +\n"
+                           "  Ant|3/30/26");
+    EXPECT_EQ(table.rowCount(), 4);
+}
+
+TEST_F(BookmarkTreeTest, AllSourcesAreFolders)
+{
+    BookmarkTree table(services());
+    show(table);
+    EXPECT_EQ(titles(table), "Chrome - Personal Bar + Chrome - Work Bar + Edge - Office");
+    EXPECT_EQ(table.rowCount(), 5);
+}
+
+TEST_F(BookmarkTreeTest, TheUsersOrderOfTheSourcesIsFollowed)
+{
+    BookmarkTree table(services());
+    show(table);
+    awaitList(table, [&] { library->moveProfiles({2}, 0); });
+    EXPECT_EQ(titles(table), "Edge - Office Chrome - Personal Bar + Chrome - Work Bar +");
+}
+
+TEST_F(BookmarkTreeTest, WhatIsOpenStaysSoAfterAReload)
+{
+    BookmarkTree table(services());
+    show(table, {.sourceID = u"chrome/Default"_s});
+    doubleClick(table, u"Food"_s);
+    EXPECT_EQ(titles(table), "Bar Zebra Food Apple pie Deep + Ant");
+    setBookmarks(
+        u"Default"_s,
+        {sample::folderNode(u"6"_s, u"Food"_s, {mark(u"11"_s, u"Cake"_s, u"https://x.example/"_s, 0)}),
+         sample::folderNode(u"12"_s, u"New"_s, {mark(u"13"_s, u"n"_s, u"https://n.example/"_s, 0)})});
+    reload(table);
+    EXPECT_EQ(titles(table), "Bar Food Cake New +");
+    press(table, Qt::Key_Home);
+    press(table, Qt::Key_Left);
+    EXPECT_EQ(titles(table), "Bar +");
+    awaitList(table, [&] { table.setInputs({.sourceID = u"chrome/Profile 1"_s}); });
+    awaitList(table, [&] { table.setInputs({.sourceID = u"chrome/Default"_s}); });
+    EXPECT_EQ(titles(table), "Bar +");
+}
+
+TEST_F(BookmarkTreeTest, FoldersAreSortedInThemselves)
+{
+    BookmarkTree table(services());
+    show(table, {.sourceID = u"chrome/Default"_s});
+    press(table, Qt::Key_Home);
+    press(table, Qt::Key_Asterisk);
+    awaitList(table, [&] { clickHeader(table, BookmarkTree::Title); });
+    EXPECT_EQ(titles(table), "Bar Ant Food Apple pie Deep Bread Zebra");
+}
+
+TEST_F(BookmarkTreeTest, ReturnOpensAFolderInPlaceAndALinkInItsBrowser)
+{
+    BookmarkTree table(services());
+    show(table, {.sourceID = u"chrome/Default"_s});
+    click(table, u"Food"_s);
+    press(table, Qt::Key_Return);
+    EXPECT_EQ(titles(table), "Bar Zebra Food Apple pie Deep + Ant");
+    EXPECT_TRUE(workspace.requests.isEmpty());
+    press(table, Qt::Key_Down);
+    press(table, Qt::Key_Return);
+    EXPECT_EQ(workspace.requests.value(0), (QStringList{u"profile"_s, u"com.google.Chrome"_s, u"Default"_s,
+                                                        u"https://food.example/pie"_s}));
+}
+
+TEST_F(BookmarkTreeTest, AFolderThatClosesDeselectsWhatItHides)
+{
+    BookmarkTree table(services());
+    show(table, {.sourceID = u"chrome/Default"_s});
+    doubleClick(table, u"Food"_s);
+    click(table, u"Apple pie"_s);
+    click(table, u"Ant"_s, Qt::ControlModifier);
+    EXPECT_EQ(selectedTitles(table), (QStringList{u"Apple pie"_s, u"Ant"_s})) << "from top to bottom";
+    table.view().collapse(find(table, u"Food"_s));
+    EXPECT_EQ(selectedTitles(table), QStringList{u"Ant"_s});
+}
+
+TEST_F(BookmarkTreeTest, AFolderHasAMenuOfItsOwn)
+{
+    BookmarkTree table(services());
+    show(table, {.sourceID = u"chrome/Default"_s});
+    rightClick(table, u"Food"_s);
+    EXPECT_EQ(entries(menu(table, u"linkMenu"_s)), QStringList{u"Edit Chrome Bookmarks"_s});
+}
+
+TEST_F(BookmarkTreeTest, ASearchChangesNothing)
+{
+    BookmarkTree table(services());
+    show(table, {.sourceID = u"chrome/Default"_s});
+    expectNoList(table, [&] {
+        table.setInputs({.sourceID = u"chrome/Default"_s, .search = u"x"_s, .site = u"y"_s});
+        home.clock.advance(1s);
+    });
+}
+
+TEST_F(BookmarkTreeTest, ASourceWithoutBookmarksSaysSo)
+{
+    BookmarkTree table(services());
+    show(table, {.sourceID = u"edge/Default"_s});
+    EXPECT_EQ(table.view().emptyText(), u"No bookmarks yet");
+}
+
+} // namespace roamlet::testing

@@ -1,0 +1,169 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "App/Tables/LinkMenu.h"
+
+#include <gmock/gmock.h>
+
+namespace roamlet::testing
+{
+
+using namespace Qt::StringLiterals;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+namespace
+{
+
+using Kind = Source::Kind;
+
+const QList<Kind> all{Kind::Safari, Kind::Chrome, Kind::Edge};
+
+Source profile(Kind kind, const QString &name)
+{
+    return {.kind = kind, .profile = name, .name = name, .safariBookmarks = Source::None{}};
+}
+
+const Source work = profile(Kind::Chrome, u"Work"_s);
+const Source home = profile(Kind::Chrome, u"Home"_s);
+const Source office = profile(Kind::Edge, u"Office"_s);
+
+TableRow link(const Source &source, const QString &site = u"example.org"_s,
+              const std::optional<QString> &folderID = {})
+{
+    TableRow row;
+    row.id = source.id() % u"/1";
+    row.url = u"https://" % site % u'/';
+    row.site = site;
+    row.folderID = folderID;
+    row.source = source;
+    return row;
+}
+
+TableRow folder(const Source &source, const QString &id)
+{
+    TableRow row;
+    row.kind = TableRow::Kind::Folder;
+    row.id = id;
+    row.source = source;
+    return row;
+}
+
+/// The titles, with "-" for a separator.
+std::vector<std::string> titles(const LinkMenuSubject &subject, const QList<Kind> &installed = all)
+{
+    std::vector<std::string> result;
+    for (const LinkMenuEntry &entry : linkMenuEntries(subject, installed)) {
+        const bool isSeparator = entry.action == LinkMenuEntry::Action::Separator;
+        result.push_back(isSeparator ? "-" : entry.title.toStdString());
+    }
+    return result;
+}
+
+} // namespace
+
+TEST(LinkMenuTest, OneRowOfEdgeNamesEdge)
+{
+    EXPECT_THAT(titles(LinkMenuSubject::ofHistory({link(office)})),
+                ElementsAre("Show Edge History", "-", "Open in Edge", "Open in Safari", "Open in Chrome", "-",
+                            "Copy URL", "-", "Show Only example.org"));
+}
+
+TEST(LinkMenuTest, ThreeRowsAreCounted)
+{
+    EXPECT_THAT(titles(LinkMenuSubject::ofHistory({link(work), link(home), link(office)})),
+                ElementsAre("Open in Original Browsers", "Open in Safari", "Open in Chrome", "Open in Edge",
+                            "-", "Copy 3 URLs", "-", "Show Only example.org"));
+}
+
+TEST(LinkMenuTest, SeveralRowsOfOneBrowserAreOfferedTheOthers)
+{
+    EXPECT_THAT(titles(LinkMenuSubject::ofHistory({link(work), link(home)})),
+                ElementsAre("Open in Original Browsers", "Open in Safari", "Open in Edge", "-", "Copy 2 URLs",
+                            "-", "Show Only example.org"));
+}
+
+TEST(LinkMenuTest, OnlyInstalledBrowsersAreOfferedBesideTheOwnOne)
+{
+    EXPECT_THAT(titles(LinkMenuSubject::ofHistory({link(work)}), {Kind::Edge}),
+                ElementsAre("Show Chrome History", "-", "Open in Chrome", "Open in Edge", "-", "Copy URL",
+                            "-", "Show Only example.org"));
+    EXPECT_THAT(titles(LinkMenuSubject::ofHistory({link(work)}), {}),
+                ElementsAre("Show Chrome History", "-", "Open in Chrome", "-", "Copy URL", "-",
+                            "Show Only example.org"));
+}
+
+TEST(LinkMenuTest, AHistoryIsShownForRowsOfOneProfileOnly)
+{
+    EXPECT_EQ(LinkMenuSubject::ofHistory({link(work), link(work)}).historySource, work);
+    EXPECT_EQ(LinkMenuSubject::ofHistory({link(work), link(home)}).historySource, std::nullopt);
+    EXPECT_EQ(LinkMenuSubject::ofHistory({link(work)}).editTarget, std::nullopt);
+}
+
+TEST(LinkMenuTest, RowsOfDifferentSitesAreNotNarrowedToOne)
+{
+    EXPECT_THAT(titles(LinkMenuSubject::ofHistory({link(work, u"a.example"_s), link(work, u"b.example"_s)})),
+                ElementsAre("Show Chrome History", "-", "Open in Original Browsers", "Open in Safari",
+                            "Open in Edge", "-", "Copy 2 URLs"));
+}
+
+TEST(LinkMenuTest, ARowWithoutASiteIsNotNarrowedToIt)
+{
+    EXPECT_THAT(titles(LinkMenuSubject::ofHistory({link(work, {})}), {}),
+                ElementsAre("Show Chrome History", "-", "Open in Chrome", "-", "Copy URL"));
+}
+
+TEST(LinkMenuTest, BookmarksAreEditedInTheirFolder)
+{
+    const LinkMenuSubject subject =
+        LinkMenuSubject::ofBookmarks({link(work, u"example.org"_s, u"chrome/Work/7"_s)});
+    EXPECT_EQ(subject.editTarget, (EditTarget{work, u"chrome/Work/7"_s}));
+    EXPECT_THAT(titles(subject), ElementsAre("Edit Chrome Bookmarks", "-", "Open in Chrome", "Open in Safari",
+                                             "Open in Edge", "-", "Copy URL", "-", "Show Only example.org"));
+}
+
+TEST(LinkMenuTest, BookmarksOfDifferentFoldersAreEditedWithoutOne)
+{
+    EXPECT_EQ(
+        LinkMenuSubject::ofBookmarks({link(work, {}, u"chrome/Work/7"_s), link(work, {}, u"chrome/Work/8"_s)})
+            .editTarget,
+        (EditTarget{work, {}}));
+    EXPECT_EQ(LinkMenuSubject::ofBookmarks({link(work), link(home)}).editTarget, std::nullopt);
+}
+
+TEST(LinkMenuTest, AFolderIsOnlyEdited)
+{
+    const LinkMenuSubject subject = LinkMenuSubject::ofBookmarks({folder(office, u"edge/Office/3"_s)});
+    EXPECT_EQ(subject.editTarget, (EditTarget{office, u"edge/Office/3"_s}));
+    EXPECT_THAT(titles(subject), ElementsAre("Edit Edge Bookmarks"));
+}
+
+TEST(LinkMenuTest, TheFolderOfAWholeSourceIsNoneOfTheBrowsers)
+{
+    EXPECT_EQ(LinkMenuSubject::ofBookmarks({folder(work, u"source/chrome/Work"_s)}).editTarget,
+              (EditTarget{work, {}}));
+    EXPECT_EQ(LinkMenuSubject::ofBookmarks({link(work, {}, u"source/chrome/Work"_s)}).editTarget,
+              (EditTarget{work, {}}));
+}
+
+TEST(LinkMenuTest, FoldersAmongLinksDoNotCount)
+{
+    const LinkMenuSubject subject =
+        LinkMenuSubject::ofBookmarks({folder(work, u"chrome/Work/3"_s), link(work)});
+    EXPECT_EQ(subject.items.size(), 1);
+    EXPECT_EQ(subject.site, u"example.org"_s);
+}
+
+TEST(LinkMenuTest, NoRowsHaveNoMenu)
+{
+    EXPECT_THAT(titles(LinkMenuSubject::ofHistory({})), IsEmpty());
+    EXPECT_THAT(titles(LinkMenuSubject::ofBookmarks({})), IsEmpty());
+}
+
+TEST(LinkMenuTest, URLsAreCopiedLineByLine)
+{
+    EXPECT_EQ(clipboardText({{u"https://a/"_s, work}, {u"https://b/"_s, home}}), u"https://a/\nhttps://b/");
+    EXPECT_EQ(clipboardText({{u"https://a/"_s, work}}), u"https://a/");
+}
+
+} // namespace roamlet::testing

@@ -1,0 +1,86 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "App/Tables/RowIcons.h"
+
+#include "App/Tables/TableTest.h"
+
+#include <QImage>
+#include <QPixmap>
+
+namespace roamlet::testing
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+class RowIconsTest : public TableTest
+{
+protected:
+    static QColor colour(const QIcon &icon, QIcon::Mode mode = QIcon::Normal)
+    {
+        return icon.pixmap(QSize(16, 16), 1, mode).toImage().pixelColor(8, 8);
+    }
+
+    QWidget widget;
+    RowIcons icons{*library, opener, widget};
+};
+
+} // namespace
+
+TEST_F(RowIconsTest, ASiteWithoutAnIconGetsAGlobe)
+{
+    EXPECT_FALSE(icons.site(u"example.org"_s).isNull());
+    EXPECT_TRUE(icons.siteIfKnown(u"example.org"_s).isNull());
+    EXPECT_EQ(icons.site(u"example.org"_s).cacheKey(), icons.site(u"example.com"_s).cacheKey());
+}
+
+TEST_F(RowIconsTest, ASiteHasItsOwnIconAlsoInASelectedRow)
+{
+    addChromium();
+    setChromeIcon(u"Default"_s, u"https://a1.example/"_s, png(32, Qt::green));
+    loadNow(*library);
+    EXPECT_EQ(colour(icons.site(u"a1.example"_s)), QColor(Qt::green));
+    EXPECT_EQ(colour(icons.site(u"a1.example"_s), QIcon::Selected), QColor(Qt::green));
+    EXPECT_EQ(icons.site(u"a1.example"_s).availableSizes().value(0), QSize(16, 16));
+}
+
+TEST_F(RowIconsTest, ANewSnapshotBringsNewIcons)
+{
+    addChromium();
+    loadNow(*library);
+    EXPECT_TRUE(icons.siteIfKnown(u"a1.example"_s).isNull());
+    setChromeIcon(u"Default"_s, u"https://a1.example/"_s, png(16, Qt::green));
+    loadNow(*library);
+    icons.clear();
+    EXPECT_FALSE(icons.siteIfKnown(u"a1.example"_s).isNull());
+}
+
+TEST_F(RowIconsTest, ABrokenIconIsAGlobe)
+{
+    addChromium();
+    setChromeIcon(u"Default"_s, u"https://a1.example/"_s, "no image");
+    loadNow(*library);
+    EXPECT_EQ(icons.site(u"a1.example"_s).cacheKey(), icons.site(u"b.example"_s).cacheKey());
+}
+
+TEST_F(RowIconsTest, AnInstalledBrowserHasItsIconAndAnotherASymbol)
+{
+    workspace.icons.insert(u"com.google.Chrome"_s, Qt::red);
+    EXPECT_EQ(colour(icons.browser(Source::Kind::Chrome)), QColor(Qt::red));
+    EXPECT_FALSE(icons.browser(Source::Kind::Edge).isNull());
+    EXPECT_FALSE(icons.browser(Source::Kind::Safari).isNull());
+    EXPECT_NE(colour(icons.browser(Source::Kind::Edge)), QColor(Qt::red));
+}
+
+TEST_F(RowIconsTest, EachIconIsMadeOnce)
+{
+    workspace.icons.insert(u"com.google.Chrome"_s, Qt::red);
+    icons.browser(Source::Kind::Chrome);
+    icons.browser(Source::Kind::Chrome);
+    EXPECT_EQ(workspace.iconRequests, 1);
+}
+
+} // namespace roamlet::testing

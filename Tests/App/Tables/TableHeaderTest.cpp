@@ -1,0 +1,202 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "App/Tables/TableHeader.h"
+
+#include "App/Tables/HistoryTable.h"
+#include "App/Tables/TableTest.h"
+
+#include <QMenu>
+#include <QTest>
+
+#include <memory>
+
+namespace roamlet::testing
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+class TableHeaderTest : public TableTest
+{
+protected:
+    void SetUp() override
+    {
+        addChromium();
+        loadNow(*library);
+        build();
+    }
+
+    /// Starts again with what is stored.
+    void build(HistoryTable::Mode mode = HistoryTable::Mode::Recent)
+    {
+        table = std::make_unique<HistoryTable>(services(), mode);
+        show(*table);
+    }
+    TableHeader &header() const { return table->view().tableHeader(); }
+    /// Presses the mouse at one place of the header, moves it and lets go at another.
+    void drag(int from, int to) const
+    {
+        QWidget *viewport = header().viewport();
+        const int y = header().height() / 2;
+        const auto send = [&](QEvent::Type type, int x, Qt::MouseButton button, Qt::MouseButtons buttons) {
+            const QPointF place(x, y);
+            QMouseEvent event(type, place, viewport->mapToGlobal(place), button, buttons, Qt::NoModifier);
+            QCoreApplication::sendEvent(viewport, &event);
+        };
+        send(QEvent::MouseMove, from, Qt::NoButton, Qt::NoButton);
+        send(QEvent::MouseButtonPress, from, Qt::LeftButton, Qt::LeftButton);
+        for (const int x : {from + (to - from) / 3, from + (to - from) * 2 / 3, to})
+            send(QEvent::MouseMove, x, Qt::NoButton, Qt::LeftButton);
+        send(QEvent::MouseButtonRelease, to, Qt::LeftButton, Qt::NoButton);
+    }
+    int rightEdge(int column) const
+    {
+        return header().sectionViewportPosition(column) + header().sectionSize(column) - 1;
+    }
+    QStringList shownColumns() const
+    {
+        QStringList result;
+        for (int place = 0; place < header().count(); ++place) {
+            const int column = header().logicalIndex(place);
+            if (!header().isSectionHidden(column))
+                result.append(header().model()->headerData(column, Qt::Horizontal).toString());
+        }
+        return result;
+    }
+    void openMenu() const { QTest::keyClick(&header(), Qt::Key_Space); }
+
+    std::unique_ptr<HistoryTable> table;
+};
+
+const QStringList defaultColumns{u"Title"_s, u"Last Visited"_s, u"Visits"_s, u"Source"_s};
+
+} // namespace
+
+TEST_F(TableHeaderTest, AtFirstTheTitleFillsTheWidth)
+{
+    EXPECT_EQ(shownColumns(), defaultColumns);
+    EXPECT_EQ(header().length(), header().viewport()->width());
+    const int title = header().sectionSize(0);
+    table->resize(table->width() + 100, table->height());
+    EXPECT_EQ(header().sectionSize(0), title + 100);
+    EXPECT_FALSE(home.defaults.contains(u"columns.history"_s)) << "nobody has arranged anything";
+}
+
+TEST_F(TableHeaderTest, TheTitleDoesNotVanishInANarrowWindow)
+{
+    table->resize(200, 300);
+    EXPECT_GT(header().sectionSize(0), 80);
+}
+
+TEST_F(TableHeaderTest, AResizedColumnKeepsItsWidth)
+{
+    const int width = header().sectionSize(HistoryTable::Visits);
+    const int edge = rightEdge(HistoryTable::Visits);
+    drag(edge, edge + 30);
+    EXPECT_EQ(header().sectionSize(HistoryTable::Visits), width + 30);
+    EXPECT_EQ(header().length(), header().viewport()->width()) << "the title makes room";
+    build();
+    EXPECT_EQ(header().sectionSize(HistoryTable::Visits), width + 30);
+    EXPECT_EQ(header().length(), header().viewport()->width());
+}
+
+TEST_F(TableHeaderTest, AResizedTitleKeepsItsWidth)
+{
+    const int width = header().sectionSize(HistoryTable::Title);
+    const int edge = rightEdge(HistoryTable::Title);
+    drag(edge, edge - 50);
+    EXPECT_EQ(header().sectionSize(HistoryTable::Title), width - 50);
+    build();
+    EXPECT_EQ(header().sectionSize(HistoryTable::Title), width - 50);
+}
+
+TEST_F(TableHeaderTest, AMovedColumnKeepsItsPlace)
+{
+    const int from = header().sectionViewportPosition(HistoryTable::Source) + 40;
+    drag(from, header().sectionViewportPosition(HistoryTable::LastVisited) + 10);
+    const QStringList moved{u"Title"_s, u"Source"_s, u"Last Visited"_s, u"Visits"_s};
+    EXPECT_EQ(shownColumns(), moved);
+    EXPECT_EQ(table->view().header()->sortIndicatorSection(), HistoryTable::LastVisited)
+        << "moving does not sort";
+    build();
+    EXPECT_EQ(shownColumns(), moved);
+}
+
+TEST_F(TableHeaderTest, AHiddenColumnStaysHidden)
+{
+    openMenu();
+    choose(*table, u"columnMenu"_s, u"Visits"_s);
+    const QStringList fewer{u"Title"_s, u"Last Visited"_s, u"Source"_s};
+    EXPECT_EQ(shownColumns(), fewer);
+    EXPECT_EQ(header().length(), header().viewport()->width());
+    build();
+    EXPECT_EQ(shownColumns(), fewer);
+    openMenu();
+    choose(*table, u"columnMenu"_s, u"Visits"_s);
+    EXPECT_EQ(shownColumns(), defaultColumns);
+}
+
+TEST_F(TableHeaderTest, TheTitleCannotBeHidden)
+{
+    openMenu();
+    EXPECT_FALSE(menu(*table, u"columnMenu"_s)->actions().first()->isEnabled());
+    ColumnLayout layout;
+    layout.hidden = {u"title"_s, u"source"_s};
+    header().setColumnLayout(layout);
+    EXPECT_EQ(shownColumns(), (QStringList{u"Title"_s, u"Last Visited"_s, u"Visits"_s}));
+}
+
+TEST_F(TableHeaderTest, EachTableHasItsOwnLayout)
+{
+    openMenu();
+    choose(*table, u"columnMenu"_s, u"Source"_s);
+    build(HistoryTable::Mode::MostVisited);
+    EXPECT_EQ(shownColumns(), defaultColumns);
+    openMenu();
+    choose(*table, u"columnMenu"_s, u"Visits"_s);
+    EXPECT_TRUE(home.defaults.contains(u"columns.mostVisited"_s));
+    EXPECT_EQ(ColumnLayout::load(home.defaults, u"columns.history"_s).hidden, QSet{u"source"_s});
+}
+
+TEST_F(TableHeaderTest, ALayoutThatNoLongerDecodesIsTheDefault)
+{
+    home.defaults.setBytes(u"columns.history"_s, "{\"order\":");
+    build();
+    EXPECT_EQ(shownColumns(), defaultColumns);
+    EXPECT_EQ(header().length(), header().viewport()->width());
+}
+
+TEST_F(TableHeaderTest, ColumnsThatALayoutDoesNotKnowStandBehindTheirNeighbours)
+{
+    home.defaults.setBytes(u"columns.history"_s,
+                           R"({"order":["source","gone","title"],"hidden":["gone"],"widths":{"gone":5}})");
+    build();
+    EXPECT_EQ(shownColumns(), (QStringList{u"Source"_s, u"Title"_s, u"Last Visited"_s, u"Visits"_s}));
+}
+
+TEST_F(TableHeaderTest, TheDefaultColumnsComeBack)
+{
+    const int edge = rightEdge(HistoryTable::Title);
+    drag(edge, edge - 50);
+    openMenu();
+    choose(*table, u"columnMenu"_s, u"Source"_s);
+    openMenu();
+    choose(*table, u"columnMenu"_s, u"Default Columns"_s);
+    EXPECT_EQ(shownColumns(), defaultColumns);
+    EXPECT_EQ(header().length(), header().viewport()->width());
+    EXPECT_TRUE(ColumnLayout::load(home.defaults, u"columns.history"_s).widths.isEmpty());
+}
+
+TEST_F(TableHeaderTest, ARightClickOpensTheMenuToo)
+{
+    QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(5, 5), QPoint(5, 5));
+    QCoreApplication::sendEvent(header().viewport(), &event);
+    EXPECT_EQ(entries(menu(*table, u"columnMenu"_s)),
+              (QStringList{u"Title"_s, u"Last Visited"_s, u"Visits"_s, u"Source"_s, u"-"_s, u"Sort By"_s,
+                           u"Default Order"_s, u"-"_s, u"Default Columns"_s}));
+}
+
+} // namespace roamlet::testing

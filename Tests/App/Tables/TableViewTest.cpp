@@ -1,0 +1,299 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "App/Tables/TableView.h"
+
+#include "App/Tables/HistoryTable.h"
+#include "App/Tables/TableHeader.h"
+#include "App/Tables/TableTest.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QMenu>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QTest>
+
+namespace roamlet::testing
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+/// What every table does, shown on the one of the history.
+class TableViewTest : public TableTest
+{
+protected:
+    void SetUp() override
+    {
+        addChromium();
+        setPages(u"Default"_s, {page(u"a"_s, 1), page(u"b"_s, 2), page(u"c"_s, 3)});
+        setPages(u"Profile 1"_s, {page(u"w"_s, 86'400)});
+        loadNow(*library);
+    }
+
+    /// Enough rows to scroll.
+    void setManyPages(int count, int first = 0)
+    {
+        QList<sample::HistoryRow> rows;
+        for (int i = first; i < count; ++i) {
+            sample::HistoryRow row = page(u"p%1"_s.arg(i), i);
+            row.id = 1000 - i;
+            rows.append(row);
+        }
+        setPages(u"Default"_s, rows);
+        loadNow(*library);
+    }
+    QStringList requested(int i) const { return workspace.requests.value(i); }
+
+    HistoryTable table{services(), HistoryTable::Mode::Recent};
+};
+
+} // namespace
+
+TEST_F(TableViewTest, ADoubleClickOpensTheLinkWhereItCameFrom)
+{
+    show(table);
+    doubleClick(table, u"w"_s);
+    EXPECT_EQ(workspace.requests.size(), 1);
+    EXPECT_EQ(requested(0),
+              (QStringList{u"profile"_s, u"com.google.Chrome"_s, u"Profile 1"_s, u"https://w.example/"_s}));
+}
+
+TEST_F(TableViewTest, ReturnOpensEveryRowOfTheSelection)
+{
+    show(table);
+    click(table, u"a"_s);
+    click(table, u"w"_s, Qt::ControlModifier);
+    press(table, Qt::Key_Enter, Qt::KeypadModifier);
+    EXPECT_EQ(workspace.requests.size(), 2);
+    EXPECT_EQ(requested(0).last(), u"https://a.example/");
+    EXPECT_EQ(requested(1).last(), u"https://w.example/");
+}
+
+TEST_F(TableViewTest, ReturnWithoutASelectionOpensNothing)
+{
+    show(table);
+    press(table, Qt::Key_Return);
+    EXPECT_TRUE(workspace.requests.isEmpty());
+}
+
+TEST_F(TableViewTest, TheSelectedRowsAreCopiedFromTopToBottom)
+{
+    show(table);
+    click(table, u"c"_s);
+    click(table, u"a"_s, Qt::ShiftModifier);
+    press(table, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(),
+              u"https://a.example/\nhttps://b.example/\nhttps://c.example/");
+}
+
+TEST_F(TableViewTest, CopyingNothingLeavesTheClipboardAlone)
+{
+    show(table);
+    QGuiApplication::clipboard()->setText(u"before"_s);
+    press(table, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), u"before");
+}
+
+TEST_F(TableViewTest, ARightClickIsAboutTheClickedRow)
+{
+    workspace.icons.insert(u"com.microsoft.edgemac"_s, Qt::blue);
+    show(table);
+    click(table, u"a"_s);
+    rightClick(table, u"b"_s);
+    EXPECT_EQ(entries(menu(table, u"linkMenu"_s)),
+              (QStringList{u"Show Chrome History"_s, u"-"_s, u"Open in Chrome"_s, u"Open in Edge"_s, u"-"_s,
+                           u"Copy URL"_s, u"-"_s, u"Show Only b.example"_s}));
+    choose(table, u"linkMenu"_s, u"Open in Edge"_s);
+    EXPECT_EQ(requested(0), (QStringList{u"open"_s, u"com.microsoft.edgemac"_s, u"https://b.example/"_s}));
+}
+
+TEST_F(TableViewTest, ARightClickOnTheSelectionIsAboutAllOfIt)
+{
+    show(table);
+    click(table, u"a"_s);
+    click(table, u"w"_s, Qt::ControlModifier);
+    rightClick(table, u"a"_s);
+    EXPECT_EQ(entries(menu(table, u"linkMenu"_s)),
+              (QStringList{u"Open in Original Browsers"_s, u"-"_s, u"Copy 2 URLs"_s}));
+    choose(table, u"linkMenu"_s, u"Copy 2 URLs"_s);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), u"https://a.example/\nhttps://w.example/");
+}
+
+TEST_F(TableViewTest, TheMenuKeyOpensTheMenuOfTheSelection)
+{
+    show(table);
+    click(table, u"a"_s);
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+    QCoreApplication::sendEvent(table.view().viewport(), &event);
+    const QSignalSpy sites(&table, &LinkTable::onlySiteRequested);
+    choose(table, u"linkMenu"_s, u"Show Only a.example"_s);
+    EXPECT_EQ(sites.value(0).value(0), u"a.example"_s);
+}
+
+TEST_F(TableViewTest, TheHistoryPageOpensInItsProfile)
+{
+    show(table);
+    rightClick(table, u"w"_s);
+    choose(table, u"linkMenu"_s, u"Show Chrome History"_s);
+    EXPECT_EQ(requested(0),
+              (QStringList{u"page"_s, u"com.google.Chrome"_s, u"Profile 1"_s, u"chrome://history/"_s}));
+}
+
+TEST_F(TableViewTest, ThereIsNoMenuForHeadingsAndEmptySpace)
+{
+    show(table, {.grouping = Grouping::Day});
+    rightClick(table, u"Today"_s);
+    EXPECT_EQ(menu(table, u"linkMenu"_s), nullptr);
+    QWidget *viewport = table.view().viewport();
+    const QPoint below = viewport->rect().bottomLeft();
+    QContextMenuEvent event(QContextMenuEvent::Mouse, below, viewport->mapToGlobal(below));
+    QCoreApplication::sendEvent(viewport, &event);
+    EXPECT_EQ(menu(table, u"linkMenu"_s), nullptr);
+}
+
+TEST_F(TableViewTest, AClickClosesASectionAndAnotherOpensIt)
+{
+    show(table, {.grouping = Grouping::Day});
+    click(table, u"Today"_s);
+    EXPECT_EQ(titles(table), "Today + Yesterday w");
+    click(table, u"Today"_s);
+    EXPECT_EQ(titles(table), "Today e1 a b c Yesterday w");
+    EXPECT_TRUE(selectedTitles(table).isEmpty()) << "a heading is no link";
+    doubleClick(table, u"Today"_s);
+    EXPECT_EQ(titles(table), "Today e1 a b c Yesterday w") << "each click counts";
+    EXPECT_TRUE(workspace.requests.isEmpty());
+}
+
+TEST_F(TableViewTest, KeysCloseAndOpenSections)
+{
+    show(table, {.grouping = Grouping::Day});
+    press(table, Qt::Key_Home);
+    EXPECT_EQ(currentTitle(table), u"Today");
+    press(table, Qt::Key_Left);
+    EXPECT_EQ(titles(table), "Today + Yesterday w");
+    press(table, Qt::Key_Right);
+    EXPECT_EQ(titles(table), "Today e1 a b c Yesterday w");
+    press(table, Qt::Key_Space);
+    EXPECT_EQ(titles(table), "Today + Yesterday w");
+    press(table, Qt::Key_Return);
+    EXPECT_EQ(titles(table), "Today e1 a b c Yesterday w");
+    press(table, Qt::Key_Down);
+    EXPECT_EQ(selectedTitles(table), QStringList{u"e1"_s});
+}
+
+TEST_F(TableViewTest, AClosedSectionStaysClosedAfterAReload)
+{
+    show(table, {.grouping = Grouping::Day});
+    click(table, u"Today"_s);
+    setPages(u"Profile 1"_s, {page(u"x"_s, 0), page(u"w"_s, 86'400)});
+    reload(table);
+    EXPECT_EQ(titles(table), "Today + Yesterday w");
+    EXPECT_EQ(table.rowCount(), 6) << "closed rows count";
+    click(table, u"Today"_s);
+    EXPECT_EQ(titles(table), "Today e1 x a b c Yesterday w");
+}
+
+TEST_F(TableViewTest, SelectionAndCurrentRowStayAfterAReload)
+{
+    show(table);
+    click(table, u"a"_s);
+    click(table, u"c"_s, Qt::ControlModifier);
+    click(table, u"w"_s, Qt::ControlModifier);
+    setPages(u"Profile 1"_s, {page(u"x"_s, 86'400)});
+    change([this] {
+        sample::writeHistory(edgeFile(u"Default/History"_s), {page(u"n1"_s, -5), page(u"n2"_s, -4)});
+    });
+    reload(table);
+    // The row of the work profile is another page now, but the same entry of its history.
+    EXPECT_EQ(titles(table), "n1 n2 a b c x");
+    EXPECT_EQ(selectedTitles(table), (QStringList{u"a"_s, u"c"_s, u"x"_s}));
+    EXPECT_EQ(currentTitle(table), u"x");
+}
+
+TEST_F(TableViewTest, ARowThatIsGoneIsNotSelectedAnyMore)
+{
+    show(table);
+    click(table, u"c"_s);
+    setPages(u"Default"_s, {page(u"a"_s, 1), page(u"b"_s, 2)});
+    reload(table);
+    EXPECT_TRUE(selectedTitles(table).isEmpty());
+}
+
+TEST_F(TableViewTest, TheRowsOnScreenStayWhereTheyAreAfterAReload)
+{
+    setManyPages(100, 10);
+    show(table, {.sourceID = u"chrome/Default"_s});
+    QScrollBar *bar = table.view().verticalScrollBar();
+    bar->setValue(bar->maximum() / 2 + 3);
+    const QModelIndex top = table.view().indexAt({0, 0});
+    const QString title = top.data().toString();
+    const int offset = table.view().visualRect(top).top();
+    awaitList(table, [&] { setManyPages(100); });
+    const QModelIndex now = table.view().indexAt({0, 0});
+    EXPECT_EQ(now.data().toString(), title);
+    EXPECT_EQ(table.view().visualRect(now).top(), offset);
+}
+
+TEST_F(TableViewTest, AtTheTopNewRowsComeIntoSight)
+{
+    setManyPages(100, 10);
+    show(table, {.sourceID = u"chrome/Default"_s});
+    awaitList(table, [&] { setManyPages(100); });
+    EXPECT_EQ(table.view().indexAt({0, 0}).data(), u"p0"_s);
+}
+
+TEST_F(TableViewTest, AnotherOrderBeginsAtTheTop)
+{
+    setManyPages(100);
+    show(table, {.sourceID = u"chrome/Default"_s});
+    table.view().scrollToBottom();
+    awaitList(table, [&] { clickHeader(table, HistoryTable::Title); });
+    EXPECT_EQ(table.view().verticalScrollBar()->value(), 0);
+}
+
+TEST_F(TableViewTest, AReloadThatBringsNothingNewChangesNothing)
+{
+    show(table);
+    const QSignalSpy resets(table.view().model(), &QAbstractItemModel::modelReset);
+    reload(table);
+    EXPECT_EQ(resets.size(), 0);
+}
+
+TEST_F(TableViewTest, AMillionCharactersArePaintedLikeAnyTitle)
+{
+    const QString million(1'000'000, u'x');
+    setPages(u"Default"_s, {page(million, 1, 1, u"https://long.example/"_s % million)});
+    loadNow(*library);
+    show(table, {.sourceID = u"chrome/Default"_s, .grouping = Grouping::Site});
+    EXPECT_FALSE(table.grab().isNull());
+    table.view().resizeColumnToContents(0);
+    EXPECT_LT(table.view().columnWidth(0), 20'000);
+    EXPECT_EQ(table.rowCount(), 1);
+}
+
+TEST_F(TableViewTest, TheLabelOfAnEmptyListIsSeen)
+{
+    show(table, {.sourceID = u"chrome/Nobody"_s});
+    const auto *label = table.findChild<QLabel *>(u"emptyText"_s);
+    ASSERT_NE(label, nullptr);
+    EXPECT_TRUE(label->isVisible());
+    EXPECT_EQ(label->geometry(), table.view().viewport()->rect());
+    awaitList(table, [&] { table.setInputs({}); });
+    EXPECT_FALSE(label->isVisible());
+}
+
+TEST_F(TableViewTest, EveryPartHasAName)
+{
+    show(table);
+    EXPECT_EQ(table.view().objectName(), u"historyTable");
+    EXPECT_EQ(table.view().accessibleName(), u"History");
+    EXPECT_EQ(table.view().tableHeader().accessibleName(), u"Columns");
+    EXPECT_TRUE(table.view().uniformRowHeights());
+}
+
+} // namespace roamlet::testing
