@@ -40,6 +40,8 @@ public:
     static bool canCoverFolders();
 
     bool start(const Start &start);
+    /// Takes over a browser that somebody else started, by the session that its processes belong to.
+    void adopt(pid_t session) { m_session = session; }
     /// Stops every process where it stands, so that no file can change, and returns once all have stopped.
     bool freeze();
     /// Lets all the processes go on.
