@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QTextBrowser>
+
+#include <functional>
+
+namespace roamlet
+{
+
+struct ReleaseNotes;
+
+/// Shows release notes, which come from elsewhere: nothing that they name is loaded, their colours give way
+/// to the palette's, and only links to web pages lead anywhere.
+class ReleaseNotesView final : public QTextBrowser
+{
+    Q_OBJECT
+
+public:
+    explicit ReleaseNotesView(std::function<void(const QString &url)> openLink, QWidget *parent = nullptr);
+
+    void show(const ReleaseNotes &notes);
+
+    /// Nothing, whatever is asked for.
+    QVariant loadResource(int type, const QUrl &name) override;
+
+private:
+    void takeColorsAway();
+};
+
+} // namespace roamlet

@@ -1,0 +1,126 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "App/Updates/UpdateDialog.h"
+
+#include "App/Look/NoteLabel.h"
+
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QIcon>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <utility>
+
+namespace roamlet
+{
+
+using namespace Qt::StringLiterals;
+
+UpdateDialog::UpdateDialog(const QString &name, Answer closed, QWidget *parent)
+    : QDialog(parent),
+      m_closed(std::move(closed)),
+      m_heading(new QLabel),
+      m_text(new NoteLabel),
+      m_contents(new QVBoxLayout),
+      m_buttons(new QHBoxLayout)
+{
+    setObjectName(name);
+    setWindowTitle(tr("Software Update"));
+    m_heading->setObjectName(u"updateHeading"_s);
+    m_heading->setTextFormat(Qt::PlainText);
+    m_heading->setWordWrap(true);
+    QFont bold = m_heading->font();
+    bold.setBold(true);
+    m_heading->setFont(bold);
+    m_text->setObjectName(u"updateText"_s);
+    m_text->hide();
+
+    auto *words = new QVBoxLayout;
+    words->addWidget(m_heading);
+    words->addWidget(m_text);
+    words->addLayout(m_contents);
+    words->addStretch();
+    auto *icon = new QLabel;
+    constexpr int iconSide = 48;
+    icon->setPixmap(QGuiApplication::windowIcon().pixmap(iconSide));
+    icon->setAlignment(Qt::AlignTop);
+    auto *top = new QHBoxLayout;
+    top->setSpacing(16);
+    if (!QGuiApplication::windowIcon().isNull())
+        top->addWidget(icon);
+    top->addLayout(words, 1);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(20, 20, 20, 20);
+    layout->setSpacing(16);
+    layout->addLayout(top, 1);
+    layout->addLayout(m_buttons);
+    constexpr int narrowest = 400;
+    setMinimumWidth(narrowest);
+}
+
+void UpdateDialog::setHeading(const QString &text)
+{
+    m_heading->setText(text);
+}
+
+void UpdateDialog::setText(const QString &text)
+{
+    m_text->setText(text);
+    m_text->setHidden(text.isEmpty());
+}
+
+void UpdateDialog::withdraw()
+{
+    give({});
+}
+
+void UpdateDialog::reject()
+{
+    give(m_closed);
+}
+
+QPushButton *UpdateDialog::addButton(const QString &name, const QString &text, Role role, Answer answer)
+{
+    if (m_buttons->isEmpty())
+        m_buttons->addStretch();
+    auto *button = new QPushButton(text);
+    button->setObjectName(name);
+    button->setAccessibleName(text);
+    // Return presses the same button wherever the focus is.
+    button->setAutoDefault(role == Role::Default);
+    button->setDefault(role == Role::Default);
+    m_buttons->addWidget(button);
+    connect(button, &QPushButton::clicked, this, [this, answer = std::move(answer)] { give(answer); });
+    if (role == Role::Default)
+        button->setFocus();
+    return button;
+}
+
+void UpdateDialog::addButtonSpace()
+{
+    m_buttons->addStretch();
+}
+
+void UpdateDialog::give(Answer answer)
+{
+    if (std::exchange(m_isAnswered, true))
+        return;
+    QDialog::reject();
+    // The answer may open the next window in the place of this one.
+    if (answer)
+        answer();
+}
+
+UpdateMessageDialog::UpdateMessageDialog(const QString &name, const QString &heading, const QString &text,
+                                         const Answer &read, QWidget *parent)
+    : UpdateDialog(name, read, parent)
+{
+    setHeading(heading);
+    setText(text);
+    addButton(u"updateOk"_s, tr("OK"), Role::Default, read);
+}
+
+} // namespace roamlet
