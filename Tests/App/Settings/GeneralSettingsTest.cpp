@@ -6,12 +6,16 @@
 #include "App/Look/NoteLabel.h"
 #include "App/Look/Switch.h"
 #include "App/Settings/SettingsWindow.h"
+#include "App/Updates/BundleInformation.h"
+#include "App/Updates/Updater.h"
 #include "Library/Library.h"
 #include "Support/FakeActivationPolicy.h"
 #include "Support/FakeLoginService.h"
+#include "Support/FakeUpdateDriver.h"
 #include "Support/TestHome.h"
 
 #include <QAccessible>
+#include <QPushButton>
 #include <QTabWidget>
 #include <QTest>
 
@@ -208,6 +212,66 @@ TEST_F(GeneralSettingsTest, WhileTheMainWindowIsOpenItKeepsTheDockIcon)
     QTest::mouseClick(&dockIcon(), Qt::LeftButton);
     EXPECT_EQ(home.defaults.boolean(u"showDockIcon"_s), false);
     EXPECT_TRUE(activation.policies.isEmpty());
+    EXPECT_EQ(activation.timesInFront, 1);
+}
+
+/// The settings of a build that can be updated, or cannot.
+class UpdateSettingsTest : public GeneralSettingsTest
+{
+protected:
+    void openWith(const QString &feedURL)
+    {
+        BundleInformation information;
+        information.feedURL = feedURL;
+        auto own = std::make_unique<FakeUpdateDriver>();
+        driver = own.get();
+        updater = std::make_unique<Updater>(information, std::move(own));
+        driver->isAutomatic = false;
+        window = std::make_unique<SettingsWindow>(
+            SettingsServices{library, home.defaults, login, activation, [] { return false; }, updater.get()});
+        window->open();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    }
+    Switch *automatic() const { return window->findChild<Switch *>(u"checkForUpdatesAutomatically"_s); }
+    QPushButton *check() const { return window->findChild<QPushButton *>(u"checkForUpdates"_s); }
+
+    std::unique_ptr<Updater> updater;
+    FakeUpdateDriver *driver = nullptr;
+    const QString feed = u"https://updates.example/feed.xml"_s;
+};
+
+TEST_F(UpdateSettingsTest, ABuildWithoutAFeedHasNoSettingsForUpdates)
+{
+    openWith({});
+    EXPECT_EQ(automatic(), nullptr);
+    EXPECT_EQ(check(), nullptr);
+    open();
+    EXPECT_EQ(automatic(), nullptr);
+}
+
+TEST_F(UpdateSettingsTest, TheSwitchShowsAndSetsTheAutomaticChecks)
+{
+    openWith(feed);
+    ASSERT_NE(automatic(), nullptr);
+    EXPECT_EQ(automatic()->accessibleName(), u"Check for updates automatically"_s);
+    EXPECT_FALSE(automatic()->isChecked());
+    QTest::mouseClick(automatic(), Qt::LeftButton);
+    EXPECT_TRUE(driver->isAutomatic);
+    QTest::mouseClick(automatic(), Qt::LeftButton);
+    EXPECT_FALSE(driver->isAutomatic);
+    window->close();
+    driver->isAutomatic = true;
+    window->open();
+    EXPECT_TRUE(automatic()->isChecked()) << "it is read whenever the tab appears";
+}
+
+TEST_F(UpdateSettingsTest, TheButtonComesToTheFrontAndChecks)
+{
+    openWith(feed);
+    EXPECT_EQ(check()->text(), u"Check for Updates…"_s);
+    check()->setFocus();
+    QTest::keyClick(check(), Qt::Key_Space);
+    EXPECT_EQ(driver->checks, 1);
     EXPECT_EQ(activation.timesInFront, 1);
 }
 

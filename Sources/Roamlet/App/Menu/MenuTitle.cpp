@@ -53,7 +53,7 @@ QString shortened(const QString &title)
         if (!tooLong)
             continue;
         QStringView cut = text.left(*lengthOf(shortTitle, text));
-        const auto first = std::ranges::find_if_not(cut, isBlank);
+        const auto *const first = std::ranges::find_if_not(cut, isBlank);
         cut = cut.sliced(first - cut.begin());
         while (!cut.isEmpty() && isBlank(cut.back()))
             cut.chop(1);

@@ -7,11 +7,13 @@
 #include "App/Look/Switch.h"
 #include "App/Look/SwitchRow.h"
 #include "App/Settings/LoginItem.h"
+#include "App/Updates/Updater.h"
 #include "Platform/ActivationPolicy.h"
 #include "Platform/LoginService.h"
 #include "Platform/UserDefaults.h"
 
 #include <QGroupBox>
+#include <QPushButton>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
@@ -39,6 +41,7 @@ GeneralSettings::GeneralSettings(const SettingsServices &services, QWidget *pare
     m_dockIcon->control().setChecked(m_services.defaults.boolean(showDockIconKey.toString()).value_or(false));
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(presence);
+    addUpdates(layout);
     layout->addStretch();
 
     showLoginStatus();
@@ -54,9 +57,33 @@ SwitchRow *GeneralSettings::addSwitch(QVBoxLayout *group, const QString &name, c
     return row;
 }
 
+void GeneralSettings::addUpdates(QVBoxLayout *layout)
+{
+    if (m_services.updater == nullptr || !m_services.updater->isAvailable())
+        return;
+    auto *updates = new QGroupBox;
+    auto *rows = new QVBoxLayout(updates);
+    m_updateChecks =
+        addSwitch(rows, u"checkForUpdatesAutomatically"_s, tr("Check for updates automatically"));
+    auto *check = new QPushButton(tr("Check for Updates…"));
+    check->setObjectName(u"checkForUpdates"_s);
+    check->setAccessibleName(check->text());
+    rows->addWidget(check, 0, Qt::AlignLeading);
+    layout->addWidget(updates);
+
+    showUpdateChecks();
+    connect(&m_updateChecks->control(), &Switch::toggled, this,
+            [this](bool isOn) { m_services.updater->setAutomaticallyChecksForUpdates(isOn); });
+    connect(check, &QPushButton::clicked, this, [this] {
+        m_services.activation.bringToFront();
+        m_services.updater->checkForUpdates();
+    });
+}
+
 void GeneralSettings::showEvent(QShowEvent *event)
 {
     showLoginStatus();
+    showUpdateChecks();
     QWidget::showEvent(event);
 }
 
@@ -82,6 +109,14 @@ void GeneralSettings::showLoginStatus()
     m_loginNote->setTone(m_loginProblem ? NoteLabel::Tone::Problem : NoteLabel::Tone::Secondary);
     m_loginNote->setText(text);
     m_loginNote->setVisible(!text.isEmpty());
+}
+
+void GeneralSettings::showUpdateChecks()
+{
+    if (m_updateChecks == nullptr)
+        return;
+    const QSignalBlocker blocker(m_updateChecks->control());
+    m_updateChecks->control().setChecked(m_services.updater->automaticallyChecksForUpdates());
 }
 
 void GeneralSettings::setShowsDockIcon(bool isOn)

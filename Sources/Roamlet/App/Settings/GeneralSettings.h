@@ -27,19 +27,23 @@ public:
     explicit GeneralSettings(const SettingsServices &services, QWidget *parent = nullptr);
 
 protected:
-    /// The system's own settings can have changed meanwhile.
+    /// What is set elsewhere can have changed meanwhile.
     void showEvent(QShowEvent *event) override;
 
 private:
     SwitchRow *addSwitch(QVBoxLayout *group, const QString &name, const QString &text);
     void setOpensAtLogin(bool isOn);
+    void addUpdates(QVBoxLayout *layout);
     void showLoginStatus();
+    void showUpdateChecks();
     void setShowsDockIcon(bool isOn);
 
     SettingsServices m_services;
     SwitchRow *m_login;
     NoteLabel *m_loginNote;
     SwitchRow *m_dockIcon;
+    /// Absent where there are no updates.
+    SwitchRow *m_updateChecks = nullptr;
     /// What went wrong with the last change.
     std::optional<QString> m_loginProblem;
 };

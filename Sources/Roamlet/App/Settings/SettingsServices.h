@@ -11,6 +11,7 @@ namespace roamlet
 class ActivationPolicy;
 class Library;
 class LoginService;
+class Updater;
 class UserDefaults;
 
 /// What the settings work with. All of it outlives them.
@@ -21,6 +22,8 @@ struct SettingsServices {
     ActivationPolicy &activation;
     /// While the main window is open, it decides how present the program is.
     std::function<bool()> isMainWindowOpen;
+    /// Without one that is available there are no settings for updates.
+    Updater *updater = nullptr;
 };
 
 } // namespace roamlet

@@ -41,8 +41,8 @@ UpdateDialog::UpdateDialog(const QString &name, Answer closed, QWidget *parent)
     auto *words = new QVBoxLayout;
     words->addWidget(m_heading);
     words->addWidget(m_text);
-    words->addLayout(m_contents);
-    words->addStretch();
+    words->addLayout(m_contents, 1);
+    words->addStretch(0);
     auto *icon = new QLabel;
     constexpr int iconSide = 48;
     icon->setPixmap(QGuiApplication::windowIcon().pixmap(iconSide));
