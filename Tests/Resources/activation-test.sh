@@ -19,6 +19,7 @@ if [ "$1" != --on-the-bus ]; then
 <busconfig>
   <type>session</type>
   <listen>unix:dir=$folder</listen>
+  <limit name="service_start_timeout">60000</limit>
   <servicedir>$services</servicedir>
   <policy context="default"><allow send_destination="*"/><allow receive_sender="*"/><allow own="*"/></policy>
 </busconfig>
@@ -33,7 +34,7 @@ fi
 
 program=$2
 activate() {
-  gdbus call --session --timeout 20 --dest org.roamlet.Roamlet --object-path /org/roamlet/Roamlet \
+  gdbus call --session --timeout 60 --dest org.roamlet.Roamlet --object-path /org/roamlet/Roamlet \
     --method org.freedesktop.Application.Activate '{}' >/dev/null
 }
 ask_bus() {
@@ -44,12 +45,12 @@ ask_bus() {
 activate || { echo "the program does not start"; exit 1; }
 pid=$(ask_bus GetConnectionUnixProcessID | grep -oE '[0-9]+' | tail -n 1)
 [ "$(readlink "/proc/$pid/exe")" = "$program" ] || { echo "another program answers"; exit 1; }
-timeout 20 "$program" || { echo "a second start does not hand over"; exit 1; }
+timeout 60 "$program" || { echo "a second start does not hand over"; exit 1; }
 activate || { echo "it does not come forward again"; exit 1; }
 [ "$(ask_bus GetConnectionUnixProcessID | grep -oE '[0-9]+' | tail -n 1)" = "$pid" ] \
   || { echo "another one has been started"; exit 1; }
 
 kill -TERM "$pid"
-timeout 20 tail --pid="$pid" -f /dev/null || { echo "the program does not end"; exit 1; }
+timeout 60 tail --pid="$pid" -f /dev/null || { echo "the program does not end"; exit 1; }
 left=$(find "$TMPDIR" -mindepth 1)
 [ -z "$left" ] || { echo "it left $left"; exit 1; }
