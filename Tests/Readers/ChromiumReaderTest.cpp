@@ -134,6 +134,14 @@ TEST_F(ChromiumProfiles, aNameThatNoFileCanHaveIsLeftOut)
     EXPECT_EQ(folders(), QStringList{u"Default"_s});
 }
 
+TEST_F(ChromiumProfiles, whatStandsBehindANulIsNoSecondNameOfAFolder)
+{
+    writeChrome({{u"Default"_s, named(u"A"_s)}});
+    sample::writeLocalState(chromeFile(u"Local State"_s, {}),
+                            {{u"Default"_s, named(u"A"_s)}, {u"Default"_s % QChar(0) % u"x", named(u"B"_s)}});
+    EXPECT_EQ(folders(), QStringList{u"Default"_s});
+}
+
 TEST_F(ChromiumProfiles, aFileInThePlaceOfTheFolderCounts)
 {
     sample::writeLocalState(chromeFile(u"Local State"_s, {}), {{u"Default"_s, named(u"A"_s)}});

@@ -7,6 +7,7 @@
 #include "SampleHome/PlainFiles.h"
 #include "SampleHome/SqliteFile.h"
 
+#include <QDataStream>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -18,6 +19,7 @@
 #include <unistd.h>
 
 #include <array>
+#include <numeric>
 #include <stop_token>
 #include <thread>
 
@@ -104,6 +106,29 @@ protected:
     const QString source = home.path(u"data/History"_s);
     int copies = 0;
 };
+
+/// The journal of a change that has changed nothing yet, and that shares its fate with the changes of other
+/// databases: `shared` is the file that says whose.
+QByteArray journalThatNames(const QString &shared, const QString &database)
+{
+    constexpr quint32 pageSize = 4096;
+    constexpr qsizetype sectorSize = 512;
+    constexpr quint32 lockByte = 0x40000000;
+    const QByteArray magic = QByteArray::fromHex("d9d505f920a163d7");
+    QByteArray journal;
+    QDataStream stream(&journal, QIODevice::WriteOnly);
+    const auto pages = static_cast<quint32>(QFileInfo(database).size() / pageSize);
+    stream.writeRawData(magic.constData(), static_cast<int>(magic.size()));
+    stream << quint32(0) << quint32(12345) << pages << quint32(sectorSize) << pageSize;
+    const QByteArray padding(sectorSize - journal.size(), '\0');
+    stream.writeRawData(padding.constData(), static_cast<int>(padding.size()));
+    const QByteArray name = QFile::encodeName(shared);
+    stream << quint32(lockByte / pageSize + 1);
+    stream.writeRawData(name.constData(), static_cast<int>(name.size()));
+    stream << quint32(name.size()) << quint32(std::accumulate(name.begin(), name.end(), 0));
+    stream.writeRawData(magic.constData(), static_cast<int>(magic.size()));
+    return journal;
+}
 
 const QString sumAndCount = u"SELECT count(*) || ' ' || sum(v) FROM t"_s;
 
@@ -456,6 +481,55 @@ TEST_F(SQLiteSnapshotTest, runsNothingThatTheDatabaseBringsAlong)
     sample::Database(source).execute("CREATE VIEW w AS SELECT v FROM t");
     EXPECT_EQ(read(u"SELECT v FROM w"_s),
               QStringList{u"Couldn't read query: access to view \"w\" prohibited"_s});
+}
+
+TEST_F(SQLiteSnapshotTest, aJournalCannotHaveAFileOfTheUsersDeleted)
+{
+    write({u"value"_s});
+    const QString precious = home.path(u"precious.txt"_s);
+    const QString otherJournal = home.path(u"other-journal"_s);
+    sample::writeFile(otherJournal, "of another database");
+    const QByteArray nobody = otherJournal.toUtf8() + '\0';
+    const QByteArray thisOne = source.toUtf8() + "-journal" + '\0';
+    for (const QByteArray &content : {QByteArray("my thesis\n"), QByteArray(), nobody, thisOne}) {
+        change([&] {
+            sample::writeFile(precious, content);
+            sample::writeFile(source % u"-journal", journalThatNames(precious, source));
+        });
+        EXPECT_EQ(read(), QStringList{u"value"_s});
+        expectNothingTouched();
+    }
+}
+
+TEST_F(SQLiteSnapshotTest, aJournalThatNamesSomethingThatNeverEndsIsNoHang)
+{
+    write({u"value"_s});
+    const QString pipe = home.path(u"pipe"_s);
+    ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    sample::writeFile(source % u"-journal", journalThatNames(pipe, source));
+    EXPECT_EQ(read(), QStringList{u"value"_s});
+    EXPECT_TRUE(QFileInfo::exists(pipe));
+}
+
+TEST_F(SQLiteSnapshotTest, aLongLogIsNotMergedIntoACopyThatIsThrownAway)
+{
+    writeThousand(sample::Journal::UnmergedWal);
+    auto snapshot = SQLiteSnapshot::copying(source, context());
+    ASSERT_TRUE(snapshot.has_value());
+    EXPECT_EQ(query(*snapshot, sumAndCount), QStringList{u"1000 499500"_s});
+    // Through a descriptor the copy can be seen when its folder is gone.
+    const QString copy = snapshot->folder() % u"/History";
+    const int descriptor = ::open(QFile::encodeName(copy).constData(), O_RDONLY | O_CLOEXEC);
+    struct stat before = {};
+    ASSERT_EQ(::fstat(descriptor, &before), 0);
+    {
+        const auto released = std::move(*snapshot);
+    }
+    struct stat after = {};
+    ASSERT_EQ(::fstat(descriptor, &after), 0);
+    EXPECT_EQ(after.st_mtim.tv_sec, before.st_mtim.tv_sec);
+    EXPECT_EQ(after.st_mtim.tv_nsec, before.st_mtim.tv_nsec);
+    ::close(descriptor);
 }
 
 TEST_F(SQLiteSnapshotTest, aRequestToStopBeforeTheCopyEndsTheRead)

@@ -128,6 +128,9 @@ QList<Source> profiles(Source::Kind kind, const ReadContext &context)
     QList<Source> result;
     for (const auto &[key, info] : cache->items()) {
         const QString folderName = Json::text(key);
+        // What stands behind a NUL is no part of a file's name: two keys could mean the same folder.
+        if (key.find('\0') != std::string::npos)
+            continue;
         if (!context.files->exists(root % u'/' % folderName))
             continue;
         result.append({.kind = kind,

@@ -5,6 +5,7 @@
 
 #include "Platform/Files.h"
 #include "Platform/Processes.h"
+#include "Readers/ConfinedFiles.h"
 #include "Readers/LiteralLike.h"
 #include "Readers/ReadContext.h"
 
@@ -27,7 +28,7 @@ namespace
 {
 
 constexpr int attempts = 3;
-const QString folderPrefix = u"Roamlet-"_s;
+const QString folderPrefix = QString::fromLatin1(ConfinedFiles::folderPrefix);
 
 /// The size and time of a database and of the files beside it that hold its changes. The "-shm" file says
 /// nothing about the content.
@@ -140,14 +141,17 @@ public:
     {
         prepareLibrary();
         // Read-write, so that SQLite can replay the copied logs into the copy.
-        const int result =
-            sqlite3_open_v2(QFile::encodeName(path).constData(), &m_handle, SQLITE_OPEN_READWRITE, nullptr);
+        const int result = sqlite3_open_v2(QFile::encodeName(path).constData(), &m_handle,
+                                           SQLITE_OPEN_READWRITE, ConfinedFiles::name());
         if (result != SQLITE_OK)
             return std::unexpected(m_handle != nullptr ? messageOf(m_handle) : u"open failed"_s);
         // The file is a stranger's: its schema may hold data and nothing that runs.
         sqlite3_db_config(m_handle, SQLITE_DBCONFIG_ENABLE_VIEW, 0, nullptr);
         sqlite3_db_config(m_handle, SQLITE_DBCONFIG_ENABLE_TRIGGER, 0, nullptr);
         sqlite3_db_config(m_handle, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
+        // The copy is thrown away: nothing has to be merged into it at the end, or to survive a power cut.
+        sqlite3_db_config(m_handle, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
+        sqlite3_exec(m_handle, "PRAGMA synchronous = OFF", nullptr, nullptr, nullptr);
         LiteralLike::install(m_handle);
         sqlite3_progress_handler(m_handle, stepsPerCheck, &Connection::shallEnd, this);
         return {};

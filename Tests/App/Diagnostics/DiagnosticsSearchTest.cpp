@@ -57,6 +57,25 @@ TEST_F(DiagnosticsSearchTest, searchNeedsEveryWordAndSaysHowManyMatched)
                 MatchesRegex("0 matches, not capped, in " + seconds + "s"));
 }
 
+TEST_F(DiagnosticsSearchTest, pagesOfTheSameTimeKeepTheOrderOfTheirSourcesWhicheverEndsFirst)
+{
+    home.addProfiles();
+    const auto write = [this](const QString &file, const QString &host, int count) {
+        QList<sample::HistoryRow> rows;
+        for (int i = 0; i < count; ++i)
+            rows.append(BrowserHome::page(u"https://%1.example/%2"_s.arg(host).arg(i), u"t"_s, 1,
+                                          BrowserHome::newest));
+        sample::writeHistory(file, rows);
+    };
+    // The first source has by far the most to read.
+    write(home.chrome(u"Default/History"_s), u"first"_s, 900);
+    write(home.edge(u"Default/History"_s), u"last"_s, 1);
+    const QStringList found = rowsOf({u"--search"_s, u"example"_s});
+    ASSERT_GE(found.size(), 901);
+    EXPECT_TRUE(found.first().contains(u"first.example"_s));
+    EXPECT_TRUE(found.at(899).contains(u"first.example"_s));
+}
+
 TEST_F(DiagnosticsSearchTest, searchKeepsPagesOfTheSameTimeAsTheirSourceDeliveredThem)
 {
     home.addProfiles();

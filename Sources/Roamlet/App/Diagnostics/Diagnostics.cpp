@@ -203,9 +203,12 @@ int Job::exportBookmarks(const std::optional<QString> &formatName, const std::op
     if (!tree)
         complain(tree.error());
     const QList<BookmarkNode> roots = tree.value_or(QList<BookmarkNode>());
+    // Every bookmark of the flat list names all folders around it, which takes far more room than the tree.
     QList<Bookmark> flat;
-    for (const BookmarkNode &root : roots)
-        flat += root.flattened();
+    if (*format == BookmarkExport::Format::Csv) {
+        for (const BookmarkNode &root : roots)
+            flat += root.flattened();
+    }
     return write(BookmarkExport::render(*format, roots, flat));
 }
 
@@ -239,8 +242,17 @@ int Job::top()
 int Job::search(const HistoryQuery &query)
 {
     const Stopwatch stopwatch;
-    HistoryResults results = Library::history(query, enabledSources(), m_context);
-    std::ranges::stable_sort(results.items, std::ranges::greater(), &HistoryItem::lastVisit);
+    const QList<Source> sources = enabledSources();
+    HistoryResults results = Library::history(query, sources, m_context);
+    QHash<QString, qsizetype> places;
+    for (qsizetype i = 0; i < sources.size(); ++i)
+        places.insert(sources[i].id(), i);
+    // Sources come as they finish; pages of one time keep the order of the sources, each time the same.
+    std::ranges::stable_sort(results.items, [&places](const HistoryItem &left, const HistoryItem &right) {
+        return left.lastVisit != right.lastVisit
+                   ? left.lastVisit > right.lastVisit
+                   : places.value(left.source.id()) < places.value(right.source.id());
+    });
 
     QList<QStringList> cells;
     cells.reserve(results.items.size());

@@ -106,14 +106,19 @@ std::error_code copyContent(int source, int target, const std::stop_token &stop)
 {
     if (ioctl(target, FICLONE, source) == 0)
         return {};
+    bool hasBegun = false;
     while (!stop.stop_requested()) {
         const ssize_t count = copy_file_range(source, nullptr, target, nullptr, bytesPerCopy, 0);
         if (count == 0)
             return {};
-        if (count < 0 && (errno == EXDEV || errno == EINVAL || errno == ENOSYS || errno == EOPNOTSUPP))
+        if (count < 0 && errno == EINTR)
+            continue;
+        // File systems refuse this for reasons of their own; a real fault shows itself when reading, too.
+        if (count < 0 && !hasBegun)
             return copyThroughMemory(source, target, stop);
-        if (count < 0 && errno != EINTR)
+        if (count < 0)
             return lastError();
+        hasBegun = true;
     }
     return std::make_error_code(std::errc::operation_canceled);
 }
