@@ -9,6 +9,7 @@
 
 /// The resources of a static library are there only once somebody asks for them, from outside of any
 /// namespace.
+// NOLINTNEXTLINE(misc-use-anonymous-namespace)
 static void useResources()
 {
     Q_INIT_RESOURCE(Information);

@@ -94,7 +94,7 @@ void HttpTransfer::watch()
 {
     m_hasHeardSomething = false;
     m_clock.after(m_options.patience, this, [this] {
-        if (!m_reply)
+        if (m_reply == nullptr)
             return;
         if (m_hasHeardSomething)
             watch();
@@ -105,10 +105,14 @@ void HttpTransfer::watch()
 
 void HttpTransfer::follow(const QUrl &address)
 {
-    if (++m_redirects > mostRedirects)
-        return finish(UpdateError{UpdateError::Code::TooManyRedirects, {}});
-    if (!m_options.allows(address))
-        return finish(UpdateError{UpdateError::Code::InsecureAddress, address.toDisplayString()});
+    if (++m_redirects > mostRedirects) {
+        finish(UpdateError{UpdateError::Code::TooManyRedirects, {}});
+        return;
+    }
+    if (!m_options.allows(address)) {
+        finish(UpdateError{UpdateError::Code::InsecureAddress, address.toDisplayString()});
+        return;
+    }
     letGo();
     send(address);
 }
@@ -141,27 +145,33 @@ void HttpTransfer::readPieces()
     // The page that a redirect brings with it is for browsers.
     if (redirection(*m_reply))
         return;
-    while (m_reply && m_reply->bytesAvailable() > 0) {
+    while (m_reply != nullptr && m_reply->bytesAvailable() > 0) {
         std::optional<UpdateError> error = begin();
         if (!error) {
             const QByteArray piece = m_reply->read(bytesPerPiece);
             m_received += piece.size();
             error = m_handlers.receive(piece);
         }
-        if (error)
-            return finish(error);
+        if (error) {
+            finish(error);
+            return;
+        }
     }
 }
 
 void HttpTransfer::complete()
 {
-    if (m_reply->error() != QNetworkReply::NoError)
-        return finish(replyError());
-    if (const auto address = redirection(*m_reply))
-        return follow(*address);
+    if (m_reply->error() != QNetworkReply::NoError) {
+        finish(replyError());
+        return;
+    }
+    if (const auto address = redirection(*m_reply)) {
+        follow(*address);
+        return;
+    }
     readPieces();
     // Reading may have ended it with an error.
-    if (!m_reply)
+    if (m_reply == nullptr)
         return;
     std::optional<UpdateError> error = begin();
     // Qt does not always notice that a connection was cut.
@@ -189,7 +199,7 @@ void HttpTransfer::finish(const std::optional<UpdateError> &error)
 
 void HttpTransfer::letGo()
 {
-    if (!m_reply)
+    if (m_reply == nullptr)
         return;
     QNetworkReply *reply = m_reply;
     m_reply = nullptr;

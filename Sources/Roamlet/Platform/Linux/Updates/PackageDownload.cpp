@@ -6,6 +6,9 @@
 #include "Platform/Linux/LinuxIO.h"
 #include "Platform/Linux/Updates/PackageSignature.h"
 
+#include <QCoreApplication>
+#include <QEvent>
+
 #include <unistd.h>
 
 #include <cstdio>
@@ -57,7 +60,7 @@ PackageDownload::PackageDownload(QNetworkAccessManager &network, const Clock &cl
       m_file(target % u".part")
 {
     if (const auto error = prepare()) {
-        clock.after(Clock::Duration::zero(), &m_receiver, [this, error] { finish(error); });
+        clock.after(Clock::Duration::zero(), this, [this, error] { finish(error); });
         return;
     }
     m_transfer = std::make_unique<HttpTransfer>(
@@ -126,20 +129,22 @@ std::optional<UpdateError> PackageDownload::receive(const QByteArray &piece)
 
 void PackageDownload::verify()
 {
-    if (m_package.length && m_received != *m_package.length)
-        return finish(UpdateError{UpdateError::Code::WrongLength, {}});
+    if (m_package.length && m_received != *m_package.length) {
+        finish(UpdateError{UpdateError::Code::WrongLength, {}});
+        return;
+    }
     m_handlers.verifying();
     // Hashing a large package takes longer than a window may stand still.
     m_verification = std::jthread([this] {
         m_verdict = check(m_file.fileName(), m_received, m_signature, m_key);
-        QMetaObject::invokeMethod(
-            &m_receiver,
-            [this] {
-                m_verification.join();
-                finish(m_verdict);
-            },
-            Qt::QueuedConnection);
+        QCoreApplication::postEvent(this, new QEvent(QEvent::User));
     });
+}
+
+void PackageDownload::customEvent(QEvent * /*event*/)
+{
+    m_verification.join();
+    finish(m_verdict);
 }
 
 void PackageDownload::finish(const std::optional<UpdateError> &error)

@@ -17,7 +17,7 @@ namespace roamlet
 /// A package that is being fetched into a file and checked. The file gets its name only when its length and
 /// its signature are right; before, and after any failure, there is no such file. Destroying the download
 /// cancels it. On the main thread.
-class PackageDownload
+class PackageDownload final : public QObject
 {
 public:
     struct Package {
@@ -39,9 +39,11 @@ public:
     /// `key` is the decoded public key; `target` the path of the file, in a folder that exists.
     PackageDownload(QNetworkAccessManager &network, const Clock &clock, const HttpOptions &options,
                     Package package, const QByteArray &key, const QString &target, Handlers handlers);
-    PackageDownload(const PackageDownload &) = delete;
-    PackageDownload &operator=(const PackageDownload &) = delete;
-    ~PackageDownload();
+    ~PackageDownload() override;
+
+protected:
+    /// The check has ended.
+    void customEvent(QEvent *event) override;
 
 private:
     std::optional<UpdateError> prepare();
@@ -62,7 +64,6 @@ private:
     /// What the check found; written by its thread and read when that has ended.
     std::optional<UpdateError> m_verdict;
     std::unique_ptr<HttpTransfer> m_transfer;
-    QObject m_receiver;
     std::jthread m_verification;
 };
 

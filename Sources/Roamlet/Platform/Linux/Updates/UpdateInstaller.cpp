@@ -79,7 +79,7 @@ std::optional<UpdateError> UpdateInstaller::replaceAppImage(const QString &packa
     if (::stat(oldName.constData(), &attributes) != 0 ||
         ::chmod(newName.constData(), (attributes.st_mode & permissions) | S_IXUSR) != 0 ||
         std::rename(newName.constData(), oldName.constData()) != 0) {
-        const UpdateError error = lastErrorAs(UpdateError::Code::CannotInstall);
+        UpdateError error = lastErrorAs(UpdateError::Code::CannotInstall);
         QFile::remove(package);
         return error;
     }

@@ -57,8 +57,10 @@ void UpdateSession::start()
         m_sight = Sight::Window;
         m_setup.userInterface.showChecking(inThisStep([this] { finish(); }));
     }
-    if (m_setup.feed.isEmpty() || m_setup.publicKey.isEmpty())
-        return failToRead({UpdateError::Code::NotConfigured, {}});
+    if (m_setup.feed.isEmpty() || m_setup.publicKey.isEmpty()) {
+        failToRead({UpdateError::Code::NotConfigured, {}});
+        return;
+    }
     m_document = std::make_unique<DocumentDownload>(
         m_network, m_setup.clock, m_setup.http, m_setup.feed, longestFeed,
         [this](const std::expected<DocumentDownload::Document, UpdateError> &feed) { readFeed(feed); });
@@ -73,28 +75,38 @@ void UpdateSession::bringToFront()
             giveAttention();
         return;
     }
-    if (m_choice)
-        return showUpdate();
+    if (m_choice) {
+        showUpdate();
+        return;
+    }
     m_sight = Sight::Window;
     m_setup.userInterface.showChecking(inThisStep([this] { finish(); }));
 }
 
 void UpdateSession::readFeed(const std::expected<DocumentDownload::Document, UpdateError> &feed)
 {
-    if (!feed)
-        return failToRead(feed.error());
+    if (!feed) {
+        failToRead(feed.error());
+        return;
+    }
     const auto items = Feed::parse(feed->content, feed->head.address);
     m_document.reset();
-    if (!items)
-        return failToRead(items.error());
+    if (!items) {
+        failToRead(items.error());
+        return;
+    }
     m_handlers.feedRead();
     const std::optional<UpdateChoice> choice = UpdateChoice::best(*items, m_setup.host);
     // Who asks wants to know, whatever was skipped before; and some updates are not to be skipped.
     if (choice &&
-        (m_origin == Origin::User || choice->isCritical || !m_handlers.isSkipped(choice->item.version)))
-        return offer(*choice);
-    if (m_origin == Origin::Schedule)
-        return finish();
+        (m_origin == Origin::User || choice->isCritical || !m_handlers.isSkipped(choice->item.version))) {
+        offer(*choice);
+        return;
+    }
+    if (m_origin == Origin::Schedule) {
+        finish();
+        return;
+    }
     beginStep();
     m_setup.userInterface.showUpToDate(inThisStep([this] { finish(); }));
 }
@@ -109,8 +121,10 @@ void UpdateSession::offer(const UpdateChoice &choice)
 {
     m_choice = choice;
     beginStep();
-    if (m_origin == Origin::Schedule)
-        return offerBySchedule();
+    if (m_origin == Origin::Schedule) {
+        offerBySchedule();
+        return;
+    }
     m_setup.delegate.willHandleShowingUpdate(true, choice.update(), state());
     showUpdate();
 }
@@ -157,12 +171,15 @@ void UpdateSession::choose(UpdateUserInterface::Choice choice)
     m_document.reset();
     switch (choice) {
     case UpdateUserInterface::Choice::Install:
-        return download();
+        download();
+        break;
     case UpdateUserInterface::Choice::Skip:
         m_handlers.skip(m_choice->item.version);
-        return finish();
+        finish();
+        break;
     case UpdateUserInterface::Choice::Later:
-        return finish();
+        finish();
+        break;
     }
 }
 
@@ -170,8 +187,10 @@ void UpdateSession::download()
 {
     beginStep();
     const auto path = m_setup.installer.packagePath();
-    if (!path)
-        return fail(path.error());
+    if (!path) {
+        fail(path.error());
+        return;
+    }
     m_setup.userInterface.showDownload(m_choice->update(), inThisStep([this] { finish(); }));
     const FeedItem::Package &package = m_choice->package;
     m_package = std::make_unique<PackageDownload>(
@@ -199,8 +218,10 @@ void UpdateSession::install()
 {
     m_package.reset();
     beginStep();
-    if (const auto error = m_setup.installer.install())
-        return fail(*error);
+    if (const auto error = m_setup.installer.install()) {
+        fail(*error);
+        return;
+    }
     finish();
 }
 
@@ -210,8 +231,10 @@ void UpdateSession::fail(const UpdateError &error)
     m_package.reset();
     beginStep();
     // Nobody asked, so nobody is bothered; the next check tries again.
-    if (m_sight == Sight::Nothing)
-        return finish();
+    if (m_sight == Sight::Nothing) {
+        finish();
+        return;
+    }
     m_setup.userInterface.showError(error, inThisStep([this] { finish(); }));
 }
 

@@ -94,7 +94,11 @@ std::weak_ordering compareNumbers(QStringView left, QStringView right)
 std::weak_ordering compareParts(const Part &left, const Part &right)
 {
     // From old to new, what may stand in one place.
-    const auto rank = [](Kind kind) { return kind == Kind::Word ? 0 : kind == Kind::Number ? 2 : 1; };
+    const auto rank = [](Kind kind) {
+        if (kind == Kind::Word)
+            return 0;
+        return kind == Kind::Number ? 2 : 1;
+    };
     if (const std::weak_ordering order = rank(left.kind) <=> rank(right.kind); order != 0)
         return order;
     switch (left.kind) {
