@@ -84,8 +84,6 @@ void UpdateDialog::reject()
 
 QPushButton *UpdateDialog::addButton(const QString &name, const QString &text, Role role, Answer answer)
 {
-    if (m_buttons->isEmpty())
-        m_buttons->addStretch();
     auto *button = new QPushButton(text);
     button->setObjectName(name);
     button->setAccessibleName(text);
@@ -104,7 +102,7 @@ void UpdateDialog::addButtonSpace()
     m_buttons->addStretch();
 }
 
-void UpdateDialog::give(Answer answer)
+void UpdateDialog::give(const Answer &answer)
 {
     if (std::exchange(m_isAnswered, true))
         return;
@@ -120,6 +118,7 @@ UpdateMessageDialog::UpdateMessageDialog(const QString &name, const QString &hea
 {
     setHeading(heading);
     setText(text);
+    addButtonSpace();
     addButton(u"updateOk"_s, tr("OK"), Role::Default, read);
 }
 

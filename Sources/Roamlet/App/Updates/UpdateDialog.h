@@ -41,11 +41,11 @@ protected:
     /// Where the contents of a kind of window go.
     QVBoxLayout &contents() { return *m_contents; }
     QPushButton *addButton(const QString &name, const QString &text, Role role, Answer answer);
-    /// Buttons that are added from now on stand at the other end.
+    /// Buttons that are added from now on stand at the far end of the window.
     void addButtonSpace();
 
 private:
-    void give(Answer answer);
+    void give(const Answer &answer);
 
     bool m_isAnswered = false;
     Answer m_closed;

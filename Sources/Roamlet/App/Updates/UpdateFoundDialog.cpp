@@ -57,7 +57,7 @@ void UpdateFoundDialog::showNotes(const ReleaseNotes &notes)
     m_notes->show(notes);
     m_notes->setVisible(true);
     constexpr QSize sizeWithNotes(560, 420);
-    resize(size().expandedTo(sizeWithNotes));
+    resize(isVisible() ? size().expandedTo(sizeWithNotes) : sizeWithNotes);
 }
 
 } // namespace roamlet

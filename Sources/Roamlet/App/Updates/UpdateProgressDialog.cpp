@@ -32,6 +32,7 @@ UpdateProgressDialog::UpdateProgressDialog(const QString &name, const QString &h
     m_bar->setTextVisible(false);
     contents().addWidget(m_bar);
     setProgress({}, {});
+    addButtonSpace();
     addButton(u"updateCancel"_s, tr("Cancel"), Role::Default, cancel);
 }
 

@@ -1,0 +1,99 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "App/Look/NoteLabel.h"
+
+#include <QWidget>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace roamlet::testing
+{
+namespace
+{
+
+using namespace Qt::StringLiterals;
+
+QPalette paletteOf(Qt::GlobalColor ground, Qt::GlobalColor text)
+{
+    QPalette palette;
+    palette.setColor(QPalette::Window, ground);
+    palette.setColor(QPalette::WindowText, text);
+    return palette;
+}
+
+/// The relative luminance of the guidelines for accessible contents.
+double luminance(const QColor &color)
+{
+    const auto linear = [](float channel) {
+        return channel <= 0.04045F ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+    };
+    return (0.2126 * linear(color.redF())) + (0.7152 * linear(color.greenF())) +
+           (0.0722 * linear(color.blueF()));
+}
+
+double contrast(const NoteLabel &label)
+{
+    const double text = luminance(label.palette().color(QPalette::WindowText));
+    const double ground = luminance(label.parentWidget()->palette().color(QPalette::Window));
+    return (std::max(text, ground) + 0.05) / (std::min(text, ground) + 0.05);
+}
+
+class NoteLabelTest : public ::testing::Test
+{
+protected:
+    QWidget window;
+    NoteLabel *label = new NoteLabel(&window);
+};
+
+TEST_F(NoteLabelTest, IsReadableAndQuieterThanTheTextInEveryTheme)
+{
+    for (const QPalette &palette : {paletteOf(Qt::white, Qt::black), paletteOf(Qt::black, Qt::white)}) {
+        window.setPalette(palette);
+        for (const NoteLabel::Tone tone : {NoteLabel::Tone::Secondary, NoteLabel::Tone::Problem}) {
+            label->setTone(tone);
+            EXPECT_GT(contrast(*label), 4.5);
+            EXPECT_LT(contrast(*label), 20);
+        }
+    }
+}
+
+TEST_F(NoteLabelTest, FollowsAThemeThatChanges)
+{
+    window.setPalette(paletteOf(Qt::white, Qt::black));
+    const QColor onLight = label->palette().color(QPalette::WindowText);
+    window.setPalette(paletteOf(Qt::black, Qt::white));
+    const QColor onDark = label->palette().color(QPalette::WindowText);
+    EXPECT_GT(onDark.lightness(), onLight.lightness());
+    window.setPalette(paletteOf(Qt::white, Qt::black));
+    EXPECT_EQ(label->palette().color(QPalette::WindowText), onLight);
+}
+
+TEST_F(NoteLabelTest, TakesTheColoursOfTheWindowThatItIsPutInto)
+{
+    window.setPalette(paletteOf(Qt::black, Qt::white));
+    auto *added = new NoteLabel;
+    added->setParent(&window);
+    EXPECT_EQ(added->palette().color(QPalette::WindowText), label->palette().color(QPalette::WindowText));
+}
+
+TEST_F(NoteLabelTest, AProblemIsRed)
+{
+    label->setTone(NoteLabel::Tone::Problem);
+    const QColor color = label->palette().color(QPalette::WindowText);
+    EXPECT_GT(color.red(), color.green() + 80);
+    EXPECT_GT(color.red(), color.blue() + 80);
+}
+
+TEST_F(NoteLabelTest, IsSmallerThanTheTextAndNoMarkup)
+{
+    EXPECT_LT(label->font().pointSizeF(), window.font().pointSizeF());
+    EXPECT_TRUE(label->wordWrap());
+    EXPECT_EQ(label->textFormat(), Qt::PlainText);
+}
+
+} // namespace
+} // namespace roamlet::testing

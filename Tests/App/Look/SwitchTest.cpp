@@ -1,0 +1,112 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "App/Look/Switch.h"
+
+#include "App/Look/SwitchRow.h"
+
+#include <QAccessible>
+#include <QImage>
+#include <QPainter>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace roamlet::testing
+{
+namespace
+{
+
+using namespace Qt::StringLiterals;
+
+QImage picture(const SwitchLook &look, const QPalette &palette)
+{
+    QImage image(36, 20, QImage::Format_ARGB32_Premultiplied);
+    image.fill(palette.color(QPalette::Window));
+    QPainter painter(&image);
+    look.paint(painter, QRectF(image.rect()), palette);
+    return image;
+}
+
+QPalette paletteOf(Qt::GlobalColor ground, Qt::GlobalColor text)
+{
+    QPalette palette;
+    palette.setColor(QPalette::Window, ground);
+    palette.setColor(QPalette::Base, ground);
+    palette.setColor(QPalette::WindowText, text);
+    return palette;
+}
+
+TEST(SwitchTest, MouseAndSpaceTurnIt)
+{
+    Switch toggle;
+    toggle.show();
+    const QSignalSpy turned(&toggle, &Switch::toggled);
+    QTest::mouseClick(&toggle, Qt::LeftButton);
+    EXPECT_TRUE(toggle.isChecked());
+    QTest::keyClick(&toggle, Qt::Key_Space);
+    EXPECT_FALSE(toggle.isChecked());
+    toggle.setEnabled(false);
+    QTest::mouseClick(&toggle, Qt::LeftButton);
+    EXPECT_FALSE(toggle.isChecked());
+    EXPECT_EQ(turned.count(), 2);
+}
+
+TEST(SwitchTest, IsACheckBoxForThoseWhoHearIt)
+{
+    Switch toggle;
+    QAccessibleInterface *heard = QAccessible::queryAccessibleInterface(&toggle);
+    ASSERT_NE(heard, nullptr);
+    EXPECT_EQ(heard->role(), QAccessible::CheckBox);
+    EXPECT_FALSE(heard->state().checked);
+    toggle.setChecked(true);
+    EXPECT_TRUE(heard->state().checked);
+}
+
+TEST(SwitchTest, EveryStateLooksDifferentInEveryTheme)
+{
+    const QList<SwitchLook> looks{{.isOn = false},
+                                  {.isOn = true},
+                                  {.isOn = false, .isEnabled = false},
+                                  {.isOn = true, .isEnabled = false},
+                                  {.isOn = false, .hasFocus = true},
+                                  {.isOn = true, .hasFocus = true}};
+    for (const QPalette &palette : {paletteOf(Qt::white, Qt::black), paletteOf(Qt::black, Qt::white)}) {
+        QList<QImage> pictures;
+        for (const SwitchLook &look : looks) {
+            const QImage drawn = picture(look, palette);
+            EXPECT_FALSE(pictures.contains(drawn)) << pictures.size();
+            pictures.append(drawn);
+        }
+    }
+}
+
+TEST(SwitchTest, TheKnobOfASwitchThatIsOnLiesWhereLinesEnd)
+{
+    const QPalette palette = paletteOf(Qt::white, Qt::black);
+    const QColor accent = palette.color(QPalette::Active, QPalette::Highlight);
+    const QImage leftToRight = picture({.isOn = true}, palette);
+    EXPECT_EQ(leftToRight.pixelColor(8, 10), accent);
+    EXPECT_NE(leftToRight.pixelColor(27, 10), accent);
+    const QImage rightToLeft = picture({.isOn = true, .direction = Qt::RightToLeft}, palette);
+    EXPECT_NE(rightToLeft.pixelColor(8, 10), accent);
+    EXPECT_EQ(rightToLeft.pixelColor(27, 10), accent);
+}
+
+TEST(SwitchTest, AClickOnTheLineTurnsItAndADragAwayDoesNot)
+{
+    SwitchRow row(u"Open at login"_s);
+    row.resize(300, 30);
+    row.show();
+    EXPECT_EQ(row.control().accessibleName(), u"Open at login"_s);
+    QTest::mouseClick(&row, Qt::LeftButton, {}, QPoint(20, 15));
+    EXPECT_TRUE(row.control().isChecked());
+    QTest::mousePress(&row, Qt::LeftButton, {}, QPoint(20, 15));
+    QTest::mouseRelease(&row, Qt::LeftButton, {}, QPoint(20, 100));
+    QTest::mouseClick(&row, Qt::RightButton, {}, QPoint(20, 15));
+    EXPECT_TRUE(row.control().isChecked());
+}
+
+} // namespace
+} // namespace roamlet::testing
