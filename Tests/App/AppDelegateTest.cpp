@@ -26,7 +26,8 @@ protected:
 
     MemoryUserDefaults defaults;
     FakeActivationPolicy activation;
-    AppDelegate delegate{defaults, activation};
+    bool hasMenuBarIcon = true;
+    AppDelegate delegate{defaults, activation, [this] { return hasMenuBarIcon; }};
     int opened = 0;
 };
 
@@ -89,6 +90,16 @@ TEST_F(AppDelegateTest, withoutTheMainWindowTheSettingDecides)
     EXPECT_FALSE(delegate.isMainWindowOpen());
     EXPECT_EQ(activation.current, Policy::Accessory);
     defaults.setBoolean(u"showDockIcon"_s, true);
+    delegate.mainWindowDidAppear();
+    delegate.mainWindowDidDisappear(false);
+    EXPECT_EQ(activation.current, Policy::Regular);
+}
+
+TEST_F(AppDelegateTest, withoutAMenuBarIconItsWindowsStayInTheTaskSwitcher)
+{
+    hasMenuBarIcon = false;
+    delegate.applicationDidFinishLaunching();
+    EXPECT_EQ(activation.current, Policy::Regular);
     delegate.mainWindowDidAppear();
     delegate.mainWindowDidDisappear(false);
     EXPECT_EQ(activation.current, Policy::Regular);

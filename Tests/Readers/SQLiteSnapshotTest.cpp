@@ -19,6 +19,7 @@
 #include <unistd.h>
 
 #include <array>
+#include <atomic>
 #include <numeric>
 #include <stop_token>
 #include <thread>
@@ -104,7 +105,8 @@ protected:
     }
 
     const QString source = home.path(u"data/History"_s);
-    int copies = 0;
+    /// Some tests read on several threads.
+    std::atomic<int> copies = 0;
 };
 
 /// The journal of a change that has changed nothing yet, and that shares its fate with the changes of other

@@ -15,8 +15,9 @@ namespace roamlet
 
 using namespace Qt::StringLiterals;
 
-AppDelegate::AppDelegate(const UserDefaults &defaults, ActivationPolicy &activation)
-    : m_defaults(defaults), m_activation(activation)
+AppDelegate::AppDelegate(const UserDefaults &defaults, ActivationPolicy &activation,
+                         std::function<bool()> hasMenuBarIcon)
+    : m_defaults(defaults), m_activation(activation), m_hasMenuBarIcon(std::move(hasMenuBarIcon))
 {
 }
 
@@ -54,8 +55,9 @@ void AppDelegate::mainWindowDidDisappear(bool otherWindowIsVisible)
 void AppDelegate::applyPolicy()
 {
     const bool showsDockIcon = m_defaults.boolean(u"showDockIcon"_s).value_or(false);
-    m_activation.setPolicy(m_isMainWindowOpen || showsDockIcon ? ActivationPolicy::Policy::Regular
-                                                               : ActivationPolicy::Policy::Accessory);
+    const bool isRegular = m_isMainWindowOpen || showsDockIcon || !m_hasMenuBarIcon();
+    m_activation.setPolicy(isRegular ? ActivationPolicy::Policy::Regular
+                                     : ActivationPolicy::Policy::Accessory);
 }
 
 } // namespace roamlet

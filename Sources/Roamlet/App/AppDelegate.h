@@ -18,7 +18,10 @@ class AppDelegate
 public:
     using OpenWindow = std::function<void()>;
 
-    AppDelegate(const UserDefaults &defaults, ActivationPolicy &activation);
+    /// `hasMenuBarIcon` says whether this desktop shows the program's icon at present. Without it the program
+    /// would have no place but its windows, so they stay in the task switcher.
+    AppDelegate(const UserDefaults &defaults, ActivationPolicy &activation,
+                std::function<bool()> hasMenuBarIcon);
     AppDelegate(const AppDelegate &) = delete;
     AppDelegate &operator=(const AppDelegate &) = delete;
 
@@ -44,6 +47,7 @@ private:
 
     const UserDefaults &m_defaults;
     ActivationPolicy &m_activation;
+    std::function<bool()> m_hasMenuBarIcon;
     OpenWindow m_openMainWindow;
     bool m_launchedAtLogin = false;
     bool m_isMainWindowOpen = false;

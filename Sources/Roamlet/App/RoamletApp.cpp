@@ -7,6 +7,10 @@
 #include "App/Export/MessageAlert.h"
 #include "App/Settings/LoginItem.h"
 #include "App/Settings/SettingsServices.h"
+#include "App/Updates/BundleInformation.h"
+#include "App/Updates/PlatformUpdateDriver.h"
+#include "App/Updates/UpdateWindows.h"
+#include "App/Updates/Updater.h"
 #include "Platform/ActivationPolicy.h"
 #include "Platform/Linux/AutostartLoginService.h"
 #include "Platform/Linux/DBusRunningInstance.h"
@@ -18,10 +22,13 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QDBusConnection>
-#include <QIcon>
+#include <QFile>
 #include <QLocale>
 
+#include <unistd.h>
+
 #include <algorithm>
+#include <optional>
 
 namespace roamlet
 {
@@ -54,7 +61,7 @@ bool hasVisibleWindow()
 
 RoamletApp::RoamletApp(const Services &services)
     : m_services(services),
-      m_delegate(services.platform.defaults, services.activation),
+      m_delegate(services.platform.defaults, services.activation, services.hasTray),
       m_library(services.platform),
       m_opener(services.workspace),
       m_mainWindow(
@@ -69,13 +76,35 @@ RoamletApp::RoamletApp(const Services &services)
            .delegate = m_delegate,
            .activation = services.activation,
            .savePanel = services.savePanel,
-           .alert = services.alert}),
+           .alert = services.alert,
+           .updater = services.updater}),
       m_settingsWindow({.library = m_library,
                         .defaults = services.platform.defaults,
                         .loginService = services.loginService,
                         .activation = services.activation,
-                        .isMainWindowOpen = [this] { return m_delegate.isMainWindowOpen(); }})
+                        .isMainWindowOpen = [this] { return m_delegate.isMainWindowOpen(); },
+                        .updater = &services.updater}),
+      m_menu({.library = m_library,
+              .opener = m_opener,
+              .activation = services.activation,
+              .openMainWindow = [this] { m_mainWindow.open(); },
+              .openSettings = [this] { m_settingsWindow.open(); },
+              .checkForUpdates = [this] { m_services.updater.checkForUpdates(); },
+              .quit = [] { QCoreApplication::quit(); }}),
+      m_icon({.library = m_library,
+              .delegate = m_delegate,
+              .activation = services.activation,
+              .openMainWindow = [this] { m_mainWindow.open(); }},
+             m_menu)
 {
+    m_menu.setUpdateIsWaiting(services.updater.updateIsWaiting());
+    QObject::connect(&services.updater, &Updater::updateIsWaitingChanged, &m_menu,
+                     &MenuBarMenu::setUpdateIsWaiting);
+    // Without a tray there is no way back to a program without windows.
+    QObject::connect(qApp, &QGuiApplication::lastWindowClosed, &m_mainWindow, [this] {
+        if (!m_services.hasTray())
+            QCoreApplication::quit();
+    });
     QObject::connect(&m_mainWindow, &MainWindow::settingsRequested, &m_settingsWindow, &SettingsWindow::open);
 }
 
@@ -87,7 +116,7 @@ void RoamletApp::start(bool isLaunchedAtLogin)
     LoginItem::setUpOnFirstLaunch(m_services.loginService, m_services.platform.defaults);
     m_delegate.applicationWillFinishLaunching(isLaunchedAtLogin);
     m_delegate.applicationDidFinishLaunching();
-    m_delegate.windowOpenerIsReady([this] { m_mainWindow.open(); });
+    m_icon.appear();
 }
 
 void RoamletApp::reopen()
@@ -96,6 +125,17 @@ void RoamletApp::reopen()
 }
 
 int RoamletApp::run(int argc, char **argv)
+{
+    std::optional<QString> successor;
+    const int status = runUntilTheEnd(argc, argv, successor);
+    if (successor) {
+        const QByteArray path = QFile::encodeName(*successor);
+        execl(path.constData(), path.constData(), nullptr);
+    }
+    return status;
+}
+
+int RoamletApp::runUntilTheEnd(int argc, char **argv, std::optional<QString> &successor)
 {
     // Before any other thread: each of them leaves the signals to this one.
     StopSignals signals;
@@ -125,6 +165,14 @@ int RoamletApp::run(int argc, char **argv)
                              pasteNotice());
     FileSavePanel savePanel(services.folders.home());
     MessageAlert alert;
+    const BundleInformation information = BundleInformation::ofThisProgram();
+    UpdateWindows updateWindows(information.version,
+                                [&workspace](const QString &url) { workspace.openSystemURL(url); });
+    Updater updater(information, platformUpdateDriver(information, services, updateWindows,
+                                                      [&successor](const QString &path) {
+                                                          successor = path;
+                                                          QCoreApplication::quit();
+                                                      }));
     int status = 0;
     {
         RoamletApp app({.platform = services,
@@ -132,7 +180,9 @@ int RoamletApp::run(int argc, char **argv)
                         .loginService = loginService,
                         .workspace = workspace,
                         .savePanel = savePanel,
-                        .alert = alert});
+                        .alert = alert,
+                        .updater = updater,
+                        .hasTray = MenuBarIcon::isAvailable});
         running = &app;
         app.start(
             QCoreApplication::arguments().contains(QLatin1StringView(AutostartLoginService::launchMarker)));

@@ -4,19 +4,22 @@
 #pragma once
 
 #include "App/AppDelegate.h"
+#include "App/Menu/MenuBarIcon.h"
+#include "App/Menu/MenuBarMenu.h"
 #include "App/Settings/SettingsWindow.h"
 #include "App/Window/MainWindow.h"
 #include "Library/Library.h"
 #include "Opening/Opener.h"
 #include "Platform/Platform.h"
 
-#include <memory>
+#include <functional>
+#include <optional>
 
 namespace roamlet
 {
 
 class LoginService;
-class RunningInstance;
+class Updater;
 class Workspace;
 
 /// The program with its windows: the one library, and the scenes that show it.
@@ -31,6 +34,9 @@ public:
         Workspace &workspace;
         SavePanel &savePanel;
         Alert &alert;
+        Updater &updater;
+        /// Whether this desktop has a tray at present.
+        std::function<bool()> hasTray;
     };
 
     explicit RoamletApp(const Services &services);
@@ -46,17 +52,23 @@ public:
     Library &library() { return m_library; }
     MainWindow &mainWindow() { return m_mainWindow; }
     SettingsWindow &settingsWindow() { return m_settingsWindow; }
+    MenuBarMenu &menu() { return m_menu; }
 
     /// Runs the program until the user quits, and returns the process's status.
     static int run(int argc, char **argv);
 
 private:
+    /// `successor` is the program that is to take this one's place.
+    static int runUntilTheEnd(int argc, char **argv, std::optional<QString> &successor);
+
     Services m_services;
     AppDelegate m_delegate;
     Library m_library;
     Opener m_opener;
     MainWindow m_mainWindow;
     SettingsWindow m_settingsWindow;
+    MenuBarMenu m_menu;
+    MenuBarIcon m_icon;
 };
 
 } // namespace roamlet

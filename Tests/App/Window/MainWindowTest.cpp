@@ -6,10 +6,13 @@
 #include "App/AppDelegate.h"
 #include "App/Export/FakeAlert.h"
 #include "App/Export/FakeSavePanel.h"
+#include "App/Updates/BundleInformation.h"
+#include "App/Updates/Updater.h"
 #include "App/Window/ContentView.h"
 #include "App/Window/Sidebar.h"
 #include "App/Window/WindowTest.h"
 #include "Support/FakeActivationPolicy.h"
+#include "Support/FakeUpdateDriver.h"
 #include "Support/Waiting.h"
 
 #include <QAction>
@@ -35,13 +38,15 @@ protected:
                                                                  .delegate = delegate,
                                                                  .activation = activation,
                                                                  .savePanel = savePanel,
-                                                                 .alert = alert});
+                                                                 .alert = alert,
+                                                                 .updater = updater});
     }
 
     FakeActivationPolicy activation;
-    AppDelegate delegate{home.defaults, activation};
+    AppDelegate delegate{home.defaults, activation, [] { return true; }};
     FakeSavePanel savePanel;
     FakeAlert alert;
+    Updater updater{BundleInformation(), std::make_unique<FakeUpdateDriver>()};
 };
 
 TEST_F(MainWindowTest, openingItIsAnAppearanceAndClosingItADisappearance)

@@ -4,6 +4,7 @@
 #include "App/Window/MainWindow.h"
 
 #include "App/AppDelegate.h"
+#include "App/Updates/Updater.h"
 #include "App/Window/ContentView.h"
 #include "Library/Library.h"
 #include "Platform/ActivationPolicy.h"
@@ -89,6 +90,14 @@ void MainWindow::buildMenus()
     view->addMenu(m_content->groupingMenu());
 
     QMenu *help = menuBar()->addMenu(u"&Help"_s);
+    if (m_services.updater.isAvailable()) {
+        QAction *check = help->addAction(u"Check for Updates…"_s, this, [this] {
+            m_services.activation.bringToFront();
+            m_services.updater.checkForUpdates();
+        });
+        check->setObjectName(u"checkForUpdatesCommand"_s);
+        check->setMenuRole(QAction::ApplicationSpecificRole);
+    }
     QAction *about = help->addAction(u"About Roamlet"_s, this, [this] {
         QMessageBox::about(this, u"About Roamlet"_s,
                            u"<h3>Roamlet " ROAMLET_VERSION

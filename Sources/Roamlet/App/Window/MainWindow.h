@@ -17,6 +17,7 @@ class Alert;
 class AppDelegate;
 class ContentView;
 class SavePanel;
+class Updater;
 
 /// The main window: the content, the menus above it, and the place on the screen that it had last time.
 class MainWindow final : public QMainWindow
@@ -30,6 +31,7 @@ public:
         ActivationPolicy &activation;
         SavePanel &savePanel;
         Alert &alert;
+        Updater &updater;
     };
 
     explicit MainWindow(const Services &services);
