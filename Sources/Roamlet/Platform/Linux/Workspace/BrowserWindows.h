@@ -21,6 +21,8 @@ public:
         std::uint64_t id = 0;
         QString title;
         bool isActive = false; ///< it gets what is typed
+
+        bool operator==(const Window &) const = default;
     };
 
     BrowserWindows() = default;
