@@ -10,16 +10,18 @@ cmake --build --preset release --target roamlet roamlet-sample-home
 roamlet=$PWD/build/release/roamlet
 
 summary=$("$roamlet" --summary 2>/dev/null)
-if [ "$(wc -l <<<"$summary")" -gt 1 ]; then
-  echo "$summary"
-  echo
-  echo "Try: build/release/roamlet --search WORD, or --help."
-  exit
+prefix=
+if [ "$(wc -l <<<"$summary")" -le 1 ]; then
+  home=$PWD/build/sample-home
+  [ -d "$home" ] || build/release/roamlet-sample-home --layout mac "$home"
+  echo "There is no browser data here; this is a sample home in build/sample-home."
+  export HOME=$home XDG_CONFIG_HOME=$home/.config
+  prefix="HOME=\$PWD/build/sample-home "
 fi
 
-home=$PWD/build/sample-home
-[ -d "$home" ] || build/release/roamlet-sample-home --layout mac "$home"
-echo "There is no browser data here; this is a sample home in build/sample-home."
-HOME=$home XDG_CONFIG_HOME=$home/.config "$roamlet" --summary
+if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
+  exec "$roamlet"
+fi
+"$roamlet" --summary
 echo
-echo "Try: HOME=\$PWD/build/sample-home build/release/roamlet --search WORD, or --help."
+echo "There is no display for the window. Try: ${prefix}build/release/roamlet --search WORD, or --help."

@@ -67,6 +67,15 @@ new_house
 put Sources/Roamlet/Library/File.cpp '#include <QtWidgets/QWidget>'
 expect broken "a widget in the core, by its long name"
 new_house
+put Sources/Roamlet/Library/File.cpp '#include <QWindow>'
+expect broken "a window of the window system in the core"
+new_house
+put Sources/Roamlet/Platform/Linux/File.cpp '#include <QWindow>'
+expect kept "a window of the window system where the system is met"
+new_house
+put Sources/Roamlet/Platform/Linux/File.cpp '#include <QMenu>'
+expect broken "a widget where the system is met"
+new_house
 put Sources/Roamlet/Library/File.cpp '#include <QPushButton>'
 expect broken "a button in the core"
 new_house

@@ -5,6 +5,7 @@
 
 #include "App/Export/FileSavePanel.h"
 #include "App/Export/MessageAlert.h"
+#include "App/Look/Symbol.h"
 #include "App/Settings/LoginItem.h"
 #include "App/Settings/SettingsServices.h"
 #include "App/Updates/BundleInformation.h"
@@ -143,6 +144,7 @@ int RoamletApp::runUntilTheEnd(int argc, char **argv, std::optional<QString> &su
     QApplication::setApplicationDisplayName(u"Roamlet"_s);
     QApplication::setApplicationVersion(u"" ROAMLET_VERSION ""_s);
     QApplication::setDesktopFileName(u"org.roamlet.Roamlet"_s);
+    QApplication::setWindowIcon(applicationIcon());
     QApplication::setQuitOnLastWindowClosed(false);
     const std::stop_callback quit(signals.token(), [] {
         QMetaObject::invokeMethod(QCoreApplication::instance(), &QCoreApplication::quit,

@@ -1,0 +1,195 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "App/Export/ExportPanel.h"
+#include "App/Export/FakeAlert.h"
+#include "App/Export/FakeSavePanel.h"
+#include "App/RoamletApp.h"
+#include "App/Tables/LinkTable.h"
+#include "App/Updates/BundleInformation.h"
+#include "App/Updates/Updater.h"
+#include "App/Window/ContentView.h"
+#include "Support/FakeActivationPolicy.h"
+#include "Support/FakeLoginService.h"
+#include "Support/FakeUpdateDriver.h"
+#include "Support/FakeWorkspace.h"
+#include "Support/LibraryHome.h"
+#include "Support/Waiting.h"
+
+#include <QFile>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+#include <QTest>
+#include <QTreeView>
+
+#include <gmock/gmock.h>
+
+namespace roamlet::testing
+{
+
+using namespace Qt::StringLiterals;
+
+/// The whole program, with everything of the desktop's replaced, over a home with browsers.
+class WholeStoryTest : public LibraryHome
+{
+protected:
+    void SetUp() override
+    {
+        addChromium();
+        addSafari();
+        app = std::make_unique<RoamletApp>(RoamletApp::Services{.platform = home.platform(),
+                                                                .activation = activation,
+                                                                .loginService = loginService,
+                                                                .workspace = workspace,
+                                                                .savePanel = savePanel,
+                                                                .alert = alert,
+                                                                .updater = updater,
+                                                                .hasTray = [] { return true; }});
+    }
+    void TearDown() override
+    {
+        app.reset();
+        LibraryHome::TearDown();
+    }
+
+    /// The titles of the shown history.
+    QStringList shownTitles() const
+    {
+        for (const QTreeView *view : app->mainWindow().findChildren<QTreeView *>(u"historyTable"_s)) {
+            if (!view->isVisible())
+                continue;
+            QStringList result;
+            for (int row = 0; row < view->model()->rowCount(); ++row)
+                result.append(view->model()->index(row, 0).data().toString());
+            return result;
+        }
+        return {};
+    }
+    QStringList recentTitles()
+    {
+        QStringList result;
+        for (const QAction *action : app->menu().actions()) {
+            if (action->menu() == nullptr)
+                continue;
+            for (const QAction *recent : action->menu()->actions())
+                result.append(recent->text());
+        }
+        return result;
+    }
+    /// Lets time pass until something holds.
+    ::testing::AssertionResult eventually(const std::function<bool()> &condition)
+    {
+        const bool held = waitUntil([&] {
+            home.clock.advance(std::chrono::milliseconds(500));
+            return condition();
+        });
+        return held ? ::testing::AssertionSuccess() : ::testing::AssertionFailure();
+    }
+
+    FakeActivationPolicy activation;
+    FakeLoginService loginService;
+    FakeWorkspace workspace;
+    FakeSavePanel savePanel;
+    FakeAlert alert;
+    Updater updater{BundleInformation(), std::make_unique<FakeUpdateDriver>()};
+    std::unique_ptr<RoamletApp> app;
+};
+
+TEST_F(WholeStoryTest, aPageIsVisitedSearchedNarrowedToItsSiteOpenedAndTheBookmarksExported)
+{
+    app->start(false);
+    MainWindow &window = app->mainWindow();
+    EXPECT_TRUE(window.isVisible());
+    ASSERT_TRUE(eventually([this] { return shownTitles().size() == 5; }));
+    EXPECT_EQ(shownTitles().first(), u"b1");
+
+    // The browser writes a new page.
+    setChromeHistory(u"Default"_s, {u"Fresh"_s, u"a1"_s, u"a2"_s}, newest + 1000);
+    home.fileEvents.report({chromeFile(u"Default/History"_s)});
+    ASSERT_TRUE(eventually([this] { return shownTitles().size() == 6; }));
+    EXPECT_EQ(shownTitles().first(), u"Fresh");
+    EXPECT_THAT(recentTitles(), ::testing::Contains(u"Fresh"_s));
+
+    // It is searched for.
+    auto *field = window.findChild<QLineEdit *>(u"searchField"_s);
+    ASSERT_NE(field, nullptr);
+    QTest::keyClicks(field, u"fresh"_s);
+    ASSERT_TRUE(eventually([this] { return shownTitles() == QStringList{u"Fresh"_s}; }));
+    QTest::keyClick(field, Qt::Key_Escape);
+    ASSERT_TRUE(eventually([this] { return shownTitles().size() == 6; }));
+
+    // The list is narrowed to its site.
+    window.content()->setSite(u"fresh.example"_s);
+    ASSERT_TRUE(eventually([this] { return shownTitles() == QStringList{u"Fresh"_s}; }));
+
+    // It is opened in its own profile.
+    for (QTreeView *view : window.findChildren<QTreeView *>(u"historyTable"_s)) {
+        if (!view->isVisible())
+            continue;
+        view->setCurrentIndex(view->model()->index(0, 0));
+        QTest::keyClick(view, Qt::Key_Return);
+    }
+    EXPECT_EQ(workspace.requests, QList<QStringList>({{u"profile"_s, u"com.google.Chrome"_s, u"Default"_s,
+                                                       u"https://Fresh.example/"_s}}));
+
+    // And the bookmarks go into a file.
+    const QTemporaryDir target;
+    savePanel.chosenPath = target.filePath(u"Bookmarks.html"_s);
+    window.findChild<QAction *>(u"exportCommand"_s)->trigger();
+    auto *sheet = window.findChild<ExportPanel *>();
+    ASSERT_NE(sheet, nullptr);
+    QTest::keyClick(sheet, Qt::Key_Return);
+    ASSERT_TRUE(eventually([sheet] { return !sheet->isVisible(); }));
+    QFile file(*savePanel.chosenPath);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray exported = file.readAll();
+    EXPECT_TRUE(exported.contains("https://mark.example/"));
+    EXPECT_TRUE(exported.contains("https://smark.example/"));
+    EXPECT_EQ(alert.problems, QStringList());
+}
+
+TEST_F(WholeStoryTest, launchedAtLoginItWaitsInTheTrayUntilItIsStartedAgain)
+{
+    app->start(true);
+    EXPECT_FALSE(app->mainWindow().isVisible());
+    EXPECT_EQ(activation.current, ActivationPolicy::Policy::Accessory);
+    ASSERT_TRUE(eventually([this] { return app->library().lastLoaded().has_value(); }));
+    EXPECT_FALSE(app->mainWindow().isVisible());
+    app->reopen();
+    EXPECT_TRUE(app->mainWindow().isVisible());
+    EXPECT_EQ(activation.current, ActivationPolicy::Policy::Regular);
+    app->mainWindow().close();
+    EXPECT_EQ(activation.current, ActivationPolicy::Policy::Accessory);
+}
+
+TEST_F(WholeStoryTest, safariBecomingBlockedBringsTheWindowForward)
+{
+    app->start(true);
+    ASSERT_TRUE(eventually([this] { return app->library().lastLoaded().has_value(); }));
+    EXPECT_FALSE(app->mainWindow().isVisible());
+    fail(safariFile(u"History.db"_s), std::errc::operation_not_permitted);
+    app->library().load({});
+    ASSERT_TRUE(eventually([this] { return app->mainWindow().isVisible(); }));
+    EXPECT_TRUE(app->mainWindow().findChild<QWidget *>(u"fullDiskAccessBanner"_s)->isVisible());
+}
+
+TEST_F(WholeStoryTest, aProfileSwitchedOffWhileItIsShownVanishesFromTheSidebarAndTheList)
+{
+    app->start(false);
+    ASSERT_TRUE(eventually([this] { return shownTitles().size() == 5; }));
+    app->library().setEnabled(false, *app->library().source(u"chrome/Default"_s));
+    ASSERT_TRUE(eventually([this] { return shownTitles().size() == 3; }));
+    EXPECT_THAT(shownTitles(), ::testing::Not(::testing::Contains(u"a1"_s)));
+}
+
+TEST_F(WholeStoryTest, theSettingsOpenFromTheMenuAndFromTheWindow)
+{
+    app->start(false);
+    app->mainWindow().findChild<QAction *>(u"settingsCommand"_s)->trigger();
+    EXPECT_TRUE(app->settingsWindow().isVisible());
+    app->settingsWindow().close();
+    EXPECT_FALSE(app->settingsWindow().isVisible());
+}
+
+} // namespace roamlet::testing
