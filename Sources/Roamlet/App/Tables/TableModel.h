@@ -45,7 +45,9 @@ public:
     const SharedRowTree &tree() const { return m_tree; }
     const QList<TableColumn> &columns() const { return m_columns; }
     /// The row at a valid index.
-    const TableRow &rowAt(const QModelIndex &index) const { return m_tree->row(index.internalId()); }
+    const TableRow &rowAt(const QModelIndex &index) const { return m_tree->row(numberOf(index)); }
+    /// The number of the row at an index; the root's for an invalid one.
+    static RowTree::Number numberOf(const QModelIndex &index);
     QModelIndex indexOf(RowTree::Number number, int column = 0) const;
 
     QModelIndex index(int row, int column, const QModelIndex &parent = {}) const override;
@@ -59,7 +61,6 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
 
 private:
-    RowTree::Number numberOf(const QModelIndex &index) const;
     QString text(const TableRow &row, TableColumn::Content content) const;
     QString accessibleText(const RowTree::Node &node, TableColumn::Content content) const;
     QString toolTip(const TableRow &row, TableColumn::Content content) const;

@@ -78,7 +78,7 @@ void TableView::noteToggled(const QModelIndex &index, bool isNowOpen)
 {
     if (m_isRestoring)
         return;
-    const RowTree::Node &node = m_model.tree()->node(index.internalId());
+    const RowTree::Node &node = m_model.tree()->node(TableModel::numberOf(index));
     if (isOpen(node) == isNowOpen)
         return;
     if (!m_toggled.remove(node.row.id))
@@ -110,17 +110,17 @@ QList<TableRow> TableView::selectedRows() const
     std::unordered_set<RowTree::Number> selected;
     for (const QItemSelectionRange &range : selectionModel()->selection()) {
         for (int row = range.top(); row <= range.bottom(); ++row)
-            selected.insert(m_model.index(row, 0, range.parent()).internalId());
+            selected.insert(TableModel::numberOf(m_model.index(row, 0, range.parent())));
     }
     QList<TableRow> rows;
     rows.reserve(static_cast<qsizetype>(selected.size()));
     // Numbers go level by level; people read from top to bottom.
     const RowTree &tree = *m_model.tree();
     std::vector<RowTree::Number> open{RowTree::root};
-    while (!open.empty() && static_cast<std::size_t>(rows.size()) < selected.size()) {
+    while (!open.empty() && !selected.empty()) {
         const RowTree::Number number = open.back();
         open.pop_back();
-        if (selected.contains(number))
+        if (selected.erase(number) > 0 && tree.row(number).kind != Kind::Section)
             rows.append(tree.row(number));
         const RowTree::Node &node = tree.node(number);
         for (int child = node.childCount - 1; child >= 0; --child)
