@@ -1,15 +1,16 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Installs what is missing for each of the purposes named: build, test, lint, bench, packaging.
+# Installs what is missing for each of the purposes named: build, test, lint, bench, pictures, packaging.
 set -euo pipefail
 
 build=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-svg-dev libsqlite3-dev libicu-dev libplist-dev libsodium-dev nlohmann-json3-dev
   libglib2.0-dev libx11-dev libxdo-dev tzdata)
 test=(libgtest-dev libgmock-dev sqlite3 dbus-daemon desktop-file-utils appstream groff-base)
 # Without these the tests that need them say that they were skipped.
-optional_test=(chromium xvfb openbox)
+optional_test=(chromium openssl xvfb openbox)
 lint=(git clang-format-19 clang-tidy-19)
 packaging=(dpkg-dev file)
+pictures=(xvfb openbox trayer xdotool imagemagick dbus-daemon procps qt6-gtk-platformtheme fonts-dejavu fonts-noto-cjk)
 bench=(libbenchmark-dev hyperfine sqlite3 time)
 
 is_installed() { [ "$(dpkg-query -W -f '${db:Status-Status}' "$1" 2>/dev/null)" = installed ]; }
@@ -35,7 +36,7 @@ install_missing() {
 
 for purpose in "$@"; do
   case "$purpose" in
-    build | test | lint | bench | packaging)
+    build | test | lint | bench | pictures | packaging)
       declare -n packages="$purpose"
       install_missing "${packages[@]}"
       ;;
