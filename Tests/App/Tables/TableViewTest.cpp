@@ -256,6 +256,20 @@ TEST_F(TableViewTest, AnotherOrderBeginsAtTheTop)
     EXPECT_EQ(table.view().verticalScrollBar()->value(), 0);
 }
 
+TEST_F(TableViewTest, AllLinksOfAllSectionsAreSelectedWithoutTheirHeadings)
+{
+    show(table, {.grouping = Grouping::Day});
+    press(table, Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(selectedTitles(table), (QStringList{u"e1"_s, u"a"_s, u"b"_s, u"c"_s, u"w"_s}));
+}
+
+TEST_F(TableViewTest, EveryRowHasRoomForItsIcon)
+{
+    show(table, {.grouping = Grouping::Day});
+    EXPECT_GT(table.view().visualRect(find(table, u"Today"_s)).height(), RowIcons::side);
+    EXPECT_GT(table.view().visualRect(find(table, u"a"_s)).height(), RowIcons::side);
+}
+
 TEST_F(TableViewTest, AReloadThatBringsNothingNewChangesNothing)
 {
     show(table);

@@ -103,6 +103,12 @@ void TableHeader::setColumnShown(int column, bool isShown)
     Q_EMIT columnLayoutEdited();
 }
 
+QSize TableHeader::sizeHint() const
+{
+    constexpr int air = 6;
+    return QHeaderView::sizeHint() + QSize(0, air);
+}
+
 int TableHeader::suitableWidth(int column) const
 {
     return m_model.columns()[column].width * fontMetrics().horizontalAdvance(u'0');

@@ -30,6 +30,8 @@ public:
     ColumnLayout columnLayout() const;
     void setColumnShown(int column, bool isShown);
 
+    QSize sizeHint() const override;
+
 Q_SIGNALS:
     /// The user has moved, resized, hidden or shown a column.
     void columnLayoutEdited();

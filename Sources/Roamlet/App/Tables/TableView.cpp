@@ -3,6 +3,7 @@
 
 #include "App/Tables/TableView.h"
 
+#include "App/Tables/RowIcons.h"
 #include "App/Tables/TableHeader.h"
 #include "App/Tables/TableModel.h"
 
@@ -13,6 +14,7 @@
 #include <QPainter>
 #include <QScrollBar>
 #include <QStyleOption>
+#include <QStyledItemDelegate>
 
 #include <algorithm>
 #include <unordered_set>
@@ -21,6 +23,26 @@ namespace roamlet
 {
 
 using Kind = TableRow::Kind;
+
+namespace
+{
+
+/// Gives every row room for an icon and some air, whether it has an icon or not: the first row decides about
+/// the height of all.
+class RowDelegate final : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        constexpr int air = 8;
+        const QSize size = QStyledItemDelegate::sizeHint(option, index);
+        return {size.width(), std::max(option.fontMetrics.height(), RowIcons::side) + air};
+    }
+};
+
+} // namespace
 
 TableView::TableView(TableModel &model, Shape shape, QWidget *parent)
     : QTreeView(parent),
@@ -33,6 +55,8 @@ TableView::TableView(TableModel &model, Shape shape, QWidget *parent)
     // A view takes these away from a header that does not sort the model itself.
     m_header.setSectionsClickable(true);
     m_header.setSortIndicatorShown(true);
+    setItemDelegate(new RowDelegate(this));
+    setIconSize({RowIcons::side, RowIcons::side});
     setUniformRowHeights(true);
     setAlternatingRowColors(true);
     setAllColumnsShowFocus(true);
@@ -266,7 +290,7 @@ void TableView::drawSection(QPainter *painter, const QStyleOptionViewItem &optio
     rest.setLeft(rest.left() + arrow + margin);
 
     if (const QIcon icon = index.data(Qt::DecorationRole).value<QIcon>(); !icon.isNull()) {
-        const int side = row.decorationSize.height();
+        const int side = RowIcons::side;
         icon.paint(painter, mirrored(QRect(rest.left(), rest.top(), side, rest.height())));
         rest.setLeft(rest.left() + side + 2 * margin);
     }
