@@ -270,6 +270,28 @@ TEST_F(TableViewTest, EveryRowHasRoomForItsIcon)
     EXPECT_GT(table.view().visualRect(find(table, u"a"_s)).height(), RowIcons::side);
 }
 
+TEST_F(TableViewTest, OpeningEverythingBelowStopsBeforeTheStackEnds)
+{
+    show(table);
+    BookmarkNode node;
+    node.url = u"https://deepest.example/"_s;
+    for (int depth = 0; depth < 200'000; ++depth) {
+        BookmarkNode folder;
+        folder.id = u"%1"_s.arg(depth);
+        folder.children = QList<BookmarkNode>{std::move(node)};
+        node = std::move(folder);
+    }
+    const Collation collation(u"en_US"_s);
+    table.view().showTree(std::make_shared<RowTree>(*RowTree::ofBookmarks({node}, {}, collation)),
+                          TableView::Scrolling::ToTop);
+    press(table, Qt::Key_Home);
+    press(table, Qt::Key_Asterisk);
+    QModelIndex inner = table.view().model()->index(0, 0);
+    for (int depth = 0; depth < 50; ++depth)
+        inner = inner.model()->index(0, 0, inner);
+    EXPECT_TRUE(table.view().isExpanded(inner));
+}
+
 TEST_F(TableViewTest, AReloadThatBringsNothingNewChangesNothing)
 {
     show(table);

@@ -27,6 +27,9 @@ using Kind = TableRow::Kind;
 namespace
 {
 
+/// How many levels of folders one key opens.
+constexpr int deepestOpening = 100;
+
 /// Gives every row room for an icon and some air, whether it has an icon or not: the first row decides about
 /// the height of all.
 class RowDelegate final : public QStyledItemDelegate
@@ -362,6 +365,10 @@ void TableView::keyPressEvent(QKeyEvent *event)
         if (!isKind(current, Kind::Section))
             break;
         toggle(current);
+        return;
+    case Qt::Key_Asterisk:
+        // Qt lays out what is open by calling itself for each level, and foreign folders may be that deep.
+        expandRecursively(current, deepestOpening);
         return;
     default:
         break;
