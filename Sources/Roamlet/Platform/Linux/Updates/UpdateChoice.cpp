@@ -3,6 +3,7 @@
 
 #include "Platform/Linux/Updates/UpdateChoice.h"
 
+#include "Platform/Linux/Updates/AppImage.h"
 #include "Platform/Linux/Updates/Versions.h"
 
 #include <QSysInfo>
@@ -56,7 +57,7 @@ bool suits(const FeedItem &item, const UpdateHost &host)
 UpdateHost UpdateHost::ofThisProcess(const QString &version)
 {
     return {.version = version,
-            .kind = qEnvironmentVariableIsEmpty("APPIMAGE") ? PackageKind::Debian : PackageKind::AppImage,
+            .kind = ownAppImage().isEmpty() ? PackageKind::Debian : PackageKind::AppImage,
             .systemVersion = QSysInfo::kernelVersion(),
             .architecture = QSysInfo::currentCpuArchitecture()};
 }

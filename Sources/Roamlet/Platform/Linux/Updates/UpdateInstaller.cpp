@@ -4,6 +4,7 @@
 #include "Platform/Linux/Updates/UpdateInstaller.h"
 
 #include "Platform/Linux/LinuxIO.h"
+#include "Platform/Linux/Updates/AppImage.h"
 
 #include <QDir>
 #include <QFile>
@@ -32,7 +33,7 @@ UpdateError lastErrorAs(UpdateError::Code code)
 
 UpdateInstaller::Environment UpdateInstaller::Environment::ofThisProcess()
 {
-    return {.appImage = qEnvironmentVariable("APPIMAGE"),
+    return {.appImage = ownAppImage(),
             .packageFolder =
                 QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) % u"/Roamlet/Updates",
             .startProcess = {},
