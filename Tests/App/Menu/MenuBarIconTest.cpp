@@ -24,7 +24,7 @@ protected:
 
     Library library{home.platform()};
     FakeActivationPolicy activation;
-    AppDelegate delegate{home.defaults, activation};
+    AppDelegate delegate{home.defaults, activation, [] { return true; }};
     QMenu menu;
     int opened = 0;
     MenuBarIcon::Services services{library, delegate, activation, [this] {
