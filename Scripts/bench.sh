@@ -58,6 +58,7 @@ echo "Preparing the sample homes"
 home million --chrome 1 --edge 0 --rows 1000000 --bookmarks 1000 --icons 100
 home tenth --chrome 1 --edge 0 --rows 100000 --bookmarks 1000 --icons 100
 home profiles --chrome 4 --edge 4 --rows 100000 --bookmarks 1000 --icons 5000
+home four --chrome 2 --edge 2 --rows 1000 --bookmarks 100 --icons 100
 home ten --chrome 1 --edge 0 --rows 10 --bookmarks 10 --icons 1
 
 echo "Measuring; the load of the machine is $(cut -d' ' -f1-3 /proc/loadavg)"
@@ -90,6 +91,20 @@ row "--summary of 8 profiles of 100,000 rows (ms)" "cp, sqlite3, one after the o
 
 compare ten 41 "$roamlet --export html --source chrome/Default" "$bin/BenchmarkEmptyProgram"
 row "--export html of ten bookmarks, whole process (ms)" "an empty Qt Core program" "$ours" "$theirs" 2
+
+# Windows are measured on a screen of their own, with a tray.
+export DISPLAY=:93
+Xvfb $DISPLAY -screen 0 1280x900x24 >/dev/null 2>&1 &
+screen=$!
+until xdotool getdisplaygeometry >/dev/null 2>&1; do sleep 0.1; done
+trayer --edge top --align right >/dev/null 2>&1 &
+tray=$!
+compare four 15 "$bin/BenchmarkStartMainWindow" "$bin/BenchmarkEmptyWindow"
+row "start until the window has painted rows (ms)" "an empty window with an empty table" "$ours" "$theirs" 2
+kept() { HOME=$homes/four XDG_CONFIG_HOME=$homes/four/.config "$bin/$1" --memory 2>/dev/null; }
+row "memory when idle in the tray (kB)" "the same empty window with a tray icon" \
+  "$(kept BenchmarkStartMainWindow)" "$(kept BenchmarkEmptyWindow)" 1.5
+kill $tray $screen
 
 peak=$(HOME=$homes/million XDG_CONFIG_HOME=$homes/million/.config \
   /usr/bin/time -f %M "$roamlet" --search garden maps 2>&1 >/dev/null | tail -n 1)

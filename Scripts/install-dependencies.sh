@@ -11,7 +11,7 @@ optional_test=(chromium openssl xvfb openbox)
 lint=(git clang-format-19 clang-tidy-19)
 packaging=(dpkg-dev file)
 pictures=(xvfb openbox trayer xdotool imagemagick dbus-daemon procps qt6-gtk-platformtheme fonts-dejavu fonts-noto-cjk)
-bench=(libbenchmark-dev hyperfine sqlite3 time)
+bench=(libbenchmark-dev hyperfine sqlite3 time xvfb trayer xdotool)
 
 is_installed() { [ "$(dpkg-query -W -f '${db:Status-Status}' "$1" 2>/dev/null)" = installed ]; }
 

@@ -146,6 +146,9 @@ int RoamletApp::runUntilTheEnd(int argc, char **argv, std::optional<QString> &su
     QApplication::setDesktopFileName(u"org.roamlet.Roamlet"_s);
     QApplication::setWindowIcon(applicationIcon());
     QApplication::setQuitOnLastWindowClosed(false);
+    // Without a language, numbers have no groups and times no short form; the texts are English anyway.
+    if (QLocale().language() == QLocale::C)
+        QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
     const std::stop_callback quit(signals.token(), [] {
         QMetaObject::invokeMethod(QCoreApplication::instance(), &QCoreApplication::quit,
                                   Qt::QueuedConnection);
