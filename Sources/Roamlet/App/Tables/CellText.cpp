@@ -83,7 +83,7 @@ QString LocalText::briefDate(PointInTime time) const
     constexpr qint64 week = 7;
     const QDateTime shown = local(time);
     const qint64 daysAgo = shown.date().daysTo(m_today);
-    const QString timeOfDay = m_locale.toString(shown.time(), QLocale::ShortFormat);
+    QString timeOfDay = m_locale.toString(shown.time(), QLocale::ShortFormat);
     if (daysAgo == 0)
         return timeOfDay;
     if (daysAgo > 0 && daysAgo < week)

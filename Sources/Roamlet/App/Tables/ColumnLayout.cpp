@@ -31,7 +31,7 @@ std::optional<QStringList> strings(const QJsonValue &value)
     if (!value.isArray())
         return {};
     QStringList result;
-    for (const QJsonValue &element : value.toArray()) {
+    for (const auto &element : value.toArray()) {
         if (!element.isString())
             return {};
         result.append(element.toString());

@@ -20,12 +20,15 @@ namespace roamlet
 
 /// What a table is asked to show.
 struct TableInputs {
+    // The compiler wants them from whoever names only some of the members.
+    // NOLINTBEGIN(readability-redundant-member-init)
     /// Absent for all sources.
     std::optional<QString> sourceID = {};
     /// As typed.
     QString search = {};
     /// Absent for all sites.
     std::optional<QString> site = {};
+    // NOLINTEND(readability-redundant-member-init)
     Grouping grouping = Grouping::None;
 
     bool operator==(const TableInputs &) const = default;

@@ -171,7 +171,7 @@ QString TableModel::text(const TableRow &row, TableColumn::Content content) cons
 
 QString TableModel::accessibleText(const RowTree::Node &node, TableColumn::Content content) const
 {
-    const QString shown = text(node.row, content);
+    QString shown = text(node.row, content);
     if (content != TableColumn::Content::Title || node.row.kind == TableRow::Kind::Link)
         return shown;
     const QString count = m_localText.number(node.childCount);
