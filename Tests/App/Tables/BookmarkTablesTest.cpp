@@ -38,7 +38,7 @@ protected:
         loadNow(*library);
     }
 
-    static constexpr qint64 day = 24 * 3600;
+    static constexpr qint64 day = qint64{24} * 3600;
 
     static QJsonObject mark(const QString &id, const QString &title, const QString &url, qint64 added)
     {

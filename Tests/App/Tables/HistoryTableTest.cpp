@@ -255,7 +255,7 @@ TEST_F(HistoryTableTest, TheMenuOfTheHeaderSortsToo)
     show(table);
     QTest::keyClick(table.view().header(), Qt::Key_Space);
     awaitList(table, [&] {
-        QMenu *orders = table.findChild<QMenu *>(u"columnMenu"_s)->findChild<QMenu *>();
+        auto *orders = table.findChild<QMenu *>(u"columnMenu"_s)->findChild<QMenu *>();
         orders->actions().value(HistoryTable::Title)->trigger();
     });
     EXPECT_EQ(titles(table), "e1 monday old today work yesterday");
@@ -297,7 +297,6 @@ TEST_F(HistoryTableTest, TheNextDayIsNoticedWhenTheWindowIsUsedAgain)
 
 TEST_F(HistoryTableTest, AnEmptyListSaysWhy)
 {
-    Library fresh(home.platform());
     HistoryTable table(services(), Mode::Recent);
     show(table, {.sourceID = u"edge/Default"_s});
     EXPECT_EQ(table.view().emptyText(), u"");

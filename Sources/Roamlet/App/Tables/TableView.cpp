@@ -292,7 +292,7 @@ void TableView::drawSection(QPainter *painter, const QStyleOptionViewItem &optio
     style()->drawPrimitive(QStyle::PE_IndicatorBranch, &branch, painter, this);
     rest.setLeft(rest.left() + arrow + margin);
 
-    if (const QIcon icon = index.data(Qt::DecorationRole).value<QIcon>(); !icon.isNull()) {
+    if (const auto icon = index.data(Qt::DecorationRole).value<QIcon>(); !icon.isNull()) {
         const int side = RowIcons::side;
         icon.paint(painter, mirrored(QRect(rest.left(), rest.top(), side, rest.height())));
         rest.setLeft(rest.left() + side + 2 * margin);
