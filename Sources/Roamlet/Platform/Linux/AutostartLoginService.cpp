@@ -3,6 +3,7 @@
 
 #include "Platform/Linux/AutostartLoginService.h"
 
+#include "Platform/Linux/AppImage.h"
 #include "Platform/Linux/ConfigHome.h"
 
 #include <QCoreApplication>
@@ -62,7 +63,7 @@ std::optional<QString> value(const QString &entry, const QString &key)
 
 AutostartLoginService::Environment AutostartLoginService::Environment::ofThisProcess()
 {
-    const QString appImage = qEnvironmentVariable("APPIMAGE");
+    const QString appImage = ownAppImage();
     return {.configHome = roamlet::configHome(),
             .program = appImage.isEmpty() ? QCoreApplication::applicationFilePath() : appImage};
 }

@@ -3,7 +3,7 @@
 
 #include "Platform/Linux/Updates/UpdateChoice.h"
 
-#include "Platform/Linux/Updates/AppImage.h"
+#include "Platform/Linux/AppImage.h"
 #include "Platform/Linux/Updates/Versions.h"
 
 #include <QSysInfo>

@@ -4,7 +4,7 @@
 #include "Platform/Linux/Updates/UpdateInstaller.h"
 
 #include "Platform/Linux/LinuxIO.h"
-#include "Platform/Linux/Updates/AppImage.h"
+#include "Platform/Linux/AppImage.h"
 
 #include <QDir>
 #include <QFile>

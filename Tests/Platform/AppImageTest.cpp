@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
-#include "Platform/Linux/Updates/AppImage.h"
+#include "Platform/Linux/AppImage.h"
 
 #include "Platform/Linux/Updates/UpdateChoice.h"
 #include "Platform/Linux/Updates/UpdateInstaller.h"
