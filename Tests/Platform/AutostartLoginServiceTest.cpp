@@ -3,6 +3,8 @@
 
 #include "Platform/Linux/AutostartLoginService.h"
 
+#include "Platform/WithoutPrivileges.h"
+
 #include <QDir>
 #include <QFile>
 #include <QProcess>
@@ -116,13 +118,21 @@ TEST_F(AutostartLoginServiceTest, AFolderThatCannotBeMadeIsAnErrorInTheSystemsWo
 
 TEST_F(AutostartLoginServiceTest, AFolderWithoutPermissionIsAnErrorInTheSystemsWords)
 {
-    if (geteuid() == 0)
-        GTEST_SKIP() << "root may write everywhere";
     const QString autostart = folder.filePath(u"config/autostart"_s);
     ASSERT_TRUE(QDir().mkpath(autostart));
-    ASSERT_TRUE(QFile::setPermissions(autostart, QFile::ReadOwner | QFile::ExeOwner));
-    EXPECT_FALSE(service().registerProgram());
-    QFile::setPermissions(autostart, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    for (const QString &path : {folder.path(), folder.filePath(u"config"_s), autostart})
+        ASSERT_TRUE(QFile::setPermissions(path, QFile::Permissions(0x7055)));
+    {
+        const WithoutPrivileges user;
+        if (!user.arePermissionsChecked())
+            GTEST_SKIP() << "root cannot step down here";
+        if (geteuid() == getuid())
+            QFile::setPermissions(autostart, QFile::Permissions(0x5055));
+        const auto result = service().registerProgram();
+        ASSERT_FALSE(result);
+        EXPECT_FALSE(result.error().isEmpty());
+    }
+    QFile::setPermissions(autostart, QFile::Permissions(0x7055));
 }
 
 TEST_F(AutostartLoginServiceTest, TheEntryIsValid)
