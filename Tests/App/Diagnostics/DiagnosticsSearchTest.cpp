@@ -60,7 +60,7 @@ TEST_F(DiagnosticsSearchTest, searchNeedsEveryWordAndSaysHowManyMatched)
 TEST_F(DiagnosticsSearchTest, pagesOfTheSameTimeKeepTheOrderOfTheirSourcesWhicheverEndsFirst)
 {
     home.addProfiles();
-    const auto write = [this](const QString &file, const QString &host, int count) {
+    const auto write = [](const QString &file, const QString &host, int count) {
         QList<sample::HistoryRow> rows;
         for (int i = 0; i < count; ++i)
             rows.append(BrowserHome::page(u"https://%1.example/%2"_s.arg(host).arg(i), u"t"_s, 1,
