@@ -33,7 +33,7 @@ public:
         constexpr std::uint64_t widest = 8;
         if (m_bytes.size() < binaryHeader.size() + trailerSize)
             return false;
-        const std::uint64_t trailer = static_cast<std::uint64_t>(m_bytes.size() - trailerSize);
+        const auto trailer = static_cast<std::uint64_t>(m_bytes.size() - trailerSize);
         m_offsetWidth = number(trailer + 6, 1);
         m_referenceWidth = number(trailer + 7, 1);
         m_count = number(trailer + 8, 8);
@@ -93,8 +93,9 @@ private:
     std::uint64_t number(std::uint64_t position, std::uint64_t width) const
     {
         std::uint64_t value = 0;
-        for (std::uint64_t i = 0; i < width; ++i)
-            value = (value << 8U) | static_cast<unsigned char>(m_bytes[static_cast<qsizetype>(position + i)]);
+        for (const char byte :
+             m_bytes.sliced(static_cast<qsizetype>(position), static_cast<qsizetype>(width)))
+            value = (value << 8U) | static_cast<unsigned char>(byte);
         return value;
     }
 
@@ -108,10 +109,10 @@ private:
 
 std::optional<QString> binaryRefusal(QByteArrayView bytes)
 {
-    const QString damaged = u"not a property list: its object table is damaged"_s;
+    const auto damaged = [] { return u"not a property list: its object table is damaged"_s; };
     BinaryObjects objects(bytes);
     if (!objects.readTrailer())
-        return damaged;
+        return damaged();
 
     // Programs share only values without content of their own, so a list never unfolds to more objects than
     // its file has bytes.
@@ -141,7 +142,7 @@ std::optional<QString> binaryRefusal(QByteArrayView bytes)
         return true;
     };
     if (!enter(objects.root()))
-        return damaged;
+        return damaged();
     while (!open.empty()) {
         Visit &visit = open.back();
         if (visit.next == visit.references.size()) {
@@ -161,7 +162,7 @@ std::optional<QString> binaryRefusal(QByteArrayView bytes)
         if (open.size() >= deepestNesting)
             return u"it is nested too deeply"_s;
         if (!enter(reference))
-            return damaged;
+            return damaged();
     }
     // The library compares each value with everything around it.
     constexpr std::uint64_t mostComparisons = 1'000'000'000;
