@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
+#include "SampleHome/PlainFiles.h"
 #include "Support/LibraryHome.h"
 #include "Support/Waiting.h"
 
@@ -24,6 +25,11 @@ protected:
         const ReadContext context = Library::readContext(home.platform());
         return Library::history(HistoryQuery::matching(text, site, HistoryQuery::Order::Latest),
                                 Library::allProfiles({}, context), context);
+    }
+
+    static HistoryQuery mostVisited()
+    {
+        return HistoryQuery::matching({}, {}, HistoryQuery::Order::MostVisited);
     }
 
     /// What the Library answers about the source, or about all of them.
@@ -191,14 +197,41 @@ TEST_F(LibrarySearchTest, TheLibrarySearchesOneSourceOrAllOfTheSnapshot)
         ask(library, {}, HistoryQuery::matching(u"edge"_s, {}, HistoryQuery::Order::Latest)).items.size(), 1);
 }
 
-TEST_F(LibrarySearchTest, TheLibraryAsksTheDatabasesAndNotTheSnapshot)
+TEST_F(LibrarySearchTest, ASearchAsksTheDatabasesAndNotTheSnapshot)
 {
     addChromium();
     Library library(home.platform());
     loadNow(library);
     setChromeHistory(u"Default"_s, {u"since then"_s});
-    EXPECT_EQ(sortedTitles(ask(library, u"chrome/Default"_s)), QStringList{u"since then"_s});
+    const auto since = HistoryQuery::matching(u"since"_s, {}, HistoryQuery::Order::Latest);
+    EXPECT_EQ(sortedTitles(ask(library, u"chrome/Default"_s, since)), QStringList{u"since then"_s});
+    EXPECT_EQ(sortedTitles(ask(library, u"chrome/Default"_s, mostVisited())), QStringList{u"since then"_s});
     EXPECT_EQ(library.generation(), 1);
+}
+
+TEST_F(LibrarySearchTest, ThePlainListingIsNotReadASecondTime)
+{
+    addChromium();
+    Library library(home.platform());
+    loadNow(library);
+    home.files.afterCopy = [](const QString &path) { ADD_FAILURE() << path.toStdString(); };
+    EXPECT_EQ(ask(library, {}).items, library.snapshot().history);
+    EXPECT_EQ(sortedTitles(ask(library, u"edge/Default"_s)), QStringList{u"e1"_s});
+    home.files.afterCopy = {};
+}
+
+TEST_F(LibrarySearchTest, ASourceThatHadProblemsIsAskedAgain)
+{
+    addChromium();
+    Library library(home.platform());
+    change([this] { sample::writeFile(chromeFile(u"Default/History"_s), "no database"); });
+    loadNow(library);
+    ASSERT_TRUE(library.snapshot().problems.contains(u"chrome/Default"_s));
+    EXPECT_EQ(sortedTitles(ask(library, {})), (QStringList{u"b1"_s, u"e1"_s}));
+    change([this] { QFile::remove(chromeFile(u"Default/History"_s)); });
+    setChromeHistory(u"Default"_s, {u"mended"_s});
+    EXPECT_EQ(sortedTitles(ask(library, {})), (QStringList{u"b1"_s, u"e1"_s, u"mended"_s}));
+    EXPECT_EQ(sortedTitles(ask(library, u"chrome/Default"_s)), QStringList{u"mended"_s});
 }
 
 TEST_F(LibrarySearchTest, ProfilesThatAreSwitchedOffAreNotSearched)
@@ -220,7 +253,7 @@ TEST_F(LibrarySearchTest, ASearchDoesNotWaitForALoad)
     recordReads(&gate);
     library.load(QSet<QString>{u"chrome/Default"_s});
     gate.awaitReader();
-    EXPECT_EQ(sortedTitles(ask(library, u"edge/Default"_s)), QStringList{u"e1"_s});
+    EXPECT_EQ(sortedTitles(ask(library, u"edge/Default"_s, mostVisited())), QStringList{u"e1"_s});
     EXPECT_TRUE(library.isLoading());
     gate.open();
     ASSERT_TRUE(waitUntil([&library] { return !library.isLoading(); }));
@@ -236,11 +269,11 @@ TEST_F(LibrarySearchTest, ASearchThatIsDroppedDeliversNothing)
     const auto count = [&deliveries](const HistoryResults &) { ++deliveries; };
     Gate gate;
     recordReads(&gate);
-    std::stop_source dropped = library.queryHistory(HistoryQuery::recent(), {}, &context, count);
+    std::stop_source dropped = library.queryHistory(mostVisited(), {}, &context, count);
     gate.awaitReader();
     dropped.request_stop();
     auto shortLived = std::make_unique<QObject>();
-    library.queryHistory(HistoryQuery::recent(), {}, shortLived.get(), count);
+    library.queryHistory(mostVisited(), {}, shortLived.get(), count);
     shortLived.reset();
     gate.open();
     EXPECT_EQ(ask(library, {}).items.size(), 4);
@@ -258,7 +291,7 @@ TEST_F(LibrarySearchTest, ALibraryThatGoesDuringASearchLeavesNothing)
         Library library(home.platform());
         loadNow(library);
         home.files.afterCopy = [&copies](const QString &) { copies.release(); };
-        library.queryHistory(HistoryQuery::recent(), {}, &context, [](const HistoryResults &) { FAIL(); });
+        library.queryHistory(mostVisited(), {}, &context, [](const HistoryResults &) { FAIL(); });
         copies.acquire();
     }
     QCoreApplication::processEvents();

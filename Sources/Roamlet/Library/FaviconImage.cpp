@@ -54,7 +54,7 @@ QImage decode(const Favicon &favicon, const Files &files)
     if (!isPixelFormat(format) || size.isEmpty() || size.width() > largestHonestSide ||
         size.height() > largestHonestSide)
         return {};
-    const QImage image = reader.read();
+    QImage image = reader.read();
     if (image.width() <= largestSide && image.height() <= largestSide)
         return image;
     return image.scaled(largestSide, largestSide, Qt::KeepAspectRatio, Qt::SmoothTransformation);

@@ -173,12 +173,28 @@ std::stop_source Library::queryHistory(const HistoryQuery &query, const std::opt
     QList<Source> sources = ordered(m_snapshot.sources);
     if (sourceID)
         sources.removeIf([&sourceID](const Source &source) { return source.id() != *sourceID; });
+    // The plain listing is part of what was loaded; only a source that had problems then is asked again.
+    QSet<QString> loaded;
+    if (query == HistoryQuery::recent()) {
+        for (const Source &source : std::as_const(sources)) {
+            if (!m_snapshot.problems.contains(source.id()))
+                loaded.insert(source.id());
+        }
+        sources.removeIf([&loaded](const Source &source) { return loaded.contains(source.id()); });
+    }
     return m_tasks.run(
         context,
-        [query, sources, reading = readContext(m_platform)](const std::stop_token &stop) {
+        [query, sources, loaded, rows = m_snapshot.history,
+         reading = readContext(m_platform)](const std::stop_token &stop) {
             ReadContext stoppable = reading;
             stoppable.stop = stop;
-            return history(query, sources, stoppable);
+            HistoryResults results = history(query, sources, stoppable);
+            if (loaded.isEmpty())
+                return results;
+            QList<HistoryItem> kept = rows;
+            kept.removeIf([&loaded](const HistoryItem &item) { return !loaded.contains(item.source.id()); });
+            results.items = kept + results.items;
+            return results;
         },
         std::move(deliver));
 }

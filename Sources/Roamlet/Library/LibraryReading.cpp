@@ -115,7 +115,7 @@ Read Read::once(const Source &source, const Read &kept, const ReadContext &conte
         favicons = FaviconReader::chromium(source, context);
     }
     // Icons are an ornament: nobody is told when they cannot be read, and nothing is tried again for them.
-    read.favicons = favicons ? std::move(*favicons) : kept.favicons;
+    read.favicons = favicons.value_or(kept.favicons);
     return read;
 }
 
@@ -148,13 +148,13 @@ Library::Snapshot assemble(const QList<Source> &profiles, const QList<Source> &e
         Read &read = reads[i];
         for (const BookmarkNode &root : std::as_const(read.bookmarks))
             snapshot.bookmarks += root.flattened();
-        snapshot.bookmarkTrees.insert(id, std::move(read.bookmarks));
+        snapshot.bookmarkTrees.insert(id, read.bookmarks);
         snapshot.history += std::move(read.history);
         for (auto favicon = read.favicons.cbegin(); favicon != read.favicons.cend(); ++favicon) {
             if (!snapshot.favicons.contains(favicon.key()))
                 snapshot.favicons.insert(favicon.key(), favicon.value());
         }
-        snapshot.sourceFavicons.insert(id, std::move(read.favicons));
+        snapshot.sourceFavicons.insert(id, read.favicons);
         if (!read.problems.isEmpty())
             snapshot.problems.insert(id, read.problems.join(u'\n'));
         if (source.kind == Source::Kind::Safari && read.isBlocked)
