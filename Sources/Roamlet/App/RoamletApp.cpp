@@ -113,7 +113,6 @@ RoamletApp::~RoamletApp() = default;
 
 void RoamletApp::start(bool isLaunchedAtLogin)
 {
-    m_library.start();
     LoginItem::setUpOnFirstLaunch(m_services.loginService, m_services.platform.defaults);
     m_delegate.applicationWillFinishLaunching(isLaunchedAtLogin);
     m_delegate.applicationDidFinishLaunching();

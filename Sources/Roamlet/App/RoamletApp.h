@@ -44,7 +44,7 @@ public:
     RoamletApp &operator=(const RoamletApp &) = delete;
     ~RoamletApp();
 
-    /// Reads the browsers, and opens the main window unless the login has launched the program.
+    /// Opens the main window unless the login has launched the program.
     void start(bool isLaunchedAtLogin);
     /// The user has started the program once more.
     void reopen();
@@ -61,9 +61,14 @@ private:
     /// `successor` is the program that is to take this one's place.
     static int runUntilTheEnd(int argc, char **argv, std::optional<QString> &successor);
 
+    /// Reads the browsers while the windows are being made.
+    struct StartedLibrary : Library {
+        explicit StartedLibrary(const Platform &platform) : Library(platform) { start(); }
+    };
+
     Services m_services;
     AppDelegate m_delegate;
-    Library m_library;
+    StartedLibrary m_library;
     Opener m_opener;
     MainWindow m_mainWindow;
     SettingsWindow m_settingsWindow;
