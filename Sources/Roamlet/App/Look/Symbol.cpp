@@ -112,7 +112,8 @@ QIcon symbolIcon(const QString &name, const std::optional<QColor> &color)
 QIcon applicationIcon()
 {
     useResources();
-    return QIcon::fromTheme(u"org.roamlet.Roamlet"_s, QIcon(u":/org.roamlet.Roamlet.svg"_s));
+    // Not the desktop theme's: it would be looked for in every folder before the window shows.
+    return QIcon(u":/org.roamlet.Roamlet.svg"_s);
 }
 
 } // namespace roamlet
