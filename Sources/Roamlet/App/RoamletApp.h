@@ -49,7 +49,7 @@ public:
     /// The user has started the program once more.
     void reopen();
 
-    Library &library() { return m_library; }
+    Library &library() { return m_started.library; }
     MainWindow &mainWindow() { return m_mainWindow; }
     SettingsWindow &settingsWindow() { return m_settingsWindow; }
     MenuBarMenu &menu() { return m_menu; }
@@ -62,13 +62,14 @@ private:
     static int runUntilTheEnd(int argc, char **argv, std::optional<QString> &successor);
 
     /// Reads the browsers while the windows are being made.
-    struct StartedLibrary : Library {
-        explicit StartedLibrary(const Platform &platform) : Library(platform) { start(); }
+    struct StartedLibrary {
+        explicit StartedLibrary(const Platform &platform) : library(platform) { library.start(); }
+        Library library;
     };
 
     Services m_services;
     AppDelegate m_delegate;
-    StartedLibrary m_library;
+    StartedLibrary m_started;
     Opener m_opener;
     MainWindow m_mainWindow;
     SettingsWindow m_settingsWindow;
