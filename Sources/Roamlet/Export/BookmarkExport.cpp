@@ -81,14 +81,19 @@ QString fileName(const std::optional<Source> &source)
 std::expected<void, QString> write(const QString &text, const QString &path)
 {
     QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         return std::unexpected(file.errorString());
     const QByteArray bytes = text.toUtf8();
-    // On a full disk a part is written and nothing else says so; committing that would lose the old file.
-    if (file.write(bytes) != bytes.size() || !file.flush()) {
-        const QString reason = file.errorString();
-        file.cancelWriting();
-        return std::unexpected(reason);
+    // A disk that gets full takes a part without a word; only the rest brings out the reason.
+    qint64 written = 0;
+    while (written < bytes.size()) {
+        const qint64 size = file.write(bytes.constData() + written, bytes.size() - written);
+        if (size <= 0) {
+            const QString reason = file.errorString();
+            file.cancelWriting();
+            return std::unexpected(reason);
+        }
+        written += size;
     }
     if (!file.commit())
         return std::unexpected(file.errorString());
