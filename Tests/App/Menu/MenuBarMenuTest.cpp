@@ -243,6 +243,16 @@ TEST_F(MenuBarMenuTest, ShortcutsWorkWhileItIsOpen)
     EXPECT_EQ(events.last(), u"window/1"_s) << "the arrows work as in any menu";
 }
 
+TEST_F(MenuBarMenuTest, ShortcutsWorkWhileTheSubmenuIsOpen)
+{
+    menu.popup(QPoint(0, 0));
+    recent().popup(QPoint(200, 0));
+    QTest::keyClick(&recent(), Qt::Key_Comma, Qt::ControlModifier);
+    EXPECT_EQ(events, QStringList{u"settings/0"_s});
+    EXPECT_FALSE(recent().isVisible());
+    EXPECT_FALSE(menu.isVisible());
+}
+
 TEST_F(MenuBarMenuTest, AnEndlessTitleIsCutInTheItemAndInTheTip)
 {
     addChromium();

@@ -34,6 +34,7 @@ MenuBarMenu::MenuBarMenu(const Services &services, QWidget *parent)
     });
     m_recent->setObjectName(u"recentlyVisited"_s);
     m_recent->setToolTipsVisible(true);
+    m_recent->installEventFilter(this);
     addMenu(m_recent);
     addSeparator();
     m_updated = addAction(QString());
@@ -92,15 +93,30 @@ void MenuBarMenu::setOpen(bool isOpen)
 
 void MenuBarMenu::keyPressEvent(QKeyEvent *event)
 {
-    const QKeySequence keys(event->keyCombination());
+    if (!chooseByShortcut(*event))
+        QMenu::keyPressEvent(event);
+}
+
+bool MenuBarMenu::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_recent && event->type() == QEvent::KeyPress &&
+        chooseByShortcut(*static_cast<QKeyEvent *>(event)))
+        return true;
+    return QMenu::eventFilter(watched, event);
+}
+
+bool MenuBarMenu::chooseByShortcut(const QKeyEvent &keys)
+{
+    const QKeySequence sequence(keys.keyCombination());
     for (QAction *item : actions()) {
-        if (!item->shortcut().isEmpty() && item->shortcut() == keys) {
+        if (!item->shortcut().isEmpty() && item->shortcut() == sequence) {
+            m_recent->close();
             close();
             item->trigger();
-            return;
+            return true;
         }
     }
-    QMenu::keyPressEvent(event);
+    return false;
 }
 
 void MenuBarMenu::fill()

@@ -41,13 +41,16 @@ public:
     void setUpdateIsWaiting(bool isWaiting);
 
 protected:
-    /// An open menu keeps other windows' shortcuts from working, so its own have to.
+    /// An open menu keeps other windows' shortcuts from working, so its own have to; in the submenu, too.
     void keyPressEvent(QKeyEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     QAction *addItem(const QString &name, const QString &text, const QKeySequence &shortcut,
                      std::function<void()> action);
     void addLine(const QString &name, const QString &text);
+    /// Whether the keys belong to an item, which is then chosen.
+    bool chooseByShortcut(const QKeyEvent &keys);
     void setOpen(bool isOpen);
     void fill();
 
