@@ -6,6 +6,7 @@
 #include "App/Export/Alert.h"
 #include "App/Export/SavePanel.h"
 #include "App/Look/NoteLabel.h"
+#include "App/Tables/CellText.h"
 #include "Library/Library.h"
 #include "Platform/ActivationPolicy.h"
 #include "Platform/UserDefaults.h"
@@ -224,9 +225,8 @@ void ExportPanel::fillSources()
     const auto add = [this](const QString &label, qsizetype count, const std::optional<QString> &id) {
         // A profile's name has no limit; the list has.
         constexpr qsizetype longestLabel = 80;
-        const QString name =
-            label.size() > longestLabel ? QString(label.left(longestLabel) % u'…') : label.simplified();
-        m_sources->addItem(u"%1 (%2)"_s.arg(name, locale().toString(count)));
+        m_sources->addItem(
+            u"%1 (%2)"_s.arg(CellText::oneLine(label, longestLabel), locale().toString(count)));
         m_choices.append(id);
         if (id == m_sourceID)
             m_sources->setCurrentIndex(m_sources->count() - 1);
