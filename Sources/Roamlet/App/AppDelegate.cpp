@@ -52,6 +52,12 @@ void AppDelegate::mainWindowDidDisappear(bool otherWindowIsVisible)
         m_activation.bringToFront();
 }
 
+void AppDelegate::showDockIconDidChange()
+{
+    applyPolicy();
+    m_activation.bringToFront();
+}
+
 void AppDelegate::applyPolicy()
 {
     const bool showsDockIcon = m_defaults.boolean(u"showDockIcon"_s).value_or(false);

@@ -38,6 +38,8 @@ public:
     void mainWindowDidAppear();
     /// `otherWindowIsVisible`: there is another one that should keep the keyboard.
     void mainWindowDidDisappear(bool otherWindowIsVisible);
+    /// The user has made another choice of whether the program shows in the Dock.
+    void showDockIconDidChange();
 
     bool launchedAtLogin() const { return m_launchedAtLogin; }
     bool isMainWindowOpen() const { return m_isMainWindowOpen; }

@@ -83,7 +83,7 @@ RoamletApp::RoamletApp(const Services &services)
                         .defaults = services.platform.defaults,
                         .loginService = services.loginService,
                         .activation = services.activation,
-                        .isMainWindowOpen = [this] { return m_delegate.isMainWindowOpen(); },
+                        .delegate = m_delegate,
                         .updater = &services.updater}),
       m_menu({.library = library(),
               .opener = m_opener,

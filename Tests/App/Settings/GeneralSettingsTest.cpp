@@ -3,6 +3,7 @@
 
 #include "App/Settings/GeneralSettings.h"
 
+#include "App/AppDelegate.h"
 #include "App/Look/NoteLabel.h"
 #include "App/Look/Switch.h"
 #include "App/Settings/SettingsWindow.h"
@@ -38,7 +39,7 @@ protected:
     void open()
     {
         window = std::make_unique<SettingsWindow>(
-            SettingsServices{library, home.defaults, login, activation, [this] { return isMainOpen; }});
+            SettingsServices{library, home.defaults, login, activation, delegate});
         window->open();
         ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
     }
@@ -51,7 +52,8 @@ protected:
     Library library{home.platform()};
     FakeLoginService login;
     FakeActivationPolicy activation;
-    bool isMainOpen = false;
+    bool hasTray = true;
+    AppDelegate delegate{home.defaults, activation, [this] { return hasTray; }};
     std::unique_ptr<SettingsWindow> window;
 };
 
@@ -140,6 +142,19 @@ TEST_F(GeneralSettingsTest, AFailedRegistrationFlipsTheSwitchBackAndSaysWhyInRed
     EXPECT_FALSE(note().isVisible());
 }
 
+TEST_F(GeneralSettingsTest, AFailedRegistrationIsNotToldAgainWhenTheWindowComesBack)
+{
+    login.error = u"no"_s;
+    open();
+    QTest::mouseClick(&atLogin(), Qt::LeftButton);
+    EXPECT_TRUE(note().isVisible());
+    window->close();
+    login.currentStatus = Status::Enabled;
+    window->open();
+    EXPECT_TRUE(atLogin().isChecked());
+    EXPECT_FALSE(note().isVisible());
+}
+
 TEST_F(GeneralSettingsTest, AFailedUnregistrationLeavesTheSwitchOn)
 {
     login.currentStatus = Status::Enabled;
@@ -166,7 +181,7 @@ TEST_F(GeneralSettingsTest, ARegistrationThatNeedsApprovalSaysSo)
         bool isInstalledCopy() const override { return true; }
         Status current = Status::NotRegistered;
     } pending;
-    SettingsWindow own({library, home.defaults, pending, activation, [] { return false; }});
+    SettingsWindow own({library, home.defaults, pending, activation, delegate});
     own.open();
     auto *toggle = own.findChild<Switch *>(u"openAtLogin"_s);
     QTest::mouseClick(toggle, Qt::LeftButton);
@@ -206,13 +221,25 @@ TEST_F(GeneralSettingsTest, ShowDockIconIsStoredAndSetsThePolicyBeforeComingToTh
 
 TEST_F(GeneralSettingsTest, WhileTheMainWindowIsOpenItKeepsTheDockIcon)
 {
-    isMainOpen = true;
+    delegate.mainWindowDidAppear();
     home.defaults.setBoolean(u"showDockIcon"_s, true);
     open();
     QTest::mouseClick(&dockIcon(), Qt::LeftButton);
     EXPECT_EQ(home.defaults.boolean(u"showDockIcon"_s), false);
-    EXPECT_TRUE(activation.policies.isEmpty());
-    EXPECT_EQ(activation.timesInFront, 1);
+    EXPECT_EQ(activation.current, Policy::Regular);
+    EXPECT_EQ(activation.timesInFront, 2);
+    delegate.mainWindowDidDisappear(true);
+    EXPECT_EQ(activation.current, Policy::Accessory);
+}
+
+TEST_F(GeneralSettingsTest, WithoutATrayTheSettingsStayInTheTaskSwitcher)
+{
+    hasTray = false;
+    home.defaults.setBoolean(u"showDockIcon"_s, true);
+    open();
+    QTest::mouseClick(&dockIcon(), Qt::LeftButton);
+    EXPECT_EQ(home.defaults.boolean(u"showDockIcon"_s), false);
+    EXPECT_EQ(activation.current, Policy::Regular);
 }
 
 /// The settings of a build that can be updated, or cannot.
@@ -228,7 +255,7 @@ protected:
         updater = std::make_unique<Updater>(information, std::move(own));
         driver->isAutomatic = false;
         window = std::make_unique<SettingsWindow>(
-            SettingsServices{library, home.defaults, login, activation, [] { return false; }, updater.get()});
+            SettingsServices{library, home.defaults, login, activation, delegate, updater.get()});
         window->open();
         ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
     }

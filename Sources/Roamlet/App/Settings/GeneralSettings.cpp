@@ -3,6 +3,7 @@
 
 #include "App/Settings/GeneralSettings.h"
 
+#include "App/AppDelegate.h"
 #include "App/Look/NoteLabel.h"
 #include "App/Look/Switch.h"
 #include "App/Look/SwitchRow.h"
@@ -14,6 +15,7 @@
 
 #include <QGroupBox>
 #include <QPushButton>
+#include <QShowEvent>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
@@ -82,6 +84,9 @@ void GeneralSettings::addUpdates(QVBoxLayout *layout)
 
 void GeneralSettings::showEvent(QShowEvent *event)
 {
+    // What went wrong was said; it need not be so any more.
+    if (!event->spontaneous())
+        m_loginProblem.reset();
     showLoginStatus();
     showUpdateChecks();
     QWidget::showEvent(event);
@@ -122,10 +127,7 @@ void GeneralSettings::showUpdateChecks()
 void GeneralSettings::setShowsDockIcon(bool isOn)
 {
     m_services.defaults.setBoolean(showDockIconKey.toString(), isOn);
-    if (!m_services.isMainWindowOpen())
-        m_services.activation.setPolicy(isOn ? ActivationPolicy::Policy::Regular
-                                             : ActivationPolicy::Policy::Accessory);
-    m_services.activation.bringToFront();
+    m_services.delegate.showDockIconDidChange();
 }
 
 } // namespace roamlet

@@ -3,12 +3,11 @@
 
 #pragma once
 
-#include <functional>
-
 namespace roamlet
 {
 
 class ActivationPolicy;
+class AppDelegate;
 class Library;
 class LoginService;
 class Updater;
@@ -20,8 +19,7 @@ struct SettingsServices {
     UserDefaults &defaults;
     LoginService &loginService;
     ActivationPolicy &activation;
-    /// While the main window is open, it decides how present the program is.
-    std::function<bool()> isMainWindowOpen;
+    AppDelegate &delegate;
     /// Without one that is available there are no settings for updates.
     Updater *updater = nullptr;
 };
