@@ -111,6 +111,14 @@ TEST(UserCalendar, ofTheSystemFollowsAJourney)
     EXPECT_EQ(UserCalendar::ofSystem(), (UserCalendar{u"Europe/Berlin"_s, u"de_DE"_s, Qt::Monday}));
 }
 
+TEST(UserCalendar, ofTheSystemTakesAZonesFileForTheZone)
+{
+    for (const char *zone : {"/usr/share/zoneinfo/Asia/Tokyo", ":/usr/share/zoneinfo/Asia/Tokyo"}) {
+        const Environment environment({{"TZ", zone}, {"LANG", "ja_JP"}});
+        EXPECT_EQ(UserCalendar::ofSystem().timeZone, u"Asia/Tokyo") << zone;
+    }
+}
+
 TEST(UserCalendar, ofASystemWithoutALocaleIsEnglish)
 {
     const Environment environment({{"TZ", "UTC"}, {"LANG", ""}});

@@ -47,6 +47,12 @@ bool hasMonthNames(icu::Locale locale)
     return U_SUCCESS(status) != 0 && std::string_view(found.getLanguage()) == locale.getLanguage();
 }
 
+/// $TZ may also be the path of a zone's file, as the C library takes it.
+QString systemTimeZone()
+{
+    return QString::fromLatin1(QTimeZone::systemTimeZoneId()).section(u"/zoneinfo/"_s, -1);
+}
+
 } // namespace
 
 QString UserCalendar::localeOf(const QString &posixName)
@@ -76,7 +82,7 @@ UserCalendar UserCalendar::of(const QString &timeZone, const QString &locale)
 
 UserCalendar UserCalendar::ofSystem()
 {
-    const QString timeZone = QString::fromLatin1(QTimeZone::systemTimeZoneId());
+    const QString timeZone = systemTimeZone();
     for (const char *variable : {"LC_ALL", "LC_TIME", "LANG"}) {
         const QString name = qEnvironmentVariable(variable);
         if (!name.isEmpty())
