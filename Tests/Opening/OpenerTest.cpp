@@ -129,9 +129,24 @@ TEST_F(OpenerTest, AChosenBrowserGetsAllTheUrlsAtOnce)
 TEST_F(OpenerTest, WhatIsNoUrlIsLeftOut)
 {
     opener.open({QString(), u"--user-data-dir=/tmp"_s, u"http://[::1"_s, u"plain words"_s, u"http://ok/"_s,
-                 u"http://a b/"_s},
+                 u"http://a b/"_s, u"plain words: http://a/"_s, u"-x:y"_s, u"http://a:port/"_s,
+                 u"http://[]/"_s, u"http://::1/"_s, u"://a/"_s},
                 u"com.google.Chrome"_s);
     EXPECT_EQ(workspace.requests, QList<QStringList>({{u"open"_s, u"com.google.Chrome"_s, u"http://ok/"_s}}));
+}
+
+TEST_F(OpenerTest, AHostMayHaveANameThatKeepsNoRule)
+{
+    const QStringList urls{u"https://foo-.tumblr.com/"_s,
+                           u"https://-foo.example.com/"_s,
+                           u"http://under_score.example:8080/"_s,
+                           u"https://"_s % QString(64, u'a') % u".example/",
+                           u"http://user:word@[::1]:80?x"_s,
+                           u"history://"_s,
+                           u"file:///home/a b"_s};
+    opener.open(urls, u"com.google.Chrome"_s);
+    ASSERT_EQ(workspace.requests.size(), 1);
+    EXPECT_EQ(workspace.requests.at(0).sliced(2), urls);
 }
 
 TEST_F(OpenerTest, NothingIsOpenedWhenNoUrlIsLeft)

@@ -6,7 +6,7 @@
 #include "Opening/OpenArguments.h"
 #include "Platform/Workspace.h"
 
-#include <QUrl>
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <iterator>
@@ -33,10 +33,13 @@ bool looksLikeOption(const QString &url)
     return url.trimmed().startsWith(u'-');
 }
 
+/// Whether the text has a scheme, and a host and a port where it has places for them. There are hosts whose
+/// names keep no rule, such as "foo-.example.com", so that any name will do.
 bool isURL(const QString &text)
 {
-    const QUrl url(text);
-    return url.isValid() && !url.scheme().isEmpty();
+    static const QRegularExpression url(uR"(\A[A-Za-z][A-Za-z0-9+.-]*:((?!//)|//([^@/?#\s]*@)?)"
+                                        uR"((\[[^\]\s]+\]|[^@/?#:\[\]\s]*)(:[0-9]*)?([/?#]|\z)))"_s);
+    return url.match(text).hasMatch();
 }
 
 bool isNumber(const QString &text)
