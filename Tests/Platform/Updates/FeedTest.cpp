@@ -5,6 +5,8 @@
 
 #include "FeedText.h"
 
+#include <QStringEncoder>
+
 #include <gtest/gtest.h>
 
 namespace roamlet::testing
@@ -201,10 +203,41 @@ TEST(FeedTest, EntitiesDoNotExpand)
     expectMalformed("<!DOCTYPE rss [<!ENTITY x SYSTEM \"file:///etc/passwd\">]><rss>&x;</rss>");
 }
 
-TEST(FeedTest, DeepNestingIsOnlySkipped)
+TEST(FeedTest, DeepNestingIsRefusedWhereverItIs)
 {
-    constexpr int depth = 100'000;
-    EXPECT_EQ(item(QByteArray("<a>").repeated(depth) + QByteArray("</a>").repeated(depth)).version, u"2.0"_s);
+    const auto nested = [](qsizetype depth) -> QByteArray {
+        return QByteArray("<a>").repeated(depth) + QByteArray("</a>").repeated(depth);
+    };
+    for (const QByteArray element : {"description", "sparkle:channel", "sparkle:deltas", "unknown"}) {
+        const auto within = [&element](const QByteArray &content) {
+            return feedText(itemText("2.0", "<" + element + ">" + content + "</" + element + ">"));
+        };
+        EXPECT_EQ(items(within(nested(40))).size(), 1) << element.constData();
+        expectMalformed(within(nested(100'000)));
+    }
+    expectMalformed(nested(100'000));
+    expectMalformed(feedText(itemText(nested(100'000), {})));
+}
+
+TEST(FeedTest, WhatIsNoElementIsNotNested)
+{
+    const QByteArray tags = QByteArray("<a>").repeated(1'000);
+    EXPECT_EQ(item("<!-- " + tags + " --><description><![CDATA[" + tags + "]]></description>").notes,
+              (ReleaseNotes{ReleaseNotes::Format::Html, QString::fromLatin1(tags)}));
+    EXPECT_EQ(item(QByteArray("<a b='/>'/><c d=\"'>\"></c>").repeated(1'000)).version, u"2.0"_s);
+}
+
+TEST(FeedTest, AFeedMayBeInEitherEncodingOfXml)
+{
+    const QString text = QString::fromUtf8(feedText(itemText("2.0", "<description>é€𝄞</description>")));
+    for (const auto encoding :
+         {QStringConverter::Utf8, QStringConverter::Utf16LE, QStringConverter::Utf16BE}) {
+        QStringEncoder encoder(encoding, QStringConverter::Flag::WriteBom);
+        const QList<FeedItem> read = items(encoder(text));
+        ASSERT_EQ(read.size(), 1);
+        EXPECT_EQ(read[0].notes, (ReleaseNotes{ReleaseNotes::Format::Html, u"é€𝄞"_s}));
+    }
+    expectMalformed(feedText(itemText("2.0", "<description>\xE9 </description>")));
 }
 
 } // namespace

@@ -4,7 +4,9 @@
 #include "Platform/Linux/Updates/Feed.h"
 
 #include "Platform/Linux/Updates/Versions.h"
+#include "Platform/Linux/Updates/XmlWeight.h"
 
+#include <QStringDecoder>
 #include <QXmlStreamReader>
 
 #include <utility>
@@ -20,10 +22,13 @@ namespace
 /// The names of the feed format that are not RSS's own.
 constexpr QLatin1StringView extensions("http://www.andymatuschak.org/xml-namespaces/sparkle");
 
+/// Notes can hold elements of their own, but no feed has so many in one another.
+constexpr qsizetype deepestFeed = 50;
+
 class Parser
 {
 public:
-    Parser(const QByteArray &bytes, QUrl address) : m_xml(bytes), m_address(std::move(address)) {}
+    Parser(const QString &text, QUrl address) : m_xml(text), m_address(std::move(address)) {}
 
     std::expected<QList<FeedItem>, UpdateError> parse()
     {
@@ -190,7 +195,17 @@ private:
 
 std::expected<QList<FeedItem>, UpdateError> parse(const QByteArray &bytes, const QUrl &address)
 {
-    return Parser(bytes, address).parse();
+    const auto malformed = [](const QString &detail) {
+        return std::unexpected(UpdateError{UpdateError::Code::FeedMalformed, detail});
+    };
+    // In the two encodings that XML asks for, so that what is weighed is what is read.
+    QStringDecoder decoder(QStringConverter::encodingForData(bytes, u'<').value_or(QStringConverter::Utf8));
+    const QString text = decoder(bytes);
+    if (decoder.hasError())
+        return malformed(u"Characters in an unknown encoding"_s);
+    if (XmlWeight::of(text).depth > deepestFeed)
+        return malformed(u"Elements nested too deep"_s);
+    return Parser(text, address).parse();
 }
 
 } // namespace roamlet::Feed
