@@ -127,8 +127,8 @@ void Library::moveProfiles(const QSet<qsizetype> &offsets, qsizetype destination
     QStringList moved;
     QStringList after;
     for (qsizetype i = 0; i < profiles.size(); ++i) {
-        QStringList &part = offsets.contains(i) ? moved : i < destination ? before : after;
-        part.append(profiles[i].id());
+        QStringList &stays = i < destination ? before : after;
+        (offsets.contains(i) ? moved : stays).append(profiles[i].id());
     }
     m_sourceOrder = before + moved + after;
     m_platform.defaults.setStringList(sourceOrderKey, m_sourceOrder);

@@ -72,7 +72,7 @@ bool isAddressLiteral(QStringView text)
 std::optional<QStringView> authority(QStringView url)
 {
     const auto endsFirstPart = [](QChar c) { return c == u'/' || c == u'?' || c == u'#' || c == u':'; };
-    const auto firstEnd = std::ranges::find_if(url, endsFirstPart);
+    const auto *const firstEnd = std::ranges::find_if(url, endsFirstPart);
     if (firstEnd != url.end() && *firstEnd == u':') {
         const QStringView scheme = url.first(firstEnd - url.begin());
         if (scheme.isEmpty() || !isAlpha(scheme.front().unicode()) ||
@@ -83,7 +83,8 @@ std::optional<QStringView> authority(QStringView url)
     if (!url.startsWith(u"//"))
         return {};
     url = url.sliced(2);
-    const auto end = std::ranges::find_if(url, [](QChar c) { return c == u'/' || c == u'?' || c == u'#'; });
+    const auto *const end =
+        std::ranges::find_if(url, [](QChar c) { return c == u'/' || c == u'?' || c == u'#'; });
     return url.first(end - url.begin());
 }
 

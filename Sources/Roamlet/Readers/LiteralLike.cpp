@@ -78,7 +78,8 @@ private:
         const char *ends = block + m_bytes.size() - 1;
         unsigned char found = 0;
         for (size_t i = 0; i < blockSize; ++i)
-            found |= static_cast<unsigned char>(first.isAt(block + i) & last.isAt(ends + i));
+            found |= static_cast<unsigned char>(static_cast<unsigned>(first.isAt(block + i)) &
+                                                static_cast<unsigned>(last.isAt(ends + i)));
         return found != 0;
     }
 

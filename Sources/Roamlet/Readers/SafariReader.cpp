@@ -183,7 +183,7 @@ QList<Source> profiles(const ReadContext &context)
             if (const auto *folder = std::get_if<Source::Folder>(&selection))
                 claimedIDs.insert(folder->serverID);
             named.append(
-                {.kind = Source::Kind::Safari, .profile = *id, .name = *title, .safariBookmarks = selection});
+                {.kind = Source::Kind::Safari, .profile = id, .name = *title, .safariBookmarks = selection});
         }));
     if (named.isEmpty())
         return {Source::safari()};
