@@ -227,6 +227,23 @@ TEST(FeedTest, WhatIsNoElementIsNotNested)
     EXPECT_EQ(item(QByteArray("<a b='/>'/><c d=\"'>\"></c>").repeated(1'000)).version, u"2.0"_s);
 }
 
+TEST(FeedTest, WhatWouldTakeLongToReadIsRefused)
+{
+    const auto many = [](qsizetype count, const QByteArray &before) -> QByteArray {
+        QByteArray result;
+        for (qsizetype i = 0; i < count; ++i)
+            result += ' ' + before + QByteArray::number(i) + "='='";
+        return result;
+    };
+    EXPECT_EQ(item("<a" + many(40, "b") + "/>").version, u"2.0"_s);
+    expectMalformed(feedText(itemText("2.0", "<a" + many(60, "b") + "/>")));
+    expectMalformed("<rss" + many(60, "xmlns:b") + "/>");
+    EXPECT_EQ(item(QByteArray("<a/>").repeated(10'000)).version, u"2.0"_s);
+    expectMalformed(feedText(itemText("2.0", QByteArray("<a/>").repeated(30'000))));
+    EXPECT_EQ(item(QByteArray(Feed::longest - 1'000, ' ')).version, u"2.0"_s);
+    expectMalformed(feedText(itemText("2.0", QByteArray(Feed::longest, ' '))));
+}
+
 TEST(FeedTest, AFeedMayBeInEitherEncodingOfXml)
 {
     const QString text = QString::fromUtf8(feedText(itemText("2.0", "<description>é€𝄞</description>")));

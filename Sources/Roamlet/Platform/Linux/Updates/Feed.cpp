@@ -22,8 +22,9 @@ namespace
 /// The names of the feed format that are not RSS's own.
 constexpr QLatin1StringView extensions("http://www.andymatuschak.org/xml-namespaces/sparkle");
 
-/// Notes can hold elements of their own, but no feed has so many in one another.
-constexpr qsizetype deepestFeed = 50;
+/// Notes can hold elements of their own, but no feed comes near to this; and what stays below is read at
+/// once.
+constexpr XmlWeight heaviestFeed{.elements = 20'000, .attributes = 50, .depth = 50};
 
 class Parser
 {
@@ -198,13 +199,18 @@ std::expected<QList<FeedItem>, UpdateError> parse(const QByteArray &bytes, const
     const auto malformed = [](const QString &detail) {
         return std::unexpected(UpdateError{UpdateError::Code::FeedMalformed, detail});
     };
+    if (bytes.size() > longest)
+        return malformed(u"Too long"_s);
     // In the two encodings that XML asks for, so that what is weighed is what is read.
     QStringDecoder decoder(QStringConverter::encodingForData(bytes, u'<').value_or(QStringConverter::Utf8));
     const QString text = decoder(bytes);
     if (decoder.hasError())
         return malformed(u"Characters in an unknown encoding"_s);
-    if (XmlWeight::of(text).depth > deepestFeed)
+    const XmlWeight weight = XmlWeight::of(text);
+    if (weight.depth > heaviestFeed.depth)
         return malformed(u"Elements nested too deep"_s);
+    if (weight.elements > heaviestFeed.elements || weight.attributes > heaviestFeed.attributes)
+        return malformed(u"Too many elements or attributes"_s);
     return Parser(text, address).parse();
 }
 

@@ -50,8 +50,12 @@ struct FeedItem {
 namespace Feed
 {
 
+/// The most bytes that a feed may have: room for the notes of hundreds of releases.
+constexpr qint64 longest = qint64{1} << 20U;
+
 /// The releases in the order of the feed, those that carry no version left out. Addresses may be relative to
-/// the feed's own. Document types are refused, so that nothing in a feed can expand.
+/// the feed's own. Document types are refused, so that nothing in a feed can expand, and so is what would
+/// take long to read: no feed keeps the main thread busy for long.
 std::expected<QList<FeedItem>, UpdateError> parse(const QByteArray &bytes, const QUrl &address);
 
 } // namespace Feed

@@ -15,7 +15,6 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-constexpr qint64 longestFeed = qint64{8} << 20U;
 constexpr qint64 longestNotes = qint64{1} << 20U;
 
 ReleaseNotes notesOf(const DocumentDownload::Document &document)
@@ -62,7 +61,7 @@ void UpdateSession::start()
         return;
     }
     m_document = std::make_unique<DocumentDownload>(
-        m_network, m_setup.clock, m_setup.http, m_setup.feed, longestFeed,
+        m_network, m_setup.clock, m_setup.http, m_setup.feed, Feed::longest,
         [this](const std::expected<DocumentDownload::Document, UpdateError> &feed) { readFeed(feed); });
 }
 

@@ -20,18 +20,29 @@ QStringView after(QStringView end, QStringView text)
     return position < 0 ? QStringView() : text.sliced(position + end.size());
 }
 
-/// The tag that the text begins with, up to its angle bracket; those in quotes do not end it.
-QStringView tagOf(QStringView text)
+struct Tag {
+    /// Up to its angle bracket.
+    QStringView text;
+    qsizetype attributes = 0;
+};
+
+/// The tag that the text begins with. An angle bracket in quotes does not end it.
+Tag tagOf(QStringView text)
 {
     QChar quote;
-    const auto *const end = std::ranges::find_if(text, [&quote](QChar each) {
-        if (quote.isNull() && (each == u'"' || each == u'\''))
+    qsizetype attributes = 0;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const QChar each = text[i];
+        if (!quote.isNull())
+            quote = each == quote ? QChar() : quote;
+        else if (each == u'"' || each == u'\'')
             quote = each;
-        else if (each == quote)
-            quote = {};
-        return quote.isNull() && each == u'>';
-    });
-    return text.first(end - text.begin());
+        else if (each == u'=')
+            ++attributes;
+        else if (each == u'>')
+            return {.text = text.first(i), .attributes = attributes};
+    }
+    return {.text = text, .attributes = attributes};
 }
 
 } // namespace
@@ -48,13 +59,16 @@ XmlWeight XmlWeight::of(QStringView document)
         } else if (rest.startsWith(u'?')) {
             rest = after(u"?>", rest);
         } else {
-            const QStringView tag = tagOf(rest);
-            rest = rest.sliced(tag.size());
-            if (tag.startsWith(u'/'))
+            const Tag tag = tagOf(rest);
+            rest = rest.sliced(tag.text.size());
+            if (tag.text.startsWith(u'/')) {
                 --depth;
-            else
-                result.depth = std::max(result.depth, ++depth);
-            if (tag.endsWith(u'/') && !tag.startsWith(u'/'))
+                continue;
+            }
+            ++result.elements;
+            result.attributes = std::max(result.attributes, tag.attributes);
+            result.depth = std::max(result.depth, ++depth);
+            if (tag.text.endsWith(u'/'))
                 --depth;
         }
     }

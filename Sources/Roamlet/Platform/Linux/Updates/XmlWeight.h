@@ -9,8 +9,12 @@ namespace roamlet
 {
 
 /// What an XML document costs to read, found out by one look over its characters. A reader calls itself for
-/// each level of nesting, so a document from elsewhere is weighed before it is read.
+/// each level of nesting and compares each attribute with the others of its element and each name with every
+/// namespace, so a document from elsewhere is weighed before it is read.
 struct XmlWeight {
+    qsizetype elements = 0;
+    /// How many the element has that has the most, its namespaces among them.
+    qsizetype attributes = 0;
     /// How deep its elements are nested.
     qsizetype depth = 0;
 
