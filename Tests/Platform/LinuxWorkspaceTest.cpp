@@ -57,11 +57,23 @@ protected:
                              "com.google.Chrome @@u %U @@");
     }
 
+    QList<FakeDesktop::Start> starts()
+    {
+        workspace.finishStarts();
+        return desktop.starts();
+    }
+
+    FakeDesktop::Start onlyStart()
+    {
+        workspace.finishStarts();
+        return desktop.onlyStart();
+    }
+
     /// The program that opens a link of this browser's profile.
     QString programForLink(const QString &bundleID)
     {
         EXPECT_TRUE(workspace.openInProfile({u"http://a/"_s}, bundleID, u"Default"_s));
-        return desktop.onlyStart().program;
+        return onlyStart().program;
     }
 
     TestHome home;
@@ -76,7 +88,7 @@ TEST_F(LinuxWorkspaceTest, AProfileIsOpenedByTheBrowsersOwnCommand)
     desktop.addApplication(u"google-chrome.desktop"_s, u"chrome"_s);
     keepDataIn(u".config/google-chrome"_s);
     EXPECT_TRUE(workspace.openInProfile({u"http://a/"_s, u"http://b/"_s}, chromeID, u"Profile 1"_s));
-    const FakeDesktop::Start start = desktop.onlyStart();
+    const FakeDesktop::Start start = onlyStart();
     EXPECT_EQ(start.program, u"chrome");
     EXPECT_EQ(start.arguments,
               QStringList({u"--profile-directory=Profile 1"_s, u"--ignore-profile-directory-if-not-exists"_s,
@@ -88,9 +100,8 @@ TEST_F(LinuxWorkspaceTest, NoShellSeesTheArguments)
     desktop.addApplication(u"google-chrome.desktop"_s, u"chrome"_s);
     const QString url = u"http://a/$(touch x);`id`'\"&|\\ *?%u%20ä"_s;
     workspace.openInProfile({url}, chromeID, u"$HOME \"1\""_s);
-    EXPECT_EQ(desktop.onlyStart().arguments,
-              QStringList({u"--profile-directory=$HOME \"1\""_s,
-                           u"--ignore-profile-directory-if-not-exists"_s, url}));
+    EXPECT_EQ(onlyStart().arguments, QStringList({u"--profile-directory=$HOME \"1\""_s,
+                                                  u"--ignore-profile-directory-if-not-exists"_s, url}));
 }
 
 TEST_F(LinuxWorkspaceTest, TheEntrysOwnArgumentsStay)
@@ -98,7 +109,7 @@ TEST_F(LinuxWorkspaceTest, TheEntrysOwnArgumentsStay)
     desktop.addEntry(u"google-chrome.desktop"_s, u"env LANG=C \"" % desktop.addProgram(u"my chrome"_s) %
                                                      u"\" --dark \"--name=a b\" --rate=5%% %i %c %U");
     workspace.openInProfile({u"http://a/"_s}, chromeID, u"Default"_s);
-    const FakeDesktop::Start start = desktop.onlyStart();
+    const FakeDesktop::Start start = onlyStart();
     EXPECT_EQ(start.program, u"my chrome");
     EXPECT_EQ(start.arguments,
               QStringList({u"--dark"_s, u"--name=a b"_s, u"--rate=5%"_s, u"--profile-directory=Default"_s,
@@ -129,7 +140,7 @@ TEST_F(LinuxWorkspaceTest, DataOfTheFlatpakIsOpenedByTheFlatpak)
     addFlatpakChrome();
     keepDataIn(u".var/app/com.google.Chrome/config/google-chrome"_s);
     workspace.openInProfile({u"http://a/"_s}, chromeID, u"Default"_s);
-    const FakeDesktop::Start start = desktop.onlyStart();
+    const FakeDesktop::Start start = onlyStart();
     EXPECT_EQ(start.program, u"flatpak");
     EXPECT_EQ(start.arguments,
               QStringList({u"run"_s, u"--branch=stable"_s, u"--command=/app/bin/chrome"_s,
@@ -152,12 +163,12 @@ TEST_F(LinuxWorkspaceTest, AnotherInstallationDoesNotStandInForAProfile)
     // Its profiles are others, whatever their names.
     EXPECT_TRUE(workspace.openInProfile({u"http://a/"_s}, chromeID, u"Default"_s));
     EXPECT_TRUE(workspace.showPage(u"chrome://history/"_s, chromeID, u"Default"_s));
-    EXPECT_TRUE(desktop.starts().isEmpty());
+    EXPECT_TRUE(starts().isEmpty());
     EXPECT_EQ(windows->looks, 0);
     // Without a profile the browser is the browser.
     EXPECT_TRUE(workspace.hasApplication(chromeID));
     workspace.open({u"http://a/"_s}, chromeID);
-    EXPECT_EQ(desktop.onlyStart().program, u"flatpak");
+    EXPECT_EQ(onlyStart().program, u"flatpak");
 }
 
 TEST_F(LinuxWorkspaceTest, ChromiumOpensItsOwnDataOnly)
@@ -185,7 +196,7 @@ TEST_F(LinuxWorkspaceTest, ChromiumsSnapIsNotThePackage)
     desktop.addApplication(u"chromium.desktop"_s, u"chromium"_s);
     keepDataIn(u"snap/chromium/common/chromium"_s);
     workspace.openInProfile({u"http://a/"_s}, chromeID, u"Default"_s);
-    EXPECT_TRUE(desktop.starts().isEmpty());
+    EXPECT_TRUE(starts().isEmpty());
 }
 
 TEST_F(LinuxWorkspaceTest, DataFromAMacIsOpenedByTheBrowserThatIsHere)
@@ -195,7 +206,7 @@ TEST_F(LinuxWorkspaceTest, DataFromAMacIsOpenedByTheBrowserThatIsHere)
     EXPECT_EQ(programForLink(chromeID), u"flatpak");
     desktop.addApplication(u"google-chrome.desktop"_s, u"chrome"_s);
     workspace.open({u"http://a/"_s}, chromeID);
-    EXPECT_EQ(desktop.starts().value(0).program, u"chrome");
+    EXPECT_EQ(starts().value(0).program, u"chrome");
 }
 
 TEST_F(LinuxWorkspaceTest, AnEntryThatCannotBeStartedIsNoApplication)
@@ -216,7 +227,7 @@ TEST_F(LinuxWorkspaceTest, AnEntryThatCannotBeStartedIsNoApplication)
 
     EXPECT_TRUE(workspace.openInProfile({u"http://a/"_s}, chromeID, u"Default"_s));
     workspace.open({u"http://a/"_s}, chromeID);
-    EXPECT_TRUE(desktop.starts().isEmpty());
+    EXPECT_TRUE(starts().isEmpty());
     // The system's entry counts where the user's own is broken.
     desktop.addEntry(u"google-chrome.desktop"_s, desktop.addProgram(u"chrome"_s) % u" %U", {}, 1);
     EXPECT_TRUE(workspace.hasApplication(chromeID));
@@ -244,24 +255,24 @@ TEST_F(LinuxWorkspaceTest, UrlsWithoutAProfileGoToTheApplicationAtOnce)
 {
     desktop.addApplication(u"microsoft-edge.desktop"_s, u"edge"_s);
     workspace.open({u"http://a/?x='1'"_s, u"about:blank"_s}, edgeID);
-    EXPECT_EQ(desktop.onlyStart().arguments, QStringList({u"http://a/?x='1'"_s, u"about:blank"_s}));
+    EXPECT_EQ(onlyStart().arguments, QStringList({u"http://a/?x='1'"_s, u"about:blank"_s}));
 }
 
 TEST_F(LinuxWorkspaceTest, AnApplicationThatTakesOneUrlIsStartedForEach)
 {
     desktop.addEntry(u"microsoft-edge.desktop"_s, desktop.addProgram(u"edge"_s) % u" %u");
     workspace.open({u"http://a/"_s, u"http://b/"_s}, edgeID);
-    const QList<FakeDesktop::Start> starts = desktop.starts();
-    ASSERT_EQ(starts.size(), 2);
-    EXPECT_EQ(starts.at(0).arguments, QStringList({u"http://a/"_s}));
-    EXPECT_EQ(starts.at(1).arguments, QStringList({u"http://b/"_s}));
+    const QList<FakeDesktop::Start> started = starts();
+    ASSERT_EQ(started.size(), 2);
+    EXPECT_EQ(started.at(0).arguments, QStringList({u"http://a/"_s}));
+    EXPECT_EQ(started.at(1).arguments, QStringList({u"http://b/"_s}));
 }
 
 TEST_F(LinuxWorkspaceTest, SafariIsNeverHereAndItsLinksOpenInThePreferredBrowser)
 {
     EXPECT_FALSE(workspace.hasApplication(safariID));
     workspace.open({u"http://a/"_s}, safariID);
-    const FakeDesktop::Start start = desktop.onlyStart();
+    const FakeDesktop::Start start = onlyStart();
     EXPECT_EQ(start.program, u"preferred-browser");
     EXPECT_EQ(start.arguments, QStringList({u"--own-option"_s, u"http://a/"_s}));
 }
@@ -270,7 +281,7 @@ TEST_F(LinuxWorkspaceTest, SafarisOwnPagesOpenNowhere)
 {
     workspace.open({u"history://"_s}, safariID);
     workspace.open({u"bookmarks://"_s}, safariID);
-    EXPECT_TRUE(desktop.starts().isEmpty());
+    EXPECT_TRUE(starts().isEmpty());
 }
 
 TEST_F(LinuxWorkspaceTest, AnUnknownApplicationOpensNothing)
@@ -279,13 +290,13 @@ TEST_F(LinuxWorkspaceTest, AnUnknownApplicationOpensNothing)
     workspace.open({u"http://a/"_s}, u"com.example.Other"_s);
     EXPECT_TRUE(workspace.openInProfile({u"http://a/"_s}, u"com.example.Other"_s, u"Default"_s));
     EXPECT_TRUE(workspace.showPage(u"chrome://history/"_s, u"com.example.Other"_s, {}));
-    EXPECT_TRUE(desktop.starts().isEmpty());
+    EXPECT_TRUE(starts().isEmpty());
 }
 
 TEST_F(LinuxWorkspaceTest, ASystemUrlGoesToWhateverTheSystemHasForIt)
 {
     workspace.openSystemURL(u"settings:privacy"_s);
-    const FakeDesktop::Start start = desktop.onlyStart();
+    const FakeDesktop::Start start = onlyStart();
     EXPECT_EQ(start.program, u"system-handler");
     EXPECT_EQ(start.arguments, QStringList({u"--own-option"_s, u"settings:privacy"_s}));
 }
@@ -295,20 +306,20 @@ TEST_F(LinuxWorkspaceTest, ASystemUrlThatNobodyHandlesOpensNothing)
     workspace.openSystemURL(u"x-apple.systempreferences:privacy"_s);
     workspace.openSystemURL(u"no url"_s);
     workspace.openSystemURL({});
-    EXPECT_TRUE(desktop.starts().isEmpty());
+    EXPECT_TRUE(starts().isEmpty());
 }
 
 TEST_F(LinuxWorkspaceTest, AProgramIsStartedWithItsArguments)
 {
     workspace.start(desktop.addProgram(u"tool"_s), {u"-e"_s, u"line 1; $x"_s, QString()});
-    EXPECT_EQ(desktop.onlyStart().arguments, QStringList({u"-e"_s, u"line 1; $x"_s, QString()}));
+    EXPECT_EQ(onlyStart().arguments, QStringList({u"-e"_s, u"line 1; $x"_s, QString()}));
 }
 
 TEST_F(LinuxWorkspaceTest, AProgramThatCannotBeStartedIsIgnored)
 {
     workspace.start(u"/nonexistent/program"_s, {u"x"_s});
     workspace.start(desktop.dataFolders().first(), {});
-    EXPECT_TRUE(desktop.starts().isEmpty());
+    EXPECT_TRUE(starts().isEmpty());
 }
 
 TEST_F(LinuxWorkspaceTest, StartedProgramsGetTheSignalsThatThisOneBlocks)
@@ -323,12 +334,13 @@ TEST_F(LinuxWorkspaceTest, StartedProgramsGetTheSignalsThatThisOneBlocks)
     desktop.addApplication(u"google-chrome.desktop"_s, u"chrome"_s);
     workspace.openInProfile({u"http://a/"_s}, chromeID, u"Default"_s);
     workspace.open({u"http://a/"_s}, chromeID);
+    workspace.finishStarts();
     signal(SIGPIPE, previousHandler);
     pthread_sigmask(SIG_SETMASK, &previous, nullptr);
 
-    const QList<FakeDesktop::Start> starts = desktop.starts();
-    ASSERT_EQ(starts.size(), 2);
-    for (const FakeDesktop::Start &start : starts) {
+    const QList<FakeDesktop::Start> started = starts();
+    ASSERT_EQ(started.size(), 2);
+    for (const FakeDesktop::Start &start : started) {
         EXPECT_EQ(start.blockedSignals.toULongLong(nullptr, 16), 0U);
         EXPECT_EQ(start.ignoredSignals.toULongLong(nullptr, 16) & (1ULL << (SIGPIPE - 1)), 0U);
     }
@@ -342,8 +354,25 @@ TEST_F(LinuxWorkspaceTest, NoStartedProgramBecomesAZombie)
     workspace.openInProfile({u"http://a/"_s}, chromeID, u"Default"_s);
     workspace.open({u"http://a/"_s}, chromeID);
     workspace.start(u"/nonexistent/program"_s, {});
+    workspace.finishStarts();
     EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1);
     EXPECT_EQ(errno, ECHILD) << "a child is left that somebody would have to wait for";
+}
+
+TEST_F(LinuxWorkspaceTest, WhoeverAsksIsNotHeldUpByTheStart)
+{
+    // Copying a process for a start takes its time.
+    static thread_local int copiesByThisThread = 0;
+    ASSERT_EQ(pthread_atfork([] { ++copiesByThisThread; }, nullptr, nullptr), 0);
+    desktop.addApplication(u"google-chrome.desktop"_s, u"chrome"_s);
+    workspace.openInProfile({u"http://a/"_s}, chromeID, u"Default"_s);
+    workspace.open({u"http://b/"_s}, chromeID);
+    workspace.open({u"http://c/"_s}, safariID);
+    workspace.openSystemURL(u"settings:privacy"_s);
+    workspace.start(desktop.addProgram(u"tool"_s), {});
+    workspace.showPage(u"chrome://history/"_s, chromeID, u"Default"_s);
+    EXPECT_EQ(starts().size(), 6);
+    EXPECT_EQ(copiesByThisThread, 0);
 }
 
 TEST_F(LinuxWorkspaceTest, APageIsTypedIntoABlankTabOfTheProfile)
@@ -351,7 +380,7 @@ TEST_F(LinuxWorkspaceTest, APageIsTypedIntoABlankTabOfTheProfile)
     desktop.addEntry(u"google-chrome.desktop"_s, desktop.addProgram(u"chrome"_s) % u" %U",
                      u"StartupWMClass=My-Chrome\n"_s);
     EXPECT_TRUE(workspace.showPage(u"chrome://history/"_s, chromeID, u"Profile 1"_s));
-    EXPECT_EQ(desktop.onlyStart().arguments,
+    EXPECT_EQ(onlyStart().arguments,
               QStringList({u"--profile-directory=Profile 1"_s, u"--ignore-profile-directory-if-not-exists"_s,
                            u"about:blank"_s}));
     EXPECT_EQ(windows->askedClasses, QStringList({u"google-chrome"_s, u"My-Chrome"_s}));
@@ -365,7 +394,7 @@ TEST_F(LinuxWorkspaceTest, APageWithoutAProfileOpensInTheApplication)
 {
     desktop.addApplication(u"microsoft-edge.desktop"_s, u"edge"_s);
     EXPECT_TRUE(workspace.showPage(u"edge://favorites/"_s, edgeID, {}));
-    EXPECT_EQ(desktop.onlyStart().arguments, QStringList({u"about:blank"_s}));
+    EXPECT_EQ(onlyStart().arguments, QStringList({u"about:blank"_s}));
 }
 
 TEST_F(LinuxWorkspaceTest, WhereNoWindowCanBeSteeredTheAddressGoesToTheClipboard)
@@ -373,7 +402,7 @@ TEST_F(LinuxWorkspaceTest, WhereNoWindowCanBeSteeredTheAddressGoesToTheClipboard
     desktop.addApplication(u"google-chrome.desktop"_s, u"chrome"_s);
     windows->isSteerable = false;
     EXPECT_TRUE(workspace.showPage(u"chrome://bookmarks/?id=5"_s, chromeID, u"Default"_s));
-    EXPECT_EQ(desktop.onlyStart().arguments.value(2), u"about:blank");
+    EXPECT_EQ(onlyStart().arguments.value(2), u"about:blank");
     EXPECT_EQ(clipboard, u"chrome://bookmarks/?id=5");
     home.clock.advance(10s);
     EXPECT_EQ(windows->looks, 0);

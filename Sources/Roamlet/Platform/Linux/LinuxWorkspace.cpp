@@ -86,6 +86,7 @@ LinuxWorkspace::LinuxWorkspace(QStringList dataFolders, const Folders &folders, 
       m_steering(*m_windows, clock),
       m_notice(std::move(notice))
 {
+    m_starts.setMaxThreadCount(1);
 }
 
 LinuxWorkspace::~LinuxWorkspace() = default;
@@ -113,26 +114,26 @@ void LinuxWorkspace::open(const QStringList &urls, const QString &bundleID)
         QStringList links;
         std::ranges::remove_copy_if(urls, std::back_inserter(links), isSafariPage);
         if (!links.isEmpty())
-            DesktopEntry::launchPreferred(u"https"_s, links);
+            launchPreferred(u"https"_s, links);
     } else if (const auto installation = BrowserInstallation::any(bundleID, m_folders, m_dataFolders)) {
-        installation->entry.launch(urls);
+        launch(installation->entry, urls);
     }
 }
 
 void LinuxWorkspace::openSystemURL(const QString &url)
 {
-    DesktopEntry::launchPreferred(QUrl(url).scheme(), {url});
+    launchPreferred(QUrl(url).scheme(), {url});
 }
 
 void LinuxWorkspace::start(const QString &program, const QStringList &arguments)
 {
-    DetachedProcess::start(QStringList(program) + arguments);
+    start(QStringList(program) + arguments);
 }
 
 bool LinuxWorkspace::openInProfile(const QStringList &urls, const QString &bundleID, const QString &profile)
 {
     if (const auto installation = BrowserInstallation::ofData(bundleID, m_folders, m_dataFolders))
-        DetachedProcess::start(profileCommand(*installation, profile, urls));
+        start(profileCommand(*installation, profile, urls));
     return true;
 }
 
@@ -144,11 +145,11 @@ bool LinuxWorkspace::showPage(const QString &page, const QString &bundleID,
     if (!installation)
         return true;
     const QStringList blank{u"about:blank"_s};
-    const auto openBlankTab = [installation = *installation, profile, blank] {
+    const auto openBlankTab = [this, installation = *installation, profile, blank] {
         if (profile)
-            DetachedProcess::start(profileCommand(installation, *profile, blank));
+            start(profileCommand(installation, *profile, blank));
         else
-            installation.entry.launch(blank);
+            launch(installation.entry, blank);
     };
     if (m_windows->canSteer()) {
         m_steering.show(
@@ -158,6 +159,21 @@ bool LinuxWorkspace::showPage(const QString &page, const QString &bundleID,
         openBlankTab();
     }
     return true;
+}
+
+void LinuxWorkspace::start(const QStringList &command)
+{
+    m_starts.start([command] { DetachedProcess::start(command); });
+}
+
+void LinuxWorkspace::launch(const DesktopEntry &entry, const QStringList &urls)
+{
+    m_starts.start([entry, urls] { entry.launch(urls); });
+}
+
+void LinuxWorkspace::launchPreferred(const QString &scheme, const QStringList &urls)
+{
+    m_starts.start([scheme, urls] { DesktopEntry::launchPreferred(scheme, urls); });
 }
 
 } // namespace roamlet

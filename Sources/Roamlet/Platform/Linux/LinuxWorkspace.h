@@ -12,6 +12,7 @@
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
+#include <QThreadPool>
 
 #include <memory>
 
@@ -53,12 +54,22 @@ public:
     bool showPage(const QString &page, const QString &bundleID,
                   const std::optional<QString> &profile) override;
 
+    /// Returns once everything that was asked for so far has been started.
+    void finishStarts() { m_starts.waitForDone(); }
+
 private:
+    void start(const QStringList &command);
+    void launch(const DesktopEntry &entry, const QStringList &urls);
+    void launchPreferred(const QString &scheme, const QStringList &urls);
+
     QStringList m_dataFolders;
     const Folders &m_folders;
     std::unique_ptr<BrowserWindows> m_windows;
     PageSteering m_steering;
     PasteNotice m_notice;
+    /// Where programs are started, one after the other: the more memory this process holds, the longer a
+    /// start takes, and there may be one for each of many links.
+    QThreadPool m_starts;
 };
 
 } // namespace roamlet
