@@ -16,11 +16,13 @@
 #include "Support/LibraryHome.h"
 #include "Support/Waiting.h"
 
+#include <QDialog>
 #include <QFile>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
 #include <QTest>
+#include <QTimer>
 #include <QTreeView>
 
 #include <gmock/gmock.h>
@@ -161,6 +163,38 @@ TEST_F(WholeStoryTest, launchedAtLoginItWaitsInTheTrayUntilItIsStartedAgain)
     EXPECT_EQ(activation.current, ActivationPolicy::Policy::Regular);
     app->mainWindow().close();
     EXPECT_EQ(activation.current, ActivationPolicy::Policy::Accessory);
+}
+
+TEST_F(WholeStoryTest, startedAgainItComesBackAlsoWhereTheTraysIconIsAWindow)
+{
+    app->start(false);
+    app->mainWindow().close();
+    QWidget icon(nullptr, Qt::Window | Qt::FramelessWindowHint | Qt::BypassWindowManagerHint);
+    icon.show();
+    app->reopen();
+    EXPECT_TRUE(app->mainWindow().isVisible());
+    app->mainWindow().close();
+    app->settingsWindow().open();
+    app->reopen();
+    EXPECT_FALSE(app->mainWindow().isVisible()) << "the settings are a window";
+}
+
+TEST_F(WholeStoryTest, itQuitsAlsoWhileASheetIsBusy)
+{
+    class Busy final : public QDialog
+    {
+        void reject() override {}
+    } sheet;
+    app->start(false);
+    sheet.show();
+    QTimer::singleShot(0, &sheet, [this] { app->menu().findChild<QAction *>(u"quit"_s)->trigger(); });
+    bool isStuck = false;
+    QTimer::singleShot(std::chrono::seconds(20), &sheet, [&isStuck] {
+        isStuck = true;
+        QCoreApplication::exit();
+    });
+    QApplication::exec();
+    EXPECT_FALSE(isStuck);
 }
 
 TEST_F(WholeStoryTest, safariBecomingBlockedBringsTheWindowForward)

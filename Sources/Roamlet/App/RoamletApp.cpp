@@ -12,6 +12,7 @@
 #include "App/Updates/PlatformUpdateDriver.h"
 #include "App/Updates/UpdateWindows.h"
 #include "App/Updates/Updater.h"
+#include "App/Window/OpenWindows.h"
 #include "Platform/ActivationPolicy.h"
 #include "Platform/Linux/AutostartLoginService.h"
 #include "Platform/Linux/DBusRunningInstance.h"
@@ -50,12 +51,17 @@ PasteNotice pasteNotice()
             }};
 }
 
+/// Ends the program. Qt's own quit asks each window first, and a sheet that is busy would refuse, also a
+/// logout or a signal; it finishes what it writes when it goes.
+void quit()
+{
+    QCoreApplication::exit();
+}
+
 bool hasVisibleWindow()
 {
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    return std::ranges::any_of(windows, [](const QWidget *window) {
-        return window->isVisible() && !window->isMinimized() && window->windowType() == Qt::Window;
-    });
+    const QWidgetList windows = openWindows();
+    return std::ranges::any_of(windows, [](const QWidget *window) { return !window->isMinimized(); });
 }
 
 } // namespace
@@ -91,7 +97,7 @@ RoamletApp::RoamletApp(const Services &services)
               .openMainWindow = [this] { m_mainWindow.open(); },
               .openSettings = [this] { m_settingsWindow.open(); },
               .checkForUpdates = [this] { m_services.updater.checkForUpdates(); },
-              .quit = [] { QCoreApplication::quit(); }}),
+              .quit = quit}),
       m_icon({.library = library(),
               .delegate = m_delegate,
               .activation = services.activation,
@@ -104,7 +110,7 @@ RoamletApp::RoamletApp(const Services &services)
     // Without a tray there is no way back to a program without windows.
     QObject::connect(qApp, &QGuiApplication::lastWindowClosed, &m_mainWindow, [this] {
         if (!m_services.hasTray())
-            QCoreApplication::quit();
+            quit();
     });
     QObject::connect(&m_mainWindow, &MainWindow::settingsRequested, &m_settingsWindow, &SettingsWindow::open);
 }
@@ -148,9 +154,8 @@ int RoamletApp::runUntilTheEnd(int argc, char **argv, std::optional<QString> &su
     // Without a language, numbers have no groups and times no short form; the texts are English anyway.
     if (QLocale().language() == QLocale::C)
         QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
-    const std::stop_callback quit(signals.token(), [] {
-        QMetaObject::invokeMethod(QCoreApplication::instance(), &QCoreApplication::quit,
-                                  Qt::QueuedConnection);
+    const std::stop_callback end(signals.token(), [] {
+        QMetaObject::invokeMethod(QCoreApplication::instance(), [] { quit(); }, Qt::QueuedConnection);
     });
 
     DBusRunningInstance instance;

@@ -18,9 +18,11 @@ namespace roamlet
 namespace
 {
 
+/// Not so a menu, nor the window that some trays want for the icon.
 bool isOrdinary(const QWindow &window)
 {
-    return window.isVisible() && (window.type() == Qt::Window || window.type() == Qt::Dialog);
+    return window.isVisible() && (window.type() == Qt::Window || window.type() == Qt::Dialog) &&
+           !window.flags().testFlag(Qt::BypassWindowManagerHint);
 }
 
 xcb_atom_t atom(xcb_connection_t *connection, std::string_view name)
