@@ -269,8 +269,29 @@ TEST_F(UpdateWindowsTest, EndlessNotesAndVersionsAreCut)
     endless.notes->text = u"<p>"_s.repeated(10) % u"word "_s.repeated(400'000);
     showUpdate(endless);
     EXPECT_LT(heading().size(), 120);
-    EXPECT_LT(notes().toPlainText().size(), 200'000);
+    EXPECT_LT(notes().toPlainText().size(), 50'000);
     EXPECT_LT(window().width(), 1'500);
+}
+
+TEST_F(UpdateWindowsTest, MarkdownThatIsAllMarksIsShownAsItIs)
+{
+    Update marked = update;
+    marked.notes = ReleaseNotes{.format = ReleaseNotes::Format::Markdown, .text = u"*a* "_s.repeated(100)};
+    showUpdate(marked);
+    EXPECT_FALSE(notes().toPlainText().contains(u'*'));
+    for (const QString &text : {u"`a`b"_s, u"**a**b"_s, u"- a\n"_s, u"|a|b|\n|-|-|\n"_s}) {
+        marked.notes->text = text.repeated(10'000);
+        showUpdate(marked);
+        EXPECT_TRUE(notes().toPlainText().startsWith(text)) << qPrintable(text);
+    }
+}
+
+TEST_F(UpdateWindowsTest, ATableOfMarkdownIsNoTable)
+{
+    Update marked = update;
+    marked.notes = ReleaseNotes{.format = ReleaseNotes::Format::Markdown, .text = u"|a|b|\n|-|-|\n|1|2|\n"_s};
+    showUpdate(marked);
+    EXPECT_TRUE(notes().document()->rootFrame()->childFrames().isEmpty());
 }
 
 TEST_F(UpdateWindowsTest, ADownloadShowsHowFarItIs)

@@ -3,13 +3,15 @@
 
 #include "App/Updates/ReleaseNotesView.h"
 
+#include "App/Updates/SimpleHtml.h"
 #include "Platform/Update.h"
 
 #include <QImage>
-#include <QTextBlock>
+#include <QLatin1StringView>
 #include <QTextCursor>
-#include <QTextFrame>
+#include <QTextDocument>
 
+#include <algorithm>
 #include <utility>
 
 namespace roamlet
@@ -20,8 +22,16 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-/// More than anybody reads, and little enough to be laid out at once.
-constexpr qsizetype longestNotes = 100'000;
+/// More than anybody reads.
+constexpr qsizetype longestNotes = 20'000;
+
+/// Whether Markdown has so many marks that laying it out would keep the window waiting.
+bool isHeavy(const QString &markdown)
+{
+    constexpr qsizetype mostMarks = 2'000;
+    return std::ranges::count_if(markdown, [](QChar each) { return "\n*_`[<&"_L1.contains(each); }) >
+           mostMarks;
+}
 
 } // namespace
 
@@ -38,19 +48,16 @@ ReleaseNotesView::ReleaseNotesView(std::function<void(const QString &url)> openL
 void ReleaseNotesView::show(const ReleaseNotes &notes)
 {
     const QString text = notes.text.left(longestNotes);
-    switch (notes.format) {
-    case ReleaseNotes::Format::Html:
-        setHtml(text);
-        break;
-    case ReleaseNotes::Format::Markdown:
-        document()->setMarkdown(text, QTextDocument::MarkdownFeatures(QTextDocument::MarkdownDialectGitHub) |
-                                          QTextDocument::MarkdownNoHTML);
-        break;
-    case ReleaseNotes::Format::Plain:
+    if (notes.format == ReleaseNotes::Format::Html) {
+        setHtml(simpleHtml(notes.text));
+    } else if (notes.format == ReleaseNotes::Format::Markdown && !isHeavy(text)) {
+        // Without tables, the layout of which takes longest.
+        document()->setMarkdown(text,
+                                QTextDocument::MarkdownFeatures(QTextDocument::MarkdownDialectCommonMark) |
+                                    QTextDocument::MarkdownNoHTML);
+    } else {
         setPlainText(text);
-        break;
     }
-    takeColorsAway();
     moveCursor(QTextCursor::Start);
 }
 
@@ -62,41 +69,6 @@ QVariant ReleaseNotesView::loadResource(int type, const QUrl & /*name*/)
     QImage nothing(1, 1, QImage::Format_ARGB32);
     nothing.fill(Qt::transparent);
     return nothing;
-}
-
-void ReleaseNotesView::takeColorsAway()
-{
-    QTextFrameFormat frame = document()->rootFrame()->frameFormat();
-    frame.clearBackground();
-    document()->rootFrame()->setFrameFormat(frame);
-    struct Part {
-        int start;
-        int end;
-        QTextCharFormat format;
-    };
-    QList<Part> parts;
-    for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
-        QTextBlockFormat format = block.blockFormat();
-        format.clearBackground();
-        QTextCursor(block).setBlockFormat(format);
-        for (auto each = block.begin(); !each.atEnd(); ++each) {
-            const QTextFragment fragment = each.fragment();
-            parts.append({.start = fragment.position(),
-                          .end = fragment.position() + fragment.length(),
-                          .format = fragment.charFormat()});
-        }
-    }
-    for (Part &part : parts) {
-        part.format.clearBackground();
-        if (part.format.isAnchor())
-            part.format.setForeground(palette().link());
-        else
-            part.format.clearForeground();
-        QTextCursor cursor(document());
-        cursor.setPosition(part.start);
-        cursor.setPosition(part.end, QTextCursor::KeepAnchor);
-        cursor.setCharFormat(part.format);
-    }
 }
 
 } // namespace roamlet

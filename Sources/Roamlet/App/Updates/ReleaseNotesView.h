@@ -12,8 +12,8 @@ namespace roamlet
 
 struct ReleaseNotes;
 
-/// Shows release notes, which come from elsewhere: nothing that they name is loaded, their colours give way
-/// to the palette's, and only links to web pages lead anywhere.
+/// Shows release notes, which come from elsewhere: nothing that they name is loaded, they have no colours of
+/// their own, only links to web pages lead anywhere, and whatever they are, they are laid out at once.
 class ReleaseNotesView final : public QTextBrowser
 {
     Q_OBJECT
@@ -25,9 +25,6 @@ public:
 
     /// Nothing, whatever is asked for.
     QVariant loadResource(int type, const QUrl &name) override;
-
-private:
-    void takeColorsAway();
 };
 
 } // namespace roamlet
