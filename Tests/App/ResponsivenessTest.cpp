@@ -1,0 +1,156 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "App/Export/FakeAlert.h"
+#include "App/Export/FakeSavePanel.h"
+#include "App/RoamletApp.h"
+#include "App/Updates/BundleInformation.h"
+#include "App/Updates/Updater.h"
+#include "SampleHome/SampleHome.h"
+#include "Support/FakeActivationPolicy.h"
+#include "Support/FakeLoginService.h"
+#include "Support/FakeUpdateDriver.h"
+#include "Support/FakeWorkspace.h"
+#include "Support/StallMeter.h"
+#include "Support/TestHome.h"
+#include "Support/Waiting.h"
+
+#include <QAbstractItemModel>
+#include <QAbstractItemView>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QMenu>
+#include <QTest>
+#include <QTreeView>
+
+#include <gtest/gtest.h>
+
+namespace roamlet::testing
+{
+namespace
+{
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+/// A sanitizer makes everything slower by an order of magnitude, so that nothing is said about the program.
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+constexpr bool isSlowedDown = true;
+#else
+constexpr bool isSlowedDown = false;
+#endif
+
+/// The whole program over ten sources of 1,000 rows each.
+class ResponsivenessTest : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        sample::build(home.path(), {.chromeProfiles = 6,
+                                    .edgeProfiles = 3,
+                                    .safariProfiles = 0,
+                                    .rowsPerProfile = 1000,
+                                    .bookmarksPerProfile = 300,
+                                    .iconsPerProfile = 60});
+    }
+
+    template<typename Widget>
+    Widget &part(RoamletApp &app, const QString &name) const
+    {
+        return *app.mainWindow().findChild<Widget *>(name);
+    }
+    /// The list in front.
+    QTreeView *shownList(RoamletApp &app) const
+    {
+        for (const QString &name :
+             {u"historyTable"_s, u"mostVisitedTable"_s, u"bookmarkTable"_s, u"bookmarkTree"_s}) {
+            auto *view = app.mainWindow().findChild<QTreeView *>(name);
+            if (view != nullptr && view->isVisible())
+                return view;
+        }
+        return nullptr;
+    }
+    /// Lets time pass until the list has rows, and has stopped to change.
+    void settle(RoamletApp &app)
+    {
+        ASSERT_TRUE(waitUntil([&] {
+            home.clock.advance(300ms);
+            const QTreeView *view = shownList(app);
+            return view != nullptr && view->model()->rowCount() > 0 && home.clock.waiting() <= 1;
+        }));
+        waitUntil([] { return false; }, 60ms);
+    }
+
+    TestHome home;
+    FakeActivationPolicy activation;
+    FakeLoginService loginService;
+    FakeWorkspace workspace;
+    FakeSavePanel savePanel;
+    FakeAlert alert;
+    Updater updater{BundleInformation(), std::make_unique<FakeUpdateDriver>()};
+};
+
+TEST_F(ResponsivenessTest, theMainThreadIsNeverBusyForLong)
+{
+    RoamletApp app({.platform = home.platform(),
+                    .activation = activation,
+                    .loginService = loginService,
+                    .workspace = workspace,
+                    .savePanel = savePanel,
+                    .alert = alert,
+                    .updater = updater,
+                    .hasTray = [] { return true; }});
+    app.start(false);
+    StallMeter meter;
+    meter.setActivity(u"loading"_s);
+    settle(app);
+    ASSERT_EQ(app.library().snapshot().history.size(), 10'000);
+
+    QLineEdit &search = part<QLineEdit>(app, u"searchField"_s);
+    search.setFocus();
+    for (const char letter : {'w', 'w', 'w'}) {
+        meter.setActivity(u"typing "_s % QLatin1Char(letter));
+        QTest::keyClick(&search, letter);
+        settle(app);
+    }
+    meter.setActivity(u"clearing the search"_s);
+    search.clear();
+    settle(app);
+
+    auto &sidebar = part<QAbstractItemView>(app, u"sidebar"_s);
+    // All lists of everything; the first row is their heading.
+    for (int row = 1; row <= 3; ++row) {
+        const QModelIndex pane = sidebar.model()->index(row, 0);
+        ASSERT_TRUE(pane.flags().testFlag(Qt::ItemIsSelectable));
+        const QString name = pane.data().toString();
+        meter.setActivity(u"switching to "_s % name);
+        sidebar.setCurrentIndex(pane);
+        settle(app);
+        QHeaderView *header = shownList(app)->header();
+        for (int column = 0; column < header->count(); ++column) {
+            meter.setActivity(u"sorting %1 by column %2"_s.arg(name).arg(column));
+            QTest::mouseClick(header->viewport(), Qt::LeftButton, {},
+                              QPoint(header->sectionViewportPosition(column) + 5, header->height() / 2));
+            settle(app);
+        }
+        for (QAction *grouping : part<QMenu>(app, u"groupingMenu"_s).actions()) {
+            meter.setActivity(u"grouping %1: %2"_s.arg(name, grouping->text()));
+            grouping->trigger();
+            settle(app);
+        }
+    }
+    meter.setActivity(u"reloading"_s);
+    app.library().load({});
+    settle(app);
+    meter.setActivity({});
+
+    const StallMeter::Stall longest = meter.longest();
+    RecordProperty("longest_stall_us", std::to_string(longest.duration.count()));
+    if (isSlowedDown)
+        GTEST_SKIP() << "measured with a sanitizer: " << longest.duration.count() << " us";
+    EXPECT_LE(longest.duration, 50ms)
+        << longest.duration.count() << " us while " << longest.activity.toStdString();
+}
+
+} // namespace
+} // namespace roamlet::testing
