@@ -21,6 +21,7 @@ namespace
 
 using namespace Qt::StringLiterals;
 using Claim = RunningInstance::Claim;
+using Wish = RunningInstance::Wish;
 
 /// A session bus of the test's own.
 class DBusRunningInstanceTest : public ::testing::Test
@@ -51,14 +52,14 @@ protected:
     }
 
     /// Claims from another thread, as another process would, while this one answers.
-    Claim claimElsewhere(const QString &name)
+    Claim claimElsewhere(const QString &name, Wish wish = Wish::ComeForward)
     {
         names.append(name);
         std::atomic<bool> isDone = false;
         Claim claim = Claim::Alone;
         const std::jthread other([&] {
             DBusRunningInstance instance(QDBusConnection::connectToBus(address, name));
-            claim = instance.claim([] {});
+            claim = instance.claim(wish, [] {});
             isDone = true;
         });
         EXPECT_TRUE(waitUntil([&isDone] { return isDone.load(); }));
@@ -73,35 +74,46 @@ protected:
 TEST_F(DBusRunningInstanceTest, TheFirstOneRuns)
 {
     DBusRunningInstance first(connection(u"first"_s));
-    EXPECT_EQ(first.claim([] {}), Claim::First);
+    EXPECT_EQ(first.claim(Wish::ComeForward, [] {}), Claim::First);
 }
 
 TEST_F(DBusRunningInstanceTest, ALaterStartActivatesTheFirstAndHandsOver)
 {
     int activations = 0;
     DBusRunningInstance first(connection(u"first"_s));
-    ASSERT_EQ(first.claim([&activations] { ++activations; }), Claim::First);
+    ASSERT_EQ(first.claim(Wish::ComeForward, [&activations] { ++activations; }), Claim::First);
     EXPECT_EQ(claimElsewhere(u"second"_s), Claim::HandedOver);
     EXPECT_EQ(activations, 1);
     EXPECT_EQ(claimElsewhere(u"third"_s), Claim::HandedOver);
     EXPECT_EQ(activations, 2);
 }
 
+TEST_F(DBusRunningInstanceTest, AStartThatNobodyWaitsForDisturbsNobody)
+{
+    int activations = 0;
+    DBusRunningInstance first(connection(u"first"_s));
+    ASSERT_EQ(first.claim(Wish::Nothing, [&activations] { ++activations; }), Claim::First);
+    EXPECT_EQ(claimElsewhere(u"second"_s, Wish::Nothing), Claim::HandedOver);
+    // What the second one might have asked for comes before this.
+    EXPECT_EQ(claimElsewhere(u"third"_s, Wish::ComeForward), Claim::HandedOver);
+    EXPECT_EQ(activations, 1);
+}
+
 TEST_F(DBusRunningInstanceTest, TheNameIsFreeAgainWhenTheFirstHasEnded)
 {
     {
         DBusRunningInstance first(connection(u"first"_s));
-        ASSERT_EQ(first.claim([] {}), Claim::First);
+        ASSERT_EQ(first.claim(Wish::ComeForward, [] {}), Claim::First);
     }
     DBusRunningInstance second(connection(u"second"_s));
-    EXPECT_EQ(second.claim([] {}), Claim::First);
+    EXPECT_EQ(second.claim(Wish::ComeForward, [] {}), Claim::First);
 }
 
 TEST_F(DBusRunningInstanceTest, TheDesktopCanActivateIt)
 {
     int activations = 0;
     DBusRunningInstance first(connection(u"first"_s));
-    ASSERT_EQ(first.claim([&activations] { ++activations; }), Claim::First);
+    ASSERT_EQ(first.claim(Wish::ComeForward, [&activations] { ++activations; }), Claim::First);
     QDBusConnection desktop = connection(u"desktop"_s);
     QDBusMessage activate = QDBusMessage::createMethodCall(
         u"org.roamlet.Roamlet"_s, u"/org/roamlet/Roamlet"_s, u"org.freedesktop.Application"_s, u"Activate"_s);
@@ -121,7 +133,7 @@ TEST_F(DBusRunningInstanceTest, AFirstOneThatIsStuckDoesNotKeepTheSecondForever)
 TEST(DBusRunningInstanceWithoutABusTest, TheProgramRunsAlone)
 {
     DBusRunningInstance instance(QDBusConnection::connectToBus(u"unix:path=/nonexistent/bus"_s, u"no bus"_s));
-    EXPECT_EQ(instance.claim([] {}), Claim::Alone);
+    EXPECT_EQ(instance.claim(Wish::ComeForward, [] {}), Claim::Alone);
     QDBusConnection::disconnectFromBus(u"no bus"_s);
 }
 

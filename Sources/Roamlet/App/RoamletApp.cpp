@@ -158,9 +158,13 @@ int RoamletApp::runUntilTheEnd(int argc, char **argv, std::optional<QString> &su
         QMetaObject::invokeMethod(QCoreApplication::instance(), [] { quit(); }, Qt::QueuedConnection);
     });
 
+    const bool isLaunchedAtLogin =
+        QCoreApplication::arguments().contains(QLatin1StringView(AutostartLoginService::launchMarker));
     DBusRunningInstance instance;
     RoamletApp *running = nullptr;
-    if (instance.claim([&running] {
+    using Wish = RunningInstance::Wish;
+    // A desktop that restores its session starts the program beside the login item; that opens no window.
+    if (instance.claim(isLaunchedAtLogin ? Wish::Nothing : Wish::ComeForward, [&running] {
             if (running != nullptr)
                 running->reopen();
         }) == RunningInstance::Claim::HandedOver)
@@ -193,8 +197,7 @@ int RoamletApp::runUntilTheEnd(int argc, char **argv, std::optional<QString> &su
                         .updater = updater,
                         .hasTray = MenuBarIcon::isAvailable});
         running = &app;
-        app.start(
-            QCoreApplication::arguments().contains(QLatin1StringView(AutostartLoginService::launchMarker)));
+        app.start(isLaunchedAtLogin);
         status = QApplication::exec();
         running = nullptr;
         app.mainWindow().close();

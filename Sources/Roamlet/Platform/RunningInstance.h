@@ -14,8 +14,13 @@ class RunningInstance
 public:
     enum class Claim {
         First,      ///< this is the one; later starts activate it
-        HandedOver, ///< another one runs already and was brought forward; this process is to end
+        HandedOver, ///< another one runs already and has heard the wish; this process is to end
         Alone,      ///< the system offers no way to find out; run as if it were the first
+    };
+    /// What a start wants of the one that runs already.
+    enum class Wish {
+        ComeForward, ///< the user has started the program once more
+        Nothing,     ///< the desktop has, and nobody waits for a window
     };
 
     RunningInstance() = default;
@@ -23,8 +28,9 @@ public:
     RunningInstance &operator=(const RunningInstance &) = delete;
     virtual ~RunningInstance() = default;
 
-    /// Claims to be the running program. As the first one, `activated` is called for each later start.
-    virtual Claim claim(std::function<void()> activated) = 0;
+    /// Claims to be the running program. As the first one, `activated` is called for each later start that
+    /// wishes it to come forward.
+    virtual Claim claim(Wish wish, std::function<void()> activated) = 0;
 };
 
 } // namespace roamlet

@@ -37,7 +37,7 @@ DBusRunningInstance::~DBusRunningInstance()
     }
 }
 
-RunningInstance::Claim DBusRunningInstance::claim(std::function<void()> activated)
+RunningInstance::Claim DBusRunningInstance::claim(Wish wish, std::function<void()> activated)
 {
     if (!m_bus.isConnected())
         return Claim::Alone;
@@ -55,6 +55,8 @@ RunningInstance::Claim DBusRunningInstance::claim(std::function<void()> activate
         return Claim::First;
     }
     m_bus.unregisterObject(objectPath);
+    if (wish == Wish::Nothing)
+        return Claim::HandedOver;
     QDBusMessage message =
         QDBusMessage::createMethodCall(serviceName, objectPath, interfaceName, u"Activate"_s);
     message << QVariantMap();

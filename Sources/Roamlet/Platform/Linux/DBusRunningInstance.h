@@ -27,7 +27,7 @@ public:
     explicit DBusRunningInstance(const QDBusConnection &bus);
     ~DBusRunningInstance() override;
 
-    Claim claim(std::function<void()> activated) override;
+    Claim claim(Wish wish, std::function<void()> activated) override;
 
 public Q_SLOTS:
     /// A later start, or the desktop, brings the program forward.
