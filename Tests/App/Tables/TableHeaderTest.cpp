@@ -139,6 +139,21 @@ TEST_F(TableHeaderTest, AHiddenColumnStaysHidden)
     EXPECT_EQ(shownColumns(), defaultColumns);
 }
 
+TEST_F(TableHeaderTest, HidingAColumnWithTheMouseChoosesNoWidth)
+{
+    // The menu takes the release of the button that opened it.
+    QTest::mousePress(header().viewport(), Qt::RightButton, {}, {5, 5});
+    QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(5, 5), QPoint(5, 5));
+    QCoreApplication::sendEvent(header().viewport(), &event);
+    choose(*table, u"columnMenu"_s, u"Visits"_s);
+    EXPECT_TRUE(ColumnLayout::load(home.defaults, u"columns.history"_s).widths.isEmpty());
+    const int title = header().sectionSize(HistoryTable::Title);
+    table->resize(table->width() + 100, table->height());
+    EXPECT_EQ(header().sectionSize(HistoryTable::Title), title + 100);
+    build();
+    EXPECT_EQ(shownColumns(), (QStringList{u"Title"_s, u"Last Visited"_s, u"Source"_s}));
+}
+
 TEST_F(TableHeaderTest, TheTitleCannotBeHidden)
 {
     openMenu();

@@ -125,7 +125,8 @@ void TableHeader::fillWithTitle()
 
 void TableHeader::mousePressEvent(QMouseEvent *event)
 {
-    m_isDragging = true;
+    // Only this button arranges columns. The menu that another one opens takes its release.
+    m_isDragging = event->button() == Qt::LeftButton;
     QHeaderView::mousePressEvent(event);
 }
 
@@ -137,7 +138,7 @@ void TableHeader::mouseReleaseEvent(QMouseEvent *event)
 
 void TableHeader::mouseDoubleClickEvent(QMouseEvent *event)
 {
-    m_isDragging = true;
+    m_isDragging = event->button() == Qt::LeftButton;
     QHeaderView::mouseDoubleClickEvent(event);
     finishDragging();
 }
