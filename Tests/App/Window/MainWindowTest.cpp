@@ -64,6 +64,17 @@ TEST_F(MainWindowTest, openingItIsAnAppearanceAndClosingItADisappearance)
     EXPECT_EQ(activation.current, Policy::Accessory);
 }
 
+TEST_F(MainWindowTest, aMaximisedWindowThatWasMinimisedComesBackMaximised)
+{
+    const auto window = makeWindow();
+    window->showMaximized();
+    window->setWindowState(window->windowState() | Qt::WindowMinimized);
+    ASSERT_TRUE(window->isMinimized());
+    window->open();
+    EXPECT_FALSE(window->isMinimized());
+    EXPECT_TRUE(window->isMaximized());
+}
+
 TEST_F(MainWindowTest, itIsNeverSmallerThanItsContentNeeds)
 {
     const auto window = makeWindow();

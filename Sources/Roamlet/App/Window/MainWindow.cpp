@@ -48,8 +48,8 @@ MainWindow::MainWindow(const Services &services)
 
 void MainWindow::open()
 {
-    if (isMinimized())
-        showNormal();
+    // Only that: what was maximised before shall be so again.
+    setWindowState(windowState() & ~Qt::WindowMinimized);
     show();
     m_services.activation.bringToFront();
     raise();
@@ -115,7 +115,7 @@ void MainWindow::updateExportCommand()
 
 void MainWindow::showExportSheet(const ExportRequest &request)
 {
-    if (m_sheet && m_sheet->isVisible()) {
+    if (m_sheet != nullptr && m_sheet->isVisible()) {
         m_sheet->raise();
         return;
     }
@@ -158,7 +158,7 @@ void MainWindow::closeEvent(QCloseEvent *event)
 
 void MainWindow::restorePlace()
 {
-    UserDefaults &defaults = m_services.content.defaults;
+    const UserDefaults &defaults = m_services.content.defaults;
     resize(usual);
     if (const std::optional<QByteArray> place = defaults.bytes(placeKey))
         restoreGeometry(*place);
