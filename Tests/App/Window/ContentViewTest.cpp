@@ -88,6 +88,7 @@ TEST_F(ContentViewTest, eachPaneHasItsTable)
     EXPECT_EQ(shownTable(*content), u"bookmarkTree");
     expectSubtitle(*content, u"1 item"_s);
     content->setPane(MostVisitedPane());
+    EXPECT_EQ(shownTable(*content), u"mostVisitedTable");
     EXPECT_EQ(title(*content), u"Most Visited");
     expectSubtitle(*content, u"4 items"_s);
     content->setPane(HistoryPane{u"chrome/Default"_s});
@@ -283,6 +284,21 @@ TEST_F(ContentViewTest, withoutAnyBrowserItSaysWhereItLooked)
     EXPECT_THAT(text, ::testing::HasSubstr("~/.config/google-chrome"));
     EXPECT_THAT(text, ::testing::HasSubstr("microsoft-edge"));
     EXPECT_THAT(text, ::testing::Not(::testing::HasSubstr(home.path().toStdString())));
+}
+
+TEST_F(ContentViewTest, browsersThatVanishLeaveNothingToCount)
+{
+    addChromium();
+    loadNow(*library);
+    const auto content = makeContent();
+    expectSubtitle(*content, u"4 items"_s);
+    change([this] {
+        for (const QString &browser : {u"chrome"_s, u"edge"_s})
+            EXPECT_TRUE(QDir(home.folders.dataRoot(browser)).removeRecursively());
+    });
+    loadNow(*library);
+    EXPECT_EQ(shownTable(*content), u"");
+    EXPECT_EQ(subtitle(*content), u"0 items");
 }
 
 TEST_F(ContentViewTest, aSourceThatIsSwitchedOffWhileItIsShownLeavesAllOfThem)

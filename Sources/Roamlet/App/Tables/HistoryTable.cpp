@@ -44,7 +44,7 @@ HistoryTable::Order defaultOrder(HistoryTable::Mode mode)
 
 HistoryTable::HistoryTable(const WindowServices &services, Mode mode, QWidget *parent)
     : SortedTable(services,
-                  {.objectName = u"historyTable"_s,
+                  {.objectName = mode == Mode::Recent ? u"historyTable"_s : u"mostVisitedTable"_s,
                    .accessibleName = mode == Mode::Recent ? u"History"_s : u"Most Visited"_s,
                    .layoutKey = mode == Mode::Recent ? u"columns.history"_s : u"columns.mostVisited"_s,
                    .shape = TableView::Shape::List,

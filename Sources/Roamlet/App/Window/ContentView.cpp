@@ -258,11 +258,11 @@ void ContentView::updateList()
                              .site = m_list.site,
                              .grouping =
                                  m_pane ? m_groupings.value(PaneText::groupedList(*m_pane)) : Grouping::None};
-    if (auto *table = qobject_cast<LinkTable *>(list)) {
-        // Before it is shown, or else it would begin with what it showed last.
+    auto *table = qobject_cast<LinkTable *>(list);
+    // Before it is shown, or else it would begin with what it showed last.
+    if (table != nullptr)
         table->setInputs(inputs);
-        m_list.rowCount = table->rowCount();
-    }
+    m_list.rowCount = table != nullptr ? table->rowCount() : 0;
     const auto *history = qobject_cast<HistoryTable *>(list);
     m_list.isCapped = history != nullptr && history->isCapped();
     m_lists->setCurrentWidget(list);
