@@ -49,6 +49,19 @@ TEST_F(PaneTextTest, theTitleNamesWhatIsShown)
     EXPECT_EQ(PaneText::title(BookmarksPane{u"edge/Default"_s}, library), u"Office Bookmarks");
 }
 
+TEST_F(PaneTextTest, aTitleIsOneLineOfAReadableLength)
+{
+    addChromium();
+    change([this] {
+        sample::writeLocalState(chromeFile(u"Local State"_s),
+                                {{u"Default"_s, QJsonObject{{u"name"_s, u"two\nlines"_s}}},
+                                 {u"Profile 1"_s, QJsonObject{{u"name"_s, QString(1'000'000, u'x')}}}});
+    });
+    loadNow(library);
+    EXPECT_EQ(PaneText::title(HistoryPane{u"chrome/Default"_s}, library), u"two lines History");
+    EXPECT_LT(PaneText::title(HistoryPane{u"chrome/Profile 1"_s}, library).size(), 2000);
+}
+
 TEST_F(PaneTextTest, theTitleFallsBackWhenTheSourceIsGone)
 {
     addChromium();

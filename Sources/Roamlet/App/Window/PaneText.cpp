@@ -3,6 +3,8 @@
 
 #include "App/Window/PaneText.h"
 
+#include "App/Tables/CellText.h"
+
 #include <algorithm>
 
 namespace roamlet::PaneText
@@ -40,7 +42,7 @@ QString title(const std::optional<Pane> &pane, const Library &library)
         return u"Most Visited"_s;
     const bool isHistory = std::holds_alternative<HistoryPane>(*pane);
     if (const std::optional<Source> source = library.source(sourceIDOf(*pane)))
-        return source->name % (isHistory ? u" History" : u" Bookmarks");
+        return CellText::oneLine(source->name) % (isHistory ? u" History" : u" Bookmarks");
     return isHistory ? u"Recent History"_s : u"All Bookmarks"_s;
 }
 

@@ -4,6 +4,7 @@
 #include "App/Window/SidebarModel.h"
 
 #include "App/Look/Symbol.h"
+#include "App/Tables/CellText.h"
 #include "Library/Library.h"
 
 namespace roamlet
@@ -32,7 +33,7 @@ QVariant SidebarModel::data(const QModelIndex &index, int role) const
     case Qt::DisplayRole:
         return entry.text;
     case Qt::ToolTipRole:
-        return entry.pane ? QVariant() : QVariant(entry.text);
+        return entry.pane ? QVariant() : QVariant(CellText::toolTip({entry.text}));
     case Qt::DecorationRole:
         return entry.symbol.isEmpty() ? QVariant() : QVariant(symbolIcon(entry.symbol));
     case Qt::AccessibleTextRole:
@@ -80,7 +81,7 @@ QList<SidebarModel::Entry> SidebarModel::entries() const
     addRow(u"Most Visited"_s, u"chart.bar"_s, MostVisitedPane());
     addRow(u"All Bookmarks"_s, u"bookmark"_s, BookmarksPane());
     for (const Source &source : m_library.ordered(m_library.snapshot().sources)) {
-        addHeading(source.label());
+        addHeading(CellText::oneLine(source.label()));
         addRow(u"History"_s, u"clock"_s, HistoryPane{source.id()});
         addRow(u"Bookmarks"_s, u"bookmark"_s, BookmarksPane{source.id()});
     }
