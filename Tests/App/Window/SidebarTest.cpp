@@ -62,6 +62,22 @@ TEST_F(SidebarTest, listsAllSourcesTogetherAndThenEachOne)
     EXPECT_EQ(model.index(5).data(Qt::AccessibleTextRole), u"Chrome - Personal: History"_s);
 }
 
+TEST_F(SidebarTest, aHeadingIsShownAsItIsAndNotAsMarkUp)
+{
+    addChromium();
+    change([this] {
+        sample::writeLocalState(chromeFile(u"Local State"_s),
+                                {{u"Default"_s, QJsonObject{{u"name"_s, u"<h1>Big</h1>"_s}}},
+                                 {u"Profile 1"_s, QJsonObject{{u"name"_s, QString(1'000'000, u'x')}}}});
+    });
+    loadNow(library);
+    const SidebarModel model(library);
+    EXPECT_EQ(model.index(4).data(), u"Chrome - <h1>Big</h1>"_s);
+    EXPECT_TRUE(model.index(4).data(Qt::ToolTipRole).toString().contains(u"&lt;h1&gt;Big&lt;/h1&gt;"));
+    EXPECT_LT(model.index(7).data().toString().size(), 2000);
+    EXPECT_LT(model.index(7).data(Qt::ToolTipRole).toString().size(), 2000);
+}
+
 TEST_F(SidebarTest, followsTheUsersOrder)
 {
     addChromium();
@@ -92,6 +108,43 @@ TEST_F(SidebarTest, theKeyboardGoesFromRowToRowAndSkipsTheHeadings)
     EXPECT_EQ(sidebar.pane(), Pane(HistoryPane{u"chrome/Default"_s}));
     QTest::keyClick(&sidebar, Qt::Key_Up);
     EXPECT_EQ(sidebar.pane(), Pane(BookmarksPane()));
+}
+
+TEST_F(SidebarTest, homeAndEndGoToTheOutermostRows)
+{
+    addChromium();
+    loadNow(library);
+    Sidebar sidebar(library);
+    sidebar.resize(220, 400);
+    for (const Qt::Key key : {Qt::Key_Home, Qt::Key_PageUp}) {
+        sidebar.select(BookmarksPane());
+        QTest::keyClick(&sidebar, key);
+        EXPECT_EQ(sidebar.pane(), Pane(HistoryPane()));
+    }
+    QTest::keyClick(&sidebar, Qt::Key_End);
+    EXPECT_EQ(sidebar.pane(), Pane(BookmarksPane{u"edge/Default"_s}));
+}
+
+TEST_F(SidebarTest, theSelectionIsQuieterWhileTheKeyboardIsElsewhere)
+{
+    QWidget window;
+    QWidget other(&window);
+    other.setFocusPolicy(Qt::StrongFocus);
+    Sidebar sidebar(library, &window);
+    sidebar.resize(220, 400);
+    sidebar.select(HistoryPane());
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(waitUntil([&window] { return window.isActiveWindow(); }));
+    const auto ground = [&sidebar] {
+        const QRect row = sidebar.visualRect(sidebar.currentIndex());
+        return sidebar.viewport()->grab().toImage().pixelColor(row.right() - 16, row.center().y());
+    };
+    sidebar.setFocus();
+    EXPECT_EQ(ground(), sidebar.palette().color(QPalette::Highlight));
+    other.setFocus();
+    EXPECT_NE(ground(), sidebar.palette().color(QPalette::Highlight));
+    EXPECT_NE(ground(), sidebar.palette().color(QPalette::Window)) << "it is still seen";
 }
 
 TEST_F(SidebarTest, aClickSelectsARowAndAHeadingDoesNothing)

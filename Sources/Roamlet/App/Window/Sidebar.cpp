@@ -3,6 +3,7 @@
 
 #include "App/Window/Sidebar.h"
 
+#include "App/Look/MixedColor.h"
 #include "App/Window/PaneText.h"
 #include "App/Window/SidebarModel.h"
 #include "Library/Library.h"
@@ -67,27 +68,27 @@ private:
                          const QIcon &icon)
     {
         const bool isSelected = option.state.testFlag(QStyle::State_Selected);
+        const bool hasFocus = isSelected && option.state.testFlag(QStyle::State_HasFocus);
         const QPalette::ColorGroup group =
             option.state.testFlag(QStyle::State_Active) ? QPalette::Active : QPalette::Inactive;
+        const QColor window = option.palette.color(group, QPalette::Window);
+        const QColor accent = option.palette.color(group, QPalette::Highlight);
+        const QColor ink = option.palette.color(group, QPalette::WindowText);
         const QRect body = option.rect.adjusted(margin, 1, -margin, -1);
-        if (isSelected) {
-            painter->setPen(Qt::NoPen);
-            painter->setBrush(option.palette.color(group, QPalette::Highlight));
-            painter->drawRoundedRect(body, 5, 5);
-        } else if (option.state.testFlag(QStyle::State_MouseOver)) {
-            QColor hint = option.palette.color(QPalette::WindowText);
-            hint.setAlphaF(0.06F);
-            painter->setPen(Qt::NoPen);
-            painter->setBrush(hint);
-            painter->drawRoundedRect(body, 5, 5);
-        }
+        painter->setPen(Qt::NoPen);
+        painter->setBrush(Qt::NoBrush);
+        // The full accent colour tells that the arrow keys move this selection and no other.
+        if (isSelected)
+            painter->setBrush(hasFocus ? accent : mixedColor(window, accent, 0.3F));
+        else if (option.state.testFlag(QStyle::State_MouseOver))
+            painter->setBrush(mixedColor(window, ink, 0.06F));
+        painter->drawRoundedRect(body, 5, 5);
         const QRect content = body.adjusted(padding, 0, -padding, 0);
         QRect iconPlace(0, 0, iconSide, iconSide);
         iconPlace.moveCenter(content.center());
         iconPlace.moveLeft(content.left());
-        icon.paint(painter, iconPlace, Qt::AlignCenter, isSelected ? QIcon::Selected : QIcon::Normal);
-        painter->setPen(
-            option.palette.color(group, isSelected ? QPalette::HighlightedText : QPalette::WindowText));
+        icon.paint(painter, iconPlace, Qt::AlignCenter, hasFocus ? QIcon::Selected : QIcon::Normal);
+        painter->setPen(hasFocus ? option.palette.color(group, QPalette::HighlightedText) : ink);
         const QRect place = content.adjusted(iconSide + padding, 0, 0, 0);
         painter->drawText(place, Qt::AlignLeft | Qt::AlignVCenter,
                           option.fontMetrics.elidedText(text, Qt::ElideRight, place.width()));
@@ -137,6 +138,13 @@ void Sidebar::followSelection()
     const QModelIndexList selected = selectionModel()->selectedIndexes();
     m_pane = selected.isEmpty() ? std::nullopt : m_model->pane(selected.first());
     Q_EMIT paneSelected();
+}
+
+QModelIndex Sidebar::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
+{
+    const QModelIndex index = QListView::moveCursor(action, modifiers);
+    // A heading is no place to go to, but there is always a row under it.
+    return m_model->pane(index) ? index : index.siblingAtRow(index.row() + 1);
 }
 
 void Sidebar::contextMenuEvent(QContextMenuEvent *event)

@@ -38,6 +38,7 @@ Q_SIGNALS:
     void exportRequested(const std::optional<QString> &sourceID);
 
 protected:
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
     QSize sizeHint() const override;
 
