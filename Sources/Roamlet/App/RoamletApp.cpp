@@ -133,7 +133,14 @@ void RoamletApp::reopen()
 int RoamletApp::run(int argc, char **argv)
 {
     std::optional<QString> successor;
-    const int status = runUntilTheEnd(argc, argv, successor);
+    int status = 0;
+    {
+        // Before any other thread: each of them leaves the signals to this one.
+        StopSignals signals;
+        status = runUntilTheEnd(argc, argv, signals.token(), successor);
+        // Everything is gone by now, and with it every private copy and every half download.
+        signals.endProcessIfAsked();
+    }
     if (successor) {
         const QByteArray path = QFile::encodeName(*successor);
         execl(path.constData(), path.constData(), nullptr);
@@ -141,10 +148,9 @@ int RoamletApp::run(int argc, char **argv)
     return status;
 }
 
-int RoamletApp::runUntilTheEnd(int argc, char **argv, std::optional<QString> &successor)
+int RoamletApp::runUntilTheEnd(int argc, char **argv, const std::stop_token &stop,
+                               std::optional<QString> &successor)
 {
-    // Before any other thread: each of them leaves the signals to this one.
-    StopSignals signals;
     const QApplication application(argc, argv);
     QApplication::setApplicationDisplayName(u"Roamlet"_s);
     QApplication::setApplicationVersion(u"" ROAMLET_VERSION ""_s);
@@ -154,7 +160,7 @@ int RoamletApp::runUntilTheEnd(int argc, char **argv, std::optional<QString> &su
     // Without a language, numbers have no groups and times no short form; the texts are English anyway.
     if (QLocale().language() == QLocale::C)
         QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
-    const std::stop_callback end(signals.token(), [] {
+    const std::stop_callback end(stop, [] {
         QMetaObject::invokeMethod(QCoreApplication::instance(), [] { quit(); }, Qt::QueuedConnection);
     });
 
@@ -186,24 +192,19 @@ int RoamletApp::runUntilTheEnd(int argc, char **argv, std::optional<QString> &su
                                                           successor = path;
                                                           QCoreApplication::quit();
                                                       }));
-    int status = 0;
-    {
-        RoamletApp app({.platform = services,
-                        .activation = activation,
-                        .loginService = loginService,
-                        .workspace = workspace,
-                        .savePanel = savePanel,
-                        .alert = alert,
-                        .updater = updater,
-                        .hasTray = MenuBarIcon::isAvailable});
-        running = &app;
-        app.start(isLaunchedAtLogin);
-        status = QApplication::exec();
-        running = nullptr;
-        app.mainWindow().close();
-    }
-    // The library is gone, and with it every private copy.
-    signals.endProcessIfAsked();
+    RoamletApp app({.platform = services,
+                    .activation = activation,
+                    .loginService = loginService,
+                    .workspace = workspace,
+                    .savePanel = savePanel,
+                    .alert = alert,
+                    .updater = updater,
+                    .hasTray = MenuBarIcon::isAvailable});
+    running = &app;
+    app.start(isLaunchedAtLogin);
+    const int status = QApplication::exec();
+    running = nullptr;
+    app.mainWindow().close();
     return status;
 }
 

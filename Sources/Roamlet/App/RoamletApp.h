@@ -14,6 +14,7 @@
 
 #include <functional>
 #include <optional>
+#include <stop_token>
 
 namespace roamlet
 {
@@ -58,8 +59,10 @@ public:
     static int run(int argc, char **argv);
 
 private:
-    /// `successor` is the program that is to take this one's place.
-    static int runUntilTheEnd(int argc, char **argv, std::optional<QString> &successor);
+    /// Runs until the user quits or `stop` asks for the end. `successor` is the program that is to take this
+    /// one's place.
+    static int runUntilTheEnd(int argc, char **argv, const std::stop_token &stop,
+                              std::optional<QString> &successor);
 
     /// Reads the browsers while the windows are being made.
     struct StartedLibrary {

@@ -528,5 +528,24 @@ TEST_F(FeedUpdateDriverTest, AProgramThatEndsInTheMiddleLeavesNothing)
     EXPECT_TRUE(QDir(folder.filePath(u"packages"_s)).isEmpty());
 }
 
+TEST_F(FeedUpdateDriverTest, WhatAProgramThatWasKilledHasLeftIsClearedAway)
+{
+    open();
+    EXPECT_FALSE(QFile::exists(folder.filePath(u"packages"_s))) << "nothing was there, so nothing is made";
+    ASSERT_TRUE(QDir().mkpath(folder.filePath(u"packages"_s)));
+    write(folder.filePath(u"packages/Roamlet.deb"_s), "the desktop may be at it");
+    write(folder.filePath(u"packages/Roamlet.deb.part"_s), "half");
+    driver.reset();
+    open();
+    EXPECT_EQ(QDir(folder.filePath(u"packages"_s)).entryList(QDir::Files), QStringList{u"Roamlet.deb"_s});
+    appImage = folder.filePath(u"Roamlet.AppImage"_s);
+    write(appImage, "program");
+    write(folder.filePath(u".Roamlet.AppImage.update.part"_s), "half");
+    driver.reset();
+    open();
+    EXPECT_FALSE(QFile::exists(folder.filePath(u".Roamlet.AppImage.update.part"_s)));
+    EXPECT_TRUE(QFile::exists(appImage));
+}
+
 } // namespace
 } // namespace roamlet::testing

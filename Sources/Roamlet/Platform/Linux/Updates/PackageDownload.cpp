@@ -25,6 +25,11 @@ namespace
 /// The signature is of the whole content, which has to be in memory to be checked.
 constexpr qint64 largestPackage = qint64{512} << 20U;
 
+QString unfinishedName(const QString &target)
+{
+    return target % u".part";
+}
+
 UpdateError systemError(UpdateError::Code code)
 {
     return {code, QString::fromStdString(lastError().message())};
@@ -57,7 +62,7 @@ PackageDownload::PackageDownload(QNetworkAccessManager &network, const Clock &cl
       m_key(key),
       m_target(target),
       m_handlers(std::move(handlers)),
-      m_file(target % u".part")
+      m_file(unfinishedName(target))
 {
     if (const auto error = prepare()) {
         clock.after(Clock::Duration::zero(), this, [this, error] { finish(error); });
@@ -85,6 +90,11 @@ PackageDownload::~PackageDownload()
     // After a success it has another name by now.
     if (m_file.isOpen())
         m_file.remove();
+}
+
+void PackageDownload::removeUnfinished(const QString &target)
+{
+    QFile::remove(unfinishedName(target));
 }
 
 std::optional<UpdateError> PackageDownload::prepare()

@@ -41,6 +41,9 @@ public:
                     Package package, const QByteArray &key, const QString &target, Handlers handlers);
     ~PackageDownload() override;
 
+    /// Removes what a download to `target` left that its program could not clear away.
+    static void removeUnfinished(const QString &target);
+
 protected:
     /// The check has ended.
     void customEvent(QEvent *event) override;

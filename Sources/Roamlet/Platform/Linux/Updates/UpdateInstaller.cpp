@@ -3,8 +3,9 @@
 
 #include "Platform/Linux/Updates/UpdateInstaller.h"
 
-#include "Platform/Linux/LinuxIO.h"
 #include "Platform/Linux/AppImage.h"
+#include "Platform/Linux/LinuxIO.h"
+#include "Platform/Linux/Updates/PackageDownload.h"
 
 #include <QDir>
 #include <QFile>
@@ -48,8 +49,20 @@ std::expected<QString, UpdateError> UpdateInstaller::packagePath() const
         const QString folder = m_environment.packageFolder;
         if (!QDir().mkpath(folder) || ::chmod(QFile::encodeName(folder).constData(), S_IRWXU) != 0)
             return std::unexpected(lastErrorAs(UpdateError::Code::CannotWrite));
-        return QString(folder % u"/Roamlet.deb");
     }
+    return target();
+}
+
+void UpdateInstaller::removeLeftovers() const
+{
+    if (const auto path = target())
+        PackageDownload::removeUnfinished(*path);
+}
+
+std::expected<QString, UpdateError> UpdateInstaller::target() const
+{
+    if (m_environment.appImage.isEmpty())
+        return QString(m_environment.packageFolder % u"/Roamlet.deb");
     // In the same folder, so that it takes a mere renaming to put it in its place.
     const QFileInfo program(QFileInfo(m_environment.appImage).canonicalFilePath());
     if (!program.isFile())

@@ -38,11 +38,14 @@ public:
 
     /// Where the package has to be for install(). Its folder is there, or the error tells why not.
     std::expected<QString, UpdateError> packagePath() const;
+    /// Removes what a download of an earlier run has left unfinished.
+    void removeLeftovers() const;
     /// Hands the package to the desktop's installer, or replaces the AppImage by it and restarts. Nothing
     /// when that went well.
     std::optional<UpdateError> install();
 
 private:
+    std::expected<QString, UpdateError> target() const;
     std::optional<UpdateError> replaceAppImage(const QString &package) const;
 
     Environment m_environment;
