@@ -12,6 +12,7 @@
 
 // Last: it defines names such as None and Bool.
 extern "C" {
+#include <X11/XKBlib.h>
 #include <xdo.h>
 }
 
@@ -42,6 +43,30 @@ public:
 private:
     Display *m_display;
     XErrorHandler m_previous;
+};
+
+/// Takes Caps Lock away for a while, so that letters are typed as they are.
+class CapsLockOff final
+{
+public:
+    explicit CapsLockOff(const xdo_t *xdo)
+        : m_display(xdo->xdpy), m_wasOn((xdo_get_input_state(xdo) & LockMask) != 0)
+    {
+        lock(0);
+    }
+    CapsLockOff(const CapsLockOff &) = delete;
+    CapsLockOff &operator=(const CapsLockOff &) = delete;
+    ~CapsLockOff() { lock(LockMask); }
+
+private:
+    void lock(unsigned modifiers) const
+    {
+        if (m_wasOn)
+            XkbLockModifiers(m_display, XkbUseCoreKbd, LockMask, modifiers);
+    }
+
+    Display *m_display;
+    bool m_wasOn;
 };
 
 struct XDeleter {
@@ -151,6 +176,7 @@ void XdoBrowserWindows::type(std::uint64_t window, const QString &text)
     if (!m_xdo)
         return;
     const ErrorsIgnored ignored(m_xdo->xdpy);
+    const CapsLockOff capsLock(m_xdo.get());
     xdo_enter_text_window(m_xdo.get(), window, text.toUtf8().constData(), 0);
 }
 
