@@ -128,6 +128,14 @@ protected:
     std::unique_ptr<XdoBrowserWindows> windows;
 };
 
+TEST_F(TypingTest, NothingIsTypedOnAKeyboardWithoutLatinLetters)
+{
+    for (const QString &layout : {u"ru"_s, u"gr"_s, u"il"_s, u"ara"_s})
+        EXPECT_FALSE(canSteerWith(layout)) << layout.toStdString();
+    for (const QString &layout : {u"us"_s, u"fr"_s, u"de"_s, u"tr"_s, u"dvorak"_s, u"ru,us"_s})
+        EXPECT_TRUE(canSteerWith(layout)) << layout.toStdString();
+}
+
 TEST_F(TypingTest, CapsLockStaysOnAndChangesNoText)
 {
     ASSERT_TRUE(canSteerWith(u"us"_s));

@@ -30,7 +30,8 @@ public:
     BrowserWindows &operator=(const BrowserWindows &) = delete;
     virtual ~BrowserWindows() = default;
 
-    /// Whether this desktop lets programs do this at all. Asked before each use of the others.
+    /// Whether this desktop lets programs do this at all, and its keyboard has the letters of addresses.
+    /// Asked before each use of the others.
     virtual bool canSteer() = 0;
     /// The frontmost window that has one of these classes.
     virtual std::optional<Window> front(const QStringList &classes) = 0;

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <string_view>
 #include <utility>
 
 // Last: it defines names such as None and Bool.
@@ -107,6 +108,16 @@ bool hasClass(const xdo_t *xdo, Window window, const QStringList &classes)
     });
 }
 
+/// Whether the keyboard has keys for what addresses of pages are made of. For a letter that it lacks, a key
+/// would be borrowed, and browsers take what comes from it for something else.
+bool canTypeAddresses(const xdo_t *xdo)
+{
+    // These characters are their own symbols.
+    return std::ranges::all_of(
+        std::string_view("abcdefghijklmnopqrstuvwxyz0123456789:/?="),
+        [xdo](char each) { return XKeysymToKeycode(xdo->xdpy, static_cast<KeySym>(each)) != 0; });
+}
+
 } // namespace
 
 void XdoBrowserWindows::Closer::operator()(xdo *connection) const
@@ -127,7 +138,7 @@ bool XdoBrowserWindows::canSteer()
     if (!m_xdo)
         return false;
     const ErrorsIgnored ignored(m_xdo->xdpy);
-    return !windowsOf(m_xdo.get(), "_NET_SUPPORTING_WM_CHECK").isEmpty();
+    return !windowsOf(m_xdo.get(), "_NET_SUPPORTING_WM_CHECK").isEmpty() && canTypeAddresses(m_xdo.get());
 }
 
 std::optional<BrowserWindows::Window> XdoBrowserWindows::front(const QStringList &classes)
