@@ -6,6 +6,8 @@
 #include "Support/Waiting.h"
 
 #include <QDBusMessage>
+#include <QDBusVirtualObject>
+#include <QMetaObject>
 #include <QProcess>
 #include <QStandardPaths>
 
@@ -128,6 +130,45 @@ TEST_F(DBusRunningInstanceTest, AFirstOneThatIsStuckDoesNotKeepTheSecondForever)
     // The name is taken, but nothing stands behind it.
     ASSERT_TRUE(QDBusConnection(stuck).registerService(u"org.roamlet.Roamlet"_s));
     EXPECT_EQ(claimElsewhere(u"second"_s), Claim::HandedOver);
+}
+
+/// Has the name, and ends as soon as it is asked for anything, without an answer.
+class EndingOwner final : public QDBusVirtualObject
+{
+public:
+    explicit EndingOwner(const QString &connection) : m_connection(connection) {}
+    QString introspect(const QString & /*path*/) const override { return {}; }
+    bool handleMessage(const QDBusMessage &message, const QDBusConnection & /*connection*/) override
+    {
+        message.setDelayedReply(true);
+        QMetaObject::invokeMethod(
+            this, [this] { QDBusConnection::disconnectFromBus(m_connection); }, Qt::QueuedConnection);
+        return true;
+    }
+
+private:
+    QString m_connection;
+};
+
+TEST_F(DBusRunningInstanceTest, AStartThatMeetsTheEndOfTheFirstTakesItsPlace)
+{
+    EndingOwner owner(u"first"_s);
+    {
+        QDBusConnection first = connection(u"first"_s);
+        ASSERT_TRUE(first.registerVirtualObject(u"/org/roamlet/Roamlet"_s, &owner, QDBusConnection::SubPath));
+        ASSERT_TRUE(first.registerService(u"org.roamlet.Roamlet"_s));
+    }
+    EXPECT_EQ(claimElsewhere(u"second"_s), Claim::First);
+}
+
+TEST_F(DBusRunningInstanceTest, AProgramThatIsEndingLeavesThePlaceToTheNext)
+{
+    int activations = 0;
+    DBusRunningInstance first(connection(u"first"_s));
+    ASSERT_EQ(first.claim(Wish::ComeForward, [&activations] { ++activations; }), Claim::First);
+    first.release();
+    EXPECT_EQ(claimElsewhere(u"second"_s), Claim::First);
+    EXPECT_EQ(activations, 0);
 }
 
 TEST(DBusRunningInstanceWithoutABusTest, TheProgramRunsAlone)

@@ -204,6 +204,8 @@ int RoamletApp::runUntilTheEnd(int argc, char **argv, const std::stop_token &sto
     app.start(isLaunchedAtLogin);
     const int status = QApplication::exec();
     running = nullptr;
+    // Putting everything away takes a while, in which nobody would answer a later start.
+    instance.release();
     app.mainWindow().close();
     return status;
 }

@@ -31,6 +31,8 @@ public:
     /// Claims to be the running program. As the first one, `activated` is called for each later start that
     /// wishes it to come forward.
     virtual Claim claim(Wish wish, std::function<void()> activated) = 0;
+    /// The program is about to end: from now on a later start is the first one.
+    virtual void release() = 0;
 };
 
 } // namespace roamlet

@@ -31,10 +31,7 @@ DBusRunningInstance::DBusRunningInstance(const QDBusConnection &bus) : m_bus(bus
 
 DBusRunningInstance::~DBusRunningInstance()
 {
-    if (m_activated) {
-        m_bus.unregisterService(serviceName);
-        m_bus.unregisterObject(objectPath);
-    }
+    release();
 }
 
 RunningInstance::Claim DBusRunningInstance::claim(Wish wish, std::function<void()> activated)
@@ -43,25 +40,46 @@ RunningInstance::Claim DBusRunningInstance::claim(Wish wish, std::function<void(
         return Claim::Alone;
     // The object stands before the name is taken: whoever finds the name finds somebody who answers.
     m_bus.registerObject(objectPath, this, QDBusConnection::ExportAllSlots);
-    const QDBusReply<QDBusConnectionInterface::RegisterServiceReply> reply =
-        m_bus.interface()->registerService(serviceName, QDBusConnectionInterface::DontQueueService,
-                                           QDBusConnectionInterface::DontAllowReplacement);
-    if (!reply.isValid()) {
-        m_bus.unregisterObject(objectPath);
-        return Claim::Alone;
-    }
-    if (reply.value() == QDBusConnectionInterface::ServiceRegistered) {
-        m_activated = std::move(activated);
-        return Claim::First;
+    // The one that has the name can be about to end, and then this one is its successor.
+    constexpr int mostAttempts = 5;
+    for (int attempt = 0; attempt < mostAttempts; ++attempt) {
+        const QDBusReply<QDBusConnectionInterface::RegisterServiceReply> reply =
+            m_bus.interface()->registerService(serviceName, QDBusConnectionInterface::DontQueueService,
+                                               QDBusConnectionInterface::DontAllowReplacement);
+        if (!reply.isValid())
+            break;
+        if (reply.value() == QDBusConnectionInterface::ServiceRegistered) {
+            m_activated = std::move(activated);
+            return Claim::First;
+        }
+        if (wish == Wish::Nothing || bringForward()) {
+            m_bus.unregisterObject(objectPath);
+            return Claim::HandedOver;
+        }
     }
     m_bus.unregisterObject(objectPath);
-    if (wish == Wish::Nothing)
-        return Claim::HandedOver;
-    QDBusMessage message =
-        QDBusMessage::createMethodCall(serviceName, objectPath, interfaceName, u"Activate"_s);
+    return Claim::Alone;
+}
+
+/// Whether there is still one that has the name. One that is stuck counts: a second one would not free it.
+bool DBusRunningInstance::bringForward()
+{
+    const QString owner = m_bus.interface()->serviceOwner(serviceName);
+    if (owner.isEmpty())
+        return false;
+    QDBusMessage message = QDBusMessage::createMethodCall(owner, objectPath, interfaceName, u"Activate"_s);
     message << QVariantMap();
-    m_bus.call(message, QDBus::Block, activationTimeout);
-    return Claim::HandedOver;
+    const bool isHeard =
+        m_bus.call(message, QDBus::Block, activationTimeout).type() == QDBusMessage::ReplyMessage;
+    return isHeard || m_bus.interface()->serviceOwner(serviceName) == owner;
+}
+
+void DBusRunningInstance::release()
+{
+    if (!std::exchange(m_activated, nullptr))
+        return;
+    m_bus.unregisterService(serviceName);
+    m_bus.unregisterObject(objectPath);
 }
 
 void DBusRunningInstance::Activate(const QVariantMap & /*platformData*/)

@@ -28,6 +28,7 @@ public:
     ~DBusRunningInstance() override;
 
     Claim claim(Wish wish, std::function<void()> activated) override;
+    void release() override;
 
 public Q_SLOTS:
     /// A later start, or the desktop, brings the program forward.
@@ -38,6 +39,8 @@ public Q_SLOTS:
     void ActivateAction(const QString &name, const QVariantList &parameters, const QVariantMap &platformData);
 
 private:
+    bool bringForward();
+
     QDBusConnection m_bus;
     std::function<void()> m_activated;
 };
