@@ -199,6 +199,23 @@ TEST_F(LinuxWorkspaceTest, ChromiumsSnapIsNotThePackage)
     EXPECT_TRUE(starts().isEmpty());
 }
 
+TEST_F(LinuxWorkspaceTest, AnEarlyVersionsDataIsOpenedByTheEarlyVersion)
+{
+    desktop.addApplication(u"google-chrome.desktop"_s, u"chrome"_s);
+    desktop.addApplication(u"microsoft-edge.desktop"_s, u"edge"_s);
+    home.defaults.setString(u"dataRoot.chrome"_s, u"~/.config/google-chrome-beta"_s);
+    home.defaults.setString(u"dataRoot.edge"_s, u"~/.config/microsoft-edge-dev"_s);
+    workspace.openInProfile({u"http://a/"_s}, chromeID, u"Default"_s);
+    workspace.openInProfile({u"http://a/"_s}, edgeID, u"Default"_s);
+    EXPECT_TRUE(starts().isEmpty()) << "another version stands in for it";
+    desktop.addApplication(u"google-chrome-beta.desktop"_s, u"chrome-beta"_s);
+    EXPECT_EQ(programForLink(chromeID), u"chrome-beta");
+    desktop.addApplication(u"microsoft-edge-dev.desktop"_s, u"edge-dev"_s);
+    workspace.showPage(u"edge://favorites/"_s, edgeID, u"Default"_s);
+    EXPECT_EQ(starts().value(1).program, u"edge-dev");
+    EXPECT_EQ(windows->askedClasses, QStringList{u"microsoft-edge-dev"_s});
+}
+
 TEST_F(LinuxWorkspaceTest, DataFromAMacIsOpenedByTheBrowserThatIsHere)
 {
     keepDataIn(u"Library/Application Support/Google/Chrome"_s);

@@ -77,6 +77,11 @@ std::optional<Variant> variantOfData(const QString &root)
         return chrome(Packaging::Native);
     if (root.endsWith(u"/microsoft-edge"))
         return edge(Packaging::Native);
+    // Such as "google-chrome-beta": early versions are packages of their own, which give this name to all
+    // that is theirs.
+    const QString name = root.section(u'/', -1);
+    if (name.startsWith(u"google-chrome-") || name.startsWith(u"microsoft-edge-"))
+        return Variant{Packaging::Native, {name}, {name}};
     return {};
 }
 
