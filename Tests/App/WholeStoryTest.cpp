@@ -7,8 +7,10 @@
 #include "App/RoamletApp.h"
 #include "App/Tables/LinkTable.h"
 #include "App/Updates/BundleInformation.h"
+#include "App/Updates/UpdateWindows.h"
 #include "App/Updates/Updater.h"
 #include "App/Window/ContentView.h"
+#include "Platform/Update.h"
 #include "Support/FakeActivationPolicy.h"
 #include "Support/FakeLoginService.h"
 #include "Support/FakeUpdateDriver.h"
@@ -16,7 +18,9 @@
 #include "Support/LibraryHome.h"
 #include "Support/Waiting.h"
 
+#include <QApplication>
 #include <QDialog>
+#include <QEvent>
 #include <QFile>
 #include <QLineEdit>
 #include <QMenu>
@@ -47,7 +51,7 @@ protected:
                                                                 .savePanel = savePanel,
                                                                 .alert = alert,
                                                                 .updater = updater,
-                                                                .hasTray = [] { return true; }});
+                                                                .hasTray = [this] { return hasTray; }});
     }
     void TearDown() override
     {
@@ -89,6 +93,7 @@ protected:
         return held ? ::testing::AssertionSuccess() : ::testing::AssertionFailure();
     }
 
+    bool hasTray = true;
     FakeActivationPolicy activation;
     FakeLoginService loginService;
     FakeWorkspace workspace;
@@ -224,6 +229,57 @@ TEST_F(WholeStoryTest, theSettingsOpenFromTheMenuAndFromTheWindow)
     EXPECT_TRUE(app->settingsWindow().isVisible());
     app->settingsWindow().close();
     EXPECT_FALSE(app->settingsWindow().isVisible());
+}
+
+/// Counts how often the program is asked to quit, and keeps it from doing so.
+class QuitCounter final : public QObject
+{
+public:
+    QuitCounter() { qApp->installEventFilter(this); }
+    int count() const { return m_count; }
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (watched != qApp || event->type() != QEvent::Quit)
+            return false;
+        ++m_count;
+        return true;
+    }
+
+private:
+    int m_count = 0;
+};
+
+TEST_F(WholeStoryTest, withoutATrayTheProgramEndsWithItsLastWindowAndNotBetweenTwo)
+{
+    hasTray = false;
+    QApplication::setQuitOnLastWindowClosed(false);
+    app->start(false);
+    UpdateWindows windows(u"1.0"_s, [](const QString &) {});
+    Update update;
+    update.version = u"2.0"_s;
+    windows.showUpdate(update, [&](UpdateUserInterface::Choice) { windows.showDownload(update, [] {}); });
+    const QuitCounter quits;
+    int quitsAtTheDownload = -1;
+    int quitsAtTheEnd = -1;
+    QMetaObject::invokeMethod(
+        qApp,
+        [&] {
+            app->mainWindow().close();
+            for (const QWidget *window : QApplication::topLevelWidgets()) {
+                if (auto *install = window->findChild<QPushButton *>(u"updateInstall"_s))
+                    QTest::mouseClick(install, Qt::LeftButton);
+            }
+            QCoreApplication::processEvents();
+            quitsAtTheDownload = quits.count();
+            windows.close();
+            QCoreApplication::processEvents();
+            quitsAtTheEnd = quits.count();
+            QCoreApplication::exit();
+        },
+        Qt::QueuedConnection);
+    QApplication::exec();
+    EXPECT_EQ(quitsAtTheDownload, 0);
+    EXPECT_GT(quitsAtTheEnd, 0);
 }
 
 } // namespace roamlet::testing

@@ -64,6 +64,16 @@ bool hasVisibleWindow()
     return std::ranges::any_of(windows, [](const QWidget *window) { return !window->isMinimized(); });
 }
 
+/// Whether anything stands on the screen that the user can come back to.
+bool isAnyWindowOpen()
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    return std::ranges::any_of(windows, [](const QWidget *window) {
+        return window->isVisible() &&
+               (window->windowType() == Qt::Window || window->windowType() == Qt::Dialog);
+    });
+}
+
 } // namespace
 
 RoamletApp::RoamletApp(const Services &services)
@@ -107,11 +117,15 @@ RoamletApp::RoamletApp(const Services &services)
     m_menu.setUpdateIsWaiting(services.updater.updateIsWaiting());
     QObject::connect(&services.updater, &Updater::updateIsWaitingChanged, &m_menu,
                      &MenuBarMenu::setUpdateIsWaiting);
-    // Without a tray there is no way back to a program without windows.
-    QObject::connect(qApp, &QGuiApplication::lastWindowClosed, &m_mainWindow, [this] {
-        if (!m_services.hasTray())
-            quit();
-    });
+    // Without a tray there is no way back to a program without windows. Where one window takes the place of
+    // another, there is none for a moment, so this looks once that has passed.
+    QObject::connect(
+        qApp, &QGuiApplication::lastWindowClosed, &m_mainWindow,
+        [this] {
+            if (!m_services.hasTray() && !isAnyWindowOpen())
+                QCoreApplication::quit();
+        },
+        Qt::QueuedConnection);
     QObject::connect(&m_mainWindow, &MainWindow::settingsRequested, &m_settingsWindow, &SettingsWindow::open);
 }
 
