@@ -86,9 +86,10 @@ TEST_F(HistoryTableTest, NothingIsReadUntilTheTableIsSeen)
 {
     recordReads();
     HistoryTable table(services(), Mode::Recent);
-    expectNoList(table, [&] { table.setInputs({.sourceID = u"chrome/Default"_s}); });
+    expectNoList(table,
+                 [&] { table.setInputs({.sourceID = u"chrome/Default"_s, .site = u"today.example"_s}); });
     EXPECT_TRUE(takeReads().isEmpty());
-    show(table, {.sourceID = u"chrome/Profile 1"_s});
+    show(table, {.sourceID = u"chrome/Profile 1"_s, .site = u"work.example"_s});
     EXPECT_EQ(takeReads(), QStringList{u"chrome/Profile 1"_s});
 }
 
@@ -192,7 +193,7 @@ TEST_F(HistoryTableTest, ALateResultIsNotShown)
     Gate gate;
     recordReads(&gate);
     const QSignalSpy lists(&table, &LinkTable::rowCountChanged);
-    table.setInputs({.sourceID = u"chrome/Default"_s});
+    table.setInputs({.sourceID = u"chrome/Default"_s, .site = u"today.example"_s});
     gate.awaitReader();
     awaitList(table, [&] { table.setInputs({.sourceID = u"edge/Default"_s}); });
     EXPECT_EQ(titles(table), "e1");
@@ -292,6 +293,16 @@ TEST_F(HistoryTableTest, TheNextDayIsNoticedWhenTheWindowIsUsedAgain)
     other.activateWindow();
     home.clock.advance(24h);
     awaitList(table, [&] { table.activateWindow(); });
+    EXPECT_EQ(titles(table).substr(0, 22), "Yesterday e1 today wor");
+}
+
+TEST_F(HistoryTableTest, TheNextDayIsNoticedWhenTheTableIsShownAgain)
+{
+    HistoryTable table(services(), Mode::Recent);
+    show(table, {.grouping = Grouping::Day});
+    table.hide();
+    home.clock.advance(24h);
+    awaitList(table, [&] { table.show(); });
     EXPECT_EQ(titles(table).substr(0, 22), "Yesterday e1 today wor");
 }
 

@@ -77,21 +77,25 @@ void LinkTable::refreshIfVisible()
         refresh();
 }
 
+void LinkTable::catchUp()
+{
+    // A list that was left alone over night still says "Today" about yesterday.
+    if (localText().today() != m_model.localText().today())
+        invalidate();
+    refresh();
+}
+
 void LinkTable::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
-    refresh();
+    catchUp();
 }
 
 void LinkTable::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);
-    // A window that was left open over night still says "Today" about yesterday.
-    if (event->type() == QEvent::ActivationChange && isVisible() && isActiveWindow() &&
-        localText().today() != m_model.localText().today()) {
-        invalidate();
-        refresh();
-    }
+    if (event->type() == QEvent::ActivationChange && isVisible() && isActiveWindow())
+        catchUp();
 }
 
 LocalText LinkTable::localText() const

@@ -103,6 +103,8 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    /// Comes back to a list after a while in which it was not looked at.
+    void catchUp();
     LocalText localText() const;
     QString emptyText() const;
     QList<Opener::Link> selectedLinks() const;
