@@ -72,6 +72,14 @@ INSTANTIATE_TEST_SUITE_P(Layouts, UnreadableColumnLayout,
                                            R"({"order":[],"hidden":[],"widths":{"title":1.5}})",
                                            R"({"order":["title"],"hidden":[],"widths":{})"));
 
+TEST(ColumnLayoutTest, AWidthOfZeroIsNoWidth)
+{
+    const auto layout = ColumnLayout::fromJson(R"({"order":[],"hidden":["a"],"widths":{"a":0,"b":70}})");
+    ASSERT_TRUE(layout);
+    EXPECT_EQ(layout->hidden, QSet{u"a"_s});
+    EXPECT_EQ(layout->widths, (QHash<QString, int>{{u"b"_s, 70}}));
+}
+
 TEST(ColumnLayoutTest, NoColumnIsWiderThanAnyScreen)
 {
     const auto layout =

@@ -78,10 +78,12 @@ std::optional<ColumnLayout> ColumnLayout::fromJson(const QByteArray &json)
     layout.order.removeDuplicates();
     const QJsonObject widths = widthOfColumn.toObject();
     for (auto width = widths.constBegin(); width != widths.constEnd(); ++width) {
-        const int pixels = width.value().toInt(0);
-        if (pixels <= 0)
+        const int pixels = width.value().toInt(-1);
+        if (pixels < 0)
             return {};
-        layout.widths.insert(width.key(), std::min(pixels, widest));
+        // Nobody has chosen a column that cannot be seen; the rest of the layout still holds.
+        if (pixels > 0)
+            layout.widths.insert(width.key(), std::min(pixels, widest));
     }
     return layout;
 }
