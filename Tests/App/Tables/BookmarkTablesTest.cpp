@@ -205,6 +205,31 @@ TEST_F(BookmarkTreeTest, WhatIsOpenStaysSoAfterAReload)
     EXPECT_EQ(titles(table), "Bar +");
 }
 
+TEST_F(BookmarkTreeTest, AFolderThatWasClosedAroundTheCurrentRowStaysClosedAfterAReload)
+{
+    BookmarkTree table(services());
+    show(table, {.sourceID = u"chrome/Default"_s});
+    click(table, u"Zebra"_s);
+    table.view().collapse(find(table, u"Bar"_s));
+    EXPECT_EQ(currentTitle(table), u"Bar");
+    setBookmarks(u"Default"_s, {mark(u"5"_s, u"Zebra"_s, u"https://zoo.example/zebra"_s, newest)});
+    reload(table);
+    EXPECT_EQ(titles(table), "Bar +");
+    press(table, Qt::Key_Right);
+    EXPECT_EQ(titles(table), "Bar Zebra");
+}
+
+TEST_F(BookmarkTreeTest, ReturnOpensTheSelectedLinksAlsoFromAFolder)
+{
+    BookmarkTree table(services());
+    show(table, {.sourceID = u"chrome/Default"_s});
+    click(table, u"Zebra"_s);
+    click(table, u"Food"_s, Qt::ControlModifier);
+    press(table, Qt::Key_Return);
+    EXPECT_EQ(workspace.requests.value(0).value(3), u"https://zoo.example/zebra");
+    EXPECT_EQ(titles(table), "Bar Zebra Food + Ant");
+}
+
 TEST_F(BookmarkTreeTest, FoldersAreSortedInThemselves)
 {
     BookmarkTree table(services());

@@ -23,6 +23,12 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
+/// A page that is visited at another time than the others, or not at all.
+struct Exception {
+    int number = -1;
+    std::optional<qint64> secondsAgo;
+};
+
 /// What every table does, shown on the one of the history.
 class TableViewTest : public TableTest
 {
@@ -36,17 +42,26 @@ protected:
     }
 
     /// Enough rows to scroll.
-    void setManyPages(int count, int first = 0)
+    void setManyPages(int count, int first = 0, const Exception &exception = {})
     {
         QList<sample::HistoryRow> rows;
         for (int i = first; i < count; ++i) {
-            sample::HistoryRow row = page(u"p%1"_s.arg(i), i);
+            const std::optional<qint64> secondsAgo = i == exception.number ? exception.secondsAgo : i;
+            if (!secondsAgo)
+                continue;
+            sample::HistoryRow row = page(u"p%1"_s.arg(i), *secondsAgo);
             row.id = 1000 - i;
             rows.append(row);
         }
         setPages(u"Default"_s, rows);
         loadNow(*library);
     }
+    void scrollToMiddle() const
+    {
+        QScrollBar *bar = table.view().verticalScrollBar();
+        bar->setValue(bar->maximum() / 2 + 3);
+    }
+    QString topTitle() const { return table.view().indexAt({0, 0}).data().toString(); }
     QStringList requested(int i) const { return workspace.requests.value(i); }
 
     HistoryTable table{services(), HistoryTable::Mode::Recent};
@@ -237,6 +252,67 @@ TEST_F(TableViewTest, TheRowsOnScreenStayWhereTheyAreAfterAReload)
     const QModelIndex now = table.view().indexAt({0, 0});
     EXPECT_EQ(now.data().toString(), title);
     EXPECT_EQ(table.view().visualRect(now).top(), offset);
+}
+
+TEST_F(TableViewTest, TheRowsOnScreenStayWhenTheTopmostIsGone)
+{
+    setManyPages(200);
+    show(table, {.sourceID = u"chrome/Default"_s});
+    click(table, u"p0"_s);
+    scrollToMiddle();
+    const QString gone = topTitle();
+    const QString stays = table.view().indexBelow(table.view().indexAt({0, 0})).data().toString();
+    const int place = table.view().visualRect(find(table, stays)).top();
+    awaitList(table, [&] { setManyPages(200, 0, {.number = gone.mid(1).toInt(), .secondsAgo = {}}); });
+    ASSERT_FALSE(find(table, gone).isValid());
+    EXPECT_EQ(table.view().visualRect(find(table, stays)).top(), place);
+    EXPECT_EQ(currentTitle(table), u"p0");
+}
+
+TEST_F(TableViewTest, TheRowsOnScreenStayWhenTheTopmostIsVisitedAgain)
+{
+    setManyPages(200);
+    show(table, {.sourceID = u"chrome/Default"_s});
+    scrollToMiddle();
+    const QString visited = topTitle();
+    const QString stays = table.view().indexBelow(table.view().indexAt({0, 0})).data().toString();
+    const int place = table.view().visualRect(find(table, stays)).top();
+    awaitList(table, [&] { setManyPages(200, 0, {.number = visited.mid(1).toInt(), .secondsAgo = -1}); });
+    ASSERT_EQ(find(table, visited).row(), 0);
+    EXPECT_EQ(table.view().visualRect(find(table, stays)).top(), place);
+}
+
+TEST_F(TableViewTest, WhereNothingIsLeftOnScreenTheScrollBarStays)
+{
+    setManyPages(200);
+    show(table, {.sourceID = u"chrome/Default"_s});
+    scrollToMiddle();
+    const int value = table.view().verticalScrollBar()->value();
+    awaitList(table, [&] { setManyPages(400, 200); });
+    EXPECT_EQ(table.view().verticalScrollBar()->value(), value);
+}
+
+TEST_F(TableViewTest, WhatAClosedSectionHidesIsNotSelectedWhenTheSectionsComeBack)
+{
+    show(table, {.grouping = Grouping::Site});
+    click(table, u"a.example"_s);
+    awaitList(table, [&] { table.setInputs({}); });
+    click(table, u"b"_s);
+    click(table, u"a"_s, Qt::ControlModifier);
+    awaitList(table, [&] { table.setInputs({.grouping = Grouping::Site}); });
+    EXPECT_EQ(titles(table).substr(0, 23), "a.example + b.example b");
+    EXPECT_EQ(selectedTitles(table), QStringList{u"b"_s});
+    EXPECT_EQ(currentTitle(table), u"a.example");
+}
+
+TEST_F(TableViewTest, ReturnOpensTheSelectionAlsoAfterAClickOnAHeading)
+{
+    show(table, {.grouping = Grouping::Day});
+    click(table, u"w"_s);
+    click(table, u"Today"_s);
+    press(table, Qt::Key_Return);
+    EXPECT_EQ(requested(0).value(3), u"https://w.example/");
+    EXPECT_EQ(titles(table), "Today + Yesterday w");
 }
 
 TEST_F(TableViewTest, AtTheTopNewRowsComeIntoSight)

@@ -6,6 +6,7 @@
 #include "App/Tables/RowIcons.h"
 #include "App/Tables/TableHeader.h"
 #include "App/Tables/TableModel.h"
+#include "App/Tables/ViewPlace.h"
 
 #include <QContextMenuEvent>
 #include <QIcon>
@@ -86,7 +87,7 @@ TableView::TableView(TableModel &model, Shape shape, QWidget *parent)
     connect(this, &QTreeView::expanded, this, [this](const QModelIndex &index) { noteToggled(index, true); });
     connect(this, &QTreeView::collapsed, this, [this](const QModelIndex &index) {
         noteToggled(index, false);
-        deselectBelow(index);
+        leaveBelow(index);
     });
 }
 
@@ -117,19 +118,23 @@ void TableView::toggle(const QModelIndex &index)
     setExpanded(index.siblingAtColumn(0), !isExpanded(index.siblingAtColumn(0)));
 }
 
-void TableView::deselectBelow(const QModelIndex &index)
+void TableView::leaveBelow(const QModelIndex &closed)
 {
+    const auto isBelow = [&closed](QModelIndex index) {
+        while (index.isValid() && index != closed)
+            index = index.parent();
+        return index.isValid();
+    };
     // A row that cannot be seen must not be opened or copied with the others.
     QItemSelection hidden;
     for (const QItemSelectionRange &range : selectionModel()->selection()) {
-        for (QModelIndex above = range.parent(); above.isValid(); above = above.parent()) {
-            if (above == index) {
-                hidden.append(range);
-                break;
-            }
-        }
+        if (isBelow(range.parent()))
+            hidden.append(range);
     }
     selectionModel()->select(hidden, QItemSelectionModel::Deselect);
+    // Nor do the arrow keys go on from there.
+    if (isBelow(currentIndex().parent()))
+        selectionModel()->setCurrentIndex(closed, QItemSelectionModel::NoUpdate);
 }
 
 QList<TableRow> TableView::selectedRows() const
@@ -156,6 +161,11 @@ QList<TableRow> TableView::selectedRows() const
     return rows;
 }
 
+bool TableView::selectsLinks() const
+{
+    return std::ranges::any_of(selectedRows(), [](const TableRow &row) { return row.kind == Kind::Link; });
+}
+
 void TableView::setEmptyText(const QString &text)
 {
     m_emptyLabel.setText(text);
@@ -177,33 +187,19 @@ void TableView::showTree(const SharedRowTree &tree, Scrolling scrolling)
             scrollToTop();
         return;
     }
-    const Place before = place();
+    const ViewPlace place(*this);
+    const int horizontal = horizontalScrollBar()->value();
     m_isRestoring = true;
     m_model.setTree(tree);
     openFoldersAndSections();
-    restore(before, scrolling);
     m_isRestoring = false;
+    place.restoreSelection(*this);
+    if (scrolling == Scrolling::ToTop)
+        scrollToTop();
+    else
+        place.restoreScrolling(*this);
+    horizontalScrollBar()->setValue(horizontal);
     setEmptyText(m_emptyLabel.text());
-}
-
-TableView::Place TableView::place() const
-{
-    Place place;
-    for (const QItemSelectionRange &range : selectionModel()->selection()) {
-        for (int row = range.top(); row <= range.bottom(); ++row)
-            place.selected.insert(m_model.rowAt(m_model.index(row, 0, range.parent())).id);
-    }
-    if (const QModelIndex current = currentIndex(); current.isValid()) {
-        place.current = m_model.rowAt(current).id;
-        place.column = current.column();
-    }
-    place.isAtTop = verticalScrollBar()->value() == verticalScrollBar()->minimum();
-    place.horizontal = horizontalScrollBar()->value();
-    if (const QModelIndex top = indexAt(QPoint(0, 0)); top.isValid()) {
-        place.top = m_model.rowAt(top).id;
-        place.topOffset = visualRect(top).top();
-    }
-    return place;
 }
 
 void TableView::openFoldersAndSections()
@@ -213,52 +209,6 @@ void TableView::openFoldersAndSections()
         if (nodes[number].childCount > 0 && isOpen(nodes[number]))
             setExpanded(m_model.indexOf(number), true);
     }
-}
-
-void TableView::restore(const Place &place, Scrolling scrolling)
-{
-    const std::vector<RowTree::Node> &nodes = m_model.tree()->nodes();
-    QItemSelection selection;
-    QSet<QString> wanted = place.selected;
-    QModelIndex current;
-    QModelIndex top;
-    // Neighbours are selected together: many single rows would slow down every question about the selection.
-    RowTree::Number first = RowTree::root;
-    RowTree::Number last = RowTree::root;
-    const auto select = [&] {
-        if (first != RowTree::root)
-            selection.append(QItemSelectionRange(m_model.indexOf(first),
-                                                 m_model.indexOf(last, m_model.columnCount() - 1)));
-    };
-    for (RowTree::Number number = 1; number < nodes.size(); ++number) {
-        const QString &id = nodes[number].row.id;
-        if (!place.current.isEmpty() && !current.isValid() && id == place.current)
-            current = m_model.indexOf(number, place.column);
-        if (!place.top.isEmpty() && !top.isValid() && id == place.top)
-            top = m_model.indexOf(number);
-        if (wanted.isEmpty() || !wanted.remove(id))
-            continue;
-        if (first != RowTree::root && last + 1 == number && nodes[last].parent == nodes[number].parent) {
-            last = number;
-            continue;
-        }
-        select();
-        first = last = number;
-    }
-    select();
-    selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
-    // After the selection, of which it is to say nothing.
-    if (current.isValid())
-        selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
-
-    if (scrolling == Scrolling::ToTop || place.isAtTop) {
-        scrollToTop();
-    } else if (top.isValid()) {
-        scrollTo(top, QAbstractItemView::PositionAtTop);
-        QScrollBar &bar = *verticalScrollBar();
-        bar.setValue(bar.value() + visualRect(top).top() - place.topOffset);
-    }
-    horizontalScrollBar()->setValue(place.horizontal);
 }
 
 void TableView::drawRow(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
@@ -356,7 +306,8 @@ void TableView::keyPressEvent(QKeyEvent *event)
     case Qt::Key_Enter:
         if (hasModifiers)
             break;
-        if (isKind(current, Kind::Section) || isKind(current, Kind::Folder))
+        // Where links are selected the key is theirs, wherever the current row is.
+        if (!selectsLinks() && (isKind(current, Kind::Section) || isKind(current, Kind::Folder)))
             toggle(current);
         else
             Q_EMIT openRequested();

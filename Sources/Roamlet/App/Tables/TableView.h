@@ -34,8 +34,9 @@ public:
     TableView(TableModel &model, Shape shape, QWidget *parent = nullptr);
 
     TableHeader &tableHeader() const { return m_header; }
-    /// Shows a newer list. Rows that are in it too stay selected and open or closed; with Scrolling::Stay the
-    /// topmost one also stays where it is.
+    const TableModel &tableModel() const { return m_model; }
+    /// Shows a newer list. Rows that are in it too stay selected and open or closed; with Scrolling::Stay
+    /// most of those in sight also stay where they are.
     void showTree(const SharedRowTree &tree, Scrolling scrolling);
     /// What is said while there are no rows.
     void setEmptyText(const QString &text);
@@ -60,25 +61,14 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
-    /// What a newer list is to have in common with the one before.
-    struct Place {
-        QSet<QString> selected;
-        QString current;
-        QString top;
-        int topOffset = 0;
-        int column = 0;
-        bool isAtTop = true;
-        int horizontal = 0;
-    };
-
-    Place place() const;
-    void restore(const Place &place, Scrolling scrolling);
     void openFoldersAndSections();
     bool isOpen(const RowTree::Node &node) const;
     bool isKind(const QModelIndex &index, TableRow::Kind kind) const;
     void noteToggled(const QModelIndex &index, bool isNowOpen);
     void toggle(const QModelIndex &index);
-    void deselectBelow(const QModelIndex &index);
+    /// Nothing below what is closed stays selected or current.
+    void leaveBelow(const QModelIndex &closed);
+    bool selectsLinks() const;
     void drawSection(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const;
 
     TableModel &m_model;
