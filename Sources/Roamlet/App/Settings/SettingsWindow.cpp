@@ -24,6 +24,7 @@ SettingsWindow::SettingsWindow(const SettingsServices &services, QWidget *parent
     setWindowTitle(tr("Settings"));
     m_tabs->setObjectName(u"settingsTabs"_s);
     m_tabs->tabBar()->setObjectName(u"settingsTabBar"_s);
+    m_tabs->setAccessibleName(tr("Settings"));
     m_tabs->tabBar()->setAccessibleName(tr("Settings"));
     m_tabs->addTab(new GeneralSettings(services), symbolIcon(u"gearshape"_s), tr("General"));
     m_tabs->addTab(new BrowserProfileSettings(services.library), symbolIcon(u"person.2"_s),

@@ -64,6 +64,9 @@ DetailHeader::DetailHeader(QWidget *parent)
     m_search->setClearButtonEnabled(true);
     m_search->addAction(symbolIcon(u"magnifyingglass"_s, palette().color(QPalette::PlaceholderText)),
                         QLineEdit::LeadingPosition);
+    // A screen reader finds both buttons, which otherwise say nothing.
+    m_search->actions().first()->setText(u"Clear Search"_s);
+    m_search->actions().last()->setText(u"Search"_s);
     m_search->setMinimumWidth(180);
     m_search->setMaximumWidth(260);
     m_search->installEventFilter(this);
