@@ -64,16 +64,6 @@ bool hasVisibleWindow()
     return std::ranges::any_of(windows, [](const QWidget *window) { return !window->isMinimized(); });
 }
 
-/// Whether anything stands on the screen that the user can come back to.
-bool isAnyWindowOpen()
-{
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    return std::ranges::any_of(windows, [](const QWidget *window) {
-        return window->isVisible() &&
-               (window->windowType() == Qt::Window || window->windowType() == Qt::Dialog);
-    });
-}
-
 } // namespace
 
 RoamletApp::RoamletApp(const Services &services)
@@ -122,8 +112,8 @@ RoamletApp::RoamletApp(const Services &services)
     QObject::connect(
         qApp, &QGuiApplication::lastWindowClosed, &m_mainWindow,
         [this] {
-            if (!m_services.hasTray() && !isAnyWindowOpen())
-                QCoreApplication::quit();
+            if (!m_services.hasTray() && openWindows().isEmpty())
+                quit();
         },
         Qt::QueuedConnection);
     QObject::connect(&m_mainWindow, &MainWindow::settingsRequested, &m_settingsWindow, &SettingsWindow::open);
