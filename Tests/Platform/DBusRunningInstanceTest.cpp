@@ -3,13 +3,12 @@
 
 #include "Platform/Linux/DBusRunningInstance.h"
 
+#include "Support/SessionBus.h"
 #include "Support/Waiting.h"
 
 #include <QDBusMessage>
 #include <QDBusVirtualObject>
 #include <QMetaObject>
-#include <QProcess>
-#include <QStandardPaths>
 
 #include <gtest/gtest.h>
 
@@ -31,20 +30,16 @@ class DBusRunningInstanceTest : public ::testing::Test
 protected:
     void SetUp() override
     {
-        const QString daemon = QStandardPaths::findExecutable(u"dbus-daemon"_s);
-        if (daemon.isEmpty())
+        if (!SessionBus::isAvailable())
             GTEST_SKIP() << "dbus-daemon is not installed";
-        bus.start(daemon, {u"--session"_s, u"--nofork"_s, u"--print-address"_s});
-        ASSERT_TRUE(waitUntil([this] { return bus.canReadLine(); }));
-        address = QString::fromUtf8(bus.readLine()).trimmed();
+        ASSERT_TRUE(bus.start());
+        address = bus.address();
     }
 
     void TearDown() override
     {
         for (const QString &name : std::as_const(names))
             QDBusConnection::disconnectFromBus(name);
-        bus.terminate();
-        bus.waitForFinished();
     }
 
     QDBusConnection connection(const QString &name)
@@ -68,7 +63,7 @@ protected:
         return claim;
     }
 
-    QProcess bus;
+    SessionBus bus;
     QString address;
     QStringList names;
 };

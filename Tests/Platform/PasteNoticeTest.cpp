@@ -3,12 +3,11 @@
 
 #include "Platform/Linux/Workspace/PasteNotice.h"
 
+#include "Support/SessionBus.h"
 #include "Support/Waiting.h"
 
 #include <QDBusMessage>
 #include <QDBusVirtualObject>
-#include <QProcess>
-#include <QStandardPaths>
 
 #include <gtest/gtest.h>
 
@@ -41,13 +40,11 @@ PasteNotice::Words wording(const QString &page)
 
 TEST(PasteNoticeTest, TheAddressIsOnTheClipboardAndTheDesktopSaysSo)
 {
-    const QString daemon = QStandardPaths::findExecutable(u"dbus-daemon"_s);
-    if (daemon.isEmpty())
+    if (!SessionBus::isAvailable())
         GTEST_SKIP() << "dbus-daemon is not installed";
-    QProcess process;
-    process.start(daemon, {u"--session"_s, u"--nofork"_s, u"--print-address"_s});
-    ASSERT_TRUE(waitUntil([&process] { return process.canReadLine(); }));
-    const QString address = QString::fromUtf8(process.readLine()).trimmed();
+    SessionBus bus;
+    ASSERT_TRUE(bus.start());
+    const QString address = bus.address();
     {
         NoticeService service;
         QDBusConnection desktop = QDBusConnection::connectToBus(address, u"desktop of notices"_s);
@@ -70,8 +67,6 @@ TEST(PasteNoticeTest, TheAddressIsOnTheClipboardAndTheDesktopSaysSo)
     }
     QDBusConnection::disconnectFromBus(u"desktop of notices"_s);
     QDBusConnection::disconnectFromBus(u"giver of notices"_s);
-    process.terminate();
-    process.waitForFinished();
 }
 
 TEST(PasteNoticeTest, WithoutASessionBusTheAddressIsOnTheClipboard)
