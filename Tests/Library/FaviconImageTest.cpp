@@ -95,7 +95,7 @@ TEST_F(FaviconImageTest, OtherFormatsAreRefused)
 
 TEST_F(FaviconImageTest, AFileThatIsTooLargeIsNotDecoded)
 {
-    constexpr qsizetype limit = 8 * 1024 * 1024;
+    constexpr qsizetype limit = 8LL * 1024 * 1024;
     QByteArray bytes = png(16, Qt::red);
     bytes.resize(limit, '\0');
     EXPECT_FALSE(decode(bytes).isNull());
