@@ -3,8 +3,8 @@
 
 #include "Library/FaviconImage.h"
 
-#include "Support/LibraryHome.h"
 #include "SampleHome/PlainFiles.h"
+#include "Support/LibraryHome.h"
 #include "Support/TestHome.h"
 
 #include <QBuffer>
