@@ -7,6 +7,13 @@
 #include "Platform/Linux/Updates/PackageSignature.h"
 #include "UpdatesTest.h"
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <future>
+#include <thread>
+
 namespace roamlet::testing
 {
 namespace
@@ -42,6 +49,7 @@ protected:
                     [this] {
                         ++verifications;
                         EXPECT_FALSE(QFile::exists(target)) << "nothing has this name before it is checked";
+                        beforeCheck();
                     },
                 .finish =
                     [this](const std::optional<UpdateError> &error) {
@@ -76,6 +84,7 @@ protected:
     QList<qint64> progress;
     std::optional<qint64> lastTotal;
     int verifications = 0;
+    std::function<void()> beforeCheck = [] {};
 };
 
 TEST_F(PackageDownloadTest, ARightPackageGetsItsName)
@@ -209,6 +218,33 @@ TEST_F(PackageDownloadTest, ACheckThatIsCancelledLeavesNothing)
     QCoreApplication::processEvents();
     EXPECT_FALSE(result);
     EXPECT_EQ(names(), QStringList());
+}
+
+TEST_F(PackageDownloadTest, ACheckThatIsCancelledIsNotWaitedFor)
+{
+    // A pipe in the package's place holds the check up for as long as nobody opens its other end.
+    const QString pipe = folder.filePath(u"pipe"_s);
+    const QByteArray pipeName = QFile::encodeName(pipe);
+    beforeCheck = [&] {
+        ASSERT_EQ(::mkfifo(pipeName.constData(), S_IRUSR | S_IWUSR), 0);
+        ASSERT_TRUE(QFile::remove(target % u".part"));
+        ASSERT_EQ(::link(pipeName.constData(), QFile::encodeName(target % u".part").constData()), 0);
+    };
+    start();
+    ASSERT_TRUE(settle([this] { return verifications == 1; }));
+    std::promise<void> cancelled;
+    bool isWaitedFor = false;
+    std::jthread end([&, isCancelled = cancelled.get_future()] {
+        isWaitedFor = isCancelled.wait_for(patience) == std::future_status::timeout;
+        ::close(::open(pipeName.constData(), O_RDWR));
+    });
+    download.reset();
+    cancelled.set_value();
+    end.join();
+    EXPECT_FALSE(isWaitedFor);
+    EXPECT_FALSE(QFile::exists(target % u".part"));
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(result);
 }
 
 TEST_F(PackageDownloadTest, AFolderThatIsNoneIsAnErrorInTheSystemsWords)

@@ -12,6 +12,8 @@
 #include <unistd.h>
 
 #include <cstdio>
+#include <mutex>
+#include <thread>
 #include <utility>
 
 namespace roamlet
@@ -22,7 +24,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-/// The signature is of the whole content, which has to be in memory to be checked.
+/// More than any honest one. The signature is of the whole content, which is checked at one go.
 constexpr qint64 largestPackage = qint64{512} << 20U;
 
 QString unfinishedName(const QString &target)
@@ -43,9 +45,12 @@ std::optional<UpdateError> check(const QString &path, qint64 length, const QByte
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return UpdateError{UpdateError::Code::CannotWrite, file.errorString()};
-    const QByteArray content = file.read(length + 1);
-    if (content.size() != length)
+    if (file.size() != length)
         return UpdateError{UpdateError::Code::WrongLength, {}};
+    const uchar *bytes = length > 0 ? file.map(0, length) : nullptr;
+    if (bytes == nullptr && length > 0)
+        return UpdateError{UpdateError::Code::CannotWrite, file.errorString()};
+    const QByteArray content = QByteArray::fromRawData(reinterpret_cast<const char *>(bytes), length);
     if (!PackageSignature::isValid(content, signature, key))
         return UpdateError{UpdateError::Code::WrongSignature, {}};
     if (::fsync(file.handle()) != 0)
@@ -54,6 +59,15 @@ std::optional<UpdateError> check(const QString &path, qint64 length, const QByte
 }
 
 } // namespace
+
+/// A check in a thread of its own. Who cancels the download does not wait for it: it goes on to its end, and
+/// nobody hears of it.
+struct PackageDownload::Check {
+    std::mutex mutex;
+    /// Who waits for the verdict, if anybody does.
+    PackageDownload *download = nullptr;
+    std::optional<UpdateError> verdict;
+};
 
 PackageDownload::PackageDownload(QNetworkAccessManager &network, const Clock &clock,
                                  const HttpOptions &options, Package package, const QByteArray &key,
@@ -85,8 +99,10 @@ PackageDownload::PackageDownload(QNetworkAccessManager &network, const Clock &cl
 
 PackageDownload::~PackageDownload()
 {
-    if (m_verification.joinable())
-        m_verification.join();
+    if (m_check) {
+        const std::scoped_lock lock(m_check->mutex);
+        m_check->download = nullptr;
+    }
     // After a success it has another name by now.
     if (m_file.isOpen())
         m_file.remove();
@@ -145,16 +161,22 @@ void PackageDownload::verify()
     }
     m_handlers.verifying();
     // Hashing a large package takes longer than a window may stand still.
-    m_verification = std::jthread([this] {
-        m_verdict = check(m_file.fileName(), m_received, m_signature, m_key);
-        QCoreApplication::postEvent(this, new QEvent(QEvent::User));
-    });
+    m_check = std::make_shared<Check>();
+    m_check->download = this;
+    std::thread([shared = m_check, path = m_file.fileName(), length = m_received, signature = m_signature,
+                 key = m_key] {
+        const std::optional<UpdateError> verdict = check(path, length, signature, key);
+        const std::scoped_lock lock(shared->mutex);
+        if (shared->download == nullptr)
+            return;
+        shared->verdict = verdict;
+        QCoreApplication::postEvent(shared->download, new QEvent(QEvent::User));
+    }).detach();
 }
 
 void PackageDownload::customEvent(QEvent * /*event*/)
 {
-    m_verification.join();
-    finish(m_verdict);
+    finish(std::exchange(m_check, nullptr)->verdict);
 }
 
 void PackageDownload::finish(const std::optional<UpdateError> &error)

@@ -9,7 +9,6 @@
 #include <QObject>
 
 #include <memory>
-#include <thread>
 
 namespace roamlet
 {
@@ -49,6 +48,8 @@ protected:
     void customEvent(QEvent *event) override;
 
 private:
+    struct Check;
+
     std::optional<UpdateError> prepare();
     std::optional<UpdateError> begin(const HttpTransfer::Head &head);
     std::optional<UpdateError> receive(const QByteArray &piece);
@@ -64,10 +65,8 @@ private:
     QFile m_file;
     std::optional<qint64> m_total;
     qint64 m_received = 0;
-    /// What the check found; written by its thread and read when that has ended.
-    std::optional<UpdateError> m_verdict;
     std::unique_ptr<HttpTransfer> m_transfer;
-    std::jthread m_verification;
+    std::shared_ptr<Check> m_check;
 };
 
 } // namespace roamlet
