@@ -116,6 +116,19 @@ TEST_F(UpdateChoiceTest, AReleaseIsCriticalForThoseWhoAreOldEnough)
     EXPECT_TRUE(isCritical(QString()));
     EXPECT_TRUE(isCritical(u"1.1"_s));
     EXPECT_FALSE(isCritical(u"1.0"_s));
+    EXPECT_TRUE(isCritical(QString(u"0" % u".1"_s.repeated(1'000)))) << "that is no version";
+}
+
+TEST_F(UpdateChoiceTest, ALimitThatIsNoVersionFitsNobody)
+{
+    for (const QString &limit : {u"old"_s, u"9"_s.repeated(1'000), QString(u"1" % u".1"_s.repeated(1'000))}) {
+        FeedItem release = item(u"2.0"_s);
+        release.minimumSystemVersion = limit;
+        EXPECT_EQ(best({release}), QString()) << qPrintable(limit);
+        release.minimumSystemVersion.clear();
+        release.maximumSystemVersion = limit;
+        EXPECT_EQ(best({release}), QString()) << qPrintable(limit);
+    }
 }
 
 TEST_F(UpdateChoiceTest, WhatIsToldAboutItComesFromTheFeed)

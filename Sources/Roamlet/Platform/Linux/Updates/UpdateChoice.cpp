@@ -44,12 +44,25 @@ bool fits(const FeedItem::Package &package, const UpdateHost &host)
 
 bool suits(const FeedItem &item, const UpdateHost &host)
 {
+    const auto isLimit = [](const QString &limit) { return limit.isEmpty() || Versions::isVersion(limit); };
+    // A release for systems that nobody can tell is for none.
+    if (!isLimit(item.minimumSystemVersion) || !isLimit(item.maximumSystemVersion))
+        return false;
     const auto system = [&host](const QString &limit) {
         return Versions::compare(host.systemVersion, limit);
     };
     return item.channel.isEmpty() && Versions::compare(item.version, host.version) > 0 &&
            (item.minimumSystemVersion.isEmpty() || system(item.minimumSystemVersion) >= 0) &&
            (item.maximumSystemVersion.isEmpty() || system(item.maximumSystemVersion) <= 0);
+}
+
+/// Whether the release is critical for those who have this version.
+bool isCriticalFor(const QString &version, const FeedItem &item)
+{
+    if (!item.criticalBefore)
+        return false;
+    // Where nobody can tell whom it concerns, it concerns everybody.
+    return !Versions::isVersion(*item.criticalBefore) || Versions::compare(version, *item.criticalBefore) < 0;
 }
 
 } // namespace
@@ -72,10 +85,8 @@ std::optional<UpdateChoice> UpdateChoice::best(const QList<FeedItem> &items, con
             item.packages, [&host](const FeedItem::Package &candidate) { return fits(candidate, host); });
         if (package == item.packages.cend())
             continue;
-        const bool isCritical =
-            item.criticalBefore &&
-            (item.criticalBefore->isEmpty() || Versions::compare(host.version, *item.criticalBefore) < 0);
-        result = UpdateChoice{.item = item, .package = *package, .isCritical = isCritical};
+        result =
+            UpdateChoice{.item = item, .package = *package, .isCritical = isCriticalFor(host.version, item)};
     }
     return result;
 }
