@@ -93,6 +93,14 @@ TEST_F(AutostartLoginServiceTest, OnlyTheMainGroupCounts)
     EXPECT_EQ(service().status(), Status::NotRegistered);
 }
 
+TEST_F(AutostartLoginServiceTest, AnEntryThatOnlySwitchesOffIsLeftAlone)
+{
+    writeEntry("[Desktop Entry]\nHidden=true\n");
+    EXPECT_EQ(service().status(), Status::RequiresApproval);
+    EXPECT_TRUE(service().registerProgram());
+    EXPECT_EQ(entry(), u"[Desktop Entry]\nHidden=true\n"_s);
+}
+
 TEST_F(AutostartLoginServiceTest, AnEntryWithoutACommandIsNoRegistration)
 {
     for (const QByteArray &content :

@@ -84,13 +84,11 @@ LoginService::Status AutostartLoginService::status() const
         return Status::NotRegistered;
     constexpr qint64 longestEntry = qint64{64} << 10U;
     const QString entry = QString::fromUtf8(file.read(longestEntry));
+    // Desktops switch an entry off in one of these two ways, some by an entry with nothing else in it.
+    if (value(entry, u"Hidden"_s) == u"true" || value(entry, u"X-GNOME-Autostart-enabled"_s) == u"false")
+        return Status::RequiresApproval;
     // An entry without a command starts nothing.
-    if (value(entry, u"Exec"_s).value_or(QString()).isEmpty())
-        return Status::NotRegistered;
-    // Desktops switch an entry off in one of these two ways.
-    const bool isSwitchedOff =
-        value(entry, u"Hidden"_s) == u"true" || value(entry, u"X-GNOME-Autostart-enabled"_s) == u"false";
-    return isSwitchedOff ? Status::RequiresApproval : Status::Enabled;
+    return value(entry, u"Exec"_s).value_or(QString()).isEmpty() ? Status::NotRegistered : Status::Enabled;
 }
 
 std::expected<void, QString> AutostartLoginService::registerProgram()
