@@ -4,6 +4,7 @@
 #include "App/Tables/TableView.h"
 
 #include "App/Tables/RowIcons.h"
+#include "App/Tables/RowSelectionModel.h"
 #include "App/Tables/TableHeader.h"
 #include "App/Tables/TableModel.h"
 #include "App/Tables/ViewPlace.h"
@@ -56,6 +57,8 @@ TableView::TableView(TableModel &model, Shape shape, QWidget *parent)
 {
     setHeader(&m_header);
     setModel(&model);
+    delete selectionModel();
+    setSelectionModel(new RowSelectionModel(&model, this));
     // A view takes these away from a header that does not sort the model itself.
     m_header.setSectionsClickable(true);
     m_header.setSortIndicatorShown(true);
