@@ -50,7 +50,7 @@ QString Sentences::of(UpdateError::Code code)
     case UpdateError::Code::PackageTooLarge:
         return tr("The update was refused because it is far too large.");
     case UpdateError::Code::WrongLength:
-        return tr("The update was refused and deleted because it is not complete.");
+        return tr("The update was refused and deleted because its length is not the announced one.");
     case UpdateError::Code::WrongSignature:
         return tr("The update was refused and deleted because its signature is wrong.");
     case UpdateError::Code::CannotWrite:
