@@ -125,6 +125,35 @@ TEST_F(TableHeaderTest, AMovedColumnKeepsItsPlace)
     EXPECT_EQ(shownColumns(), moved);
 }
 
+TEST_F(TableHeaderTest, TheArrowKeysMoveAndResizeColumns)
+{
+    const int width = header().sectionSize(HistoryTable::LastVisited);
+    QTest::keyClick(&header(), Qt::Key_Left);
+    QTest::keyClick(&header(), Qt::Key_Right);
+    EXPECT_FALSE(home.defaults.contains(u"columns.history"_s)) << "going there arranges nothing";
+    QTest::keyClick(&header(), Qt::Key_Right, Qt::ControlModifier);
+    QTest::keyClick(&header(), Qt::Key_Right, Qt::ShiftModifier);
+    const QStringList moved{u"Title"_s, u"Visits"_s, u"Last Visited"_s, u"Source"_s};
+    EXPECT_EQ(shownColumns(), moved);
+    EXPECT_GT(header().sectionSize(HistoryTable::LastVisited), width);
+    EXPECT_EQ(header().length(), header().viewport()->width()) << "the title makes room";
+    build();
+    EXPECT_EQ(shownColumns(), moved);
+    EXPECT_GT(header().sectionSize(HistoryTable::LastVisited), width);
+}
+
+TEST_F(TableHeaderTest, TheArrowKeysPassHiddenColumns)
+{
+    openMenu();
+    choose(*table, u"columnMenu"_s, u"Visits"_s);
+    QTest::keyClick(&header(), Qt::Key_Right);
+    QTest::keyClick(&header(), Qt::Key_Right, Qt::ControlModifier);
+    EXPECT_EQ(shownColumns(), (QStringList{u"Title"_s, u"Source"_s, u"Last Visited"_s}));
+    for (int i = 0; i < 50; ++i)
+        QTest::keyClick(&header(), Qt::Key_Left, Qt::ShiftModifier);
+    EXPECT_EQ(header().sectionSize(HistoryTable::LastVisited), header().minimumSectionSize());
+}
+
 TEST_F(TableHeaderTest, AHiddenColumnStaysHidden)
 {
     openMenu();

@@ -98,6 +98,18 @@ TEST_F(MainWindowTest, itsPlaceAndItsColumnsAreRemembered)
     EXPECT_EQ(window->content()->sizes().first(), 300);
 }
 
+TEST_F(MainWindowTest, theMenuResizesTheSidebar)
+{
+    const auto window = makeWindow();
+    window->open();
+    const int width = window->content()->sizes().first();
+    window->findChild<QAction *>(u"widerSidebarCommand"_s)->trigger();
+    EXPECT_GT(window->content()->sizes().first(), width);
+    for (int i = 0; i < 50; ++i)
+        window->findChild<QAction *>(u"narrowerSidebarCommand"_s)->trigger();
+    EXPECT_EQ(window->content()->sizes().first(), Sidebar::minimumWidthOfColumn);
+}
+
 TEST_F(MainWindowTest, aStoredPlaceThatIsNoneIsPassedOver)
 {
     home.defaults.setBytes(u"window.main"_s, "garbage");

@@ -39,6 +39,8 @@ TableHeader::TableHeader(const TableModel &model, QWidget *parent)
     setResizeContentsPrecision(0);
     setFocusPolicy(Qt::TabFocus);
     setAccessibleName(u"Columns"_s);
+    setAccessibleDescription(
+        u"The arrow keys choose a column, move it with Ctrl and resize it with Shift. Space opens the menu."_s);
     connect(this, &QHeaderView::sectionResized, this, [this](int column, int /*before*/, int width) {
         if (m_isDragging) {
             m_chosenWidths.insert(column, width);
@@ -161,10 +163,43 @@ void TableHeader::keyPressEvent(QKeyEvent *event)
     case Qt::Key_Enter:
         Q_EMIT menuRequested(mapToGlobal(rect().bottomLeft()));
         return;
+    case Qt::Key_Left:
+        followArrow(-1, event->modifiers());
+        return;
+    case Qt::Key_Right:
+        followArrow(1, event->modifiers());
+        return;
     default:
         // Not the views' keys: there is no cell to go to.
         event->ignore();
     }
+}
+
+int TableHeader::neighbour(int column, int direction) const
+{
+    for (int place = visualIndex(column) + direction; place >= 0 && place < count(); place += direction) {
+        if (!isSectionHidden(logicalIndex(place)))
+            return logicalIndex(place);
+    }
+    return column;
+}
+
+void TableHeader::followArrow(int direction, Qt::KeyboardModifiers modifiers)
+{
+    constexpr int grain = 2;
+    const int column = keyColumn();
+    const int next = neighbour(column, isRightToLeft() ? -direction : direction);
+    m_isDragging = true;
+    if (modifiers.testFlag(Qt::ControlModifier))
+        moveSection(visualIndex(column), visualIndex(next));
+    else if (modifiers.testFlag(Qt::ShiftModifier))
+        resizeSection(
+            column, std::max(sectionSize(column) + direction * grain * fontMetrics().horizontalAdvance(u'0'),
+                             minimumSectionSize()));
+    else
+        m_keyColumn = next;
+    finishDragging();
+    viewport()->update();
 }
 
 void TableHeader::contextMenuEvent(QContextMenuEvent *event)
@@ -193,7 +228,8 @@ void TableHeader::paintEvent(QPaintEvent *event)
     QPainter painter(viewport());
     QStyleOptionFocusRect option;
     option.initFrom(viewport());
-    option.rect = viewport()->rect();
+    option.rect =
+        QRect(sectionViewportPosition(keyColumn()), 0, sectionSize(keyColumn()), viewport()->height());
     option.state |= QStyle::State_KeyboardFocusChange;
     style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
 }

@@ -14,8 +14,8 @@ namespace roamlet
 class TableModel;
 
 /// The header of a table. The first column is the title: it cannot be hidden, and it takes the width that the
-/// others leave until the user gives it one. With the keyboard the header is reached by Tab and opens its
-/// menu.
+/// others leave until the user gives it one. With the keyboard the header is reached by Tab; the arrow
+/// keys go to a column, move it with Ctrl and resize it with Shift, and Space opens the menu.
 class TableHeader final : public QHeaderView
 {
     Q_OBJECT
@@ -53,10 +53,17 @@ private:
     int suitableWidth(int column) const;
     void fillWithTitle();
     void finishDragging();
+    /// The column that the keys are about.
+    int keyColumn() const { return isSectionHidden(m_keyColumn) ? titleColumn : m_keyColumn; }
+    /// To the next shown column, 1 for the right one and -1 for the left; it may stay where it is.
+    int neighbour(int column, int direction) const;
+    void followArrow(int direction, Qt::KeyboardModifiers modifiers);
 
     const TableModel &m_model;
     /// The widths that are the user's choice, by column. A hidden column keeps its own.
     QHash<int, int> m_chosenWidths;
+    int m_keyColumn = titleColumn;
+    /// With the mouse or the keys.
     bool m_isDragging = false;
     bool m_isEdited = false;
 };

@@ -190,6 +190,12 @@ void ContentView::reload()
     m_services.library.load({});
 }
 
+void ContentView::widenSidebar(int pixels)
+{
+    const QList<int> widths = sizes();
+    setSizes({widths[0] + pixels, widths[1] - pixels});
+}
+
 void ContentView::startSearch()
 {
     m_header->searchField()->setFocus(Qt::ShortcutFocusReason);

@@ -43,6 +43,8 @@ public:
     void setSite(const std::optional<QString> &site);
     /// Reloads everything and shows that it is under way.
     void reload();
+    /// Makes the sidebar wider by so many pixels, or narrower.
+    void widenSidebar(int pixels);
     /// To the search field, with its text selected.
     void startSearch();
     /// What the menu's export begins with; nothing while there is no bookmark.

@@ -88,6 +88,13 @@ void MainWindow::buildMenus()
     connect(library, &Library::isLoadingChanged, this, updateReload);
     updateReload();
     view->addMenu(m_content->groupingMenu());
+    view->addSeparator();
+    constexpr int step = 30;
+    QAction *widen = view->addAction(u"Wider Sidebar"_s, this, [this] { m_content->widenSidebar(step); });
+    widen->setObjectName(u"widerSidebarCommand"_s);
+    QAction *narrow =
+        view->addAction(u"Narrower Sidebar"_s, this, [this] { m_content->widenSidebar(-step); });
+    narrow->setObjectName(u"narrowerSidebarCommand"_s);
 
     QMenu *help = menuBar()->addMenu(u"&Help"_s);
     if (m_services.updater.isAvailable()) {
