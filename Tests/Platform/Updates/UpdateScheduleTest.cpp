@@ -181,6 +181,22 @@ TEST_F(UpdateScheduleTest, ACalendarThatIsSetForwardMeansOneCheck)
     EXPECT_EQ(checksWithin(24h), 1);
 }
 
+TEST_F(UpdateScheduleTest, TheHoursInWhichTheMachineSleepsCountAsWell)
+{
+    restart();
+    EXPECT_EQ(checksWithin(1min), 1);
+    for (int days = 0; days < 5; ++days) {
+        EXPECT_EQ(checksWithin(3h), 0);
+        clock.shift += 17h;
+        EXPECT_EQ(checksWithin(4h), 1);
+    }
+    succeeds = false;
+    clock.shift += 24h;
+    EXPECT_EQ(checksWithin(7h), 3) << "again after an hour, and after two more";
+    clock.shift += 17h;
+    EXPECT_EQ(checksWithin(1h), 1);
+}
+
 TEST_F(UpdateScheduleTest, AStoredTimeThatIsNoneCountsAsNever)
 {
     for (const QString &text : {QString(), u"yesterday"_s, u"2026-13-45T99:00:00Z"_s}) {

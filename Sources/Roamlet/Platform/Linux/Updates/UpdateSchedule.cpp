@@ -23,6 +23,8 @@ constexpr Clock::Duration interval = 24h;
 constexpr Clock::Duration firstRetry = 1h;
 /// Login and launch have better things to do, and the network may not be up yet.
 constexpr Clock::Duration shortestWait = 1min;
+/// Timers stand still while the machine sleeps, so a long wait looks at the calendar in between.
+constexpr Clock::Duration longestStep = 1h;
 
 const QString automaticKey = u"SUEnableAutomaticChecks"_s;
 const QString lastCheckKey = u"SULastCheckTime"_s;
@@ -80,10 +82,19 @@ void UpdateSchedule::plan()
     if (!m_isStarted || m_isChecking || !isAutomatic())
         return;
     m_timer = std::make_unique<QObject>();
-    m_clock.after(timeUntilNextCheck(), m_timer.get(), [this] {
-        // Without another look at the calendar: the wait was the right one when it began, and a calendar that
-        // was set back meanwhile must not begin it anew.
-        m_check();
+    const Clock::Duration wait = timeUntilNextCheck();
+    waitFor(wait, m_clock.now() + wait);
+}
+
+void UpdateSchedule::waitFor(Clock::Duration wait, std::chrono::system_clock::time_point end)
+{
+    const Clock::Duration step = std::min(wait, longestStep);
+    m_clock.after(step, m_timer.get(), [this, rest = wait - step, end] {
+        // Either is enough: a calendar that was set back meanwhile must not begin the wait anew.
+        if (rest <= Clock::Duration::zero() || m_clock.now() >= end)
+            m_check();
+        else
+            waitFor(rest, end);
     });
 }
 

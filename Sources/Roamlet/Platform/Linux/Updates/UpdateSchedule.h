@@ -7,6 +7,7 @@
 
 #include <QObject>
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -41,6 +42,8 @@ public:
 
 private:
     void plan();
+    /// A check is due when the wait is over, or when the calendar has come to its end.
+    void waitFor(Clock::Duration wait, std::chrono::system_clock::time_point end);
     Clock::Duration timeUntilNextCheck();
     std::optional<std::chrono::system_clock::time_point> lastCheck() const;
     void setLastCheck(std::chrono::system_clock::time_point time);
