@@ -134,6 +134,19 @@ TEST_F(ContentViewTest, aSearchShowsBookmarksFlatAndClearingItTheTree)
     expectSubtitle(*content, u"1 item"_s);
 }
 
+TEST_F(ContentViewTest, theSearchFieldHasAButtonThatClearsItWhenThereIsSomething)
+{
+    const auto content = makeContent();
+    auto *field = part<QLineEdit>(*content, u"searchField"_s);
+    auto *clear = field->findChild<QAction *>(u"clearSearch"_s);
+    EXPECT_FALSE(clear->isVisible());
+    QTest::keyClicks(field, u"x"_s);
+    EXPECT_TRUE(clear->isVisible());
+    clear->trigger();
+    EXPECT_EQ(field->text(), u"");
+    EXPECT_FALSE(clear->isVisible());
+}
+
 TEST_F(ContentViewTest, groupedBySiteBookmarksStayFlatWithoutASearch)
 {
     addChromium();

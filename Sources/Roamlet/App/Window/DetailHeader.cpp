@@ -61,12 +61,18 @@ DetailHeader::DetailHeader(QWidget *parent)
     m_search->setObjectName(u"searchField"_s);
     m_search->setPlaceholderText(u"Title or URL"_s);
     m_search->setAccessibleName(u"Search"_s);
-    m_search->setClearButtonEnabled(true);
-    m_search->addAction(symbolIcon(u"magnifyingglass"_s, palette().color(QPalette::PlaceholderText)),
-                        QLineEdit::LeadingPosition);
-    // A screen reader finds both buttons, which otherwise say nothing.
-    m_search->actions().first()->setText(u"Clear Search"_s);
-    m_search->actions().last()->setText(u"Search"_s);
+    // A screen reader finds both buttons, so they have texts. Qt's own clear button looks for its icon
+    // through the whole theme before the window can show.
+    const QColor faint = palette().color(QPalette::PlaceholderText);
+    m_search->addAction(symbolIcon(u"magnifyingglass"_s, faint), QLineEdit::LeadingPosition)
+        ->setText(u"Search"_s);
+    QAction *clear = m_search->addAction(symbolIcon(u"xmark.circle"_s, faint), QLineEdit::TrailingPosition);
+    clear->setObjectName(u"clearSearch"_s);
+    clear->setText(u"Clear Search"_s);
+    clear->setVisible(false);
+    connect(clear, &QAction::triggered, m_search, &QLineEdit::clear);
+    connect(m_search, &QLineEdit::textChanged, clear,
+            [clear](const QString &text) { clear->setVisible(!text.isEmpty()); });
     m_search->setMinimumWidth(180);
     m_search->setMaximumWidth(260);
     m_search->installEventFilter(this);
