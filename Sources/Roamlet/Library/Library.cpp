@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <limits>
 #include <utility>
+#include <vector>
 
 namespace roamlet
 {
@@ -146,10 +147,17 @@ void Library::refreshMenu()
 {
     if (m_menuIsOpen)
         return;
-    QList<HistoryItem> recent = m_snapshot.history;
-    std::ranges::stable_sort(recent, std::ranges::greater(), &HistoryItem::lastVisit);
-    recent.resize(std::min(recent.size(), menuLength));
-    m_menuRecent = std::move(recent);
+    // Only the few that the menu holds are put into order; an earlier row goes before one of the same time.
+    std::vector<const HistoryItem *> rows;
+    rows.reserve(static_cast<size_t>(m_snapshot.history.size()));
+    for (const HistoryItem &item : std::as_const(m_snapshot.history))
+        rows.push_back(&item);
+    const auto end = rows.begin() + std::min(std::ssize(rows), std::ptrdiff_t{menuLength});
+    std::ranges::partial_sort(rows, end, [](const HistoryItem *left, const HistoryItem *right) {
+        return left->lastVisit != right->lastVisit ? left->lastVisit > right->lastVisit : left < right;
+    });
+    m_menuRecent.clear();
+    std::for_each(rows.begin(), end, [this](const HistoryItem *item) { m_menuRecent.append(*item); });
     m_menuUpdated = m_lastLoaded;
     Q_EMIT menuRecentChanged();
 }
