@@ -274,7 +274,8 @@ TEST_F(ChromiumBookmarks, foldersMayBeNestedAsDeepAsTheyLike)
             ASSERT_EQ(roots.size(), 1);
             EXPECT_EQ(roots[0].folderCount(), depth);
             EXPECT_EQ(roots[0].bookmarkCount(), 1);
-            const QList<BookmarkNode> copy = roots;
+            QList<BookmarkNode> copy = roots;
+            copy.detach();
             EXPECT_EQ(copy[0].bookmarkCount(), 1);
         });
     }

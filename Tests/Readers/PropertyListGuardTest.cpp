@@ -167,7 +167,7 @@ TEST(PropertyListGuard, aWideListFarInsideIsRefused)
 
 TEST(PropertyListGuard, tagsInTextsDoNotCount)
 {
-    const QByteArray text = QByteArray("<dict>").repeated(2 * deepestNesting);
+    const QByteArray text = QByteArray("<dict>").repeated(2LL * deepestNesting);
     EXPECT_EQ(refusal(plist("<string><![CDATA[" + text + "]]></string>")), std::nullopt);
     EXPECT_EQ(refusal(plist("<!--" + text + "--><string/>")), std::nullopt);
 }

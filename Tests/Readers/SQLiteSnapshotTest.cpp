@@ -462,6 +462,7 @@ TEST_F(SQLiteSnapshotTest, twoReadsOfOneDatabaseDoNotMeet)
     std::array<QString, 4> folders;
     {
         std::vector<std::jthread> threads;
+        threads.reserve(results.size());
         for (size_t i = 0; i < results.size(); ++i) {
             threads.emplace_back([&, i] {
                 const auto snapshot = SQLiteSnapshot::copying(source, reading);
