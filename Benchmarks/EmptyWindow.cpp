@@ -13,7 +13,7 @@
 int main(int argc, char **argv)
 {
     const QApplication application(argc, argv);
-    const roamlet::WindowMeasure measure(roamlet::WindowMeasure::isAskedForMemory(argc, argv),
+    const roamlet::WindowMeasure measure(roamlet::WindowMeasure::askedFor(argc, argv),
                                          [](const QTreeView &) { return true; });
     QMainWindow window;
     QTreeView table;

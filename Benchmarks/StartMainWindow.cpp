@@ -10,12 +10,12 @@
 namespace
 {
 
-bool measuresMemory = false;
+roamlet::WindowMeasure::Mode mode = roamlet::WindowMeasure::Mode::Start;
 
 /// The program makes its own application object; this is called as soon as it exists.
 void watchForFirstRows()
 {
-    new roamlet::WindowMeasure(measuresMemory, [](const QTreeView &view) {
+    new roamlet::WindowMeasure(mode, [](const QTreeView &view) {
         return view.isVisible() && view.model() != nullptr && view.model()->rowCount() > 0;
     });
 }
@@ -26,6 +26,6 @@ Q_COREAPP_STARTUP_FUNCTION(watchForFirstRows)
 
 int main(int argc, char **argv)
 {
-    measuresMemory = roamlet::WindowMeasure::isAskedForMemory(argc, argv);
+    mode = roamlet::WindowMeasure::askedFor(argc, argv);
     return roamlet::RoamletApp::run(1, argv);
 }

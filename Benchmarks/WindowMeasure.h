@@ -10,6 +10,7 @@
 
 #include <unistd.h>
 
+#include <cstdint>
 #include <cstdio>
 #include <functional>
 #include <string_view>
@@ -17,22 +18,35 @@
 namespace roamlet
 {
 
-/// Ends a program with windows at the moment to be measured: when a list was painted first, or, with
-/// "--memory" among the arguments, some time after its windows were closed then; the memory in use is printed
-/// in kB.
+/// Ends a program with windows at the moment to be measured.
 class WindowMeasure final : public QObject
 {
 public:
+    enum class Mode : std::uint8_t {
+        Start,  ///< Ends when a list was painted first.
+        Memory, ///< "--memory": then closes the windows, and some time later prints the memory in use, in kB.
+        Stay    ///< "--stay": then closes the windows and stays in the tray.
+    };
+
     /// `isReady` says whether what was painted in a view is what is waited for.
-    WindowMeasure(bool measuresMemory, std::function<bool(const QTreeView &)> isReady)
-        : m_measuresMemory(measuresMemory), m_isReady(std::move(isReady))
+    WindowMeasure(Mode mode, std::function<bool(const QTreeView &)> isReady)
+        : m_mode(mode), m_isReady(std::move(isReady))
     {
         QCoreApplication::instance()->installEventFilter(this);
+        constexpr int patience = 60'000;
+        QTimer::singleShot(patience, this, [this] {
+            if (m_isOver)
+                return;
+            std::fputs("nothing was painted\n", stderr);
+            _exit(1);
+        });
     }
 
-    static bool isAskedForMemory(int argc, char **argv)
+    /// What the arguments of the program ask for.
+    static Mode askedFor(int argc, char **argv)
     {
-        return argc > 1 && std::string_view(argv[1]) == "--memory";
+        const std::string_view argument = argc > 1 ? argv[1] : "";
+        return argument == "--memory" ? Mode::Memory : (argument == "--stay" ? Mode::Stay : Mode::Start);
     }
 
 protected:
@@ -51,10 +65,12 @@ private:
     void end()
     {
         // What is measured is the start; how a program ends is its own affair.
-        if (!m_measuresMemory)
+        if (m_mode == Mode::Start)
             _exit(0);
         QApplication::setQuitOnLastWindowClosed(false);
         QApplication::closeAllWindows();
+        if (m_mode == Mode::Stay)
+            return;
         constexpr int settling = 2000;
         QTimer::singleShot(settling, this, [] {
             std::FILE *status = std::fopen("/proc/self/statm", "re");
@@ -68,7 +84,7 @@ private:
         });
     }
 
-    bool m_measuresMemory;
+    Mode m_mode;
     std::function<bool(const QTreeView &)> m_isReady;
     bool m_isOver = false;
 };

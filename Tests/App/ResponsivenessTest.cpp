@@ -6,6 +6,7 @@
 #include "App/RoamletApp.h"
 #include "App/Updates/BundleInformation.h"
 #include "App/Updates/Updater.h"
+#include "Lists/SortedRows.h"
 #include "SampleHome/SampleHome.h"
 #include "Support/FakeActivationPolicy.h"
 #include "Support/FakeLoginService.h"
@@ -54,6 +55,17 @@ protected:
                                     .iconsPerProfile = 60});
     }
 
+    RoamletApp::Services services()
+    {
+        return {.platform = home.platform(),
+                .activation = activation,
+                .loginService = loginService,
+                .workspace = workspace,
+                .savePanel = savePanel,
+                .alert = alert,
+                .updater = updater,
+                .hasTray = [] { return true; }};
+    }
     template<typename Widget>
     Widget &part(RoamletApp &app, const QString &name) const
     {
@@ -92,14 +104,7 @@ protected:
 
 TEST_F(ResponsivenessTest, theMainThreadIsNeverBusyForLong)
 {
-    RoamletApp app({.platform = home.platform(),
-                    .activation = activation,
-                    .loginService = loginService,
-                    .workspace = workspace,
-                    .savePanel = savePanel,
-                    .alert = alert,
-                    .updater = updater,
-                    .hasTray = [] { return true; }});
+    RoamletApp app(services());
     app.start(false);
     StallMeter meter;
     meter.setActivity(u"loading"_s);
@@ -150,6 +155,65 @@ TEST_F(ResponsivenessTest, theMainThreadIsNeverBusyForLong)
         GTEST_SKIP() << "measured with a sanitizer: " << longest.duration.count() << " us";
     EXPECT_LE(longest.duration, 50ms)
         << longest.duration.count() << " us while " << longest.activity.toStdString();
+}
+
+/// Notes when a view paints another first row than before.
+class FirstRowWatch final : public QObject
+{
+public:
+    explicit FirstRowWatch(QTreeView &view) : m_view(view), m_before(firstRow())
+    {
+        view.viewport()->installEventFilter(this);
+    }
+    QString firstRow() const { return m_view.model()->index(0, 0).data().toString(); }
+
+    std::optional<std::chrono::steady_clock::time_point> painted;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() != QEvent::Paint || painted || firstRow() == m_before)
+            return QObject::eventFilter(watched, event);
+        // The view paints first.
+        watched->removeEventFilter(this);
+        QCoreApplication::sendEvent(watched, event);
+        painted = std::chrono::steady_clock::now();
+        return true;
+    }
+
+private:
+    QTreeView &m_view;
+    QString m_before;
+};
+
+TEST_F(ResponsivenessTest, aListOfTenThousandRowsIsSortedAndPainted)
+{
+    RoamletApp app(services());
+    app.start(false);
+    settle(app);
+    const QList<HistoryItem> rows = app.library().snapshot().history;
+    ASSERT_EQ(rows.size(), 10'000);
+    QTreeView &view = *shownList(app);
+
+    const auto beforeSort = std::chrono::steady_clock::now();
+    const Collation collation(QLocale::system().collation().name());
+    const auto sorted = sortedRows(rows, {{SortColumns<HistoryItem>::Column::Title, SortOrder::Forward}},
+                                   collation, std::stop_token());
+    const auto sort = std::chrono::steady_clock::now() - beforeSort;
+
+    FirstRowWatch watch(view);
+    QHeaderView *header = view.header();
+    const auto clicked = std::chrono::steady_clock::now();
+    QTest::mouseClick(header->viewport(), Qt::LeftButton, {},
+                      QPoint(header->sectionViewportPosition(0) + 5, header->height() / 2));
+    ASSERT_TRUE(waitUntil([&watch] { return watch.painted.has_value(); }, patience, 1ms));
+    EXPECT_EQ(watch.firstRow(), sorted->first().title);
+
+    const auto microseconds = [](auto duration) {
+        return std::to_string(std::chrono::duration_cast<std::chrono::microseconds>(duration).count());
+    };
+    RecordProperty("sort_us", microseconds(sort));
+    RecordProperty("sorted_until_painted_us", microseconds(*watch.painted - clicked));
 }
 
 } // namespace
