@@ -98,7 +98,8 @@ protected:
     FakeWorkspace workspace;
     FakeSavePanel savePanel;
     FakeAlert alert;
-    Updater updater{BundleInformation(), std::make_unique<FakeUpdateDriver>()};
+    FakeUpdateDriver *driver = new FakeUpdateDriver;
+    Updater updater{BundleInformation(), std::unique_ptr<UpdateDriver>(driver)};
     std::unique_ptr<RoamletApp> app;
 };
 
@@ -259,6 +260,25 @@ TEST_F(WholeStoryTest, withoutATrayTheProgramEndsWithItsLastWindowAndNotBetweenT
     QTimer::singleShot(patience, qApp, [] { QCoreApplication::exit(1); });
     EXPECT_EQ(QApplication::exec(), 0) << "it does not end";
     EXPECT_TRUE(isDownloadShown);
+}
+
+TEST_F(WholeStoryTest, withoutATrayAnUpdateThatWaitsIsShownWhenTheUserComesBack)
+{
+    app->start(false);
+    const auto comeBack = [] { Q_EMIT qApp->applicationStateChanged(Qt::ApplicationActive); };
+    hasTray = false;
+    comeBack();
+    EXPECT_EQ(driver->checks, 0) << "nothing waits";
+    driver->delegate->willHandleShowingUpdate(false, Update(), UpdateState());
+    EXPECT_EQ(driver->checks, 0) << "the user is not here";
+    hasTray = true;
+    comeBack();
+    EXPECT_EQ(driver->checks, 0) << "the menu tells of it";
+    hasTray = false;
+    Q_EMIT qApp->applicationStateChanged(Qt::ApplicationInactive);
+    EXPECT_EQ(driver->checks, 0);
+    comeBack();
+    EXPECT_EQ(driver->checks, 1);
 }
 
 } // namespace roamlet::testing

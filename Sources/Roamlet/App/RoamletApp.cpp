@@ -107,6 +107,14 @@ RoamletApp::RoamletApp(const Services &services)
     m_menu.setUpdateIsWaiting(services.updater.updateIsWaiting());
     QObject::connect(&services.updater, &Updater::updateIsWaitingChanged, &m_menu,
                      &MenuBarMenu::setUpdateIsWaiting);
+    // Without a tray nobody sees the menu that tells of an update, so it is shown as soon as the user is
+    // here.
+    QObject::connect(qApp, &QGuiApplication::applicationStateChanged, &m_mainWindow,
+                     [this](Qt::ApplicationState state) {
+                         if (state == Qt::ApplicationActive && !m_services.hasTray() &&
+                             m_services.updater.updateIsWaiting())
+                             m_services.updater.checkForUpdates();
+                     });
     // Without a tray there is no way back to a program without windows. Where one window takes the place of
     // another, there is none for a moment, so this looks once that has passed.
     QObject::connect(
