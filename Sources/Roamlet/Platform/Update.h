@@ -54,7 +54,8 @@ struct UpdateError {
         WrongLength,      ///< the package is not as long as the feed says
         WrongSignature,   ///< the package is not what was signed
         CannotWrite,      ///< the detail is the system's words
-        CannotInstall,    ///< the package arrived and nobody took it; the detail is the system's words
+        CannotInstall,    ///< the package cannot be put in its place; the detail is the system's words
+        NoInstaller,      ///< the package arrived and nobody takes it; the detail is its path
     };
 
     Code code = Code::NetworkFailed;

@@ -19,7 +19,7 @@ using namespace Qt::StringLiterals;
 TEST(UpdateErrorTextTest, EveryErrorHasASentenceOfItsOwn)
 {
     QSet<QString> sentences;
-    const int last = static_cast<int>(UpdateError::Code::CannotInstall);
+    const int last = static_cast<int>(UpdateError::Code::NoInstaller);
     for (int code = 0; code <= last; ++code) {
         const QString text = updateErrorText({static_cast<UpdateError::Code>(code), {}});
         EXPECT_TRUE(text.endsWith(u'.')) << code;

@@ -86,12 +86,11 @@ protected:
                                        .isInFront = [this] { return isInFront; }},
             UpdateInstaller::Environment{.appImage = appImage,
                                          .packageFolder = folder.filePath(u"packages"_s),
-                                         .startProcess =
-                                             [this](const QString &program, const QStringList &arguments) {
-                                                 events.append(u"start "_s % program % u' ' %
-                                                               QFileInfo(arguments.value(0)).fileName());
-                                                 started = contentOf(arguments.value(0));
-                                                 return canStart;
+                                         .openPackage =
+                                             [this](const QString &path) {
+                                                 events.append(u"open "_s % QFileInfo(path).fileName());
+                                                 opened = contentOf(path);
+                                                 return hasInstaller;
                                              },
                                          .restart =
                                              [this](const QString &path) {
@@ -133,8 +132,8 @@ protected:
     QString publicKey = QString::fromLatin1(signer.publicKey());
     QString appImage;
     bool isInFront = true;
-    bool canStart = true;
-    QByteArray started;
+    bool hasInstaller = true;
+    QByteArray opened;
     MemoryUserDefaults defaults;
     FakeUpdateUserInterface windows;
     QStringList &events = windows.events;
@@ -188,9 +187,9 @@ TEST_F(FeedUpdateDriverTest, APackageIsDownloadedCheckedAndHandedToTheDesktop)
     events.clear();
     windows.choose(Choice::Install);
     ASSERT_TRUE(comesTo(u"finish"_s));
-    EXPECT_EQ(events, (QStringList{u"download"_s, u"verifying"_s, u"start xdg-open Roamlet.deb"_s, u"close"_s,
-                                   u"finish"_s}));
-    EXPECT_EQ(started, package);
+    EXPECT_EQ(events,
+              (QStringList{u"download"_s, u"verifying"_s, u"open Roamlet.deb"_s, u"close"_s, u"finish"_s}));
+    EXPECT_EQ(opened, package);
     ASSERT_FALSE(windows.progress.isEmpty());
     EXPECT_EQ(windows.progress.last().first, package.size());
     EXPECT_EQ(windows.progress.last().second, package.size());
@@ -262,14 +261,14 @@ TEST_F(FeedUpdateDriverTest, APackageWithoutEncryptionIsRefused)
     EXPECT_EQ(windows.error.code, Code::InsecureAddress);
 }
 
-TEST_F(FeedUpdateDriverTest, ADesktopThatTakesNothingIsAClearError)
+TEST_F(FeedUpdateDriverTest, ADesktopWithoutAnInstallerIsAClearError)
 {
-    canStart = false;
+    hasInstaller = false;
     open();
     check(u"attention 2.0"_s);
     windows.choose(Choice::Install);
     ASSERT_TRUE(comesTo(u"error"_s));
-    EXPECT_EQ(windows.error, (UpdateError{Code::CannotInstall, u"xdg-open"_s}));
+    EXPECT_EQ(windows.error, (UpdateError{Code::NoInstaller, folder.filePath(u"packages/Roamlet.deb"_s)}));
 }
 
 TEST_F(FeedUpdateDriverTest, AFolderWithoutPermissionIsAClearError)
@@ -474,7 +473,7 @@ TEST_F(FeedUpdateDriverTest, AnUpdateIsAsGoodWithoutItsNotes)
     check(u"attention 2.0"_s);
     windows.choose(Choice::Install);
     ASSERT_TRUE(comesTo(u"finish"_s));
-    EXPECT_EQ(started, package);
+    EXPECT_EQ(opened, package);
 }
 
 TEST_F(FeedUpdateDriverTest, AnswersThatComeTooLateDoNoHarm)

@@ -23,10 +23,10 @@ protected:
     {
         return UpdateInstaller({.appImage = appImage,
                                 .packageFolder = folder.filePath(u"cache/Roamlet/Updates"_s),
-                                .startProcess =
-                                    [this](const QString &program, const QStringList &arguments) {
-                                        started.append(QStringList(program) + arguments);
-                                        return canStart;
+                                .openPackage =
+                                    [this](const QString &path) {
+                                        opened.append(path);
+                                        return hasInstaller;
                                     },
                                 .restart = [this](const QString &path) { restarted.append(path); }});
     }
@@ -46,8 +46,8 @@ protected:
     }
 
     QString appImage;
-    bool canStart = true;
-    QList<QStringList> started;
+    bool hasInstaller = true;
+    QStringList opened;
     QStringList restarted;
 };
 
@@ -58,7 +58,7 @@ TEST_F(UpdateInstallerTest, APackageIsHandedToTheDesktop)
     EXPECT_EQ(*path, folder.filePath(u"cache/Roamlet/Updates/Roamlet.deb"_s));
     write(*path, "package");
     EXPECT_EQ(installer().install(), std::nullopt);
-    EXPECT_EQ(started, (QList<QStringList>{{u"xdg-open"_s, *path}}));
+    EXPECT_EQ(opened, QStringList{*path});
     EXPECT_EQ(restarted, QStringList());
     EXPECT_EQ(contentOf(*path), "package") << "the desktop reads it when it gets to it";
 }
@@ -72,10 +72,11 @@ TEST_F(UpdateInstallerTest, OnlyTheUserEntersTheFolderOfPackages)
     EXPECT_EQ(modeOf(packages), 0700U);
 }
 
-TEST_F(UpdateInstallerTest, ADesktopThatTakesNothingIsAnError)
+TEST_F(UpdateInstallerTest, ADesktopWithoutAnInstallerIsAnErrorThatTellsWhereThePackageIs)
 {
-    canStart = false;
-    EXPECT_EQ(installer().install(), (UpdateError{Code::CannotInstall, u"xdg-open"_s}));
+    hasInstaller = false;
+    const QString path = installer().packagePath().value();
+    EXPECT_EQ(installer().install(), (UpdateError{Code::NoInstaller, path}));
 }
 
 TEST_F(UpdateInstallerTest, AFolderThatCannotBeMadeIsAnErrorInTheSystemsWords)
@@ -101,7 +102,7 @@ TEST_F(UpdateInstallerTest, AnAppImageIsReplacedInItsPlaceAndRestarted)
     EXPECT_EQ(modeOf(appImage), 0750U);
     EXPECT_EQ(names(), QStringList{u"Roamlet.AppImage"_s});
     EXPECT_EQ(restarted, QStringList{appImage});
-    EXPECT_EQ(started, QList<QStringList>());
+    EXPECT_EQ(opened, QStringList());
 }
 
 TEST_F(UpdateInstallerTest, ANewAppImageCanBeStartedByItsOwner)

@@ -8,7 +8,6 @@
 #include "Platform/Platform.h"
 
 #include <QGuiApplication>
-#include <QProcess>
 
 #include <utility>
 
@@ -23,9 +22,6 @@ std::unique_ptr<UpdateDriver> platformUpdateDriver(const BundleInformation &info
                                                    std::function<void(const QString &path)> restart)
 {
     UpdateInstaller::Environment installer = UpdateInstaller::Environment::ofThisProcess();
-    installer.startProcess = [](const QString &program, const QStringList &arguments) {
-        return QProcess::startDetached(program, arguments);
-    };
     installer.restart = std::move(restart);
     const QString userAgent = information.name % u'/' % information.version;
     return std::make_unique<FeedUpdateDriver>(

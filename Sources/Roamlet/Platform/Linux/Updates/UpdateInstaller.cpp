@@ -5,6 +5,7 @@
 
 #include "Platform/Linux/AppImage.h"
 #include "Platform/Linux/LinuxIO.h"
+#include "Platform/Linux/Updates/FileOpening.h"
 #include "Platform/Linux/Updates/PackageDownload.h"
 
 #include <QDir>
@@ -34,11 +35,13 @@ UpdateError lastErrorAs(UpdateError::Code code)
 
 UpdateInstaller::Environment UpdateInstaller::Environment::ofThisProcess()
 {
-    return {.appImage = ownAppImage(),
-            .packageFolder =
-                QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) % u"/Roamlet/Updates",
-            .startProcess = {},
-            .restart = {}};
+    return {
+        .appImage = ownAppImage(),
+        .packageFolder =
+            QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) % u"/Roamlet/Updates",
+        .openPackage =
+            [](const QString &path) { return openFile(path, u"application/vnd.debian.binary-package"_s); },
+        .restart = {}};
 }
 
 UpdateInstaller::UpdateInstaller(Environment environment) : m_environment(std::move(environment)) {}
@@ -77,8 +80,8 @@ std::optional<UpdateError> UpdateInstaller::install()
         return package.error();
     if (!m_environment.appImage.isEmpty())
         return replaceAppImage(*package);
-    if (!m_environment.startProcess(u"xdg-open"_s, {*package}))
-        return UpdateError{UpdateError::Code::CannotInstall, u"xdg-open"_s};
+    if (!m_environment.openPackage(*package))
+        return UpdateError{UpdateError::Code::NoInstaller, *package};
     return {};
 }
 

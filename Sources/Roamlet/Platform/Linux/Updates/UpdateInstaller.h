@@ -6,7 +6,6 @@
 #include "Platform/Update.h"
 
 #include <QString>
-#include <QStringList>
 
 #include <expected>
 #include <functional>
@@ -24,13 +23,13 @@ public:
         QString appImage;
         /// Where packages for the desktop's installer are kept. Nothing else is to be in there.
         QString packageFolder;
-        /// Starts a program without waiting for it, and says whether that went well.
-        std::function<bool(const QString &program, const QStringList &arguments)> startProcess;
+        /// Opens a package with the desktop's installer. False where the desktop has none.
+        std::function<bool(const QString &path)> openPackage;
         /// Ends this program in an orderly way and then starts the one at `path`. It must not be started
         /// before this one has ended: of two, the second hands over to the first.
         std::function<void(const QString &path)> restart;
 
-        /// Where this process keeps packages and whether it is an AppImage; the functions are left empty.
+        /// Where this process keeps packages and whether it is an AppImage; `restart` is left empty.
         static Environment ofThisProcess();
     };
 
