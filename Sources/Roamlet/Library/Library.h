@@ -147,6 +147,8 @@ private:
     void publish(Snapshot snapshot);
     void filesChanged(const QSet<QString> &sourceIDs);
     void refreshMenu();
+    /// The loaded history of those of the sources that were read without problems, which it takes out.
+    QList<HistoryItem> takeLoaded(QList<Source> &sources) const;
 
     Platform m_platform;
     Snapshot m_snapshot;
