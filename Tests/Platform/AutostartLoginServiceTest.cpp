@@ -167,6 +167,18 @@ TEST_F(AutostartLoginServiceTest, APathIsQuotedAsDesktopEntriesWantIt)
         << qPrintable(entry());
 }
 
+TEST_F(AutostartLoginServiceTest, APathThatNoEntryCanNameIsAnError)
+{
+    for (const QString &program :
+         {u"/opt/a\nExec=b/roamlet"_s, u"/opt/a\tb/roamlet"_s, u"/opt/a\rb/roamlet"_s, u"/opt/\u0001"_s}) {
+        const auto result = service(program).registerProgram();
+        ASSERT_FALSE(result) << qPrintable(program);
+        EXPECT_FALSE(result.error().isEmpty());
+        EXPECT_EQ(service(program).status(), Status::NotRegistered);
+        EXPECT_FALSE(QFile::exists(service().entryPath()));
+    }
+}
+
 TEST_F(AutostartLoginServiceTest, OnlyAProgramBesideItsDesktopEntryIsAnInstalledCopy)
 {
     const auto touch = [this](const QString &path) {

@@ -12,6 +12,7 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <algorithm>
 #include <optional>
 #include <utility>
 
@@ -95,6 +96,10 @@ std::expected<void, QString> AutostartLoginService::registerProgram()
 {
     if (status() == Status::RequiresApproval)
         return {};
+    // Entries have a line for each key; the rest of a name would be another one.
+    if (std::ranges::any_of(m_environment.program,
+                            [](QChar c) { return c.category() == QChar::Other_Control; }))
+        return std::unexpected(u"The name of the program's file or folder contains a control character."_s);
     const QString folder = QFileInfo(entryPath()).path();
     // A failure shows when the file is opened, with the system's words.
     QDir().mkpath(folder);
