@@ -46,7 +46,9 @@ public:
     static Mode askedFor(int argc, char **argv)
     {
         const std::string_view argument = argc > 1 ? argv[1] : "";
-        return argument == "--memory" ? Mode::Memory : (argument == "--stay" ? Mode::Stay : Mode::Start);
+        if (argument == "--memory")
+            return Mode::Memory;
+        return argument == "--stay" ? Mode::Stay : Mode::Start;
     }
 
 protected:
