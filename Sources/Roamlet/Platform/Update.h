@@ -55,6 +55,7 @@ struct UpdateError {
         WrongSignature,   ///< the package is not what was signed
         CannotWrite,      ///< the detail is the system's words
         CannotInstall,    ///< the package cannot be put in its place; the detail is the system's words
+        RestartNeeded,    ///< another version was installed while this one runs
         NoInstaller,      ///< the package arrived and nobody takes it; the detail is its path
     };
 

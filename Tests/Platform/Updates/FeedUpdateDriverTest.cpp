@@ -85,6 +85,7 @@ protected:
                                        .userInterface = windows,
                                        .isInFront = [this] { return isInFront; }},
             UpdateInstaller::Environment{.appImage = appImage,
+                                         .program = program,
                                          .packageFolder = folder.filePath(u"packages"_s),
                                          .openPackage =
                                              [this](const QString &path) {
@@ -131,6 +132,7 @@ protected:
     QString feed = server.address(u"/feed.xml"_s).toString();
     QString publicKey = QString::fromLatin1(signer.publicKey());
     QString appImage;
+    QString program = folder.filePath(u"roamlet"_s);
     bool isInFront = true;
     bool hasInstaller = true;
     QByteArray opened;
@@ -269,6 +271,33 @@ TEST_F(FeedUpdateDriverTest, ADesktopWithoutAnInstallerIsAClearError)
     windows.choose(Choice::Install);
     ASSERT_TRUE(comesTo(u"error"_s));
     EXPECT_EQ(windows.error, (UpdateError{Code::NoInstaller, folder.filePath(u"packages/Roamlet.deb"_s)}));
+}
+
+TEST_F(FeedUpdateDriverTest, WhatWasInstalledWhileTheProgramRunsIsNotOfferedAgain)
+{
+    const auto installNext = [this] {
+        const QString next = folder.filePath(u"next"_s);
+        write(next, "program");
+        ASSERT_EQ(std::rename(QFile::encodeName(next).constData(), QFile::encodeName(program).constData()),
+                  0);
+    };
+    installNext();
+    open();
+    isInFront = false;
+    waitForTheFirstCheck(u"leaves 2.0 by schedule"_s);
+    installNext();
+    check(u"error"_s);
+    EXPECT_EQ(windows.error, (UpdateError{Code::RestartNeeded, {}})) << "the one that waits";
+    windows.acknowledge();
+    EXPECT_EQ(events.last(), u"finish"_s);
+
+    EXPECT_EQ(error(), (UpdateError{Code::RestartNeeded, {}})) << "the one that the user asks for";
+    windows.acknowledge();
+    events.clear();
+    passADay(u"finish"_s);
+    EXPECT_EQ(events, QStringList{u"finish"_s}) << "nobody is bothered";
+    offer("1.0");
+    check(u"up to date"_s);
 }
 
 TEST_F(FeedUpdateDriverTest, AFolderWithoutPermissionIsAClearError)

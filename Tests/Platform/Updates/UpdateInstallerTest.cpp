@@ -8,6 +8,8 @@
 
 #include <sys/stat.h>
 
+#include <cstdio>
+
 namespace roamlet::testing
 {
 namespace
@@ -22,6 +24,7 @@ protected:
     UpdateInstaller installer()
     {
         return UpdateInstaller({.appImage = appImage,
+                                .program = folder.filePath(u"roamlet"_s),
                                 .packageFolder = folder.filePath(u"cache/Roamlet/Updates"_s),
                                 .openPackage =
                                     [this](const QString &path) {
@@ -70,6 +73,22 @@ TEST_F(UpdateInstallerTest, OnlyTheUserEntersTheFolderOfPackages)
     ASSERT_EQ(::chmod(QFile::encodeName(packages).constData(), 0777), 0);
     ASSERT_TRUE(installer().packagePath());
     EXPECT_EQ(modeOf(packages), 0700U);
+}
+
+TEST_F(UpdateInstallerTest, AProgramIsReplacedOnceItsNameIsAnotherFiles)
+{
+    const QString program = folder.filePath(u"roamlet"_s);
+    const QString next = folder.filePath(u"roamlet.dpkg-new"_s);
+    write(program, "old program");
+    const UpdateInstaller running = installer();
+    EXPECT_FALSE(running.isProgramReplaced());
+    write(next, "new program");
+    EXPECT_FALSE(running.isProgramReplaced());
+    ASSERT_EQ(std::rename(QFile::encodeName(next).constData(), QFile::encodeName(program).constData()), 0);
+    EXPECT_TRUE(running.isProgramReplaced());
+    EXPECT_FALSE(installer().isProgramReplaced()) << "a later start runs the new one";
+    ASSERT_TRUE(QFile::remove(program));
+    EXPECT_FALSE(running.isProgramReplaced()) << "nothing is there to be started";
 }
 
 TEST_F(UpdateInstallerTest, ADesktopWithoutAnInstallerIsAnErrorThatTellsWhereThePackageIs)

@@ -57,6 +57,8 @@ QString Sentences::of(UpdateError::Code code)
         return tr("The update cannot be saved.");
     case UpdateError::Code::CannotInstall:
         return tr("The update cannot be installed.");
+    case UpdateError::Code::RestartNeeded:
+        return tr("Roamlet has been updated already. Quit it and open it again to use the new version.");
     case UpdateError::Code::NoInstaller:
         return tr("The update was downloaded, but no program here installs packages.");
     }

@@ -8,6 +8,7 @@
 #include "Platform/Linux/Updates/FileOpening.h"
 #include "Platform/Linux/Updates/PackageDownload.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -35,8 +36,10 @@ UpdateError lastErrorAs(UpdateError::Code code)
 
 UpdateInstaller::Environment UpdateInstaller::Environment::ofThisProcess()
 {
+    const QString appImage = ownAppImage();
     return {
-        .appImage = ownAppImage(),
+        .appImage = appImage,
+        .program = appImage.isEmpty() ? QCoreApplication::applicationFilePath() : appImage,
         .packageFolder =
             QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) % u"/Roamlet/Updates",
         .openPackage =
@@ -44,7 +47,24 @@ UpdateInstaller::Environment UpdateInstaller::Environment::ofThisProcess()
         .restart = {}};
 }
 
-UpdateInstaller::UpdateInstaller(Environment environment) : m_environment(std::move(environment)) {}
+UpdateInstaller::UpdateInstaller(Environment environment)
+    : m_environment(std::move(environment)), m_program(identityOf(m_environment.program))
+{
+}
+
+bool UpdateInstaller::isProgramReplaced() const
+{
+    const FileIdentity present = identityOf(m_environment.program);
+    return m_program && present && *present != *m_program;
+}
+
+UpdateInstaller::FileIdentity UpdateInstaller::identityOf(const QString &path)
+{
+    struct stat attributes = {};
+    if (::stat(QFile::encodeName(path).constData(), &attributes) != 0)
+        return {};
+    return std::pair<std::uint64_t, std::uint64_t>(attributes.st_dev, attributes.st_ino);
+}
 
 std::expected<QString, UpdateError> UpdateInstaller::packagePath() const
 {

@@ -7,9 +7,11 @@
 
 #include <QString>
 
+#include <cstdint>
 #include <expected>
 #include <functional>
 #include <optional>
+#include <utility>
 
 namespace roamlet
 {
@@ -21,6 +23,8 @@ public:
     struct Environment {
         /// The AppImage that the program was started from; empty when it was not.
         QString appImage;
+        /// The file that the running program was started from.
+        QString program;
         /// Where packages for the desktop's installer are kept. Nothing else is to be in there.
         QString packageFolder;
         /// Opens a package with the desktop's installer. False where the desktop has none.
@@ -37,6 +41,9 @@ public:
 
     /// Where the package has to be for install(). Its folder is there, or the error tells why not.
     std::expected<QString, UpdateError> packagePath() const;
+    /// Whether another version was installed since this object was made: the one that runs is not the one
+    /// that the next start would run.
+    bool isProgramReplaced() const;
     /// Removes what a download of an earlier run has left unfinished.
     void removeLeftovers() const;
     /// Hands the package to the desktop's installer, or replaces the AppImage by it and restarts. Nothing
@@ -47,7 +54,12 @@ private:
     std::expected<QString, UpdateError> target() const;
     std::optional<UpdateError> replaceAppImage(const QString &package) const;
 
+    /// What tells one file from another of the same name; nothing where there is no file.
+    using FileIdentity = std::optional<std::pair<std::uint64_t, std::uint64_t>>;
+    static FileIdentity identityOf(const QString &path);
+
     Environment m_environment;
+    FileIdentity m_program;
 };
 
 } // namespace roamlet

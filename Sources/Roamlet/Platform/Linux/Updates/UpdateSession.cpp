@@ -75,7 +75,13 @@ void UpdateSession::bringToFront()
         return;
     }
     if (m_choice) {
-        showUpdate();
+        if (m_setup.installer.isProgramReplaced()) {
+            m_sight = Sight::Window;
+            giveAttention();
+            fail({UpdateError::Code::RestartNeeded, {}});
+        } else {
+            showUpdate();
+        }
         return;
     }
     m_sight = Sight::Window;
@@ -118,6 +124,11 @@ void UpdateSession::failToRead(const UpdateError &error)
 
 void UpdateSession::offer(const UpdateChoice &choice)
 {
+    // It may be this very version, or one on the way to it; the program that runs cannot tell.
+    if (m_setup.installer.isProgramReplaced()) {
+        fail({UpdateError::Code::RestartNeeded, {}});
+        return;
+    }
     m_choice = choice;
     beginStep();
     if (m_origin == Origin::Schedule) {
