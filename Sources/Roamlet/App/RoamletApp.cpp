@@ -17,6 +17,7 @@
 #include "Platform/Linux/AutostartLoginService.h"
 #include "Platform/Linux/DBusRunningInstance.h"
 #include "Platform/Linux/LinuxActivationPolicy.h"
+#include "Platform/Linux/LinuxIO.h"
 #include "Platform/Linux/LinuxPlatform.h"
 #include "Platform/Linux/LinuxWorkspace.h"
 #include "Platform/Linux/StopSignals.h"
@@ -30,6 +31,8 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cstdio>
+#include <cstdlib>
 #include <optional>
 
 namespace roamlet
@@ -153,11 +156,17 @@ int RoamletApp::run(int argc, char **argv)
         // Everything is gone by now, and with it every private copy and every half download.
         signals.endProcessIfAsked();
     }
-    if (successor) {
-        const QByteArray path = QFile::encodeName(*successor);
-        execl(path.constData(), path.constData(), nullptr);
-    }
-    return status;
+    return successor ? giveWayTo(*successor) : status;
+}
+
+int RoamletApp::giveWayTo(const QString &path)
+{
+    const QByteArray name = QFile::encodeName(path);
+    execl(name.constData(), name.constData(), nullptr);
+    const QString problem = QString::fromStdString(lastError().message());
+    std::fputs(QString(u"roamlet: cannot start "_s % path % u": " % problem % u'\n').toUtf8().constData(),
+               stderr);
+    return EXIT_FAILURE;
 }
 
 int RoamletApp::runUntilTheEnd(int argc, char **argv, const std::stop_token &stop,
@@ -202,7 +211,7 @@ int RoamletApp::runUntilTheEnd(int argc, char **argv, const std::stop_token &sto
     Updater updater(information, platformUpdateDriver(information, services, updateWindows,
                                                       [&successor](const QString &path) {
                                                           successor = path;
-                                                          QCoreApplication::quit();
+                                                          quit();
                                                       }));
     RoamletApp app({.platform = services,
                     .activation = activation,

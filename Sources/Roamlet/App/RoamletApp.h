@@ -57,6 +57,8 @@ public:
 
     /// Runs the program until the user quits, and returns the process's status.
     static int run(int argc, char **argv);
+    /// Becomes the program at `path`. Returns only when that fails, and then the process's status.
+    static int giveWayTo(const QString &path);
 
 private:
     /// Runs until the user quits or `stop` asks for the end. `successor` is the program that is to take this
