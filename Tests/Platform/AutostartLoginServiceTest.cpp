@@ -167,6 +167,26 @@ TEST_F(AutostartLoginServiceTest, APathIsQuotedAsDesktopEntriesWantIt)
         << qPrintable(entry());
 }
 
+TEST_F(AutostartLoginServiceTest, AnEntryWhoseProgramIsGoneIsNoRegistration)
+{
+    const QString odd = folder.filePath(u"My \"apps\" $1 `2` 100% \\x.AppImage"_s);
+    QFile program(odd);
+    ASSERT_TRUE(program.open(QIODevice::WriteOnly));
+    program.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    ASSERT_TRUE(service(odd).registerProgram());
+    EXPECT_EQ(service(odd).status(), Status::Enabled);
+    EXPECT_EQ(service().status(), Status::Enabled) << "another copy starts";
+    ASSERT_TRUE(program.rename(folder.filePath(u"moved.AppImage"_s)));
+    EXPECT_EQ(service().status(), Status::NotRegistered);
+    ASSERT_TRUE(service().registerProgram());
+    EXPECT_EQ(service().status(), Status::Enabled);
+
+    writeEntry("[Desktop Entry]\nExec=env A=b /usr/bin/roamlet\n");
+    EXPECT_EQ(service().status(), Status::Enabled) << "found along the path";
+    writeEntry("[Desktop Entry]\nExec=no-such-program-here\n");
+    EXPECT_EQ(service().status(), Status::NotRegistered);
+}
+
 TEST_F(AutostartLoginServiceTest, APathThatNoEntryCanNameIsAnError)
 {
     for (const QString &program :

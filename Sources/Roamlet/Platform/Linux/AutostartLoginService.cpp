@@ -11,6 +11,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
+#include <QStandardPaths>
 
 #include <algorithm>
 #include <optional>
@@ -41,6 +42,25 @@ QString quotedArgument(const QString &argument)
         result += c;
     }
     return u'"' % result % u'"';
+}
+
+/// The first argument of an Exec line; the opposite of quotedArgument().
+QString programOf(QString line)
+{
+    line.replace(u"\\\\"_s, u"\\"_s);
+    QString result;
+    bool isQuoted = false;
+    for (qsizetype i = 0; i < line.size() && (isQuoted || line.at(i) != u' '); ++i) {
+        if (line.at(i) == u'"') {
+            isQuoted = !isQuoted;
+            continue;
+        }
+        const bool isEscape = line.at(i) == u'\\' || line.at(i) == u'%';
+        if (isEscape && i + 1 < line.size())
+            ++i;
+        result += line.at(i);
+    }
+    return result;
 }
 
 /// The value of a key in the entry's main group, or nothing.
@@ -88,8 +108,11 @@ LoginService::Status AutostartLoginService::status() const
     // Desktops switch an entry off in one of these two ways, some by an entry with nothing else in it.
     if (value(entry, u"Hidden"_s) == u"true" || value(entry, u"X-GNOME-Autostart-enabled"_s) == u"false")
         return Status::RequiresApproval;
-    // An entry without a command starts nothing.
-    return value(entry, u"Exec"_s).value_or(QString()).isEmpty() ? Status::NotRegistered : Status::Enabled;
+    // An entry without a command starts nothing, nor does one whose program was moved or removed.
+    const QString program = programOf(value(entry, u"Exec"_s).value_or(QString()));
+    const bool isThere = !program.isEmpty() && (program == m_environment.program ||
+                                                !QStandardPaths::findExecutable(program).isEmpty());
+    return isThere ? Status::Enabled : Status::NotRegistered;
 }
 
 std::expected<void, QString> AutostartLoginService::registerProgram()
