@@ -27,7 +27,9 @@ class AutostartLoginServiceTest : public ::testing::Test
 protected:
     AutostartLoginService service(const QString &program = u"/usr/bin/roamlet"_s) const
     {
-        return AutostartLoginService({.configHome = folder.filePath(u"config"_s), .program = program});
+        return AutostartLoginService({.configHome = folder.filePath(u"config"_s),
+                                      .program = program,
+                                      .dataFolders = {folder.filePath(u"usr/share"_s)}});
     }
 
     QString entry() const
@@ -199,7 +201,7 @@ TEST_F(AutostartLoginServiceTest, APathThatNoEntryCanNameIsAnError)
     }
 }
 
-TEST_F(AutostartLoginServiceTest, OnlyAProgramBesideItsDesktopEntryIsAnInstalledCopy)
+TEST_F(AutostartLoginServiceTest, OnlyAProgramBesideTheEntryThatTheDesktopFindsIsAnInstalledCopy)
 {
     const auto touch = [this](const QString &path) {
         QDir().mkpath(QFileInfo(folder.filePath(path)).path());
@@ -216,6 +218,10 @@ TEST_F(AutostartLoginServiceTest, OnlyAProgramBesideItsDesktopEntryIsAnInstalled
     touch(u"build/share/applications/org.roamlet.Roamlet.desktop"_s);
     EXPECT_FALSE(service(built).isInstalledCopy());
     EXPECT_FALSE(service(folder.filePath(u"usr/bin/gone"_s)).isInstalledCopy());
+
+    const QString unpacked = touch(u"Downloads/roamlet/usr/bin/roamlet"_s);
+    touch(u"Downloads/roamlet/usr/share/applications/org.roamlet.Roamlet.desktop"_s);
+    EXPECT_FALSE(service(unpacked).isInstalledCopy());
 
     const QString link = folder.filePath(u"link"_s);
     ASSERT_TRUE(QFile::link(installed, link));

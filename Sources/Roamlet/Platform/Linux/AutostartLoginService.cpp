@@ -86,7 +86,8 @@ AutostartLoginService::Environment AutostartLoginService::Environment::ofThisPro
 {
     const QString appImage = ownAppImage();
     return {.configHome = roamlet::configHome(),
-            .program = appImage.isEmpty() ? QCoreApplication::applicationFilePath() : appImage};
+            .program = appImage.isEmpty() ? QCoreApplication::applicationFilePath() : appImage,
+            .dataFolders = QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation)};
 }
 
 AutostartLoginService::AutostartLoginService(Environment environment) : m_environment(std::move(environment))
@@ -156,11 +157,16 @@ std::expected<void, QString> AutostartLoginService::unregisterProgram()
 
 bool AutostartLoginService::isInstalledCopy() const
 {
-    // An installation puts the desktop entry beside the program; a build folder or a download has none.
+    // An installation puts the desktop entry beside the program, where the desktop finds it. A build folder
+    // has none, and the desktop knows nothing of one in a package that was merely unpacked.
     const QFileInfo program(QFileInfo(m_environment.program).canonicalFilePath());
     const QDir folder = program.dir();
-    return folder.dirName() == u"bin" &&
-           QFileInfo::exists(QDir::cleanPath(folder.path() % u"/../share/applications/" % desktopFileName));
+    const QString entry =
+        QFileInfo(folder.path() % u"/../share/applications/" % desktopFileName).canonicalFilePath();
+    return folder.dirName() == u"bin" && !entry.isEmpty() &&
+           std::ranges::any_of(m_environment.dataFolders, [&entry](const QString &data) {
+               return QFileInfo(data % u"/applications/" % desktopFileName).canonicalFilePath() == entry;
+           });
 }
 
 } // namespace roamlet

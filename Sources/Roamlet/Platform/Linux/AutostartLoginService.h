@@ -6,6 +6,7 @@
 #include "Platform/LoginService.h"
 
 #include <QString>
+#include <QStringList>
 
 namespace roamlet
 {
@@ -22,8 +23,11 @@ public:
         QString configHome;
         /// The path of the program that is to be started.
         QString program;
+        /// Below which the desktop finds its applications.
+        QStringList dataFolders;
 
-        /// $XDG_CONFIG_HOME and the running program (an AppImage's own file where it runs from one).
+        /// $XDG_CONFIG_HOME, $XDG_DATA_HOME, $XDG_DATA_DIRS and the running program (an AppImage's own file
+        /// where it runs from one).
         static Environment ofThisProcess();
     };
 
