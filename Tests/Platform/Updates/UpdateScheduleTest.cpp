@@ -209,6 +209,18 @@ TEST_F(UpdateScheduleTest, AStoredTimeThatIsNoneCountsAsNever)
     EXPECT_EQ(checksWithin(1min), 1);
 }
 
+TEST_F(UpdateScheduleTest, AStoredTimeOfAnotherAgeIsOneLikeAnyOther)
+{
+    // A time too far ahead for the system's clock must not come round to one that is long ago.
+    defaults.setString(u"SULastCheckTime"_s, u"2610-01-01T00:00:00.000Z"_s);
+    restart();
+    EXPECT_EQ(checksWithin(24h - 1ms), 0);
+    EXPECT_EQ(checksWithin(1ms), 1);
+    defaults.setString(u"SULastCheckTime"_s, u"0001-01-01T00:00:00.000Z"_s);
+    restart();
+    EXPECT_EQ(checksWithin(1min), 1);
+}
+
 TEST_F(UpdateScheduleTest, ACheckThatTheUserAskedForCountsAsWell)
 {
     restart();

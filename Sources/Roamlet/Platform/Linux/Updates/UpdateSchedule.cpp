@@ -62,7 +62,7 @@ void UpdateSchedule::beginCheck()
 void UpdateSchedule::noteSuccess()
 {
     m_failures = 0;
-    setLastCheck(m_clock.now());
+    setLastCheck(now());
 }
 
 void UpdateSchedule::noteFailure()
@@ -109,31 +109,30 @@ Clock::Duration UpdateSchedule::timeUntilNextCheck()
     const auto last = lastCheck();
     if (!last)
         return shortestWait;
-    const auto now = m_clock.now();
-    if (*last > now) {
+    const Time present = now();
+    if (*last > present) {
         // The calendar was set back. Writing it down lets the day end even over many short runs.
-        setLastCheck(now);
+        setLastCheck(present);
         return interval;
     }
-    const auto elapsed = std::chrono::duration_cast<Clock::Duration>(now - *last);
+    const Clock::Duration elapsed = present - *last;
     return std::clamp(interval - std::min(elapsed, interval), shortestWait, interval);
 }
 
-std::optional<std::chrono::system_clock::time_point> UpdateSchedule::lastCheck() const
+std::optional<UpdateSchedule::Time> UpdateSchedule::lastCheck() const
 {
     const QDateTime time =
         QDateTime::fromString(m_defaults.string(lastCheckKey).value_or(QString()), Qt::ISODateWithMs);
     if (!time.isValid())
         return {};
-    return std::chrono::system_clock::time_point(std::chrono::milliseconds(time.toMSecsSinceEpoch()));
+    return Time(Clock::Duration(time.toMSecsSinceEpoch()));
 }
 
-void UpdateSchedule::setLastCheck(std::chrono::system_clock::time_point time)
+void UpdateSchedule::setLastCheck(Time time)
 {
-    const auto sinceEpoch = std::chrono::duration_cast<std::chrono::milliseconds>(time.time_since_epoch());
     m_defaults.setString(
         lastCheckKey,
-        QDateTime::fromMSecsSinceEpoch(sinceEpoch.count(), Qt::UTC).toString(Qt::ISODateWithMs));
+        QDateTime::fromMSecsSinceEpoch(time.time_since_epoch().count(), Qt::UTC).toString(Qt::ISODateWithMs));
 }
 
 } // namespace roamlet

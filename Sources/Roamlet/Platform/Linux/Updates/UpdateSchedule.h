@@ -45,8 +45,11 @@ private:
     /// A check is due when the wait is over, or when the calendar has come to its end.
     void waitFor(Clock::Duration wait, std::chrono::system_clock::time_point end);
     Clock::Duration timeUntilNextCheck();
-    std::optional<std::chrono::system_clock::time_point> lastCheck() const;
-    void setLastCheck(std::chrono::system_clock::time_point time);
+    /// No finer than what is stored: the system's own unit ends some centuries from now.
+    using Time = std::chrono::sys_time<Clock::Duration>;
+    Time now() const { return std::chrono::time_point_cast<Clock::Duration>(m_clock.now()); }
+    std::optional<Time> lastCheck() const;
+    void setLastCheck(Time time);
 
     const Clock &m_clock;
     UserDefaults &m_defaults;
