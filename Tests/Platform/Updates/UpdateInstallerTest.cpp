@@ -6,6 +6,8 @@
 #include "../WithoutPrivileges.h"
 #include "UpdatesTest.h"
 
+#include <QDateTime>
+
 #include <sys/stat.h>
 
 #include <cstdio>
@@ -16,6 +18,7 @@ namespace
 {
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 using Code = UpdateError::Code;
 
 class UpdateInstallerTest : public UpdatesTest
@@ -64,6 +67,26 @@ TEST_F(UpdateInstallerTest, APackageIsHandedToTheDesktop)
     EXPECT_EQ(opened, QStringList{*path});
     EXPECT_EQ(restarted, QStringList());
     EXPECT_EQ(contentOf(*path), "package") << "the desktop reads it when it gets to it";
+}
+
+TEST_F(UpdateInstallerTest, APackageIsKeptForADayAndThenRemoved)
+{
+    const QString path = installer().packagePath().value();
+    write(path, "package");
+    QFile package(path);
+    ASSERT_TRUE(package.open(QIODevice::ReadWrite));
+    const auto now = clock.now();
+    const qint64 milliseconds =
+        std::chrono::duration_cast<std::chrono::milliseconds>(now.time_since_epoch()).count();
+    ASSERT_TRUE(
+        package.setFileTime(QDateTime::fromMSecsSinceEpoch(milliseconds), QFile::FileModificationTime));
+    package.close();
+    installer().removeLeftovers(now - 1000h);
+    installer().removeLeftovers(now + 24h - 1ms);
+    EXPECT_EQ(contentOf(path), "package");
+    installer().removeLeftovers(now + 24h);
+    EXPECT_FALSE(QFile::exists(path));
+    installer().removeLeftovers(now + 24h);
 }
 
 TEST_F(UpdateInstallerTest, OnlyTheUserEntersTheFolderOfPackages)

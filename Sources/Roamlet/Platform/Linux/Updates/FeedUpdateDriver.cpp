@@ -35,7 +35,7 @@ FeedUpdateDriver::~FeedUpdateDriver() = default;
 void FeedUpdateDriver::open(UpdateDriverDelegate &delegate, Scheduler scheduler)
 {
     m_delegate = &delegate;
-    m_installer.removeLeftovers();
+    m_installer.removeLeftovers(m_services.clock.now());
     if (scheduler == Scheduler::Started)
         m_schedule.start();
 }

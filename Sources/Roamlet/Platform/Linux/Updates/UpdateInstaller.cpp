@@ -9,6 +9,7 @@
 #include "Platform/Linux/Updates/PackageDownload.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -23,6 +24,7 @@ namespace roamlet
 {
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace
 {
@@ -76,10 +78,19 @@ std::expected<QString, UpdateError> UpdateInstaller::packagePath() const
     return target();
 }
 
-void UpdateInstaller::removeLeftovers() const
+void UpdateInstaller::removeLeftovers(std::chrono::system_clock::time_point now) const
 {
-    if (const auto path = target())
-        PackageDownload::removeUnfinished(*path);
+    const auto path = target();
+    if (!path)
+        return;
+    PackageDownload::removeUnfinished(*path);
+    // The user may still be asked by the installer whether they want it.
+    constexpr std::chrono::hours patience = 24h;
+    const QDateTime written = QFileInfo(*path).lastModified();
+    const auto age = std::chrono::duration_cast<std::chrono::milliseconds>(now.time_since_epoch()) -
+                     std::chrono::milliseconds(written.toMSecsSinceEpoch());
+    if (written.isValid() && age >= patience)
+        QFile::remove(*path);
 }
 
 std::expected<QString, UpdateError> UpdateInstaller::target() const

@@ -7,6 +7,7 @@
 
 #include <QString>
 
+#include <chrono>
 #include <cstdint>
 #include <expected>
 #include <functional>
@@ -44,8 +45,9 @@ public:
     /// Whether another version was installed since this object was made: the one that runs is not the one
     /// that the next start would run.
     bool isProgramReplaced() const;
-    /// Removes what a download of an earlier run has left unfinished.
-    void removeLeftovers() const;
+    /// Removes what a download of an earlier run has left unfinished, and a package that the desktop's
+    /// installer was handed so long before `now` that it has no more use for it.
+    void removeLeftovers(std::chrono::system_clock::time_point now) const;
     /// Hands the package to the desktop's installer, or replaces the AppImage by it and restarts. Nothing
     /// when that went well.
     std::optional<UpdateError> install();
