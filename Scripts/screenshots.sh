@@ -22,14 +22,17 @@ clean_up() {
 }
 trap clean_up EXIT
 
-export DISPLAY=:94
-Xvfb $DISPLAY -screen 0 1280x900x24 >/dev/null 2>&1 &
-processes+=($!)
-until xdotool getdisplaygeometry >/dev/null 2>&1; do sleep 0.1; done
-openbox >/dev/null 2>&1 &
-processes+=($!)
-trayer --edge top --align right --widthtype request --height 24 >/dev/null 2>&1 &
-processes+=($!)
+# number of the display, size
+begin_screen() {
+  export DISPLAY=:$1
+  Xvfb "$DISPLAY" -screen 0 "$2x24" >/dev/null 2>&1 &
+  processes+=($!)
+  until xdotool getdisplaygeometry >/dev/null 2>&1; do sleep 0.1; done
+  openbox >/dev/null 2>&1 &
+  processes+=($!)
+  trayer --edge top --align right --widthtype request --height 24 >/dev/null 2>&1 &
+  processes+=($!)
+}
 
 # Waits until the screen has stopped changing.
 settle() {
@@ -48,10 +51,21 @@ window() {
   settle && import -window "$(xdotool search --onlyvisible --name "^$2" | tail -n 1)" "$target/$theme-$1.png"
 }
 
-photograph() {
-  env HOME="$work/home" XDG_CONFIG_HOME="$work/home/.config-$theme" QT_QPA_PLATFORMTHEME=gtk3 GTK_THEME="$1" \
+# GTK theme, home folder, further settings; leaves the session's process in $session
+begin_session() {
+  local gtk_theme=$1 home=$2
+  shift 2
+  env HOME="$home" XDG_CONFIG_HOME="$home/.config-$theme" QT_QPA_PLATFORMTHEME=gtk3 GTK_THEME="$gtk_theme" "$@" \
     dbus-run-session -- build/release/roamlet >/dev/null 2>&1 &
-  local session=$!
+  session=$!
+}
+end_session() {
+  pkill -TERM -P "$session" -x roamlet || true
+  wait "$session" 2>/dev/null || true
+}
+
+photograph() {
+  begin_session "$1" "$work/home"
   window history 'Recent History'
   xdotool key ctrl+f type clock
   window search 'Recent History'
@@ -73,10 +87,28 @@ photograph() {
   xdotool key Down Down Right
   screen tray-recent
   xdotool key Escape Escape Escape
-  pkill -TERM -P "$session" -x roamlet || true
-  wait "$session" 2>/dev/null || true
+  xdotool search --onlyvisible --name '^Recent History' windowsize --sync 820 480
+  window narrow 'Recent History'
+  end_session
+  begin_session "$1" "$work/empty"
+  window empty 'Recent History'
+  end_session
 }
 
+# On a screen of twice the points, only what would look coarse.
+photograph_twice() {
+  begin_session "$1" "$work/home" QT_SCALE_FACTOR=2
+  window history 'Recent History'
+  xdotool key ctrl+comma
+  window settings-general Settings
+  end_session
+}
+
+mkdir -p "$work/empty"
+begin_screen 94 1280x900
 theme=light photograph Adwaita
 theme=dark photograph Adwaita:dark
+begin_screen 95 2560x1800
+theme=light-2x photograph_twice Adwaita
+theme=dark-2x photograph_twice Adwaita:dark
 echo "The pictures are in $target."
