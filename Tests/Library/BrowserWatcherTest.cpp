@@ -3,8 +3,8 @@
 
 #include "Library/BrowserWatcher.h"
 
-#include "Support/LibraryHome.h"
 #include "Platform/Linux/InotifyFileEvents.h"
+#include "Support/LibraryHome.h"
 #include "Support/Waiting.h"
 
 #include <QFile>

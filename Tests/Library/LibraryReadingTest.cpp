@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
-#include "Support/LibraryHome.h"
 #include "SampleHome/PlainFiles.h"
+#include "Support/LibraryHome.h"
 
 #include <atomic>
 

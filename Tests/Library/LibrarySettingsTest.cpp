@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
-#include "Support/LibraryHome.h"
 #include "Platform/Linux/SettingsUserDefaults.h"
 #include "SampleHome/PlainFiles.h"
+#include "Support/LibraryHome.h"
 #include "Support/Waiting.h"
 
 #include <QSignalSpy>
