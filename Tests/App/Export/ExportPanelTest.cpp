@@ -145,6 +145,7 @@ TEST_F(ExportPanelTest, ShowsItsPartsFromTopToBottom)
     EXPECT_EQ(panel->windowModality(), Qt::WindowModal);
     EXPECT_EQ(cancelButton().text(), u"Cancel"_s);
     EXPECT_EQ(exportButton().text(), u"Export…"_s);
+    EXPECT_EQ(panel->focusWidget(), &exportButton()) << "Return exports at once, on every desktop";
     EXPECT_LT(cancelButton().x(), exportButton().x());
 }
 
@@ -271,6 +272,7 @@ TEST_F(ExportPanelTest, AClickOnADescriptionChoosesItsFormat)
 TEST_F(ExportPanelTest, IsDrivenByTheKeyboardAlone)
 {
     open();
+    QTest::keyClick(panel.data(), Qt::Key_Tab);
     ASSERT_TRUE(sources().hasFocus());
     QTest::keyClick(&sources(), Qt::Key_Down);
     EXPECT_EQ(sources().currentText(), u"Chrome - Personal (1)"_s);

@@ -162,7 +162,8 @@ ExportPanel::ExportPanel(const ExportRequest &request, const Services &services,
     connect(&m_services.library, &Library::sourceOrderChanged, this, &ExportPanel::fillSources);
     connect(m_cancel, &QPushButton::clicked, this, &ExportPanel::reject);
     connect(m_export, &QPushButton::clicked, this, &ExportPanel::askWhereToSave);
-    m_sources->setFocus();
+    // On some desktops Return opens the list of sources while that has the keyboard.
+    m_export->setFocus();
 }
 
 void ExportPanel::buildFormats(QVBoxLayout *layout)
