@@ -6,6 +6,7 @@
 #include "App/AppDelegate.h"
 #include "App/Updates/Updater.h"
 #include "App/Window/ContentView.h"
+#include "App/Window/OpenWindows.h"
 #include "Library/Library.h"
 #include "Platform/ActivationPolicy.h"
 #include "Platform/UserDefaults.h"
@@ -14,8 +15,6 @@
 #include <QCloseEvent>
 #include <QMenuBar>
 #include <QMessageBox>
-
-#include <algorithm>
 
 namespace roamlet
 {
@@ -149,12 +148,9 @@ void MainWindow::hideEvent(QHideEvent *event)
     QMainWindow::hideEvent(event);
     if (event->spontaneous())
         return;
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    const bool otherIsVisible = std::ranges::any_of(windows, [this](const QWidget *window) {
-        return window != this && window->isVisible() &&
-               (window->windowType() == Qt::Window || window->windowType() == Qt::Dialog);
-    });
-    m_services.delegate.mainWindowDidDisappear(otherIsVisible);
+    QWidgetList others = openWindows();
+    others.removeAll(this);
+    m_services.delegate.mainWindowDidDisappear(!others.isEmpty());
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)
