@@ -23,6 +23,7 @@
 #include <QFile>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPointer>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
@@ -144,10 +145,11 @@ TEST_F(WholeStoryTest, aPageIsVisitedSearchedNarrowedToItsSiteOpenedAndTheBookma
     const QTemporaryDir target;
     savePanel.chosenPath = target.filePath(u"Bookmarks.html"_s);
     window.findChild<QAction *>(u"exportCommand"_s)->trigger();
-    auto *sheet = window.findChild<ExportPanel *>();
+    // It goes when it is done.
+    const QPointer<ExportPanel> sheet = window.findChild<ExportPanel *>();
     ASSERT_NE(sheet, nullptr);
     QTest::keyClick(sheet, Qt::Key_Return);
-    ASSERT_TRUE(eventually([sheet] { return !sheet->isVisible(); }));
+    ASSERT_TRUE(eventually([&sheet] { return sheet.isNull(); }));
     QFile file(*savePanel.chosenPath);
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     const QByteArray exported = file.readAll();
