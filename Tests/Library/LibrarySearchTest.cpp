@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
-#include "SampleHome/PlainFiles.h"
 #include "Support/LibraryHome.h"
 #include "Support/Waiting.h"
 
@@ -197,41 +196,15 @@ TEST_F(LibrarySearchTest, TheLibrarySearchesOneSourceOrAllOfTheSnapshot)
         ask(library, {}, HistoryQuery::matching(u"edge"_s, {}, HistoryQuery::Order::Latest)).items.size(), 1);
 }
 
-TEST_F(LibrarySearchTest, ASearchAsksTheDatabasesAndNotTheSnapshot)
+TEST_F(LibrarySearchTest, TheLibraryAsksTheDatabasesAndNotTheSnapshot)
 {
     addChromium();
     Library library(home.platform());
     loadNow(library);
     setChromeHistory(u"Default"_s, {u"since then"_s});
-    const auto since = HistoryQuery::matching(u"since"_s, {}, HistoryQuery::Order::Latest);
-    EXPECT_EQ(sortedTitles(ask(library, u"chrome/Default"_s, since)), QStringList{u"since then"_s});
-    EXPECT_EQ(sortedTitles(ask(library, u"chrome/Default"_s, mostVisited())), QStringList{u"since then"_s});
+    for (const HistoryQuery &query : {HistoryQuery::recent(), mostVisited()})
+        EXPECT_EQ(sortedTitles(ask(library, u"chrome/Default"_s, query)), QStringList{u"since then"_s});
     EXPECT_EQ(library.generation(), 1);
-}
-
-TEST_F(LibrarySearchTest, ThePlainListingIsNotReadASecondTime)
-{
-    addChromium();
-    Library library(home.platform());
-    loadNow(library);
-    home.files.afterCopy = [](const QString &path) { ADD_FAILURE() << path.toStdString(); };
-    EXPECT_EQ(ask(library, {}).items, library.snapshot().history);
-    EXPECT_EQ(sortedTitles(ask(library, u"edge/Default"_s)), QStringList{u"e1"_s});
-    home.files.afterCopy = {};
-}
-
-TEST_F(LibrarySearchTest, ASourceThatHadProblemsIsAskedAgain)
-{
-    addChromium();
-    Library library(home.platform());
-    change([this] { sample::writeFile(chromeFile(u"Default/History"_s), "no database"); });
-    loadNow(library);
-    ASSERT_TRUE(library.snapshot().problems.contains(u"chrome/Default"_s));
-    EXPECT_EQ(sortedTitles(ask(library, {})), (QStringList{u"b1"_s, u"e1"_s}));
-    change([this] { QFile::remove(chromeFile(u"Default/History"_s)); });
-    setChromeHistory(u"Default"_s, {u"mended"_s});
-    EXPECT_EQ(sortedTitles(ask(library, {})), (QStringList{u"b1"_s, u"e1"_s, u"mended"_s}));
-    EXPECT_EQ(sortedTitles(ask(library, u"chrome/Default"_s)), QStringList{u"mended"_s});
 }
 
 TEST_F(LibrarySearchTest, ProfilesThatAreSwitchedOffAreNotSearched)

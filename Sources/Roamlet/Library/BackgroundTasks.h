@@ -3,7 +3,6 @@
 
 #pragma once
 
-#include <QMetaObject>
 #include <QObject>
 #include <QPointer>
 
@@ -41,22 +40,6 @@ public:
                          if (context)
                              deliver(std::move(**result));
                      });
-    }
-
-    /// Hands over a result that took no work as run() would: later, on the main thread.
-    template<typename Result, typename Deliver>
-    std::stop_source handOver(QObject *context, Result result, Deliver deliver)
-    {
-        const std::stop_source stop;
-        QMetaObject::invokeMethod(
-            &m_receiver,
-            [stop, result = std::move(result), deliver = std::move(deliver),
-             context = QPointer(context)]() mutable {
-                if (context && !stop.stop_requested())
-                    deliver(std::move(result));
-            },
-            Qt::QueuedConnection);
-        return stop;
     }
 
 private:

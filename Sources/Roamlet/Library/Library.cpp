@@ -181,37 +181,14 @@ std::stop_source Library::queryHistory(const HistoryQuery &query, const std::opt
     QList<Source> sources = ordered(m_snapshot.sources);
     if (sourceID)
         sources.removeIf([&sourceID](const Source &source) { return source.id() != *sourceID; });
-    // The plain listing is part of what was loaded; only a source that had problems then is asked again.
-    const QList<HistoryItem> loaded =
-        query == HistoryQuery::recent() ? takeLoaded(sources) : QList<HistoryItem>();
-    if (sources.isEmpty())
-        return m_tasks.handOver(context, HistoryResults{.items = loaded}, std::move(deliver));
     return m_tasks.run(
         context,
-        [query, sources, loaded, reading = readContext(m_platform)](const std::stop_token &stop) {
+        [query, sources, reading = readContext(m_platform)](const std::stop_token &stop) {
             ReadContext stoppable = reading;
             stoppable.stop = stop;
-            HistoryResults results = history(query, sources, stoppable);
-            results.items = loaded + results.items;
-            return results;
+            return history(query, sources, stoppable);
         },
         std::move(deliver));
-}
-
-QList<HistoryItem> Library::takeLoaded(QList<Source> &sources) const
-{
-    QSet<QString> ids;
-    sources.removeIf([this, &ids](const Source &source) {
-        const bool isLoaded = !m_snapshot.problems.contains(source.id());
-        if (isLoaded)
-            ids.insert(source.id());
-        return isLoaded;
-    });
-    if (ids.size() == m_snapshot.sources.size())
-        return m_snapshot.history;
-    QList<HistoryItem> rows = m_snapshot.history;
-    rows.removeIf([&ids](const HistoryItem &item) { return !ids.contains(item.source.id()); });
-    return rows;
 }
 
 QList<Source> Library::ordered(const QList<Source> &sources) const

@@ -85,7 +85,7 @@ public:
     void setMenuOpen(bool isOpen);
     /// Runs a query against the source with this id, or against all, away from the main thread, and hands the
     /// results to `deliver` on the main thread, unless `context` is gone by then. Requesting a stop drops the
-    /// search. The plain listing is answered from the snapshot.
+    /// search.
     std::stop_source queryHistory(const HistoryQuery &query, const std::optional<QString> &sourceID,
                                   QObject *context, std::function<void(HistoryResults)> deliver);
 
@@ -147,8 +147,6 @@ private:
     void publish(Snapshot snapshot);
     void filesChanged(const QSet<QString> &sourceIDs);
     void refreshMenu();
-    /// The loaded history of those of the sources that were read without problems, which it takes out.
-    QList<HistoryItem> takeLoaded(QList<Source> &sources) const;
 
     Platform m_platform;
     Snapshot m_snapshot;
