@@ -51,21 +51,21 @@ window() {
   settle && import -window "$(xdotool search --onlyvisible --name "^$2" | tail -n 1)" "$target/$theme-$1.png"
 }
 
-# GTK theme, home folder, further settings; leaves the session's process in $session
-begin_session() {
+# GTK theme, home folder, further settings; leaves the process in $desktop
+begin_desktop() {
   local gtk_theme=$1 home=$2
   shift 2
   env HOME="$home" XDG_CONFIG_HOME="$home/.config-$theme" QT_QPA_PLATFORMTHEME=gtk3 GTK_THEME="$gtk_theme" "$@" \
     dbus-run-session -- build/release/roamlet >/dev/null 2>&1 &
-  session=$!
+  desktop=$!
 }
-end_session() {
-  pkill -TERM -P "$session" -x roamlet || true
-  wait "$session" 2>/dev/null || true
+end_desktop() {
+  pkill -TERM -P "$desktop" -x roamlet || true
+  wait "$desktop" 2>/dev/null || true
 }
 
 photograph() {
-  begin_session "$1" "$work/home"
+  begin_desktop "$1" "$work/home"
   window history 'Recent History'
   xdotool key ctrl+f type clock
   window search 'Recent History'
@@ -89,19 +89,19 @@ photograph() {
   xdotool key Escape Escape Escape
   xdotool search --onlyvisible --name '^Recent History' windowsize --sync 820 480
   window narrow 'Recent History'
-  end_session
-  begin_session "$1" "$work/empty"
+  end_desktop
+  begin_desktop "$1" "$work/empty"
   window empty 'Recent History'
-  end_session
+  end_desktop
 }
 
 # On a screen of twice the points, only what would look coarse.
 photograph_twice() {
-  begin_session "$1" "$work/home" QT_SCALE_FACTOR=2
+  begin_desktop "$1" "$work/home" QT_SCALE_FACTOR=2
   window history 'Recent History'
   xdotool key ctrl+comma
   window settings-general Settings
-  end_session
+  end_desktop
 }
 
 mkdir -p "$work/empty"
