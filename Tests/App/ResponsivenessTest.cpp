@@ -1,17 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
-#include "App/Export/FakeAlert.h"
-#include "App/Export/FakeSavePanel.h"
-#include "App/RoamletApp.h"
-#include "App/Updates/BundleInformation.h"
-#include "App/Updates/Updater.h"
+#include "App/DesktopFakes.h"
 #include "Lists/SortedRows.h"
 #include "SampleHome/SampleHome.h"
-#include "Support/FakeActivationPolicy.h"
-#include "Support/FakeLoginService.h"
-#include "Support/FakeUpdateDriver.h"
-#include "Support/FakeWorkspace.h"
 #include "Support/StallMeter.h"
 #include "Support/TestHome.h"
 #include "Support/Waiting.h"
@@ -42,7 +34,7 @@ constexpr bool isSlowedDown = false;
 #endif
 
 /// The whole program over ten sources of 1,000 rows each.
-class ResponsivenessTest : public ::testing::Test
+class ResponsivenessTest : public ::testing::Test, protected DesktopFakes
 {
 protected:
     void SetUp() override
@@ -55,17 +47,6 @@ protected:
                                     .iconsPerProfile = 60});
     }
 
-    RoamletApp::Services services()
-    {
-        return {.platform = home.platform(),
-                .activation = activation,
-                .loginService = loginService,
-                .workspace = workspace,
-                .savePanel = savePanel,
-                .alert = alert,
-                .updater = updater,
-                .hasTray = [] { return true; }};
-    }
     template<typename Widget>
     Widget &part(RoamletApp &app, const QString &name) const
     {
@@ -94,17 +75,11 @@ protected:
     }
 
     TestHome home;
-    FakeActivationPolicy activation;
-    FakeLoginService loginService;
-    FakeWorkspace workspace;
-    FakeSavePanel savePanel;
-    FakeAlert alert;
-    Updater updater{BundleInformation(), std::make_unique<FakeUpdateDriver>()};
 };
 
 TEST_F(ResponsivenessTest, theMainThreadIsNeverBusyForLong)
 {
-    RoamletApp app(services());
+    RoamletApp app(services(home.platform()));
     app.start(false);
     StallMeter meter;
     meter.setActivity(u"loading"_s);
@@ -188,7 +163,7 @@ private:
 
 TEST_F(ResponsivenessTest, aListOfTenThousandRowsIsSortedAndPainted)
 {
-    RoamletApp app(services());
+    RoamletApp app(services(home.platform()));
     app.start(false);
     settle(app);
     const QList<HistoryItem> rows = app.library().snapshot().history;

@@ -1,20 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
+#include "App/DesktopFakes.h"
 #include "App/Export/ExportPanel.h"
-#include "App/Export/FakeAlert.h"
-#include "App/Export/FakeSavePanel.h"
-#include "App/RoamletApp.h"
 #include "App/Tables/LinkTable.h"
-#include "App/Updates/BundleInformation.h"
 #include "App/Updates/UpdateWindows.h"
-#include "App/Updates/Updater.h"
 #include "App/Window/ContentView.h"
 #include "Platform/Update.h"
-#include "Support/FakeActivationPolicy.h"
-#include "Support/FakeLoginService.h"
-#include "Support/FakeUpdateDriver.h"
-#include "Support/FakeWorkspace.h"
 #include "Support/LibraryHome.h"
 #include "Support/Waiting.h"
 
@@ -37,21 +29,14 @@ namespace roamlet::testing
 using namespace Qt::StringLiterals;
 
 /// The whole program, with everything of the desktop's replaced, over a home with browsers.
-class WholeStoryTest : public LibraryHome
+class WholeStoryTest : public LibraryHome, protected DesktopFakes
 {
 protected:
     void SetUp() override
     {
         addChromium();
         addSafari();
-        app = std::make_unique<RoamletApp>(RoamletApp::Services{.platform = home.platform(),
-                                                                .activation = activation,
-                                                                .loginService = loginService,
-                                                                .workspace = workspace,
-                                                                .savePanel = savePanel,
-                                                                .alert = alert,
-                                                                .updater = updater,
-                                                                .hasTray = [this] { return hasTray; }});
+        app = std::make_unique<RoamletApp>(services(home.platform()));
     }
     void TearDown() override
     {
@@ -93,14 +78,6 @@ protected:
         return held ? ::testing::AssertionSuccess() : ::testing::AssertionFailure();
     }
 
-    bool hasTray = true;
-    FakeActivationPolicy activation;
-    FakeLoginService loginService;
-    FakeWorkspace workspace;
-    FakeSavePanel savePanel;
-    FakeAlert alert;
-    FakeUpdateDriver *driver = new FakeUpdateDriver;
-    Updater updater{BundleInformation(), std::unique_ptr<UpdateDriver>(driver)};
     std::unique_ptr<RoamletApp> app;
 };
 

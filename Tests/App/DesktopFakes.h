@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "App/Export/FakeAlert.h"
+#include "App/Export/FakeSavePanel.h"
+#include "App/RoamletApp.h"
+#include "App/Updates/BundleInformation.h"
+#include "App/Updates/Updater.h"
+#include "Support/FakeActivationPolicy.h"
+#include "Support/FakeLoginService.h"
+#include "Support/FakeUpdateDriver.h"
+#include "Support/FakeWorkspace.h"
+
+#include <memory>
+
+namespace roamlet::testing
+{
+
+/// Everything of the desktop's that the whole program works with, replaced.
+struct DesktopFakes {
+    /// The program's services over this platform. They refer to this object.
+    RoamletApp::Services services(const Platform &platform)
+    {
+        return {.platform = platform,
+                .activation = activation,
+                .loginService = loginService,
+                .workspace = workspace,
+                .savePanel = savePanel,
+                .alert = alert,
+                .updater = updater,
+                .hasTray = [this] { return hasTray; }};
+    }
+
+    FakeActivationPolicy activation;
+    FakeLoginService loginService;
+    FakeWorkspace workspace;
+    FakeSavePanel savePanel;
+    FakeAlert alert;
+    FakeUpdateDriver *driver = new FakeUpdateDriver;
+    Updater updater{BundleInformation(), std::unique_ptr<UpdateDriver>(driver)};
+    bool hasTray = true;
+};
+
+} // namespace roamlet::testing
