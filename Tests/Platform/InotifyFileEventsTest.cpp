@@ -17,6 +17,7 @@
 namespace roamlet::testing
 {
 
+using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 TEST_F(InotifyFileEventsTest, whatWasThereBeforeIsNotReported)

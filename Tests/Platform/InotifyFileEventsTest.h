@@ -24,8 +24,6 @@
 namespace roamlet::testing
 {
 
-using namespace Qt::StringLiterals;
-
 /// The kernel's own events with a clock that a test moves. A test never waits for a time: it changes a file
 /// of its own, and once that is reported, so is everything that happened before.
 class InotifyFileEventsTest : public ::testing::Test
@@ -33,7 +31,7 @@ class InotifyFileEventsTest : public ::testing::Test
 protected:
     using Paths = std::vector<std::string>;
 
-    InotifyFileEventsTest() { sample::makeFolder(path(u"mark"_s)); }
+    InotifyFileEventsTest() { sample::makeFolder(path(QStringLiteral("mark"))); }
 
     QString path(const QString &name) const { return m_folder.filePath(name); }
     void write(const QString &name, const QByteArray &content = "x") const
@@ -63,7 +61,7 @@ protected:
         QStringList folders;
         for (const QString &root : roots)
             folders.append(path(root));
-        folders.append(path(u"mark"_s));
+        folders.append(path(QStringLiteral("mark")));
         stream = events.open(folders, [this](const QStringList &paths) { reports.append(paths); });
         ASSERT_NE(stream, nullptr);
     }
@@ -71,7 +69,7 @@ protected:
     /// What was reported for everything that happened so far, named below the test's own folder, sorted.
     Paths changes()
     {
-        const QString mark = u"mark/%1"_s.arg(++m_marks);
+        const QString mark = QStringLiteral("mark/%1").arg(++m_marks);
         write(mark, {});
         const auto isReported = [&] {
             clock.advance(InotifyFileEvents::latency);

@@ -3,15 +3,12 @@
 
 #include "Platform/InotifyFileEventsTest.h"
 
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <gmock/gmock.h>
 
 namespace roamlet::testing
 {
 
-using namespace std::chrono_literals;
+using namespace Qt::StringLiterals;
 
 /// Watched folders that come, go, take each other's place or have several names.
 class InotifyRootsTest : public InotifyFileEventsTest
