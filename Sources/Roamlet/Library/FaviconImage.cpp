@@ -22,6 +22,8 @@ constexpr qsizetype largestHonestFile = qsizetype{8} << 20U;
 /// picture inside be huge.
 constexpr int mostMemory = 4 * largestHonestSide * largestHonestSide >> 20;
 
+constexpr QByteArrayView pngSignature = "\x89PNG\r\n\x1a\n";
+
 QByteArray encoded(const Favicon &favicon, const Files &files)
 {
     if (const auto *data = std::get_if<FaviconData>(&favicon))
@@ -47,7 +49,14 @@ QImage decode(const Favicon &favicon, const Files &files)
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::ReadOnly);
     QImageReader reader(&buffer);
-    reader.setDecideFormatFromContent(true);
+    // Nearly all are of this kind, which Qt reads by itself; to look what else it could be loads every
+    // plugin.
+    if (bytes.startsWith(pngSignature)) {
+        reader.setFormat("png");
+        reader.setAutoDetectImageFormat(false);
+    } else {
+        reader.setDecideFormatFromContent(true);
+    }
     // First: once the size was asked for, the reader of .ico files no longer knows its format.
     const QByteArray format = reader.format();
     const QSize size = reader.size();
