@@ -8,6 +8,7 @@
 #include "App/RoamletApp.h"
 #include "App/Updates/BundleInformation.h"
 #include "App/Updates/Updater.h"
+#include "Library/Library.h"
 #include "Support/FakeActivationPolicy.h"
 #include "Support/FakeLoginService.h"
 #include "Support/FakeUpdateDriver.h"
@@ -23,7 +24,10 @@ struct DesktopFakes {
     /// The program's services over this platform. They refer to this object.
     RoamletApp::Services services(const Platform &platform)
     {
+        started = std::make_unique<Library>(platform);
+        started->start();
         return {.platform = platform,
+                .library = *started,
                 .activation = activation,
                 .loginService = loginService,
                 .workspace = workspace,
@@ -33,6 +37,7 @@ struct DesktopFakes {
                 .hasTray = [this] { return hasTray; }};
     }
 
+    std::unique_ptr<Library> started;
     FakeActivationPolicy activation;
     FakeLoginService loginService;
     FakeWorkspace workspace;

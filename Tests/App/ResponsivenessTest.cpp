@@ -47,6 +47,8 @@ protected:
                                     .iconsPerProfile = 60});
     }
 
+    void TearDown() override { started.reset(); }
+
     template<typename Widget>
     Widget &part(RoamletApp &app, const QString &name) const
     {
@@ -69,7 +71,7 @@ protected:
         ASSERT_TRUE(waitUntil([&] {
             home.clock.advance(300ms);
             const QTreeView *view = shownList(app);
-            return view != nullptr && view->model()->rowCount() > 0 && home.clock.waiting() <= 1;
+            return view != nullptr && view->model()->rowCount() > 0 && home.clock.waiting() <= 2;
         }));
         waitUntil([] { return false; }, 60ms);
     }

@@ -41,6 +41,7 @@ protected:
     void TearDown() override
     {
         app.reset();
+        started.reset();
         LibraryHome::TearDown();
     }
 

@@ -12,7 +12,7 @@ namespace roamlet::testing
 std::chrono::system_clock::time_point FakeClock::now() const
 {
     // 2026-05-09 06:13:20 UTC
-    return std::chrono::system_clock::time_point(std::chrono::seconds(1'778'307'200)) + m_elapsed;
+    return std::chrono::system_clock::time_point(std::chrono::seconds(1'778'307'200)) + m_elapsed + m_asleep;
 }
 
 void FakeClock::sleep(Duration duration, const std::stop_token & /*stop*/) const
@@ -40,6 +40,12 @@ void FakeClock::advance(Duration duration)
             action.run();
     }
     m_elapsed = end;
+}
+
+std::size_t FakeClock::waiting() const
+{
+    return static_cast<std::size_t>(
+        std::ranges::count_if(m_actions, [](const Action &action) { return !action.context.isNull(); }));
 }
 
 std::vector<Clock::Duration> FakeClock::sleeps() const

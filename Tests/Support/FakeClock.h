@@ -24,10 +24,12 @@ public:
 
     /// Moves on and runs what is due on the way, in order. On the main thread.
     void advance(Duration duration);
+    /// The machine sleeps: time passes, and what waits for its time does not notice.
+    void jump(Duration duration) { m_asleep += duration; }
     /// How long threads have slept, one entry for each sleep.
     std::vector<Duration> sleeps() const;
-    /// How many actions wait for their time.
-    std::size_t waiting() const { return m_actions.size(); }
+    /// How many actions wait for their time, and for somebody who is still there.
+    std::size_t waiting() const;
 
 private:
     struct Action {
@@ -37,6 +39,7 @@ private:
     };
 
     Duration m_elapsed{0};
+    Duration m_asleep{0};
     mutable std::vector<Action> m_actions;
     mutable std::mutex m_sleepsMutex;
     mutable std::vector<Duration> m_sleeps;

@@ -27,6 +27,7 @@
 #include <QDBusConnection>
 #include <QFile>
 #include <QLocale>
+#include <QTimer>
 
 #include <unistd.h>
 
@@ -72,10 +73,9 @@ bool hasVisibleWindow()
 RoamletApp::RoamletApp(const Services &services)
     : m_services(services),
       m_delegate(services.platform.defaults, services.activation, services.hasTray),
-      m_started(services.platform),
       m_opener(services.workspace),
       m_mainWindow(
-          {.content = {.library = library(),
+          {.content = {.library = m_services.library,
                        .defaults = services.platform.defaults,
                        .clock = services.platform.clock,
                        .folders = services.platform.folders,
@@ -88,20 +88,14 @@ RoamletApp::RoamletApp(const Services &services)
            .savePanel = services.savePanel,
            .alert = services.alert,
            .updater = services.updater}),
-      m_settingsWindow({.library = library(),
-                        .defaults = services.platform.defaults,
-                        .loginService = services.loginService,
-                        .activation = services.activation,
-                        .delegate = m_delegate,
-                        .updater = &services.updater}),
-      m_menu({.library = library(),
+      m_menu({.library = m_services.library,
               .opener = m_opener,
               .activation = services.activation,
               .openMainWindow = [this] { m_mainWindow.open(); },
-              .openSettings = [this] { m_settingsWindow.open(); },
+              .openSettings = [this] { settingsWindow().open(); },
               .checkForUpdates = [this] { m_services.updater.checkForUpdates(); },
               .quit = quit}),
-      m_icon({.library = library(),
+      m_icon({.library = m_services.library,
               .delegate = m_delegate,
               .activation = services.activation,
               .openMainWindow = [this] { m_mainWindow.open(); }},
@@ -127,10 +121,24 @@ RoamletApp::RoamletApp(const Services &services)
                 quit();
         },
         Qt::QueuedConnection);
-    QObject::connect(&m_mainWindow, &MainWindow::settingsRequested, &m_settingsWindow, &SettingsWindow::open);
+    QObject::connect(&m_mainWindow, &MainWindow::settingsRequested, &m_mainWindow,
+                     [this] { settingsWindow().open(); });
 }
 
 RoamletApp::~RoamletApp() = default;
+
+SettingsWindow &RoamletApp::settingsWindow()
+{
+    if (!m_settingsWindow)
+        m_settingsWindow =
+            std::make_unique<SettingsWindow>(SettingsServices{.library = m_services.library,
+                                                              .defaults = m_services.platform.defaults,
+                                                              .loginService = m_services.loginService,
+                                                              .activation = m_services.activation,
+                                                              .delegate = m_delegate,
+                                                              .updater = &m_services.updater});
+    return *m_settingsWindow;
+}
 
 void RoamletApp::start(bool isLaunchedAtLogin)
 {
@@ -176,7 +184,6 @@ int RoamletApp::runUntilTheEnd(int argc, char **argv, const std::stop_token &sto
     QApplication::setApplicationDisplayName(u"Roamlet"_s);
     QApplication::setApplicationVersion(u"" ROAMLET_VERSION ""_s);
     QApplication::setDesktopFileName(u"org.roamlet.Roamlet"_s);
-    QApplication::setWindowIcon(applicationIcon());
     QApplication::setQuitOnLastWindowClosed(false);
     // Without a language, numbers have no groups and times no short form; the texts are English anyway.
     if (QLocale().language() == QLocale::C)
@@ -187,6 +194,12 @@ int RoamletApp::runUntilTheEnd(int argc, char **argv, const std::stop_token &sto
 
     const bool isLaunchedAtLogin =
         QCoreApplication::arguments().contains(QLatin1StringView(AutostartLoginService::launchMarker));
+    LinuxPlatform platform;
+    const Platform services = platform.services();
+    // The browsers are read while the windows are being made. Where another program is running already, that
+    // was for nothing; it is far more often the first.
+    Library library(services);
+    library.start();
     DBusRunningInstance instance;
     RoamletApp *running = nullptr;
     using Wish = RunningInstance::Wish;
@@ -197,10 +210,8 @@ int RoamletApp::runUntilTheEnd(int argc, char **argv, const std::stop_token &sto
         }) == RunningInstance::Claim::HandedOver)
         return 0;
 
-    LinuxPlatform platform;
     LinuxActivationPolicy activation;
     AutostartLoginService loginService(AutostartLoginService::Environment::ofThisProcess());
-    const Platform services = platform.services();
     LinuxWorkspace workspace(LinuxWorkspace::Environment::ofThisProcess(), services.folders, services.clock,
                              pasteNotice());
     FileSavePanel savePanel(services.folders.home());
@@ -214,6 +225,7 @@ int RoamletApp::runUntilTheEnd(int argc, char **argv, const std::stop_token &sto
                                                           quit();
                                                       }));
     RoamletApp app({.platform = services,
+                    .library = library,
                     .activation = activation,
                     .loginService = loginService,
                     .workspace = workspace,
@@ -223,6 +235,8 @@ int RoamletApp::runUntilTheEnd(int argc, char **argv, const std::stop_token &sto
                     .hasTray = MenuBarIcon::isAvailable});
     running = &app;
     app.start(isLaunchedAtLogin);
+    // Drawn once the window is on its way.
+    QTimer::singleShot(0, qApp, [] { QApplication::setWindowIcon(applicationIcon()); });
     const int status = QApplication::exec();
     running = nullptr;
     // Putting everything away takes a while, in which nobody would answer a later start.

@@ -30,6 +30,8 @@ public:
     /// The services of the system and of the user's desktop. They outlive the program.
     struct Services {
         Platform platform;
+        /// Started.
+        Library &library;
         ActivationPolicy &activation;
         LoginService &loginService;
         Workspace &workspace;
@@ -50,9 +52,10 @@ public:
     /// The user has started the program once more.
     void reopen();
 
-    Library &library() { return m_started.library; }
+    Library &library() { return m_services.library; }
     MainWindow &mainWindow() { return m_mainWindow; }
-    SettingsWindow &settingsWindow() { return m_settingsWindow; }
+    /// Made when it is asked for first.
+    SettingsWindow &settingsWindow();
     MenuBarMenu &menu() { return m_menu; }
 
     /// Runs the program until the user quits, and returns the process's status.
@@ -66,18 +69,11 @@ private:
     static int runUntilTheEnd(int argc, char **argv, const std::stop_token &stop,
                               std::optional<QString> &successor);
 
-    /// Reads the browsers while the windows are being made.
-    struct StartedLibrary {
-        explicit StartedLibrary(const Platform &platform) : library(platform) { library.start(); }
-        Library library;
-    };
-
     Services m_services;
     AppDelegate m_delegate;
-    StartedLibrary m_started;
     Opener m_opener;
     MainWindow m_mainWindow;
-    SettingsWindow m_settingsWindow;
+    std::unique_ptr<SettingsWindow> m_settingsWindow;
     MenuBarMenu m_menu;
     MenuBarIcon m_icon;
 };

@@ -6,6 +6,7 @@
 #include "Library/FaviconImage.h"
 #include "Platform/Clock.h"
 #include "Platform/Files.h"
+#include "Platform/Threads.h"
 #include "Platform/UserDefaults.h"
 #include "Readers/SQLiteSnapshot.h"
 
@@ -89,6 +90,8 @@ void Library::readNext()
     m_tasks.run(
         this,
         [request, context = readContext(m_platform), clock = &m_platform.clock](const std::stop_token &stop) {
+            // The windows need the cores first: to open, and to follow every key.
+            Threads::giveWay();
             ReadContext stoppable = context;
             stoppable.stop = stop;
             return readAll(request, stoppable, *clock);
@@ -184,6 +187,7 @@ std::stop_source Library::queryHistory(const HistoryQuery &query, const std::opt
     return m_tasks.run(
         context,
         [query, sources, reading = readContext(m_platform)](const std::stop_token &stop) {
+            Threads::giveWay();
             ReadContext stoppable = reading;
             stoppable.stop = stop;
             return history(query, sources, stoppable);
@@ -224,6 +228,14 @@ QList<BookmarkNode> Library::bookmarkTree(const std::optional<QString> &sourceID
         folder.children = m_snapshot.bookmarkTrees.value(source.id());
         result.append(std::move(folder));
     }
+    return result;
+}
+
+QList<HistoryItem> Library::recentHistory(const std::optional<QString> &sourceID) const
+{
+    QList<HistoryItem> result = m_snapshot.history;
+    if (sourceID)
+        result.removeIf([&sourceID](const HistoryItem &item) { return item.source.id() != *sourceID; });
     return result;
 }
 

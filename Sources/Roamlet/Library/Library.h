@@ -112,6 +112,9 @@ public:
     /// broken.
     std::optional<QImage> favicon(const QString &site);
 
+    /// The latest pages of the source with this id, or of all, as the snapshot holds them.
+    QList<HistoryItem> recentHistory(const std::optional<QString> &sourceID) const;
+
     /// Every profile of every browser: Safari's (the known ones where given), then Chrome's, then Edge's. A
     /// machine without any Safari data has no Safari profile.
     static QList<Source> allProfiles(const std::optional<QList<Source>> &knownSafari,

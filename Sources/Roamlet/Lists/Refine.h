@@ -70,34 +70,40 @@ std::optional<QList<Row>> refinedRows(const QList<Row> &rows, const QStringList 
     return sortedRows(std::move(kept), order, collation, stop);
 }
 
-/// Takes the rows, or nothing when the refinement was stopped.
-template<typename Row>
-using RefineDelivery = std::type_identity_t<std::function<void(std::optional<QList<Row>>)>>;
+/// Takes what became of the rows, or nothing when the refinement was stopped.
+template<typename Result>
+using RefineDelivery = std::type_identity_t<std::function<void(std::optional<Result>)>>;
 
 /// Refines `rows` in the background, after a short wait when there is something to search for: keys that
-/// are typed quickly should not each start a search. `deliver` is called once on the main thread, with
-/// nothing when a stop was requested through the source that is returned; what is shown then stays.
-template<typename Row, typename Key>
+/// are typed quickly should not each start a search. What `finish` makes of the refined rows, in the
+/// background as well, goes to `deliver`, which is called once on the main thread, with nothing when a stop
+/// was requested through the source that is returned; what is shown then stays.
+template<typename Row, typename Key, typename Finish = std::identity,
+         typename Result = std::decay_t<std::invoke_result_t<Finish, QList<Row>>>>
 std::stop_source refine(RefineRunner &runner, QList<Row> rows, const QString &search,
                         QList<SortComparator<Row>> order, Key key, std::shared_ptr<const Collation> collation,
-                        RefineDelivery<Row> deliver)
+                        RefineDelivery<Result> deliver, Finish finish = {})
 {
     std::stop_source source;
     const QString text = refineText(search);
     auto start = [&runner, rows = std::move(rows), words = refineWords(text), order = std::move(order),
                   key = std::move(key), collation = std::move(collation), deliver = std::move(deliver),
-                  stop = source.get_token()] {
+                  finish = std::move(finish), stop = source.get_token()] {
         if (stop.stop_requested()) {
             deliver({});
             return;
         }
-        auto result = std::make_shared<std::optional<QList<Row>>>();
-        runner.run([=] { *result = refinedRows(rows, words, order, key, *collation, stop); },
-                   [=] {
-                       if (stop.stop_requested())
-                           result->reset();
-                       deliver(std::move(*result));
-                   });
+        auto result = std::make_shared<std::optional<Result>>();
+        runner.run(
+            [=] {
+                if (std::optional refined = refinedRows(rows, words, order, key, *collation, stop))
+                    *result = finish(std::move(*refined));
+            },
+            [=] {
+                if (stop.stop_requested())
+                    result->reset();
+                deliver(std::move(*result));
+            });
     };
     if (text.isEmpty())
         start();

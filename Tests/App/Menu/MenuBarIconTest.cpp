@@ -6,6 +6,7 @@
 #include "App/AppDelegate.h"
 #include "Support/FakeActivationPolicy.h"
 #include "Support/LibraryHome.h"
+#include "Support/Waiting.h"
 
 #include <QMenu>
 #include <QTest>
@@ -42,7 +43,7 @@ TEST_F(MenuBarIconTest, ShowsTheSteeringWheelWithTheMenu)
     EXPECT_EQ(tray->contextMenu(), &menu);
     EXPECT_FALSE(tray->isVisible());
     icon.appear();
-    EXPECT_TRUE(tray->isVisible());
+    EXPECT_TRUE(waitUntil([tray] { return tray->isVisible(); }));
 }
 
 TEST_F(MenuBarIconTest, SaysWhereThereIsNoTray)

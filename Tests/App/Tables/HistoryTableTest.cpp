@@ -192,15 +192,15 @@ TEST_F(HistoryTableTest, ALateResultIsNotShown)
     show(table);
     Gate gate;
     recordReads(&gate);
-    const QSignalSpy lists(&table, &LinkTable::rowCountChanged);
+    QStringList lists;
+    QObject::connect(&table, &LinkTable::rowCountChanged, &table,
+                     [&] { lists.append(QString::fromStdString(titles(table))); });
     table.setInputs({.sourceID = u"chrome/Default"_s, .site = u"today.example"_s});
     gate.awaitReader();
-    awaitList(table, [&] { table.setInputs({.sourceID = u"edge/Default"_s}); });
-    EXPECT_EQ(titles(table), "e1");
+    awaitList(table, [&] { table.setInputs({.sourceID = u"edge/Default"_s, .site = u"edge.example"_s}); });
     gate.open();
     awaitList(table, [&] { table.setInputs({.site = u"work.example"_s}); });
-    EXPECT_EQ(titles(table), "work");
-    EXPECT_EQ(lists.size(), 2);
+    EXPECT_EQ(lists, (QStringList{u"e1"_s, u"work"_s}));
 }
 
 TEST_F(HistoryTableTest, ASiteIsShownAlone)
@@ -291,7 +291,7 @@ TEST_F(HistoryTableTest, TheNextDayIsNoticedWhenTheWindowIsUsedAgain)
     QWidget other;
     other.show();
     other.activateWindow();
-    home.clock.advance(24h);
+    home.clock.jump(24h);
     awaitList(table, [&] { table.activateWindow(); });
     EXPECT_EQ(titles(table).substr(0, 22), "Yesterday e1 today wor");
 }
@@ -304,6 +304,112 @@ TEST_F(HistoryTableTest, TheNextDayIsNoticedWhenTheTableIsShownAgain)
     home.clock.advance(24h);
     awaitList(table, [&] { table.show(); });
     EXPECT_EQ(titles(table).substr(0, 22), "Yesterday e1 today wor");
+}
+
+TEST_F(HistoryTableTest, TheNextDayBeginsAtMidnight)
+{
+    HistoryTable table(services(), Mode::Recent);
+    show(table, {.grouping = Grouping::Day});
+    const QDateTime now = QDateTime::fromSecsSinceEpoch(newest, QTimeZone::utc());
+    const auto left = std::chrono::seconds(now.secsTo(now.date().addDays(1).startOfDay(QTimeZone::utc())));
+    expectNoList(table, [&] { home.clock.advance(left - 10min); });
+    EXPECT_EQ(titles(table).substr(0, 18), "Today e1 today wor");
+    awaitList(table, [&] { home.clock.advance(10min); });
+    EXPECT_EQ(titles(table).substr(0, 22), "Yesterday e1 today wor");
+    awaitList(table, [&] { home.clock.advance(24h); });
+    EXPECT_EQ(titles(table).substr(0, 14), "Last Week e1 t") << "and at every midnight";
+}
+
+TEST_F(HistoryTableTest, NobodyIsWokenAtMidnightForATableThatIsNotSeen)
+{
+    HistoryTable table(services(), Mode::Recent);
+    show(table, {.grouping = Grouping::Day});
+    table.hide();
+    recordReads();
+    expectNoList(table, [&] { home.clock.advance(48h); });
+    EXPECT_TRUE(takeReads().isEmpty());
+}
+
+TEST_F(HistoryTableTest, ASearchThatTakesLongIsSeenToRun)
+{
+    HistoryTable table(services(), Mode::Recent);
+    show(table);
+    const auto isShownToRun = [&table] {
+        const auto *bar = table.findChild<QWidget *>(u"busyBar"_s);
+        return bar != nullptr && bar->isVisible();
+    };
+    Gate gate;
+    recordReads(&gate);
+    table.setInputs({.search = u"day"_s});
+    home.clock.advance(HistoryTable::searchDelay);
+    gate.awaitReader();
+    EXPECT_TRUE(table.isBusy());
+    home.clock.advance(299ms);
+    EXPECT_FALSE(isShownToRun());
+    home.clock.advance(1ms);
+    EXPECT_TRUE(isShownToRun());
+    EXPECT_EQ(titles(table), "e1 today work yesterday monday old") << "what was found before stands";
+    awaitList(table, [&] { gate.open(); });
+    EXPECT_EQ(titles(table), "today yesterday monday");
+    EXPECT_FALSE(isShownToRun());
+}
+
+TEST_F(HistoryTableTest, ASearchThatIsTakenBackNoLongerRuns)
+{
+    HistoryTable table(services(), Mode::Recent);
+    show(table);
+    Gate gate;
+    recordReads(&gate);
+    table.setInputs({.search = u"day"_s});
+    home.clock.advance(HistoryTable::searchDelay);
+    gate.awaitReader();
+    table.setInputs({});
+    home.clock.advance(1s);
+    EXPECT_FALSE(table.isBusy());
+    EXPECT_EQ(table.findChild<QWidget *>(u"busyBar"_s), nullptr);
+    gate.open();
+    EXPECT_TRUE(waitUntil([this] { return home.leftovers().isEmpty(); }));
+}
+
+TEST_F(HistoryTableTest, TheSnapshotsPagesAreShownUntilTheDatabasesAnswer)
+{
+    HistoryTable table(services(), Mode::Recent);
+    // Visited since the snapshot was read.
+    setPages(u"Profile 1"_s, {page(u"new"_s, 0)});
+    Gate gate;
+    recordReads(&gate);
+    QStringList lists;
+    QObject::connect(&table, &LinkTable::rowCountChanged, &table,
+                     [&] { lists.append(QString::fromStdString(titles(table))); });
+    table.resize(900, 400);
+    table.show();
+    EXPECT_TRUE(waitUntil([&] { return table.isBusy(); }));
+    gate.awaitReader();
+    EXPECT_EQ(lists, QStringList{u"e1 today work yesterday monday old"_s});
+    EXPECT_TRUE(table.isBusy());
+    gate.open();
+    EXPECT_TRUE(waitUntil([&] { return !table.isBusy(); }));
+    EXPECT_EQ(lists.last(), u"e1 new today yesterday monday old");
+}
+
+TEST_F(HistoryTableTest, WhatOnlyStoodInForAnAnswerIsNoAnswer)
+{
+    HistoryTable table(services(), Mode::Recent);
+    setPages(u"Profile 1"_s, {page(u"new"_s, 0)});
+    {
+        Gate gate;
+        recordReads(&gate);
+        table.resize(900, 400);
+        table.show();
+        EXPECT_TRUE(waitUntil([&] { return table.isBusy(); }));
+        gate.awaitReader();
+        // Something else is asked for, and taken back, while the databases are still being read.
+        table.setInputs({.search = u"day"_s});
+        gate.open();
+    }
+    table.setInputs({});
+    EXPECT_TRUE(waitUntil([&] { return !table.isBusy(); }));
+    EXPECT_EQ(titles(table), "e1 new today yesterday monday old");
 }
 
 TEST_F(HistoryTableTest, AnEmptyListSaysWhy)

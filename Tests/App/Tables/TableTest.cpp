@@ -84,7 +84,7 @@ void TableTest::awaitList(LinkTable &table, const std::function<void()> &action)
 {
     const QSignalSpy lists(&table, &LinkTable::rowCountChanged);
     action();
-    EXPECT_TRUE(waitUntil([&lists] { return !lists.isEmpty(); }));
+    EXPECT_TRUE(waitUntil([&] { return !lists.isEmpty() && !table.isBusy(); }));
 }
 
 void TableTest::expectNoList(LinkTable &table, const std::function<void()> &action)

@@ -52,7 +52,8 @@ protected:
     }
     static bool isShown(const ContentView &content, const QString &name)
     {
-        return part<QWidget>(content, name)->isVisible();
+        const auto *widget = content.findChild<QWidget *>(name);
+        return widget != nullptr && widget->isVisible();
     }
     void expectSubtitle(const ContentView &content, const QString &text)
     {

@@ -11,6 +11,7 @@
 #include <QCursor>
 #include <QGuiApplication>
 #include <QMenu>
+#include <QTimer>
 
 #include <utility>
 
@@ -48,8 +49,9 @@ bool MenuBarIcon::isAvailable()
 
 void MenuBarIcon::appear()
 {
-    m_icon.show();
     m_services.delegate.windowOpenerIsReady([this] { openWindow(); });
+    // The window comes first: that is what somebody waits for.
+    QTimer::singleShot(0, &m_icon, &QSystemTrayIcon::show);
     followSafari();
     connect(&m_services.library, &Library::snapshotChanged, this, &MenuBarIcon::followSafari,
             Qt::UniqueConnection);

@@ -103,6 +103,12 @@ QString LocalText::number(qint64 number) const
     return m_locale.toString(number);
 }
 
+PointInTime LocalText::tomorrow() const
+{
+    const QDateTime start = m_today.addDays(1).startOfDay(m_zone);
+    return pointInTime(static_cast<double>(start.toMSecsSinceEpoch()) / 1000);
+}
+
 QDateTime LocalText::local(PointInTime time) const
 {
     // Foreign files hold any number, also ones that are no date at all.

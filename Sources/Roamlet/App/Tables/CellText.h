@@ -50,6 +50,8 @@ public:
     QString number(qint64 number) const;
     /// The day that counts as today.
     QDate today() const { return m_today; }
+    /// When the next day begins.
+    PointInTime tomorrow() const;
 
 private:
     QDateTime local(PointInTime time) const;

@@ -74,12 +74,14 @@ void HistoryTable::refresh()
     if (services().library.generation() == 0)
         return;
     const SearchKey key = searchKey();
+    const bool isSearching = m_searching == key;
     if (m_found && m_found->key == key) {
-        stopSearching();
+        if (!isSearching)
+            stopSearching();
         makeList();
         return;
     }
-    if (m_searching == key)
+    if (isSearching)
         return;
     stopSearching();
     maker().cancel();
@@ -95,24 +97,49 @@ void HistoryTable::refresh()
 
 void HistoryTable::search(const SearchKey &key)
 {
+    // The snapshot holds the latest pages already: they are shown until the databases have answered, which
+    // are asked as soon as somebody sees something. What a reload brings may take its time: a list is there.
+    if (query(key) == HistoryQuery::recent() && maker().changeTo(this->key()) == ListChange::Asked) {
+        m_found = {key, {.items = services().library.recentHistory(key.sourceID)}};
+        m_asksOnceShown = true;
+        makeList();
+    } else {
+        ask(key);
+    }
+}
+
+void HistoryTable::ask(const SearchKey &key)
+{
+    setBusy(true);
+    m_search =
+        services().library.queryHistory(query(key), key.sourceID, this, [this, key](HistoryResults results) {
+            if (m_searching != key)
+                return;
+            m_searching.reset();
+            m_found = {key, std::move(results)};
+            maker().outdate();
+            makeList();
+        });
+}
+
+HistoryQuery HistoryTable::query(const SearchKey &key) const
+{
     const auto order =
         m_mode == Mode::Recent ? HistoryQuery::Order::Latest : HistoryQuery::Order::MostVisited;
-    m_search = services().library.queryHistory(HistoryQuery::matching(key.search, key.site, order),
-                                               key.sourceID, this, [this, key](HistoryResults results) {
-                                                   if (m_searching != key)
-                                                       return;
-                                                   m_searching.reset();
-                                                   m_found = {key, std::move(results)};
-                                                   makeList();
-                                               });
+    return HistoryQuery::matching(key.search, key.site, order);
 }
 
 void HistoryTable::stopSearching()
 {
+    // What is shown in place of the answer is none.
+    if (m_searching && m_found && m_found->key == *m_searching)
+        m_found.reset();
+    m_asksOnceShown = false;
     m_wait.reset();
     m_search.request_stop();
     m_search = {};
     m_searching.reset();
+    setBusy(false);
 }
 
 void HistoryTable::makeList()
@@ -142,6 +169,10 @@ void HistoryTable::makeList()
             m_isCapped = isCapped;
             Q_EMIT isCappedChanged(isCapped);
             deliver(tree, change);
+            if (std::exchange(m_asksOnceShown, false))
+                ask(*m_searching);
+            else
+                setBusy(m_searching.has_value());
         });
 }
 

@@ -49,18 +49,22 @@ private:
 
     SearchKey searchKey() const;
     void search(const SearchKey &key);
+    void ask(const SearchKey &key);
+    HistoryQuery query(const SearchKey &key) const;
     void stopSearching();
     void makeList();
 
     Mode m_mode;
     bool m_isCapped = false;
-    /// The last search that ended.
+    /// The last search that ended, or what is shown while the first answer to a key is on its way.
     std::optional<Found> m_found;
     /// The search that waits or runs.
     std::optional<SearchKey> m_searching;
     /// Lives as long as the wait for typing to end.
     std::unique_ptr<QObject> m_wait;
     std::stop_source m_search;
+    /// Whether m_searching is begun once a list is shown.
+    bool m_asksOnceShown = false;
 };
 
 } // namespace roamlet

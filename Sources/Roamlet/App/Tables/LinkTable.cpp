@@ -3,6 +3,7 @@
 
 #include "App/Tables/LinkTable.h"
 
+#include "App/Look/BusyBar.h"
 #include "App/Tables/TableHeader.h"
 #include "Library/Library.h"
 #include "Lists/Refine.h"
@@ -22,6 +23,14 @@ namespace roamlet
 using namespace Qt::StringLiterals;
 
 using Action = LinkMenuEntry::Action;
+
+namespace
+{
+
+/// Most answers are there before anybody would have read that they are on their way.
+constexpr std::chrono::milliseconds busyPatience{300};
+
+} // namespace
 
 LinkTable::LinkTable(const WindowServices &services, const Kind &kind, QWidget *parent)
     : QWidget(parent),
@@ -77,8 +86,44 @@ void LinkTable::refreshIfVisible()
         refresh();
 }
 
+void LinkTable::awaitMidnight()
+{
+    m_midnight = std::make_unique<QObject>();
+    const auto left = std::chrono::ceil<Clock::Duration>(localText().tomorrow() - m_services.clock.now());
+    m_services.clock.after(std::max(left, Clock::Duration(std::chrono::seconds(1))), m_midnight.get(),
+                           [this] { catchUp(); });
+}
+
+void LinkTable::setBusy(bool isBusy)
+{
+    if (isBusy == m_isBusy)
+        return;
+    m_isBusy = isBusy;
+    m_busyWait.reset();
+    if (!isBusy) {
+        if (m_busyBar != nullptr)
+            m_busyBar->hide();
+        return;
+    }
+    m_busyWait = std::make_unique<QObject>();
+    m_services.clock.after(busyPatience, m_busyWait.get(), [this] {
+        if (m_busyBar == nullptr)
+            m_busyBar = new BusyBar(u"Searching"_s, this);
+        placeBusyBar();
+        m_busyBar->raise();
+        m_busyBar->show();
+    });
+}
+
+void LinkTable::placeBusyBar()
+{
+    if (m_busyBar != nullptr)
+        m_busyBar->setGeometry(0, m_view.tableHeader().height(), width(), BusyBar::thickness);
+}
+
 void LinkTable::catchUp()
 {
+    awaitMidnight();
     // A list that was left alone over night still says "Today" about yesterday.
     if (localText().today() != m_model.localText().today())
         invalidate();
@@ -89,6 +134,18 @@ void LinkTable::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
     catchUp();
+}
+
+void LinkTable::hideEvent(QHideEvent *event)
+{
+    QWidget::hideEvent(event);
+    m_midnight.reset();
+}
+
+void LinkTable::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    placeBusyBar();
 }
 
 void LinkTable::changeEvent(QEvent *event)

@@ -13,10 +13,13 @@
 #include <QString>
 #include <QWidget>
 
+#include <memory>
 #include <optional>
 
 namespace roamlet
 {
+
+class BusyBar;
 
 /// What a table is asked to show.
 struct TableInputs {
@@ -49,6 +52,8 @@ public:
     /// How many links the shown list has, in open and closed sections and folders.
     qsizetype rowCount() const { return m_model.tree()->linkCount(); }
     TableView &view() const { return m_view; }
+    /// Whether an answer to what was asked is still on its way.
+    bool isBusy() const { return m_isBusy; }
 
     /// Opens the selected links in the browsers that they came from.
     void openSelection();
@@ -93,6 +98,8 @@ protected:
     void showThatItWorks();
     /// Says why there is nothing to see, where that is so.
     void showWhyItIsEmpty();
+    /// Work that takes longer than a moment is shown.
+    void setBusy(bool isBusy);
     void showList(const SharedRowTree &tree, TableView::Scrolling scrolling);
     /// `column` is -1 for none.
     void showSortIndicator(int column, Qt::SortOrder order);
@@ -100,11 +107,16 @@ protected:
     const QList<TableColumn> &columns() const { return m_model.columns(); }
 
     void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
     void changeEvent(QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     /// Comes back to a list after a while in which it was not looked at.
     void catchUp();
+    /// Does it again when the next day begins.
+    void awaitMidnight();
+    void placeBusyBar();
     LocalText localText() const;
     QString emptyText() const;
     QList<Opener::Link> selectedLinks() const;
@@ -120,6 +132,12 @@ private:
     TableModel m_model;
     TableView &m_view;
     RowIcons m_icons;
+    /// Lives until midnight, or until nobody looks any more.
+    std::unique_ptr<QObject> m_midnight;
+    bool m_isBusy = false;
+    BusyBar *m_busyBar = nullptr;
+    /// Lives as long as work that is not shown yet.
+    std::unique_ptr<QObject> m_busyWait;
 };
 
 } // namespace roamlet

@@ -54,18 +54,30 @@ public:
     }
     /// The key of what was delivered last.
     const std::optional<Key> &shown() const { return m_shown; }
+    /// What a list of this key would differ in from the shown one.
+    ListChange changeTo(const Key &key) const { return change(m_shown, key); }
+    /// The shown list, and any that is on its way, is made of other rows than there are now.
+    void outdate()
+    {
+        cancel();
+        // No list is of this one.
+        if (m_shown)
+            m_shown->generation = 0;
+    }
 
     /// `search` is the text that the rows still have to be searched for.
     void make(const Key &key, QList<Row> rows, const QString &search, Cut cut, Deliver deliver)
     {
         const std::uint64_t turn = begin(key);
-        m_refining =
-            refine(m_runner, std::move(rows), search, key.order, &Row::searchKey, m_collation,
-                   [this, turn, cut = std::move(cut),
-                    deliver = std::move(deliver)](std::optional<QList<Row>> refined) {
-                       if (refined && turn == m_turn)
-                           build(turn, [cut, rows = std::move(*refined)] { return cut(rows); }, deliver);
-                   });
+        m_refining = refine(
+            m_runner, std::move(rows), search, key.order, &Row::searchKey, m_collation,
+            [this, turn, deliver = std::move(deliver)](std::optional<SharedRowTree> tree) {
+                if (tree)
+                    take(turn, *tree, deliver);
+            },
+            [cut = std::move(cut), previous = m_tree](const QList<Row> &refined) {
+                return shared(cut(refined), previous);
+            });
     }
 
     /// For lists that are refined in one go with being built, which may be stopped.
@@ -73,9 +85,16 @@ public:
     void make(const Key &key, Build makeTree, Deliver deliver)
     {
         const std::uint64_t turn = begin(key);
-        build(
-            turn, [makeTree = std::move(makeTree), stop = m_refining.get_token()] { return makeTree(stop); },
-            std::move(deliver));
+        auto built = std::make_shared<SharedRowTree>();
+        m_runner.run(
+            [built, makeTree = std::move(makeTree), previous = m_tree, stop = m_refining.get_token()] {
+                if (std::optional<RowTree> tree = makeTree(stop))
+                    *built = shared(std::move(*tree), previous);
+            },
+            [this, built, turn, deliver = std::move(deliver)] {
+                if (*built)
+                    take(turn, *built, deliver);
+            });
     }
 
     /// What is on its way is not wanted any more.
@@ -101,30 +120,26 @@ private:
         return m_turn;
     }
 
-    template<typename Work>
-    void build(std::uint64_t turn, Work work, Deliver deliver)
+    /// The previous tree when nothing has changed: what is shown then stays as it is.
+    static SharedRowTree shared(RowTree tree, const SharedRowTree &previous)
     {
-        auto built = std::make_shared<SharedRowTree>();
-        m_runner.run(
-            [built, work = std::move(work), previous = m_tree] {
-                std::optional<RowTree> tree = work();
-                if (tree)
-                    *built = *tree == *previous ? previous : std::make_shared<RowTree>(std::move(*tree));
-            },
-            [this, built, turn, deliver = std::move(deliver)] {
-                if (turn != m_turn || !*built)
-                    return;
-                m_tree = *built;
-                const std::optional<Key> before = std::exchange(m_shown, std::exchange(m_coming, {}));
-                deliver(m_tree, changeSince(before));
-            });
+        return tree == *previous ? previous : std::make_shared<RowTree>(std::move(tree));
     }
 
-    ListChange changeSince(std::optional<Key> before) const
+    void take(std::uint64_t turn, const SharedRowTree &tree, const Deliver &deliver)
+    {
+        if (turn != m_turn)
+            return;
+        m_tree = tree;
+        const std::optional<Key> before = std::exchange(m_shown, std::exchange(m_coming, {}));
+        deliver(m_tree, change(before, *m_shown));
+    }
+
+    static ListChange change(std::optional<Key> before, const Key &after)
     {
         if (before)
-            before->generation = m_shown->generation;
-        return before == m_shown ? ListChange::Reloaded : ListChange::Asked;
+            before->generation = after.generation;
+        return before == after ? ListChange::Reloaded : ListChange::Asked;
     }
 
     RefineRunner &m_runner;

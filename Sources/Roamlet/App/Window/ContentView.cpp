@@ -5,7 +5,6 @@
 
 #include "App/Tables/BookmarkTable.h"
 #include "App/Tables/BookmarkTree.h"
-#include "App/Tables/HistoryTable.h"
 #include "App/Window/DetailHeader.h"
 #include "App/Window/EmptyState.h"
 #include "App/Window/FullDiskAccessBanner.h"
@@ -17,11 +16,13 @@
 #include "Platform/Workspace.h"
 
 #include <QLineEdit>
+#include <QPushButton>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
 #include <algorithm>
 #include <ranges>
+#include <utility>
 
 namespace roamlet
 {
@@ -55,15 +56,7 @@ ContentView::ContentView(const WindowServices &services, QWidget *parent)
       m_services(services),
       m_sidebar(new Sidebar(services.library, this)),
       m_header(new DetailHeader(this)),
-      m_accessBanner(new FullDiskAccessBanner(this)),
-      m_siteBar(new SiteFilterBar(this)),
-      m_lists(new QStackedWidget(this)),
-      m_nothingSelected(new EmptyState(u"steeringwheel"_s, u"Pick something in the sidebar"_s, this)),
-      m_noBrowsers(new EmptyState(u"globe"_s, u"No browsers found"_s, this)),
-      m_history(new HistoryTable(services, HistoryTable::Mode::Recent, this)),
-      m_mostVisited(new HistoryTable(services, HistoryTable::Mode::MostVisited, this)),
-      m_bookmarks(new BookmarkTable(services, this)),
-      m_tree(new BookmarkTree(services, this))
+      m_lists(new QStackedWidget(this))
 {
     setObjectName(u"contentView"_s);
     setHandleWidth(1);
@@ -76,7 +69,6 @@ ContentView::ContentView(const WindowServices &services, QWidget *parent)
                            std::ranges::find(choices, grouping) != choices.end() ? grouping : Grouping::None);
     }
 
-    m_noBrowsers->setText(whereWeLooked(services.folders));
     addWidget(m_sidebar);
     addWidget(makeDetail());
     setStretchFactor(0, 0);
@@ -98,13 +90,6 @@ ContentView::ContentView(const WindowServices &services, QWidget *parent)
         Q_EMIT exportRequested({.sourceID = PaneText::exportSourceID(m_pane, m_services.library.snapshot())});
     });
     connect(m_header, &DetailHeader::listRequested, this, [this] { shownList()->setFocus(); });
-    connect(m_accessBanner, &FullDiskAccessBanner::reloadRequested, this, &ContentView::reload);
-    connect(m_accessBanner, &FullDiskAccessBanner::openSettingsRequested, this, [this] {
-        m_services.workspace.openSystemURL(
-            u"x-apple.systempreferences:com.apple.preference.security?Privacy_AllFiles"_s);
-    });
-    connect(m_siteBar, &SiteFilterBar::clearRequested, this, [this] { setSite({}); });
-    connectTables();
 
     const Library *library = &services.library;
     connect(library, &Library::snapshotChanged, this, [this] {
@@ -129,40 +114,104 @@ ContentView::ContentView(const WindowServices &services, QWidget *parent)
 QWidget *ContentView::makeDetail()
 {
     auto *detail = new QWidget(this);
-    auto *column = new QVBoxLayout(detail);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
-    column->addWidget(m_header);
-    column->addWidget(m_accessBanner);
-    column->addWidget(m_siteBar);
-    column->addWidget(m_lists, 1);
-    for (QWidget *list : {static_cast<QWidget *>(m_nothingSelected), static_cast<QWidget *>(m_noBrowsers),
-                          static_cast<QWidget *>(m_history), static_cast<QWidget *>(m_mostVisited),
-                          static_cast<QWidget *>(m_bookmarks), static_cast<QWidget *>(m_tree)})
-        m_lists->addWidget(list);
+    m_column = new QVBoxLayout(detail);
+    m_column->setContentsMargins(0, 0, 0, 0);
+    m_column->setSpacing(0);
+    m_column->addWidget(m_header);
+    m_column->addWidget(m_lists, 1);
     return detail;
 }
 
-void ContentView::connectTables()
+void ContentView::showAccessBanner()
 {
-    for (LinkTable *table : {static_cast<LinkTable *>(m_history), static_cast<LinkTable *>(m_mostVisited),
-                             static_cast<LinkTable *>(m_bookmarks), static_cast<LinkTable *>(m_tree)}) {
-        connect(table, &LinkTable::onlySiteRequested, this, [this](const QString &site) { setSite(site); });
-        connect(table, &LinkTable::rowCountChanged, this, [this, table](qsizetype count) {
-            if (m_lists->currentWidget() != table)
-                return;
-            m_list.rowCount = count;
-            updateTitle();
+    if (m_accessBanner == nullptr) {
+        m_accessBanner = new FullDiskAccessBanner(this);
+        connect(m_accessBanner, &FullDiskAccessBanner::reloadRequested, this, &ContentView::reload);
+        connect(m_accessBanner, &FullDiskAccessBanner::openSettingsRequested, this, [this] {
+            m_services.workspace.openSystemURL(
+                u"x-apple.systempreferences:com.apple.preference.security?Privacy_AllFiles"_s);
         });
+        insert(m_accessBanner, m_header, m_header->searchField());
     }
-    for (HistoryTable *table : {m_history, m_mostVisited}) {
+    m_accessBanner->show();
+}
+
+void ContentView::showSiteBar(const QString &site)
+{
+    if (m_siteBar == nullptr) {
+        m_siteBar = new SiteFilterBar(this);
+        connect(m_siteBar, &SiteFilterBar::clearRequested, this, [this] { setSite({}); });
+        if (m_accessBanner != nullptr)
+            insert(m_siteBar, m_accessBanner, m_accessBanner->findChildren<QPushButton *>().last());
+        else
+            insert(m_siteBar, m_header, m_header->searchField());
+    }
+    m_siteBar->setSite(site, m_services.library.favicon(site));
+    m_siteBar->show();
+}
+
+void ContentView::insert(QWidget *strip, const QWidget *above, QWidget *focusedBefore)
+{
+    m_column->insertWidget(m_column->indexOf(above) + 1, strip);
+    // The Tab key goes through the window from above.
+    for (QPushButton *button : strip->findChildren<QPushButton *>())
+        setTabOrder(std::exchange(focusedBefore, button), button);
+}
+
+EmptyState *ContentView::nothingSelected()
+{
+    if (m_nothingSelected == nullptr) {
+        m_nothingSelected = new EmptyState(u"steeringwheel"_s, u"Pick something in the sidebar"_s, this);
+        m_lists->addWidget(m_nothingSelected);
+    }
+    return m_nothingSelected;
+}
+
+EmptyState *ContentView::noBrowsers()
+{
+    if (m_noBrowsers == nullptr) {
+        m_noBrowsers = new EmptyState(u"globe"_s, u"No browsers found"_s, this);
+        m_noBrowsers->setText(whereWeLooked(m_services.folders));
+        m_lists->addWidget(m_noBrowsers);
+    }
+    return m_noBrowsers;
+}
+
+HistoryTable *ContentView::historyTable(HistoryTable *&table, HistoryTable::Mode mode)
+{
+    if (table == nullptr) {
+        table = new HistoryTable(m_services, mode, this);
         connect(table, &HistoryTable::isCappedChanged, this, [this, table](bool isCapped) {
             if (m_lists->currentWidget() != table)
                 return;
             m_list.isCapped = isCapped;
             updateTitle();
         });
+        addTable(table);
     }
+    return table;
+}
+
+template<typename Table>
+Table *ContentView::bookmarkTable(Table *&table)
+{
+    if (table == nullptr) {
+        table = new Table(m_services, this);
+        addTable(table);
+    }
+    return table;
+}
+
+void ContentView::addTable(LinkTable *table)
+{
+    connect(table, &LinkTable::onlySiteRequested, this, [this](const QString &site) { setSite(site); });
+    connect(table, &LinkTable::rowCountChanged, this, [this, table](qsizetype count) {
+        if (m_lists->currentWidget() != table)
+            return;
+        m_list.rowCount = count;
+        updateTitle();
+    });
+    m_lists->addWidget(table);
 }
 
 void ContentView::setPane(const std::optional<Pane> &pane)
@@ -242,10 +291,14 @@ void ContentView::updateTitle()
 
 void ContentView::updateBanners()
 {
-    m_accessBanner->setVisible(m_services.library.snapshot().safariBlocked);
-    m_siteBar->setVisible(m_list.site.has_value());
+    if (m_services.library.snapshot().safariBlocked)
+        showAccessBanner();
+    else if (m_accessBanner != nullptr)
+        m_accessBanner->hide();
     if (m_list.site)
-        m_siteBar->setSite(*m_list.site, m_services.library.favicon(*m_list.site));
+        showSiteBar(*m_list.site);
+    else if (m_siteBar != nullptr)
+        m_siteBar->hide();
 }
 
 void ContentView::updateExport()
@@ -277,17 +330,19 @@ void ContentView::updateList()
 QWidget *ContentView::shownList()
 {
     if (!m_pane)
-        return m_nothingSelected;
+        return nothingSelected();
     const Library &library = m_services.library;
     if (library.lastLoaded() && library.snapshot().browserProfiles.isEmpty())
-        return m_noBrowsers;
+        return noBrowsers();
     if (std::holds_alternative<HistoryPane>(*m_pane))
-        return m_history;
+        return historyTable(m_history, HistoryTable::Mode::Recent);
     if (std::holds_alternative<MostVisitedPane>(*m_pane))
-        return m_mostVisited;
+        return historyTable(m_mostVisited, HistoryTable::Mode::MostVisited);
     const bool isTree = m_list.search.trimmed().isEmpty() && !m_list.site &&
                         m_groupings.value(GroupedList::Bookmarks) != Grouping::Site;
-    return isTree ? static_cast<QWidget *>(m_tree) : m_bookmarks;
+    if (isTree)
+        return bookmarkTable(m_tree);
+    return bookmarkTable(m_bookmarks);
 }
 
 void ContentView::setGrouping(Grouping grouping)

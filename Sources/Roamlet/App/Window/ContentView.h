@@ -4,6 +4,7 @@
 #pragma once
 
 #include "App/Export/ExportAction.h"
+#include "App/Tables/HistoryTable.h"
 #include "App/Window/Pane.h"
 #include "App/Window/PaneText.h"
 #include "App/Window/WindowServices.h"
@@ -15,6 +16,7 @@
 #include <optional>
 
 class QStackedWidget;
+class QVBoxLayout;
 
 namespace roamlet
 {
@@ -24,7 +26,6 @@ class BookmarkTree;
 class DetailHeader;
 class EmptyState;
 class FullDiskAccessBanner;
-class HistoryTable;
 class Sidebar;
 class SiteFilterBar;
 
@@ -62,7 +63,17 @@ Q_SIGNALS:
 
 private:
     QWidget *makeDetail();
-    void connectTables();
+    // What can stand below the header is made when it is looked at first.
+    void showAccessBanner();
+    void showSiteBar(const QString &site);
+    /// Puts a strip right below another part, also for the Tab key, which comes to it from `focusedBefore`.
+    void insert(QWidget *strip, const QWidget *above, QWidget *focusedBefore);
+    EmptyState *nothingSelected();
+    EmptyState *noBrowsers();
+    HistoryTable *historyTable(HistoryTable *&table, HistoryTable::Mode mode);
+    template<typename Table>
+    Table *bookmarkTable(Table *&table);
+    void addTable(LinkTable *table);
     /// Brings everything in line with the state.
     void update();
     void updateTitle();
@@ -80,15 +91,16 @@ private:
 
     Sidebar *m_sidebar;
     DetailHeader *m_header;
-    FullDiskAccessBanner *m_accessBanner;
-    SiteFilterBar *m_siteBar;
+    QVBoxLayout *m_column = nullptr;
+    FullDiskAccessBanner *m_accessBanner = nullptr;
+    SiteFilterBar *m_siteBar = nullptr;
     QStackedWidget *m_lists;
-    EmptyState *m_nothingSelected;
-    EmptyState *m_noBrowsers;
-    HistoryTable *m_history;
-    HistoryTable *m_mostVisited;
-    BookmarkTable *m_bookmarks;
-    BookmarkTree *m_tree;
+    EmptyState *m_nothingSelected = nullptr;
+    EmptyState *m_noBrowsers = nullptr;
+    HistoryTable *m_history = nullptr;
+    HistoryTable *m_mostVisited = nullptr;
+    BookmarkTable *m_bookmarks = nullptr;
+    BookmarkTree *m_tree = nullptr;
 };
 
 } // namespace roamlet

@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QVariantAnimation>
+#include <QWidget>
+
+namespace roamlet
+{
+
+/// A thin line in which something runs to and fro, for work of which nobody knows how long it takes. It moves
+/// only while it is shown.
+class BusyBar final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    static constexpr int thickness = 3;
+
+    /// `work` is what a screen reader calls it.
+    explicit BusyBar(const QString &work, QWidget *parent = nullptr);
+
+protected:
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    QVariantAnimation m_running;
+};
+
+} // namespace roamlet
