@@ -10,6 +10,8 @@
 
 #include <unistd.h>
 
+#include <chrono>
+#include <cinttypes>
 #include <cstdint>
 #include <cstdio>
 #include <functional>
@@ -23,7 +25,7 @@ class WindowMeasure final : public QObject
 {
 public:
     enum class Mode : std::uint8_t {
-        Start,  ///< Ends when a list was painted first.
+        Start,  ///< Ends when a list was painted first, and prints when that was, in microseconds since 1970.
         Memory, ///< "--memory": then closes the windows, and some time later prints the memory in use, in kB.
         Stay    ///< "--stay": then closes the windows and stays in the tray.
     };
@@ -66,9 +68,14 @@ protected:
 private:
     void end()
     {
-        // What is measured is the start; how a program ends is its own affair.
-        if (m_mode == Mode::Start)
+        if (m_mode == Mode::Start) {
+            const auto now = std::chrono::system_clock::now().time_since_epoch();
+            std::printf("%" PRId64 "\n",
+                        std::int64_t{std::chrono::duration_cast<std::chrono::microseconds>(now).count()});
+            std::fflush(stdout);
+            // How a program ends is its own affair.
             _exit(0);
+        }
         QApplication::setQuitOnLastWindowClosed(false);
         QApplication::closeAllWindows();
         if (m_mode == Mode::Stay)

@@ -30,20 +30,32 @@ row() { # job, against, ours, theirs, at most
   }')")
 }
 
+# Milliseconds until a command has ended. No shell stands between: it would take longer than some of what is measured.
+untilEnd() {
+  hyperfine --style none --runs 1 --shell=none --export-csv "$work/csv" "$1" >/dev/null 2>&1
+  awk -F, 'NR == 2 { print $2 * 1000 }' "$work/csv"
+}
+
+# Milliseconds until a program has painted, which prints the time of that, in microseconds.
+untilPainted() {
+  local start=${EPOCHREALTIME/[.,]/} end
+  end=$("$1" 2>/dev/null)
+  awk "BEGIN { print ($end - $start) / 1000 }"
+}
+
 # Runs two plain commands in turn, on one of the sample homes, and leaves the medians, in milliseconds, in $ours and
-# $theirs. No shell stands between: it would take longer than some of what is measured.
-compare() { # home, rounds, ours, theirs
-  local home=$homes/$1 rounds=$2
+# $theirs.
+compare() { # until when, home, rounds, ours, theirs
+  local until=$1 home=$homes/$2 rounds=$3
   : >"$work/ours"
   : >"$work/theirs"
   for round in $(seq 0 "$rounds"); do
     for side in ours theirs; do
-      local command=$3
-      [ $side = theirs ] && command=$4
-      HOME=$home XDG_CONFIG_HOME=$home/.config hyperfine --style none --runs 1 --shell=none --export-csv "$work/csv" \
-        "$command" >/dev/null 2>&1
+      local command=$4 taken
+      [ $side = theirs ] && command=$5
+      taken=$(HOME=$home XDG_CONFIG_HOME=$home/.config $until "$command")
       # The first round only warms up.
-      [ "$round" -eq 0 ] || awk -F, 'NR == 2 { print $2 * 1000 }' "$work/csv" >>"$work/$side"
+      [ "$round" -eq 0 ] || echo "$taken" >>"$work/$side"
     done
   done
   ours=$(sort -n "$work/ours" | awk '{ a[NR] = $1 } END { print a[int((NR + 1) / 2)] }')
@@ -71,7 +83,7 @@ cat >"$work/plain-search" <<SEARCH
 cp '$million/History' '$copy/History'
 sqlite3 '$copy/History' "$search" >/dev/null
 SEARCH
-compare million 15 "$roamlet --search garden maps" "bash $work/plain-search"
+compare untilEnd million 15 "$roamlet --search garden maps" "bash $work/plain-search"
 rm -f "$copy"/*
 row "--search of two words, 1,000,000 rows (ms)" "cp, sqlite3 with the same statement" "$ours" "$theirs" 0.9
 
@@ -86,10 +98,10 @@ for profile in $homes/profiles/.config/{google-chrome,microsoft-edge}/*/; do
   rm -f $copy/*
 done
 SUMMARY
-compare profiles 9 "$roamlet --summary" "bash $work/plain-summary"
+compare untilEnd profiles 9 "$roamlet --summary" "bash $work/plain-summary"
 row "--summary of 8 profiles of 100,000 rows (ms)" "cp, sqlite3, one after the other" "$ours" "$theirs" 0.7
 
-compare ten 41 "$roamlet --export html --source chrome/Default" "$bin/BenchmarkEmptyProgram"
+compare untilEnd ten 41 "$roamlet --export html --source chrome/Default" "$bin/BenchmarkEmptyProgram"
 row "--export html of ten bookmarks, whole process (ms)" "an empty Qt Core program" "$ours" "$theirs" 2
 
 # Windows are measured on a screen of their own, with a tray.
@@ -99,7 +111,7 @@ screen=$!
 until xdotool getdisplaygeometry >/dev/null 2>&1; do sleep 0.1; done
 trayer --edge top --align right >/dev/null 2>&1 &
 tray=$!
-compare four 15 "$bin/BenchmarkStartMainWindow" "$bin/BenchmarkEmptyWindow"
+compare untilPainted four 15 "$bin/BenchmarkStartMainWindow" "$bin/BenchmarkEmptyWindow"
 row "start until the window has painted rows (ms)" "an empty window with an empty table" "$ours" "$theirs" 2
 kept() { HOME=$homes/four XDG_CONFIG_HOME=$homes/four/.config "$bin/$1" --memory 2>/dev/null; }
 row "memory when idle in the tray (kB)" "the same empty window with a tray icon" \
