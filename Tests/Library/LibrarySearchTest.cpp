@@ -207,6 +207,26 @@ TEST_F(LibrarySearchTest, TheLibraryAsksTheDatabasesAndNotTheSnapshot)
     EXPECT_EQ(library.generation(), 1);
 }
 
+TEST_F(LibrarySearchTest, RowsThatTheSnapshotHasTakeNoMemoryOfTheirOwn)
+{
+    addChromium();
+    Library library(home.platform());
+    loadNow(library);
+    const QList<HistoryItem> &known = library.snapshot().history;
+    EXPECT_TRUE(ask(library, {}).items.isSharedWith(known));
+    const HistoryResults found = ask(library, u"chrome/Default"_s, mostVisited());
+    ASSERT_FALSE(found.items.isEmpty());
+    for (const HistoryItem &item : found.items) {
+        const auto same = std::ranges::find(known, item.id, &HistoryItem::id);
+        ASSERT_NE(same, known.end());
+        EXPECT_TRUE(item.url.isSharedWith(same->url));
+    }
+    setChromeHistory(u"Default"_s, {u"since then"_s});
+    const HistoryResults newer = ask(library, {});
+    EXPECT_FALSE(newer.items.isSharedWith(known));
+    EXPECT_TRUE(sortedTitles(newer).contains(u"since then"_s));
+}
+
 TEST_F(LibrarySearchTest, ProfilesThatAreSwitchedOffAreNotSearched)
 {
     addChromium();

@@ -9,7 +9,11 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <array>
+#include <cstdio>
 #include <limits>
+#include <memory>
+#include <vector>
 
 namespace roamlet::testing
 {
@@ -45,6 +49,35 @@ TEST(Processes, somebodyElsesProcessExistsToo)
 {
     const WithoutPrivileges guard;
     EXPECT_TRUE(Processes::exists(1));
+}
+
+/// In kB.
+long memoryInUse()
+{
+    std::FILE *status = std::fopen("/proc/self/statm", "re");
+    long size = 0;
+    long resident = 0;
+    EXPECT_NE(status, nullptr);
+    EXPECT_EQ(std::fscanf(status, "%ld %ld", &size, &resident), 2);
+    static_cast<void>(std::fclose(status));
+    return resident * (sysconf(_SC_PAGESIZE) / 1024);
+}
+
+TEST(Processes, memoryThatIsNoLongerUsedIsGivenBack)
+{
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+    GTEST_SKIP() << "a sanitizer keeps what was freed";
+#endif
+    constexpr std::size_t piece = 512;
+    std::vector<std::unique_ptr<std::array<char, piece>>> pieces(100'000);
+    for (auto &each : pieces)
+        each = std::make_unique<std::array<char, piece>>();
+    // The last one lies above all others, and keeps their memory in the process.
+    const auto last = std::move(pieces.back());
+    pieces.clear();
+    const long before = memoryInUse();
+    Processes::giveBackMemory();
+    EXPECT_LT(memoryInUse(), before - 30'000);
 }
 
 TEST(Processes, noProcessHasANumberBeyondTheSystemsLimit)

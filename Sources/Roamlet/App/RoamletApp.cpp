@@ -21,6 +21,7 @@
 #include "Platform/Linux/LinuxPlatform.h"
 #include "Platform/Linux/LinuxWorkspace.h"
 #include "Platform/Linux/StopSignals.h"
+#include "Platform/Processes.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -121,6 +122,8 @@ RoamletApp::RoamletApp(const Services &services)
                 quit();
         },
         Qt::QueuedConnection);
+    QObject::connect(qApp, &QGuiApplication::lastWindowClosed, &m_mainWindow, [this] { rest(); });
+    QObject::connect(&m_services.library, &Library::lastLoadedChanged, &m_mainWindow, [this] { rest(); });
     QObject::connect(&m_mainWindow, &MainWindow::settingsRequested, &m_mainWindow,
                      [this] { settingsWindow().open(); });
 }
@@ -138,6 +141,17 @@ SettingsWindow &RoamletApp::settingsWindow()
                                                               .delegate = m_delegate,
                                                               .updater = &m_services.updater});
     return *m_settingsWindow;
+}
+
+void RoamletApp::rest()
+{
+    constexpr std::chrono::seconds untilAllIsPutAway{1};
+    if (!openWindows().isEmpty())
+        return;
+    m_services.platform.clock.after(untilAllIsPutAway, &m_mainWindow, [] {
+        if (openWindows().isEmpty())
+            Processes::giveBackMemory();
+    });
 }
 
 void RoamletApp::start(bool isLaunchedAtLogin)

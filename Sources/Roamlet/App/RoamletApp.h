@@ -69,6 +69,9 @@ private:
     static int runUntilTheEnd(int argc, char **argv, const std::stop_token &stop,
                               std::optional<QString> &successor);
 
+    /// Keeps no more memory than the tray needs, once nobody looks.
+    void rest();
+
     Services m_services;
     AppDelegate m_delegate;
     Opener m_opener;

@@ -29,6 +29,27 @@ const QString sourceOrderKey = u"sourceOrder"_s;
 constexpr std::chrono::seconds reloadDelay{5};
 constexpr qsizetype menuLength = 10;
 
+/// Lets `rows` share the memory of those that are `known`: most often they are the same, and the answers that
+/// a window shows would take as much again.
+void shareRows(QList<HistoryItem> &rows, const QList<HistoryItem> &known)
+{
+    QHash<QStringView, const HistoryItem *> byID;
+    byID.reserve(known.size());
+    for (const HistoryItem &item : known)
+        byID.insert(item.id, &item);
+    qsizetype shared = 0;
+    for (HistoryItem &row : rows) {
+        const HistoryItem *same = byID.value(row.id);
+        if (same == nullptr || *same != row)
+            continue;
+        row = *same;
+        ++shared;
+    }
+    // Only the sources' places may differ, and those are a matter of chance.
+    if (shared == rows.size() && shared == known.size())
+        rows = known;
+}
+
 } // namespace
 
 Library::Library(const Platform &platform, QObject *parent)
@@ -186,11 +207,14 @@ std::stop_source Library::queryHistory(const HistoryQuery &query, const std::opt
         sources.removeIf([&sourceID](const Source &source) { return source.id() != *sourceID; });
     return m_tasks.run(
         context,
-        [query, sources, reading = readContext(m_platform)](const std::stop_token &stop) {
+        [query, sources, known = m_snapshot.history,
+         reading = readContext(m_platform)](const std::stop_token &stop) {
             Threads::giveWay();
             ReadContext stoppable = reading;
             stoppable.stop = stop;
-            return history(query, sources, stoppable);
+            HistoryResults results = history(query, sources, stoppable);
+            shareRows(results.items, known);
+            return results;
         },
         std::move(deliver));
 }

@@ -13,5 +13,7 @@ namespace roamlet::Processes
 std::int32_t ownID();
 /// Whether a process with this id exists, whoever it belongs to.
 bool exists(std::int32_t id);
+/// Gives the memory that this process no longer uses back to the system. Takes a few milliseconds.
+void giveBackMemory();
 
 } // namespace roamlet::Processes

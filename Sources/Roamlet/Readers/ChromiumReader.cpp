@@ -166,6 +166,7 @@ std::expected<QList<HistoryItem>, ReadError> history(const Source &source, const
     if (!snapshot)
         return std::unexpected(snapshot.error());
     QList<HistoryItem> items;
+    items.reserve(std::min(query.limit, HistoryQuery::defaultLimit));
     const auto run =
         snapshot->query(historyStatement(query), query.patterns(), [&](const SQLiteSnapshot::Row &row) {
             enum Column { Id, Url, Title, LastVisitTime, VisitCount };

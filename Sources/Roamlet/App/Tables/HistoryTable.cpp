@@ -116,8 +116,11 @@ void HistoryTable::ask(const SearchKey &key)
             if (m_searching != key)
                 return;
             m_searching.reset();
-            m_found = {key, std::move(results)};
-            maker().outdate();
+            // What the snapshot had was the answer most often.
+            if (!m_found || m_found->key != key || m_found->results != results) {
+                m_found = {key, std::move(results)};
+                maker().outdate();
+            }
             makeList();
         });
 }
@@ -145,8 +148,10 @@ void HistoryTable::stopSearching()
 void HistoryTable::makeList()
 {
     if (!maker().needs(key())) {
-        if (maker().shown() == key())
+        if (maker().shown() == key()) {
             showWhyItIsEmpty();
+            setBusy(m_searching.has_value());
+        }
         return;
     }
     const auto now = std::chrono::time_point_cast<PointInTime::duration>(services().clock.now());

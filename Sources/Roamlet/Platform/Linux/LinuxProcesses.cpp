@@ -3,6 +3,7 @@
 
 #include "Platform/Processes.h"
 
+#include <malloc.h>
 #include <signal.h>
 #include <unistd.h>
 
@@ -19,6 +20,11 @@ std::int32_t ownID()
 bool exists(std::int32_t id)
 {
     return kill(id, 0) == 0 || errno == EPERM;
+}
+
+void giveBackMemory()
+{
+    malloc_trim(0);
 }
 
 } // namespace roamlet::Processes
