@@ -34,8 +34,8 @@ TEST(ThreadsTest, oneThatGivesWayTakesAlongThoseThatItStarts)
         GTEST_SKIP() << "the tests themselves give way";
     onAThread([] {
         Threads::giveWay();
-        EXPECT_EQ(ownNiceness(), 10);
-        onAThread([] { EXPECT_EQ(ownNiceness(), 10); });
+        EXPECT_EQ(ownNiceness(), 5);
+        onAThread([] { EXPECT_EQ(ownNiceness(), 5); });
     });
     EXPECT_EQ(ownNiceness(), before);
     onAThread([before] { EXPECT_EQ(ownNiceness(), before); });

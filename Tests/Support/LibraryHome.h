@@ -34,6 +34,8 @@ public:
     }
     /// Waits until a reader stands at the gate.
     void awaitReader() { m_arrived.acquire(); }
+    /// Whether a reader has come to stand at the gate since this was asked last.
+    bool readerHasCome() { return m_arrived.try_acquire(); }
     void open() { m_opened.release(); }
 
 private:

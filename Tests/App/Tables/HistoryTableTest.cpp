@@ -383,8 +383,7 @@ TEST_F(HistoryTableTest, TheSnapshotsPagesAreShownUntilTheDatabasesAnswer)
                      [&] { lists.append(QString::fromStdString(titles(table))); });
     table.resize(900, 400);
     table.show();
-    EXPECT_TRUE(waitUntil([&] { return table.isBusy(); }));
-    gate.awaitReader();
+    EXPECT_TRUE(waitUntil([&] { return gate.readerHasCome(); }));
     EXPECT_EQ(lists, QStringList{u"e1 today work yesterday monday old"_s});
     EXPECT_TRUE(table.isBusy());
     gate.open();
@@ -394,22 +393,53 @@ TEST_F(HistoryTableTest, TheSnapshotsPagesAreShownUntilTheDatabasesAnswer)
 
 TEST_F(HistoryTableTest, WhatOnlyStoodInForAnAnswerIsNoAnswer)
 {
+    Gate gate;
     HistoryTable table(services(), Mode::Recent);
     setPages(u"Profile 1"_s, {page(u"new"_s, 0)});
-    {
-        Gate gate;
-        recordReads(&gate);
-        table.resize(900, 400);
-        table.show();
-        EXPECT_TRUE(waitUntil([&] { return table.isBusy(); }));
-        gate.awaitReader();
-        // Something else is asked for, and taken back, while the databases are still being read.
-        table.setInputs({.search = u"day"_s});
-        gate.open();
-    }
+    recordReads(&gate);
+    table.resize(900, 400);
+    table.show();
+    EXPECT_TRUE(waitUntil([&] { return gate.readerHasCome(); }));
+    // Something else is asked for, and taken back, while the databases are still being read.
+    table.setInputs({.search = u"day"_s});
+    gate.open();
     table.setInputs({});
     EXPECT_TRUE(waitUntil([&] { return !table.isBusy(); }));
     EXPECT_EQ(titles(table), "e1 new today yesterday monday old");
+    EXPECT_TRUE(waitUntil([this] { return home.leftovers().isEmpty(); }));
+}
+
+TEST_F(HistoryTableTest, AStandInThatIsTakenBackBeforeItIsShownKeepsNothingBusy)
+{
+    HistoryTable table(services(), Mode::Recent);
+    show(table);
+    recordReads();
+    // All at once, so that no list can be made in between.
+    table.setInputs({.sourceID = u"chrome/Default"_s});
+    table.setInputs({.grouping = Grouping::Day});
+    table.setInputs({});
+    EXPECT_TRUE(waitUntil([&] { return !table.isBusy(); }));
+    home.clock.advance(1s);
+    EXPECT_EQ(table.findChild<QWidget *>(u"busyBar"_s), nullptr);
+    EXPECT_EQ(titles(table), "e1 today work yesterday monday old");
+}
+
+TEST_F(HistoryTableTest, AStandInDoesNotTakeThePlaceOfWhatWasFound)
+{
+    HistoryTable table(services(), Mode::Recent);
+    show(table);
+    search(table, u"day"_s);
+    // Cleared, and typed again before the databases have answered.
+    awaitList(table, [&] {
+        table.setInputs({});
+        table.setInputs({.search = u"day"_s});
+        table.setInputs({.search = u"day"_s, .grouping = Grouping::Site});
+    });
+    recordReads();
+    table.setInputs({});
+    table.setInputs({.search = u"day"_s});
+    expectNoList(table, [&] { home.clock.advance(1s); });
+    EXPECT_TRUE(takeReads().isEmpty()) << "the answer is known";
 }
 
 TEST_F(HistoryTableTest, AnEmptyListSaysWhy)

@@ -74,15 +74,16 @@ void HistoryTable::refresh()
     if (services().library.generation() == 0)
         return;
     const SearchKey key = searchKey();
-    const bool isSearching = m_searching == key;
     if (m_found && m_found->key == key) {
-        if (!isSearching)
-            stopSearching();
+        stopSearching();
         makeList();
         return;
     }
-    if (isSearching)
+    if (m_searching == key) {
+        if (m_standIn)
+            makeList();
         return;
+    }
     stopSearching();
     maker().cancel();
     showThatItWorks();
@@ -97,11 +98,13 @@ void HistoryTable::refresh()
 
 void HistoryTable::search(const SearchKey &key)
 {
+    setBusy(true);
     // The snapshot holds the latest pages already: they are shown until the databases have answered, which
-    // are asked as soon as somebody sees something. What a reload brings may take its time: a list is there.
+    // are asked as soon as there is something to see. What a reload brings may take its time: a list is
+    // there.
     if (query(key) == HistoryQuery::recent() && maker().changeTo(this->key()) == ListChange::Asked) {
-        m_found = {key, {.items = services().library.recentHistory(key.sourceID)}};
-        m_asksOnceShown = true;
+        m_standIn = {.items = services().library.recentHistory(key.sourceID)};
+        m_asksOncePainted = true;
         makeList();
     } else {
         ask(key);
@@ -110,17 +113,16 @@ void HistoryTable::search(const SearchKey &key)
 
 void HistoryTable::ask(const SearchKey &key)
 {
-    setBusy(true);
     m_search =
         services().library.queryHistory(query(key), key.sourceID, this, [this, key](HistoryResults results) {
             if (m_searching != key)
                 return;
             m_searching.reset();
-            // What the snapshot had was the answer most often.
-            if (!m_found || m_found->key != key || m_found->results != results) {
-                m_found = {key, std::move(results)};
+            // Most often the snapshot had it all.
+            if (m_standIn && *m_standIn != results)
                 maker().outdate();
-            }
+            m_standIn.reset();
+            m_found = {key, std::move(results)};
             makeList();
         });
 }
@@ -134,10 +136,11 @@ HistoryQuery HistoryTable::query(const SearchKey &key) const
 
 void HistoryTable::stopSearching()
 {
-    // What is shown in place of the answer is none.
-    if (m_searching && m_found && m_found->key == *m_searching)
-        m_found.reset();
-    m_asksOnceShown = false;
+    // What stood in for an answer may be shown, and is none.
+    if (m_standIn)
+        maker().outdate();
+    m_standIn.reset();
+    m_asksOncePainted = false;
     m_wait.reset();
     m_search.request_stop();
     m_search = {};
@@ -150,14 +153,15 @@ void HistoryTable::makeList()
     if (!maker().needs(key())) {
         if (maker().shown() == key()) {
             showWhyItIsEmpty();
-            setBusy(m_searching.has_value());
+            goOn();
         }
         return;
     }
+    const HistoryResults &results = m_standIn ? *m_standIn : m_found->results;
     const auto now = std::chrono::time_point_cast<PointInTime::duration>(services().clock.now());
     // The databases have searched already; what is left is sorting.
     maker().make(
-        key(), m_found->results.items, {},
+        key(), results.items, {},
         [grouping = inputs().grouping, isNewestFirst = newestFirst(order()), now,
          calendar = services().calendar(), collation = services().collation](const QList<HistoryItem> &rows) {
             switch (grouping) {
@@ -170,15 +174,23 @@ void HistoryTable::makeList()
             }
             return RowTree::ofRows(rows);
         },
-        [this, isCapped = m_found->results.isCapped](const SharedRowTree &tree, ListChange change) {
+        [this, isCapped = results.isCapped](const SharedRowTree &tree, ListChange change) {
             m_isCapped = isCapped;
             Q_EMIT isCappedChanged(isCapped);
             deliver(tree, change);
-            if (std::exchange(m_asksOnceShown, false))
-                ask(*m_searching);
-            else
-                setBusy(m_searching.has_value());
+            goOn();
         });
+}
+
+void HistoryTable::goOn()
+{
+    setBusy(m_searching.has_value());
+    if (!m_asksOncePainted)
+        return;
+    view().oncePainted([this] {
+        if (std::exchange(m_asksOncePainted, false))
+            ask(*m_searching);
+    });
 }
 
 LinkMenuSubject HistoryTable::menuSubject(const QList<TableRow> &rows) const

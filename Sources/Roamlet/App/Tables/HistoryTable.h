@@ -53,18 +53,22 @@ private:
     HistoryQuery query(const SearchKey &key) const;
     void stopSearching();
     void makeList();
+    /// With what is left to do once the list is shown that can be shown now.
+    void goOn();
 
     Mode m_mode;
     bool m_isCapped = false;
-    /// The last search that ended, or what is shown while the first answer to a key is on its way.
+    /// The last search that ended.
     std::optional<Found> m_found;
     /// The search that waits or runs.
     std::optional<SearchKey> m_searching;
     /// Lives as long as the wait for typing to end.
     std::unique_ptr<QObject> m_wait;
     std::stop_source m_search;
-    /// Whether m_searching is begun once a list is shown.
-    bool m_asksOnceShown = false;
+    /// What is shown in the place of m_searching's answer.
+    std::optional<HistoryResults> m_standIn;
+    /// Whether m_searching is begun once the stand-in was painted.
+    bool m_asksOncePainted = false;
 };
 
 } // namespace roamlet

@@ -10,8 +10,9 @@ namespace roamlet::Threads
 
 void giveWay()
 {
-    // As far back as `nice` sets a whole program. What it calls a process is the thread that asks.
-    constexpr int background = 10;
+    // Half as far back as `nice` sets a whole program: on a machine that is busy with something else, the
+    // work still has to get done. What the system calls a process here is the thread that asks.
+    constexpr int background = 5;
     if (getpriority(PRIO_PROCESS, 0) < background)
         setpriority(PRIO_PROCESS, 0, background);
 }
