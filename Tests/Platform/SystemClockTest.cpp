@@ -5,8 +5,10 @@
 
 #include <QCoreApplication>
 #include <QObject>
+#include <QPointer>
 #include <QTest>
 #include <QThread>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -32,6 +34,20 @@ TEST(SystemClock, tellsTheTime)
     const auto now = SystemClock().now();
     EXPECT_LE(before, now);
     EXPECT_LE(now, std::chrono::system_clock::now());
+}
+
+TEST(SystemClock, keepsNoTimerForAContextThatIsGone)
+{
+    QObject other;
+    auto context = std::make_unique<QObject>();
+    SystemClock().after(1h, context.get(), [] {});
+    SystemClock().after(1h, &other, [] {});
+    const auto timers = [](const QObject &object) { return object.findChildren<QTimer *>().size(); };
+    EXPECT_EQ(timers(*context), 1);
+    const QPointer<QTimer> timer = context->findChild<QTimer *>();
+    context.reset();
+    EXPECT_EQ(timer, nullptr);
+    EXPECT_EQ(timers(other), 1);
 }
 
 TEST(SystemClock, sleepsAsLongAsAsked)

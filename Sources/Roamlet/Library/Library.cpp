@@ -6,7 +6,6 @@
 #include "Library/FaviconImage.h"
 #include "Platform/Clock.h"
 #include "Platform/Files.h"
-#include "Platform/Threads.h"
 #include "Platform/UserDefaults.h"
 #include "Readers/SQLiteSnapshot.h"
 
@@ -30,8 +29,8 @@ constexpr std::chrono::seconds reloadDelay{5};
 constexpr qsizetype menuLength = 10;
 
 /// Lets `rows` share the memory of those that are `known`: most often they are the same, and the answers that
-/// a window shows would take as much again.
-void shareRows(QList<HistoryItem> &rows, const QList<HistoryItem> &known)
+/// a window shows would take as much again. `isListing` says that both come from the same question.
+void shareRows(QList<HistoryItem> &rows, const QList<HistoryItem> &known, bool isListing)
 {
     QHash<QStringView, const HistoryItem *> byID;
     byID.reserve(known.size());
@@ -46,7 +45,7 @@ void shareRows(QList<HistoryItem> &rows, const QList<HistoryItem> &known)
         ++shared;
     }
     // Only the sources' places may differ, and those are a matter of chance.
-    if (shared == rows.size() && shared == known.size())
+    if (isListing && shared == rows.size() && shared == known.size())
         rows = known;
 }
 
@@ -64,7 +63,7 @@ Library::Library(const Platform &platform, QObject *parent)
 
 Library::~Library() = default;
 
-void Library::start()
+void Library::readAhead()
 {
     m_tasks.run(
         this,
@@ -75,6 +74,13 @@ void Library::start()
         },
         [](bool) {});
     load({});
+}
+
+void Library::start()
+{
+    // Only the first load makes a generation.
+    if (m_generation == 0 && !m_isLoading)
+        readAhead();
     m_watcher = std::make_unique<BrowserWatcher>(
         m_platform, [this](const QSet<QString> &sourceIDs) { filesChanged(sourceIDs); });
 }
@@ -111,8 +117,6 @@ void Library::readNext()
     m_tasks.run(
         this,
         [request, context = readContext(m_platform), clock = &m_platform.clock](const std::stop_token &stop) {
-            // The windows need the cores first: to open, and to follow every key.
-            Threads::giveWay();
             ReadContext stoppable = context;
             stoppable.stop = stop;
             return readAll(request, stoppable, *clock);
@@ -209,11 +213,10 @@ std::stop_source Library::queryHistory(const HistoryQuery &query, const std::opt
         context,
         [query, sources, known = m_snapshot.history,
          reading = readContext(m_platform)](const std::stop_token &stop) {
-            Threads::giveWay();
             ReadContext stoppable = reading;
             stoppable.stop = stop;
             HistoryResults results = history(query, sources, stoppable);
-            shareRows(results.items, known);
+            shareRows(results.items, known, query == HistoryQuery::recent());
             return results;
         },
         std::move(deliver));

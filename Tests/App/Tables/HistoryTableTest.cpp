@@ -354,6 +354,22 @@ TEST_F(HistoryTableTest, ASearchThatTakesLongIsSeenToRun)
     EXPECT_FALSE(isShownToRun());
 }
 
+TEST_F(HistoryTableTest, AReloadThatTakesLongIsNotShown)
+{
+    Gate gate;
+    HistoryTable table(services(), Mode::Recent);
+    show(table);
+    // The load itself passes; the table's own question after it stands at the gate.
+    QObject::connect(library.get(), &Library::snapshotChanged, &table, [&] { recordReads(&gate); });
+    library->load({});
+    EXPECT_TRUE(waitUntil([&] { return gate.readerHasCome(); }));
+    EXPECT_TRUE(table.isBusy());
+    home.clock.advance(1s);
+    EXPECT_EQ(table.findChild<QWidget *>(u"busyBar"_s), nullptr);
+    gate.open();
+    EXPECT_TRUE(waitUntil([&] { return !table.isBusy(); }));
+}
+
 TEST_F(HistoryTableTest, ASearchThatIsTakenBackNoLongerRuns)
 {
     HistoryTable table(services(), Mode::Recent);

@@ -251,6 +251,31 @@ TEST_F(ContentViewTest, aRefusalOfSafarisFilesShowsTheBanner)
     EXPECT_TRUE(waitUntil([&] { return !isShown(*content, u"fullDiskAccessBanner"_s); }));
 }
 
+TEST_F(ContentViewTest, theTabKeyGoesFromAboveWhicheverStripCameFirst)
+{
+    addSafari();
+    addChromium();
+    fail(safariFile(u"History.db"_s), std::errc::operation_not_permitted);
+    for (const bool isSiteFirst : {true, false}) {
+        const auto content = makeContent();
+        if (isSiteFirst)
+            content->setSite(u"a1.example"_s);
+        loadNow(*library);
+        content->setSite(u"a1.example"_s);
+        ASSERT_TRUE(isShown(*content, u"fullDiskAccessBanner"_s));
+        QStringList names;
+        for (const QWidget *next = part<QLineEdit>(*content, u"searchField"_s)->nextInFocusChain();
+             names.size() < 4; next = next->nextInFocusChain()) {
+            if ((next->focusPolicy() & Qt::TabFocus) != 0 && next->isVisible() &&
+                next->focusProxy() == nullptr)
+                names.append(next->objectName());
+        }
+        EXPECT_EQ(names, (QStringList{u"openSettingsButton"_s, u"bannerReloadButton"_s,
+                                      u"showAllSitesButton"_s, u"historyTable"_s}))
+            << isSiteFirst;
+    }
+}
+
 TEST_F(ContentViewTest, theArrowTurnsWhileAReloadRuns)
 {
     addChromium();

@@ -98,11 +98,12 @@ void HistoryTable::refresh()
 
 void HistoryTable::search(const SearchKey &key)
 {
-    setBusy(true);
+    // What a reload brings may take its time: a list is there.
+    const bool isAskedFor = maker().changeTo(this->key()) == ListChange::Asked;
+    setBusy(true, isAskedFor);
     // The snapshot holds the latest pages already: they are shown until the databases have answered, which
-    // are asked as soon as there is something to see. What a reload brings may take its time: a list is
-    // there.
-    if (query(key) == HistoryQuery::recent() && maker().changeTo(this->key()) == ListChange::Asked) {
+    // are asked as soon as there is something to see.
+    if (isAskedFor && query(key) == HistoryQuery::recent()) {
         m_standIn = {.items = services().library.recentHistory(key.sourceID)};
         m_asksOncePainted = true;
         makeList();

@@ -94,7 +94,7 @@ void LinkTable::awaitMidnight()
                            [this] { catchUp(); });
 }
 
-void LinkTable::setBusy(bool isBusy)
+void LinkTable::setBusy(bool isBusy, bool isAskedFor)
 {
     if (isBusy == m_isBusy)
         return;
@@ -105,6 +105,8 @@ void LinkTable::setBusy(bool isBusy)
             m_busyBar->hide();
         return;
     }
+    if (!isAskedFor)
+        return;
     m_busyWait = std::make_unique<QObject>();
     m_services.clock.after(busyPatience, m_busyWait.get(), [this] {
         if (m_busyBar == nullptr)

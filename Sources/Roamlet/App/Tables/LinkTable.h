@@ -98,8 +98,8 @@ protected:
     void showThatItWorks();
     /// Says why there is nothing to see, where that is so.
     void showWhyItIsEmpty();
-    /// Work that takes longer than a moment is shown.
-    void setBusy(bool isBusy);
+    /// Work that takes longer than a moment is shown, if somebody asked for it.
+    void setBusy(bool isBusy, bool isAskedFor = true);
     void showList(const SharedRowTree &tree, TableView::Scrolling scrolling);
     /// `column` is -1 for none.
     void showSortIndicator(int column, Qt::SortOrder order);

@@ -25,7 +25,17 @@ void SystemClock::sleep(Duration duration, const std::stop_token &stop) const
 
 void SystemClock::after(Duration duration, QObject *context, std::function<void()> action) const
 {
-    QTimer::singleShot(duration, Qt::PreciseTimer, context, std::move(action));
+    // A single shot would outlive a context that goes, and wake the process for nothing. Only the context's
+    // own thread can give it children.
+    const auto begin = [duration, context, action = std::move(action)] {
+        auto *timer = new QTimer(context);
+        timer->setTimerType(Qt::PreciseTimer);
+        timer->setSingleShot(true);
+        QObject::connect(timer, &QTimer::timeout, context, action);
+        QObject::connect(timer, &QTimer::timeout, timer, &QObject::deleteLater);
+        timer->start(duration);
+    };
+    QMetaObject::invokeMethod(context, begin);
 }
 
 } // namespace roamlet
