@@ -16,7 +16,6 @@
 #include "Platform/ActivationPolicy.h"
 #include "Platform/Linux/AutostartLoginService.h"
 #include "Platform/Linux/DBusRunningInstance.h"
-#include "Platform/Linux/DisplayServer.h"
 #include "Platform/Linux/LinuxActivationPolicy.h"
 #include "Platform/Linux/LinuxIO.h"
 #include "Platform/Linux/LinuxPlatform.h"
@@ -34,7 +33,6 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <clocale>
 #include <cstdio>
 #include <cstdlib>
 #include <optional>
@@ -196,16 +194,6 @@ int RoamletApp::giveWayTo(const QString &path)
 int RoamletApp::runUntilTheEnd(int argc, char **argv, const std::stop_token &stop,
                                std::optional<QString> &successor)
 {
-    // Qt does this, too. It must not happen under a thread that reads numbers.
-    std::setlocale(LC_ALL, "");
-    LinuxPlatform platform;
-    const Platform services = platform.services();
-    Library library(services);
-    // The browsers are read while the window system is being set up. Where that is about to fail, it ends the
-    // process, and nothing could be put away. Where another Roamlet is running already, the reading was for
-    // nothing; far more often it is the first.
-    if (displayServerAnswers(qgetenv("DISPLAY")))
-        library.readAhead();
     const QApplication application(argc, argv);
     QApplication::setApplicationDisplayName(u"Roamlet"_s);
     QApplication::setApplicationVersion(u"" ROAMLET_VERSION ""_s);
@@ -220,6 +208,11 @@ int RoamletApp::runUntilTheEnd(int argc, char **argv, const std::stop_token &sto
 
     const bool isLaunchedAtLogin =
         QCoreApplication::arguments().contains(QLatin1StringView(AutostartLoginService::launchMarker));
+    LinuxPlatform platform;
+    const Platform services = platform.services();
+    // The browsers are read while the windows are being made. Where another Roamlet is running already, that
+    // was for nothing; far more often it is the first.
+    Library library(services);
     library.start();
     DBusRunningInstance instance;
     RoamletApp *running = nullptr;

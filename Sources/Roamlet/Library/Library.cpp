@@ -63,7 +63,7 @@ Library::Library(const Platform &platform, QObject *parent)
 
 Library::~Library() = default;
 
-void Library::readAhead()
+void Library::start()
 {
     m_tasks.run(
         this,
@@ -74,13 +74,6 @@ void Library::readAhead()
         },
         [](bool) {});
     load({});
-}
-
-void Library::start()
-{
-    // Only the first load makes a generation.
-    if (m_generation == 0 && !m_isLoading)
-        readAhead();
     m_watcher = std::make_unique<BrowserWatcher>(
         m_platform, [this](const QSet<QString> &sourceIDs) { filesChanged(sourceIDs); });
 }

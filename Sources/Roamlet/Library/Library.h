@@ -71,10 +71,8 @@ public:
     explicit Library(const Platform &platform, QObject *parent = nullptr);
     ~Library() override;
 
-    /// Sweeps away what dead runs left behind, and begins the first full load. Needs no application object
-    /// yet. Once.
-    void readAhead();
-    /// Watches the browsers' files, and reads them unless that has begun. Once.
+    /// Sweeps away what dead runs left behind, starts the first full load and watches the browsers' files.
+    /// Once.
     void start();
     /// Asks for a reload of the given sources, or of everything. Requests that come while a load runs are
     /// merged into one further pass.
