@@ -3,11 +3,11 @@
 
 #include "Platform/Processes.h"
 
-#include <malloc.h>
 #include <signal.h>
 #include <unistd.h>
 
 #include <cerrno>
+#include <malloc.h>
 
 namespace roamlet::Processes
 {
