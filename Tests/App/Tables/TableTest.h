@@ -27,6 +27,13 @@ class TableTest : public LibraryHome
 protected:
     TableTest();
 
+    void TearDown() override
+    {
+        // A question that was taken back is still putting its copies away.
+        library.reset();
+        LibraryHome::TearDown();
+    }
+
     WindowServices services() const { return m_services; }
     /// Adds pages to a Chrome profile's history and replaces the ones that were there.
     void setPages(const QString &profile, const QList<sample::HistoryRow> &rows);

@@ -101,21 +101,16 @@ void HistoryTable::search(const SearchKey &key)
     // What a reload brings may take its time: a list is there.
     const bool isAskedFor = maker().changeTo(this->key()) == ListChange::Asked;
     setBusy(true, isAskedFor);
-    // The snapshot holds the latest pages already: they are shown until the databases have answered, which
-    // are asked as soon as there is something to see.
-    if (isAskedFor && query(key) == HistoryQuery::recent()) {
+    const auto order =
+        m_mode == Mode::Recent ? HistoryQuery::Order::Latest : HistoryQuery::Order::MostVisited;
+    const HistoryQuery query = HistoryQuery::matching(key.search, key.site, order);
+    // The snapshot holds the latest pages already: they are shown until the databases have answered.
+    if (isAskedFor && query == HistoryQuery::recent()) {
         m_standIn = {.items = services().library.recentHistory(key.sourceID)};
-        m_asksOncePainted = true;
         makeList();
-    } else {
-        ask(key);
     }
-}
-
-void HistoryTable::ask(const SearchKey &key)
-{
     m_search =
-        services().library.queryHistory(query(key), key.sourceID, this, [this, key](HistoryResults results) {
+        services().library.queryHistory(query, key.sourceID, this, [this, key](HistoryResults results) {
             if (m_searching != key)
                 return;
             m_searching.reset();
@@ -128,20 +123,12 @@ void HistoryTable::ask(const SearchKey &key)
         });
 }
 
-HistoryQuery HistoryTable::query(const SearchKey &key) const
-{
-    const auto order =
-        m_mode == Mode::Recent ? HistoryQuery::Order::Latest : HistoryQuery::Order::MostVisited;
-    return HistoryQuery::matching(key.search, key.site, order);
-}
-
 void HistoryTable::stopSearching()
 {
     // What stood in for an answer may be shown, and is none.
     if (m_standIn)
         maker().outdate();
     m_standIn.reset();
-    m_asksOncePainted = false;
     m_wait.reset();
     m_search.request_stop();
     m_search = {};
@@ -154,7 +141,7 @@ void HistoryTable::makeList()
     if (!maker().needs(key())) {
         if (maker().shown() == key()) {
             showWhyItIsEmpty();
-            goOn();
+            setBusy(m_searching.has_value());
         }
         return;
     }
@@ -179,19 +166,8 @@ void HistoryTable::makeList()
             m_isCapped = isCapped;
             Q_EMIT isCappedChanged(isCapped);
             deliver(tree, change);
-            goOn();
+            setBusy(m_searching.has_value());
         });
-}
-
-void HistoryTable::goOn()
-{
-    setBusy(m_searching.has_value());
-    if (!m_asksOncePainted)
-        return;
-    view().oncePainted([this] {
-        if (std::exchange(m_asksOncePainted, false))
-            ask(*m_searching);
-    });
 }
 
 LinkMenuSubject HistoryTable::menuSubject(const QList<TableRow> &rows) const

@@ -49,12 +49,8 @@ private:
 
     SearchKey searchKey() const;
     void search(const SearchKey &key);
-    void ask(const SearchKey &key);
-    HistoryQuery query(const SearchKey &key) const;
     void stopSearching();
     void makeList();
-    /// With what is left to do once the list is shown that can be shown now.
-    void goOn();
 
     Mode m_mode;
     bool m_isCapped = false;
@@ -67,8 +63,6 @@ private:
     std::stop_source m_search;
     /// What is shown in the place of m_searching's answer.
     std::optional<HistoryResults> m_standIn;
-    /// Whether m_searching is begun once the stand-in was painted.
-    bool m_asksOncePainted = false;
 };
 
 } // namespace roamlet

@@ -20,7 +20,6 @@
 
 #include <algorithm>
 #include <unordered_set>
-#include <utility>
 
 namespace roamlet
 {
@@ -168,19 +167,6 @@ QList<TableRow> TableView::selectedRows() const
 bool TableView::selectsLinks() const
 {
     return std::ranges::any_of(selectedRows(), [](const TableRow &row) { return row.kind == Kind::Link; });
-}
-
-void TableView::oncePainted(std::function<void()> action)
-{
-    m_oncePainted = std::move(action);
-    viewport()->update();
-}
-
-void TableView::paintEvent(QPaintEvent *event)
-{
-    QTreeView::paintEvent(event);
-    if (m_oncePainted)
-        QMetaObject::invokeMethod(this, std::exchange(m_oncePainted, nullptr), Qt::QueuedConnection);
 }
 
 void TableView::setEmptyText(const QString &text)

@@ -9,8 +9,6 @@
 #include <QString>
 #include <QTreeView>
 
-#include <functional>
-
 class QLabel;
 
 namespace roamlet
@@ -43,9 +41,6 @@ public:
     /// What is said while there are no rows.
     void setEmptyText(const QString &text);
     QString emptyText() const;
-    /// Calls `action` after the next time that something was painted: what can wait until then must not take
-    /// the cores from what somebody waits for. Only the last one that was asked for is called.
-    void oncePainted(std::function<void()> action);
     /// The selected links and folders from top to bottom.
     QList<TableRow> selectedRows() const;
 
@@ -57,7 +52,6 @@ Q_SIGNALS:
     void linkMenuRequested(QPoint place);
 
 protected:
-    void paintEvent(QPaintEvent *event) override;
     void drawRow(QPainter *painter, const QStyleOptionViewItem &option,
                  const QModelIndex &index) const override;
     void mousePressEvent(QMouseEvent *event) override;
@@ -79,7 +73,6 @@ private:
 
     TableModel &m_model;
     TableHeader &m_header;
-    std::function<void()> m_oncePainted;
     QLabel &m_emptyLabel;
     /// The folders and sections whose state differs from how they come: outermost ones open, others closed.
     QSet<QString> m_toggled;
