@@ -6,6 +6,7 @@
 #include "Lists/ListRows.h"
 
 #include <gtest/gtest.h>
+#include <unicode/locid.h>
 
 #include <limits>
 
@@ -183,6 +184,16 @@ TEST(CalendarMath, monthsHaveTheirNamesInEachLanguage)
     EXPECT_EQ(monthTitle(u"ar_EG"_s), "مارس ٢٠٢٥");
     EXPECT_EQ(monthTitle(u"tr_TR"_s), "Mart 2025");
     EXPECT_EQ(monthTitle(u"en_001"_s), "March 2025");
+}
+
+TEST(CalendarMath, monthsAreEnglishInALanguageWithoutNamesForThem)
+{
+    // As where the whole session speaks it.
+    const icu::Locale before;
+    UErrorCode status = U_ZERO_ERROR;
+    icu::Locale::setDefault(icu::Locale("nds_DE"), status);
+    EXPECT_EQ(monthTitle(u"nds_DE"_s), "March 2025") << "and not a number";
+    icu::Locale::setDefault(before, status);
 }
 
 TEST(CalendarMath, yearsAreThoseOfTheUsersCalendar)

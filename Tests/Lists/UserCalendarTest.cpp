@@ -77,6 +77,8 @@ TEST(UserCalendar, takesTheLanguageOutOfTheNamesThatSystemsUse)
     EXPECT_EQ(UserCalendar::localeOf(u"sr_RS@latin"_s), u"sr_Latn_RS");
     EXPECT_EQ(UserCalendar::localeOf(u"uz_UZ.UTF-8@cyrillic"_s), u"uz_Cyrl_UZ");
     EXPECT_EQ(UserCalendar::localeOf(u"zh_TW.UTF-8"_s), u"zh_TW");
+    EXPECT_EQ(UserCalendar::localeOf(u"zh_Hant_TW"_s), u"zh_Hant_TW");
+    EXPECT_EQ(UserCalendar::localeOf(u"iw_IL"_s), u"he_IL") << "by its present name";
 }
 
 TEST(UserCalendar, speaksEnglishOutsideOfAnyCountryWithoutALocale)

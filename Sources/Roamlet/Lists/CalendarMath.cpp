@@ -7,12 +7,14 @@
 #include <QTimeZone>
 
 #include <unicode/calendar.h>
+#include <unicode/dtfmtsym.h>
 #include <unicode/locid.h>
 #include <unicode/smpdtfmt.h>
 #include <unicode/timezone.h>
 
 #include <algorithm>
 #include <cmath>
+#include <string_view>
 
 namespace roamlet
 {
@@ -38,6 +40,18 @@ QTimeZone knownTimeZone(const QString &name)
     return !name.isEmpty() && zone.isValid() ? zone : QTimeZone::utc();
 }
 
+/// `locale`, or English where the library has no names of months: others would be numbers.
+icu::Locale localeOfMonths(icu::Locale locale)
+{
+    UErrorCode status = U_ZERO_ERROR;
+    locale.canonicalize(status);
+    const icu::DateFormatSymbols symbols(locale, status);
+    const icu::Locale found = symbols.getLocale(ULOC_VALID_LOCALE, status);
+    const bool isKnown =
+        U_SUCCESS(status) != 0 && std::string_view(found.getLanguage()) == locale.getLanguage();
+    return isKnown ? locale : icu::Locale::getEnglish();
+}
+
 } // namespace
 
 struct CalendarMath::Native {
@@ -58,8 +72,8 @@ struct CalendarMath::Native {
         // There the week begins with Sunday at 1.
         calendar->setFirstDayOfWeek(static_cast<UCalendarDaysOfWeek>(user.firstWeekday % 7 + 1));
         // The library remembers the pattern of each locale; looking it up anew takes longer than a list does.
-        monthFormat.reset(
-            icu::DateFormat::createInstanceForSkeleton(calendar->clone(), "yMMMM", locale, status));
+        monthFormat.reset(icu::DateFormat::createInstanceForSkeleton(calendar->clone(), "yMMMM",
+                                                                     localeOfMonths(locale), status));
     }
 
     /// What the clock on the wall shows, in whole seconds: days begin at whole seconds, and rounding must

@@ -23,8 +23,7 @@ struct UserCalendar {
     static UserCalendar ofSystem();
     /// With the first weekday that is usual where `locale` is spoken.
     static UserCalendar of(const QString &timeZone, const QString &locale);
-    /// A POSIX locale such as "de_DE.UTF-8@euro" as "de_DE". Without a language that has names for months it
-    /// is English: what the library has for others are numbers.
+    /// A POSIX locale such as "de_DE.UTF-8@euro" as "de_DE". Without a language that Qt knows it is English.
     static QString localeOf(const QString &posixName);
 };
 

@@ -12,7 +12,7 @@ namespace roamlet
 {
 
 /// The order in which people expect names: case and accents are ignored first, runs of digits compare by
-/// value, then accents decide, then lower case before upper case.
+/// value, then accents decide, then lower case before upper case. Any thread may ask, several at a time.
 class Collation
 {
 public:
