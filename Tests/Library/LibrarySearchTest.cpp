@@ -5,6 +5,7 @@
 #include "Support/Waiting.h"
 
 #include <QCoreApplication>
+#include <QFile>
 
 #include <memory>
 #include <semaphore>
@@ -207,24 +208,54 @@ TEST_F(LibrarySearchTest, TheLibraryAsksTheDatabasesAndNotTheSnapshot)
     EXPECT_EQ(library.generation(), 1);
 }
 
-TEST_F(LibrarySearchTest, RowsThatTheSnapshotHasTakeNoMemoryOfTheirOwn)
+TEST_F(LibrarySearchTest, TheLatestRowsOfUnchangedFilesAreNotReadAgain)
+{
+    addChromium();
+    addSafari();
+    Library library(home.platform());
+    loadNow(library);
+    recordReads();
+    const QList<HistoryItem> &known = library.snapshot().history;
+    EXPECT_TRUE(ask(library, {}).items.isSharedWith(known)) << "nor do they take memory of their own";
+    EXPECT_EQ(titles(ask(library, u"chrome/Default"_s).items), (QStringList{u"a1"_s, u"a2"_s}));
+    EXPECT_FALSE(ask(library, {}).isCapped);
+    EXPECT_EQ(takeReads(), QStringList());
+    EXPECT_EQ(ask(library, {}, mostVisited()).items.size(), known.size());
+    EXPECT_EQ(takeReads().size(), library.snapshot().sources.size()) << "the snapshot knows the latest only";
+}
+
+TEST_F(LibrarySearchTest, TheLatestRowsOfChangedFilesAreReadAgain)
 {
     addChromium();
     Library library(home.platform());
     loadNow(library);
-    const QList<HistoryItem> &known = library.snapshot().history;
-    EXPECT_TRUE(ask(library, {}).items.isSharedWith(known));
-    const HistoryResults found = ask(library, u"chrome/Default"_s, mostVisited());
-    ASSERT_FALSE(found.items.isEmpty());
-    for (const HistoryItem &item : found.items) {
-        const auto same = std::ranges::find(known, item.id, &HistoryItem::id);
-        ASSERT_NE(same, known.end());
-        EXPECT_TRUE(item.url.isSharedWith(same->url));
-    }
-    setChromeHistory(u"Default"_s, {u"since then"_s});
-    const HistoryResults newer = ask(library, {});
-    EXPECT_FALSE(newer.items.isSharedWith(known));
-    EXPECT_TRUE(sortedTitles(newer).contains(u"since then"_s));
+    recordReads();
+    setChromeHistory(u"Profile 1"_s, {u"since then"_s});
+    EXPECT_EQ(sortedTitles(ask(library, {})), (QStringList{u"a1"_s, u"a2"_s, u"e1"_s, u"since then"_s}));
+    EXPECT_EQ(takeReads(), QStringList{u"chrome/Profile 1"_s});
+
+    change([&] {
+        QFile log(chromeFile(u"Default/History-wal"_s));
+        ASSERT_TRUE(log.open(QIODevice::WriteOnly));
+        log.write("not a log");
+    });
+    EXPECT_EQ(titles(ask(library, u"chrome/Default"_s).items), (QStringList{u"a1"_s, u"a2"_s}));
+    EXPECT_EQ(takeReads(), QStringList{u"chrome/Default"_s}) << "a log that is new is a change, too";
+
+    change([&] { ASSERT_TRUE(QFile::remove(edgeFile(u"Default/History"_s))); });
+    EXPECT_TRUE(ask(library, u"edge/Default"_s).items.isEmpty());
+}
+
+TEST_F(LibrarySearchTest, TheLatestRowsThatCouldNotBeReadAreAskedForAgain)
+{
+    addChromium();
+    fail(chromeFile(u"Default/History"_s), std::errc::io_error);
+    Library library(home.platform());
+    loadNow(library);
+    EXPECT_TRUE(library.snapshot().problems.contains(u"chrome/Default"_s));
+    recordReads();
+    EXPECT_EQ(titles(ask(library, u"chrome/Default"_s).items), (QStringList{u"a1"_s, u"a2"_s}));
+    EXPECT_EQ(takeReads(), QStringList{u"chrome/Default"_s});
 }
 
 TEST_F(LibrarySearchTest, ProfilesThatAreSwitchedOffAreNotSearched)

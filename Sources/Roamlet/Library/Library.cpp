@@ -28,27 +28,6 @@ const QString sourceOrderKey = u"sourceOrder"_s;
 constexpr std::chrono::seconds reloadDelay{5};
 constexpr qsizetype menuLength = 10;
 
-/// Lets `rows` share the memory of those that are `known`: most often they are the same, and the answers that
-/// a window shows would take as much again. `isListing` says that both come from the same question.
-void shareRows(QList<HistoryItem> &rows, const QList<HistoryItem> &known, bool isListing)
-{
-    QHash<QStringView, const HistoryItem *> byID;
-    byID.reserve(known.size());
-    for (const HistoryItem &item : known)
-        byID.insert(item.id, &item);
-    qsizetype shared = 0;
-    for (HistoryItem &row : rows) {
-        const HistoryItem *same = byID.value(row.id);
-        if (same == nullptr || *same != row)
-            continue;
-        row = *same;
-        ++shared;
-    }
-    // Only the sources' places may differ, and those are a matter of chance.
-    if (isListing && shared == rows.size() && shared == known.size())
-        rows = known;
-}
-
 } // namespace
 
 Library::Library(const Platform &platform, QObject *parent)
@@ -204,13 +183,12 @@ std::stop_source Library::queryHistory(const HistoryQuery &query, const std::opt
         sources.removeIf([&sourceID](const Source &source) { return source.id() != *sourceID; });
     return m_tasks.run(
         context,
-        [query, sources, known = m_snapshot.history,
+        [query, sources, snapshot = m_snapshot,
          reading = readContext(m_platform)](const std::stop_token &stop) {
             ReadContext stoppable = reading;
             stoppable.stop = stop;
-            HistoryResults results = history(query, sources, stoppable);
-            shareRows(results.items, known, query == HistoryQuery::recent());
-            return results;
+            return query == HistoryQuery::recent() ? latestHistory(sources, snapshot, stoppable)
+                                                   : history(query, sources, stoppable);
         },
         std::move(deliver));
 }

@@ -46,6 +46,9 @@ public:
         QList<Bookmark> bookmarks;
         /// Each source's latest rows, newest first, in the order of `sources`.
         QList<HistoryItem> history;
+        /// By source id, what its rows in `history` were read from and in what state that was; nothing where
+        /// it could not be read.
+        QHash<QString, QString> historyStates;
         /// What went wrong, a line for each failed part, by source id.
         QHash<QString, QString> problems;
         /// Whether the system refused access to files of Safari's.
@@ -126,6 +129,10 @@ public:
     /// source that cannot be read has none.
     static HistoryResults history(const HistoryQuery &query, const QList<Source> &sources,
                                   const ReadContext &context);
+    /// The latest rows of these sources: those of `snapshot` where its files have not changed since, and what
+    /// the databases hold for all others.
+    static HistoryResults latestHistory(const QList<Source> &sources, const Snapshot &snapshot,
+                                        const ReadContext &context);
     /// The profiles that the user has switched off, by id.
     static QSet<QString> storedDisabledProfiles(const UserDefaults &defaults);
     /// What the readers need to know about this platform, with no stop requested.

@@ -9,6 +9,7 @@
 #include "Platform/UserDefaults.h"
 #include "Readers/ChromiumReader.h"
 #include "Readers/FaviconReader.h"
+#include "Readers/SQLiteSnapshot.h"
 #include "Readers/SafariReader.h"
 
 #include <QLocale>
@@ -33,10 +34,19 @@ bool hasSource(const QList<Source> &sources, const QString &id)
     return std::ranges::find(sources, id, &Source::id) != sources.end();
 }
 
+/// What a source's history is read from, and in what state that is. A row also holds its profile's name.
+QString stateOfHistory(const Source &source, const ReadContext &context)
+{
+    const QString file = source.kind == Source::Kind::Safari ? SafariReader::historyFile(source, context)
+                                                             : ChromiumReader::historyFile(source, context);
+    return file % u'|' % SQLiteSnapshot::stamp(*context.files, file) % u'|' % source.name;
+}
+
 /// One source's result.
 struct Read {
     QList<BookmarkNode> bookmarks;
     QList<HistoryItem> history;
+    std::optional<QString> historyState;
     Favicons favicons;
     QStringList problems;
     bool isBlocked = false;
@@ -50,19 +60,21 @@ struct Read {
 private:
     static Read once(const Source &source, const Read &kept, const ReadContext &context);
 
-    /// Takes over one part. A refusal empties it; any other failure leaves what was known before.
+    /// Takes over one part. A refusal empties it; any other failure leaves what was known before. Returns
+    /// whether it could be read.
     template<typename Part>
-    void take(Part &part, const Part &keptPart, std::expected<Part, ReadError> result)
+    bool take(Part &part, const Part &keptPart, std::expected<Part, ReadError> result)
     {
         if (result) {
             part = std::move(*result);
-            return;
+            return true;
         }
         problems.append(result.error().errorDescription());
         if (result.error().kind() == ReadError::Kind::NoAccess)
             isBlocked = true;
         else
             part = keptPart;
+        return false;
     }
 };
 
@@ -75,6 +87,8 @@ Read Read::reused(const Source &source, const Library::Snapshot &previous)
         if (item.source.id() == id)
             read.history.append(item);
     }
+    if (const auto state = previous.historyStates.constFind(id); state != previous.historyStates.cend())
+        read.historyState = *state;
     read.favicons = previous.sourceFavicons.value(id);
     if (previous.problems.contains(id))
         read.problems = {previous.problems.value(id)};
@@ -102,16 +116,21 @@ Read Read::once(const Source &source, const Read &kept, const ReadContext &conte
 {
     Read read;
     std::expected<Favicons, ReadError> favicons;
+    // What is written while it is being read makes it another state.
+    const QString state = stateOfHistory(source, context);
     if (source.kind == Source::Kind::Safari) {
-        read.take(read.history, kept.history, SafariReader::history(source, HistoryQuery::recent(), context));
+        if (read.take(read.history, kept.history,
+                      SafariReader::history(source, HistoryQuery::recent(), context)))
+            read.historyState = state;
         read.take(read.bookmarks, kept.bookmarks, SafariReader::bookmarks(source, context));
         // There is one store for all profiles; the default one stands for them.
         if (!source.profile)
             favicons = FaviconReader::safari(context);
     } else {
         read.take(read.bookmarks, kept.bookmarks, ChromiumReader::bookmarks(source, context));
-        read.take(read.history, kept.history,
-                  ChromiumReader::history(source, HistoryQuery::recent(), context));
+        if (read.take(read.history, kept.history,
+                      ChromiumReader::history(source, HistoryQuery::recent(), context)))
+            read.historyState = state;
         favicons = FaviconReader::chromium(source, context);
     }
     // Icons are an ornament: nobody is told when they cannot be read, and nothing is tried again for them.
@@ -150,6 +169,8 @@ Library::Snapshot assemble(const QList<Source> &profiles, const QList<Source> &e
             snapshot.bookmarks += root.flattened();
         snapshot.bookmarkTrees.insert(id, read.bookmarks);
         snapshot.history += std::move(read.history);
+        if (read.historyState)
+            snapshot.historyStates.insert(id, *read.historyState);
         for (auto favicon = read.favicons.cbegin(); favicon != read.favicons.cend(); ++favicon) {
             if (!snapshot.favicons.contains(favicon.key()))
                 snapshot.favicons.insert(favicon.key(), favicon.value());
@@ -218,6 +239,26 @@ HistoryResults Library::history(const HistoryQuery &query, const QList<Source> &
     if (query.site)
         merged.items.removeIf([&query](const HistoryItem &item) { return item.site != *query.site; });
     return merged;
+}
+
+HistoryResults Library::latestHistory(const QList<Source> &sources, const Snapshot &snapshot,
+                                      const ReadContext &context)
+{
+    QSet<QString> unchanged;
+    QList<Source> changed;
+    for (const Source &source : sources) {
+        const QString id = source.id();
+        const auto state = snapshot.historyStates.constFind(id);
+        if (state != snapshot.historyStates.cend() && *state == stateOfHistory(source, context))
+            unchanged.insert(id);
+        else
+            changed.append(source);
+    }
+    HistoryResults results = history(HistoryQuery::recent(), changed, context);
+    QList<HistoryItem> known = snapshot.history;
+    known.removeIf([&unchanged](const HistoryItem &item) { return !unchanged.contains(item.source.id()); });
+    results.items = known + results.items;
+    return results;
 }
 
 QSet<QString> Library::storedDisabledProfiles(const UserDefaults &defaults)

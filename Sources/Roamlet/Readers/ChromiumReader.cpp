@@ -156,10 +156,15 @@ QString folder(const Source &source, const ReadContext &context)
     return context.folders.chromium(source.kind) % u'/' % source.profile.value_or(QString());
 }
 
+QString historyFile(const Source &source, const ReadContext &context)
+{
+    return folder(source, context) % u"/History";
+}
+
 std::expected<QList<HistoryItem>, ReadError> history(const Source &source, const HistoryQuery &query,
                                                      const ReadContext &context)
 {
-    const QString file = folder(source, context) % u"/History";
+    const QString file = historyFile(source, context);
     if (!context.files->exists(file))
         return QList<HistoryItem>();
     const auto snapshot = SQLiteSnapshot::copying(file, context);

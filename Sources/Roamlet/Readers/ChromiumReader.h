@@ -24,6 +24,8 @@ namespace roamlet::ChromiumReader
 QList<Source> profiles(Source::Kind kind, const ReadContext &context);
 /// The folder of a profile.
 QString folder(const Source &source, const ReadContext &context);
+/// The database that holds a profile's history.
+QString historyFile(const Source &source, const ReadContext &context);
 /// The rows that match, in the query's order and at most as many as it says. Empty when there is no history.
 std::expected<QList<HistoryItem>, ReadError> history(const Source &source, const HistoryQuery &query,
                                                      const ReadContext &context);

@@ -15,7 +15,6 @@
 
 #include <sqlite3.h>
 
-#include <array>
 #include <stop_token>
 #include <utility>
 
@@ -29,16 +28,6 @@ namespace
 
 constexpr int attempts = 3;
 const QString folderPrefix = QString::fromLatin1(ConfinedFiles::folderPrefix);
-
-/// The size and time of a database and of the files beside it that hold its changes. The "-shm" file says
-/// nothing about the content.
-using DatabaseStamp = std::array<QString, 3>;
-
-DatabaseStamp stamp(const Files &files, const QString &database)
-{
-    return {files.fileStamp(database), files.fileStamp(database % u"-wal"),
-            files.fileStamp(database % u"-journal")};
-}
 
 struct Finalize {
     void operator()(sqlite3_stmt *statement) const { sqlite3_finalize(statement); }
@@ -105,7 +94,7 @@ public:
             m_files.removeFolder(m_folder);
             if (const std::error_code error = m_files.makePrivateFolder(m_folder))
                 return error;
-            const DatabaseStamp before = stamp(m_files, m_source);
+            const QString before = stamp(m_files, m_source);
             if (const std::error_code error = m_files.copy(m_source, path(), stop))
                 return error;
             for (const QString &suffix : {u"-wal"_s, u"-shm"_s, u"-journal"_s}) {
@@ -247,6 +236,13 @@ std::expected<void, ReadError> SQLiteSnapshot::query(const QString &sql, const Q
 QString SQLiteSnapshot::folder() const
 {
     return m_copy->folder();
+}
+
+QString SQLiteSnapshot::stamp(const Files &files, const QString &database)
+{
+    // The "-shm" file says nothing about the content.
+    return files.fileStamp(database) % u'|' % files.fileStamp(database % u"-wal") % u'|' %
+           files.fileStamp(database % u"-journal");
 }
 
 void SQLiteSnapshot::removeLeftovers(const Files &files, const QString &temporaryFolder)

@@ -63,6 +63,8 @@ public:
     /// The private folder that holds the copy.
     QString folder() const;
 
+    /// The state of a live database and its logs: equal while nobody has written to them.
+    static QString stamp(const Files &files, const QString &database);
     /// Removes the folders in `temporaryFolder` that earlier runs left behind because they died.
     static void removeLeftovers(const Files &files, const QString &temporaryFolder);
 

@@ -194,16 +194,20 @@ QList<Source> profiles(const ReadContext &context)
     return named;
 }
 
+QString historyFile(const Source &source, const ReadContext &context)
+{
+    const QString folder = source.profile ? QString(context.folders.safariProfiles() % u'/' % *source.profile)
+                                          : context.folders.safari;
+    return folder % u"/History.db";
+}
+
 std::expected<QList<HistoryItem>, ReadError> history(const Source &source, const HistoryQuery &query,
                                                      const ReadContext &context)
 {
-    QString file = context.folders.safari % u"/History.db";
-    if (source.profile) {
-        file = context.folders.safariProfiles() % u'/' % *source.profile % u"/History.db";
-        // A profile that has never stored anything has no file; the default profile always has one.
-        if (!context.files->exists(file))
-            return QList<HistoryItem>();
-    }
+    const QString file = historyFile(source, context);
+    // A profile that has never stored anything has no file; the default profile always has one.
+    if (source.profile && !context.files->exists(file))
+        return QList<HistoryItem>();
     const auto snapshot = SQLiteSnapshot::copying(file, context);
     if (!snapshot)
         return std::unexpected(snapshot.error());

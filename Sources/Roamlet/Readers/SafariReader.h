@@ -10,6 +10,7 @@
 #include "Readers/ReadContext.h"
 
 #include <QList>
+#include <QString>
 
 #include <expected>
 
@@ -20,6 +21,8 @@ namespace roamlet::SafariReader
 /// The default profile, then the named ones in Safari's order. Never empty: where the named profiles cannot
 /// be read, there is the default one.
 QList<Source> profiles(const ReadContext &context);
+/// The database that holds a profile's history.
+QString historyFile(const Source &source, const ReadContext &context);
 /// The rows that match, one for each page with its newest visit, in the query's order and at most as many as
 /// it says. A named profile without history is empty; the default one must have a history.
 std::expected<QList<HistoryItem>, ReadError> history(const Source &source, const HistoryQuery &query,
