@@ -150,6 +150,36 @@ TEST_F(WholeStoryTest, launchedAtLoginItWaitsInTheTrayUntilItIsStartedAgain)
     EXPECT_EQ(activation.current, ActivationPolicy::Policy::Accessory);
 }
 
+TEST_F(WholeStoryTest, onceAllWindowsAreClosedItLetsGoOfWhatOnlyTheyNeed)
+{
+    app->start(false);
+    ASSERT_TRUE(eventually([this] { return shownTitles().size() == 5; }));
+    MainWindow &window = app->mainWindow();
+    // Only while its loop runs does Qt say that the last window was closed.
+    const auto close = [](QWidget &shown) {
+        QTimer::singleShot(0, &shown, [&shown] {
+            shown.close();
+            QCoreApplication::exit();
+        });
+        QApplication::exec();
+    };
+    app->settingsWindow().open();
+    close(window);
+    home.clock.advance(std::chrono::seconds(1));
+    EXPECT_NE(window.windowHandle(), nullptr) << "a window is left";
+    close(app->settingsWindow());
+    EXPECT_NE(window.windowHandle(), nullptr) << "it may come back at once";
+    home.clock.advance(std::chrono::seconds(1));
+    EXPECT_EQ(window.windowHandle(), nullptr);
+    app->reopen();
+    EXPECT_EQ(shownTitles().size(), 5);
+
+    close(window);
+    app->reopen();
+    home.clock.advance(std::chrono::seconds(1));
+    EXPECT_NE(window.windowHandle(), nullptr) << "it was opened again";
+}
+
 TEST_F(WholeStoryTest, startedAgainItComesBackAlsoWhereTheTraysIconIsAWindow)
 {
     app->start(false);

@@ -28,7 +28,6 @@
 #include <QDBusConnection>
 #include <QFile>
 #include <QLocale>
-#include <QTimer>
 
 #include <unistd.h>
 
@@ -148,9 +147,11 @@ void RoamletApp::rest()
     constexpr std::chrono::seconds untilAllIsPutAway{1};
     if (!openWindows().isEmpty())
         return;
-    m_services.platform.clock.after(untilAllIsPutAway, &m_mainWindow, [] {
-        if (openWindows().isEmpty())
-            Processes::giveBackMemory();
+    m_services.platform.clock.after(untilAllIsPutAway, &m_mainWindow, [this] {
+        if (!openWindows().isEmpty())
+            return;
+        m_mainWindow.putAway();
+        Processes::giveBackMemory();
     });
 }
 
@@ -160,6 +161,12 @@ void RoamletApp::start(bool isLaunchedAtLogin)
     m_delegate.applicationWillFinishLaunching(isLaunchedAtLogin);
     m_delegate.applicationDidFinishLaunching();
     m_icon.appear();
+    // What somebody waits for is the window; whatever else is drawn comes after it.
+    constexpr std::chrono::milliseconds untilTheWindowIsThere{150};
+    m_services.platform.clock.after(untilTheWindowIsThere, &m_mainWindow, [this] {
+        m_icon.show();
+        QApplication::setWindowIcon(applicationIcon());
+    });
 }
 
 void RoamletApp::reopen()
@@ -249,8 +256,6 @@ int RoamletApp::runUntilTheEnd(int argc, char **argv, const std::stop_token &sto
                     .hasTray = MenuBarIcon::isAvailable});
     running = &app;
     app.start(isLaunchedAtLogin);
-    // Drawn once the window is on its way.
-    QTimer::singleShot(0, qApp, [] { QApplication::setWindowIcon(applicationIcon()); });
     const int status = QApplication::exec();
     running = nullptr;
     // Putting everything away takes a while, in which nobody would answer a later start.

@@ -21,6 +21,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QTest>
+#include <QTreeView>
 
 namespace roamlet::testing
 {
@@ -41,6 +42,28 @@ protected:
                                                                  .alert = alert,
                                                                  .updater = updater});
     }
+
+    /// Counts how often a window was drawn.
+    class Drawings final : public QObject
+    {
+    public:
+        explicit Drawings(QWidget &window) { window.installEventFilter(this); }
+        /// Once everything that is due has happened.
+        int count()
+        {
+            QCoreApplication::processEvents();
+            QCoreApplication::processEvents();
+            return m_count;
+        }
+        bool eventFilter(QObject * /*watched*/, QEvent *event) override
+        {
+            m_count += event->type() == QEvent::Paint ? 1 : 0;
+            return false;
+        }
+
+    private:
+        int m_count = 0;
+    };
 
     FakeActivationPolicy activation;
     AppDelegate delegate{home.defaults, activation, [] { return true; }};
@@ -72,6 +95,63 @@ TEST_F(MainWindowTest, aMaximisedWindowThatWasMinimisedComesBackMaximised)
     ASSERT_TRUE(window->isMinimized());
     window->open();
     EXPECT_FALSE(window->isMinimized());
+    EXPECT_TRUE(window->isMaximized());
+}
+
+TEST_F(MainWindowTest, itsFirstPictureHasTheFirstRows)
+{
+    addChromium();
+    const auto window = makeWindow();
+    Drawings drawings(*window);
+    window->open();
+    EXPECT_EQ(drawings.count(), 0);
+    loadNow(*library);
+    const auto *table = part<QTreeView>(*window, u"historyTable"_s);
+    ASSERT_TRUE(waitUntil([&drawings] { return drawings.count() > 0; }));
+    EXPECT_GT(table->model()->rowCount(), 0);
+    window->close();
+    const int before = drawings.count();
+    window->open();
+    EXPECT_GT(drawings.count(), before) << "only the very first one waits";
+}
+
+TEST_F(MainWindowTest, itsFirstPictureDoesNotWaitForLong)
+{
+    const auto window = makeWindow();
+    Drawings drawings(*window);
+    window->open();
+    EXPECT_EQ(drawings.count(), 0);
+    home.clock.advance(std::chrono::milliseconds(50));
+    EXPECT_GT(drawings.count(), 0);
+}
+
+TEST_F(MainWindowTest, oncePutAwayItComesBackAsItWas)
+{
+    addChromium();
+    const auto window = makeWindow();
+    window->open();
+    loadNow(*library);
+    auto *table = part<QTreeView>(*window, u"historyTable"_s);
+    ASSERT_TRUE(waitUntil([table] { return table->model()->rowCount() > 0; }));
+    window->resize(900, 555);
+    table->setCurrentIndex(table->model()->index(1, 0));
+    window->putAway();
+    EXPECT_NE(window->windowHandle(), nullptr) << "not while it is seen";
+    window->close();
+    window->putAway();
+    EXPECT_EQ(window->windowHandle(), nullptr);
+    Drawings drawings(*window);
+    window->open();
+    EXPECT_TRUE(window->isVisible());
+    EXPECT_EQ(window->size(), QSize(900, 555));
+    EXPECT_TRUE(table->selectionModel()->isRowSelected(1));
+    EXPECT_GT(drawings.count(), 0);
+    window->close();
+    window->putAway();
+    window->showMaximized();
+    window->close();
+    window->putAway();
+    window->open();
     EXPECT_TRUE(window->isMaximized());
 }
 

@@ -11,7 +11,6 @@
 #include <QCursor>
 #include <QGuiApplication>
 #include <QMenu>
-#include <QTimer>
 
 #include <utility>
 
@@ -50,8 +49,6 @@ bool MenuBarIcon::isAvailable()
 void MenuBarIcon::appear()
 {
     m_services.delegate.windowOpenerIsReady([this] { openWindow(); });
-    // The window comes first: that is what somebody waits for.
-    QTimer::singleShot(0, &m_icon, &QSystemTrayIcon::show);
     followSafari();
     connect(&m_services.library, &Library::snapshotChanged, this, &MenuBarIcon::followSafari,
             Qt::UniqueConnection);

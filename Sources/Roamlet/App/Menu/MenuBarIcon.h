@@ -36,8 +36,10 @@ public:
 
     /// Whether this desktop has a tray at present. Without one the menu cannot be reached.
     static bool isAvailable();
-    /// Shows the icon, as soon as there is a tray, and hands out the way to open the main window.
+    /// Hands out the way to open the main window.
     void appear();
+    /// Shows the icon, as soon as there is a tray.
+    void show() { m_icon.show(); }
 
 private:
     void openWindow();

@@ -210,6 +210,7 @@ void ContentView::addTable(LinkTable *table)
             return;
         m_list.rowCount = count;
         updateTitle();
+        Q_EMIT listShown();
     });
     m_lists->addWidget(table);
 }

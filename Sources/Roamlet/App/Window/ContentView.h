@@ -55,6 +55,8 @@ public:
     QString title() const;
 
 Q_SIGNALS:
+    /// The chosen list has come.
+    void listShown();
     void titleChanged(const QString &title);
     /// exportAction() may have become another one.
     void exportActionChanged();

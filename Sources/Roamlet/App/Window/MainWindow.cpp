@@ -9,6 +9,7 @@
 #include "App/Window/OpenWindows.h"
 #include "Library/Library.h"
 #include "Platform/ActivationPolicy.h"
+#include "Platform/Clock.h"
 #include "Platform/UserDefaults.h"
 
 #include <QApplication>
@@ -28,6 +29,8 @@ const QString placeKey = u"window.main"_s;
 const QString columnsKey = u"window.main.columns"_s;
 constexpr QSize smallest{820, 480};
 constexpr QSize usual{1100, 700};
+/// Nobody notices so short a time.
+constexpr std::chrono::milliseconds longestHold{50};
 
 } // namespace
 
@@ -47,12 +50,35 @@ MainWindow::MainWindow(const Services &services)
 
 void MainWindow::open()
 {
+    if (!m_wasOpened)
+        holdFirstPicture();
+    m_wasOpened = true;
     // Only that: what was maximised before shall be so again.
     setWindowState(windowState() & ~Qt::WindowMinimized);
     show();
     m_services.activation.bringToFront();
     raise();
     activateWindow();
+}
+
+void MainWindow::holdFirstPicture()
+{
+    setUpdatesEnabled(false);
+    auto *hold = new QObject(this);
+    const auto release = [this, hold] {
+        hold->deleteLater();
+        setUpdatesEnabled(true);
+    };
+    connect(m_content, &ContentView::listShown, hold, release);
+    m_services.content.clock.after(longestHold, hold, release);
+}
+
+void MainWindow::putAway()
+{
+    if (isVisible())
+        return;
+    // With the window goes the picture of its content, which takes more than anything else.
+    destroy();
 }
 
 void MainWindow::buildMenus()

@@ -39,6 +39,8 @@ public:
     ContentView *content() const { return m_content; }
     /// Opens it or brings it forward.
     void open();
+    /// Lets go of what is only needed while it is seen, if nobody sees it. It opens again as it was.
+    void putAway();
 
 Q_SIGNALS:
     void settingsRequested();
@@ -49,6 +51,9 @@ protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
+    /// The first picture of the window waits a moment for the first rows: they are on their way, and drawing
+    /// an empty list before them would only make them later.
+    void holdFirstPicture();
     void buildMenus();
     void updateExportCommand();
     void showExportSheet(const ExportRequest &request);
@@ -60,6 +65,7 @@ private:
     QAction *m_exportCommand = nullptr;
     QAction *m_reloadCommand = nullptr;
     QPointer<ExportPanel> m_sheet;
+    bool m_wasOpened = false;
 };
 
 } // namespace roamlet
