@@ -4,6 +4,7 @@
 #include "Platform/Linux/Updates/FeedUpdateDriver.h"
 
 #include "FeedText.h"
+#include "Platform/Linux/Updates/Session/FeedUpdateSession.h"
 #include "Support/FakeUpdateUserInterface.h"
 #include "Support/MemoryUserDefaults.h"
 #include "UpdatesTest.h"
@@ -83,7 +84,8 @@ protected:
             FeedUpdateDriver::Services{.clock = clock,
                                        .defaults = defaults,
                                        .userInterface = windows,
-                                       .isInFront = [this] { return isInFront; }},
+                                       .isInFront = [this] { return isInFront; },
+                                       .makeSession = makeSession},
             UpdateInstaller::Environment{.appImage = appImage,
                                          .program = program,
                                          .packageFolder = folder.filePath(u"packages"_s),
@@ -140,6 +142,9 @@ protected:
     FakeUpdateUserInterface windows;
     QStringList &events = windows.events;
     Delegate delegate{windows.events};
+    UpdateSession::Factory makeSession = [](const auto &setup, auto origin, const auto &handlers) {
+        return std::make_unique<FeedUpdateSession>(setup, origin, handlers);
+    };
     std::unique_ptr<FeedUpdateDriver> driver;
 };
 
@@ -153,6 +158,27 @@ TEST_F(FeedUpdateDriverTest, WhoeverAsksSeesTheUpdate)
     EXPECT_EQ(windows.update.size, package.size());
     windows.choose(Choice::Later);
     EXPECT_EQ(events.mid(4), (QStringList{u"close"_s, u"finish"_s}));
+}
+
+TEST_F(FeedUpdateDriverTest, WithoutThePartThatFetchesUpdatesWhoeverAsksHearsOfIt)
+{
+    makeSession = [](const auto & /*setup*/, auto /*origin*/, const auto & /*handlers*/) {
+        return std::unexpected(u"no such file"_s);
+    };
+    open();
+    driver->checkForUpdates();
+    EXPECT_EQ(windows.error, (UpdateError{UpdateError::Code::NetworkFailed, u"no such file"_s}));
+    EXPECT_EQ(events, (QStringList{u"error"_s, u"finish"_s}));
+    windows.acknowledge();
+    EXPECT_EQ(events.last(), u"close");
+
+    // Nobody has asked for these.
+    clock.advance(1min);
+    EXPECT_EQ(events.last(), u"finish");
+    EXPECT_EQ(events.count(u"error"_s), 1);
+    const qsizetype known = events.size();
+    clock.advance(24h);
+    EXPECT_GT(events.size(), known) << "it is tried again";
 }
 
 TEST_F(FeedUpdateDriverTest, WhoeverAsksHearsThatThereIsNothing)

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
-#include "Platform/Linux/Updates/DocumentDownload.h"
+#include "Platform/Linux/Updates/Session/DocumentDownload.h"
 #include "UpdatesTest.h"
 
 #include <QProcess>

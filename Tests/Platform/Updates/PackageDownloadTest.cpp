@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
-#include "Platform/Linux/Updates/PackageDownload.h"
+#include "Platform/Linux/Updates/Session/PackageDownload.h"
 
 #include "../FileSizeLimit.h"
-#include "Platform/Linux/Updates/PackageSignature.h"
+#include "Platform/Linux/Updates/Session/PackageSignature.h"
 #include "UpdatesTest.h"
 
 #include <fcntl.h>

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "PackageSigner.h"
-#include "Platform/Linux/Updates/HttpTransfer.h"
+#include "Platform/Linux/Updates/Session/HttpTransfer.h"
 #include "Support/FakeClock.h"
 #include "Support/HttpServer.h"
 #include "Support/Waiting.h"

@@ -4,7 +4,9 @@
 #include "App/Updates/PlatformUpdateDriver.h"
 
 #include "App/Updates/BundleInformation.h"
+#include "Platform/Linux/ProgramModule.h"
 #include "Platform/Linux/Updates/FeedUpdateDriver.h"
+#include "Platform/Linux/Updates/Session/SessionModule.h"
 #include "Platform/Platform.h"
 
 #include <QGuiApplication>
@@ -15,6 +17,23 @@ namespace roamlet
 {
 
 using namespace Qt::StringLiterals;
+
+namespace
+{
+
+/// Loads what fetches updates when somebody wants one first.
+std::expected<std::unique_ptr<UpdateSession>, QString> makeSession(const UpdateSession::Setup &setup,
+                                                                   UpdateSession::Origin origin,
+                                                                   const UpdateSession::Handlers &handlers)
+{
+    const auto function = ProgramModule::function(u"roamlet-updates.so"_s, sessionModuleEntry);
+    if (!function)
+        return std::unexpected(function.error());
+    return std::unique_ptr<UpdateSession>(
+        reinterpret_cast<SessionModuleEntry *>(*function)(&setup, origin, &handlers));
+}
+
+} // namespace
 
 std::unique_ptr<UpdateDriver> platformUpdateDriver(const BundleInformation &information,
                                                    const Platform &platform,
@@ -33,7 +52,8 @@ std::unique_ptr<UpdateDriver> platformUpdateDriver(const BundleInformation &info
             .clock = platform.clock,
             .defaults = platform.defaults,
             .userInterface = userInterface,
-            .isInFront = [] { return QGuiApplication::applicationState() == Qt::ApplicationActive; }},
+            .isInFront = [] { return QGuiApplication::applicationState() == Qt::ApplicationActive; },
+            .makeSession = makeSession},
         std::move(installer));
 }
 

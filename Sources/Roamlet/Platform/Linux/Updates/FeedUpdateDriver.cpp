@@ -3,8 +3,8 @@
 
 #include "Platform/Linux/Updates/FeedUpdateDriver.h"
 
-#include "Platform/Linux/Updates/PackageSignature.h"
 #include "Platform/Linux/Updates/Versions.h"
+#include "Platform/UpdateUserInterface.h"
 #include "Platform/UserDefaults.h"
 
 #include <utility>
@@ -51,7 +51,7 @@ void FeedUpdateDriver::checkForUpdates()
 void FeedUpdateDriver::begin(UpdateSession::Origin origin)
 {
     m_schedule.beginCheck();
-    m_session = std::make_unique<UpdateSession>(
+    auto session = m_services.makeSession(
         UpdateSession::Setup{
             .clock = m_services.clock,
             .userInterface = m_services.userInterface,
@@ -60,8 +60,7 @@ void FeedUpdateDriver::begin(UpdateSession::Origin origin)
             .http = m_configuration.http,
             .host = m_configuration.host,
             .feed = QUrl(m_configuration.feed, QUrl::StrictMode),
-            .publicKey =
-                PackageSignature::decodedKey(m_configuration.publicKey.toLatin1()).value_or(QByteArray()),
+            .publicKey = m_configuration.publicKey.toLatin1(),
             .isInFront = m_services.isInFront,
         },
         origin,
@@ -76,7 +75,23 @@ void FeedUpdateDriver::begin(UpdateSession::Origin origin)
             .skip = [this](const QString &version) { m_services.defaults.setString(skippedKey, version); },
             .finish = [this] { end(); },
         });
+    if (!session) {
+        failToBegin(origin, session.error());
+        return;
+    }
+    m_session = std::move(*session);
     m_session->start();
+}
+
+void FeedUpdateDriver::failToBegin(UpdateSession::Origin origin, const QString &problem)
+{
+    if (origin == UpdateSession::Origin::Schedule)
+        m_schedule.noteFailure();
+    else
+        m_services.userInterface.showError({UpdateError::Code::NetworkFailed, problem},
+                                           [this] { m_services.userInterface.close(); });
+    m_delegate->willFinishUpdateSession();
+    m_schedule.endCheck();
 }
 
 void FeedUpdateDriver::end()

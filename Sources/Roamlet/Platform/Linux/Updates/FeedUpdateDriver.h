@@ -37,6 +37,7 @@ public:
         UpdateUserInterface &userInterface;
         /// Whether one of the program's windows is the one that the user works in.
         std::function<bool()> isInFront;
+        UpdateSession::Factory makeSession;
     };
 
     FeedUpdateDriver(Configuration configuration, Services services, UpdateInstaller::Environment installer);
@@ -50,6 +51,7 @@ public:
 private:
     void begin(UpdateSession::Origin origin);
     void end();
+    void failToBegin(UpdateSession::Origin origin, const QString &problem);
     bool isSkipped(const QString &version) const;
 
     Configuration m_configuration;

@@ -6,7 +6,7 @@
 #include "Platform/Linux/AppImage.h"
 #include "Platform/Linux/LinuxIO.h"
 #include "Platform/Linux/Updates/FileOpening.h"
-#include "Platform/Linux/Updates/PackageDownload.h"
+#include "Platform/Linux/Updates/UnfinishedPackage.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -83,7 +83,7 @@ void UpdateInstaller::removeLeftovers(std::chrono::system_clock::time_point now)
     const auto path = target();
     if (!path)
         return;
-    PackageDownload::removeUnfinished(*path);
+    QFile::remove(unfinishedPackage(*path));
     // The user may still be asked by the installer whether they want it.
     constexpr std::chrono::hours patience = 24h;
     const QDateTime written = QFileInfo(*path).lastModified();

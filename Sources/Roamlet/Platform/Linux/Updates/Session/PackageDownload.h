@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "Platform/Linux/Updates/HttpTransfer.h"
+#include "Platform/Linux/Updates/Session/HttpTransfer.h"
 
 #include <QFile>
 #include <QObject>
@@ -39,9 +39,6 @@ public:
     PackageDownload(QNetworkAccessManager &network, const Clock &clock, const HttpOptions &options,
                     Package package, const QByteArray &key, const QString &target, Handlers handlers);
     ~PackageDownload() override;
-
-    /// Removes what a download to `target` left that its program could not clear away.
-    static void removeUnfinished(const QString &target);
 
 protected:
     /// The check has ended.

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "Platform/Linux/Updates/HttpTransfer.h"
+#include "Platform/Linux/Updates/Session/HttpTransfer.h"
 
 #include <expected>
 #include <memory>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
-#include "Platform/Linux/Updates/HttpTransfer.h"
+#include "Platform/Linux/Updates/Session/HttpTransfer.h"
 
 #include <QHostAddress>
 #include <QNetworkAccessManager>

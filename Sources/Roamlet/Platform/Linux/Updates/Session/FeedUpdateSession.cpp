@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
-#include "Platform/Linux/Updates/UpdateSession.h"
+#include "Platform/Linux/Updates/Session/FeedUpdateSession.h"
 
+#include "Platform/Linux/Updates/Session/PackageSignature.h"
 #include "Platform/UpdateDriver.h"
 
 #include <utility>
@@ -33,7 +34,7 @@ ReleaseNotes notesOf(const DocumentDownload::Document &document)
 
 /// The user answers when they like; by then the question may be another one, or nobody may be left to listen.
 template<typename Action>
-auto UpdateSession::inThisStep(Action action) const
+auto FeedUpdateSession::inThisStep(Action action) const
 {
     return [step = QPointer(m_step.get()), action = std::move(action)](auto... arguments) {
         if (!step)
@@ -44,19 +45,22 @@ auto UpdateSession::inThisStep(Action action) const
     };
 }
 
-UpdateSession::UpdateSession(const Setup &setup, Origin origin, Handlers handlers)
-    : m_setup(setup), m_handlers(std::move(handlers)), m_origin(origin)
+FeedUpdateSession::FeedUpdateSession(const Setup &setup, Origin origin, Handlers handlers)
+    : m_setup(setup),
+      m_publicKey(PackageSignature::decodedKey(setup.publicKey).value_or(QByteArray())),
+      m_handlers(std::move(handlers)),
+      m_origin(origin)
 {
 }
 
-void UpdateSession::start()
+void FeedUpdateSession::start()
 {
     beginStep();
     if (m_origin == Origin::User) {
         m_sight = Sight::Window;
         m_setup.userInterface.showChecking(inThisStep([this] { finish(); }));
     }
-    if (m_setup.feed.isEmpty() || m_setup.publicKey.isEmpty()) {
+    if (m_setup.feed.isEmpty() || m_publicKey.isEmpty()) {
         failToRead({UpdateError::Code::NotConfigured, {}});
         return;
     }
@@ -65,7 +69,7 @@ void UpdateSession::start()
         [this](const std::expected<DocumentDownload::Document, UpdateError> &feed) { readFeed(feed); });
 }
 
-void UpdateSession::bringToFront()
+void FeedUpdateSession::bringToFront()
 {
     m_origin = Origin::User;
     if (m_sight == Sight::Window) {
@@ -88,7 +92,7 @@ void UpdateSession::bringToFront()
     m_setup.userInterface.showChecking(inThisStep([this] { finish(); }));
 }
 
-void UpdateSession::readFeed(const std::expected<DocumentDownload::Document, UpdateError> &feed)
+void FeedUpdateSession::readFeed(const std::expected<DocumentDownload::Document, UpdateError> &feed)
 {
     if (!feed) {
         failToRead(feed.error());
@@ -116,13 +120,13 @@ void UpdateSession::readFeed(const std::expected<DocumentDownload::Document, Upd
     m_setup.userInterface.showUpToDate(inThisStep([this] { finish(); }));
 }
 
-void UpdateSession::failToRead(const UpdateError &error)
+void FeedUpdateSession::failToRead(const UpdateError &error)
 {
     m_handlers.feedFailed();
     fail(error);
 }
 
-void UpdateSession::offer(const UpdateChoice &choice)
+void FeedUpdateSession::offer(const UpdateChoice &choice)
 {
     // It may be this very version, or one on the way to it; the program that runs cannot tell.
     if (m_setup.installer.isProgramReplaced()) {
@@ -139,7 +143,7 @@ void UpdateSession::offer(const UpdateChoice &choice)
     showUpdate();
 }
 
-void UpdateSession::offerBySchedule()
+void FeedUpdateSession::offerBySchedule()
 {
     UpdateDriverDelegate &delegate = m_setup.delegate;
     const Update update = m_choice->update();
@@ -151,7 +155,7 @@ void UpdateSession::offerBySchedule()
         showUpdate();
 }
 
-void UpdateSession::showUpdate()
+void FeedUpdateSession::showUpdate()
 {
     m_sight = Sight::Window;
     const Update update = m_choice->update();
@@ -163,7 +167,7 @@ void UpdateSession::showUpdate()
         fetchNotes();
 }
 
-void UpdateSession::fetchNotes()
+void FeedUpdateSession::fetchNotes()
 {
     m_document = std::make_unique<DocumentDownload>(
         m_network, m_setup.clock, m_setup.http, m_choice->item.notesAddress, longestNotes,
@@ -175,7 +179,7 @@ void UpdateSession::fetchNotes()
         });
 }
 
-void UpdateSession::choose(UpdateUserInterface::Choice choice)
+void FeedUpdateSession::choose(UpdateUserInterface::Choice choice)
 {
     giveAttention();
     m_document.reset();
@@ -193,7 +197,7 @@ void UpdateSession::choose(UpdateUserInterface::Choice choice)
     }
 }
 
-void UpdateSession::download()
+void FeedUpdateSession::download()
 {
     beginStep();
     const auto path = m_setup.installer.packagePath();
@@ -207,7 +211,7 @@ void UpdateSession::download()
         m_network, m_setup.clock, m_setup.http,
         PackageDownload::Package{
             .address = package.address, .length = package.length, .signature = package.signature},
-        m_setup.publicKey, *path,
+        m_publicKey, *path,
         PackageDownload::Handlers{
             .progress =
                 [this](qint64 received, std::optional<qint64> total) {
@@ -224,7 +228,7 @@ void UpdateSession::download()
         });
 }
 
-void UpdateSession::install()
+void FeedUpdateSession::install()
 {
     m_package.reset();
     beginStep();
@@ -235,7 +239,7 @@ void UpdateSession::install()
     finish();
 }
 
-void UpdateSession::fail(const UpdateError &error)
+void FeedUpdateSession::fail(const UpdateError &error)
 {
     m_document.reset();
     m_package.reset();
@@ -248,7 +252,7 @@ void UpdateSession::fail(const UpdateError &error)
     m_setup.userInterface.showError(error, inThisStep([this] { finish(); }));
 }
 
-void UpdateSession::finish()
+void FeedUpdateSession::finish()
 {
     m_document.reset();
     m_package.reset();
@@ -259,13 +263,13 @@ void UpdateSession::finish()
     m_handlers.finish();
 }
 
-void UpdateSession::giveAttention()
+void FeedUpdateSession::giveAttention()
 {
     if (!std::exchange(m_hasAttention, true))
         m_setup.delegate.didReceiveUserAttention(m_choice->update());
 }
 
-UpdateState UpdateSession::state() const
+UpdateState FeedUpdateSession::state() const
 {
     return {.stage = UpdateState::Stage::NotDownloaded, .isUserInitiated = m_origin == Origin::User};
 }

@@ -3,10 +3,9 @@
 
 #pragma once
 
-#include "Platform/Clock.h"
+#include "Platform/Linux/Updates/HttpOptions.h"
 #include "Platform/Update.h"
 
-#include <QByteArray>
 #include <QObject>
 #include <QPointer>
 #include <QUrl>
@@ -19,22 +18,6 @@ class QNetworkReply;
 
 namespace roamlet
 {
-
-/// How all addresses of an update are fetched.
-struct HttpOptions {
-    enum class Loopback { Refused, Allowed };
-
-    /// Whether this machine's own address will do without encryption. Nobody stands in between there; tests
-    /// need it.
-    Loopback loopback = Loopback::Refused;
-    /// The longest time in which nothing comes.
-    Clock::Duration patience = std::chrono::seconds(30);
-    /// How the program calls itself.
-    QByteArray userAgent;
-
-    /// Whether an answer from there can be trusted to be from there.
-    bool allows(const QUrl &address) const;
-};
 
 /// One address that is being fetched. Destroying it cancels it, and nothing is called any more. On the main
 /// thread.

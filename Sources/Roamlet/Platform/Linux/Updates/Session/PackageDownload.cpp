@@ -1,10 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
-#include "Platform/Linux/Updates/PackageDownload.h"
+#include "Platform/Linux/Updates/Session/PackageDownload.h"
 
 #include "Platform/Linux/LinuxIO.h"
-#include "Platform/Linux/Updates/PackageSignature.h"
+#include "Platform/Linux/Updates/Session/PackageSignature.h"
+#include "Platform/Linux/Updates/UnfinishedPackage.h"
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -26,11 +27,6 @@ namespace
 
 /// More than any honest one. The signature is of the whole content, which is checked at one go.
 constexpr qint64 largestPackage = qint64{512} << 20U;
-
-QString unfinishedName(const QString &target)
-{
-    return target % u".part";
-}
 
 UpdateError systemError(UpdateError::Code code)
 {
@@ -76,7 +72,7 @@ PackageDownload::PackageDownload(QNetworkAccessManager &network, const Clock &cl
       m_key(key),
       m_target(target),
       m_handlers(std::move(handlers)),
-      m_file(unfinishedName(target))
+      m_file(unfinishedPackage(target))
 {
     if (const auto error = prepare()) {
         clock.after(Clock::Duration::zero(), this, [this, error] { finish(error); });
@@ -106,11 +102,6 @@ PackageDownload::~PackageDownload()
     // After a success it has another name by now.
     if (m_file.isOpen())
         m_file.remove();
-}
-
-void PackageDownload::removeUnfinished(const QString &target)
-{
-    QFile::remove(unfinishedName(target));
 }
 
 std::optional<UpdateError> PackageDownload::prepare()

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
-#include "Platform/Linux/Updates/PackageSignature.h"
+#include "Platform/Linux/Updates/Session/PackageSignature.h"
 
 #include <sodium.h>
 

@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "Platform/Clock.h"
+
+#include <QByteArray>
+#include <QUrl>
+
+namespace roamlet
+{
+
+/// How all addresses of an update are fetched.
+struct HttpOptions {
+    enum class Loopback { Refused, Allowed };
+
+    /// Whether this machine's own address will do without encryption. Nobody stands in between there; tests
+    /// need it.
+    Loopback loopback = Loopback::Refused;
+    /// The longest time in which nothing comes.
+    Clock::Duration patience = std::chrono::seconds(30);
+    /// How the program calls itself.
+    QByteArray userAgent;
+
+    /// Whether an answer from there can be trusted to be from there. Part of what fetches updates.
+    bool allows(const QUrl &address) const;
+};
+
+} // namespace roamlet
