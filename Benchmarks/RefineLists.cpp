@@ -159,7 +159,7 @@ void CopyRows(benchmark::State &state)
 void GroupByDay(benchmark::State &state)
 {
     const QList<HistoryItem> rows = history(state.range(0), static_cast<int>(state.range(1)));
-    const UserCalendar calendar = UserCalendar::of(u"Europe/Berlin"_s, u"de_DE"_s);
+    const UserCalendar calendar = UserCalendar{u"Europe/Berlin"_s, u"de_DE"_s};
     for ([[maybe_unused]] auto iteration : state) {
         const auto groups = dayGroups(rows, true, now, calendar);
         benchmark::DoNotOptimize(groups.constData());

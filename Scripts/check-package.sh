@@ -24,6 +24,11 @@ on_fresh_system() {
   apt-get install -q -y --no-install-recommends /check/roamlet.deb >/dev/null
   dpkg --verify roamlet
 
+  step "Look for the libraries of the modules"
+  for module in $(dpkg -L roamlet | grep '\.so$'); do
+    missing=$(ldd "$module" | grep 'not found') && fail "$module: $missing"
+  done
+
   step "Run a job"
   as_user roamlet --version
   as_user roamlet --summary || fail "--summary ends with $?"

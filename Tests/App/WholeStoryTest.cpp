@@ -136,6 +136,17 @@ TEST_F(WholeStoryTest, aPageIsVisitedSearchedNarrowedToItsSiteOpenedAndTheBookma
     EXPECT_EQ(alert.problems, QStringList());
 }
 
+TEST_F(WholeStoryTest, itsIconsComeAfterItsWindow)
+{
+    QApplication::setWindowIcon({});
+    app->start(false);
+    EXPECT_TRUE(app->mainWindow().isVisible());
+    home.clock.advance(std::chrono::milliseconds(149));
+    EXPECT_TRUE(QApplication::windowIcon().isNull());
+    home.clock.advance(std::chrono::milliseconds(1));
+    EXPECT_FALSE(QApplication::windowIcon().isNull());
+}
+
 TEST_F(WholeStoryTest, launchedAtLoginItWaitsInTheTrayUntilItIsStartedAgain)
 {
     app->start(true);

@@ -9,6 +9,8 @@
 #include <unicode/locid.h>
 
 #include <limits>
+#include <map>
+#include <string>
 
 namespace roamlet::testing
 {
@@ -150,6 +152,24 @@ TEST(CalendarMath, weeksBeginOnTheUsersFirstWeekday)
     for (const auto &[weekday, start] : expected) {
         CalendarMath math(calendarOf(u"UTC"_s, weekday));
         EXPECT_EQ(utcText(math.startOfWeek(thursday)), start) << weekday;
+    }
+}
+
+TEST(CalendarMath, weeksBeginAsIsUsualInTheCountryWhereTheUserDoesNotSay)
+{
+    // A Thursday.
+    const PointInTime time = at(u"2025-03-13T12:00:00Z"_s);
+    const std::map<QString, std::string> expected{
+        {u"en_US"_s, "2025-03-09T00:00:00Z"},  {u"en_GB"_s, "2025-03-10T00:00:00Z"},
+        {u"en_FR"_s, "2025-03-10T00:00:00Z"},  {u"de_DE"_s, "2025-03-10T00:00:00Z"},
+        {u"es_ES"_s, "2025-03-10T00:00:00Z"},  {u"ja_JP"_s, "2025-03-09T00:00:00Z"},
+        {u"zh_CN"_s, "2025-03-10T00:00:00Z"},  {u"ar_EG"_s, "2025-03-08T00:00:00Z"},
+        {u"tr_TR"_s, "2025-03-10T00:00:00Z"},  {u"ru_RU"_s, "2025-03-10T00:00:00Z"},
+        {u"en_001"_s, "2025-03-10T00:00:00Z"},
+    };
+    for (const auto &[locale, week] : expected) {
+        CalendarMath math({.timeZone = u"UTC"_s, .locale = locale});
+        EXPECT_EQ(utcText(math.startOfWeek(time)), week) << qPrintable(locale);
     }
 }
 

@@ -70,7 +70,8 @@ struct CalendarMath::Native {
         if (U_FAILURE(status) != 0)
             return;
         // There the week begins with Sunday at 1.
-        calendar->setFirstDayOfWeek(static_cast<UCalendarDaysOfWeek>(user.firstWeekday % 7 + 1));
+        if (user.firstWeekday)
+            calendar->setFirstDayOfWeek(static_cast<UCalendarDaysOfWeek>(*user.firstWeekday % 7 + 1));
         // The library remembers the pattern of each locale; looking it up anew takes longer than a list does.
         monthFormat.reset(icu::DateFormat::createInstanceForSkeleton(calendar->clone(), "yMMMM",
                                                                      localeOfMonths(locale), status));

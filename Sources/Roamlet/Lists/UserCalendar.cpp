@@ -48,20 +48,15 @@ QString UserCalendar::localeOf(const QString &posixName)
     return QLocale::languageToCode(language) % script % region;
 }
 
-UserCalendar UserCalendar::of(const QString &timeZone, const QString &locale)
-{
-    return {.timeZone = timeZone, .locale = locale, .firstWeekday = QLocale(locale).firstDayOfWeek()};
-}
-
 UserCalendar UserCalendar::ofSystem()
 {
     const QString timeZone = systemTimeZone();
     for (const char *variable : {"LC_ALL", "LC_TIME", "LANG"}) {
         const QString name = qEnvironmentVariable(variable);
         if (!name.isEmpty())
-            return of(timeZone, localeOf(name));
+            return {.timeZone = timeZone, .locale = localeOf(name)};
     }
-    return of(timeZone, localeOf({}));
+    return {.timeZone = timeZone, .locale = localeOf({})};
 }
 
 } // namespace roamlet

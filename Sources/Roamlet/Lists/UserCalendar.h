@@ -6,6 +6,8 @@
 #include <QString>
 #include <QtCore/qnamespace.h>
 
+#include <optional>
+
 namespace roamlet
 {
 
@@ -15,14 +17,15 @@ struct UserCalendar {
     QString timeZone;
     /// Such as "de_DE": its calendar and its names of months.
     QString locale;
-    Qt::DayOfWeek firstWeekday = Qt::Monday;
+    /// Absent for the one that is usual where the locale is spoken.
+    // The compiler wants it from whoever names only some of the members.
+    // NOLINTNEXTLINE(readability-redundant-member-init)
+    std::optional<Qt::DayOfWeek> firstWeekday = {};
 
     bool operator==(const UserCalendar &) const = default;
 
     /// What the user's session says now; a journey changes the time zone. On the main thread.
     static UserCalendar ofSystem();
-    /// With the first weekday that is usual where `locale` is spoken.
-    static UserCalendar of(const QString &timeZone, const QString &locale);
     /// A POSIX locale such as "de_DE.UTF-8@euro" as "de_DE". Without a language that Qt knows it is English.
     static QString localeOf(const QString &posixName);
 };

@@ -22,7 +22,7 @@ constexpr double day = 24 * hour;
 
 QString brief(double secondsAgo, const QString &zone = u"UTC"_s)
 {
-    const LocalText text(UserCalendar::of(zone, u"en_GB"_s), now);
+    const LocalText text(UserCalendar{zone, u"en_GB"_s}, now);
     return text.briefDate(pointInTime(secondsSince1970(now) - secondsAgo));
 }
 
@@ -91,15 +91,15 @@ TEST(CellTextTest, DaysAreTheUsersOwn)
 
 TEST(CellTextTest, NumbersThatAreNoDatesDoNoHarm)
 {
-    const LocalText text(UserCalendar::of(u"UTC"_s, u"en_GB"_s), now);
+    const LocalText text(UserCalendar{u"UTC"_s, u"en_GB"_s}, now);
     for (const double seconds : {1e300, -1e300, 1e18, -1e18})
         EXPECT_FALSE(text.briefDate(pointInTime(seconds)).isNull()) << seconds;
 }
 
 TEST(CellTextTest, NumbersHaveTheirDigitsInGroups)
 {
-    EXPECT_EQ(LocalText(UserCalendar::of(u"UTC"_s, u"en_US"_s), now).number(1'234'567), u"1,234,567");
-    EXPECT_EQ(LocalText(UserCalendar::of(u"UTC"_s, u"de_DE"_s), now).number(1'234'567), u"1.234.567");
+    EXPECT_EQ(LocalText(UserCalendar{u"UTC"_s, u"en_US"_s}, now).number(1'234'567), u"1,234,567");
+    EXPECT_EQ(LocalText(UserCalendar{u"UTC"_s, u"de_DE"_s}, now).number(1'234'567), u"1.234.567");
 }
 
 } // namespace roamlet::testing

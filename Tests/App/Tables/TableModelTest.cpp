@@ -51,7 +51,7 @@ protected:
         return model.index(row, column).data(role);
     }
 
-    TableModel model{columns(), LocalText(UserCalendar::of(u"UTC"_s, u"en_US"_s), now)};
+    TableModel model{columns(), LocalText(UserCalendar{u"UTC"_s, u"en_US"_s}, now)};
     const QAbstractItemModelTester tester{&model, QAbstractItemModelTester::FailureReportingMode::Fatal};
 };
 

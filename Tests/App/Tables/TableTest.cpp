@@ -48,7 +48,7 @@ TableTest::TableTest()
                  .opener = opener,
                  .workspace = workspace,
                  .collation = std::make_shared<Collation>(u"en_US"_s),
-                 .calendar = [] { return UserCalendar::of(u"UTC"_s, u"en_US"_s); }}
+                 .calendar = [] { return UserCalendar{u"UTC"_s, u"en_US"_s}; }}
 {
 }
 

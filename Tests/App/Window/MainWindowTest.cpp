@@ -153,6 +153,8 @@ TEST_F(MainWindowTest, oncePutAwayItComesBackAsItWas)
     window->putAway();
     window->open();
     EXPECT_TRUE(window->isMaximized());
+    window->showNormal();
+    EXPECT_EQ(window->size(), QSize(900, 555));
 }
 
 TEST_F(MainWindowTest, itIsNeverSmallerThanItsContentNeeds)

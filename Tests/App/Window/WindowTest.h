@@ -37,7 +37,7 @@ protected:
                 .opener = opener,
                 .workspace = workspace,
                 .collation = std::make_shared<const Collation>(QStringLiteral("en_US")),
-                .calendar = [] { return UserCalendar::of(QStringLiteral("UTC"), QStringLiteral("en_US")); }};
+                .calendar = [] { return UserCalendar{QStringLiteral("UTC"), QStringLiteral("en_US")}; }};
     }
 
     /// The part of a window that has this name.

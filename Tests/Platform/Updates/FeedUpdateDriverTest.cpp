@@ -163,7 +163,7 @@ TEST_F(FeedUpdateDriverTest, WhoeverAsksSeesTheUpdate)
 TEST_F(FeedUpdateDriverTest, WithoutThePartThatFetchesUpdatesWhoeverAsksHearsOfIt)
 {
     makeSession = [](const auto & /*setup*/, auto /*origin*/, const auto & /*handlers*/) {
-        return std::unexpected(u"no such file"_s);
+        return std::unexpected(UpdateError{UpdateError::Code::NetworkFailed, u"no such file"_s});
     };
     open();
     driver->checkForUpdates();

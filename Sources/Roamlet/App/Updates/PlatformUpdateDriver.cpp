@@ -22,15 +22,21 @@ namespace
 {
 
 /// Loads what fetches updates when somebody wants one first.
-std::expected<std::unique_ptr<UpdateSession>, QString> makeSession(const UpdateSession::Setup &setup,
-                                                                   UpdateSession::Origin origin,
-                                                                   const UpdateSession::Handlers &handlers)
+std::expected<std::unique_ptr<UpdateSession>, UpdateError>
+makeSession(const UpdateSession::Setup &setup, UpdateSession::Origin origin,
+            const UpdateSession::Handlers &handlers)
 {
-    const auto function = ProgramModule::function(u"roamlet-updates.so"_s, sessionModuleEntry);
-    if (!function)
-        return std::unexpected(function.error());
-    return std::unique_ptr<UpdateSession>(
-        reinterpret_cast<SessionModuleEntry *>(*function)(&setup, origin, &handlers));
+    static SessionModuleEntry *entry = nullptr;
+    if (entry == nullptr) {
+        // The module beside a newer program is none of ours.
+        if (setup.installer.isProgramReplaced())
+            return std::unexpected(UpdateError{UpdateError::Code::RestartNeeded, {}});
+        const auto function = ProgramModule::function(u"roamlet-updates.so"_s, sessionModuleEntry);
+        if (!function)
+            return std::unexpected(UpdateError{UpdateError::Code::NetworkFailed, function.error()});
+        entry = reinterpret_cast<SessionModuleEntry *>(*function);
+    }
+    return std::unique_ptr<UpdateSession>(entry(&setup, origin, &handlers));
 }
 
 } // namespace

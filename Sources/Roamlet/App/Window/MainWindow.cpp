@@ -75,10 +75,13 @@ void MainWindow::holdFirstPicture()
 
 void MainWindow::putAway()
 {
-    if (isVisible())
+    if (isVisible() || windowHandle() == nullptr)
         return;
     // With the window goes the picture of its content, which takes more than anything else.
     destroy();
+    // The next window knows nothing of what the window manager had made of this one.
+    setWindowState(Qt::WindowNoState);
+    restorePlace();
 }
 
 void MainWindow::buildMenus()

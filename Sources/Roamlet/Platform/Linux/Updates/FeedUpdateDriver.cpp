@@ -83,13 +83,12 @@ void FeedUpdateDriver::begin(UpdateSession::Origin origin)
     m_session->start();
 }
 
-void FeedUpdateDriver::failToBegin(UpdateSession::Origin origin, const QString &problem)
+void FeedUpdateDriver::failToBegin(UpdateSession::Origin origin, const UpdateError &error)
 {
     if (origin == UpdateSession::Origin::Schedule)
         m_schedule.noteFailure();
     else
-        m_services.userInterface.showError({UpdateError::Code::NetworkFailed, problem},
-                                           [this] { m_services.userInterface.close(); });
+        m_services.userInterface.showError(error, [this] { m_services.userInterface.close(); });
     m_delegate->willFinishUpdateSession();
     m_schedule.endCheck();
 }

@@ -51,7 +51,7 @@ public:
 private:
     void begin(UpdateSession::Origin origin);
     void end();
-    void failToBegin(UpdateSession::Origin origin, const QString &problem);
+    void failToBegin(UpdateSession::Origin origin, const UpdateError &error);
     bool isSkipped(const QString &version) const;
 
     Configuration m_configuration;

@@ -48,8 +48,8 @@ public:
         /// The session is over and does nothing after this. Not to destroy it at once.
         std::function<void()> finish;
     };
-    /// Makes a session, or says in the system's words why it cannot.
-    using Factory = std::function<std::expected<std::unique_ptr<UpdateSession>, QString>(
+    /// Makes a session, or says why it cannot.
+    using Factory = std::function<std::expected<std::unique_ptr<UpdateSession>, UpdateError>(
         const Setup &setup, Origin origin, const Handlers &handlers)>;
 
     /// Begins. Called once.
