@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-# What a desktop needs to know of the program, each file where the desktop looks for it. The program and its window
-# module are installed where they are built.
+# What a desktop needs to know of the program, each file where the desktop looks for it. The program and its
+# modules are installed where they are built.
 include(GNUInstallDirs)
 find_program(GZIP gzip REQUIRED)
 

@@ -49,7 +49,7 @@ set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
 set(CPACK_DEBIAN_PACKAGE_SECTION utils)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
-# The libraries that the program and its window module need. The window system's plugin for X and the one that draws
+# The libraries that the program and its modules need. The window system's plugin for X and the one that draws
 # SVG icons come with two of them.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # Wayland, the desktop's own dialogs, one running program, and opening what no browser of ours takes.

@@ -41,7 +41,7 @@ struct Update {
 /// Why there is no update. Only the app turns it into words.
 struct UpdateError {
     enum class Code {
-        NotConfigured,    ///< this build names no feed, or no usable key
+        NotConfigured,    ///< this build names no feed or no usable key, or it lacks a part: the detail
         InsecureAddress,  ///< an address is no address, or one that anybody on the way could answer for
         TooManyRedirects, ///< the server sends us in circles
         NetworkFailed,    ///< the detail is the system's words, if it has any

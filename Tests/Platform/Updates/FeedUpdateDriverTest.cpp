@@ -163,11 +163,11 @@ TEST_F(FeedUpdateDriverTest, WhoeverAsksSeesTheUpdate)
 TEST_F(FeedUpdateDriverTest, WithoutThePartThatFetchesUpdatesWhoeverAsksHearsOfIt)
 {
     makeSession = [](const auto & /*setup*/, auto /*origin*/, const auto & /*handlers*/) {
-        return std::unexpected(UpdateError{UpdateError::Code::NetworkFailed, u"no such file"_s});
+        return std::unexpected(UpdateError{UpdateError::Code::NotConfigured, u"no such file"_s});
     };
     open();
     driver->checkForUpdates();
-    EXPECT_EQ(windows.error, (UpdateError{UpdateError::Code::NetworkFailed, u"no such file"_s}));
+    EXPECT_EQ(windows.error, (UpdateError{UpdateError::Code::NotConfigured, u"no such file"_s}));
     EXPECT_EQ(events, (QStringList{u"error"_s, u"finish"_s}));
     windows.acknowledge();
     EXPECT_EQ(events.last(), u"close");

@@ -33,7 +33,7 @@ makeSession(const UpdateSession::Setup &setup, UpdateSession::Origin origin,
             return std::unexpected(UpdateError{UpdateError::Code::RestartNeeded, {}});
         const auto function = ProgramModule::function(u"roamlet-updates.so"_s, sessionModuleEntry);
         if (!function)
-            return std::unexpected(UpdateError{UpdateError::Code::NetworkFailed, function.error()});
+            return std::unexpected(UpdateError{UpdateError::Code::NotConfigured, function.error()});
         entry = reinterpret_cast<SessionModuleEntry *>(*function);
     }
     return std::unique_ptr<UpdateSession>(entry(&setup, origin, &handlers));

@@ -6,7 +6,6 @@
 #include "Platform/Clock.h"
 
 #include <QByteArray>
-#include <QUrl>
 
 namespace roamlet
 {
@@ -22,9 +21,6 @@ struct HttpOptions {
     Clock::Duration patience = std::chrono::seconds(30);
     /// How the program calls itself.
     QByteArray userAgent;
-
-    /// Whether an answer from there can be trusted to be from there. Part of what fetches updates.
-    bool allows(const QUrl &address) const;
 };
 
 } // namespace roamlet

@@ -39,13 +39,13 @@ std::optional<QUrl> redirection(const QNetworkReply &reply)
 
 } // namespace
 
-bool HttpOptions::allows(const QUrl &address) const
+bool isAllowed(const QUrl &address, HttpOptions::Loopback loopback)
 {
     if (!address.isValid() || address.host().isEmpty())
         return false;
     if (address.scheme() == u"https")
         return true;
-    return loopback == Loopback::Allowed && address.scheme() == u"http" &&
+    return loopback == HttpOptions::Loopback::Allowed && address.scheme() == u"http" &&
            QHostAddress(address.host()).isLoopback();
 }
 
@@ -53,7 +53,7 @@ HttpTransfer::HttpTransfer(QNetworkAccessManager &network, const Clock &clock, H
                            const QUrl &address, Handlers handlers, std::optional<Clock::Duration> limit)
     : m_network(network), m_clock(clock), m_options(std::move(options)), m_handlers(std::move(handlers))
 {
-    if (!m_options.allows(address)) {
+    if (!isAllowed(address, m_options.loopback)) {
         m_clock.after(Clock::Duration::zero(), this, [this, address] {
             finish(UpdateError{UpdateError::Code::InsecureAddress, address.toDisplayString()});
         });
@@ -109,7 +109,7 @@ void HttpTransfer::follow(const QUrl &address)
         finish(UpdateError{UpdateError::Code::TooManyRedirects, {}});
         return;
     }
-    if (!m_options.allows(address)) {
+    if (!isAllowed(address, m_options.loopback)) {
         finish(UpdateError{UpdateError::Code::InsecureAddress, address.toDisplayString()});
         return;
     }

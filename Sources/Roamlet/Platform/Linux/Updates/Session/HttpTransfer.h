@@ -19,6 +19,9 @@ class QNetworkReply;
 namespace roamlet
 {
 
+/// Whether an answer from there can be trusted to be from there.
+bool isAllowed(const QUrl &address, HttpOptions::Loopback loopback);
+
 /// One address that is being fetched. Destroying it cancels it, and nothing is called any more. On the main
 /// thread.
 class HttpTransfer final : public QObject

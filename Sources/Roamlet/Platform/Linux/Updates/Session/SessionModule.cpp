@@ -8,8 +8,8 @@
 #include <QtCore/qglobal.h>
 
 extern "C" Q_DECL_EXPORT roamlet::UpdateSession *
-roamletMakeUpdateSession(const roamlet::UpdateSession::Setup *setup, roamlet::UpdateSession::Origin origin,
-                         const roamlet::UpdateSession::Handlers *handlers)
+ROAMLET_SESSION_ENTRY(const roamlet::UpdateSession::Setup *setup, roamlet::UpdateSession::Origin origin,
+                      const roamlet::UpdateSession::Handlers *handlers)
 {
     return new roamlet::FeedUpdateSession(*setup, origin, *handlers);
 }
