@@ -246,6 +246,33 @@ TEST_F(LibrarySearchTest, TheLatestRowsOfChangedFilesAreReadAgain)
     EXPECT_TRUE(ask(library, u"edge/Default"_s).items.isEmpty());
 }
 
+TEST_F(LibrarySearchTest, TheLatestRowsThatAPartialLoadHasKeptAreNotReadAgain)
+{
+    addChromium();
+    Library library(home.platform());
+    loadNow(library);
+    setChromeHistory(u"Profile 1"_s, {u"since then"_s});
+    loadNow(library, QSet<QString>{u"chrome/Profile 1"_s});
+    recordReads();
+    EXPECT_EQ(sortedTitles(ask(library, {})), (QStringList{u"a1"_s, u"a2"_s, u"e1"_s, u"since then"_s}));
+    EXPECT_EQ(takeReads(), QStringList());
+}
+
+TEST_F(LibrarySearchTest, TheLatestRowsOfARenamedProfileBearItsNewName)
+{
+    addChromium();
+    Library library(home.platform());
+    loadNow(library);
+    change([&] {
+        sample::writeLocalState(edgeFile(u"Local State"_s),
+                                {{u"Default"_s, QJsonObject{{u"name"_s, u"Elsewhere"_s}}}});
+    });
+    loadNow(library, QSet<QString>{u"chrome/Default"_s});
+    const HistoryResults results = ask(library, u"edge/Default"_s);
+    ASSERT_EQ(titles(results.items), QStringList{u"e1"_s});
+    EXPECT_EQ(results.items.first().source.name, u"Elsewhere");
+}
+
 TEST_F(LibrarySearchTest, TheLatestRowsThatCouldNotBeReadAreAskedForAgain)
 {
     addChromium();

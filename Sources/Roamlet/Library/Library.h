@@ -88,7 +88,7 @@ public:
     void setMenuOpen(bool isOpen);
     /// Runs a query against the source with this id, or against all, away from the main thread, and hands the
     /// results to `deliver` on the main thread, unless `context` is gone by then. Requesting a stop drops the
-    /// search.
+    /// search. The latest rows come from the snapshot where its files have not changed since.
     std::stop_source queryHistory(const HistoryQuery &query, const std::optional<QString> &sourceID,
                                   QObject *context, std::function<void(HistoryResults)> deliver);
 
