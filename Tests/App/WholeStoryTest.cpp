@@ -17,6 +17,7 @@
 #include <QMenu>
 #include <QPointer>
 #include <QPushButton>
+#include <QSystemTrayIcon>
 #include <QTest>
 #include <QTimer>
 #include <QTreeView>
@@ -139,11 +140,15 @@ TEST_F(WholeStoryTest, aPageIsVisitedSearchedNarrowedToItsSiteOpenedAndTheBookma
 TEST_F(WholeStoryTest, itsIconsComeAfterItsWindow)
 {
     QApplication::setWindowIcon({});
+    const auto *tray = app->icon().findChild<QSystemTrayIcon *>(u"trayIcon"_s);
+    ASSERT_NE(tray, nullptr);
     app->start(false);
     EXPECT_TRUE(app->mainWindow().isVisible());
     home.clock.advance(std::chrono::milliseconds(149));
+    EXPECT_FALSE(tray->isVisible());
     EXPECT_TRUE(QApplication::windowIcon().isNull());
     home.clock.advance(std::chrono::milliseconds(1));
+    EXPECT_TRUE(tray->isVisible());
     EXPECT_FALSE(QApplication::windowIcon().isNull());
 }
 
@@ -154,6 +159,7 @@ TEST_F(WholeStoryTest, launchedAtLoginItWaitsInTheTrayUntilItIsStartedAgain)
     EXPECT_EQ(activation.current, ActivationPolicy::Policy::Accessory);
     ASSERT_TRUE(eventually([this] { return app->library().lastLoaded().has_value(); }));
     EXPECT_FALSE(app->mainWindow().isVisible());
+    EXPECT_TRUE(app->icon().findChild<QSystemTrayIcon *>(u"trayIcon"_s)->isVisible());
     app->reopen();
     EXPECT_TRUE(app->mainWindow().isVisible());
     EXPECT_EQ(activation.current, ActivationPolicy::Policy::Regular);

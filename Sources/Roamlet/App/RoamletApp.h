@@ -57,6 +57,7 @@ public:
     /// Made when it is asked for first.
     SettingsWindow &settingsWindow();
     MenuBarMenu &menu() { return m_menu; }
+    MenuBarIcon &icon() { return m_icon; }
 
     /// Runs the program until the user quits, and returns the process's status.
     static int run(int argc, char **argv);
