@@ -8,7 +8,7 @@
 #include "Platform/Linux/LinuxWorkspace.h"
 #include "Platform/Linux/SystemClock.h"
 #include "Platform/Linux/Workspace/XdoBrowserWindows.h"
-#include "Readers/ChromiumReader.h"
+#include "Readers/Chromium/ChromiumReader.h"
 #include "RealBrowserTest.h"
 #include "Support/Waiting.h"
 #include "VirtualScreen.h"

@@ -3,7 +3,7 @@
 
 #include "HeadlessBrowser.h"
 #include "ProgramRun.h"
-#include "Readers/ChromiumReader.h"
+#include "Readers/Chromium/ChromiumReader.h"
 #include "RealBrowserTest.h"
 #include "Support/Waiting.h"
 

@@ -6,7 +6,7 @@
 #include "Library/FaviconImage.h"
 #include "LoopbackServer.h"
 #include "ProgramRun.h"
-#include "Readers/ChromiumReader.h"
+#include "Readers/Chromium/ChromiumReader.h"
 #include "Readers/FaviconReader.h"
 #include "RealBrowserTest.h"
 #include "Support/Waiting.h"

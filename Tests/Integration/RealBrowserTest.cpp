@@ -3,7 +3,7 @@
 
 #include "RealBrowserTest.h"
 
-#include "Readers/ChromiumReader.h"
+#include "Readers/Chromium/ChromiumReader.h"
 #include "Support/FolderFingerprint.h"
 
 #include <QFileInfo>

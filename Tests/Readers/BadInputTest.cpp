@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
-#include "Readers/BinaryPropertyList.h"
+#include "Readers/Files/BinaryPropertyList.h"
 #include "Readers/EveryReader.h"
-#include "Readers/SafariReader.h"
+#include "Readers/Safari/SafariReader.h"
 #include "SampleHome/PlainFiles.h"
 #include "SampleHome/SampleText.h"
 

@@ -3,9 +3,9 @@
 
 #include "Readers/EveryReader.h"
 
-#include "Readers/ChromiumReader.h"
+#include "Readers/Chromium/ChromiumReader.h"
 #include "Readers/FaviconReader.h"
-#include "Readers/SafariReader.h"
+#include "Readers/Safari/SafariReader.h"
 #include "SampleHome/ChromiumFiles.h"
 #include "SampleHome/SafariFiles.h"
 

@@ -7,7 +7,7 @@
 #include "Platform/Clock.h"
 #include "Platform/Files.h"
 #include "Platform/UserDefaults.h"
-#include "Readers/SQLiteSnapshot.h"
+#include "Readers/Files/SQLiteSnapshot.h"
 
 #include <algorithm>
 #include <limits>

@@ -7,10 +7,10 @@
 #include "Library/Parallel.h"
 #include "Platform/Clock.h"
 #include "Platform/UserDefaults.h"
-#include "Readers/ChromiumReader.h"
+#include "Readers/Chromium/ChromiumReader.h"
 #include "Readers/FaviconReader.h"
-#include "Readers/SQLiteSnapshot.h"
-#include "Readers/SafariReader.h"
+#include "Readers/Files/SQLiteSnapshot.h"
+#include "Readers/Safari/SafariReader.h"
 
 #include <QLocale>
 

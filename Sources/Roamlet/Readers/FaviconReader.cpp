@@ -5,8 +5,8 @@
 
 #include "Model/Site.h"
 #include "Platform/Files.h"
-#include "Readers/ChromiumReader.h"
-#include "Readers/SQLiteSnapshot.h"
+#include "Readers/Chromium/ChromiumReader.h"
+#include "Readers/Files/SQLiteSnapshot.h"
 
 #include <QCryptographicHash>
 

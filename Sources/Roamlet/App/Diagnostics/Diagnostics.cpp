@@ -11,8 +11,8 @@
 #include "Platform/Clock.h"
 #include "Platform/Console.h"
 #include "Platform/Folders.h"
-#include "Readers/ChromiumReader.h"
-#include "Readers/SafariReader.h"
+#include "Readers/Chromium/ChromiumReader.h"
+#include "Readers/Safari/SafariReader.h"
 
 #include <QDateTime>
 #include <QEventLoop>

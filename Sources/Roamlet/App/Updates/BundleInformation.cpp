@@ -3,7 +3,7 @@
 
 #include "App/Updates/BundleInformation.h"
 
-#include "Readers/PropertyList.h"
+#include "Readers/Files/PropertyList.h"
 
 #include <QFile>
 

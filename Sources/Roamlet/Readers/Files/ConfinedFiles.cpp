@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
-#include "Readers/ConfinedFiles.h"
+#include "Readers/Files/ConfinedFiles.h"
 
 #include <sqlite3.h>
 

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
-#include "Readers/PropertyList.h"
+#include "Readers/Files/PropertyList.h"
 
-#include "Readers/PropertyListGuard.h"
+#include "Readers/Files/PropertyListGuard.h"
 
 #include <QtEndian>
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
-#include "Readers/Json.h"
+#include "Readers/Files/Json.h"
 
 namespace roamlet::Json
 {

@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
-#include "Readers/SafariReader.h"
+#include "Readers/Safari/SafariReader.h"
 
 #include "Platform/Files.h"
 #include "Readers/BookmarkTree.h"
-#include "Readers/PropertyList.h"
-#include "Readers/SQLiteSnapshot.h"
+#include "Readers/Files/PropertyList.h"
+#include "Readers/Files/SQLiteSnapshot.h"
 
 #include <QUuid>
 

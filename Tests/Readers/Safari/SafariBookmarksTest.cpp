@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "Readers/ReaderTest.h"
-#include "Readers/SafariReader.h"
+#include "Readers/Safari/SafariReader.h"
 #include "SampleHome/PlainFiles.h"
 #include "SampleHome/PropertyLists.h"
 #include "SampleHome/SafariFiles.h"

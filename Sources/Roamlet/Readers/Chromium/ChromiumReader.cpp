@@ -1,13 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
-#include "Readers/ChromiumReader.h"
+#include "Readers/Chromium/ChromiumReader.h"
 
 #include "Model/Collation.h"
 #include "Platform/Files.h"
 #include "Readers/BookmarkTree.h"
-#include "Readers/Json.h"
-#include "Readers/SQLiteSnapshot.h"
+#include "Readers/Files/Json.h"
+#include "Readers/Files/SQLiteSnapshot.h"
 
 #include <QUuid>
 

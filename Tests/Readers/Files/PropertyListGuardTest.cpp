@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
-#include "Readers/PropertyListGuard.h"
+#include "Readers/Files/PropertyListGuard.h"
 
-#include "Readers/BinaryPropertyList.h"
-#include "Readers/PropertyList.h"
+#include "Readers/Files/BinaryPropertyList.h"
+#include "Readers/Files/PropertyList.h"
 #include "Readers/ReaderTest.h"
 
 #include <sys/resource.h>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
-#include "Readers/LiteralLike.h"
+#include "Readers/Files/LiteralLike.h"
 
 #include <sqlite3.h>
 

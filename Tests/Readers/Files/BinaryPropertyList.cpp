@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
-#include "Readers/BinaryPropertyList.h"
+#include "Readers/Files/BinaryPropertyList.h"
 
 #include <bit>
 

@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
-#include "Readers/SQLiteSnapshot.h"
+#include "Readers/Files/SQLiteSnapshot.h"
 
 #include "Platform/Files.h"
 #include "Platform/Processes.h"
-#include "Readers/ConfinedFiles.h"
-#include "Readers/LiteralLike.h"
+#include "Readers/Files/ConfinedFiles.h"
+#include "Readers/Files/LiteralLike.h"
 #include "Readers/ReadContext.h"
 
 #include <QFile>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
-#include "Readers/SQLiteSnapshot.h"
+#include "Readers/Files/SQLiteSnapshot.h"
 
 #include "Readers/ReaderTest.h"
 #include "SampleHome/PlainFiles.h"

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "Readers/ReaderTest.h"
-#include "Readers/SQLiteSnapshot.h"
+#include "Readers/Files/SQLiteSnapshot.h"
 #include "SampleHome/PlainFiles.h"
 
 #include <QDir>
