@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "SampleHome/ChromiumFiles.h"
+#include "SampleHome/FirefoxFiles.h"
 #include "SampleHome/SafariFiles.h"
 #include "SampleHome/SqliteFile.h"
 
@@ -150,7 +151,27 @@ TEST_F(SampleFiles, everyDatabaseCanBeLeftInEveryState)
     const Rows<SafariIcon> icons{{.uuid = u"first"_s, .timestamp = 1}, {.uuid = u"second"_s, .timestamp = 2}};
     const Rows<SafariIconPage> iconPages{{.url = u"https://a.example/"_s, .uuid = u"first"_s},
                                          {.url = u"https://b.example/"_s, .uuid = u"second"_s}};
+    const Rows<FirefoxPage> places{{.url = u"https://a.example/"_s, .title = u"first"_s},
+                                   {.url = u"https://b.example/"_s, .title = u"second"_s}};
+    const Rows<FirefoxIcon> placeIcons{
+        {.id = 1, .url = u"https://a.example/i"_s, .data = QByteArray("first")},
+        {.id = 2, .url = u"https://b.example/i"_s, .data = QByteArray("second")}};
+    const Rows<FirefoxIconPage> iconPlaces{{.url = u"https://a.example/"_s, .icons = {1}},
+                                           {.url = u"https://b.example/"_s, .icons = {2}}};
+    const Rows<FirefoxGroupProfile> group{{.path = u"a"_s, .name = u"first"_s},
+                                          {.path = u"b"_s, .name = u"second"_s}};
     const std::vector<Case> cases{
+        {"places.sqlite",
+         [&](const QString &file, Journal journal) { writeFirefoxPlaces(file, places, {}, journal); },
+         "SELECT title FROM moz_places WHERE hidden = 0 ORDER BY id"},
+        {"favicons.sqlite",
+         [&](const QString &file, Journal journal) {
+             writeFirefoxFavicons(file, placeIcons, iconPlaces, journal);
+         },
+         "SELECT data FROM moz_icons_to_pages JOIN moz_icons ON id = icon_id ORDER BY id"},
+        {"1234abcd.sqlite",
+         [&](const QString &file, Journal journal) { writeFirefoxGroup(file, group, journal); },
+         "SELECT name FROM Profiles ORDER BY id"},
         {"Favicons",
          [&](const QString &file, Journal journal) { writeFavicons(file, bitmaps, mappings, journal); },
          "SELECT image_data FROM icon_mapping JOIN favicon_bitmaps USING (icon_id) ORDER BY icon_id"},
@@ -170,12 +191,89 @@ TEST_F(SampleFiles, everyDatabaseCanBeLeftInEveryState)
     const QStringList rows{u"first"_s, u"second"_s};
     for (const Case &database : cases) {
         const QString file = path(QString::fromLatin1(database.name));
-        for (const Journal journal : {Journal::Clean, Journal::UnmergedWal, Journal::HotJournal}) {
+        for (const Journal journal :
+             {Journal::Clean, Journal::UnmergedWal, Journal::WalAlone, Journal::HotJournal}) {
             database.write(file, journal);
             EXPECT_EQ(queryWithSidecars(file, database.sql), rows) << database.name;
             EXPECT_EQ(queryMainFile(file, database.sql) == rows, journal == Journal::Clean) << database.name;
         }
     }
+}
+
+TEST_F(SampleFiles, nothingIsInTheMainFileWhereTheLogIsAlone)
+{
+    const QString file = path(u"places.sqlite"_s);
+    writeFirefoxPlaces(file, {{.url = u"https://a.example/"_s}}, {}, Journal::WalAlone);
+    EXPECT_EQ(queryMainFile(file, "SELECT count(*) FROM sqlite_master"), QStringList{u"0"_s});
+    EXPECT_EQ(queryWithSidecars(file, "SELECT url FROM moz_places"), QStringList{u"https://a.example/"_s});
+}
+
+TEST_F(SampleFiles, firefoxKeepsNoSharedMemoryBesideItsLogs)
+{
+    for (const Journal journal : {Journal::UnmergedWal, Journal::WalAlone}) {
+        writeFirefoxPlaces(path(u"places.sqlite"_s), {{.url = u"https://a.example/"_s}}, {}, journal);
+        EXPECT_TRUE(QFile::exists(path(u"places.sqlite-wal"_s)));
+        EXPECT_FALSE(QFile::exists(path(u"places.sqlite-shm"_s)));
+    }
+}
+
+TEST_F(SampleFiles, firefoxFindsItsPagesByTheNumbersThatItMakes)
+{
+    // The numbers were read from a database that Firefox had written.
+    const QString file = path(u"places.sqlite"_s);
+    writeFirefoxPlaces(file, {{.url = u"https://www.mozilla.org/about/"_s}});
+    EXPECT_EQ(query(file, "SELECT url_hash FROM moz_places"), QStringList{u"47357608426557"_s});
+    EXPECT_EQ(query(file, "SELECT rev_host FROM moz_places"), QStringList{u"gro.allizom.www."_s});
+    EXPECT_EQ(query(file, "SELECT prefix || host FROM moz_origins"),
+              QStringList{u"https://www.mozilla.org"_s});
+    const QString icons = path(u"favicons.sqlite"_s);
+    writeFirefoxFavicons(icons, {{.url = u"fake-favicon-uri:https://www.mozilla.org/about/"_s}},
+                         {{.url = u"https://www.mozilla.org/about/"_s}});
+    EXPECT_EQ(query(icons, "SELECT fixed_icon_url_hash FROM moz_icons"), QStringList{u"136571782002801"_s});
+    EXPECT_EQ(query(icons, "SELECT page_url_hash FROM moz_pages_w_icons"), QStringList{u"47357608426557"_s});
+}
+
+TEST_F(SampleFiles, aFirefoxBookmarkSharesThePageOfTheHistory)
+{
+    const QString file = path(u"places.sqlite"_s);
+    const FirefoxBookmarks bookmarks{
+        .toolbar = {firefoxBookmark(u"Visited"_s, u"https://a.example/"_s, firefoxTime(1), {u"later"_s}),
+                    firefoxSeparator(),
+                    firefoxFolder(u"Folder"_s, {firefoxBookmark(u"New"_s, u"https://b.example/"_s, 2)})},
+        .mobile = {firefoxBookmark(u"Pocket"_s, u"https://c.example/"_s, 3)}};
+    writeFirefoxPlaces(file, {{.id = 70, .url = u"https://a.example/"_s, .lastVisitDate = firefoxTime(9)}},
+                       firefoxBookmarkRows(bookmarks), Journal::UnmergedWal);
+    EXPECT_EQ(
+        query(file, "SELECT id || ' ' || url || ' ' || visit_count || ' ' || foreign_count FROM moz_places"),
+        (QStringList{u"70 https://a.example/ 1 2"_s, u"71 https://b.example/ 0 1"_s,
+                     u"72 https://c.example/ 0 1"_s}));
+    EXPECT_EQ(
+        query(file, "SELECT p.guid || ' ' || b.position || ' ' || b.type || ' ' || b.title || ' ' ||"
+                    " coalesce(b.fk, '') FROM moz_bookmarks b JOIN moz_bookmarks p ON p.id = b.parent"
+                    " WHERE p.id IN (3, 4, 6) ORDER BY p.id, b.position"),
+        (QStringList{u"toolbar_____ 0 1 Visited 70"_s, u"toolbar_____ 1 3  "_s, u"toolbar_____ 2 2 Folder "_s,
+                     u"tags________ 0 2 later "_s, u"mobile______ 0 1 Pocket 72"_s}));
+    EXPECT_EQ(query(file, "SELECT b.fk FROM moz_bookmarks b JOIN moz_bookmarks f ON f.id = b.parent WHERE"
+                          " f.title IN ('Folder', 'later') ORDER BY b.fk"),
+              (QStringList{u"70"_s, u"71"_s}));
+    EXPECT_EQ(query(file, "SELECT count(DISTINCT guid) = count(*) FROM moz_bookmarks"), QStringList{u"1"_s});
+}
+
+TEST_F(SampleFiles, firefoxProfilesAreWrittenAsFirefoxDoes)
+{
+    const QString file = path(u"profiles.ini"_s);
+    writeFirefoxProfiles(
+        file,
+        {{.name = u"Work"_s, .path = u"abcd1234.Work"_s, .isDefault = true},
+         {.name = u"default"_s, .path = u"/somewhere/else"_s, .isRelative = false, .storeID = u"1234abcd"_s}},
+        {{.hash = u"4F96D1932A9F858E"_s, .defaultPath = u"abcd1234.Work"_s}});
+    QFile written(file);
+    ASSERT_TRUE(written.open(QIODevice::ReadOnly));
+    EXPECT_EQ(written.readAll(), "[Profile1]\nName=default\nIsRelative=0\nPath=/somewhere/else\n"
+                                 "StoreID=1234abcd\nShowSelector=1\n\n"
+                                 "[Profile0]\nName=Work\nIsRelative=1\nPath=abcd1234.Work\nDefault=1\n\n"
+                                 "[General]\nStartWithLastProfile=1\nVersion=2\n\n"
+                                 "[Install4F96D1932A9F858E]\nDefault=abcd1234.Work\nLocked=1\n\n");
 }
 
 TEST_F(SampleFiles, textsAreStoredByteForByte)

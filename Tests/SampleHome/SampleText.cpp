@@ -225,6 +225,19 @@ QString Random::uuid()
            u'-' % hex.sliced(20, 12);
 }
 
+QString Random::guid()
+{
+    constexpr QStringView characters = u"ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-_";
+    // Nine characters for each random number, and six of its 64 bits for each of them.
+    QString guid;
+    for (quint64 bits = next(), left = 0; guid.size() < 12; ++left, bits >>= 6) {
+        if (left == 9)
+            bits = next();
+        guid += characters.at(qsizetype(bits & 63));
+    }
+    return guid;
+}
+
 Page page(quint64 seed, qsizetype number)
 {
     if (number % pagesPerFrontPage == 0)

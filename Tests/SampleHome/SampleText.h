@@ -20,6 +20,8 @@ public:
     qint64 below(qint64 bound);
     /// In the upper-case form with hyphens that Safari writes.
     QString uuid();
+    /// In the form of twelve characters that Firefox writes.
+    QString guid();
 
 private:
     quint64 m_state;

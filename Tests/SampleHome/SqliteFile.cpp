@@ -59,6 +59,14 @@ void writeAllRows(Database &database, const DatabaseContents &contents, Share::W
     });
 }
 
+/// From here on, changes stay in the log.
+void startLog(Database &database, const DatabaseContents &contents)
+{
+    if (!contents.hasSharedMemory)
+        database.execute("PRAGMA locking_mode = EXCLUSIVE");
+    database.execute("PRAGMA synchronous = OFF; PRAGMA journal_mode = WAL; PRAGMA wal_autocheckpoint = 0");
+}
+
 /// Both files are copied while the change is half way into the main file: what a browser leaves that is
 /// killed then.
 void leaveHotJournal(const QString &path, const DatabaseContents &contents)
@@ -169,13 +177,19 @@ void writeDatabase(const QString &path, const DatabaseContents &contents, Journa
         Database database(path);
         const QByteArray pageSize = "PRAGMA page_size = " + QByteArray::number(contents.pageSize);
         database.execute(pageSize.constData());
+        if (journal == Journal::WalAlone) {
+            startLog(database, contents);
+            database.keepLog();
+            writeAllRows(database, contents, Share::Which::All);
+            return;
+        }
         // Nothing to lose here, and nobody else looks on.
         database.execute(
             "PRAGMA synchronous = OFF; PRAGMA locking_mode = EXCLUSIVE; PRAGMA journal_mode = MEMORY;"
             "PRAGMA cache_size = -65536; PRAGMA temp_store = MEMORY");
         const bool hasLog = journal == Journal::UnmergedWal;
         writeAllRows(database, contents, hasLog ? Share::Which::Earlier : Share::Which::All);
-        // A log needs its index in shared memory, as the browsers have it, and that excludes an exclusive
+        // A log needs its index in shared memory, as most browsers have it, and that excludes an exclusive
         // lock.
         database.execute("PRAGMA locking_mode = NORMAL; SELECT count(*) FROM sqlite_master");
     }
@@ -185,8 +199,7 @@ void writeDatabase(const QString &path, const DatabaseContents &contents, Journa
     }
     if (journal == Journal::UnmergedWal || contents.isWalDatabase) {
         Database database(path);
-        database.execute(
-            "PRAGMA synchronous = OFF; PRAGMA journal_mode = WAL; PRAGMA wal_autocheckpoint = 0");
+        startLog(database, contents);
         if (journal == Journal::UnmergedWal) {
             database.keepLog();
             inTransaction(database, [&] { contents.fill(database, {Share::Which::Later}); });

@@ -84,8 +84,12 @@ private:
 enum class Journal {
     /// Everything in the main file, no other file beside it.
     Clean,
-    /// The later half of the rows (all of them, when there is one) only in a "-wal", with its "-shm".
+    /// The later half of the rows (all of them, when there is one) only in a "-wal", with its "-shm" where
+    /// the
+    /// browser has one.
     UnmergedWal,
+    /// Nothing but a header in the main file: tables and rows are only in a "-wal".
+    WalAlone,
     /// The main file holds half of a change that was never committed; only a "-journal" leads back to the
     /// rows.
     HotJournal
@@ -164,6 +168,8 @@ struct DatabaseContents {
     int pageSize = 4096;
     /// Whether the browser uses a write-ahead log for this file.
     bool isWalDatabase = false;
+    /// Whether the log's index is in a "-shm"; a browser that holds the file alone keeps it in its memory.
+    bool hasSharedMemory = true;
 };
 
 /// Writes a database file and leaves it in this state.
