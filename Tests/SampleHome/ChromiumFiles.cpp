@@ -4,8 +4,12 @@
 #include "SampleHome/ChromiumFiles.h"
 
 #include "SampleHome/PlainFiles.h"
+#include "SampleHome/SampleText.h"
 
 #include <QJsonDocument>
+
+#include <array>
+#include <utility>
 
 namespace roamlet::sample
 {
@@ -166,6 +170,46 @@ QJsonObject folderNode(const QString &id, const QString &name, const QJsonArray 
 void writeBookmarks(const QString &path, const QJsonObject &roots)
 {
     writeFile(path, indented({{u"checksum"_s, QString()}, {u"roots"_s, roots}, {u"version"_s, 1}}));
+}
+
+QJsonObject operaCustomRoot(const QMap<QString, QJsonArray> &children)
+{
+    constexpr std::array<std::pair<QStringView, QStringView>, 5> folders{
+        {{u"pinboard", u"Pinboard"},
+         {u"speedDial", u"Speed Dial"},
+         {u"trash", u"Trash"},
+         {u"unsorted", u"Unsorted Bookmarks"},
+         {u"userRoot", u"User Root"}}};
+    QJsonObject root;
+    for (qint64 id = 1'000'000; const auto &[key, name] : folders)
+        root.insert(key, folderNode(QString::number(id++), name.toString(), children.value(key.toString())));
+    return root;
+}
+
+void writeEncryptedBookmarks(const QString &path, const QByteArray &beginning)
+{
+    Random random(quint64(beginning.size()));
+    QByteArray bytes = beginning;
+    while (bytes.size() < 400)
+        bytes.append(char(random.below(256)));
+    writeFile(path, bytes);
+}
+
+QJsonObject profileInfo(const QString &name)
+{
+    return {{u"name"_s, name},
+            {u"is_using_default_name"_s, false},
+            {u"is_ephemeral"_s, false},
+            {u"active_time"_s, 1'700'000'000.0},
+            {u"avatar_icon"_s, u"chrome://theme/IDR_PROFILE_AVATAR_26"_s},
+            {u"user_name"_s, u""_s}};
+}
+
+QJsonObject ephemeralProfileInfo(const QString &name)
+{
+    QJsonObject info = profileInfo(name);
+    info.insert(u"is_ephemeral"_s, true);
+    return info;
 }
 
 void writeLocalState(const QString &path, const QJsonObject &infoCache)

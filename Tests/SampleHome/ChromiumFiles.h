@@ -9,6 +9,7 @@
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QList>
+#include <QMap>
 #include <QString>
 
 #include <optional>
@@ -58,8 +59,20 @@ void writeFavicons(const QString &path, const Rows<FaviconBitmap> &bitmaps,
 QJsonObject bookmarkNode(const QString &id, const QString &name, const QString &url, qint64 dateAdded);
 /// A folder as it stands in that file.
 QJsonObject folderNode(const QString &id, const QString &name, const QJsonArray &children);
-/// Writes a profile's "Bookmarks"; "roots" holds "bookmark_bar", "other" and "synced".
+/// Writes a profile's "Bookmarks" or "AccountBookmarks"; "roots" holds "bookmark_bar", "other" and "synced".
 void writeBookmarks(const QString &path, const QJsonObject &roots);
+
+/// Opera's further root, "custom_root": its folders by their keys, with what lies in them by the same keys.
+QJsonObject operaCustomRoot(const QMap<QString, QJsonArray> &children);
+
+/// Writes a profile's "EncryptedBookmarks2" or another that nobody else can read. It begins with how it is
+/// encrypted, "v10" or "v11".
+void writeEncryptedBookmarks(const QString &path, const QByteArray &beginning = "v10");
+
+/// What the profile list says about a profile.
+QJsonObject profileInfo(const QString &name);
+/// The same of one that is gone when its last window is closed.
+QJsonObject ephemeralProfileInfo(const QString &name);
 
 /// Writes a browser's "Local State", of which the profile list is the interesting part.
 void writeLocalState(const QString &path, const QJsonObject &infoCache);
