@@ -18,11 +18,6 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-struct AwkwardPage {
-    Text url;
-    Text title;
-};
-
 /// A text literal with everything in it, NUL bytes too.
 template<size_t size>
 Text rawText(const char (&bytes)[size])
@@ -102,17 +97,17 @@ QList<AwkwardPage> awkwardAddresses()
             at(rawText("https://broken.example/\xff\xc3"))};
 }
 
-QList<AwkwardPage> awkwardPages()
-{
-    return awkwardTitles() + awkwardAddresses();
-}
-
 QByteArray favoritesFolder(const QVariant &serverID, PropertyListFormat format)
 {
     return propertyList(QVariantMap{{u"CustomFavoritesFolderServerID"_s, serverID}}, format);
 }
 
 } // namespace
+
+QList<AwkwardPage> awkwardPages()
+{
+    return awkwardTitles() + awkwardAddresses();
+}
 
 QList<HistoryRow> awkwardHistory(qint64 newest)
 {

@@ -17,8 +17,15 @@ namespace roamlet::sample
 // What real homes hold once in a thousand rows, and broken ones more often. Everything here must be read
 // without a crash; most of it must be shown.
 
-/// Pages whose titles and addresses are hard to show, to split or to store. Moments are Unix seconds
-/// throughout.
+struct AwkwardPage {
+    Text url;
+    Text title;
+};
+
+/// Pages whose titles and addresses are hard to show, to split or to store.
+QList<AwkwardPage> awkwardPages();
+
+/// Rows with them, and with unusual numbers. Moments are Unix seconds throughout.
 QList<HistoryRow> awkwardHistory(qint64 newest);
 
 /// The same pages for Safari, where an address is never NULL and stands only once.

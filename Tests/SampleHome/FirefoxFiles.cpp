@@ -215,7 +215,7 @@ PlacesWriter::Statements::Statements(Database &database)
                             " VALUES(?, ?, ?, ?, ?, ?, 100, ?, ?, ?, ?)")),
       visit(database.prepare("INSERT INTO moz_historyvisits(from_visit, place_id, visit_date, visit_type,"
                              " session) VALUES(0, ?, ?, ?, 0)")),
-      bookmark(database.prepare("INSERT INTO moz_bookmarks(id, type, fk, parent, position, title, dateAdded,"
+      bookmark(database.prepare("REPLACE INTO moz_bookmarks(id, type, fk, parent, position, title, dateAdded,"
                                 " lastModified, guid) VALUES(?, ?, ?, ?, ?, ?, ?, ?, ?)")),
       reference(database.prepare("UPDATE moz_places SET foreign_count = foreign_count + 1 WHERE id = ?"))
 {
@@ -273,7 +273,7 @@ void PlacesWriter::insertBookmark(Database &database, Statements &statements, co
     const std::optional<qint64> page = pageOf(database, statements, row);
     statements.bookmark.run(row.id, row.type, page, row.parent, row.position, row.title, row.dateAdded,
                             row.dateAdded,
-                            row.guid.bytes() ? row.guid : guidOf("moz_bookmarks", ++m_writtenBookmarks));
+                            row.guid ? *row.guid : guidOf("moz_bookmarks", ++m_writtenBookmarks));
     if (page)
         statements.reference.run(*page);
 }
@@ -337,6 +337,48 @@ QList<FirefoxBookmarkRow> RowCollector::finish()
             append({.parent = folder, .position = inFolder++, .url = url, .dateAdded = someTime});
     }
     return std::exchange(m_rows, {});
+}
+
+/// An INI file in the making.
+class IniText final
+{
+public:
+    struct Entry {
+        QString key;
+        QString value;
+    };
+
+    explicit IniText(const IniStyle &style) : m_style(style) {}
+
+    void add(const QString &section, const QList<Entry> &entries);
+    QByteArray bytes() const;
+
+private:
+    IniStyle m_style;
+    QString m_text;
+};
+
+void IniText::add(const QString &section, const QList<Entry> &entries)
+{
+    if (m_style.hasComments)
+        m_text += u";[Commented]\n#[Commented]\n";
+    m_text += u'[' % section % u"]\n";
+    for (const Entry &entry : entries) {
+        if (m_style.hasComments)
+            m_text += u";%1=comment\n#%1=comment\n"_s.arg(entry.key);
+        if (m_style.repeatsKeys)
+            m_text += entry.key % u"=an earlier value\n";
+        m_text += entry.key % u'=' % entry.value % u'\n';
+    }
+    m_text += u'\n';
+}
+
+QByteArray IniText::bytes() const
+{
+    QByteArray bytes = m_text.toUtf8();
+    if (m_style.hasWindowsLineEnds)
+        bytes.replace("\n", "\r\n");
+    return m_style.hasByteOrderMark ? "\xef\xbb\xbf" + bytes : bytes;
 }
 
 } // namespace
@@ -428,23 +470,28 @@ void writeFirefoxFavicons(const QString &path, const Rows<FirefoxIcon> &icons,
 }
 
 void writeFirefoxProfiles(const QString &path, const QList<FirefoxProfile> &profiles,
-                          const QList<FirefoxInstall> &installs)
+                          const QList<FirefoxInstall> &installs, const IniStyle &style)
 {
-    QString text;
-    for (qsizetype number = profiles.size() - 1; number >= 0; --number) {
-        const FirefoxProfile &profile = profiles.at(number);
-        text += u"[Profile%1]\nName=%2\nIsRelative=%3\nPath=%4\n"_s.arg(
-            QString::number(number), profile.name, QString::number(profile.isRelative ? 1 : 0), profile.path);
+    IniText text(style);
+    for (qsizetype index = profiles.size() - 1; index >= 0; --index) {
+        const FirefoxProfile &profile = profiles.at(index);
+        const QString header = u"Profile%1"_s.arg(index * style.step);
+        QList<IniText::Entry> entries{{u"Name"_s, profile.name},
+                                      {u"IsRelative"_s, profile.isRelative ? u"1"_s : u"0"_s},
+                                      {u"Path"_s, profile.path}};
         if (!profile.storeID.isEmpty())
-            text += u"StoreID=%1\nShowSelector=1\n"_s.arg(profile.storeID);
+            entries += {{u"StoreID"_s, profile.storeID}, {u"ShowSelector"_s, u"1"_s}};
         if (profile.isDefault)
-            text += u"Default=1\n";
-        text += u'\n';
+            entries += {u"Default"_s, u"1"_s};
+        const qsizetype first = style.splitsSections ? 1 : entries.size();
+        text.add(header, entries.first(first));
+        if (style.splitsSections)
+            text.add(header, entries.sliced(first));
     }
-    text += u"[General]\nStartWithLastProfile=1\nVersion=2\n\n";
+    text.add(u"General"_s, {{u"StartWithLastProfile"_s, u"1"_s}, {u"Version"_s, u"2"_s}});
     for (const FirefoxInstall &install : installs)
-        text += u"[Install%1]\nDefault=%2\nLocked=1\n\n"_s.arg(install.hash, install.defaultPath);
-    writeFile(path, text.toUtf8());
+        text.add(u"Install" % install.hash, {{u"Default"_s, install.defaultPath}, {u"Locked"_s, u"1"_s}});
+    writeFile(path, text.bytes());
 }
 
 void writeFirefoxGroup(const QString &path, const Rows<FirefoxGroupProfile> &profiles, Journal journal)

@@ -64,7 +64,7 @@ struct FirefoxBookmarkRow {
     /// Microseconds since 1970.
     std::optional<qint64> dateAdded = {};
     /// Without one, twelve characters are made up.
-    Text guid = {};
+    std::optional<Text> guid = {};
 };
 
 /// A bookmark, a folder or a separator with what is in it, as rows that do not know their numbers yet.
@@ -74,7 +74,7 @@ struct FirefoxNode {
     Text url = {};
     /// Microseconds since 1970.
     std::optional<qint64> dateAdded = {};
-    Text guid = {};
+    std::optional<Text> guid = {};
     QStringList tags = {};
     QList<FirefoxNode> children = {};
 };
@@ -96,8 +96,9 @@ struct FirefoxBookmarks {
 /// tags.
 QList<FirefoxBookmarkRow> firefoxBookmarkRows(const FirefoxBookmarks &bookmarks);
 
-/// Writes a profile's "places.sqlite": each page with a date gets one visit then. An unmerged log holds the
-/// later half of the pages and all of the bookmarks. Firefox holds its databases alone, so there is no
+/// Writes a profile's "places.sqlite": each page with a date gets one visit then, and a bookmark replaces a
+/// folder with its number. An unmerged log holds the later half of the pages and all of the bookmarks.
+/// Firefox holds its databases alone, so there is no
 /// "-shm".
 void writeFirefoxPlaces(const QString &path, const Rows<FirefoxPage> &pages,
                         const Rows<FirefoxBookmarkRow> &bookmarks = {}, Journal journal = Journal::Clean);
@@ -143,9 +144,23 @@ struct FirefoxInstall {
     QString defaultPath = {};
 };
 
+/// How a "profiles.ini" differs from one that Firefox has written, for all of which it would be the same.
+struct IniStyle {
+    bool hasByteOrderMark = false;
+    bool hasWindowsLineEnds = false;
+    /// Lines that look like sections and keys but for their first character.
+    bool hasComments = false;
+    /// Each key stands there with another value before.
+    bool repeatsKeys = false;
+    /// Each section of a profile stands there twice, with a part of its keys.
+    bool splitsSections = false;
+    /// From one profile's number to the next.
+    int step = 1;
+};
+
 /// Writes a Firefox's "profiles.ini", the newest profile first, as it does.
 void writeFirefoxProfiles(const QString &path, const QList<FirefoxProfile> &profiles,
-                          const QList<FirefoxInstall> &installs = {});
+                          const QList<FirefoxInstall> &installs = {}, const IniStyle &style = {});
 
 /// One row of the table "Profiles" of a group's database.
 struct FirefoxGroupProfile {

@@ -4,6 +4,7 @@
 #include "SampleHome/SampleBookmarks.h"
 
 #include "SampleHome/ChromiumFiles.h"
+#include "SampleHome/FirefoxFiles.h"
 #include "SampleHome/SafariFiles.h"
 #include "SampleHome/SampleText.h"
 
@@ -87,6 +88,21 @@ QVariantList safariEntries(const QList<BookmarkEntry> &entries, Random &random)
                                      safariEntries(std::get<BookmarkEntry::Folder>(entry.content), random)));
     }
     return list;
+}
+
+QList<FirefoxNode> firefoxNodes(const QList<BookmarkEntry> &entries)
+{
+    QList<FirefoxNode> nodes;
+    for (const BookmarkEntry &entry : entries) {
+        if (const auto *link = std::get_if<BookmarkEntry::Link>(&entry.content)) {
+            const QStringList tags = link->added % 5 == 0 ? QStringList{u"later"_s} : QStringList();
+            nodes.append(firefoxBookmark(entry.title, link->url, firefoxTime(link->added), tags));
+        } else {
+            nodes.append(
+                firefoxFolder(entry.title, firefoxNodes(std::get<BookmarkEntry::Folder>(entry.content))));
+        }
+    }
+    return nodes;
 }
 
 } // namespace roamlet::sample

@@ -14,6 +14,7 @@ namespace roamlet::sample
 {
 
 class Random;
+struct FirefoxNode;
 
 /// A bookmark or a folder, as every browser knows them; each writes them in its own way.
 struct BookmarkEntry {
@@ -36,5 +37,8 @@ QJsonArray chromiumNodes(const QList<BookmarkEntry> &entries, qint64 &nextID);
 
 /// The entries as they stand in Safari's file.
 QVariantList safariEntries(const QList<BookmarkEntry> &entries, Random &random);
+
+/// The entries as Firefox has them, some of them with tags.
+QList<FirefoxNode> firefoxNodes(const QList<BookmarkEntry> &entries);
 
 } // namespace roamlet::sample

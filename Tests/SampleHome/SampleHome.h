@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QDateTime>
+#include <QList>
 #include <QString>
 
 namespace roamlet::sample
@@ -17,6 +18,14 @@ enum class Layout {
     Linux
 };
 
+/// A browser that shall be there.
+struct BrowserSample {
+    /// "KIND" or "KIND@KEY", such as "firefox" or "firefox@flatpak"; "@old" stands for the folders of earlier
+    /// versions.
+    QString name;
+    int profiles = 1;
+};
+
 /// What a whole home folder shall hold. The same options give the same home (but for the random salts in
 /// SQLite's logs).
 struct Options {
@@ -25,6 +34,8 @@ struct Options {
     int edgeProfiles = 1;
     /// Beside the default one; the macOS layout only. Below zero, there is no Safari at all.
     int safariProfiles = 1;
+    /// Any browsers, beside these three; a number that is given here for Chrome or Edge wins.
+    QList<BrowserSample> furtherBrowsers = {};
     qsizetype rowsPerProfile = 1000;
     qsizetype bookmarksPerProfile = 120;
     qsizetype iconsPerProfile = 40;

@@ -30,6 +30,16 @@ int count(const QCommandLineParser &parser, const QString &name, int lowest)
     return number;
 }
 
+/// "firefox@flatpak=2": two profiles of that browser.
+roamlet::sample::BrowserSample browser(const QString &text)
+{
+    bool isNumber = false;
+    const int number = text.section(u'=', 1).toInt(&isNumber);
+    if (!isNumber || number < 0)
+        throw Failure(u"--profiles needs a browser and a number, such as firefox=2, not \""_s % text % u'"');
+    return {text.section(u'=', 0, 0), number};
+}
+
 Layout layout(const QString &name)
 {
     if (name != u"mac" && name != u"linux")
@@ -59,7 +69,8 @@ int main(int argc, char *argv[])
     const QCoreApplication application(argc, argv);
     roamlet::sample::Options options;
     QCommandLineParser parser;
-    parser.setApplicationDescription(u"Writes a home folder with the files of Safari, Chrome and Edge."_s);
+    parser.setApplicationDescription(
+        u"Writes a home folder with the files of browsers: Safari, Chrome and Edge, and others that are asked for."_s);
     parser.addHelpOption();
     parser.addPositionalArgument(u"FOLDER"_s, u"The home to write; it is made when it does not exist."_s);
     const auto numbered = [](const QString &name, const QString &description, qsizetype standard) {
@@ -72,6 +83,10 @@ int main(int argc, char *argv[])
          numbered(u"safari"_s,
                   u"Safari profiles beside the default one, in the mac layout; -1 for no Safari."_s,
                   options.safariProfiles),
+         {u"profiles"_s,
+          u"Profiles of any browser, as often as wanted: firefox=2, chromium@snap=1. The folders of earlier "
+          "versions are called @old."_s,
+          u"KIND[@KEY]=N"_s},
          numbered(u"rows"_s, u"History rows in each profile."_s, options.rowsPerProfile),
          numbered(u"bookmarks"_s, u"Bookmarks in each profile."_s, options.bookmarksPerProfile),
          numbered(u"icons"_s, u"Site icons in each profile."_s, options.iconsPerProfile),
@@ -91,6 +106,8 @@ int main(int argc, char *argv[])
         options.chromeProfiles = count(parser, u"chrome"_s, 0);
         options.edgeProfiles = count(parser, u"edge"_s, 0);
         options.safariProfiles = count(parser, u"safari"_s, -1);
+        for (const QString &text : parser.values(u"profiles"_s))
+            options.furtherBrowsers.append(browser(text));
         options.rowsPerProfile = count(parser, u"rows"_s, 0);
         options.bookmarksPerProfile = count(parser, u"bookmarks"_s, 0);
         options.iconsPerProfile = count(parser, u"icons"_s, 0);
