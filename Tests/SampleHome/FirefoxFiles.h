@@ -97,9 +97,8 @@ struct FirefoxBookmarks {
 QList<FirefoxBookmarkRow> firefoxBookmarkRows(const FirefoxBookmarks &bookmarks);
 
 /// Writes a profile's "places.sqlite": each page with a date gets one visit then, and a bookmark replaces a
-/// folder with its number. An unmerged log holds the later half of the pages and all of the bookmarks.
-/// Firefox holds its databases alone, so there is no
-/// "-shm".
+/// folder with its number. An unmerged log holds the later half of the pages and all of the bookmarks; it has
+/// no "-shm", because Firefox holds its databases alone.
 void writeFirefoxPlaces(const QString &path, const Rows<FirefoxPage> &pages,
                         const Rows<FirefoxBookmarkRow> &bookmarks = {}, Journal journal = Journal::Clean);
 

@@ -86,7 +86,7 @@ void FirefoxWriter::writeUnusualProfiles(QList<FirefoxProfile> &profiles)
     writeFirefoxGroup(m_root % u"Profile Groups/" % storeID % u".sqlite",
                       {{.path = profiles.at(1).path, .name = u"Renamed in the group"_s},
                        {.path = inGroupOnly, .name = u"In the group only"_s}},
-                      Journal::UnmergedWal);
+                      m_home.options.leavesLogs ? Journal::UnmergedWal : Journal::Clean);
     for (const QString &name : awkwardFirefoxProfileNames()) {
         const QString path = u"awkward.%1"_s.arg(profiles.size());
         writeFirefoxPlaces(m_root % path % u"/places.sqlite", onePage);
@@ -121,8 +121,7 @@ void FirefoxWriter::writePlaces(const QString &file, quint64 seed, Journal journ
     QList<FirefoxPage> awkward;
     if (m_home.options.isAwkward)
         awkward = awkwardFirefoxPages(m_home.newest());
-    writeFirefoxPlaces(file, Rows<FirefoxPage>::generated(count, row) + awkward, bookmarkRows(seed),
-                       journal);
+    writeFirefoxPlaces(file, Rows<FirefoxPage>::generated(count, row) + awkward, bookmarkRows(seed), journal);
     m_home.contents.historyRows += count;
 }
 

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
+#include "SampleHome/AwkwardFirefox.h"
 #include "SampleHome/ChromiumFiles.h"
 #include "SampleHome/FirefoxFiles.h"
 #include "SampleHome/SafariFiles.h"
@@ -274,6 +275,82 @@ TEST_F(SampleFiles, firefoxProfilesAreWrittenAsFirefoxDoes)
                                  "[Profile0]\nName=Work\nIsRelative=1\nPath=abcd1234.Work\nDefault=1\n\n"
                                  "[General]\nStartWithLastProfile=1\nVersion=2\n\n"
                                  "[Install4F96D1932A9F858E]\nDefault=abcd1234.Work\nLocked=1\n\n");
+}
+
+TEST_F(SampleFiles, aProfileListCanBeWrittenInAWayThatFirefoxOnlyReads)
+{
+    const QList<FirefoxProfile> profiles{{.name = u"a"_s, .path = u"x.a"_s},
+                                         {.name = u"b"_s, .path = u"x.b"_s, .isDefault = true}};
+    const auto written = [&](const IniStyle &style) {
+        writeFirefoxProfiles(path(u"profiles.ini"_s), profiles, {}, style);
+        QFile file(path(u"profiles.ini"_s));
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        const QByteArray bytes = file.readAll();
+        return bytes.first(bytes.indexOf("[General]"));
+    };
+    EXPECT_EQ(written({.hasByteOrderMark = true}), "\xef\xbb\xbf" + written({}));
+    EXPECT_EQ(written({.hasWindowsLineEnds = true}), written({}).replace("\n", "\r\n"));
+    EXPECT_EQ(written({.step = 5}), written({}).replace("[Profile1]", "[Profile5]"));
+    EXPECT_TRUE(written({.repeatsKeys = true}).startsWith("[Profile1]\nName=an earlier value\nName=b\n"));
+    EXPECT_TRUE(written({.hasComments = true}).contains("\n;Path=comment\n#Path=comment\nPath=x.a\n"));
+    EXPECT_TRUE(written({.splitsSections = true})
+                    .endsWith("[Profile0]\nName=a\n\n[Profile0]\nIsRelative=1\nPath=x.a\n\n"));
+}
+
+TEST_F(SampleFiles, firefoxFoldersCanBeDeepAndRound)
+{
+    const QString file = path(u"places.sqlite"_s);
+    writeFirefoxPlaces(file, {}, deepFirefoxFolders(firefox_folder::firstFree, 200'000));
+    EXPECT_EQ(query(file, "WITH RECURSIVE below(id, level) AS (SELECT 3, 0 UNION ALL"
+                          " SELECT b.id, level + 1 FROM below JOIN moz_bookmarks b ON b.parent = below.id)"
+                          " SELECT max(level) FROM below"),
+              QStringList{u"200001"_s});
+    QList<FirefoxBookmarkRow> rows = circlingFirefoxFolders(50);
+    rows += firefoxRootBelowItself(firefox_folder::mobile, u"mobile______"_s, 90);
+    writeFirefoxPlaces(file, {}, rows);
+    EXPECT_EQ(query(file, "SELECT id || ' in ' || parent FROM moz_bookmarks WHERE type = 2 AND id > 5"),
+              (QStringList{u"6 in 6"_s, u"50 in 51"_s, u"51 in 50"_s, u"52 in 52"_s}));
+    EXPECT_EQ(query(file, "SELECT guid FROM moz_bookmarks WHERE id = 6"), QStringList{u"mobile______"_s});
+}
+
+TEST_F(SampleFiles, awkwardFirefoxRowsAreWhatTheirNamesSay)
+{
+    const QString file = path(u"places.sqlite"_s);
+    writeFirefoxPlaces(file, awkwardFirefoxPages(1'700'000'000), awkwardFirefoxBookmarks(100));
+    EXPECT_EQ(query(file, "SELECT title FROM moz_bookmarks WHERE position IS NULL"),
+              QStringList{u"Without a place"_s});
+    EXPECT_EQ(query(file, "SELECT title FROM moz_bookmarks WHERE guid IS NULL"),
+              QStringList{u"Without a GUID"_s});
+    EXPECT_EQ(query(file, "SELECT b.title FROM moz_bookmarks b JOIN moz_places p ON p.id = b.fk"
+                          " WHERE p.url IS NULL"),
+              QStringList{u"Page without an address"_s});
+    EXPECT_EQ(query(file, "SELECT title FROM moz_bookmarks WHERE fk NOT IN (SELECT id FROM moz_places)"),
+              QStringList{u"Missing page"_s});
+    EXPECT_EQ(query(file, "SELECT title FROM moz_places WHERE hidden"), QStringList{u"Hidden"_s});
+    EXPECT_EQ(query(file, "SELECT title FROM moz_places WHERE last_visit_date < -1e15 ORDER BY id"),
+              (QStringList{u"Visited at -11644473600000000"_s, u"Visited at -9223372036854775808"_s}));
+    const QString icons = path(u"favicons.sqlite"_s);
+    writeFirefoxFavicons(icons, awkwardFirefoxIcons(1), awkwardFirefoxIconPages(1));
+    EXPECT_EQ(query(icons, "SELECT icon_url FROM moz_icons WHERE data IS NULL"),
+              QStringList{u"fake-favicon-uri:https://no-bytes.example/"_s});
+    EXPECT_EQ(query(icons,
+                    "SELECT width FROM moz_icons JOIN moz_icons_to_pages ON id = icon_id WHERE page_id ="
+                    " (SELECT id FROM moz_pages_w_icons WHERE page_url = 'https://many.example/')"
+                    " ORDER BY id"),
+              (QStringList{u"16"_s, u"32"_s, u"64"_s, u"65535"_s}));
+}
+
+TEST_F(SampleFiles, encryptedBookmarksBeginWithTheirVersion)
+{
+    for (const QByteArray &version : {QByteArray("v10"), QByteArray("v11")}) {
+        writeEncryptedBookmarks(path(u"EncryptedBookmarks2"_s), version);
+        QFile file(path(u"EncryptedBookmarks2"_s));
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        const QByteArray bytes = file.readAll();
+        EXPECT_TRUE(bytes.startsWith(version));
+        EXPECT_FALSE(bytes.contains("roots"));
+        EXPECT_EQ(bytes.size(), 400);
+    }
 }
 
 TEST_F(SampleFiles, textsAreStoredByteForByte)
