@@ -13,10 +13,12 @@ summary=$("$roamlet" --summary 2>/dev/null)
 prefix=
 if [ "$(wc -l <<<"$summary")" -le 1 ]; then
   home=$PWD/build/sample-home
-  [ -d "$home" ] || build/release/roamlet-sample-home --layout mac "$home"
+  # Browsers that a Linux desktop has.
+  [ -d "$home" ] || build/release/roamlet-sample-home --layout linux --profiles firefox=2 --chrome 2 --edge 0 \
+    --profiles chromium=1 "$home"
   echo "There is no browser data here; this is a sample home in build/sample-home."
   export HOME=$home XDG_CONFIG_HOME=$home/.config
-  prefix="HOME=\$PWD/build/sample-home "
+  prefix="HOME=\$PWD/build/sample-home XDG_CONFIG_HOME= "
 fi
 
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
