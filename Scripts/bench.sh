@@ -65,10 +65,18 @@ compare() { # until when, home, rounds, ours, theirs
 recent="SELECT id, url, title, last_visit_time, visit_count FROM urls WHERE hidden = 0"
 search="$recent AND (url || ' ' || title) LIKE '%garden%' ESCAPE '\\' AND (url || ' ' || title) LIKE '%maps%' ESCAPE '\\'
 ORDER BY last_visit_time DESC LIMIT 1000"
+recentPlaces="SELECT id, url, title, last_visit_date, visit_count FROM moz_places
+WHERE hidden = 0 AND last_visit_date IS NOT NULL"
+searchPlaces="$recentPlaces AND (url || ' ' || coalesce(title, '')) LIKE '%garden%' ESCAPE '\\'
+AND (url || ' ' || coalesce(title, '')) LIKE '%maps%' ESCAPE '\\' ORDER BY last_visit_date DESC LIMIT 1000"
+placeBookmarks="SELECT b.id, b.type, b.parent, b.position, b.title, b.dateAdded, b.guid, p.url FROM moz_bookmarks b
+LEFT JOIN moz_places p ON p.id = b.fk ORDER BY b.parent, b.position, b.id"
 
 echo "Preparing the sample homes"
 home million --chrome 1 --edge 0 --rows 1000000 --bookmarks 1000 --icons 100
 home tenth --chrome 1 --edge 0 --rows 100000 --bookmarks 1000 --icons 100
+home million-firefox --chrome 0 --edge 0 --profiles firefox=1 --rows 1000000 --bookmarks 1000 --icons 100
+home mixed --chrome 4 --edge 0 --profiles firefox=4 --rows 100000 --bookmarks 1000 --icons 5000
 home profiles --chrome 4 --edge 4 --rows 100000 --bookmarks 1000 --icons 5000
 home four --chrome 2 --edge 2 --rows 1000 --bookmarks 100 --icons 100
 home ten --chrome 1 --edge 0 --rows 10 --bookmarks 10 --icons 1
@@ -87,6 +95,15 @@ compare untilEnd million 15 "$roamlet --search garden maps" "bash $work/plain-se
 rm -f "$copy"/*
 row "--search of two words, 1,000,000 rows (ms)" "cp, sqlite3 with the same statement" "$ours" "$theirs" 0.9
 
+places=$(echo "$homes"/million-firefox/.config/mozilla/firefox/*.default-release/places.sqlite)
+cat >"$work/plain-search-firefox" <<SEARCH
+cp '$places'* '$copy'
+sqlite3 '$copy/places.sqlite' "$searchPlaces" >/dev/null
+SEARCH
+compare untilEnd million-firefox 15 "$roamlet --search garden maps" "bash $work/plain-search-firefox"
+rm -f "$copy"/*
+row "--search of two words, Firefox, 1,000,000 rows (ms)" "cp, sqlite3 with the same statement" "$ours" "$theirs" 0.9
+
 cat >"$work/plain-summary" <<SUMMARY
 for profile in $homes/profiles/.config/{google-chrome,microsoft-edge}/*/; do
   for file in History Favicons; do
@@ -100,6 +117,27 @@ done
 SUMMARY
 compare untilEnd profiles 9 "$roamlet --summary" "bash $work/plain-summary"
 row "--summary of 8 profiles of 100,000 rows (ms)" "cp, sqlite3, one after the other" "$ours" "$theirs" 0.7
+
+cat >"$work/plain-summary-mixed" <<SUMMARY
+for profile in $homes/mixed/.config/google-chrome/*/; do
+  for file in History Favicons; do
+    cp "\$profile/\$file"* $copy/
+  done
+  sqlite3 $copy/History "$recent ORDER BY last_visit_time DESC LIMIT 1000" >/dev/null
+  sqlite3 $copy/Favicons "SELECT icon_id, image_data, width FROM favicon_bitmaps; SELECT page_url, icon_id FROM icon_mapping" >/dev/null
+  cat "\$profile/Bookmarks" >/dev/null
+  rm -f $copy/*
+done
+for places in $homes/mixed/.config/mozilla/firefox/*/places.sqlite; do
+  cp "\$places"* "\${places%/*}/favicons.sqlite"* $copy/
+  sqlite3 $copy/places.sqlite "$recentPlaces ORDER BY last_visit_date DESC LIMIT 1000; $placeBookmarks" >/dev/null
+  sqlite3 $copy/favicons.sqlite "SELECT id, icon_url, width, root, data FROM moz_icons WHERE width < 65535;
+    SELECT page_url, icon_id FROM moz_pages_w_icons JOIN moz_icons_to_pages ON page_id = id" >/dev/null
+  rm -f $copy/*
+done
+SUMMARY
+compare untilEnd mixed 9 "$roamlet --summary" "bash $work/plain-summary-mixed"
+row "--summary of 4 Chrome and 4 Firefox profiles (ms)" "cp, sqlite3, one after the other" "$ours" "$theirs" 0.7
 
 compare untilEnd ten 41 "$roamlet --export html --source chrome/Default" "$bin/BenchmarkEmptyProgram"
 row "--export html of ten bookmarks, whole process (ms)" "an empty Qt Core program" "$ours" "$theirs" 2
