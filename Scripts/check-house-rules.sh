@@ -14,7 +14,7 @@ fail() {
 # What each folder of Sources/Roamlet may include besides itself. Dependencies point one way.
 declare -A may_include=(
   [Model]=""
-  [Platform]=""
+  [Platform]="Model"
   [Readers]="Model Platform"
   [Library]="Readers Model Platform"
   [Lists]="Model"

@@ -91,7 +91,7 @@ protected:
         opener.reset();
         workspace = std::make_unique<LinuxWorkspace>(
             LinuxWorkspace::Environment{.dataFolders = {home.path(u"data"_s)}, .display = screen.display()},
-            home.folders, clock,
+            home.folders, home.files, clock,
             PasteNotice(
                 QDBusConnection(u"nobody"_s), [](const QString &) {},
                 [](const QString &) { return PasteNotice::Words(); }));
@@ -175,7 +175,7 @@ protected:
     std::optional<QString> folderID(const Source &source, const QString &title) const
     {
         const auto trees = ChromiumReader::bookmarks(source, home.context());
-        for (const BookmarkNode &tree : trees.value_or(QList<BookmarkNode>())) {
+        for (const BookmarkNode &tree : trees.value_or(BookmarkTrees()).roots) {
             for (const BookmarkNode &node : tree.children.value_or(QList<BookmarkNode>())) {
                 if (node.title == title)
                     return node.id;
@@ -274,7 +274,7 @@ TEST_F(OpenInChromiumTest, AProfileThatWasDeletedDoesNotComeBack)
     opener->showHistory(deleted);
     ASSERT_TRUE(waitForTitle(u"History"_s)) << title().toStdString();
     EXPECT_FALSE(QDir(userData()).exists(u"Profile 7"_s));
-    for (const Source &profile : ChromiumReader::profiles(Source::Kind::Chrome, home.context()))
+    for (const Source &profile : ChromiumReader::profiles(chromium(), home.context()))
         EXPECT_NE(profile.profile, u"Profile 7"_s);
 }
 

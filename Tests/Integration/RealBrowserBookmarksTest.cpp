@@ -47,9 +47,9 @@ void append(const BookmarkNode &node, const QStringList &folders, QList<Kept> *l
 QList<Kept> read(const Source &source, const TestHome &home)
 {
     const auto trees = ChromiumReader::bookmarks(source, home.context());
-    EXPECT_TRUE(trees) << (trees ? "" : trees.error().errorDescription().toStdString());
+    EXPECT_TRUE(trees) << (trees ? "" : trees.error().first().errorDescription().toStdString());
     QList<Kept> list;
-    for (const BookmarkNode &root : trees.value_or(QList<BookmarkNode>()))
+    for (const BookmarkNode &root : trees.value_or(BookmarkTrees()).roots)
         append(root, {}, &list);
     return list;
 }
@@ -196,7 +196,7 @@ TEST_F(RealBrowserBookmarksTest, ExportedBookmarksComeBackWhenTheBrowserImportsT
     ASSERT_FALSE(HasFatalFailure());
     ProgramRun exported;
     expectNothingTouched([&] {
-        exported = ProgramRun::of(home, {u"--export"_s, u"html"_s, u"--source"_s, u"chrome/"_s % profile});
+        exported = ProgramRun::of(home, {u"--export"_s, u"html"_s, u"--source"_s, u"chromium/"_s % profile});
     });
     ASSERT_EQ(exported.status, 0) << exported.errors.toStdString();
     ASSERT_EQ(bookmarkLines(exported).size(), kept.size());
@@ -209,11 +209,11 @@ TEST_F(RealBrowserBookmarksTest, ExportedBookmarksComeBackWhenTheBrowserImportsT
     // Another user, whose browser keeps its data where a setting says.
     TestHome other;
     const QString otherUserData = other.path(u"browser data"_s);
-    other.defaults.setString(u"dataRoot.chrome"_s, otherUserData);
+    other.defaults.setString(u"dataRoot.chromium"_s, otherUserData);
     ASSERT_TRUE(QDir().mkpath(other.path(u".config/Roamlet"_s)));
     QFile settings(other.path(u".config/Roamlet/Roamlet.conf"_s));
     ASSERT_TRUE(settings.open(QIODevice::WriteOnly));
-    settings.write(QString(u"[General]\ndataRoot.chrome=" % otherUserData % u'\n').toUtf8());
+    settings.write(QString(u"[General]\ndataRoot.chromium=" % otherUserData % u'\n').toUtf8());
     settings.close();
 
     HeadlessBrowser browser;
@@ -223,19 +223,18 @@ TEST_F(RealBrowserBookmarksTest, ExportedBookmarksComeBackWhenTheBrowserImportsT
                              .profile = u"Default"_s,
                              .bookmarksToImport = path}),
               QString());
-    const Source imported{
-        .kind = Source::Kind::Chrome, .profile = u"Default"_s, .name = {}, .safariBookmarks = {}};
+    const Source imported{.kind = chromium(), .profile = u"Default"_s, .name = {}, .safariBookmarks = {}};
     // The browser replaces its file some seconds after the import.
     ASSERT_TRUE(waitUntil([&] {
         return read(imported, other).size() == kept.size() &&
-               ChromiumReader::profiles(Source::Kind::Chrome, other.context()).size() == 1;
+               ChromiumReader::profiles(chromium(), other.context()).size() == 1;
     }));
     const QList<Kept> expected = asImported(kept);
     expectSame(shownBy(browser), expected, 0);
     const auto expectImported = [&] {
         expectSame(read(imported, other), expected, 0);
         const ProgramRun again =
-            ProgramRun::of(other, {u"--export"_s, u"html"_s, u"--source"_s, u"chrome/Default"_s});
+            ProgramRun::of(other, {u"--export"_s, u"html"_s, u"--source"_s, u"chromium/Default"_s});
         EXPECT_EQ(bookmarkLines(again).join(u'\n').toStdString(),
                   bookmarkLines(exported).join(u'\n').toStdString())
             << again.errors.toStdString();

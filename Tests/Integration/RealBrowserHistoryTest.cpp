@@ -139,13 +139,13 @@ void RealBrowserHistoryTest::browseAtWork(HeadlessBrowser &browser)
 
 void RealBrowserHistoryTest::expectProfiles() const
 {
-    const QList<Source> sources = ChromiumReader::profiles(Source::Kind::Chrome, home.context());
+    const QList<Source> sources = ChromiumReader::profiles(chromium(), home.context());
     ASSERT_EQ(sources.size(), 2);
-    EXPECT_EQ(sources[0].id(), u"chrome/Default"_s);
+    EXPECT_EQ(sources[0].id(), u"chromium/Default"_s);
     EXPECT_FALSE(sources[0].name.isEmpty());
-    EXPECT_EQ(sources[1].id(), u"chrome/Profile 1"_s);
+    EXPECT_EQ(sources[1].id(), u"chromium/Profile 1"_s);
     EXPECT_EQ(sources[1].name, workName);
-    EXPECT_EQ(sources[1].label(), u"Chrome - Arbeit ☕"_s);
+    EXPECT_EQ(sources[1].label(), u"Chromium - Arbeit ☕"_s);
 }
 
 void RealBrowserHistoryTest::expectHistory(const QString &profile, const BrowsingLog &log) const
@@ -267,7 +267,7 @@ void RealBrowserHistoryTest::expectAll() const
 bool RealBrowserHistoryTest::isWritten(const QString &profile, const BrowsingLog &log) const
 {
     const ReadContext context = home.context();
-    const Source from{.kind = Source::Kind::Chrome, .profile = profile, .name = {}, .safariBookmarks = {}};
+    const Source from{.kind = chromium(), .profile = profile, .name = {}, .safariBookmarks = {}};
     const auto rows = ChromiumReader::history(from, HistoryQuery::recent(), context);
     const auto icons = FaviconReader::chromium(from, context);
     // A live database must be readable at every moment; only what it says may be old.
@@ -279,7 +279,7 @@ bool RealBrowserHistoryTest::isWritten(const QString &profile, const BrowsingLog
     for (const BrowsingLog::Entry &entry : log.entries())
         expected += entry.visitCount;
     return visits == expected && icons.value_or(Favicons()).size() == log.iconsBySite().size() &&
-           ChromiumReader::profiles(Source::Kind::Chrome, context).size() == 2;
+           ChromiumReader::profiles(chromium(), context).size() == 2;
 }
 
 } // namespace

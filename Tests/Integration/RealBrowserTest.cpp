@@ -32,7 +32,7 @@ HeadlessBrowser::Options RealBrowserTest::options(const QString &profile) const
 
 Source RealBrowserTest::source(const QString &profile) const
 {
-    const QList<Source> sources = ChromiumReader::profiles(Source::Kind::Chrome, home.context());
+    const QList<Source> sources = ChromiumReader::profiles(chromium(), home.context());
     const auto found = std::ranges::find(sources, std::optional(profile), &Source::profile);
     EXPECT_NE(found, sources.end()) << "no profile " << profile.toStdString();
     return found == sources.end() ? Source() : *found;

@@ -18,6 +18,12 @@
 namespace roamlet::testing
 {
 
+/// The browser that these tests drive.
+inline Source::Kind chromium()
+{
+    return Source::kindFromRawValue(u"chromium").value();
+}
+
 /// A home folder in which a real Chromium keeps its profiles where it does by itself.
 class RealBrowserTest : public ::testing::Test
 {

@@ -29,7 +29,7 @@ protected:
     }
 };
 
-TEST_F(BrowserWatcherTest, FilesBelongToTheSourceInWhoseFolderTheyLie)
+TEST_F(BrowserWatcherTest, filesBelongToTheSourceInWhoseFolderTheyLie)
 {
     addChromium();
     const QString container = safariContainerFile({});
@@ -74,7 +74,7 @@ TEST_F(BrowserWatcherTest, FilesBelongToTheSourceInWhoseFolderTheyLie)
         EXPECT_EQ(sourceID(row.path), row.id) << qPrintable(row.path);
 }
 
-TEST_F(BrowserWatcherTest, DataThatTheUserPutElsewhereBelongsToItsBrowserToo)
+TEST_F(BrowserWatcherTest, dataThatTheUserPutElsewhereBelongsToItsBrowserToo)
 {
     home.defaults.setString(u"dataRoot.chrome"_s, home.path(u"else/where"_s));
     home.defaults.setString(u"dataRoot.safari"_s, home.path(u"backup"_s));
@@ -84,7 +84,7 @@ TEST_F(BrowserWatcherTest, DataThatTheUserPutElsewhereBelongsToItsBrowserToo)
     EXPECT_EQ(sourceID(safariFile(u"History.db"_s)), std::nullopt);
 }
 
-TEST_F(BrowserWatcherTest, AnUnchangedFileIsReportedOnlyTheFirstTime)
+TEST_F(BrowserWatcherTest, anUnchangedFileIsReportedOnlyTheFirstTime)
 {
     addChromium();
     QList<QSet<QString>> reports;
@@ -103,7 +103,7 @@ TEST_F(BrowserWatcherTest, AnUnchangedFileIsReportedOnlyTheFirstTime)
     EXPECT_EQ(reports.size(), 3) << "gone counts once";
 }
 
-TEST_F(BrowserWatcherTest, OneReportNamesAllItsSources)
+TEST_F(BrowserWatcherTest, oneReportNamesAllItsSources)
 {
     addChromium();
     QList<QSet<QString>> reports;
@@ -117,7 +117,7 @@ TEST_F(BrowserWatcherTest, OneReportNamesAllItsSources)
     EXPECT_EQ(reports.size(), 1);
 }
 
-TEST_F(BrowserWatcherTest, EachFileOfASourceHasItsOwnStamp)
+TEST_F(BrowserWatcherTest, eachFileOfASourceHasItsOwnStamp)
 {
     addChromium();
     int reports = 0;
@@ -132,7 +132,7 @@ TEST_F(BrowserWatcherTest, EachFileOfASourceHasItsOwnStamp)
     EXPECT_EQ(reports, 3);
 }
 
-TEST_F(BrowserWatcherTest, AFileThatOnlyGotANewModeIsUnchanged)
+TEST_F(BrowserWatcherTest, aFileThatOnlyGotANewModeIsUnchanged)
 {
     addChromium();
     int reports = 0;
@@ -144,7 +144,7 @@ TEST_F(BrowserWatcherTest, AFileThatOnlyGotANewModeIsUnchanged)
     EXPECT_EQ(reports, 1);
 }
 
-TEST_F(BrowserWatcherTest, SafarisFoldersAreAskedForFirst)
+TEST_F(BrowserWatcherTest, safarisFoldersAreAskedForFirst)
 {
     const BrowserWatcher watcher(home.platform(), [](const QSet<QString> &) { FAIL(); });
     const QStringList &folders = home.fileEvents.watchedFolders;
@@ -156,7 +156,7 @@ TEST_F(BrowserWatcherTest, SafarisFoldersAreAskedForFirst)
     EXPECT_TRUE(std::ranges::is_sorted(places));
 }
 
-TEST_F(BrowserWatcherTest, ABrowserThatIsInstalledLaterElsewhereIsKnown)
+TEST_F(BrowserWatcherTest, aBrowserThatIsInstalledLaterElsewhereIsKnown)
 {
     QList<QSet<QString>> reports;
     const BrowserWatcher watcher(home.platform(),
@@ -166,12 +166,15 @@ TEST_F(BrowserWatcherTest, ABrowserThatIsInstalledLaterElsewhereIsKnown)
     const QString history = root % u"/Default/History";
     home.fileEvents.report({history});
     EXPECT_TRUE(reports.isEmpty()) << "nothing is read from there yet";
-    change([&history] { sample::writeHistory(history, {}); });
+    change([&] {
+        sample::writeHistory(history, {});
+        sample::writeFile(root % u"/Local State", "{}");
+    });
     home.fileEvents.report({history});
     EXPECT_EQ(reports, QList<QSet<QString>>{{u"chrome/Default"_s}});
 }
 
-TEST_F(BrowserWatcherTest, AWatcherThatGoesEndsItsStream)
+TEST_F(BrowserWatcherTest, aWatcherThatGoesEndsItsStream)
 {
     class Events final : public FileEvents
     {
@@ -201,7 +204,7 @@ TEST_F(BrowserWatcherTest, AWatcherThatGoesEndsItsStream)
     EXPECT_EQ(events.openStreams, 0);
 }
 
-TEST_F(BrowserWatcherTest, TenChangesToThreeProfilesAreOneReloadOfJustThese)
+TEST_F(BrowserWatcherTest, tenChangesToThreeProfilesAreOneReloadOfJustThese)
 {
     addChromium();
     addSafari();
@@ -238,7 +241,7 @@ TEST_F(BrowserWatcherTest, TenChangesToThreeProfilesAreOneReloadOfJustThese)
     EXPECT_EQ(takeReads(), QStringList{u"chrome/Default"_s});
 }
 
-TEST_F(BrowserWatcherTest, ALoadThatRunsTakesTheChangesAlong)
+TEST_F(BrowserWatcherTest, aLoadThatRunsTakesTheChangesAlong)
 {
     addChromium();
     Library library(home.platform());
@@ -259,7 +262,7 @@ TEST_F(BrowserWatcherTest, ALoadThatRunsTakesTheChangesAlong)
     EXPECT_EQ(library.lastLoaded(), pointInTime(newest + 5));
 }
 
-TEST_F(BrowserWatcherTest, ADelayThatEndsDuringALoadLeavesTheChangesToItsNextPass)
+TEST_F(BrowserWatcherTest, aDelayThatEndsDuringALoadLeavesTheChangesToItsNextPass)
 {
     addChromium();
     Library library(home.platform());
@@ -281,7 +284,7 @@ TEST_F(BrowserWatcherTest, ADelayThatEndsDuringALoadLeavesTheChangesToItsNextPas
     EXPECT_EQ(library.generation(), 3);
 }
 
-TEST_F(BrowserWatcherTest, ALibraryThatGoesBeforeTheDelayEndsReadsNothing)
+TEST_F(BrowserWatcherTest, aLibraryThatGoesBeforeTheDelayEndsReadsNothing)
 {
     addChromium();
     {
@@ -296,7 +299,7 @@ TEST_F(BrowserWatcherTest, ALibraryThatGoesBeforeTheDelayEndsReadsNothing)
     EXPECT_EQ(takeReads(), QStringList());
 }
 
-TEST_F(BrowserWatcherTest, WithoutFileEventsEverythingElseWorks)
+TEST_F(BrowserWatcherTest, withoutFileEventsEverythingElseWorks)
 {
     addChromium();
     home.fileEvents.isAvailable = false;
@@ -311,7 +314,7 @@ TEST_F(BrowserWatcherTest, WithoutFileEventsEverythingElseWorks)
     EXPECT_TRUE(titles(library.snapshot().history).contains(u"changed"_s));
 }
 
-TEST_F(BrowserWatcherTest, APageThatIsVisitedReachesTheSnapshotThroughTheKernelsEvents)
+TEST_F(BrowserWatcherTest, aPageThatIsVisitedReachesTheSnapshotThroughTheKernelsEvents)
 {
     addChromium();
     InotifyFileEvents events(home.clock);

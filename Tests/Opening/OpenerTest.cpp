@@ -3,7 +3,7 @@
 
 #include "Opening/Opener.h"
 
-#include "Opening/OpenArguments.h"
+#include "Model/Browser.h"
 #include "Support/FakeWorkspace.h"
 
 #include <gtest/gtest.h>
@@ -25,91 +25,100 @@ class OpenerTest : public ::testing::Test
 protected:
     Source chrome = source(Source::Kind::Chrome, u"Profile 1"_s);
     Source edge = source(Source::Kind::Edge, u"Default"_s);
+    Source firefox =
+        source(Source::kindFromRawValue(u"firefox").value_or(Source::Kind::Safari), u"abc.default"_s);
     FakeWorkspace workspace;
     Opener opener{workspace};
 };
 
-/// A system that reaches a profile by commands only.
-class OpenerByCommandsTest : public OpenerTest
-{
-protected:
-    OpenerByCommandsTest() { workspace.reachesProfiles = false; }
-
-    /// What a request for a page asks: the blank tab, then the script.
-    static QList<QStringList> pageRequests(const QString &bundleID, const QString &profile,
-                                           const QString &page)
-    {
-        return {{u"start"_s, u"/usr/bin/open"_s, u"-n"_s, u"-b"_s, bundleID, u"--args"_s,
-                 u"--profile-directory=" % profile, u"about:blank"_s},
-                {u"start"_s, u"/usr/bin/osascript"_s, u"-e"_s, OpenArguments::pageScript(bundleID, page)}};
-    }
-};
-
-TEST_F(OpenerByCommandsTest, AChromeLinkStartsOneCommandWithItsProfile)
-{
-    opener.openInChromium({u"https://example.com/a b"_s}, Source::Kind::Chrome, u"Profile 1"_s);
-    EXPECT_EQ(workspace.requests,
-              QList<QStringList>(
-                  {{u"start"_s, u"/usr/bin/open"_s, u"-n"_s, u"-b"_s, u"com.google.Chrome"_s, u"--args"_s,
-                    u"--profile-directory=Profile 1"_s, u"https://example.com/a b"_s}}));
-}
-
-TEST_F(OpenerByCommandsTest, EachLinkIsAProcessOfItsOwn)
-{
-    opener.openLinks({{u"http://one/"_s, chrome}, {u"http://two/"_s, chrome}});
-    ASSERT_EQ(workspace.requests.size(), 2);
-    EXPECT_EQ(workspace.requests.at(0).last(), u"http://one/");
-    EXPECT_EQ(workspace.requests.at(1).last(), u"http://two/");
-}
-
-TEST_F(OpenerByCommandsTest, ASourceWithoutAProfileIsOpenedAsAnApplication)
-{
-    opener.openLinks({{u"http://one/"_s, source(Source::Kind::Chrome, {})}});
-    EXPECT_EQ(workspace.requests,
-              QList<QStringList>({{u"open"_s, u"com.google.Chrome"_s, u"http://one/"_s}}));
-}
-
-TEST_F(OpenerByCommandsTest, APageIsABlankTabAndTheScript)
-{
-    opener.showHistory(chrome);
-    EXPECT_EQ(workspace.requests,
-              pageRequests(u"com.google.Chrome"_s, u"Profile 1"_s, u"chrome://history/"_s));
-    workspace.requests.clear();
-    opener.showHistory(edge);
-    EXPECT_EQ(workspace.requests,
-              pageRequests(u"com.microsoft.edgemac"_s, u"Default"_s, u"edge://history/"_s));
-    workspace.requests.clear();
-    opener.editBookmarks(edge, u"edge/Default/12"_s);
-    EXPECT_EQ(workspace.requests,
-              pageRequests(u"com.microsoft.edgemac"_s, u"Default"_s, u"edge://favorites/?id=12"_s));
-}
-
-TEST_F(OpenerByCommandsTest, APageWithoutAProfileOpensItsBlankTabAsAnApplication)
-{
-    opener.showHistory(source(Source::Kind::Chrome, {}));
-    ASSERT_EQ(workspace.requests.size(), 2);
-    EXPECT_EQ(workspace.requests.at(0), QStringList({u"open"_s, u"com.google.Chrome"_s, u"about:blank"_s}));
-    EXPECT_EQ(workspace.requests.at(1).at(1), u"/usr/bin/osascript");
-}
-
-TEST_F(OpenerTest, ASystemThatReachesProfilesIsAskedInstead)
+TEST_F(OpenerTest, aLinkOpensInItsProfile)
 {
     opener.openLinks({{u"http://one/"_s, chrome}, {u"http://two/"_s, edge}});
-    EXPECT_EQ(
-        workspace.requests,
-        QList<QStringList>({{u"profile"_s, u"com.google.Chrome"_s, u"Profile 1"_s, u"http://one/"_s},
-                            {u"profile"_s, u"com.microsoft.edgemac"_s, u"Default"_s, u"http://two/"_s}}));
+    EXPECT_EQ(workspace.requests,
+              QList<QStringList>({{u"profile"_s, u"chrome"_s, u"Profile 1"_s, u"http://one/"_s},
+                                  {u"profile"_s, u"edge"_s, u"Default"_s, u"http://two/"_s}}));
 }
 
-TEST_F(OpenerTest, ASafariLinkOpensInSafariWhateverItsProfile)
+TEST_F(OpenerTest, eachLinkIsARequestOfItsOwn)
+{
+    opener.openLinks({{u"http://one/"_s, chrome}, {u"http://two/"_s, chrome}});
+    EXPECT_EQ(workspace.requests,
+              QList<QStringList>({{u"profile"_s, u"chrome"_s, u"Profile 1"_s, u"http://one/"_s},
+                                  {u"profile"_s, u"chrome"_s, u"Profile 1"_s, u"http://two/"_s}}));
+}
+
+TEST_F(OpenerTest, aLinkOpensInTheInstallationThatItCameFrom)
+{
+    chrome.installation = u"beta-flatpak"_s;
+    opener.openLinks({{u"http://one/"_s, chrome}});
+    opener.showHistory(chrome);
+    EXPECT_EQ(
+        workspace.requests,
+        QList<QStringList>({{u"profile"_s, u"chrome@beta-flatpak"_s, u"Profile 1"_s, u"http://one/"_s},
+                            {u"page"_s, u"chrome@beta-flatpak"_s, u"Profile 1"_s, u"chrome://history/"_s}}));
+}
+
+TEST_F(OpenerTest, aSourceWithoutAProfileIsOpenedAsAnApplication)
+{
+    opener.openLinks({{u"http://one/"_s, source(Source::Kind::Chrome, {})}});
+    EXPECT_EQ(workspace.requests, QList<QStringList>({{u"open"_s, u"chrome"_s, u"http://one/"_s}}));
+}
+
+TEST_F(OpenerTest, firefoxOpensInItsProfile)
+{
+    opener.openLinks({{u"https://one/"_s, firefox}});
+    EXPECT_EQ(workspace.requests,
+              QList<QStringList>({{u"profile"_s, u"firefox"_s, u"abc.default"_s, u"https://one/"_s}}));
+}
+
+TEST_F(OpenerTest, firefoxGetsOnlyAddressesThatItOpensItself)
+{
+    const QStringList opened{u"http://a/"_s, u"HTTPS://a/"_s,   u"file:///tmp/a.html"_s,
+                             u"ftp://a/"_s,  u"about:memory"_s, u"moz-extension://1-2/page.html"_s};
+    const QStringList refused{
+        u"javascript:alert(1)"_s, u"data:text/html,x"_s,         u"example.com"_s, u"a b"_s,
+        u"unknown:x"_s,           u"--new-instance"_s,           QString(),        u"-P"_s,
+        u" http://a/"_s,          u"chrome://browser/content/"_s};
+    opener.openInFirefox(refused + opened, firefox);
+    opener.open(refused + opened, firefox.kind);
+    opener.openInFirefox(refused, firefox);
+    opener.open(refused, firefox.kind);
+    EXPECT_EQ(workspace.requests,
+              QList<QStringList>({QStringList{u"profile"_s, u"firefox"_s, u"abc.default"_s} + opened,
+                                  QStringList{u"open"_s, u"firefox"_s} + opened}));
+}
+
+TEST_F(OpenerTest, firefoxHasPagesOfItsOwn)
+{
+    opener.showHistory(firefox);
+    opener.editBookmarks(firefox, u"firefox/abc.default/5"_s);
+    EXPECT_EQ(workspace.requests,
+              QList<QStringList>({{u"page"_s, u"firefox"_s, u"abc.default"_s, u"about:firefoxview#history"_s},
+                                  {u"page"_s, u"firefox"_s, u"abc.default"_s,
+                                   u"chrome://browser/content/places/places.xhtml"_s}}));
+}
+
+TEST_F(OpenerTest, everyBrowserHasPagesOfItsOwn)
+{
+    for (const Browser &browser : Browser::all()) {
+        workspace.requests.clear();
+        opener.showHistory(source(browser.kind, u"p"_s));
+        opener.editBookmarks(source(browser.kind, u"p"_s), {});
+        ASSERT_EQ(workspace.requests.size(), 2) << browser.rawValue.toStdString();
+        EXPECT_TRUE(workspace.requests.at(0).last().contains(u"history"_s)) << browser.rawValue.toStdString();
+        EXPECT_NE(workspace.requests.at(1).last(), workspace.requests.at(0).last());
+    }
+}
+
+TEST_F(OpenerTest, aSafariLinkOpensInSafariWhateverItsProfile)
 {
     opener.openLinks(
         {{u"http://one/"_s, Source::safari()}, {u"http://two/"_s, source(Source::Kind::Safari, u"7F1C"_s)}});
-    EXPECT_EQ(workspace.requests, QList<QStringList>({{u"open"_s, u"com.apple.Safari"_s, u"http://one/"_s},
-                                                      {u"open"_s, u"com.apple.Safari"_s, u"http://two/"_s}}));
+    EXPECT_EQ(workspace.requests, QList<QStringList>({{u"open"_s, u"safari"_s, u"http://one/"_s},
+                                                      {u"open"_s, u"safari"_s, u"http://two/"_s}}));
 }
 
-TEST_F(OpenerTest, LinksOfDifferentBrowsersKeepTheirOrder)
+TEST_F(OpenerTest, linksOfDifferentBrowsersKeepTheirOrder)
 {
     opener.openLinks(
         {{u"http://one/"_s, edge}, {u"http://two/"_s, Source::safari()}, {u"http://3/"_s, edge}});
@@ -119,23 +128,23 @@ TEST_F(OpenerTest, LinksOfDifferentBrowsersKeepTheirOrder)
     EXPECT_EQ(workspace.requests.at(2).last(), u"http://3/");
 }
 
-TEST_F(OpenerTest, AChosenBrowserGetsAllTheUrlsAtOnce)
+TEST_F(OpenerTest, aChosenBrowserGetsAllTheUrlsAtOnce)
 {
-    opener.open({u"http://one/"_s, u"http://two/"_s}, Opener::bundleID(Source::Kind::Edge));
-    EXPECT_EQ(workspace.requests, QList<QStringList>({{u"open"_s, u"com.microsoft.edgemac"_s,
-                                                       u"http://one/"_s, u"http://two/"_s}}));
+    opener.open({u"http://one/"_s, u"http://two/"_s}, Source::Kind::Edge);
+    EXPECT_EQ(workspace.requests,
+              QList<QStringList>({{u"open"_s, u"edge"_s, u"http://one/"_s, u"http://two/"_s}}));
 }
 
-TEST_F(OpenerTest, WhatIsNoUrlIsLeftOut)
+TEST_F(OpenerTest, whatIsNoUrlIsLeftOut)
 {
     opener.open({QString(), u"--user-data-dir=/tmp"_s, u"http://[::1"_s, u"plain words"_s, u"http://ok/"_s,
                  u"http://a b/"_s, u"plain words: http://a/"_s, u"-x:y"_s, u"http://a:port/"_s,
                  u"http://[]/"_s, u"http://::1/"_s, u"://a/"_s},
-                u"com.google.Chrome"_s);
-    EXPECT_EQ(workspace.requests, QList<QStringList>({{u"open"_s, u"com.google.Chrome"_s, u"http://ok/"_s}}));
+                Source::Kind::Chrome);
+    EXPECT_EQ(workspace.requests, QList<QStringList>({{u"open"_s, u"chrome"_s, u"http://ok/"_s}}));
 }
 
-TEST_F(OpenerTest, AHostMayHaveANameThatKeepsNoRule)
+TEST_F(OpenerTest, aHostMayHaveANameThatKeepsNoRule)
 {
     const QStringList urls{u"https://foo-.tumblr.com/"_s,
                            u"https://-foo.example.com/"_s,
@@ -144,64 +153,63 @@ TEST_F(OpenerTest, AHostMayHaveANameThatKeepsNoRule)
                            u"http://user:word@[::1]:80?x"_s,
                            u"history://"_s,
                            u"file:///home/a b"_s};
-    opener.open(urls, u"com.google.Chrome"_s);
+    opener.open(urls, Source::Kind::Chrome);
     ASSERT_EQ(workspace.requests.size(), 1);
     EXPECT_EQ(workspace.requests.at(0).sliced(2), urls);
 }
 
-TEST_F(OpenerTest, NothingIsOpenedWhenNoUrlIsLeft)
+TEST_F(OpenerTest, nothingIsOpenedWhenNoUrlIsLeft)
 {
-    opener.open({u"http://[::1"_s}, u"com.google.Chrome"_s);
-    opener.openInChromium({u"-x"_s, QString()}, Source::Kind::Chrome, u"Default"_s);
+    opener.open({u"http://[::1"_s}, Source::Kind::Chrome);
+    opener.openInChromium({u"-x"_s, QString()}, chrome);
     EXPECT_TRUE(workspace.requests.isEmpty());
 }
 
-TEST_F(OpenerTest, AUrlReachesTheBrowserAsItIsStored)
+TEST_F(OpenerTest, aUrlReachesTheBrowserAsItIsStored)
 {
     // Histories are full of such addresses, and what the browser wrote down it also understands.
     const QStringList urls{u"http://example.com/a|b{c}^ d"_s, u"https://münchen.de/straße?q=%zz"_s,
                            u"https://xn--mnchen-3ya.de/"_s, u"about:blank"_s};
-    opener.open(urls, u"com.google.Chrome"_s);
-    opener.openInChromium(urls, Source::Kind::Chrome, u"Default"_s);
+    opener.open(urls, Source::Kind::Chrome);
+    opener.openInChromium(urls, chrome);
     ASSERT_EQ(workspace.requests.size(), 2);
     EXPECT_EQ(workspace.requests.at(0).sliced(2), urls);
     EXPECT_EQ(workspace.requests.at(1).sliced(3), urls);
 }
 
-TEST_F(OpenerTest, ATextThatABrowserWouldTakeForAnOptionIsNoUrl)
+TEST_F(OpenerTest, aTextThatABrowserWouldTakeForAnOptionIsNoUrl)
 {
     opener.openInChromium({u"--no-sandbox"_s, u"-h"_s, u" \t--renderer-cmd-prefix=x"_s, u"http://ok/"_s},
-                          Source::Kind::Chrome, u"Default"_s);
+                          chrome);
     EXPECT_EQ(workspace.requests,
-              QList<QStringList>({{u"profile"_s, u"com.google.Chrome"_s, u"Default"_s, u"http://ok/"_s}}));
+              QList<QStringList>({{u"profile"_s, u"chrome"_s, u"Profile 1"_s, u"http://ok/"_s}}));
 }
 
-TEST_F(OpenerTest, HistoryPagesAreTheBrowsersOwn)
+TEST_F(OpenerTest, historyPagesAreTheBrowsersOwn)
 {
     opener.showHistory(Source::safari());
     opener.showHistory(chrome);
     opener.showHistory(edge);
     opener.showHistory(source(Source::Kind::Chrome, {}));
-    EXPECT_EQ(
-        workspace.requests,
-        QList<QStringList>({{u"open"_s, u"com.apple.Safari"_s, u"history://"_s},
-                            {u"page"_s, u"com.google.Chrome"_s, u"Profile 1"_s, u"chrome://history/"_s},
-                            {u"page"_s, u"com.microsoft.edgemac"_s, u"Default"_s, u"edge://history/"_s},
-                            {u"page"_s, u"com.google.Chrome"_s, u"(no profile)"_s, u"chrome://history/"_s}}));
+    EXPECT_EQ(workspace.requests,
+              QList<QStringList>({{u"open"_s, u"safari"_s, u"history://"_s},
+                                  {u"page"_s, u"chrome"_s, u"Profile 1"_s, u"chrome://history/"_s},
+                                  {u"page"_s, u"edge"_s, u"Default"_s, u"edge://history/"_s},
+                                  {u"page"_s, u"chrome"_s, u"(no profile)"_s, u"chrome://history/"_s}}));
 }
 
-TEST_F(OpenerTest, TheBookmarkManagerOpensAtAFolderThatHasANumber)
+TEST_F(OpenerTest, theBookmarkManagerOpensAtAFolderThatHasANumber)
 {
     opener.editBookmarks(chrome, u"chrome/Profile 1/5"_s);
-    EXPECT_EQ(workspace.requests.last(), QStringList({u"page"_s, u"com.google.Chrome"_s, u"Profile 1"_s,
-                                                      u"chrome://bookmarks/?id=5"_s}));
+    EXPECT_EQ(workspace.requests.last(),
+              QStringList({u"page"_s, u"chrome"_s, u"Profile 1"_s, u"chrome://bookmarks/?id=5"_s}));
     opener.editBookmarks(chrome, u"chrome/Profile 1/5//"_s);
     EXPECT_EQ(workspace.requests.last().last(), u"chrome://bookmarks/?id=5");
     opener.editBookmarks(chrome, u"5"_s);
     EXPECT_EQ(workspace.requests.last().last(), u"chrome://bookmarks/?id=5");
 }
 
-TEST_F(OpenerTest, TheBookmarkManagerOpensWithoutAFolderOtherwise)
+TEST_F(OpenerTest, theBookmarkManagerOpensWithoutAFolderOtherwise)
 {
     for (const std::optional<QString> &folderID :
          {std::optional<QString>(), std::optional(QString()), std::optional(u"///"_s),
@@ -209,30 +217,30 @@ TEST_F(OpenerTest, TheBookmarkManagerOpensWithoutAFolderOtherwise)
           std::optional(u"edge/Default/-5"_s), std::optional(u"edge/Default/5&x=\""_s)}) {
         opener.editBookmarks(edge, folderID);
         EXPECT_EQ(workspace.requests.last(),
-                  QStringList({u"page"_s, u"com.microsoft.edgemac"_s, u"Default"_s, u"edge://favorites/"_s}))
+                  QStringList({u"page"_s, u"edge"_s, u"Default"_s, u"edge://favorites/"_s}))
             << folderID.value_or(u"(none)"_s).toStdString();
     }
 }
 
-TEST_F(OpenerTest, SafarisBookmarksOpenWhateverTheFolder)
+TEST_F(OpenerTest, safarisBookmarksOpenWhateverTheFolder)
 {
     opener.editBookmarks(Source::safari(), u"safari/5"_s);
     opener.editBookmarks(Source::safari(), {});
-    const QStringList request{u"open"_s, u"com.apple.Safari"_s, u"bookmarks://"_s};
+    const QStringList request{u"open"_s, u"safari"_s, u"bookmarks://"_s};
     EXPECT_EQ(workspace.requests, QList<QStringList>({request, request}));
 }
 
-TEST_F(OpenerTest, KnowsWhichBrowsersAreInstalled)
+TEST_F(OpenerTest, knowsWhichBrowsersAreInstalled)
 {
-    workspace.icons.insert(u"com.microsoft.edgemac"_s, Qt::blue);
+    workspace.icons.insert(u"edge"_s, Qt::blue);
     EXPECT_TRUE(opener.isInstalled(Source::Kind::Edge));
     EXPECT_FALSE(opener.isInstalled(Source::Kind::Chrome));
     EXPECT_FALSE(opener.isInstalled(Source::Kind::Safari));
 }
 
-TEST_F(OpenerTest, AnIconIsAskedForOnce)
+TEST_F(OpenerTest, anIconIsAskedForOnce)
 {
-    workspace.icons = {{u"com.google.Chrome"_s, Qt::red}, {u"com.apple.Safari"_s, Qt::green}};
+    workspace.icons = {{u"chrome"_s, Qt::red}, {u"safari"_s, Qt::green}};
     const std::optional<QImage> icon = opener.icon(Source::Kind::Chrome, 1);
     ASSERT_TRUE(icon);
     EXPECT_EQ(icon->size(), QSize(16, 16));
@@ -242,9 +250,9 @@ TEST_F(OpenerTest, AnIconIsAskedForOnce)
     EXPECT_EQ(opener.icon(Source::Kind::Safari, 1).value_or(QImage()).pixelColor(0, 0), QColor(Qt::green));
 }
 
-TEST_F(OpenerTest, AnIconIsKeptForEachPixelRatio)
+TEST_F(OpenerTest, anIconIsKeptForEachPixelRatio)
 {
-    workspace.icons = {{u"com.google.Chrome"_s, Qt::red}};
+    workspace.icons = {{u"chrome"_s, Qt::red}};
     EXPECT_EQ(opener.icon(Source::Kind::Chrome, 1).value_or(QImage()).width(), 16);
     const QImage sharp = opener.icon(Source::Kind::Chrome, 2).value_or(QImage());
     EXPECT_EQ(sharp.width(), 32);
@@ -253,10 +261,10 @@ TEST_F(OpenerTest, AnIconIsKeptForEachPixelRatio)
     EXPECT_EQ(workspace.iconRequests, 2);
 }
 
-TEST_F(OpenerTest, ABrowserThatIsInstalledLaterIsFound)
+TEST_F(OpenerTest, aBrowserThatIsInstalledLaterIsFound)
 {
     EXPECT_EQ(opener.icon(Source::Kind::Edge, 1), std::nullopt);
-    workspace.icons = {{u"com.microsoft.edgemac"_s, Qt::blue}};
+    workspace.icons = {{u"edge"_s, Qt::blue}};
     EXPECT_NE(opener.icon(Source::Kind::Edge, 1), std::nullopt);
 }
 

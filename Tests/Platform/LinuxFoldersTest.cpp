@@ -3,8 +3,8 @@
 
 #include "Platform/Linux/LinuxFolders.h"
 
+#include "Model/Browser.h"
 #include "Platform/Linux/LinuxFiles.h"
-#include "Platform/WithoutPrivileges.h"
 #include "SampleHome/PlainFiles.h"
 #include "Support/MemoryUserDefaults.h"
 
@@ -15,7 +15,6 @@
 #include <gtest/gtest.h>
 
 #include <optional>
-#include <ranges>
 
 namespace roamlet::testing
 {
@@ -25,9 +24,14 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-const QString safari = u"safari"_s;
-const QString chrome = u"chrome"_s;
-const QString edge = u"edge"_s;
+constexpr Source::Kind safari = Source::Kind::Safari;
+constexpr Source::Kind chrome = Source::Kind::Chrome;
+constexpr Source::Kind edge = Source::Kind::Edge;
+
+Source::Kind kind(QStringView rawValue)
+{
+    return Source::kindFromRawValue(rawValue).value();
+}
 
 /// An environment variable with another value for as long as this lives.
 class Variable
@@ -85,111 +89,77 @@ TEST_F(LinuxFoldersTest, namesHomeAndTheTemporaryFolder)
     EXPECT_EQ(folders().temporary(), u"/some/tmp"_s);
 }
 
-TEST_F(LinuxFoldersTest, theLayoutOfAMacServesWhereNothingExists)
+TEST_F(LinuxFoldersTest, theLayoutOfAMacComesFirst)
 {
-    EXPECT_EQ(folders().dataRoot(safari), home(u"Library/Safari"_s));
-    EXPECT_EQ(folders().dataRoot(chrome), home(u"Library/Application Support/Google/Chrome"_s));
-    EXPECT_EQ(folders().dataRoot(edge), home(u"Library/Application Support/Microsoft Edge"_s));
+    EXPECT_EQ(folders().dataFolders(safari, {}), QStringList{home(u"Library/Safari"_s)});
+    EXPECT_EQ(folders().dataFolders(chrome, {}),
+              (QStringList{home(u"Library/Application Support/Google/Chrome"_s),
+                           home(u".config/google-chrome"_s)}));
+    EXPECT_EQ(folders().dataFolders(edge, {}),
+              (QStringList{home(u"Library/Application Support/Microsoft Edge"_s),
+                           home(u".config/microsoft-edge"_s)}));
     EXPECT_EQ(folders().safariContainer(),
               home(u"Library/Containers/com.apple.Safari/Data/Library/Safari"_s));
-    for (const QString &browser : {safari, chrome, edge})
-        EXPECT_FALSE(folders().hasData(browser)) << qPrintable(browser);
 }
 
-TEST_F(LinuxFoldersTest, chromeIsLookedForInEveryPlaceBestFirst)
+TEST_F(LinuxFoldersTest, everyInstallationOfATableRowHasFolders)
 {
-    const QStringList places{home(u"Library/Application Support/Google/Chrome"_s),
-                             home(u".config/google-chrome"_s),
-                             home(u".var/app/com.google.Chrome/config/google-chrome"_s),
-                             home(u".config/chromium"_s),
-                             home(u"snap/chromium/common/chromium"_s),
-                             home(u".var/app/org.chromium.Chromium/config/chromium"_s)};
-    EXPECT_EQ(folders().dataRootCandidates(chrome), places);
-    // From the last to the first, each that appears takes over.
-    for (const QString &place : places | std::views::reverse) {
-        sample::makeFolder(place);
-        EXPECT_EQ(folders().dataRoot(chrome), place);
-        EXPECT_TRUE(folders().hasData(chrome));
+    for (const Browser &browser : Browser::all()) {
+        for (const Browser::Installation &installation : browser.installations) {
+            const QStringList places = folders().dataFolders(browser.kind, installation.key);
+            ASSERT_FALSE(places.isEmpty()) << qPrintable(browser.rawValue);
+            for (const QString &place : places)
+                EXPECT_TRUE(place.startsWith(home() % u'/')) << qPrintable(place);
+        }
     }
-    EXPECT_FALSE(folders().hasData(edge));
-    EXPECT_FALSE(folders().hasData(safari));
+    EXPECT_TRUE(folders().dataFolders(chrome, u"no-such-key"_s).isEmpty());
 }
 
-TEST_F(LinuxFoldersTest, edgeIsLookedForInEveryPlaceBestFirst)
+TEST_F(LinuxFoldersTest, sandboxesKeepTheirDataInFoldersOfTheirOwn)
 {
-    const QStringList places{home(u"Library/Application Support/Microsoft Edge"_s),
-                             home(u".config/microsoft-edge"_s),
-                             home(u".var/app/com.microsoft.Edge/config/microsoft-edge"_s),
-                             home(u".var/app/com.microsoft.Edge/config/microsoft-edge-beta"_s)};
-    EXPECT_EQ(folders().dataRootCandidates(edge), places);
-    for (const QString &place : places | std::views::reverse) {
-        sample::makeFolder(place);
-        EXPECT_EQ(folders().dataRoot(edge), place);
-        EXPECT_TRUE(folders().hasData(edge));
-    }
-    EXPECT_FALSE(folders().hasData(chrome));
-}
-
-TEST_F(LinuxFoldersTest, safariHasNoOtherPlace)
-{
-    EXPECT_EQ(folders().dataRootCandidates(safari), QStringList{home(u"Library/Safari"_s)});
-    make(u"Library/Safari"_s);
-    EXPECT_TRUE(folders().hasData(safari));
-}
-
-TEST_F(LinuxFoldersTest, safariIsThereWhenOnlyItsContainerIs)
-{
-    make(u"Library/Containers/com.apple.Safari/Data/Library/Safari"_s);
-    EXPECT_TRUE(folders().hasData(safari));
-    EXPECT_EQ(folders().dataRoot(safari), home(u"Library/Safari"_s));
+    EXPECT_EQ(folders().dataFolders(chrome, u"flatpak"_s),
+              QStringList{home(u".var/app/com.google.Chrome/config/google-chrome"_s)});
+    EXPECT_EQ(folders().dataFolders(edge, u"beta-flatpak"_s),
+              QStringList{home(u".var/app/com.microsoft.Edge/config/microsoft-edge-beta"_s)});
+    EXPECT_EQ(folders().dataFolders(kind(u"chromium"), u"snap"_s),
+              QStringList{home(u"snap/chromium/common/chromium"_s)});
+    EXPECT_EQ(folders().dataFolders(kind(u"firefox"), u"snap"_s),
+              QStringList{home(u"snap/firefox/common/.mozilla/firefox"_s)});
 }
 
 TEST_F(LinuxFoldersTest, anotherFolderForConfigurationsIsHonoured)
 {
-    make(u".config/google-chrome"_s);
-    make(u"elsewhere/chromium"_s);
-    make(u"elsewhere/microsoft-edge"_s);
     const LinuxFolders there = folders(home(u"elsewhere"_s));
-    EXPECT_EQ(there.dataRoot(chrome), home(u"elsewhere/chromium"_s));
-    EXPECT_EQ(there.dataRoot(edge), home(u"elsewhere/microsoft-edge"_s));
-    make(u"elsewhere/google-chrome"_s);
-    EXPECT_EQ(there.dataRoot(chrome), home(u"elsewhere/google-chrome"_s));
-    make(u".var/app/com.google.Chrome/config/google-chrome"_s);
-    EXPECT_EQ(there.dataRoot(chrome), home(u"elsewhere/google-chrome"_s))
-        << "a sandboxed browser keeps its own folder for configurations, and comes later";
-}
-
-TEST_F(LinuxFoldersTest, aFolderThatAppearsLaterIsFound)
-{
-    const LinuxFolders early = folders();
-    EXPECT_FALSE(early.hasData(chrome));
-    make(u".config/google-chrome"_s);
-    EXPECT_EQ(early.dataRoot(chrome), home(u".config/google-chrome"_s));
-    EXPECT_TRUE(early.hasData(chrome));
+    EXPECT_EQ(there.dataFolders(chrome, {}).last(), home(u"elsewhere/google-chrome"_s));
+    EXPECT_EQ(there.dataFolders(chrome, u"beta"_s), QStringList{home(u"elsewhere/google-chrome-beta"_s)});
+    EXPECT_EQ(there.dataFolders(kind(u"firefox"), {}),
+              (QStringList{home(u"Library/Application Support/Firefox"_s),
+                           home(u"elsewhere/mozilla/firefox"_s), home(u".mozilla/firefox"_s)}));
+    EXPECT_EQ(there.dataFolders(chrome, u"flatpak"_s),
+              QStringList{home(u".var/app/com.google.Chrome/config/google-chrome"_s)})
+        << "a sandboxed browser keeps its own folder for configurations";
 }
 
 TEST_F(LinuxFoldersTest, settingsOverrideThePlaces)
 {
-    make(u"Library/Application Support/Google/Chrome"_s);
-    make(u".config/google-chrome"_s);
-    make(u"backup/Chrome"_s);
     defaults.setString(u"dataRoot.chrome"_s, home(u"backup/Chrome"_s));
-    EXPECT_EQ(folders().dataRoot(chrome), home(u"backup/Chrome"_s));
-    EXPECT_EQ(folders().dataRootCandidates(chrome), QStringList{home(u"backup/Chrome"_s)});
-    EXPECT_TRUE(folders().hasData(chrome));
-    EXPECT_EQ(folders().dataRoot(edge), home(u"Library/Application Support/Microsoft Edge"_s))
-        << "each for its own browser";
+    EXPECT_EQ(folders().dataFolders(chrome, {}), QStringList{home(u"backup/Chrome"_s)});
+    EXPECT_EQ(folders().dataFolders(edge, {}).size(), 2) << "each for its own browser";
+    EXPECT_EQ(folders().dataFolders(chrome, u"beta"_s), QStringList{home(u".config/google-chrome-beta"_s)})
+        << "and its own installation";
 
-    defaults.setString(u"dataRoot.edge"_s, u"/no/such/folder"_s);
-    EXPECT_EQ(folders().dataRoot(edge), u"/no/such/folder"_s) << "also to where nothing is";
-    EXPECT_FALSE(folders().hasData(edge));
+    defaults.setString(u"dataRoot.chrome@beta"_s, u"/no/such/folder"_s);
+    EXPECT_EQ(folders().dataFolders(chrome, u"beta"_s), QStringList{u"/no/such/folder"_s})
+        << "also to where nothing is";
+    defaults.setString(u"dataRoot.firefox"_s, home(u"backup/firefox"_s));
+    EXPECT_EQ(folders().dataFolders(kind(u"firefox"), {}), QStringList{home(u"backup/firefox"_s)});
 }
 
 TEST_F(LinuxFoldersTest, settingsAreTidiedAndKnowTheHomeFolder)
 {
     const auto root = [this](const QString &value) {
         defaults.setString(u"dataRoot.chrome"_s, value);
-        return folders().dataRoot(chrome);
+        return folders().dataFolders(chrome, {}).first();
     };
     EXPECT_EQ(root(u"/backup/Chrome/"_s), u"/backup/Chrome"_s);
     EXPECT_EQ(root(u"/backup//x/../Chrome"_s), u"/backup/Chrome"_s);
@@ -198,34 +168,20 @@ TEST_F(LinuxFoldersTest, settingsAreTidiedAndKnowTheHomeFolder)
     EXPECT_EQ(root(u"/~/x"_s), u"/~/x"_s);
     EXPECT_EQ(root(u""_s), home(u"Library/Application Support/Google/Chrome"_s)) << "an empty one is none";
     defaults.setBoolean(u"dataRoot.chrome"_s, true);
-    EXPECT_EQ(folders().dataRoot(chrome), home(u"Library/Application Support/Google/Chrome"_s));
+    EXPECT_EQ(folders().dataFolders(chrome, {}).first(),
+              home(u"Library/Application Support/Google/Chrome"_s));
 }
 
 TEST_F(LinuxFoldersTest, safarisContainerLiesBesideAnOverriddenRoot)
 {
     make(u"backup/Library/Safari"_s);
     defaults.setString(u"dataRoot.safari"_s, home(u"backup/Library/Safari"_s));
-    EXPECT_EQ(folders().dataRoot(safari), home(u"backup/Library/Safari"_s));
+    EXPECT_EQ(folders().dataFolders(safari, {}), QStringList{home(u"backup/Library/Safari"_s)});
     EXPECT_EQ(folders().safariContainer(), home(u"backup/Library/Safari"_s))
         << "a folder that was copied alone holds everything itself";
     make(u"backup/Library/Containers/com.apple.Safari/Data/Library/Safari"_s);
     EXPECT_EQ(folders().safariContainer(),
               home(u"backup/Library/Containers/com.apple.Safari/Data/Library/Safari"_s));
-}
-
-TEST_F(LinuxFoldersTest, aPlaceThatMayNotBeLookedIntoCountsAsThere)
-{
-    make(u".config/google-chrome"_s);
-    ASSERT_TRUE(QFile::setPermissions(home(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner |
-                                                  QFile::ReadOther | QFile::ExeOther));
-    ASSERT_TRUE(QFile::setPermissions(home(u".config"_s), QFile::Permissions()));
-    const bool hasData = [this] {
-        const WithoutPrivileges guard;
-        return !guard.arePermissionsChecked() || folders().hasData(chrome);
-    }();
-    ASSERT_TRUE(
-        QFile::setPermissions(home(u".config"_s), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
-    EXPECT_TRUE(hasData);
 }
 
 TEST(LinuxFoldersEnvironment, comesFromTheVariables)
@@ -259,7 +215,7 @@ TEST(LinuxFoldersEnvironment, withoutAUsableVariableConfigurationsLieBelowHome)
                                                    std::optional(QByteArray("relative"))}) {
         const Variable config("XDG_CONFIG_HOME", value);
         const LinuxFolders folders(LinuxFolders::Environment::ofThisProcess(), files, defaults);
-        EXPECT_EQ(folders.dataRootCandidates(chrome).at(1), folder.filePath(u".config/google-chrome"_s))
+        EXPECT_EQ(folders.dataFolders(chrome, {}).at(1), folder.filePath(u".config/google-chrome"_s))
             << value.value_or("unset").constData();
     }
 }

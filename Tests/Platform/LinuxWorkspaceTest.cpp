@@ -5,6 +5,7 @@
 
 #include "Platform/FakeBrowserWindows.h"
 #include "Platform/FakeDesktop.h"
+#include "SampleHome/PlainFiles.h"
 #include "Support/TestHome.h"
 
 #include <QDir>
@@ -25,15 +26,27 @@ namespace
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
-const QString chromeID = u"com.google.Chrome"_s;
-const QString edgeID = u"com.microsoft.edgemac"_s;
-const QString safariID = u"com.apple.Safari"_s;
+using Kind = Source::Kind;
+
+Kind kind(QStringView rawValue)
+{
+    return Source::kindFromRawValue(rawValue).value();
+}
+
+Source source(Kind browser, const std::optional<QString> &profile, const QString &installation = {})
+{
+    return {.kind = browser,
+            .profile = profile,
+            .name = u"Name"_s,
+            .safariBookmarks = {},
+            .installation = installation};
+}
 
 class LinuxWorkspaceTest : public ::testing::Test
 {
 protected:
     LinuxWorkspaceTest()
-        : workspace(desktop.dataFolders(), home.folders, home.clock, takeWindows(),
+        : workspace(desktop.dataFolders(), home.folders, home.files, home.clock, takeWindows(),
                     {QDBusConnection(u"nobody"_s), [this](const QString &text) { clipboard = text; },
                      [](const QString &) { return PasteNotice::Words(); }})
     {
@@ -47,7 +60,14 @@ protected:
     }
 
     /// Makes the browser's data lie in this folder below the home folder.
-    void keepDataIn(const QString &folder) { ASSERT_TRUE(QDir().mkpath(home.path(folder))); }
+    void keepDataIn(const QString &folder) { sample::writeFile(home.path(folder % u"/Local State"), "{}"); }
+
+    /// Makes a profile of Firefox's lie there.
+    void keepFirefoxIn(const QString &root, const QString &profile)
+    {
+        sample::writeFile(home.path(root % u"/profiles.ini"), "");
+        sample::writeFile(home.path(root % u'/' % profile % u"/places.sqlite"), "");
+    }
 
     void addFlatpakChrome()
     {
@@ -70,9 +90,9 @@ protected:
     }
 
     /// The program that opens a link of this browser's profile.
-    QString programForLink(const QString &bundleID)
+    QString programForLink(Kind browser, const QString &installation = {})
     {
-        EXPECT_TRUE(workspace.openInProfile({u"http://a/"_s}, bundleID, u"Default"_s));
+        workspace.openInProfile({u"http://a/"_s}, source(browser, u"Default"_s, installation));
         return onlyStart().program;
     }
 
@@ -83,11 +103,11 @@ protected:
     LinuxWorkspace workspace;
 };
 
-TEST_F(LinuxWorkspaceTest, AProfileIsOpenedByTheBrowsersOwnCommand)
+TEST_F(LinuxWorkspaceTest, aProfileIsOpenedByTheBrowsersOwnCommand)
 {
     desktop.addApplication(u"google-chrome.desktop"_s, u"chrome"_s);
     keepDataIn(u".config/google-chrome"_s);
-    EXPECT_TRUE(workspace.openInProfile({u"http://a/"_s, u"http://b/"_s}, chromeID, u"Profile 1"_s));
+    workspace.openInProfile({u"http://a/"_s, u"http://b/"_s}, source(Kind::Chrome, u"Profile 1"_s));
     const FakeDesktop::Start start = onlyStart();
     EXPECT_EQ(start.program, u"chrome");
     EXPECT_EQ(start.arguments,
@@ -95,20 +115,20 @@ TEST_F(LinuxWorkspaceTest, AProfileIsOpenedByTheBrowsersOwnCommand)
                            u"http://a/"_s, u"http://b/"_s}));
 }
 
-TEST_F(LinuxWorkspaceTest, NoShellSeesTheArguments)
+TEST_F(LinuxWorkspaceTest, noShellSeesTheArguments)
 {
     desktop.addApplication(u"google-chrome.desktop"_s, u"chrome"_s);
     const QString url = u"http://a/$(touch x);`id`'\"&|\\ *?%u%20ä"_s;
-    workspace.openInProfile({url}, chromeID, u"$HOME \"1\""_s);
+    workspace.openInProfile({url}, source(Kind::Chrome, u"$HOME \"1\""_s));
     EXPECT_EQ(onlyStart().arguments, QStringList({u"--profile-directory=$HOME \"1\""_s,
                                                   u"--ignore-profile-directory-if-not-exists"_s, url}));
 }
 
-TEST_F(LinuxWorkspaceTest, TheEntrysOwnArgumentsStay)
+TEST_F(LinuxWorkspaceTest, theEntrysOwnArgumentsStay)
 {
     desktop.addEntry(u"google-chrome.desktop"_s, u"env LANG=C \"" % desktop.addProgram(u"my chrome"_s) %
                                                      u"\" --dark \"--name=a b\" --rate=5%% %i %c %U");
-    workspace.openInProfile({u"http://a/"_s}, chromeID, u"Default"_s);
+    workspace.openInProfile({u"http://a/"_s}, source(Kind::Chrome, u"Default"_s));
     const FakeDesktop::Start start = onlyStart();
     EXPECT_EQ(start.program, u"my chrome");
     EXPECT_EQ(start.arguments,
@@ -116,30 +136,30 @@ TEST_F(LinuxWorkspaceTest, TheEntrysOwnArgumentsStay)
                            u"--ignore-profile-directory-if-not-exists"_s, u"http://a/"_s}));
 }
 
-TEST_F(LinuxWorkspaceTest, EitherNameOfABrowsersEntryWillDo)
+TEST_F(LinuxWorkspaceTest, eitherNameOfABrowsersEntryWillDo)
 {
     desktop.addApplication(u"com.google.Chrome.desktop"_s, u"chrome"_s);
     desktop.addApplication(u"com.microsoft.Edge.desktop"_s, u"edge"_s);
     keepDataIn(u".config/google-chrome"_s);
     keepDataIn(u".config/microsoft-edge"_s);
-    EXPECT_EQ(programForLink(chromeID), u"chrome");
-    EXPECT_TRUE(workspace.hasApplication(edgeID));
+    EXPECT_EQ(programForLink(Kind::Chrome), u"chrome");
+    EXPECT_TRUE(workspace.hasBrowser(Kind::Edge));
 }
 
-TEST_F(LinuxWorkspaceTest, EdgeIsKnownByItsPackagesEntry)
+TEST_F(LinuxWorkspaceTest, edgeIsKnownByItsPackagesEntry)
 {
     desktop.addApplication(u"microsoft-edge.desktop"_s, u"edge"_s);
     keepDataIn(u".config/microsoft-edge"_s);
-    EXPECT_EQ(programForLink(edgeID), u"edge");
-    EXPECT_FALSE(workspace.hasApplication(chromeID));
+    EXPECT_EQ(programForLink(Kind::Edge), u"edge");
+    EXPECT_FALSE(workspace.hasBrowser(Kind::Chrome));
 }
 
-TEST_F(LinuxWorkspaceTest, DataOfTheFlatpakIsOpenedByTheFlatpak)
+TEST_F(LinuxWorkspaceTest, dataOfTheFlatpakIsOpenedByTheFlatpak)
 {
     desktop.addApplication(u"google-chrome.desktop"_s, u"chrome"_s);
     addFlatpakChrome();
     keepDataIn(u".var/app/com.google.Chrome/config/google-chrome"_s);
-    workspace.openInProfile({u"http://a/"_s}, chromeID, u"Default"_s);
+    workspace.openInProfile({u"http://a/"_s}, source(Kind::Chrome, u"Default"_s, u"flatpak"_s));
     const FakeDesktop::Start start = onlyStart();
     EXPECT_EQ(start.program, u"flatpak");
     EXPECT_EQ(start.arguments,
@@ -148,169 +168,249 @@ TEST_F(LinuxWorkspaceTest, DataOfTheFlatpakIsOpenedByTheFlatpak)
                            u"--ignore-profile-directory-if-not-exists"_s, u"http://a/"_s}));
 }
 
-TEST_F(LinuxWorkspaceTest, ThePackageIsToldFromTheFlatpakByItsCommand)
+TEST_F(LinuxWorkspaceTest, thePackageIsToldFromTheFlatpakByItsCommand)
 {
     addFlatpakChrome();
     desktop.addEntry(u"com.google.Chrome.desktop"_s, desktop.addProgram(u"chrome"_s) % u" %U", {}, 1);
     keepDataIn(u".config/google-chrome"_s);
-    EXPECT_EQ(programForLink(chromeID), u"chrome");
+    EXPECT_EQ(programForLink(Kind::Chrome), u"chrome");
 }
 
-TEST_F(LinuxWorkspaceTest, AnotherInstallationDoesNotStandInForAProfile)
+TEST_F(LinuxWorkspaceTest, anotherInstallationDoesNotStandInForAProfile)
 {
     addFlatpakChrome();
     keepDataIn(u".config/google-chrome"_s);
     // Its profiles are others, whatever their names.
-    EXPECT_TRUE(workspace.openInProfile({u"http://a/"_s}, chromeID, u"Default"_s));
-    EXPECT_TRUE(workspace.showPage(u"chrome://history/"_s, chromeID, u"Default"_s));
+    workspace.openInProfile({u"http://a/"_s}, source(Kind::Chrome, u"Default"_s));
+    workspace.showPage(u"chrome://history/"_s, source(Kind::Chrome, u"Default"_s));
     EXPECT_TRUE(starts().isEmpty());
     EXPECT_EQ(windows->looks, 0);
     // Without a profile the browser is the browser.
-    EXPECT_TRUE(workspace.hasApplication(chromeID));
-    workspace.open({u"http://a/"_s}, chromeID);
+    EXPECT_TRUE(workspace.hasBrowser(Kind::Chrome));
+    workspace.open({u"http://a/"_s}, Kind::Chrome);
     EXPECT_EQ(onlyStart().program, u"flatpak");
 }
 
-TEST_F(LinuxWorkspaceTest, ChromiumOpensItsOwnDataOnly)
+TEST_F(LinuxWorkspaceTest, chromiumIsABrowserOfItsOwn)
 {
     desktop.addApplication(u"chromium.desktop"_s, u"chromium"_s);
-    EXPECT_FALSE(workspace.hasApplication(chromeID));
     keepDataIn(u".config/chromium"_s);
-    EXPECT_TRUE(workspace.hasApplication(chromeID));
-    EXPECT_EQ(programForLink(chromeID), u"chromium");
-    keepDataIn(u".config/google-chrome"_s);
-    EXPECT_FALSE(workspace.hasApplication(chromeID));
+    EXPECT_TRUE(workspace.hasBrowser(kind(u"chromium")));
+    EXPECT_FALSE(workspace.hasBrowser(Kind::Chrome));
+    EXPECT_EQ(programForLink(kind(u"chromium")), u"chromium");
 }
 
-TEST_F(LinuxWorkspaceTest, ChromiumsOtherPackagesOpenTheirOwnData)
+TEST_F(LinuxWorkspaceTest, aSettingMayNameTheDataOfAnotherBrowser)
+{
+    desktop.addApplication(u"chromium.desktop"_s, u"chromium"_s);
+    desktop.addApplication(u"google-chrome.desktop"_s, u"chrome"_s);
+    keepDataIn(u".config/chromium"_s);
+    home.defaults.setString(u"dataRoot.chrome"_s, u"~/.config/chromium"_s);
+    EXPECT_EQ(programForLink(Kind::Chrome), u"chromium");
+}
+
+TEST_F(LinuxWorkspaceTest, eachInstallationOpensItsOwnData)
 {
     desktop.addApplication(u"chromium.desktop"_s, u"chromium"_s);
     desktop.addEntry(u"org.chromium.Chromium.desktop"_s,
                      desktop.addProgram(u"flatpak"_s) % u" run org.chromium.Chromium @@u %U @@");
+    keepDataIn(u".config/chromium"_s);
     keepDataIn(u".var/app/org.chromium.Chromium/config/chromium"_s);
-    EXPECT_EQ(programForLink(chromeID), u"flatpak");
+    EXPECT_EQ(programForLink(kind(u"chromium"), u"flatpak"_s), u"flatpak");
+    workspace.openInProfile({u"http://a/"_s}, source(kind(u"chromium"), u"Default"_s));
+    EXPECT_EQ(starts().value(0).program, u"chromium");
 }
 
-TEST_F(LinuxWorkspaceTest, ChromiumsSnapIsNotThePackage)
+TEST_F(LinuxWorkspaceTest, chromiumsSnapIsNotThePackage)
 {
     desktop.addApplication(u"chromium.desktop"_s, u"chromium"_s);
     keepDataIn(u"snap/chromium/common/chromium"_s);
-    workspace.openInProfile({u"http://a/"_s}, chromeID, u"Default"_s);
+    workspace.openInProfile({u"http://a/"_s}, source(kind(u"chromium"), u"Default"_s, u"snap"_s));
     EXPECT_TRUE(starts().isEmpty());
 }
 
-TEST_F(LinuxWorkspaceTest, AnEarlyVersionsDataIsOpenedByTheEarlyVersion)
+TEST_F(LinuxWorkspaceTest, aTestVersionOpensItsOwnData)
+{
+    desktop.addApplication(u"google-chrome.desktop"_s, u"chrome"_s);
+    keepDataIn(u".config/google-chrome-beta"_s);
+    workspace.openInProfile({u"http://a/"_s}, source(Kind::Chrome, u"Default"_s, u"beta"_s));
+    EXPECT_TRUE(starts().isEmpty()) << "another version stands in for it";
+    desktop.addApplication(u"google-chrome-beta.desktop"_s, u"chrome-beta"_s);
+    EXPECT_EQ(programForLink(Kind::Chrome, u"beta"_s), u"chrome-beta");
+}
+
+TEST_F(LinuxWorkspaceTest, firefoxOpensInTheFolderOfItsProfile)
+{
+    desktop.addApplication(u"firefox-esr.desktop"_s, u"firefox-esr"_s);
+    keepFirefoxIn(u".mozilla/firefox"_s, u"abc.default"_s);
+    workspace.openInProfile({u"http://a/"_s, u"http://b/"_s}, source(kind(u"firefox"), u"abc.default"_s));
+    const FakeDesktop::Start start = onlyStart();
+    EXPECT_EQ(start.program, u"firefox-esr");
+    EXPECT_EQ(start.arguments, QStringList({u"--profile"_s, home.path(u".mozilla/firefox/abc.default"_s),
+                                            u"http://a/"_s, u"http://b/"_s}));
+}
+
+TEST_F(LinuxWorkspaceTest, firefoxFindsItsProfileInEitherDataFolder)
+{
+    desktop.addApplication(u"firefox.desktop"_s, u"firefox"_s);
+    keepFirefoxIn(u".config/mozilla/firefox"_s, u"new.default"_s);
+    keepFirefoxIn(u".mozilla/firefox"_s, u"old.default"_s);
+    workspace.openInProfile({u"http://a/"_s}, source(kind(u"firefox"), u"old.default"_s));
+    EXPECT_EQ(onlyStart().arguments.value(1), home.path(u".mozilla/firefox/old.default"_s));
+}
+
+TEST_F(LinuxWorkspaceTest, aFirefoxProfileMayLieAnywhere)
+{
+    desktop.addApplication(u"firefox.desktop"_s, u"firefox"_s);
+    keepFirefoxIn(u".mozilla/firefox"_s, u"../../elsewhere"_s);
+    const QString folder = home.path(u"elsewhere"_s);
+    workspace.openInProfile({u"http://a/"_s}, source(kind(u"firefox"), folder));
+    EXPECT_EQ(onlyStart().arguments.value(1), folder);
+}
+
+TEST_F(LinuxWorkspaceTest, firefoxIsNotStartedForAProfileThatIsGone)
+{
+    desktop.addApplication(u"firefox.desktop"_s, u"firefox"_s);
+    keepFirefoxIn(u".mozilla/firefox"_s, u"abc.default"_s);
+    workspace.openInProfile({u"http://a/"_s}, source(kind(u"firefox"), u"gone.default"_s));
+    workspace.openInProfile({u"http://a/"_s}, source(kind(u"firefox"), u"/nonexistent/profile"_s));
+    workspace.showPage(u"about:firefoxview#history"_s, source(kind(u"firefox"), u"gone.default"_s));
+    EXPECT_TRUE(starts().isEmpty());
+}
+
+TEST_F(LinuxWorkspaceTest, firefoxShowsItsPagesByItsOwnArguments)
+{
+    desktop.addApplication(u"firefox.desktop"_s, u"firefox"_s);
+    keepFirefoxIn(u".mozilla/firefox"_s, u"abc.default"_s);
+    const QString folder = home.path(u".mozilla/firefox/abc.default"_s);
+    const Source firefox = source(kind(u"firefox"), u"abc.default"_s);
+    workspace.showPage(u"about:firefoxview#history"_s, firefox);
+    workspace.showPage(u"chrome://browser/content/places/places.xhtml"_s, firefox);
+    const QList<FakeDesktop::Start> started = starts();
+    ASSERT_EQ(started.size(), 2);
+    EXPECT_EQ(started.at(0).arguments, QStringList({u"--profile"_s, folder, u"--chrome"_s,
+                                                    u"chrome://browser/content/places/places.xhtml"_s}));
+    EXPECT_EQ(started.at(1).arguments, QStringList({u"--profile"_s, folder, u"about:firefoxview#history"_s}));
+    EXPECT_EQ(windows->looks, 0) << "nothing has to be typed";
+}
+
+TEST_F(LinuxWorkspaceTest, firefoxsFlatpakAndSnapAreStartedByTheirOwnCommands)
+{
+    desktop.addEntry(u"org.mozilla.firefox.desktop"_s,
+                     desktop.addProgram(u"flatpak"_s) %
+                         u" run --branch=stable --file-forwarding org.mozilla.firefox @@u %u @@");
+    keepFirefoxIn(u".var/app/org.mozilla.firefox/.mozilla/firefox"_s, u"abc.default"_s);
+    workspace.openInProfile({u"http://a/"_s}, source(kind(u"firefox"), u"abc.default"_s, u"flatpak"_s));
+    EXPECT_EQ(onlyStart().arguments,
+              QStringList({u"run"_s, u"--branch=stable"_s, u"--file-forwarding"_s, u"org.mozilla.firefox"_s,
+                           u"--profile"_s,
+                           home.path(u".var/app/org.mozilla.firefox/.mozilla/firefox/abc.default"_s),
+                           u"http://a/"_s}));
+}
+
+TEST_F(LinuxWorkspaceTest, anEarlyVersionsDataIsOpenedByTheEarlyVersion)
 {
     desktop.addApplication(u"google-chrome.desktop"_s, u"chrome"_s);
     desktop.addApplication(u"microsoft-edge.desktop"_s, u"edge"_s);
     home.defaults.setString(u"dataRoot.chrome"_s, u"~/.config/google-chrome-beta"_s);
     home.defaults.setString(u"dataRoot.edge"_s, u"~/.config/microsoft-edge-dev"_s);
-    workspace.openInProfile({u"http://a/"_s}, chromeID, u"Default"_s);
-    workspace.openInProfile({u"http://a/"_s}, edgeID, u"Default"_s);
+    workspace.openInProfile({u"http://a/"_s}, source(Kind::Chrome, u"Default"_s));
+    workspace.openInProfile({u"http://a/"_s}, source(Kind::Edge, u"Default"_s));
     EXPECT_TRUE(starts().isEmpty()) << "another version stands in for it";
     desktop.addApplication(u"google-chrome-beta.desktop"_s, u"chrome-beta"_s);
-    EXPECT_EQ(programForLink(chromeID), u"chrome-beta");
+    EXPECT_EQ(programForLink(Kind::Chrome), u"chrome-beta");
     desktop.addApplication(u"microsoft-edge-dev.desktop"_s, u"edge-dev"_s);
-    workspace.showPage(u"edge://favorites/"_s, edgeID, u"Default"_s);
+    workspace.showPage(u"edge://favorites/"_s, source(Kind::Edge, u"Default"_s));
     EXPECT_EQ(starts().value(1).program, u"edge-dev");
     EXPECT_EQ(windows->askedClasses, QStringList{u"microsoft-edge-dev"_s});
 }
 
-TEST_F(LinuxWorkspaceTest, DataFromAMacIsOpenedByTheBrowserThatIsHere)
+TEST_F(LinuxWorkspaceTest, dataFromAMacIsOpenedByTheBrowserThatIsHere)
 {
     keepDataIn(u"Library/Application Support/Google/Chrome"_s);
     addFlatpakChrome();
-    EXPECT_EQ(programForLink(chromeID), u"flatpak");
+    EXPECT_EQ(programForLink(Kind::Chrome), u"flatpak");
     desktop.addApplication(u"google-chrome.desktop"_s, u"chrome"_s);
-    workspace.open({u"http://a/"_s}, chromeID);
+    workspace.open({u"http://a/"_s}, Kind::Chrome);
     EXPECT_EQ(starts().value(0).program, u"chrome");
 }
 
-TEST_F(LinuxWorkspaceTest, AnEntryThatCannotBeStartedIsNoApplication)
+TEST_F(LinuxWorkspaceTest, anEntryThatCannotBeStartedIsNoApplication)
 {
     desktop.addEntry(u"google-chrome.desktop"_s, {});
-    EXPECT_FALSE(workspace.hasApplication(chromeID));
+    EXPECT_FALSE(workspace.hasBrowser(Kind::Chrome));
     desktop.addEntry(u"google-chrome.desktop"_s, u""_s);
-    EXPECT_FALSE(workspace.hasApplication(chromeID));
+    EXPECT_FALSE(workspace.hasBrowser(Kind::Chrome));
     desktop.addEntry(u"google-chrome.desktop"_s, u"%U"_s);
-    EXPECT_FALSE(workspace.hasApplication(chromeID));
+    EXPECT_FALSE(workspace.hasBrowser(Kind::Chrome));
     desktop.addEntry(u"google-chrome.desktop"_s, u"/nonexistent/chrome %U"_s);
-    EXPECT_FALSE(workspace.hasApplication(chromeID));
+    EXPECT_FALSE(workspace.hasBrowser(Kind::Chrome));
     desktop.addEntry(u"google-chrome.desktop"_s, u"\"unclosed %U"_s);
-    EXPECT_FALSE(workspace.hasApplication(chromeID));
+    EXPECT_FALSE(workspace.hasBrowser(Kind::Chrome));
     desktop.addEntry(u"google-chrome.desktop"_s, desktop.addProgram(u"chrome"_s),
                      u"TryExec=/nonexistent\n"_s);
-    EXPECT_FALSE(workspace.hasApplication(chromeID));
+    EXPECT_FALSE(workspace.hasBrowser(Kind::Chrome));
 
-    EXPECT_TRUE(workspace.openInProfile({u"http://a/"_s}, chromeID, u"Default"_s));
-    workspace.open({u"http://a/"_s}, chromeID);
+    workspace.openInProfile({u"http://a/"_s}, source(Kind::Chrome, u"Default"_s));
+    workspace.open({u"http://a/"_s}, Kind::Chrome);
     EXPECT_TRUE(starts().isEmpty());
     // The system's entry counts where the user's own is broken.
     desktop.addEntry(u"google-chrome.desktop"_s, desktop.addProgram(u"chrome"_s) % u" %U", {}, 1);
-    EXPECT_TRUE(workspace.hasApplication(chromeID));
+    EXPECT_TRUE(workspace.hasBrowser(Kind::Chrome));
 }
 
-TEST_F(LinuxWorkspaceTest, AnEntryThatHidesTheApplicationHidesAllOfItsName)
+TEST_F(LinuxWorkspaceTest, anEntryThatHidesTheApplicationHidesAllOfItsName)
 {
     desktop.addEntry(u"google-chrome.desktop"_s, desktop.addProgram(u"chrome"_s) % u" %U", {}, 1);
-    EXPECT_TRUE(workspace.hasApplication(chromeID));
+    EXPECT_TRUE(workspace.hasBrowser(Kind::Chrome));
     desktop.addEntry(u"google-chrome.desktop"_s, desktop.addProgram(u"chrome"_s) % u" %U",
                      u"Hidden=true\n"_s);
-    EXPECT_FALSE(workspace.hasApplication(chromeID));
+    EXPECT_FALSE(workspace.hasBrowser(Kind::Chrome));
 }
 
-TEST_F(LinuxWorkspaceTest, ABrokenEntryIsNoApplication)
+TEST_F(LinuxWorkspaceTest, aBrokenEntryIsNoApplication)
 {
     desktop.addEntry(u"google-chrome.desktop"_s, desktop.addProgram(u"chrome"_s),
                      u"Type=Link\nURL=http://a/\n"_s);
-    EXPECT_FALSE(workspace.hasApplication(chromeID));
+    EXPECT_FALSE(workspace.hasBrowser(Kind::Chrome));
     EXPECT_TRUE(QDir().mkpath(desktop.dataFolders().first() % u"/applications/com.google.Chrome.desktop"));
-    EXPECT_FALSE(workspace.hasApplication(chromeID));
+    EXPECT_FALSE(workspace.hasBrowser(Kind::Chrome));
 }
 
-TEST_F(LinuxWorkspaceTest, UrlsWithoutAProfileGoToTheApplicationAtOnce)
+TEST_F(LinuxWorkspaceTest, urlsWithoutAProfileGoToTheApplicationAtOnce)
 {
     desktop.addApplication(u"microsoft-edge.desktop"_s, u"edge"_s);
-    workspace.open({u"http://a/?x='1'"_s, u"about:blank"_s}, edgeID);
+    workspace.open({u"http://a/?x='1'"_s, u"about:blank"_s}, Kind::Edge);
     EXPECT_EQ(onlyStart().arguments, QStringList({u"http://a/?x='1'"_s, u"about:blank"_s}));
 }
 
-TEST_F(LinuxWorkspaceTest, AnApplicationThatTakesOneUrlIsStartedForEach)
+TEST_F(LinuxWorkspaceTest, anApplicationThatTakesOneUrlIsStartedForEach)
 {
     desktop.addEntry(u"microsoft-edge.desktop"_s, desktop.addProgram(u"edge"_s) % u" %u");
-    workspace.open({u"http://a/"_s, u"http://b/"_s}, edgeID);
+    workspace.open({u"http://a/"_s, u"http://b/"_s}, Kind::Edge);
     const QList<FakeDesktop::Start> started = starts();
     ASSERT_EQ(started.size(), 2);
     EXPECT_EQ(started.at(0).arguments, QStringList({u"http://a/"_s}));
     EXPECT_EQ(started.at(1).arguments, QStringList({u"http://b/"_s}));
 }
 
-TEST_F(LinuxWorkspaceTest, SafariIsNeverHereAndItsLinksOpenInThePreferredBrowser)
+TEST_F(LinuxWorkspaceTest, safariIsNeverHereAndItsLinksOpenInThePreferredBrowser)
 {
-    EXPECT_FALSE(workspace.hasApplication(safariID));
-    workspace.open({u"http://a/"_s}, safariID);
+    EXPECT_FALSE(workspace.hasBrowser(Kind::Safari));
+    workspace.open({u"http://a/"_s}, Kind::Safari);
     const FakeDesktop::Start start = onlyStart();
     EXPECT_EQ(start.program, u"preferred-browser");
     EXPECT_EQ(start.arguments, QStringList({u"--own-option"_s, u"http://a/"_s}));
 }
 
-TEST_F(LinuxWorkspaceTest, SafarisOwnPagesOpenNowhere)
+TEST_F(LinuxWorkspaceTest, safarisOwnPagesOpenNowhere)
 {
-    workspace.open({u"history://"_s}, safariID);
-    workspace.open({u"bookmarks://"_s}, safariID);
+    workspace.open({u"history://"_s}, Kind::Safari);
+    workspace.open({u"bookmarks://"_s}, Kind::Safari);
     EXPECT_TRUE(starts().isEmpty());
 }
 
-TEST_F(LinuxWorkspaceTest, AnUnknownApplicationOpensNothing)
-{
-    EXPECT_FALSE(workspace.hasApplication(u"com.example.Other"_s));
-    workspace.open({u"http://a/"_s}, u"com.example.Other"_s);
-    EXPECT_TRUE(workspace.openInProfile({u"http://a/"_s}, u"com.example.Other"_s, u"Default"_s));
-    EXPECT_TRUE(workspace.showPage(u"chrome://history/"_s, u"com.example.Other"_s, {}));
-    EXPECT_TRUE(starts().isEmpty());
-}
-
-TEST_F(LinuxWorkspaceTest, ASystemUrlGoesToWhateverTheSystemHasForIt)
+TEST_F(LinuxWorkspaceTest, aSystemUrlGoesToWhateverTheSystemHasForIt)
 {
     workspace.openSystemURL(u"settings:privacy"_s);
     const FakeDesktop::Start start = onlyStart();
@@ -318,7 +418,7 @@ TEST_F(LinuxWorkspaceTest, ASystemUrlGoesToWhateverTheSystemHasForIt)
     EXPECT_EQ(start.arguments, QStringList({u"--own-option"_s, u"settings:privacy"_s}));
 }
 
-TEST_F(LinuxWorkspaceTest, ASystemUrlThatNobodyHandlesOpensNothing)
+TEST_F(LinuxWorkspaceTest, aSystemUrlThatNobodyHandlesOpensNothing)
 {
     workspace.openSystemURL(u"x-apple.systempreferences:privacy"_s);
     workspace.openSystemURL(u"no url"_s);
@@ -326,20 +426,7 @@ TEST_F(LinuxWorkspaceTest, ASystemUrlThatNobodyHandlesOpensNothing)
     EXPECT_TRUE(starts().isEmpty());
 }
 
-TEST_F(LinuxWorkspaceTest, AProgramIsStartedWithItsArguments)
-{
-    workspace.start(desktop.addProgram(u"tool"_s), {u"-e"_s, u"line 1; $x"_s, QString()});
-    EXPECT_EQ(onlyStart().arguments, QStringList({u"-e"_s, u"line 1; $x"_s, QString()}));
-}
-
-TEST_F(LinuxWorkspaceTest, AProgramThatCannotBeStartedIsIgnored)
-{
-    workspace.start(u"/nonexistent/program"_s, {u"x"_s});
-    workspace.start(desktop.dataFolders().first(), {});
-    EXPECT_TRUE(starts().isEmpty());
-}
-
-TEST_F(LinuxWorkspaceTest, StartedProgramsGetTheSignalsThatThisOneBlocks)
+TEST_F(LinuxWorkspaceTest, startedProgramsGetTheSignalsThatThisOneBlocks)
 {
     sigset_t mask;
     sigset_t previous;
@@ -349,8 +436,8 @@ TEST_F(LinuxWorkspaceTest, StartedProgramsGetTheSignalsThatThisOneBlocks)
     ASSERT_EQ(pthread_sigmask(SIG_BLOCK, &mask, &previous), 0);
     const auto previousHandler = signal(SIGPIPE, SIG_IGN);
     desktop.addApplication(u"google-chrome.desktop"_s, u"chrome"_s);
-    workspace.openInProfile({u"http://a/"_s}, chromeID, u"Default"_s);
-    workspace.open({u"http://a/"_s}, chromeID);
+    workspace.openInProfile({u"http://a/"_s}, source(Kind::Chrome, u"Default"_s));
+    workspace.open({u"http://a/"_s}, Kind::Chrome);
     workspace.finishStarts();
     signal(SIGPIPE, previousHandler);
     pthread_sigmask(SIG_SETMASK, &previous, nullptr);
@@ -363,40 +450,38 @@ TEST_F(LinuxWorkspaceTest, StartedProgramsGetTheSignalsThatThisOneBlocks)
     }
 }
 
-TEST_F(LinuxWorkspaceTest, NoStartedProgramBecomesAZombie)
+TEST_F(LinuxWorkspaceTest, noStartedProgramBecomesAZombie)
 {
     // As a user's session has it: whom nobody waits for falls to another process.
     ASSERT_EQ(prctl(PR_SET_CHILD_SUBREAPER, 0), 0);
     desktop.addApplication(u"google-chrome.desktop"_s, u"chrome"_s);
-    workspace.openInProfile({u"http://a/"_s}, chromeID, u"Default"_s);
-    workspace.open({u"http://a/"_s}, chromeID);
-    workspace.start(u"/nonexistent/program"_s, {});
+    workspace.openInProfile({u"http://a/"_s}, source(Kind::Chrome, u"Default"_s));
+    workspace.open({u"http://a/"_s}, Kind::Chrome);
     workspace.finishStarts();
     EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1);
     EXPECT_EQ(errno, ECHILD) << "a child is left that somebody would have to wait for";
 }
 
-TEST_F(LinuxWorkspaceTest, WhoeverAsksIsNotHeldUpByTheStart)
+TEST_F(LinuxWorkspaceTest, whoeverAsksIsNotHeldUpByTheStart)
 {
     // Copying a process for a start takes its time.
     static thread_local int copiesByThisThread = 0;
     ASSERT_EQ(pthread_atfork([] { ++copiesByThisThread; }, nullptr, nullptr), 0);
     desktop.addApplication(u"google-chrome.desktop"_s, u"chrome"_s);
-    workspace.openInProfile({u"http://a/"_s}, chromeID, u"Default"_s);
-    workspace.open({u"http://b/"_s}, chromeID);
-    workspace.open({u"http://c/"_s}, safariID);
+    workspace.openInProfile({u"http://a/"_s}, source(Kind::Chrome, u"Default"_s));
+    workspace.open({u"http://b/"_s}, Kind::Chrome);
+    workspace.open({u"http://c/"_s}, Kind::Safari);
     workspace.openSystemURL(u"settings:privacy"_s);
-    workspace.start(desktop.addProgram(u"tool"_s), {});
-    workspace.showPage(u"chrome://history/"_s, chromeID, u"Default"_s);
-    EXPECT_EQ(starts().size(), 6);
+    workspace.showPage(u"chrome://history/"_s, source(Kind::Chrome, u"Default"_s));
+    EXPECT_EQ(starts().size(), 5);
     EXPECT_EQ(copiesByThisThread, 0);
 }
 
-TEST_F(LinuxWorkspaceTest, APageIsTypedIntoABlankTabOfTheProfile)
+TEST_F(LinuxWorkspaceTest, aPageIsTypedIntoABlankTabOfTheProfile)
 {
     desktop.addEntry(u"google-chrome.desktop"_s, desktop.addProgram(u"chrome"_s) % u" %U",
                      u"StartupWMClass=My-Chrome\n"_s);
-    EXPECT_TRUE(workspace.showPage(u"chrome://history/"_s, chromeID, u"Profile 1"_s));
+    workspace.showPage(u"chrome://history/"_s, source(Kind::Chrome, u"Profile 1"_s));
     EXPECT_EQ(onlyStart().arguments,
               QStringList({u"--profile-directory=Profile 1"_s, u"--ignore-profile-directory-if-not-exists"_s,
                            u"about:blank"_s}));
@@ -407,25 +492,25 @@ TEST_F(LinuxWorkspaceTest, APageIsTypedIntoABlankTabOfTheProfile)
     EXPECT_TRUE(clipboard.isEmpty());
 }
 
-TEST_F(LinuxWorkspaceTest, APageWithoutAProfileOpensInTheApplication)
+TEST_F(LinuxWorkspaceTest, aPageWithoutAProfileOpensInTheApplication)
 {
     desktop.addApplication(u"microsoft-edge.desktop"_s, u"edge"_s);
-    EXPECT_TRUE(workspace.showPage(u"edge://favorites/"_s, edgeID, {}));
+    workspace.showPage(u"edge://favorites/"_s, source(Kind::Edge, {}));
     EXPECT_EQ(onlyStart().arguments, QStringList({u"about:blank"_s}));
 }
 
-TEST_F(LinuxWorkspaceTest, WhereNoWindowCanBeSteeredTheAddressGoesToTheClipboard)
+TEST_F(LinuxWorkspaceTest, whereNoWindowCanBeSteeredTheAddressGoesToTheClipboard)
 {
     desktop.addApplication(u"google-chrome.desktop"_s, u"chrome"_s);
     windows->isSteerable = false;
-    EXPECT_TRUE(workspace.showPage(u"chrome://bookmarks/?id=5"_s, chromeID, u"Default"_s));
+    workspace.showPage(u"chrome://bookmarks/?id=5"_s, source(Kind::Chrome, u"Default"_s));
     EXPECT_EQ(onlyStart().arguments.value(2), u"about:blank");
     EXPECT_EQ(clipboard, u"chrome://bookmarks/?id=5");
     home.clock.advance(10s);
     EXPECT_EQ(windows->looks, 0);
 }
 
-TEST(LinuxWorkspaceEnvironmentTest, NoWindowIsSteeredInAWaylandSession)
+TEST(LinuxWorkspaceEnvironmentTest, noWindowIsSteeredInAWaylandSession)
 {
     struct Case {
         const char *waylandDisplay;

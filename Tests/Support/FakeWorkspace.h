@@ -16,53 +16,51 @@ namespace roamlet::testing
 class FakeWorkspace final : public Workspace
 {
 public:
-    bool hasApplication(const QString &bundleID) const override { return icons.contains(bundleID); }
-    std::optional<QImage> icon(const QString &bundleID, int side, qreal devicePixelRatio) const override
+    bool hasBrowser(Source::Kind browser) const override { return icons.contains(Source::rawValue(browser)); }
+    std::optional<QImage> icon(Source::Kind browser, int side, qreal devicePixelRatio) const override
     {
         ++iconRequests;
-        if (!icons.contains(bundleID))
+        if (!hasBrowser(browser))
             return {};
         const int pixels = qRound(side * devicePixelRatio);
         QImage image(pixels, pixels, QImage::Format_ARGB32);
-        image.fill(icons.value(bundleID));
+        image.fill(icons.value(Source::rawValue(browser)));
         image.setDevicePixelRatio(devicePixelRatio);
         return image;
     }
-    void open(const QStringList &urls, const QString &bundleID) override
+    void open(const QStringList &urls, Source::Kind browser) override
     {
-        requests.append(QStringList{QStringLiteral("open"), bundleID} + urls);
+        requests.append(QStringList{QStringLiteral("open"), Source::rawValue(browser)} + urls);
     }
     void openSystemURL(const QString &url) override
     {
         requests.append(QStringList{QStringLiteral("system"), url});
     }
-    void start(const QString &program, const QStringList &arguments) override
+    void openInProfile(const QStringList &urls, const Source &source) override
     {
-        requests.append(QStringList{QStringLiteral("start"), program} + arguments);
+        requests.append(QStringList{QStringLiteral("profile"), placeOf(source), profileOf(source)} + urls);
     }
-    bool openInProfile(const QStringList &urls, const QString &bundleID, const QString &profile) override
+    void showPage(const QString &page, const Source &source) override
     {
-        if (reachesProfiles)
-            requests.append(QStringList{QStringLiteral("profile"), bundleID, profile} + urls);
-        return reachesProfiles;
-    }
-    bool showPage(const QString &page, const QString &bundleID,
-                  const std::optional<QString> &profile) override
-    {
-        if (reachesProfiles) {
-            const QString name = profile.value_or(QStringLiteral("(no profile)"));
-            requests.append(QStringList{QStringLiteral("page"), bundleID, name, page});
-        }
-        return reachesProfiles;
+        requests.append(QStringList{QStringLiteral("page"), placeOf(source), profileOf(source), page});
     }
 
-    /// Whether the system has its own way to open something in a profile; otherwise commands have to do.
-    bool reachesProfiles = true;
-    /// The applications that are installed, by bundle identifier, and the colours of their icons.
+    /// The browsers that are installed, by raw value, and the colours of their icons.
     QHash<QString, Qt::GlobalColor> icons;
     /// What was asked, in order: the operation, who it is for, what for.
     QList<QStringList> requests;
     mutable int iconRequests = 0;
+
+private:
+    static QString placeOf(const Source &source)
+    {
+        const QString key = source.installation.isEmpty() ? QString() : QString(u'@' + source.installation);
+        return Source::rawValue(source.kind) + key;
+    }
+    static QString profileOf(const Source &source)
+    {
+        return source.profile.value_or(QStringLiteral("(no profile)"));
+    }
 };
 
 } // namespace roamlet::testing

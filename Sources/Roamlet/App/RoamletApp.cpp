@@ -233,8 +233,8 @@ int RoamletApp::runUntilTheEnd(int argc, char **argv, const std::stop_token &sto
 
     LinuxActivationPolicy activation;
     AutostartLoginService loginService(AutostartLoginService::Environment::ofThisProcess());
-    LinuxWorkspace workspace(LinuxWorkspace::Environment::ofThisProcess(), services.folders, services.clock,
-                             pasteNotice());
+    LinuxWorkspace workspace(LinuxWorkspace::Environment::ofThisProcess(), services.folders, services.files,
+                             services.clock, pasteNotice());
     FileSavePanel savePanel(services.folders.home());
     MessageAlert alert;
     const BundleInformation information = BundleInformation::ofThisProgram();

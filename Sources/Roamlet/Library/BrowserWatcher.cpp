@@ -3,13 +3,13 @@
 
 #include "Library/BrowserWatcher.h"
 
-#include "Model/Source.h"
+#include "Model/Browser.h"
+#include "Platform/BrowserFolders.h"
 #include "Platform/Files.h"
 #include "Platform/Folders.h"
-#include "Readers/ReadContext.h"
+#include "Readers/BrowserReader.h"
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 namespace roamlet
@@ -19,14 +19,6 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-
-constexpr std::array safariFiles{"Bookmarks.plist"_L1, "History.db"_L1, "History.db-wal"_L1};
-constexpr std::array chromiumFiles{"Bookmarks"_L1, "History"_L1, "History-wal"_L1};
-
-bool contains(const auto &names, QStringView name)
-{
-    return std::ranges::any_of(names, [name](QLatin1StringView candidate) { return name == candidate; });
-}
 
 struct SplitPath {
     QStringView folder;
@@ -41,31 +33,68 @@ SplitPath split(QStringView path)
 }
 
 /// Every place where data may lie now or later: a browser can be installed while we run.
-QStringList watchedFolders(const Folders &folders)
+QStringList watchedFolders(const Platform &platform)
 {
-    QStringList result = folders.dataRootCandidates(Source::rawValue(Source::Kind::Safari));
-    result += BrowserFolders::of(folders).safariProfiles();
-    for (const Source::Kind kind : Source::chromium)
-        result += folders.dataRootCandidates(Source::rawValue(kind));
+    QStringList result = platform.folders.dataFolders(Source::Kind::Safari, {});
+    result += BrowserFolders::of(platform.folders, platform.files).safariProfiles();
+    for (const Browser &browser : Browser::all()) {
+        if (browser.family == Browser::Family::Safari)
+            continue;
+        for (const Browser::Installation &installation : browser.installations)
+            result += platform.folders.dataFolders(browser.kind, installation.key);
+    }
     return result;
+}
+
+/// A source as far as its id needs it.
+QString idOf(Source::Kind kind, QStringView profile, const QString &installation = {})
+{
+    return Source{.kind = kind,
+                  .profile = profile.toString(),
+                  .name = {},
+                  .safariBookmarks = {},
+                  .installation = installation}
+        .id();
 }
 
 } // namespace
 
 BrowserWatcher::BrowserWatcher(const Platform &platform, Handler onChange)
-    : m_platform(platform),
-      m_onChange(std::move(onChange)),
-      m_stream(platform.fileEvents.open(watchedFolders(platform.folders),
-                                        [this](const QStringList &paths) { handle(paths); }))
+    : m_platform(platform), m_onChange(std::move(onChange)), m_stream(open(watchedFolders(platform)))
 {
+}
+
+std::unique_ptr<FileEvents::Stream> BrowserWatcher::open(const QStringList &folders)
+{
+    return m_platform.fileEvents.open(folders, [this](const QStringList &paths) { handle(paths); });
+}
+
+void BrowserWatcher::setProfiles(const QList<Source> &profiles)
+{
+    const BrowserFolders folders = BrowserFolders::of(m_platform.folders, m_platform.files);
+    QHash<QString, Source> far;
+    for (const Source &source : profiles) {
+        const QStringList roots = folders.roots(source);
+        const QString folder = folders.profile(source, m_platform.files);
+        if (!roots.isEmpty() && !roots.contains(split(folder).folder))
+            far.insert(folder, source);
+    }
+    if (far == m_farProfiles)
+        return;
+    m_farProfiles = far;
+    m_farStream = far.isEmpty() ? nullptr : open(far.keys());
 }
 
 void BrowserWatcher::handle(const QStringList &paths)
 {
-    const BrowserFolders folders = BrowserFolders::of(m_platform.folders);
+    const BrowserFolders folders = BrowserFolders::of(m_platform.folders, m_platform.files);
     QSet<QString> changed;
     for (const QString &path : paths) {
-        const std::optional<QString> id = sourceID(path, folders);
+        std::optional<QString> id = sourceID(path, folders);
+        const auto [folder, name] = split(path);
+        const auto far = m_farProfiles.constFind(folder.toString());
+        if (far != m_farProfiles.cend() && BrowserReader::isRead(name, far->kind))
+            id = far->id();
         if (!id)
             continue;
         const QString stamp = m_platform.files.fileStamp(path);
@@ -82,20 +111,17 @@ std::optional<QString> BrowserWatcher::sourceID(const QString &path, const Brows
 {
     const auto [folder, name] = split(path);
     const auto [parent, profile] = split(folder);
-    const auto profileID = [profile = profile](Source::Kind kind) -> QString {
-        return Source{.kind = kind, .profile = profile.toString(), .name = {}, .safariBookmarks = {}}.id();
-    };
-    if (contains(safariFiles, name)) {
+    if (BrowserReader::isRead(name, Source::Kind::Safari)) {
         if (folder == folders.safari)
             return Source::safari().id();
         if (parent == folders.safariProfiles())
-            return profileID(Source::Kind::Safari);
+            return idOf(Source::Kind::Safari, profile);
     }
-    if (contains(chromiumFiles, name)) {
-        for (const Source::Kind kind : Source::chromium) {
-            if (parent == folders.chromium(kind))
-                return profileID(kind);
-        }
+    for (const BrowserFolders::Installation &installation : folders.installations) {
+        const bool isHere = std::ranges::any_of(
+            installation.roots, [parent = parent](const QString &root) { return parent == root; });
+        if (isHere && BrowserReader::isRead(name, installation.browser))
+            return idOf(installation.browser, profile, installation.key);
     }
     return {};
 }

@@ -3,10 +3,12 @@
 
 #pragma once
 
+#include "Model/Source.h"
 #include "Platform/FileEvents.h"
 #include "Platform/Platform.h"
 
 #include <QHash>
+#include <QList>
 #include <QSet>
 #include <QString>
 
@@ -29,17 +31,26 @@ public:
     /// Watches from now on; `onChange` gets the ids of the sources whose files really changed.
     BrowserWatcher(const Platform &platform, Handler onChange);
 
-    /// The id of the source that owns the file at `path`, or nothing when it is no file that is read.
+    /// Also follows profiles that lie elsewhere than right below their browser's data folder. Called whenever
+    /// the profiles may have changed.
+    void setProfiles(const QList<Source> &profiles);
+
+    /// The id of the source that owns the file at `path`, or nothing when it is no file that is read. Every
+    /// folder right below a data folder may be a profile's.
     static std::optional<QString> sourceID(const QString &path, const BrowserFolders &folders);
 
 private:
     void handle(const QStringList &paths);
+    std::unique_ptr<FileEvents::Stream> open(const QStringList &folders);
 
     Platform m_platform;
     Handler m_onChange;
     /// The last stamp seen of each file.
     QHash<QString, QString> m_stamps;
+    /// The profiles that lie elsewhere, by folder.
+    QHash<QString, Source> m_farProfiles;
     std::unique_ptr<FileEvents::Stream> m_stream;
+    std::unique_ptr<FileEvents::Stream> m_farStream;
 };
 
 } // namespace roamlet

@@ -102,6 +102,8 @@ void Library::readNext()
 void Library::publish(Snapshot snapshot)
 {
     m_snapshot = std::move(snapshot);
+    if (m_watcher)
+        m_watcher->setProfiles(m_snapshot.browserProfiles);
     m_faviconImages.clear();
     ++m_generation;
     Q_EMIT snapshotChanged();

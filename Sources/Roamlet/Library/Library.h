@@ -36,12 +36,14 @@ class Library final : public QObject
 public:
     /// What was read last, as one value.
     struct Snapshot {
-        /// The enabled sources: Safari's profiles, then Chrome's, then Edge's.
+        /// The enabled sources, in the order of the browsers and, in each, of its profiles.
         QList<Source> sources;
         /// Every profile that was found, enabled or not, in the same order.
         QList<Source> browserProfiles;
         /// Each source's root nodes, by source id.
         QHash<QString, QList<BookmarkNode>> bookmarkTrees;
+        /// The ids of the sources whose bookmarks their browser keeps in encrypted form only.
+        QSet<QString> encryptedBookmarks;
         /// Every source's bookmarks, in the order of `sources`.
         QList<Bookmark> bookmarks;
         /// Each source's latest rows, newest first, in the order of `sources`.
@@ -118,8 +120,8 @@ public:
     /// The latest pages of the source with this id, or of all, as the snapshot holds them.
     QList<HistoryItem> recentHistory(const std::optional<QString> &sourceID) const;
 
-    /// Every profile of every browser: Safari's (the known ones where given), then Chrome's, then Edge's. A
-    /// machine without any Safari data has no Safari profile.
+    /// Every profile of every browser, in the order of the browsers: Safari's (the known ones where given),
+    /// then Chrome's, Edge's and so on. A machine without any Safari data has no Safari profile.
     static QList<Source> allProfiles(const std::optional<QList<Source>> &knownSafari,
                                      const ReadContext &context);
     /// Reads the enabled profiles in parallel, as many at a time as there are cores. Never fails: what cannot

@@ -5,12 +5,11 @@
 
 #include "Library/Library.h"
 #include "Library/Parallel.h"
+#include "Model/Browser.h"
 #include "Platform/Clock.h"
 #include "Platform/UserDefaults.h"
-#include "Readers/Chromium/ChromiumReader.h"
-#include "Readers/FaviconReader.h"
+#include "Readers/BrowserReader.h"
 #include "Readers/Files/SQLiteSnapshot.h"
-#include "Readers/Safari/SafariReader.h"
 
 #include <QLocale>
 
@@ -37,14 +36,20 @@ bool hasSource(const QList<Source> &sources, const QString &id)
 /// What a source's history is read from, and in what state that is. A row also holds its profile's name.
 QString stateOfHistory(const Source &source, const ReadContext &context)
 {
-    const QString file = source.kind == Source::Kind::Safari ? SafariReader::historyFile(source, context)
-                                                             : ChromiumReader::historyFile(source, context);
-    return file % u'|' % SQLiteSnapshot::stamp(*context.files, file) % u'|' % source.name;
+    const QString file = BrowserReader::historyFile(source, context);
+    return file % u'|' % SQLiteSnapshot::stamp(*context.files, file) % u'|' % source.label();
+}
+
+/// Whether the files are Safari's: a Mac guards them by a grant of their own, and a database has to be read
+/// to find the profiles.
+bool isGuarded(const Source &source)
+{
+    return Browser::of(source.kind).family == Browser::Family::Safari;
 }
 
 /// One source's result.
 struct Read {
-    QList<BookmarkNode> bookmarks;
+    BookmarkTrees bookmarks;
     QList<HistoryItem> history;
     std::optional<QString> historyState;
     Favicons favicons;
@@ -60,29 +65,42 @@ struct Read {
 private:
     static Read once(const Source &source, const Read &kept, const ReadContext &context);
 
-    /// Takes over one part. A refusal empties it; any other failure leaves what was known before. Returns
-    /// whether it could be read.
-    template<typename Part>
-    bool take(Part &part, const Part &keptPart, std::expected<Part, ReadError> result)
+    /// Takes over one part. A refusal empties it; any other failure leaves what was known before.
+    template<typename Part, typename Errors>
+    void take(Part &part, const Part &keptPart, std::expected<Part, Errors> result)
     {
         if (result) {
             part = std::move(*result);
-            return true;
+            return;
         }
-        problems.append(result.error().errorDescription());
-        if (result.error().kind() == ReadError::Kind::NoAccess)
-            isBlocked = true;
-        else
+        if (!addProblems(asList(result.error())))
             part = keptPart;
-        return false;
     }
+
+    /// Tells of errors, of which several parts may have the same. Returns whether one is a refusal.
+    bool addProblems(const ReadErrors &errors)
+    {
+        const bool isRefused =
+            std::ranges::find(errors, ReadError::Kind::NoAccess, &ReadError::kind) != errors.end();
+        for (const ReadError &error : errors) {
+            const QString text = error.errorDescription();
+            if (!problems.contains(text))
+                problems.append(text);
+        }
+        isBlocked = isBlocked || isRefused;
+        return isRefused;
+    }
+
+    static ReadErrors asList(const ReadError &error) { return {error}; }
+    static ReadErrors asList(const ReadErrors &errors) { return errors; }
 };
 
 Read Read::reused(const Source &source, const Library::Snapshot &previous)
 {
     const QString id = source.id();
     Read read;
-    read.bookmarks = previous.bookmarkTrees.value(id);
+    read.bookmarks.roots = previous.bookmarkTrees.value(id);
+    read.bookmarks.areEncrypted = previous.encryptedBookmarks.contains(id);
     for (const HistoryItem &item : previous.history) {
         if (item.source.id() == id)
             read.history.append(item);
@@ -92,7 +110,7 @@ Read Read::reused(const Source &source, const Library::Snapshot &previous)
     read.favicons = previous.sourceFavicons.value(id);
     if (previous.problems.contains(id))
         read.problems = {previous.problems.value(id)};
-    read.isBlocked = source.kind == Source::Kind::Safari && previous.safariBlocked;
+    read.isBlocked = isGuarded(source) && previous.safariBlocked;
     return read;
 }
 
@@ -115,26 +133,22 @@ Read Read::of(const Source &source, const Read &kept, const ReadContext &context
 Read Read::once(const Source &source, const Read &kept, const ReadContext &context)
 {
     Read read;
-    std::expected<Favicons, ReadError> favicons;
     // What is written while it is being read makes it another state.
     const QString state = stateOfHistory(source, context);
-    if (source.kind == Source::Kind::Safari) {
-        if (read.take(read.history, kept.history,
-                      SafariReader::history(source, HistoryQuery::recent(), context)))
+    BrowserReader::Content content = BrowserReader::content(source, context);
+    const auto takeHistory = [&] {
+        if (content.history)
             read.historyState = state;
-        read.take(read.bookmarks, kept.bookmarks, SafariReader::bookmarks(source, context));
-        // There is one store for all profiles; the default one stands for them.
-        if (!source.profile)
-            favicons = FaviconReader::safari(context);
-    } else {
-        read.take(read.bookmarks, kept.bookmarks, ChromiumReader::bookmarks(source, context));
-        if (read.take(read.history, kept.history,
-                      ChromiumReader::history(source, HistoryQuery::recent(), context)))
-            read.historyState = state;
-        favicons = FaviconReader::chromium(source, context);
-    }
+        read.take(read.history, kept.history, std::move(content.history));
+    };
+    if (content.isHistoryFirst)
+        takeHistory();
+    read.take(read.bookmarks, kept.bookmarks, std::move(content.bookmarks));
+    read.addProblems(read.bookmarks.problems);
+    if (!content.isHistoryFirst)
+        takeHistory();
     // Icons are an ornament: nobody is told when they cannot be read, and nothing is tried again for them.
-    read.favicons = favicons.value_or(kept.favicons);
+    read.favicons = content.favicons.value_or(kept.favicons);
     return read;
 }
 
@@ -144,7 +158,7 @@ std::optional<QList<Source>> knownSafariProfiles(const Library::ReadRequest &req
     if (!request.only)
         return {};
     QList<Source> known = request.previous.browserProfiles;
-    known.removeIf([](const Source &source) { return source.kind != Source::Kind::Safari; });
+    known.removeIf([](const Source &source) { return !isGuarded(source); });
     if (known.isEmpty())
         return {};
     for (const QString &id : *request.only) {
@@ -165,9 +179,11 @@ Library::Snapshot assemble(const QList<Source> &profiles, const QList<Source> &e
         const Source &source = enabled[static_cast<qsizetype>(i)];
         const QString id = source.id();
         Read &read = reads[i];
-        for (const BookmarkNode &root : std::as_const(read.bookmarks))
+        for (const BookmarkNode &root : std::as_const(read.bookmarks.roots))
             snapshot.bookmarks += root.flattened();
-        snapshot.bookmarkTrees.insert(id, read.bookmarks);
+        snapshot.bookmarkTrees.insert(id, read.bookmarks.roots);
+        if (read.bookmarks.areEncrypted)
+            snapshot.encryptedBookmarks.insert(id);
         snapshot.history += std::move(read.history);
         if (read.historyState)
             snapshot.historyStates.insert(id, *read.historyState);
@@ -178,7 +194,7 @@ Library::Snapshot assemble(const QList<Source> &profiles, const QList<Source> &e
         snapshot.sourceFavicons.insert(id, read.favicons);
         if (!read.problems.isEmpty())
             snapshot.problems.insert(id, read.problems.join(u'\n'));
-        if (source.kind == Source::Kind::Safari && read.isBlocked)
+        if (isGuarded(source) && read.isBlocked)
             snapshot.safariBlocked = true;
     }
     return snapshot;
@@ -190,12 +206,12 @@ QList<Source> Library::allProfiles(const std::optional<QList<Source>> &knownSafa
                                    const ReadContext &context)
 {
     QList<Source> result;
-    if (knownSafari)
-        result = *knownSafari;
-    else if (context.folders.hasSafari)
-        result = SafariReader::profiles(context);
-    for (const Source::Kind kind : Source::chromium)
-        result += ChromiumReader::profiles(kind, context);
+    for (const Browser &browser : Browser::all()) {
+        if (knownSafari && browser.family == Browser::Family::Safari)
+            result += *knownSafari;
+        else
+            result += BrowserReader::profiles(browser.kind, context);
+    }
     return result;
 }
 
@@ -225,8 +241,7 @@ HistoryResults Library::history(const HistoryQuery &query, const QList<Source> &
     forEachInParallel(results.size(), [&](size_t index, CoreTurns &turns) {
         const CoreTurns::Turn turn(turns);
         const Source &source = sources.at(static_cast<qsizetype>(index));
-        auto rows = source.kind == Source::Kind::Safari ? SafariReader::history(source, query, context)
-                                                        : ChromiumReader::history(source, query, context);
+        auto rows = BrowserReader::history(source, query, context);
         results[finished.fetch_add(1)] = std::move(rows).value_or(QList<HistoryItem>());
     });
 
@@ -273,7 +288,7 @@ QSet<QString> Library::storedDisabledProfiles(const UserDefaults &defaults)
 
 ReadContext Library::readContext(const Platform &platform)
 {
-    return {.folders = BrowserFolders::of(platform.folders),
+    return {.folders = BrowserFolders::of(platform.folders, platform.files),
             .files = &platform.files,
             .locale = QLocale::system().collation().name(),
             .stop = {}};

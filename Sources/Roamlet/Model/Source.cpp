@@ -3,40 +3,37 @@
 
 #include "Model/Source.h"
 
+#include "Model/Browser.h"
+
+#include <algorithm>
+
 namespace roamlet
 {
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
-struct KindNames {
-    Source::Kind kind;
-    QLatin1StringView rawValue;
-    QLatin1StringView displayName;
-};
-constexpr std::array kindNames{
-    KindNames{Source::Kind::Safari, "safari"_L1, "Safari"_L1},
-    KindNames{Source::Kind::Chrome, "chrome"_L1, "Chrome"_L1},
-    KindNames{Source::Kind::Edge, "edge"_L1, "Edge"_L1},
-};
-
-const KindNames &names(Source::Kind kind)
-{
-    return kindNames.at(static_cast<size_t>(kind));
-}
-} // namespace
-
 QString Source::id() const
 {
     // Only the profile decides, whatever the kind: ids in stored settings depend on it.
-    return profile ? QString(rawValue(kind) % u'/' % *profile) : u"safari"_s;
+    if (!profile)
+        return u"safari"_s;
+    const QString browser =
+        installation.isEmpty() ? rawValue(kind) : QString(rawValue(kind) % u'@' % installation);
+    return browser % u'/' % *profile;
 }
 
 QString Source::label() const
 {
     const QString browser = displayName(kind);
-    return name == browser ? name : QString(browser % u" - " % name);
+    const QString shown = namesInstallation && !installation.isEmpty()
+                              ? QString(browser % u' ' % Browser::installationName(installation))
+                              : browser;
+    return name == browser ? shown : QString(shown % u" - " % name);
+}
+
+bool Source::holdsMainSafariBookmarks() const
+{
+    return kind == Kind::Safari && std::holds_alternative<AllExcept>(safariBookmarks);
 }
 
 Source Source::safari()
@@ -49,21 +46,19 @@ Source Source::safari()
 
 QString Source::rawValue(Kind kind)
 {
-    return names(kind).rawValue;
+    return Browser::of(kind).rawValue;
 }
 
 std::optional<Source::Kind> Source::kindFromRawValue(QStringView rawValue)
 {
-    for (const KindNames &candidate : kindNames) {
-        if (candidate.rawValue == rawValue)
-            return candidate.kind;
-    }
-    return {};
+    const QList<Browser> &browsers = Browser::all();
+    const auto found = std::ranges::find(browsers, rawValue, &Browser::rawValue);
+    return found == browsers.end() ? std::nullopt : std::optional(found->kind);
 }
 
 QString Source::displayName(Kind kind)
 {
-    return names(kind).displayName;
+    return Browser::of(kind).displayName;
 }
 
 size_t qHash(const Source::SafariBookmarks &selection, size_t seed)
@@ -80,7 +75,8 @@ size_t qHash(const Source::SafariBookmarks &selection, size_t seed)
 size_t qHash(const Source &source, size_t seed)
 {
     return qHashMulti(seed, Source::rawValue(source.kind), source.profile.has_value(),
-                      source.profile.value_or(QString()), source.name, source.safariBookmarks);
+                      source.profile.value_or(QString()), source.name, source.safariBookmarks,
+                      source.installation, source.namesInstallation);
 }
 
 } // namespace roamlet

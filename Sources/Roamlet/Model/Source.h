@@ -7,7 +7,7 @@
 #include <QSet>
 #include <QString>
 
-#include <array>
+#include <cstdint>
 #include <optional>
 #include <variant>
 
@@ -16,10 +16,8 @@ namespace roamlet
 
 /// One browser profile that can be read.
 struct Source {
-    enum class Kind { Safari, Chrome, Edge };
-
-    /// The kinds that keep Chromium's file layout, in the order in which they are listed.
-    static constexpr std::array chromium{Kind::Chrome, Kind::Edge};
+    /// Which browser: a row of the table of browsers. Only those that code has to name have a name here.
+    enum class Kind : std::uint8_t { Safari, Chrome, Edge };
 
     /// Which part of Safari's single bookmark file belongs to a source.
     struct AllExcept {
@@ -41,23 +39,30 @@ struct Source {
     /// The profile's display name as the browser shows it.
     QString name;
     SafariBookmarks safariBookmarks;
+    /// The key of the browser's installation that it belongs to; empty for the native release.
+    QString installation = {};
+    /// Whether the label tells the installation, because several of them have profiles.
+    bool namesInstallation = false;
 
     bool operator==(const Source &) const = default;
 
     /// The key of this source everywhere: in maps, in stored settings, in reports, as the prefix of record
     /// ids.
     QString id() const;
-    /// The text shown for this source: "Chrome - Work", or only the browser's name when the profile has it
-    /// too.
+    /// The text shown for this source: "Chrome - Work", "Chrome Beta - Work", or only the browser's name when
+    /// the profile has it too.
     QString label() const;
+
+    /// Whether it holds the bookmarks of all of Safari, which no other source can stand in for.
+    bool holdsMainSafariBookmarks() const;
 
     /// Safari's default profile on a machine without named Safari profiles.
     static Source safari();
-    /// "safari", "chrome" or "edge".
+    /// The text that stands for the kind in ids and settings: "safari", "chrome", "edge" …
     static QString rawValue(Kind kind);
     /// The kind with this raw value, or nothing.
     static std::optional<Kind> kindFromRawValue(QStringView rawValue);
-    /// "Safari", "Chrome" or "Edge".
+    /// What people call the browser: "Safari", "Chrome", "Edge" …
     static QString displayName(Kind kind);
 };
 

@@ -3,7 +3,7 @@
 
 #include "Opening/Opener.h"
 
-#include "Opening/OpenArguments.h"
+#include "Model/Browser.h"
 #include "Platform/Workspace.h"
 
 #include <QRegularExpression>
@@ -19,13 +19,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-const QString safariID = u"com.apple.Safari"_s;
-const QString blankPage = u"about:blank"_s;
-
-bool isChromium(Source::Kind kind)
-{
-    return std::ranges::find(Source::chromium, kind) != Source::chromium.end();
-}
+using Family = Browser::Family;
 
 /// Whether a browser could take this text for one of its options: it trims its arguments before it looks.
 bool looksLikeOption(const QString &url)
@@ -42,118 +36,107 @@ bool isURL(const QString &text)
     return url.match(text).hasMatch();
 }
 
+/// Whether Firefox opens the text itself. It takes one without a scheme for a file, sends one with a scheme
+/// that it does not know to a web search, and shows an empty tab for scripts and data.
+bool isFirefoxURL(const QString &text)
+{
+    static const QStringList schemes{u"http"_s, u"https"_s, u"file"_s,
+                                     u"ftp"_s,  u"about"_s, u"moz-extension"_s};
+    const QString scheme = text.section(u':', 0, 0).toLower();
+    return text.contains(u':') && schemes.contains(scheme) && isURL(text);
+}
+
 bool isNumber(const QString &text)
 {
     const QList<uint> characters = text.toUcs4();
     return std::ranges::all_of(characters, [](uint character) { return QChar::isNumber(character); });
 }
 
-/// What the address of a bookmark manager ends in to show a folder. The readers' ids of folders end in the
-/// browser's own number.
-QString folderPart(const std::optional<QString> &folderID)
+/// What the address of a bookmark manager ends in to show a folder. The ids of folders end in the browser's
+/// own number.
+QString folderPart(const QString &query, const std::optional<QString> &folderID)
 {
     const QStringList pieces = folderID.value_or(QString()).split(u'/', Qt::SkipEmptyParts);
-    if (pieces.isEmpty() || !isNumber(pieces.last()))
+    if (query.isEmpty() || pieces.isEmpty() || !isNumber(pieces.last()))
         return {};
-    return u"?id=" % pieces.last();
+    return query % pieces.last();
 }
 
-void start(const OpenArguments::Command &command, Workspace &workspace)
+QStringList filtered(const QStringList &urls, bool (*isWanted)(const QString &))
 {
-    workspace.start(command.program, command.arguments);
+    QStringList result;
+    std::ranges::copy_if(urls, std::back_inserter(result), isWanted);
+    return result;
 }
 
 } // namespace
 
-QString Opener::bundleID(Source::Kind kind)
-{
-    switch (kind) {
-    case Source::Kind::Safari:
-        break;
-    case Source::Kind::Chrome:
-        return u"com.google.Chrome"_s;
-    case Source::Kind::Edge:
-        return u"com.microsoft.edgemac"_s;
-    }
-    return safariID;
-}
-
 void Opener::openLinks(const QList<Link> &links)
 {
     for (const auto &[url, source] : links) {
-        if (isChromium(source.kind))
-            openInChromium({url}, source.kind, source.profile);
-        else
-            open({url}, safariID);
+        switch (Browser::of(source.kind).family) {
+        case Family::Safari:
+            open({url}, source.kind);
+            break;
+        case Family::Chromium:
+            openInChromium({url}, source);
+            break;
+        case Family::Firefox:
+            openInFirefox({url}, source);
+            break;
+        }
     }
 }
 
-void Opener::open(const QStringList &urls, const QString &bundleID)
+void Opener::open(const QStringList &urls, Source::Kind kind)
 {
-    QStringList valid;
-    std::ranges::copy_if(urls, std::back_inserter(valid), isURL);
+    const bool isFirefox = Browser::of(kind).family == Family::Firefox;
+    const QStringList valid = filtered(urls, isFirefox ? isFirefoxURL : isURL);
     if (!valid.isEmpty())
-        m_workspace.open(valid, bundleID);
+        m_workspace.open(valid, kind);
 }
 
-void Opener::openInChromium(const QStringList &urls, Source::Kind kind, const std::optional<QString> &profile)
+void Opener::openInChromium(const QStringList &urls, const Source &source)
 {
-    if (!profile) {
-        open(urls, bundleID(kind));
+    if (!source.profile) {
+        open(urls, source.kind);
         return;
     }
-    QStringList safe;
-    std::ranges::copy_if(urls, std::back_inserter(safe),
-                         [](const QString &url) { return !url.isEmpty() && !looksLikeOption(url); });
-    if (safe.isEmpty())
-        return;
-    const QString id = bundleID(kind);
-    if (!m_workspace.openInProfile(safe, id, *profile))
-        start(OpenArguments::inProfile(safe, id, *profile), m_workspace);
+    const QStringList safe =
+        filtered(urls, [](const QString &url) { return !url.isEmpty() && !looksLikeOption(url); });
+    if (!safe.isEmpty())
+        m_workspace.openInProfile(safe, source);
 }
 
-void Opener::openChromiumPage(const QString &page, Source::Kind kind, const std::optional<QString> &profile)
+void Opener::openInFirefox(const QStringList &urls, const Source &source)
 {
-    const QString id = bundleID(kind);
-    if (m_workspace.showPage(page, id, profile))
-        return;
-    openInChromium({blankPage}, kind, profile);
-    start(OpenArguments::showPage(id, page), m_workspace);
+    const QStringList known = filtered(urls, isFirefoxURL);
+    if (!known.isEmpty())
+        m_workspace.openInProfile(known, source);
+}
+
+void Opener::showPage(const QString &page, const Source &source)
+{
+    if (Browser::of(source.kind).family == Family::Safari)
+        open({page}, source.kind);
+    else
+        m_workspace.showPage(page, source);
 }
 
 void Opener::showHistory(const Source &source)
 {
-    switch (source.kind) {
-    case Source::Kind::Safari:
-        open({u"history://"_s}, safariID);
-        break;
-    case Source::Kind::Chrome:
-        openChromiumPage(u"chrome://history/"_s, source.kind, source.profile);
-        break;
-    case Source::Kind::Edge:
-        openChromiumPage(u"edge://history/"_s, source.kind, source.profile);
-        break;
-    }
+    showPage(Browser::of(source.kind).historyPage, source);
 }
 
 void Opener::editBookmarks(const Source &source, const std::optional<QString> &folderID)
 {
-    switch (source.kind) {
-    case Source::Kind::Safari:
-        open({u"bookmarks://"_s}, safariID);
-        break;
-    case Source::Kind::Chrome:
-        openChromiumPage(u"chrome://bookmarks/" % folderPart(folderID), source.kind, source.profile);
-        break;
-    case Source::Kind::Edge:
-        openChromiumPage(u"edge://favorites/" % folderPart(folderID), source.kind, source.profile);
-        break;
-    }
+    const Browser &browser = Browser::of(source.kind);
+    showPage(browser.bookmarksPage % folderPart(browser.folderQuery, folderID), source);
 }
 
 bool Opener::isInstalled(Source::Kind kind) const
 {
-    return m_workspace.hasApplication(bundleID(kind));
+    return m_workspace.hasBrowser(kind);
 }
 
 std::optional<QImage> Opener::icon(Source::Kind kind, qreal devicePixelRatio)
@@ -162,7 +145,7 @@ std::optional<QImage> Opener::icon(Source::Kind kind, qreal devicePixelRatio)
     const std::pair key(kind, devicePixelRatio);
     if (const auto known = m_icons.constFind(key); known != m_icons.constEnd())
         return *known;
-    const std::optional<QImage> icon = m_workspace.icon(bundleID(kind), side, devicePixelRatio);
+    const std::optional<QImage> icon = m_workspace.icon(kind, side, devicePixelRatio);
     if (icon)
         m_icons.insert(key, *icon);
     return icon;

@@ -32,14 +32,15 @@ public:
 
     explicit Opener(Workspace &workspace) : m_workspace(workspace) {}
 
-    static QString bundleID(Source::Kind kind);
-
     /// Opens each link in the browser and the profile that it came from.
     void openLinks(const QList<Link> &links);
-    /// Opens URLs with an application, in whichever profile it chooses.
-    void open(const QStringList &urls, const QString &bundleID);
-    /// Opens URLs in a profile of Chrome or Edge.
-    void openInChromium(const QStringList &urls, Source::Kind kind, const std::optional<QString> &profile);
+    /// Opens URLs with a browser, in whichever profile it chooses.
+    void open(const QStringList &urls, Source::Kind kind);
+    /// Opens URLs in a profile of a browser of Chromium's family.
+    void openInChromium(const QStringList &urls, const Source &source);
+    /// Opens URLs in a profile of a browser of Firefox's family. It would search the web for a text that is
+    /// no address of its own, so that such a text opens nothing.
+    void openInFirefox(const QStringList &urls, const Source &source);
     /// Shows the browser's own page of the source's history.
     void showHistory(const Source &source);
     /// Opens the browser's bookmark manager for the source, at a folder where that is possible.
@@ -51,7 +52,7 @@ public:
     std::optional<QImage> icon(Source::Kind kind, qreal devicePixelRatio);
 
 private:
-    void openChromiumPage(const QString &page, Source::Kind kind, const std::optional<QString> &profile);
+    void showPage(const QString &page, const Source &source);
 
     Workspace &m_workspace;
     QMap<std::pair<Source::Kind, qreal>, QImage> m_icons;

@@ -165,7 +165,7 @@ TEST_F(MenuBarMenuTest, ShowsThePagesVisitedLastInTheirOrder)
 
 TEST_F(MenuBarMenuTest, PagesHaveTheirBrowsersIcon)
 {
-    workspace.icons = {{u"com.google.Chrome"_s, Qt::green}, {u"com.microsoft.edgemac"_s, Qt::blue}};
+    workspace.icons = {{u"chrome"_s, Qt::green}, {u"edge"_s, Qt::blue}};
     addChromium();
     loadNow(library);
     const auto color = [this](int row) {
@@ -184,9 +184,9 @@ TEST_F(MenuBarMenuTest, APageOpensInTheBrowserAndProfileThatItCameFrom)
         choose(recent(), *recent().actions().at(row));
     EXPECT_EQ(workspace.requests,
               (QList<QStringList>{
-                  {u"profile"_s, u"com.google.Chrome"_s, u"Profile 1"_s, u"https://b1.example/"_s},
-                  {u"profile"_s, u"com.microsoft.edgemac"_s, u"Default"_s, u"https://edge.example/"_s},
-                  {u"open"_s, u"com.apple.Safari"_s, u"https://s.example/"_s}}));
+                  {u"profile"_s, u"chrome"_s, u"Profile 1"_s, u"https://b1.example/"_s},
+                  {u"profile"_s, u"edge"_s, u"Default"_s, u"https://edge.example/"_s},
+                  {u"open"_s, u"safari"_s, u"https://s.example/"_s}}));
 }
 
 TEST_F(MenuBarMenuTest, WhileItIsOpenItDoesNotChange)

@@ -155,7 +155,7 @@ TEST_F(BookmarkTableTest, TheMenuEditsTheFolder)
     rightClick(table, u"Apple pie"_s);
     choose(table, u"linkMenu"_s, u"Edit Chrome Bookmarks"_s);
     EXPECT_EQ(workspace.requests.value(0),
-              (QStringList{u"page"_s, u"com.google.Chrome"_s, u"Default"_s, u"chrome://bookmarks/?id=6"_s}));
+              (QStringList{u"page"_s, u"chrome"_s, u"Default"_s, u"chrome://bookmarks/?id=6"_s}));
 }
 
 TEST_F(BookmarkTreeTest, TheOutermostFoldersAreOpenAtFirst)
@@ -250,7 +250,7 @@ TEST_F(BookmarkTreeTest, ReturnOpensAFolderInPlaceAndALinkInItsBrowser)
     EXPECT_TRUE(workspace.requests.isEmpty());
     press(table, Qt::Key_Down);
     press(table, Qt::Key_Return);
-    EXPECT_EQ(workspace.requests.value(0), (QStringList{u"profile"_s, u"com.google.Chrome"_s, u"Default"_s,
+    EXPECT_EQ(workspace.requests.value(0), (QStringList{u"profile"_s, u"chrome"_s, u"Default"_s,
                                                         u"https://food.example/pie"_s}));
 }
 

@@ -68,7 +68,7 @@ TEST_F(RowIconsTest, ABrokenIconIsAGlobe)
 
 TEST_F(RowIconsTest, AnInstalledBrowserHasItsIconAndAnotherASymbol)
 {
-    workspace.icons.insert(u"com.google.Chrome"_s, Qt::red);
+    workspace.icons.insert(u"chrome"_s, Qt::red);
     EXPECT_EQ(colour(icons.browser(Source::Kind::Chrome)), QColor(Qt::red));
     EXPECT_FALSE(icons.browser(Source::Kind::Edge).isNull());
     EXPECT_FALSE(icons.browser(Source::Kind::Safari).isNull());
@@ -77,7 +77,7 @@ TEST_F(RowIconsTest, AnInstalledBrowserHasItsIconAndAnotherASymbol)
 
 TEST_F(RowIconsTest, EachIconIsMadeOnce)
 {
-    workspace.icons.insert(u"com.google.Chrome"_s, Qt::red);
+    workspace.icons.insert(u"chrome"_s, Qt::red);
     icons.browser(Source::Kind::Chrome);
     icons.browser(Source::Kind::Chrome);
     EXPECT_EQ(workspace.iconRequests, 1);

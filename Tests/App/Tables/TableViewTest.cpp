@@ -76,7 +76,7 @@ TEST_F(TableViewTest, ADoubleClickOpensTheLinkWhereItCameFrom)
     doubleClick(table, u"w"_s);
     EXPECT_EQ(workspace.requests.size(), 1);
     EXPECT_EQ(requested(0),
-              (QStringList{u"profile"_s, u"com.google.Chrome"_s, u"Profile 1"_s, u"https://w.example/"_s}));
+              (QStringList{u"profile"_s, u"chrome"_s, u"Profile 1"_s, u"https://w.example/"_s}));
 }
 
 TEST_F(TableViewTest, ReturnOpensEveryRowOfTheSelection)
@@ -117,7 +117,7 @@ TEST_F(TableViewTest, CopyingNothingLeavesTheClipboardAlone)
 
 TEST_F(TableViewTest, ARightClickIsAboutTheClickedRow)
 {
-    workspace.icons.insert(u"com.microsoft.edgemac"_s, Qt::blue);
+    workspace.icons.insert(u"edge"_s, Qt::blue);
     show(table);
     click(table, u"a"_s);
     rightClick(table, u"b"_s);
@@ -125,7 +125,7 @@ TEST_F(TableViewTest, ARightClickIsAboutTheClickedRow)
               (QStringList{u"Show Chrome History"_s, u"-"_s, u"Open in Chrome"_s, u"Open in Edge"_s, u"-"_s,
                            u"Copy URL"_s, u"-"_s, u"Show Only b.example"_s}));
     choose(table, u"linkMenu"_s, u"Open in Edge"_s);
-    EXPECT_EQ(requested(0), (QStringList{u"open"_s, u"com.microsoft.edgemac"_s, u"https://b.example/"_s}));
+    EXPECT_EQ(requested(0), (QStringList{u"open"_s, u"edge"_s, u"https://b.example/"_s}));
 }
 
 TEST_F(TableViewTest, ARightClickOnTheSelectionIsAboutAllOfIt)
@@ -157,7 +157,7 @@ TEST_F(TableViewTest, TheHistoryPageOpensInItsProfile)
     rightClick(table, u"w"_s);
     choose(table, u"linkMenu"_s, u"Show Chrome History"_s);
     EXPECT_EQ(requested(0),
-              (QStringList{u"page"_s, u"com.google.Chrome"_s, u"Profile 1"_s, u"chrome://history/"_s}));
+              (QStringList{u"page"_s, u"chrome"_s, u"Profile 1"_s, u"chrome://history/"_s}));
 }
 
 TEST_F(TableViewTest, ThereIsNoMenuForHeadingsAndEmptySpace)

@@ -332,8 +332,8 @@ TEST_F(ContentViewTest, browsersThatVanishLeaveNothingToCount)
     const auto content = makeContent();
     expectSubtitle(*content, u"4 items"_s);
     change([this] {
-        for (const QString &browser : {u"chrome"_s, u"edge"_s})
-            EXPECT_TRUE(QDir(home.folders.dataRoot(browser)).removeRecursively());
+        for (const QString &file : {chromeFile(QString()), edgeFile(QString())})
+            EXPECT_TRUE(QDir(file).removeRecursively());
     });
     loadNow(*library);
     EXPECT_EQ(shownTable(*content), u"");

@@ -18,14 +18,12 @@ namespace
 
 using namespace Qt::StringLiterals;
 
-const QString chromeID = u"com.google.Chrome"_s;
-
 /// An icon theme and one browser of the test's own.
 class LinuxWorkspaceIconTest : public ::testing::Test
 {
 protected:
     LinuxWorkspaceIconTest()
-        : workspace({.dataFolders = {folder.path()}, .display = {}}, home.folders, home.clock,
+        : workspace({.dataFolders = {folder.path()}, .display = {}}, home.folders, home.files, home.clock,
                     {QDBusConnection(u"nobody"_s), [](const QString &) {},
                      [](const QString &) { return PasteNotice::Words(); }})
     {
@@ -73,24 +71,24 @@ TEST_F(LinuxWorkspaceIconTest, AnIconOfTheThemeHasThePointsAskedForInTheDevicesP
     addImage(u"icons/hicolor/48x48/apps/theme-browser.png"_s, {48, 48}, Qt::blue);
     addBrowser(u"Icon=theme-browser\n"_s);
 
-    const QImage plain = workspace.icon(chromeID, 16, 1).value_or(QImage());
+    const QImage plain = workspace.icon(Source::Kind::Chrome, 16, 1).value_or(QImage());
     EXPECT_EQ(plain.size(), QSize(16, 16));
     EXPECT_EQ(plain.pixelColor(8, 8), QColor(Qt::red));
 
-    const QImage sharp = workspace.icon(chromeID, 16, 2).value_or(QImage());
+    const QImage sharp = workspace.icon(Source::Kind::Chrome, 16, 2).value_or(QImage());
     EXPECT_EQ(sharp.size(), QSize(32, 32));
     EXPECT_EQ(sharp.devicePixelRatio(), 2);
     EXPECT_EQ(sharp.deviceIndependentSize(), QSizeF(16, 16));
     EXPECT_EQ(sharp.pixelColor(16, 16), QColor(Qt::blue)) << "the larger picture has the pixels for it";
 
-    EXPECT_EQ(workspace.icon(chromeID, 16, 1.5).value_or(QImage()).size(), QSize(24, 24));
+    EXPECT_EQ(workspace.icon(Source::Kind::Chrome, 16, 1.5).value_or(QImage()).size(), QSize(24, 24));
 }
 
 TEST_F(LinuxWorkspaceIconTest, AnIconMayBeAFile)
 {
     const QString path = addImage(u"logo.png"_s, {128, 128}, Qt::green);
     addBrowser(u"Icon=" % path % u'\n');
-    const QImage icon = workspace.icon(chromeID, 16, 1).value_or(QImage());
+    const QImage icon = workspace.icon(Source::Kind::Chrome, 16, 1).value_or(QImage());
     EXPECT_EQ(icon.size(), QSize(16, 16));
     EXPECT_EQ(icon.pixelColor(0, 0), QColor(Qt::green));
 }
@@ -99,7 +97,7 @@ TEST_F(LinuxWorkspaceIconTest, AnIconThatIsNoSquareKeepsItsShape)
 {
     const QString path = addImage(u"wide.png"_s, {64, 32}, Qt::green);
     addBrowser(u"Icon=" % path % u'\n');
-    const QImage icon = workspace.icon(chromeID, 16, 1).value_or(QImage());
+    const QImage icon = workspace.icon(Source::Kind::Chrome, 16, 1).value_or(QImage());
     EXPECT_EQ(icon.size(), QSize(16, 16));
     EXPECT_EQ(icon.pixelColor(8, 1).alpha(), 0);
     EXPECT_EQ(icon.pixelColor(8, 8), QColor(Qt::green));
@@ -110,21 +108,21 @@ TEST_F(LinuxWorkspaceIconTest, ASmallIconIsEnlarged)
 {
     const QString path = addImage(u"tiny.png"_s, {8, 8}, Qt::green);
     addBrowser(u"Icon=" % path % u'\n');
-    const QImage icon = workspace.icon(chromeID, 16, 2).value_or(QImage());
+    const QImage icon = workspace.icon(Source::Kind::Chrome, 16, 2).value_or(QImage());
     EXPECT_EQ(icon.size(), QSize(32, 32));
     EXPECT_EQ(icon.pixelColor(31, 31), QColor(Qt::green));
 }
 
 TEST_F(LinuxWorkspaceIconTest, WhatHasNoPictureHasNoIcon)
 {
-    EXPECT_EQ(workspace.icon(chromeID, 16, 1), std::nullopt) << "not installed";
+    EXPECT_EQ(workspace.icon(Source::Kind::Chrome, 16, 1), std::nullopt) << "not installed";
     addBrowser(QString());
-    EXPECT_EQ(workspace.icon(chromeID, 16, 1), std::nullopt) << "names no icon";
+    EXPECT_EQ(workspace.icon(Source::Kind::Chrome, 16, 1), std::nullopt) << "names no icon";
     addBrowser(u"Icon=no-such-icon-anywhere\n"_s);
-    EXPECT_EQ(workspace.icon(chromeID, 16, 1), std::nullopt) << "names an icon that is not there";
+    EXPECT_EQ(workspace.icon(Source::Kind::Chrome, 16, 1), std::nullopt) << "names an icon that is not there";
     write(u"broken.png"_s, "\x89PNG broken");
     addBrowser(u"Icon=" % folder.filePath(u"broken.png"_s) % u'\n');
-    EXPECT_EQ(workspace.icon(chromeID, 16, 1), std::nullopt) << "names a broken picture";
+    EXPECT_EQ(workspace.icon(Source::Kind::Chrome, 16, 1), std::nullopt) << "names a broken picture";
     EXPECT_EQ(workspace.icon(u"com.apple.Safari"_s, 16, 1), std::nullopt);
 }
 

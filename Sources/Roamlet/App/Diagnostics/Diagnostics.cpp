@@ -11,8 +11,7 @@
 #include "Platform/Clock.h"
 #include "Platform/Console.h"
 #include "Platform/Folders.h"
-#include "Readers/Chromium/ChromiumReader.h"
-#include "Readers/Safari/SafariReader.h"
+#include "Readers/BrowserReader.h"
 
 #include <QDateTime>
 #include <QEventLoop>
@@ -88,8 +87,8 @@ private:
         return sources;
     }
 
-    /// The bookmarks of one source, or why there are none.
-    std::expected<QList<BookmarkNode>, QString> bookmarks(const QString &sourceID) const;
+    /// The bookmarks of one source, or why there is no such source. What cannot be read is complained of.
+    std::expected<QList<BookmarkNode>, QString> bookmarks(const QString &sourceID);
     /// What stands for the sources that the watcher reports, sorted.
     QStringList labels(const QSet<QString> &sourceIDs) const;
 
@@ -175,7 +174,7 @@ int Job::summary()
     return print(lines);
 }
 
-std::expected<QList<BookmarkNode>, QString> Job::bookmarks(const QString &sourceID) const
+std::expected<QList<BookmarkNode>, QString> Job::bookmarks(const QString &sourceID)
 {
     const QList<Source> sources = enabledSources();
     const auto source = std::ranges::find(sources, sourceID, &Source::id);
@@ -184,11 +183,13 @@ std::expected<QList<BookmarkNode>, QString> Job::bookmarks(const QString &source
         return std::unexpected(isDisabled ? QString(sourceID % u" is turned off in Settings.")
                                           : QString(u"There is no source " % sourceID % u'.'));
     }
-    const auto trees = source->kind == Source::Kind::Safari ? SafariReader::bookmarks(*source, m_context)
-                                                            : ChromiumReader::bookmarks(*source, m_context);
-    if (!trees)
-        return std::unexpected(trees.error().errorDescription());
-    return *trees;
+    const auto trees = BrowserReader::bookmarks(*source, m_context);
+    for (const ReadError &error : trees ? trees->problems : trees.error())
+        complain(error.errorDescription());
+    if (trees && trees->areEncrypted)
+        complain(Source::displayName(source->kind) % u" keeps the bookmarks of " % source->label() %
+                 u" encrypted. Only it can export them.");
+    return trees ? trees->roots : QList<BookmarkNode>();
 }
 
 int Job::exportBookmarks(const std::optional<QString> &formatName, const std::optional<QString> &sourceID)
@@ -297,12 +298,13 @@ int Job::watch(const std::optional<QString> &duration)
 
     int status = success;
     QEventLoop loop;
-    const BrowserWatcher watcher(m_platform, [&](const QSet<QString> &sourceIDs) {
+    BrowserWatcher watcher(m_platform, [&](const QSet<QString> &sourceIDs) {
         const PointInTime now = std::chrono::time_point_cast<PointInTime::duration>(m_platform.clock.now());
         status = print({localTime(now) % u"  " % labels(sourceIDs).join(u", "_s)});
         if (!m_canWrite)
             loop.quit();
     });
+    watcher.setProfiles(Library::allProfiles({}, m_context));
     m_platform.clock.after(std::chrono::milliseconds(milliseconds), &loop, [&loop] { loop.quit(); });
     const std::stop_callback end(m_stop,
                                  [&loop] { QMetaObject::invokeMethod(&loop, "quit", Qt::QueuedConnection); });

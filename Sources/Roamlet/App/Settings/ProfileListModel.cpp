@@ -10,18 +10,6 @@
 namespace roamlet
 {
 
-namespace
-{
-
-/// Whether it is the source that the bookmarks of all of Safari belong to.
-bool holdsMainBookmarks(const Source &source)
-{
-    return source.kind == Source::Kind::Safari &&
-           std::holds_alternative<Source::AllExcept>(source.safariBookmarks);
-}
-
-} // namespace
-
 ProfileListModel::ProfileListModel(Library &library, QObject *parent)
     : QAbstractListModel(parent), m_library(library)
 {
@@ -50,8 +38,8 @@ QVariant ProfileListModel::data(const QModelIndex &index, int role) const
     case Qt::CheckStateRole:
         return m_disabled.contains(source.id()) ? Qt::Unchecked : Qt::Checked;
     case Qt::ToolTipRole:
-        return holdsMainBookmarks(source) ? tr("Holds Safari's main bookmarks, so it's always on.")
-                                          : QVariant();
+        return source.holdsMainSafariBookmarks() ? tr("Holds Safari's main bookmarks, so it's always on.")
+                                                 : QVariant();
     default:
         return {};
     }
@@ -70,7 +58,7 @@ Qt::ItemFlags ProfileListModel::flags(const QModelIndex &index) const
     if (!index.isValid())
         return Qt::NoItemFlags;
     Qt::ItemFlags result = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
-    result.setFlag(Qt::ItemIsUserCheckable, !holdsMainBookmarks(m_profiles[index.row()]));
+    result.setFlag(Qt::ItemIsUserCheckable, !m_profiles[index.row()].holdsMainSafariBookmarks());
     return result;
 }
 

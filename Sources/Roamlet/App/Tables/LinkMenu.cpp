@@ -98,8 +98,8 @@ QList<LinkMenuEntry> linkMenuEntries(const LinkMenuSubject &subject, const QList
         add(Entry::Action::OpenInOriginalBrowsers,
             count > 1 ? u"Open in Original Browsers"_s
                       : QString(u"Open in " % Source::displayName(subject.items.first().source.kind)));
-        for (const Kind kind : {Kind::Safari, Kind::Chrome, Kind::Edge}) {
-            if (kind != ownBrowser && installed.contains(kind))
+        for (const Kind kind : installed) {
+            if (kind != ownBrowser)
                 add(Entry::Action::OpenInBrowser, u"Open in " % Source::displayName(kind), kind);
         }
         separate();

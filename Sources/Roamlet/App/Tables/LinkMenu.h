@@ -60,7 +60,7 @@ struct LinkMenuEntry {
     bool operator==(const LinkMenuEntry &) const = default;
 };
 
-/// The menu for a subject where these browsers are installed.
+/// The menu for a subject where these browsers are installed, in the order in which it lists them.
 QList<LinkMenuEntry> linkMenuEntries(const LinkMenuSubject &subject, const QList<Source::Kind> &installed);
 
 /// The texts of URLs as they are put on the clipboard.

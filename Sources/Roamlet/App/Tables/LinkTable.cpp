@@ -7,6 +7,7 @@
 #include "App/Tables/TableHeader.h"
 #include "Library/Library.h"
 #include "Lists/Refine.h"
+#include "Model/Browser.h"
 #include "Platform/Clock.h"
 
 #include <QClipboard>
@@ -224,9 +225,9 @@ void LinkTable::copySelection()
 void LinkTable::showLinkMenu(const QPoint &place)
 {
     QList<Source::Kind> installed;
-    for (const Source::Kind kind : {Source::Kind::Safari, Source::Kind::Chrome, Source::Kind::Edge}) {
-        if (m_services.opener.isInstalled(kind))
-            installed.append(kind);
+    for (const Browser &browser : Browser::all()) {
+        if (m_services.opener.isInstalled(browser.kind))
+            installed.append(browser.kind);
     }
     const LinkMenuSubject subject = menuSubject(m_view.selectedRows());
     const QList<LinkMenuEntry> entries = linkMenuEntries(subject, installed);
@@ -265,7 +266,7 @@ void LinkTable::perform(const LinkMenuEntry &entry, const LinkMenuSubject &subje
         QStringList urls;
         for (const Opener::Link &link : subject.items)
             urls.append(link.url);
-        opener.open(urls, Opener::bundleID(entry.browser));
+        opener.open(urls, entry.browser);
         return;
     }
     case Action::CopyURLs:

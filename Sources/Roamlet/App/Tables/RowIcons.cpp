@@ -5,6 +5,7 @@
 
 #include "App/Look/Symbol.h"
 #include "Library/Library.h"
+#include "Model/Browser.h"
 #include "Opening/Opener.h"
 
 #include <QImage>
@@ -49,8 +50,8 @@ const QIcon &RowIcons::browser(Source::Kind kind)
     auto icon = m_browsers.constFind(kind);
     if (icon == m_browsers.cend()) {
         const std::optional<QImage> image = m_opener.icon(kind, m_ratio);
-        const QString symbol = kind == Source::Kind::Safari ? u"safari"_s : u"globe"_s;
-        icon = m_browsers.insert(kind, image ? iconOf(*image) : symbolIcon(symbol));
+        const bool isSafari = Browser::of(kind).family == Browser::Family::Safari;
+        icon = m_browsers.insert(kind, image ? iconOf(*image) : isSafari ? symbolIcon(u"safari"_s) : m_globe);
     }
     return *icon;
 }

@@ -11,6 +11,7 @@
 #include "App/Window/Sidebar.h"
 #include "App/Window/SiteFilterBar.h"
 #include "Library/Library.h"
+#include "Model/Browser.h"
 #include "Platform/Folders.h"
 #include "Platform/UserDefaults.h"
 #include "Platform/Workspace.h"
@@ -35,17 +36,20 @@ namespace
 /// Where we look for browsers, for a user who has none that we know.
 QString whereWeLooked(const Folders &folders)
 {
+    QStringList names;
     QStringList places;
-    for (const QString &browser : {u"safari"_s, u"chrome"_s, u"edge"_s}) {
-        for (QString place : folders.dataRootCandidates(browser)) {
-            const QString home = folders.home() % u'/';
-            if (place.startsWith(home))
-                place.replace(0, home.size(), u"~/"_s);
-            places.append(place);
-        }
+    const QString home = folders.home() % u'/';
+    for (const Browser &browser : Browser::all()) {
+        names.append(browser.displayName);
+        QString place = folders.dataFolders(browser.kind, {}).last();
+        if (place.startsWith(home))
+            place.replace(0, home.size(), u"~/"_s);
+        places.append(place);
     }
-    return u"Roamlet looks for the data of Safari, Google Chrome, Chromium and Microsoft Edge in these "
-           "folders:\n\n"_s %
+    const QString last = names.takeLast();
+    return u"Roamlet looks for the data of " % names.join(u", "_s) % u" and " % last %
+           u" in these folders, in those of their beta versions, Flatpaks and snaps, and where a Mac keeps "
+           "them:\n\n" %
            places.join(u'\n');
 }
 

@@ -9,6 +9,7 @@
 
 #include <QDir>
 
+#include <algorithm>
 #include <utility>
 
 namespace roamlet
@@ -19,11 +20,12 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-/// The setting that names a browser's data root outright, or nothing.
-std::optional<QString> configuredRoot(const UserDefaults &defaults, const QString &browser,
-                                      const QString &home)
+/// The setting that names the data folder of an installation outright, or nothing.
+std::optional<QString> configuredFolder(const UserDefaults &defaults, Source::Kind browser,
+                                        const QString &installation, const QString &home)
 {
-    const std::optional<QString> value = defaults.string(u"dataRoot." % browser);
+    const QString suffix = installation.isEmpty() ? QString() : QString(u'@' % installation);
+    const std::optional<QString> value = defaults.string(u"dataRoot." % Source::rawValue(browser) % suffix);
     if (!value || value->isEmpty())
         return {};
     const QString path =
@@ -59,50 +61,41 @@ QString LinuxFolders::temporary() const
     return m_environment.temporary;
 }
 
-QStringList LinuxFolders::dataRootCandidates(const QString &browser) const
+QString LinuxFolders::folder(Browser::Place::Base base) const
 {
-    const QString &home = m_environment.home;
-    const QString &config = m_environment.configHome;
-    if (const auto path = configuredRoot(m_defaults, browser, home))
-        return {*path};
-    if (browser == u"safari")
-        return {home % u"/Library/Safari"};
-    if (browser == u"chrome") {
-        return {home % u"/Library/Application Support/Google/Chrome",
-                config % u"/google-chrome",
-                home % u"/.var/app/com.google.Chrome/config/google-chrome",
-                config % u"/chromium",
-                home % u"/snap/chromium/common/chromium",
-                home % u"/.var/app/org.chromium.Chromium/config/chromium"};
+    switch (base) {
+    case Browser::Place::Base::Config:
+        return m_environment.configHome;
+    case Browser::Place::Base::MacSupport:
+        return m_environment.home % u"/Library/Application Support";
+    case Browser::Place::Base::Home:
+        break;
     }
-    return {home % u"/Library/Application Support/Microsoft Edge", config % u"/microsoft-edge",
-            home % u"/.var/app/com.microsoft.Edge/config/microsoft-edge",
-            home % u"/.var/app/com.microsoft.Edge/config/microsoft-edge-beta"};
+    return m_environment.home;
 }
 
-QString LinuxFolders::dataRoot(const QString &browser) const
+QStringList LinuxFolders::dataFolders(Source::Kind browser, const QString &installation) const
 {
-    const QStringList candidates = dataRootCandidates(browser);
-    for (const QString &candidate : candidates) {
-        if (m_files.exists(candidate))
-            return candidate;
-    }
-    return candidates.first();
+    if (const auto path = configuredFolder(m_defaults, browser, installation, m_environment.home))
+        return {*path};
+    const QList<Browser::Installation> &installations = Browser::of(browser).installations;
+    const auto found = std::ranges::find(installations, installation, &Browser::Installation::key);
+    QStringList result;
+    if (found == installations.end())
+        return result;
+    for (const auto &[base, path] : found->places)
+        result.append(folder(base) % u'/' % path);
+    return result;
 }
 
 QString LinuxFolders::safariContainer() const
 {
-    // Beside the data root, as in a Mac's Library folder. A data root that was copied alone holds everything
-    // itself.
-    const QString root = dataRoot(u"safari"_s);
+    // Beside the data folder, as in a Mac's Library folder. A data folder that was copied alone holds
+    // everything itself.
+    const auto configured = configuredFolder(m_defaults, Source::Kind::Safari, {}, m_environment.home);
+    const QString root = dataFolders(Source::Kind::Safari, {}).first();
     const QString container = QDir::cleanPath(root % u"/../Containers/com.apple.Safari/Data/Library/Safari");
-    const bool isOverridden = configuredRoot(m_defaults, u"safari"_s, m_environment.home).has_value();
-    return isOverridden && !m_files.exists(container) ? root : container;
-}
-
-bool LinuxFolders::hasData(const QString &browser) const
-{
-    return m_files.exists(dataRoot(browser)) || (browser == u"safari" && m_files.exists(safariContainer()));
+    return configured && !m_files.exists(container) ? root : container;
 }
 
 } // namespace roamlet

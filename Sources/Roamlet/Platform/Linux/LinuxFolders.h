@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "Model/Browser.h"
 #include "Platform/Folders.h"
 
 #include <memory>
@@ -14,8 +15,8 @@ class Files;
 class UserDefaults;
 
 /// The folders of a Linux desktop. The layout of a Mac's home folder comes first, so that a home folder out
-/// of a backup reads as it is; where it does not exist, the places in which browsers keep their data on Linux
-/// serve. The settings "dataRoot.safari", "dataRoot.chrome" and "dataRoot.edge" override both.
+/// of a backup reads as it is, then the places in which browsers keep their data on Linux. The settings
+/// "dataRoot.KIND", and "dataRoot.KIND@KEY" for an installation with a key, override both.
 class LinuxFolders final : public Folders
 {
 public:
@@ -32,12 +33,12 @@ public:
 
     QString home() const override;
     QString temporary() const override;
-    QStringList dataRootCandidates(const QString &browser) const override;
-    QString dataRoot(const QString &browser) const override;
+    QStringList dataFolders(Source::Kind browser, const QString &installation) const override;
     QString safariContainer() const override;
-    bool hasData(const QString &browser) const override;
 
 private:
+    QString folder(Browser::Place::Base base) const;
+
     Environment m_environment;
     const Files &m_files;
     const UserDefaults &m_defaults;

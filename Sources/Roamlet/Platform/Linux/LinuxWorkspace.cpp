@@ -3,6 +3,9 @@
 
 #include "Platform/Linux/LinuxWorkspace.h"
 
+#include "Model/Browser.h"
+#include "Platform/BrowserFolders.h"
+#include "Platform/Files.h"
 #include "Platform/Linux/Workspace/DetachedProcess.h"
 #include "Platform/Linux/Workspace/XdoBrowserWindows.h"
 
@@ -25,8 +28,6 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-const QString safariID = u"com.apple.Safari"_s;
-
 /// Whether the address is one of Safari's own pages, which no browser here knows.
 bool isSafariPage(const QString &url)
 {
@@ -34,14 +35,23 @@ bool isSafariPage(const QString &url)
     return scheme == u"history" || scheme == u"bookmarks";
 }
 
-/// What a browser is started with to open URLs in a profile.
-QStringList profileCommand(const BrowserInstallation &installation, const QString &profile,
-                           const QStringList &urls)
+using Family = Browser::Family;
+
+/// What a browser of Chromium's family is started with to open URLs in a profile.
+QStringList chromiumCommand(const BrowserInstallation &installation, const QString &profile,
+                            const QStringList &urls)
 {
     // Without the second one a profile that was deleted would come back, empty.
     return installation.entry.command +
            QStringList{u"--profile-directory=" % profile, u"--ignore-profile-directory-if-not-exists"_s} +
            urls;
+}
+
+/// What a browser of Firefox's family is started with to open something in the profile in this folder.
+QStringList firefoxCommand(const BrowserInstallation &installation, const QString &profileFolder,
+                           const QStringList &arguments)
+{
+    return installation.entry.command + QStringList{u"--profile"_s, profileFolder} + arguments;
 }
 
 /// The icon on a square of exactly `side` points: themes have other sizes, and not every icon is a square.
@@ -71,17 +81,19 @@ LinuxWorkspace::Environment LinuxWorkspace::Environment::ofThisProcess()
             .display = isWayland ? QByteArray() : qgetenv("DISPLAY")};
 }
 
-LinuxWorkspace::LinuxWorkspace(const Environment &environment, const Folders &folders, const Clock &clock,
-                               PasteNotice notice)
-    : LinuxWorkspace(environment.dataFolders, folders, clock,
+LinuxWorkspace::LinuxWorkspace(const Environment &environment, const Folders &folders, const Files &files,
+                               const Clock &clock, PasteNotice notice)
+    : LinuxWorkspace(environment.dataFolders, folders, files, clock,
                      std::make_unique<XdoBrowserWindows>(environment.display), std::move(notice))
 {
 }
 
-LinuxWorkspace::LinuxWorkspace(QStringList dataFolders, const Folders &folders, const Clock &clock,
-                               std::unique_ptr<BrowserWindows> windows, PasteNotice notice)
+LinuxWorkspace::LinuxWorkspace(QStringList dataFolders, const Folders &folders, const Files &files,
+                               const Clock &clock, std::unique_ptr<BrowserWindows> windows,
+                               PasteNotice notice)
     : m_dataFolders(std::move(dataFolders)),
       m_folders(folders),
+      m_files(files),
       m_windows(std::move(windows)),
       m_steering(*m_windows, clock),
       m_notice(std::move(notice))
@@ -91,14 +103,14 @@ LinuxWorkspace::LinuxWorkspace(QStringList dataFolders, const Folders &folders, 
 
 LinuxWorkspace::~LinuxWorkspace() = default;
 
-bool LinuxWorkspace::hasApplication(const QString &bundleID) const
+bool LinuxWorkspace::hasBrowser(Source::Kind browser) const
 {
-    return BrowserInstallation::any(bundleID, m_folders, m_dataFolders).has_value();
+    return installationOf(browser).has_value();
 }
 
-std::optional<QImage> LinuxWorkspace::icon(const QString &bundleID, int side, qreal devicePixelRatio) const
+std::optional<QImage> LinuxWorkspace::icon(Source::Kind browser, int side, qreal devicePixelRatio) const
 {
-    const auto installation = BrowserInstallation::any(bundleID, m_folders, m_dataFolders);
+    const auto installation = installationOf(browser);
     if (!installation || installation->entry.icon.isEmpty())
         return {};
     const QString &name = installation->entry.icon;
@@ -108,14 +120,14 @@ std::optional<QImage> LinuxWorkspace::icon(const QString &bundleID, int side, qr
     return onSquare(icon, side, devicePixelRatio);
 }
 
-void LinuxWorkspace::open(const QStringList &urls, const QString &bundleID)
+void LinuxWorkspace::open(const QStringList &urls, Source::Kind browser)
 {
-    if (bundleID == safariID) {
+    if (Browser::of(browser).family == Family::Safari) {
         QStringList links;
         std::ranges::remove_copy_if(urls, std::back_inserter(links), isSafariPage);
         if (!links.isEmpty())
             launchPreferred(u"https"_s, links);
-    } else if (const auto installation = BrowserInstallation::any(bundleID, m_folders, m_dataFolders)) {
+    } else if (const auto installation = installationOf(browser)) {
         launch(installation->entry, urls);
     }
 }
@@ -125,29 +137,36 @@ void LinuxWorkspace::openSystemURL(const QString &url)
     launchPreferred(QUrl(url).scheme(), {url});
 }
 
-void LinuxWorkspace::start(const QString &program, const QStringList &arguments)
+void LinuxWorkspace::openInProfile(const QStringList &urls, const Source &source)
 {
-    start(QStringList(program) + arguments);
-}
-
-bool LinuxWorkspace::openInProfile(const QStringList &urls, const QString &bundleID, const QString &profile)
-{
-    if (const auto installation = BrowserInstallation::ofData(bundleID, m_folders, m_dataFolders))
-        start(profileCommand(*installation, profile, urls));
-    return true;
-}
-
-bool LinuxWorkspace::showPage(const QString &page, const QString &bundleID,
-                              const std::optional<QString> &profile)
-{
-    const auto installation = profile ? BrowserInstallation::ofData(bundleID, m_folders, m_dataFolders)
-                                      : BrowserInstallation::any(bundleID, m_folders, m_dataFolders);
+    const auto folders = BrowserFolders::of(m_folders, m_files);
+    const auto installation = BrowserInstallation::ofSource(source, folders, m_dataFolders);
     if (!installation)
-        return true;
+        return;
+    if (Browser::of(source.kind).family == Family::Firefox)
+        startFirefox(*installation, folders.profile(source, m_files), urls);
+    else
+        start(chromiumCommand(*installation, source.profile.value_or(QString()), urls));
+}
+
+void LinuxWorkspace::showPage(const QString &page, const Source &source)
+{
+    const auto folders = BrowserFolders::of(m_folders, m_files);
+    const auto installation = source.profile ? BrowserInstallation::ofSource(source, folders, m_dataFolders)
+                                             : BrowserInstallation::any(source.kind, folders, m_dataFolders);
+    if (!installation)
+        return;
+    if (Browser::of(source.kind).family == Family::Firefox) {
+        // Windows of its own are no addresses, and it has an option for them.
+        const bool isWindow = page.startsWith(u"chrome:");
+        startFirefox(*installation, folders.profile(source, m_files),
+                     isWindow ? QStringList{u"--chrome"_s, page} : QStringList{page});
+        return;
+    }
     const QStringList blank{u"about:blank"_s};
-    const auto openBlankTab = [this, installation = *installation, profile, blank] {
+    const auto openBlankTab = [this, installation = *installation, profile = source.profile, blank] {
         if (profile)
-            start(profileCommand(installation, *profile, blank));
+            start(chromiumCommand(installation, *profile, blank));
         else
             launch(installation.entry, blank);
     };
@@ -158,7 +177,19 @@ bool LinuxWorkspace::showPage(const QString &page, const QString &bundleID,
         m_notice.show(page);
         openBlankTab();
     }
-    return true;
+}
+
+std::optional<BrowserInstallation> LinuxWorkspace::installationOf(Source::Kind browser) const
+{
+    return BrowserInstallation::any(browser, BrowserFolders::of(m_folders, m_files), m_dataFolders);
+}
+
+void LinuxWorkspace::startFirefox(const BrowserInstallation &installation, const QString &profileFolder,
+                                  const QStringList &arguments)
+{
+    // For a folder that is gone it would wait with a dialog for ever.
+    if (m_files.exists(profileFolder % u"/places.sqlite"))
+        start(firefoxCommand(installation, profileFolder, arguments));
 }
 
 void LinuxWorkspace::start(const QStringList &command)

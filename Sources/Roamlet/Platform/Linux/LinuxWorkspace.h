@@ -20,11 +20,12 @@ namespace roamlet
 {
 
 class Clock;
+class Files;
 class Folders;
 
-/// The applications of a freedesktop.org desktop, found by their desktop entries. Chrome and Edge are the
-/// ones whose data is read, which may be a Flatpak; where Chromium's data stands in for Chrome's, Chromium
-/// does so, too. Safari is never here, and its links open in the user's preferred browser.
+/// The applications of a freedesktop.org desktop, found by their desktop entries. A source opens in the very
+/// installation whose data is read, which may be a Flatpak or a snap. Safari is never here, and its links
+/// open in the user's preferred browser.
 class LinuxWorkspace final : public Workspace
 {
 public:
@@ -38,32 +39,34 @@ public:
         static Environment ofThisProcess();
     };
 
-    LinuxWorkspace(const Environment &environment, const Folders &folders, const Clock &clock,
-                   PasteNotice notice);
+    LinuxWorkspace(const Environment &environment, const Folders &folders, const Files &files,
+                   const Clock &clock, PasteNotice notice);
     /// With another way to see and steer windows than the display's own.
-    LinuxWorkspace(QStringList dataFolders, const Folders &folders, const Clock &clock,
+    LinuxWorkspace(QStringList dataFolders, const Folders &folders, const Files &files, const Clock &clock,
                    std::unique_ptr<BrowserWindows> windows, PasteNotice notice);
     ~LinuxWorkspace() override;
 
-    bool hasApplication(const QString &bundleID) const override;
-    std::optional<QImage> icon(const QString &bundleID, int side, qreal devicePixelRatio) const override;
-    void open(const QStringList &urls, const QString &bundleID) override;
+    bool hasBrowser(Source::Kind browser) const override;
+    std::optional<QImage> icon(Source::Kind browser, int side, qreal devicePixelRatio) const override;
+    void open(const QStringList &urls, Source::Kind browser) override;
     void openSystemURL(const QString &url) override;
-    void start(const QString &program, const QStringList &arguments) override;
-    bool openInProfile(const QStringList &urls, const QString &bundleID, const QString &profile) override;
-    bool showPage(const QString &page, const QString &bundleID,
-                  const std::optional<QString> &profile) override;
+    void openInProfile(const QStringList &urls, const Source &source) override;
+    void showPage(const QString &page, const Source &source) override;
 
     /// Returns once everything that was asked for so far has been started.
     void finishStarts() { m_starts.waitForDone(); }
 
 private:
+    std::optional<BrowserInstallation> installationOf(Source::Kind browser) const;
+    void startFirefox(const BrowserInstallation &installation, const QString &profileFolder,
+                      const QStringList &arguments);
     void start(const QStringList &command);
     void launch(const DesktopEntry &entry, const QStringList &urls);
     void launchPreferred(const QString &scheme, const QStringList &urls);
 
     QStringList m_dataFolders;
     const Folders &m_folders;
+    const Files &m_files;
     std::unique_ptr<BrowserWindows> m_windows;
     PageSteering m_steering;
     PasteNotice m_notice;

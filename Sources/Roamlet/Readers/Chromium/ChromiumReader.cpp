@@ -3,6 +3,7 @@
 
 #include "Readers/Chromium/ChromiumReader.h"
 
+#include "Model/Browser.h"
 #include "Model/Collation.h"
 #include "Platform/Files.h"
 #include "Readers/BookmarkTree.h"
@@ -24,6 +25,10 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
+
+/// In them a browser that encrypts its bookmarks keeps them, those of this computer and those of the account.
+constexpr std::array encryptedBookmarkFiles{"EncryptedBookmarks"_L1, "EncryptedBookmarks2"_L1,
+                                            "EncryptedAccountBookmarks"_L1, "EncryptedAccountBookmarks2"_L1};
 
 constexpr double microsecondsPerSecond = 1'000'000;
 /// From 1601-01-01, where Chromium's times begin, to 1970-01-01.
@@ -81,7 +86,8 @@ std::vector<const Json::Value *> childEntries(const Json::Value *folder)
 
 /// The node of one entry, a folder still without its children; nothing for what is neither folder nor
 /// bookmark.
-std::optional<BookmarkNode> nodeWithoutChildren(const Json::Value &entry, const Source &source)
+std::optional<BookmarkNode> nodeWithoutChildren(const Json::Value &entry, const Source &source,
+                                                const QString &idPrefix)
 {
     const std::optional<QString> type = Json::text(Json::member(entry, "type"));
     const bool isFolder = type == u"folder";
@@ -89,7 +95,7 @@ std::optional<BookmarkNode> nodeWithoutChildren(const Json::Value &entry, const 
         return {};
     const std::optional<QString> id = Json::text(Json::member(entry, "id"));
     BookmarkNode node;
-    node.id = source.id() % u'/' % (id ? *id : QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper());
+    node.id = idPrefix % (id ? *id : QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper());
     node.title = Json::text(Json::member(entry, "name")).value_or(QString());
     node.source = source;
     if (isFolder) {
@@ -111,20 +117,37 @@ QString historyStatement(const HistoryQuery &query)
            u"last_visit_time DESC\nLIMIT " % QString::number(query.limit);
 }
 
-} // namespace
+const QString defaultFolder = u"Default"_s;
 
-QList<Source> profiles(Source::Kind kind, const ReadContext &context)
+/// Profiles of guests, and those that go when they are closed.
+bool isPassing(const QString &folderName, const Json::Value &info)
 {
-    const QString root = context.folders.chromium(kind);
-    if (root.isEmpty())
-        return {};
+    return folderName == u"Guest Profile" || folderName == u"System Profile" ||
+           Json::isTrue(Json::member(info, "is_ephemeral"));
+}
+
+Source profileSource(const BrowserFolders::Installation &installation, const QString &folderName,
+                     const QString &name)
+{
+    return {.kind = installation.browser,
+            .profile = folderName,
+            .name = name,
+            .safariBookmarks = Source::AllExcept{},
+            .installation = installation.key,
+            .namesInstallation = installation.isNamed};
+}
+
+/// The profiles that "Local State" lists and that are there.
+QList<Source> listedProfiles(const BrowserFolders::Installation &installation, const QString &root,
+                             const ReadContext &context)
+{
     const auto bytes = context.files->read(root % u"/Local State");
     const auto json = bytes ? Json::parse(*bytes) : std::unexpected(QString());
     const Json::Value *profile = json ? Json::objectMember(*json, "profile") : nullptr;
     const Json::Value *cache = profile != nullptr ? Json::objectMember(*profile, "info_cache") : nullptr;
     if (cache == nullptr)
         return {};
-
+    const Browser &browser = Browser::of(installation.browser);
     QList<Source> result;
     for (const auto &[key, info] : cache->items()) {
         const QString folderName = Json::text(key);
@@ -133,27 +156,149 @@ QList<Source> profiles(Source::Kind kind, const ReadContext &context)
             continue;
         if (!context.files->exists(root % u'/' % folderName))
             continue;
-        result.append({.kind = kind,
-                       .profile = folderName,
-                       .name = displayName(info, kind).value_or(folderName),
-                       .safariBookmarks = Source::AllExcept{}});
+        if (!browser.listsPassingProfiles && isPassing(folderName, info))
+            continue;
+        // The data folder itself is looked at apart.
+        if (browser.hasOperaLayout && folderName.isEmpty())
+            continue;
+        result.append(profileSource(installation, folderName,
+                                    displayName(info, installation.browser).value_or(folderName)));
     }
-    if (result.size() > 1) {
-        const Collation collation(context.locale);
-        std::ranges::stable_sort(result, [&collation](const Source &left, const Source &right) {
-            const bool leftIsDefault = left.profile == u"Default";
-            const bool rightIsDefault = right.profile == u"Default";
-            if (leftIsDefault || rightIsDefault)
-                return leftIsDefault && !rightIsDefault;
-            return collation.compare(*left.profile, *right.profile) < 0;
-        });
+    return result;
+}
+
+/// The profiles that an Opera keeps without listing them: an old one its first in the data folder itself, and
+/// every one its further ones in a folder of their own.
+QList<Source> operaProfiles(const BrowserFolders::Installation &installation, const QString &root,
+                            const ReadContext &context)
+{
+    const Files &files = *context.files;
+    QList<Source> result;
+    const bool isOld = !files.exists(root % u'/' % defaultFolder);
+    if (isOld && (files.exists(root % u"/History") || files.exists(root % u"/Bookmarks")))
+        result.append(profileSource(installation, u""_s, Source::displayName(installation.browser)));
+    const QString side = u"_side_profiles"_s;
+    for (const QString &name : files.names(root % u'/' % side)) {
+        const QString folder = side % u'/' % name;
+        const QString inner = folder % u'/' % defaultFolder;
+        result.append(profileSource(installation, files.exists(root % u'/' % inner) ? inner : folder, name));
+    }
+    return result;
+}
+
+QList<Source> installationProfiles(const BrowserFolders::Installation &installation,
+                                   const ReadContext &context)
+{
+    const QString root = installation.roots.value(0);
+    QList<Source> result = listedProfiles(installation, root, context);
+    if (Browser::of(installation.browser).hasOperaLayout)
+        result += operaProfiles(installation, root, context);
+    if (result.size() < 2)
+        return result;
+    const Collation collation(context.locale);
+    const auto isFirst = [](const Source &source) {
+        return source.profile == defaultFolder || source.profile == u"";
+    };
+    std::ranges::stable_sort(result, [&](const Source &left, const Source &right) {
+        if (isFirst(left) || isFirst(right))
+            return isFirst(left) && !isFirst(right);
+        return collation.compare(*left.profile, *right.profile) < 0;
+    });
+    return result;
+}
+
+/// A root folder of the bookmarks under the key that it has in the file.
+struct Root {
+    QString key;
+    BookmarkNode node;
+};
+
+class RootReader
+{
+public:
+    RootReader(const Source &source, QString idPrefix) : m_source(source), m_idPrefix(std::move(idPrefix)) {}
+
+    /// The roots in one file that hold a bookmark; none where there is no file.
+    std::expected<QList<Root>, ReadError> read(const QString &file, const Files &files) const
+    {
+        if (!files.exists(file))
+            return QList<Root>();
+        const auto bytes = files.read(file);
+        if (!bytes)
+            return std::unexpected(ReadError::wrap(bytes.error(), file));
+        const auto json = Json::parse(*bytes);
+        if (!json)
+            return std::unexpected(ReadError::unreadable(file, json.error()));
+        QList<Root> result;
+        const Json::Value *roots = Json::objectMember(*json, "roots");
+        if (roots == nullptr)
+            return result;
+        for (const char *key : {"bookmark_bar", "other", "synced"})
+            append(QString::fromLatin1(key), Json::objectMember(*roots, key), result);
+        if (Browser::of(m_source.kind).hasOperaLayout)
+            appendCustomRoots(Json::objectMember(*roots, "custom_root"), result);
+        return result;
+    }
+
+private:
+    void append(const QString &key, const Json::Value *root, QList<Root> &result) const
+    {
+        if (root == nullptr)
+            return;
+        std::optional<BookmarkNode> node = bookmarkTree(
+            root,
+            [this](const Json::Value *entry, bool) {
+                return nodeWithoutChildren(*entry, m_source, m_idPrefix);
+            },
+            childEntries);
+        if (!node || node->bookmarkCount() == 0)
+            return;
+        node->isBar = key == u"bookmark_bar";
+        result.append({key, std::move(*node)});
+    }
+
+    void appendCustomRoots(const Json::Value *custom, QList<Root> &result) const
+    {
+        if (custom == nullptr)
+            return;
+        constexpr std::array known{"unsorted", "speedDial", "pinboard", "userRoot"};
+        for (const char *key : known)
+            append(QString::fromLatin1(key), Json::objectMember(*custom, key), result);
+        for (const auto &[key, value] : custom->items()) {
+            const bool isKnown = std::ranges::find(known, std::string_view(key)) != known.end();
+            if (!isKnown && key != "trash" && value.is_object())
+                append(Json::text(key), &value, result);
+        }
+    }
+
+    const Source &m_source;
+    QString m_idPrefix;
+};
+
+/// Whether the profile's bookmarks are there, but not to be read by anybody else.
+bool hasEncryptedBookmarks(const QString &folder, const Files &files)
+{
+    return std::ranges::any_of(encryptedBookmarkFiles, [&](QLatin1StringView name) {
+        const auto bytes = files.read(folder % u'/' % name);
+        return bytes && (bytes->startsWith("v10") || bytes->startsWith("v11"));
+    });
+}
+
+} // namespace
+
+QList<Source> profiles(Source::Kind kind, const ReadContext &context)
+{
+    QList<Source> result;
+    for (const BrowserFolders::Installation &installation : context.folders.installations) {
+        if (installation.browser == kind && installation.hasProfiles)
+            result += installationProfiles(installation, context);
     }
     return result;
 }
 
 QString folder(const Source &source, const ReadContext &context)
 {
-    return context.folders.chromium(source.kind) % u'/' % source.profile.value_or(QString());
+    return context.folders.profile(source, *context.files);
 }
 
 QString historyFile(const Source &source, const ReadContext &context)
@@ -187,33 +332,46 @@ std::expected<QList<HistoryItem>, ReadError> history(const Source &source, const
     return items;
 }
 
-std::expected<QList<BookmarkNode>, ReadError> bookmarks(const Source &source, const ReadContext &context)
+std::expected<BookmarkTrees, ReadErrors> bookmarks(const Source &source, const ReadContext &context)
 {
-    const QString file = folder(source, context) % u"/Bookmarks";
-    if (!context.files->exists(file))
-        return QList<BookmarkNode>();
-    const auto bytes = context.files->read(file);
-    if (!bytes)
-        return std::unexpected(ReadError::wrap(bytes.error(), file));
-    const auto json = Json::parse(*bytes);
-    if (!json)
-        return std::unexpected(ReadError::unreadable(file, json.error()));
+    const Files &files = *context.files;
+    const QString place = folder(source, context);
+    const QString localFile = place % u"/Bookmarks";
+    const QString accountFile = place % u"/AccountBookmarks";
+    const auto local = RootReader(source, source.id() % u'/').read(localFile, files);
+    const auto account = RootReader(source, source.id() % u"/account/").read(accountFile, files);
 
-    QList<BookmarkNode> result;
-    const Json::Value *roots = Json::objectMember(*json, "roots");
-    for (const char *key : {"bookmark_bar", "other", "synced"}) {
-        const Json::Value *root = roots != nullptr ? Json::objectMember(*roots, key) : nullptr;
-        if (root == nullptr)
-            continue;
-        std::optional<BookmarkNode> node = bookmarkTree(
-            root, [&source](const Json::Value *entry, bool) { return nodeWithoutChildren(*entry, source); },
-            childEntries);
-        if (!node || node->bookmarkCount() == 0)
-            continue;
-        node->isBar = std::string_view(key) == "bookmark_bar";
-        result.append(std::move(*node));
+    BookmarkTrees trees;
+    if (!local)
+        trees.problems.append(local.error());
+    // Where the folder may not be looked into, nobody knows whether there is an account's file.
+    const bool isFolderRefused = !local && local.error().kind() == ReadError::Kind::NoAccess;
+    if (!account && !(isFolderRefused && account.error().kind() == ReadError::Kind::NoAccess))
+        trees.problems.append(account.error());
+    const bool hasLocal = local && files.exists(localFile);
+    const bool hasAccount = account && files.exists(accountFile);
+    if (!trees.problems.isEmpty() && !hasLocal && !hasAccount)
+        return std::unexpected(trees.problems);
+
+    const QList<Root> localRoots = local.value_or(QList<Root>());
+    for (const Root &root : localRoots)
+        trees.roots.append(root.node);
+    for (Root root : account.value_or(QList<Root>())) {
+        if (std::ranges::find(localRoots, root.key, &Root::key) != localRoots.end())
+            root.node.title += u" (Account)";
+        trees.roots.append(std::move(root.node));
     }
-    return result;
+    trees.areEncrypted =
+        trees.problems.isEmpty() && !hasLocal && !hasAccount && hasEncryptedBookmarks(place, files);
+    return trees;
+}
+
+QStringList readFiles()
+{
+    QStringList names{u"Bookmarks"_s, u"AccountBookmarks"_s, u"History"_s, u"History-wal"_s};
+    for (const QLatin1StringView name : encryptedBookmarkFiles)
+        names.append(name);
+    return names;
 }
 
 } // namespace roamlet::ChromiumReader

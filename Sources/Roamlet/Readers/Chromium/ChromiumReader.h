@@ -3,24 +3,25 @@
 
 #pragma once
 
-#include "Model/Bookmark.h"
 #include "Model/HistoryQuery.h"
 #include "Model/ReadError.h"
 #include "Model/Source.h"
+#include "Readers/BookmarkTrees.h"
 #include "Readers/ReadContext.h"
 
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 #include <expected>
 
-/// Reads Google Chrome and Microsoft Edge, which keep the same files. Holds nothing and writes nothing; any
+/// Reads the browsers of Chromium's family, which keep the same files. Holds nothing and writes nothing; any
 /// thread.
 namespace roamlet::ChromiumReader
 {
 
-/// The profiles of one browser, "Default" first, the others by folder name. Empty when the browser is absent
-/// or its list of profiles cannot be read.
+/// The profiles of one browser, installation by installation, in each "Default" first and the others by
+/// folder name. Empty when the browser is absent or its lists of profiles cannot be read.
 QList<Source> profiles(Source::Kind kind, const ReadContext &context);
 /// The folder of a profile.
 QString folder(const Source &source, const ReadContext &context);
@@ -29,7 +30,12 @@ QString historyFile(const Source &source, const ReadContext &context);
 /// The rows that match, in the query's order and at most as many as it says. Empty when there is no history.
 std::expected<QList<HistoryItem>, ReadError> history(const Source &source, const HistoryQuery &query,
                                                      const ReadContext &context);
-/// One tree for each of the browser's root folders that holds a bookmark, the bookmarks bar first.
-std::expected<QList<BookmarkNode>, ReadError> bookmarks(const Source &source, const ReadContext &context);
+/// One tree for each of the browser's root folders that holds a bookmark, the bookmarks bar first; then those
+/// that are kept in the user's account. The bookmarks of this computer and those of the account are two
+/// files, and a damaged one does not hide the other.
+std::expected<BookmarkTrees, ReadErrors> bookmarks(const Source &source, const ReadContext &context);
+
+/// The names of the files in a profile's folder that hold its history and its bookmarks.
+QStringList readFiles();
 
 } // namespace roamlet::ChromiumReader

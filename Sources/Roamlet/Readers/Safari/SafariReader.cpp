@@ -225,22 +225,29 @@ std::expected<QList<HistoryItem>, ReadError> history(const Source &source, const
     return items;
 }
 
-std::expected<QList<BookmarkNode>, ReadError> bookmarks(const Source &source, const ReadContext &context)
+std::expected<BookmarkTrees, ReadErrors> bookmarks(const Source &source, const ReadContext &context)
 {
     if (std::holds_alternative<Source::None>(source.safariBookmarks))
-        return QList<BookmarkNode>();
+        return BookmarkTrees();
     const QString file = context.folders.safari % u"/Bookmarks.plist";
     const auto bytes = context.files->read(file);
     if (!bytes)
-        return std::unexpected(ReadError::wrap(bytes.error(), file));
+        return std::unexpected(ReadErrors{ReadError::wrap(bytes.error(), file)});
     const auto list = PropertyList::parse(*bytes);
     if (!list)
-        return std::unexpected(ReadError::unreadable(file, list.error()));
+        return std::unexpected(ReadErrors{ReadError::unreadable(file, list.error())});
     if (!list->root().isDictionary())
-        return std::unexpected(ReadError::unreadable(file, u"not a dictionary"_s));
+        return std::unexpected(ReadErrors{ReadError::unreadable(file, u"not a dictionary"_s)});
     if (const auto *folder = std::get_if<Source::Folder>(&source.safariBookmarks))
-        return favourites(list->root(), folder->serverID, source);
-    return allBookmarks(list->root(), std::get<Source::AllExcept>(source.safariBookmarks).serverIDs, source);
+        return BookmarkTrees{.roots = favourites(list->root(), folder->serverID, source)};
+    return BookmarkTrees{.roots = allBookmarks(list->root(),
+                                               std::get<Source::AllExcept>(source.safariBookmarks).serverIDs,
+                                               source)};
+}
+
+QStringList readFiles()
+{
+    return {u"Bookmarks.plist"_s, u"History.db"_s, u"History.db-wal"_s};
 }
 
 } // namespace roamlet::SafariReader

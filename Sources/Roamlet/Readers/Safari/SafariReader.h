@@ -3,14 +3,15 @@
 
 #pragma once
 
-#include "Model/Bookmark.h"
 #include "Model/HistoryQuery.h"
 #include "Model/ReadError.h"
 #include "Model/Source.h"
+#include "Readers/BookmarkTrees.h"
 #include "Readers/ReadContext.h"
 
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 #include <expected>
 
@@ -28,6 +29,9 @@ QString historyFile(const Source &source, const ReadContext &context);
 std::expected<QList<HistoryItem>, ReadError> history(const Source &source, const HistoryQuery &query,
                                                      const ReadContext &context);
 /// The part of Safari's one bookmark file that belongs to `source`. The Reading List is never in it.
-std::expected<QList<BookmarkNode>, ReadError> bookmarks(const Source &source, const ReadContext &context);
+std::expected<BookmarkTrees, ReadErrors> bookmarks(const Source &source, const ReadContext &context);
+
+/// The names of the files in a profile's folder that hold its history and its bookmarks.
+QStringList readFiles();
 
 } // namespace roamlet::SafariReader

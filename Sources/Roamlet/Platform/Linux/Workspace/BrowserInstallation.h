@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "Model/Source.h"
 #include "Platform/Linux/Workspace/DesktopEntry.h"
 
 #include <QString>
@@ -13,7 +14,7 @@
 namespace roamlet
 {
 
-class Folders;
+struct BrowserFolders;
 
 /// A browser that is installed here.
 struct BrowserInstallation {
@@ -21,12 +22,12 @@ struct BrowserInstallation {
     /// The classes that its windows may have.
     QStringList windowClasses;
 
-    /// The installation whose data is read. The same browser may be here as a package and as a Flatpak, each
-    /// with profiles of its own; where this one is missing, no other may stand in for it.
-    static std::optional<BrowserInstallation> ofData(const QString &bundleID, const Folders &folders,
-                                                     const QStringList &dataFolders);
-    /// The same, or else any installation of the browser.
-    static std::optional<BrowserInstallation> any(const QString &bundleID, const Folders &folders,
+    /// The installation that keeps the source's data. The same browser may be here as a package and as a
+    /// Flatpak, each with profiles of its own; where this one is missing, no other may stand in for it.
+    static std::optional<BrowserInstallation> ofSource(const Source &source, const BrowserFolders &folders,
+                                                       const QStringList &dataFolders);
+    /// An installation of the browser, best one whose data is read.
+    static std::optional<BrowserInstallation> any(Source::Kind browser, const BrowserFolders &folders,
                                                   const QStringList &dataFolders);
 };
 

@@ -7,7 +7,7 @@
 #include <QStringList>
 
 /// What macOS is told so that a Chromium browser opens something in one of its profiles.
-namespace roamlet::OpenArguments
+namespace roamlet::OpenCommands
 {
 
 /// A program and what it is given, argument by argument.
@@ -26,4 +26,4 @@ Command showPage(const QString &bundleID, const QString &page);
 /// Neither text may contain a quote.
 QString pageScript(const QString &bundleID, const QString &page);
 
-} // namespace roamlet::OpenArguments
+} // namespace roamlet::OpenCommands

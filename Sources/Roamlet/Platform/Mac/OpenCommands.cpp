@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
-#include "Opening/OpenArguments.h"
+#include "Platform/Mac/OpenCommands.h"
 
-namespace roamlet::OpenArguments
+namespace roamlet::OpenCommands
 {
 
 using namespace Qt::StringLiterals;
@@ -39,4 +39,4 @@ QString pageScript(const QString &bundleID, const QString &page)
            "end repeat";
 }
 
-} // namespace roamlet::OpenArguments
+} // namespace roamlet::OpenCommands

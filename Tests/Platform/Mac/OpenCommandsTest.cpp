@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
-#include "Opening/OpenArguments.h"
+#include "Platform/Mac/OpenCommands.h"
 
 #include <gtest/gtest.h>
 
@@ -11,27 +11,27 @@ namespace
 {
 
 using namespace Qt::StringLiterals;
-using OpenArguments::Command;
+using OpenCommands::Command;
 
-TEST(OpenArgumentsTest, AProfileIsOneArgumentAndSoIsEachUrl)
+TEST(OpenCommandsTest, AProfileIsOneArgumentAndSoIsEachUrl)
 {
     const QStringList urls{u"https://example.com/?a=1 2"_s, u"about:blank"_s};
-    EXPECT_EQ(OpenArguments::inProfile(urls, u"com.google.Chrome"_s, u"Profile 1"_s),
+    EXPECT_EQ(OpenCommands::inProfile(urls, u"com.google.Chrome"_s, u"Profile 1"_s),
               (Command{.program = u"/usr/bin/open"_s,
                        .arguments = {u"-n"_s, u"-b"_s, u"com.google.Chrome"_s, u"--args"_s,
                                      u"--profile-directory=Profile 1"_s, u"https://example.com/?a=1 2"_s,
                                      u"about:blank"_s}}));
 }
 
-TEST(OpenArgumentsTest, NothingIsQuoted)
+TEST(OpenCommandsTest, NothingIsQuoted)
 {
-    EXPECT_EQ(OpenArguments::inProfile({u"http://a/'\"$(x)"_s}, u"com.microsoft.edgemac"_s, u"Jo's \"$1\""_s)
+    EXPECT_EQ(OpenCommands::inProfile({u"http://a/'\"$(x)"_s}, u"com.microsoft.edgemac"_s, u"Jo's \"$1\""_s)
                   .arguments,
               (QStringList{u"-n"_s, u"-b"_s, u"com.microsoft.edgemac"_s, u"--args"_s,
                            u"--profile-directory=Jo's \"$1\""_s, u"http://a/'\"$(x)"_s}));
 }
 
-TEST(OpenArgumentsTest, TheScriptIsKnownToTheByte)
+TEST(OpenCommandsTest, TheScriptIsKnownToTheByte)
 {
     const QString script = u"repeat 40 times\n"
                            "    try\n"
@@ -46,15 +46,15 @@ TEST(OpenArgumentsTest, TheScriptIsKnownToTheByte)
                            "    end try\n"
                            "    delay 0.1\n"
                            "end repeat"_s;
-    EXPECT_EQ(OpenArguments::pageScript(u"com.google.Chrome"_s, u"chrome://bookmarks/?id=5"_s), script);
-    EXPECT_EQ(OpenArguments::showPage(u"com.google.Chrome"_s, u"chrome://bookmarks/?id=5"_s),
+    EXPECT_EQ(OpenCommands::pageScript(u"com.google.Chrome"_s, u"chrome://bookmarks/?id=5"_s), script);
+    EXPECT_EQ(OpenCommands::showPage(u"com.google.Chrome"_s, u"chrome://bookmarks/?id=5"_s),
               (Command{.program = u"/usr/bin/osascript"_s, .arguments = {u"-e"_s, script}}));
 }
 
-TEST(OpenArgumentsTest, TheScriptHasElevenLinesAndNoneAfterTheLast)
+TEST(OpenCommandsTest, TheScriptHasElevenLinesAndNoneAfterTheLast)
 {
     const QStringList lines =
-        OpenArguments::pageScript(u"com.microsoft.edgemac"_s, u"edge://history/"_s).split(u'\n');
+        OpenCommands::pageScript(u"com.microsoft.edgemac"_s, u"edge://history/"_s).split(u'\n');
     ASSERT_EQ(lines.size(), 11);
     EXPECT_EQ(lines.at(2), u"        tell application id \"com.microsoft.edgemac\"");
     EXPECT_EQ(lines.at(4), u"                set URL of active tab of front window to \"edge://history/\"");

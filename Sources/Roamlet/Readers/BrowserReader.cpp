@@ -1,0 +1,120 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "Readers/BrowserReader.h"
+
+#include "Model/Browser.h"
+#include "Readers/Chromium/ChromiumReader.h"
+#include "Readers/FaviconReader.h"
+#include "Readers/Firefox/FirefoxReader.h"
+#include "Readers/Safari/SafariReader.h"
+
+#include <algorithm>
+
+namespace roamlet::BrowserReader
+{
+
+namespace
+{
+
+/// What a family of browsers answers.
+struct FamilyReader {
+    QList<Source> (*profiles)(Source::Kind browser, const ReadContext &context);
+    QString (*historyFile)(const Source &source, const ReadContext &context);
+    decltype(&SafariReader::history) history;
+    decltype(&SafariReader::bookmarks) bookmarks;
+    Content (*content)(const Source &source, const ReadContext &context);
+    QStringList (*readFiles)();
+};
+
+QList<Source> safariProfiles(Source::Kind /*browser*/, const ReadContext &context)
+{
+    return context.folders.hasSafari ? SafariReader::profiles(context) : QList<Source>();
+}
+
+Content safariContent(const Source &source, const ReadContext &context)
+{
+    Content content;
+    content.isHistoryFirst = true;
+    content.history = SafariReader::history(source, HistoryQuery::recent(), context);
+    content.bookmarks = SafariReader::bookmarks(source, context);
+    // There is one store for all profiles; the default one stands for them.
+    if (!source.profile)
+        content.favicons = FaviconReader::safari(context);
+    return content;
+}
+
+Content chromiumContent(const Source &source, const ReadContext &context)
+{
+    Content content;
+    content.bookmarks = ChromiumReader::bookmarks(source, context);
+    content.history = ChromiumReader::history(source, HistoryQuery::recent(), context);
+    content.favicons = FaviconReader::chromium(source, context);
+    return content;
+}
+
+Content firefoxContent(const Source &source, const ReadContext &context)
+{
+    Content content;
+    content.bookmarks = FirefoxReader::bookmarks(source, context);
+    content.history = FirefoxReader::history(source, HistoryQuery::recent(), context);
+    return content;
+}
+
+const FamilyReader &readerOf(Source::Kind browser)
+{
+    static constexpr FamilyReader safari{safariProfiles,        SafariReader::historyFile,
+                                         SafariReader::history, SafariReader::bookmarks,
+                                         safariContent,         SafariReader::readFiles};
+    static constexpr FamilyReader chromium{ChromiumReader::profiles, ChromiumReader::historyFile,
+                                           ChromiumReader::history,  ChromiumReader::bookmarks,
+                                           chromiumContent,          ChromiumReader::readFiles};
+    static constexpr FamilyReader firefox{FirefoxReader::profiles, FirefoxReader::historyFile,
+                                          FirefoxReader::history,  FirefoxReader::bookmarks,
+                                          firefoxContent,          FirefoxReader::readFiles};
+    switch (Browser::of(browser).family) {
+    case Browser::Family::Safari:
+        return safari;
+    case Browser::Family::Firefox:
+        return firefox;
+    case Browser::Family::Chromium:
+        break;
+    }
+    return chromium;
+}
+
+} // namespace
+
+QList<Source> profiles(Source::Kind browser, const ReadContext &context)
+{
+    return readerOf(browser).profiles(browser, context);
+}
+
+QString historyFile(const Source &source, const ReadContext &context)
+{
+    return readerOf(source.kind).historyFile(source, context);
+}
+
+std::expected<QList<HistoryItem>, ReadError> history(const Source &source, const HistoryQuery &query,
+                                                     const ReadContext &context)
+{
+    return readerOf(source.kind).history(source, query, context);
+}
+
+std::expected<BookmarkTrees, ReadErrors> bookmarks(const Source &source, const ReadContext &context)
+{
+    return readerOf(source.kind).bookmarks(source, context);
+}
+
+Content content(const Source &source, const ReadContext &context)
+{
+    return readerOf(source.kind).content(source, context);
+}
+
+bool isRead(QStringView fileName, Source::Kind browser)
+{
+    const QStringList names = readerOf(browser).readFiles();
+    return std::ranges::any_of(names, [fileName](const QString &name) { return name == fileName; });
+}
+
+} // namespace roamlet::BrowserReader

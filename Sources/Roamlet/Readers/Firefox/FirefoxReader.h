@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "Model/HistoryQuery.h"
+#include "Model/ReadError.h"
+#include "Model/Source.h"
+#include "Readers/BookmarkTrees.h"
+#include "Readers/ReadContext.h"
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+#include <expected>
+
+/// Reads the browsers of Firefox's family, which keep the same files. Holds nothing and writes nothing; any
+/// thread.
+namespace roamlet::FirefoxReader
+{
+
+/// The profiles of one browser, installation by installation and in each data folder by data folder: the one
+/// that starts by itself first, the others by name. A folder without history and bookmarks is no profile.
+QList<Source> profiles(Source::Kind kind, const ReadContext &context);
+/// The database that holds a profile's history, and its bookmarks.
+QString historyFile(const Source &source, const ReadContext &context);
+/// The rows that match, in the query's order and at most as many as it says. Empty when there is no history.
+std::expected<QList<HistoryItem>, ReadError> history(const Source &source, const HistoryQuery &query,
+                                                     const ReadContext &context);
+/// One tree for each of the browser's root folders that holds a bookmark, the bookmarks bar first.
+std::expected<BookmarkTrees, ReadErrors> bookmarks(const Source &source, const ReadContext &context);
+/// The names of the files in a profile's folder that hold its history and its bookmarks.
+QStringList readFiles();
+
+} // namespace roamlet::FirefoxReader

@@ -1,0 +1,100 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "Model/Browser.h"
+
+#include <QSet>
+
+#include <gtest/gtest.h>
+
+namespace roamlet::testing
+{
+namespace
+{
+
+using namespace Qt::StringLiterals;
+
+Source source(QStringView browser, const QString &profile, const QString &name, const QString &installation,
+              bool isNamed = false)
+{
+    return {.kind = Source::kindFromRawValue(browser).value(),
+            .profile = profile,
+            .name = name,
+            .safariBookmarks = {},
+            .installation = installation,
+            .namesInstallation = isNamed};
+}
+
+TEST(Browser, everyRowIsFoundByItsKindAndItsName)
+{
+    QSet<QString> names;
+    for (const Browser &browser : Browser::all()) {
+        EXPECT_EQ(Browser::of(browser.kind).rawValue, browser.rawValue);
+        EXPECT_EQ(Source::kindFromRawValue(browser.rawValue), browser.kind);
+        names.insert(browser.rawValue);
+        names.insert(browser.displayName);
+    }
+    EXPECT_EQ(names.size(), 2 * Browser::all().size()) << "a name stands for two browsers";
+}
+
+TEST(Browser, theFirstThreeAreThoseThatCodeNames)
+{
+    EXPECT_EQ(Browser::of(Source::Kind::Safari).rawValue, u"safari");
+    EXPECT_EQ(Browser::of(Source::Kind::Chrome).rawValue, u"chrome");
+    EXPECT_EQ(Browser::of(Source::Kind::Edge).rawValue, u"edge");
+}
+
+TEST(Browser, theNativeReleaseIsTheFirstInstallationAndKeysAreUnique)
+{
+    for (const Browser &browser : Browser::all()) {
+        QSet<QString> keys;
+        for (const Browser::Installation &installation : browser.installations)
+            keys.insert(installation.key);
+        EXPECT_EQ(keys.size(), browser.installations.size()) << browser.rawValue.toStdString();
+        EXPECT_EQ(browser.installations.first().key, QString()) << browser.rawValue.toStdString();
+    }
+}
+
+TEST(Browser, aKeyTellsHowTheBrowserCameHere)
+{
+    using Packaging = Browser::Installation::Packaging;
+    const auto packaging = [](const QString &key) {
+        return Browser::Installation{key, {}, {}, {}}.packaging();
+    };
+    EXPECT_EQ(packaging({}), Packaging::Native);
+    EXPECT_EQ(packaging(u"beta"_s), Packaging::Native);
+    EXPECT_EQ(packaging(u"flatpak"_s), Packaging::Flatpak);
+    EXPECT_EQ(packaging(u"beta-flatpak"_s), Packaging::Flatpak);
+    EXPECT_EQ(packaging(u"snap"_s), Packaging::Snap);
+}
+
+TEST(Browser, theIdNamesTheInstallationWhateverElseIsThere)
+{
+    EXPECT_EQ(source(u"chrome", u"Default"_s, u"Work"_s, {}).id(), u"chrome/Default");
+    EXPECT_EQ(source(u"chrome", u"Default"_s, u"Work"_s, u"beta"_s).id(), u"chrome@beta/Default");
+    EXPECT_EQ(source(u"chrome", u"Default"_s, u"Work"_s, u"beta"_s, true).id(), u"chrome@beta/Default");
+    EXPECT_EQ(source(u"firefox", u"abc.default"_s, u"x"_s, u"snap"_s).id(), u"firefox@snap/abc.default");
+    EXPECT_EQ(source(u"opera", u""_s, u"Opera"_s, {}).id(), u"opera/");
+}
+
+TEST(Browser, theLabelNamesTheInstallationOnlyBesideOthers)
+{
+    EXPECT_EQ(source(u"chrome", u"p"_s, u"Work"_s, u"beta"_s).label(), u"Chrome - Work");
+    EXPECT_EQ(source(u"chrome", u"p"_s, u"Work"_s, u"beta"_s, true).label(), u"Chrome Beta - Work");
+    EXPECT_EQ(source(u"firefox", u"p"_s, u"default"_s, u"snap"_s, true).label(), u"Firefox (Snap) - default");
+    EXPECT_EQ(source(u"chrome", u"p"_s, u"Work"_s, u"beta-flatpak"_s, true).label(),
+              u"Chrome Beta (Flatpak) - Work");
+    EXPECT_EQ(source(u"chrome", u"p"_s, u"Chrome"_s, u"beta"_s, true).label(), u"Chrome Beta");
+    EXPECT_EQ(source(u"chrome", u"p"_s, u"Chrome"_s, {}, true).label(), u"Chrome");
+}
+
+TEST(Browser, sourcesOfTwoInstallationsDiffer)
+{
+    const Source native = source(u"chrome", u"Default"_s, u"Work"_s, {});
+    const Source beta = source(u"chrome", u"Default"_s, u"Work"_s, u"beta"_s);
+    EXPECT_NE(native, beta);
+    EXPECT_NE(qHash(native), qHash(beta));
+}
+
+} // namespace
+} // namespace roamlet::testing
