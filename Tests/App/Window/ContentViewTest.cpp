@@ -6,8 +6,10 @@
 #include "App/Window/ReloadButton.h"
 #include "App/Window/Sidebar.h"
 #include "App/Window/WindowTest.h"
+#include "SampleHome/ChromiumFiles.h"
 #include "Support/Waiting.h"
 
+#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -323,6 +325,32 @@ TEST_F(ContentViewTest, withoutAnyBrowserItSaysWhereItLooked)
     EXPECT_THAT(text, ::testing::HasSubstr("~/.config/google-chrome"));
     EXPECT_THAT(text, ::testing::HasSubstr("microsoft-edge"));
     EXPECT_THAT(text, ::testing::Not(::testing::HasSubstr(home.path().toStdString())));
+}
+
+TEST_F(ContentViewTest, ofEncryptedBookmarksItSaysSoAndOffersTheirManager)
+{
+    addChromium();
+    change([this] {
+        QFile::remove(chromeFile(u"Profile 1/Bookmarks"_s));
+        sample::writeEncryptedBookmarks(chromeFile(u"Profile 1/EncryptedBookmarks2"_s));
+    });
+    loadNow(*library);
+    const auto content = makeContent();
+    content->setPane(BookmarksPane{u"chrome/Default"_s});
+    EXPECT_FALSE(isShown(*content, u"emptyStateAction"_s));
+    content->setPane(BookmarksPane{u"chrome/Profile 1"_s});
+    EXPECT_EQ(shownTable(*content), u"");
+    auto *button = part<QPushButton>(*content, u"emptyStateAction"_s);
+    ASSERT_TRUE(button->isVisible());
+    EXPECT_EQ(button->text(), u"Edit Chrome Bookmarks");
+    QTest::mouseClick(button, Qt::LeftButton);
+    EXPECT_EQ(workspace.requests,
+              QList<QStringList>({{u"page"_s, u"chrome"_s, u"Profile 1"_s, u"chrome://bookmarks/"_s}}));
+    EXPECT_TRUE(library->snapshot().problems.isEmpty()) << "it is no problem of the source";
+    // As soon as there is a file that can be read, its bookmarks are shown.
+    change([this] { sample::writeBookmarks(chromeFile(u"Profile 1/Bookmarks"_s), {}); });
+    loadNow(*library);
+    EXPECT_NE(shownTable(*content), u"");
 }
 
 TEST_F(ContentViewTest, browsersThatVanishLeaveNothingToCount)

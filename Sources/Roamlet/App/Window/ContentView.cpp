@@ -181,6 +181,32 @@ EmptyState *ContentView::noBrowsers()
     return m_noBrowsers;
 }
 
+EmptyState *ContentView::encryptedBookmarks(const Source &source)
+{
+    if (m_encrypted == nullptr) {
+        m_encrypted = new EmptyState(u"lock.fill"_s, u"Bookmarks are encrypted"_s, this);
+        connect(m_encrypted, &EmptyState::actionRequested, this, [this] {
+            if (const std::optional<Source> shown = encryptedSource())
+                m_services.opener.editBookmarks(*shown, {});
+        });
+        m_lists->addWidget(m_encrypted);
+    }
+    const QString browser = Source::displayName(source.kind);
+    m_encrypted->setText(browser % u" keeps the bookmarks of this profile encrypted, so that only " %
+                         browser % u" itself can show them.");
+    m_encrypted->setAction(u"Edit " % browser % u" Bookmarks");
+    return m_encrypted;
+}
+
+std::optional<Source> ContentView::encryptedSource() const
+{
+    const auto *pane = m_pane ? std::get_if<BookmarksPane>(&*m_pane) : nullptr;
+    if (pane == nullptr || !pane->sourceID ||
+        !m_services.library.snapshot().encryptedBookmarks.contains(*pane->sourceID))
+        return {};
+    return m_services.library.source(pane->sourceID);
+}
+
 HistoryTable *ContentView::historyTable(HistoryTable *&table, HistoryTable::Mode mode)
 {
     if (table == nullptr) {
@@ -343,6 +369,8 @@ QWidget *ContentView::shownList()
         return historyTable(m_history, HistoryTable::Mode::Recent);
     if (std::holds_alternative<MostVisitedPane>(*m_pane))
         return historyTable(m_mostVisited, HistoryTable::Mode::MostVisited);
+    if (const std::optional<Source> source = encryptedSource())
+        return encryptedBookmarks(*source);
     const bool isTree = m_list.search.trimmed().isEmpty() && !m_list.site &&
                         m_groupings.value(GroupedList::Bookmarks) != Grouping::Site;
     if (isTree)

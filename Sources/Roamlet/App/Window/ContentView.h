@@ -72,6 +72,10 @@ private:
     void insert(QWidget *strip, const QWidget *above, QWidget *focusedBefore);
     EmptyState *nothingSelected();
     EmptyState *noBrowsers();
+    /// Says that a browser keeps the bookmarks of this source to itself, and offers its bookmark manager.
+    EmptyState *encryptedBookmarks(const Source &source);
+    /// The source whose bookmarks the pane would show if its browser did not keep them encrypted.
+    std::optional<Source> encryptedSource() const;
     HistoryTable *historyTable(HistoryTable *&table, HistoryTable::Mode mode);
     template<typename Table>
     Table *bookmarkTable(Table *&table);
@@ -99,6 +103,7 @@ private:
     QStackedWidget *m_lists;
     EmptyState *m_nothingSelected = nullptr;
     EmptyState *m_noBrowsers = nullptr;
+    EmptyState *m_encrypted = nullptr;
     HistoryTable *m_history = nullptr;
     HistoryTable *m_mostVisited = nullptr;
     BookmarkTable *m_bookmarks = nullptr;

@@ -7,6 +7,7 @@
 
 #include <QEvent>
 #include <QLabel>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 namespace roamlet
@@ -19,7 +20,8 @@ EmptyState::EmptyState(const QString &symbol, const QString &title, QWidget *par
       m_symbol(symbol),
       m_icon(new QLabel(this)),
       m_title(new QLabel(title, this)),
-      m_text(new QLabel(this))
+      m_text(new QLabel(this)),
+      m_action(new QPushButton(this))
 {
     m_icon->setAlignment(Qt::AlignCenter);
     drawSymbol();
@@ -39,6 +41,10 @@ EmptyState::EmptyState(const QString &symbol, const QString &title, QWidget *par
     m_text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     m_text->hide();
 
+    m_action->setObjectName(u"emptyStateAction"_s);
+    m_action->hide();
+    connect(m_action, &QPushButton::clicked, this, &EmptyState::actionRequested);
+
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(32, 32, 32, 32);
     column->setSpacing(12);
@@ -46,6 +52,7 @@ EmptyState::EmptyState(const QString &symbol, const QString &title, QWidget *par
     column->addWidget(m_icon);
     column->addWidget(m_title);
     column->addWidget(m_text);
+    column->addWidget(m_action, 0, Qt::AlignCenter);
     column->addStretch(2);
 }
 
@@ -67,6 +74,12 @@ void EmptyState::setText(const QString &text)
 {
     m_text->setText(text);
     m_text->setVisible(!text.isEmpty());
+}
+
+void EmptyState::setAction(const QString &title)
+{
+    m_action->setText(title);
+    m_action->show();
 }
 
 QString EmptyState::title() const

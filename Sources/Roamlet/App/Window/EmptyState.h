@@ -6,6 +6,7 @@
 #include <QWidget>
 
 class QLabel;
+class QPushButton;
 
 namespace roamlet
 {
@@ -20,8 +21,13 @@ public:
 
     /// A longer text under the title; empty for none.
     void setText(const QString &text);
+    /// A button under the text that says what can be done.
+    void setAction(const QString &title);
     QString title() const;
     QString text() const;
+
+Q_SIGNALS:
+    void actionRequested();
 
 protected:
     void changeEvent(QEvent *event) override;
@@ -33,6 +39,7 @@ private:
     QLabel *m_icon;
     QLabel *m_title;
     QLabel *m_text;
+    QPushButton *m_action;
 };
 
 } // namespace roamlet
