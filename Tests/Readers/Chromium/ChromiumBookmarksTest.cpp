@@ -240,12 +240,15 @@ TEST_F(ChromiumBookmarks, unexpectedStructureIsEmptyAndNoError)
     }
 }
 
-TEST_F(ChromiumBookmarks, awkwardNamesAreReadAsFarAsTheyGo)
+TEST_F(ChromiumBookmarks, awkwardNamesAreReadWhole)
 {
     const QString megabyte = u"ü"_s.repeated(1'000'000);
     writeBar({bookmarkNode(u"2"_s, QString(u"before\0after"_s), u"u"_s, 0),
-              bookmarkNode(u"3"_s, megabyte, u"u"_s, 0), bookmarkNode(u"4"_s, u"\u202Eright"_s, u"u"_s, 0)});
-    EXPECT_EQ(titlesOf(bar()), (QStringList{u"before"_s, megabyte, u"\u202Eright"_s}));
+              bookmarkNode(u"3"_s, megabyte, u"u"_s, 0), bookmarkNode(u"4"_s, u"\u202Eright"_s, u"u"_s, 0),
+              bookmarkNode(u"5"_s, u"\uFEFFmarked"_s, u"\uFEFFhttps://a.example/"_s, 0)});
+    EXPECT_EQ(titlesOf(bar()),
+              (QStringList{u"before\0after"_s, megabyte, u"\u202Eright"_s, u"\uFEFFmarked"_s}));
+    EXPECT_EQ(bar().value(3).url, u"\uFEFFhttps://a.example/"_s);
 }
 
 TEST_F(ChromiumBookmarks, aHundredThousandFoldersAreRead)

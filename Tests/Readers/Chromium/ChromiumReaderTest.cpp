@@ -184,6 +184,13 @@ TEST_F(ChromiumProfiles, edgesPersonalProfileIsNamedSo)
     EXPECT_EQ(names(Source::Kind::Chrome), QStringList{other});
 }
 
+TEST_F(ChromiumProfiles, aByteOrderMarkIsPartOfAName)
+{
+    writeChrome({{u"\uFEFFmarked"_s, named(u"\uFEFFMarked"_s)}});
+    EXPECT_EQ(folders(), QStringList{u"\uFEFFmarked"_s});
+    EXPECT_EQ(names(Source::Kind::Chrome), QStringList{u"\uFEFFMarked"_s});
+}
+
 TEST_F(ChromiumProfiles, anIntegerMayBeWrittenWithAFraction)
 {
     sample::writeFile(edgeFile(u"Local State"_s, {}),
@@ -426,9 +433,10 @@ TEST_F(ChromiumHistory, awkwardTextsAreReadAsFarAsTheyGo)
            {.id = 6,
             .url = u"https://f.example/"_s,
             .title = Text::raw(QByteArray("\0hidden", 7)),
-            .lastVisitTime = 4}});
+            .lastVisitTime = 4},
+           {.id = 7, .url = u"\uFEFFhttps://g.example/"_s, .title = u"\uFEFFmarked"_s, .lastVisitTime = 3}});
     const QList<HistoryItem> items = read();
-    ASSERT_EQ(items.size(), 6);
+    ASSERT_EQ(items.size(), 7);
     EXPECT_EQ(items[0].title, u"before"_s);
     EXPECT_TRUE(items[1].title.startsWith(u"Z\uFFFDrich \uFFFD"_s));
     EXPECT_EQ(items[2].title, u"\u202Eright to left\u200F"_s);
@@ -436,6 +444,8 @@ TEST_F(ChromiumHistory, awkwardTextsAreReadAsFarAsTheyGo)
     EXPECT_EQ(items[4].url, u"https://e.example/"_s);
     EXPECT_EQ(items[4].site, u"e.example"_s);
     EXPECT_EQ(items[5].title, u"https://f.example/"_s);
+    EXPECT_EQ(items[6].url, u"\uFEFFhttps://g.example/"_s);
+    EXPECT_EQ(items[6].title, u"\uFEFFmarked"_s);
     EXPECT_EQ(found(u"zz"_s), QStringList());
     EXPECT_EQ(found(u"üüü"_s).size(), 1);
 }

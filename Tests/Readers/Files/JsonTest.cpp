@@ -87,14 +87,22 @@ TEST(Json, membersOfWhatIsNoObjectAreNotThere)
 
 TEST(Json, onlyStringsAreTexts)
 {
-    const Json::Value object =
-        valueOf(R"({"s": "Zo\u00eb \ud83d\ude00", "n": 1, "b": true, "e": "", "z": "a\u0000b"})");
+    const Json::Value object = valueOf(R"({"s": "Zo\u00eb \ud83d\ude00", "n": 1, "b": true, "e": ""})");
     EXPECT_EQ(Json::text(Json::member(object, "s")), u"Zoë 😀"_s);
     EXPECT_EQ(Json::text(Json::member(object, "n")), std::nullopt);
     EXPECT_EQ(Json::text(Json::member(object, "b")), std::nullopt);
     EXPECT_EQ(Json::text(Json::member(object, "x")), std::nullopt);
     EXPECT_EQ(Json::text(Json::member(object, "e")), u""_s);
-    EXPECT_EQ(Json::text(Json::member(object, "z")), u"a"_s);
+}
+
+TEST(Json, aTextIsWhole)
+{
+    const Json::Value list =
+        valueOf("[\"a\\u0000b\", \"\\u0000\", \"\\ufeffmarked\", \"\xEF\xBB\xBFmarked\"]");
+    EXPECT_EQ(Json::text(&list[0]), u"a\0b"_s);
+    EXPECT_EQ(Json::text(&list[1]), u"\0"_s);
+    EXPECT_EQ(Json::text(&list[2]), u"\uFEFFmarked"_s);
+    EXPECT_EQ(Json::text(&list[3]), u"\uFEFFmarked"_s);
 }
 
 TEST(Json, anIntegerMayBeWrittenWithAFraction)

@@ -361,7 +361,7 @@ TEST_F(SQLiteSnapshotTest, rowsGiveEveryKindOfValue)
     int rows = 0;
     const auto run = snapshot->query(
         u"SELECT 9223372036854775807, 0.5, 'text', NULL, x'00ff00', x'', CAST(x'61006263' AS TEXT),"
-        " CAST(x'61c362ff' AS TEXT), ''"_s,
+        " CAST(x'61c362ff' AS TEXT), '', CAST(x'efbbbf6d61726b6564efbbbf' AS TEXT)"_s,
         {}, [&rows](const SQLiteSnapshot::Row &row) {
             ++rows;
             EXPECT_EQ(row.integer(0), 9223372036854775807);
@@ -376,6 +376,7 @@ TEST_F(SQLiteSnapshotTest, rowsGiveEveryKindOfValue)
             EXPECT_EQ(row.text(6), u"a"_s);
             EXPECT_EQ(row.text(7), u"a\uFFFDb\uFFFD"_s);
             EXPECT_EQ(row.text(8), u""_s);
+            EXPECT_EQ(row.text(9), u"\uFEFFmarked\uFEFF"_s);
         });
     EXPECT_TRUE(run.has_value());
     EXPECT_EQ(rows, 1);

@@ -217,12 +217,16 @@ TEST_F(SafariHistory, awkwardTextsAreReadAsFarAsTheyGo)
     write({{.id = 1, .url = u"https://a.example/"_s},
            {.id = 2, .url = u"https://b.example/"_s},
            {.id = 3, .url = u"https://c.example/"_s},
-           {.id = 4, .url = Text::raw(QByteArray("\0", 1))}},
+           {.id = 4, .url = Text::raw(QByteArray("\0", 1))},
+           {.id = 5, .url = u"\uFEFFhttps://e.example/"_s}},
           {{.itemID = 1, .time = 4, .title = Text::raw(QByteArray("before\0after", 12))},
            {.itemID = 2, .time = 3, .title = Text::raw("Z\xFCrich")},
            {.itemID = 3, .time = 2, .title = megabyte},
-           {.itemID = 4, .time = 1}});
-    EXPECT_EQ(titlesOf(read()), (QStringList{u"before"_s, u"Z\uFFFDrich"_s, megabyte, u""_s}));
+           {.itemID = 4, .time = 1},
+           {.itemID = 5, .time = 0, .title = u"\uFEFFmarked"_s}});
+    EXPECT_EQ(titlesOf(read()),
+              (QStringList{u"before"_s, u"Z\uFFFDrich"_s, megabyte, u""_s, u"\uFEFFmarked"_s}));
+    EXPECT_EQ(read().value(4).url, u"\uFEFFhttps://e.example/"_s);
 }
 
 TEST_F(SafariHistory, aWordThatIsTooLongIsTheDatabasesError)

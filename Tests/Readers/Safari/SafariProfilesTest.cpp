@@ -195,9 +195,12 @@ TEST_F(SafariProfiles, awkwardNamesAreReadAsFarAsTheyGo)
     write({{.title = Text::raw(QByteArray("before\0after", 12)), .serverID = u"1"_s},
            {.title = Text::raw("Z\xFCrich"), .serverID = u"2"_s},
            {.title = Text::raw(QByteArray("\0", 1)), .serverID = u"3"_s},
-           {.title = u" "_s, .serverID = u""_s}});
-    EXPECT_EQ(names(), (QStringList{u"Personal"_s, u"before"_s, u"Z\uFFFDrich"_s, u" "_s}));
+           {.title = u" "_s, .serverID = u""_s},
+           {.title = u"\uFEFFmarked"_s, .serverID = u"\uFEFF5"_s}});
+    EXPECT_EQ(names(),
+              (QStringList{u"Personal"_s, u"before"_s, u"Z\uFFFDrich"_s, u" "_s, u"\uFEFFmarked"_s}));
     EXPECT_EQ(profiles().value(3).id(), u"safari/"_s);
+    EXPECT_EQ(profiles().value(4).id(), u"safari/\uFEFF5"_s);
 }
 
 } // namespace roamlet::testing

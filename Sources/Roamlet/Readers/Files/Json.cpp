@@ -3,6 +3,8 @@
 
 #include "Readers/Files/Json.h"
 
+#include "Readers/Files/Utf8.h"
+
 namespace roamlet::Json
 {
 
@@ -49,7 +51,7 @@ std::optional<QString> text(const Value *value)
 
 QString text(const std::string &value)
 {
-    return QString::fromUtf8(value.c_str());
+    return utf8Text(value);
 }
 
 bool isInteger(const Value *value, std::int64_t number)

@@ -25,9 +25,9 @@ std::expected<Value, QString> parse(const QByteArray &bytes);
 const Value *member(const Value &value, const char *key);
 /// The same, only when it is an object.
 const Value *objectMember(const Value &value, const char *key);
-/// The text up to a NUL when `value` is a string.
+/// The text when `value` is a string.
 std::optional<QString> text(const Value *value);
-/// The text of a string or of an object's key, up to a NUL.
+/// The text of a string or of an object's key.
 QString text(const std::string &value);
 /// Whether `value` is the number `number`, written with or without a fraction.
 bool isInteger(const Value *value, std::int64_t number);

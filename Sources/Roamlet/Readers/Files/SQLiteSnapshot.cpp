@@ -7,6 +7,7 @@
 #include "Platform/Processes.h"
 #include "Readers/Files/ConfinedFiles.h"
 #include "Readers/Files/LiteralLike.h"
+#include "Readers/Files/Utf8.h"
 #include "Readers/ReadContext.h"
 
 #include <QFile>
@@ -61,7 +62,7 @@ std::optional<QString> SQLiteSnapshot::Row::text(int column) const
     const unsigned char *text = sqlite3_column_text(m_statement, column);
     if (text == nullptr)
         return {};
-    return QString::fromUtf8(reinterpret_cast<const char *>(text));
+    return utf8Text(reinterpret_cast<const char *>(text));
 }
 
 QByteArrayView SQLiteSnapshot::Row::blob(int column) const
