@@ -6,8 +6,5 @@ if(ROAMLET_FEED_URL AND NOT ROAMLET_PUBLIC_KEY)
   message(FATAL_ERROR "A feed needs ROAMLET_PUBLIC_KEY: without a key no update could be told from a forged one.")
 endif()
 
-string(REPLACE "&" "&amp;" feed_url "${ROAMLET_FEED_URL}")
-configure_file(${CMAKE_SOURCE_DIR}/Resources/Info.plist.in ${CMAKE_BINARY_DIR}/Information/Info.plist @ONLY)
-file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/Information/Information.qrc @ONLY CONTENT
-"<RCC><qresource prefix=\"/\"><file>Info.plist</file></qresource></RCC>
-")
+configure_file(${CMAKE_CURRENT_LIST_DIR}/../Sources/Roamlet/App/Updates/ReleaseFacts.h.in
+  ${CMAKE_BINARY_DIR}/Information/App/Updates/ReleaseFacts.h @ONLY)
