@@ -5,7 +5,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-Scripts/install-dependencies.sh build test bench
+Scripts/install-dependencies.sh build samples test bench
 cmake --preset bench >/dev/null
 cmake --build --preset bench --target roamlet roamlet_window Benchmarks/all roamlet-sample-home app_tests
 bin=$PWD/build/bench

@@ -1,10 +1,12 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Installs what is missing for each of the purposes named: build, test, lint, bench, pictures, packaging.
+# Installs what is missing for each of the purposes named: build, samples, test, lint, bench, pictures, packaging.
 set -euo pipefail
 
-build=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-svg-dev libsqlite3-dev libicu-dev libplist-dev libsodium-dev nlohmann-json3-dev
+build=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-svg-dev libsqlite3-dev libicu-dev libsodium-dev nlohmann-json3-dev
   libglib2.0-dev libx11-dev libxdo-dev tzdata)
+# What writes sample homes.
+samples=(libplist-dev)
 test=(libgtest-dev libgmock-dev sqlite3 dbus-daemon desktop-file-utils appstream groff-base)
 # Without these the tests that need them say that they were skipped.
 optional_test=(chromium openssl xvfb openbox at-spi2-core)
@@ -36,7 +38,7 @@ install_missing() {
 
 for purpose in "$@"; do
   case "$purpose" in
-    build | test | lint | bench | pictures | packaging)
+    build | samples | test | lint | bench | pictures | packaging)
       declare -n packages="$purpose"
       install_missing "${packages[@]}"
       ;;

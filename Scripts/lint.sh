@@ -4,7 +4,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-Scripts/install-dependencies.sh build test bench lint
+Scripts/install-dependencies.sh build samples test bench lint
 if [ $# -gt 0 ]; then
   files=("$@")
 else

@@ -4,7 +4,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-Scripts/install-dependencies.sh build
+Scripts/install-dependencies.sh build samples
 cmake --preset release >/dev/null
 cmake --build --preset release --target roamlet roamlet-sample-home
 roamlet=$PWD/build/release/roamlet

@@ -6,7 +6,7 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 target=$(realpath -m "${1:-build/pictures}")
 
-Scripts/install-dependencies.sh build pictures
+Scripts/install-dependencies.sh build samples pictures
 cmake --preset release >/dev/null
 cmake --build --preset release --target roamlet roamlet-sample-home
 work=$(mktemp -d)

@@ -5,7 +5,7 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 preset=${1:-dev}
 
-Scripts/install-dependencies.sh build test
+Scripts/install-dependencies.sh build samples test
 cmake --preset "$preset"
 cmake --build --preset "$preset"
 ctest --preset "$preset" --parallel "$(nproc)"

@@ -3,15 +3,11 @@
 
 #include "Readers/Files/PropertyList.h"
 
-#include "Readers/Files/PropertyListGuard.h"
+#include "Readers/Files/PropertyListTree.h"
 
-#include <QtEndian>
-
-#include <plist/plist.h>
-
-#include <bit>
 #include <cmath>
-#include <cstdlib>
+#include <limits>
+#include <utility>
 
 namespace roamlet
 {
@@ -26,82 +22,84 @@ constexpr double secondsUntil2001 = 978'307'200;
 /// Some 30 million years.
 constexpr double farthest = 1e15;
 
-struct FreeMemory {
-    void operator()(void *memory) const { std::free(memory); } // NOLINT(cppcoreguidelines-no-malloc)
-};
-
 } // namespace
+
+template<typename Kind>
+const Kind *PropertyListValue::as() const
+{
+    return m_tree != nullptr ? std::get_if<Kind>(&m_tree->nodes[m_node]) : nullptr;
+}
 
 bool PropertyListValue::isDictionary() const
 {
-    return m_node != nullptr && plist_get_node_type(m_node) == PLIST_DICT;
+    return as<PropertyListTree::Dictionary>() != nullptr;
 }
 
 PropertyListValue PropertyListValue::member(const char *key) const
 {
-    return isDictionary() ? PropertyListValue(plist_dict_get_item(m_node, key)) : PropertyListValue();
+    const auto *dictionary = as<PropertyListTree::Dictionary>();
+    if (dictionary == nullptr)
+        return {};
+    for (std::uint32_t entry = dictionary->count; entry > 0; --entry) {
+        const std::uint32_t *place = &m_tree->children[dictionary->first + (2 * (entry - 1))];
+        const auto *name = std::get_if<QString>(&m_tree->nodes[place[0]]);
+        if (name != nullptr && *name == QLatin1StringView(key))
+            return {*m_tree, place[1]};
+    }
+    return {};
 }
 
 std::optional<QString> PropertyListValue::string() const
 {
-    if (m_node == nullptr || plist_get_node_type(m_node) != PLIST_STRING)
-        return {};
-    std::uint64_t length = 0;
-    return QString::fromUtf8(plist_get_string_ptr(m_node, &length));
+    const auto *text = as<QString>();
+    return text != nullptr ? std::optional(*text) : std::nullopt;
 }
 
 std::optional<PointInTime> PropertyListValue::date() const
 {
-    if (m_node == nullptr || plist_get_node_type(m_node) != PLIST_DATE)
-        return {};
-    // The library hands dates out as 32-bit seconds, which end in 2069. Written as a binary list of one, the
-    // date stands behind the 8-byte header and a marker byte as the double that it is.
-    constexpr qsizetype offset = 9;
-    char *bytes = nullptr;
-    std::uint32_t length = 0;
-    plist_to_bin(m_node, &bytes, &length);
-    const std::unique_ptr<char, FreeMemory> owner(bytes);
-    if (length < offset + sizeof(double))
-        return {};
-    const auto seconds = std::bit_cast<double>(qFromBigEndian<quint64>(bytes + offset));
+    const auto *date = as<PropertyListTree::Date>();
     // No date, only what is left of one in a damaged file: nothing could be done with it but count seconds
     // wrongly.
-    if (!std::isfinite(seconds) || std::abs(seconds) > farthest)
+    if (date == nullptr || !std::isfinite(date->seconds) || std::abs(date->seconds) > farthest)
         return {};
-    return pointInTime(seconds + secondsUntil2001);
+    return pointInTime(date->seconds + secondsUntil2001);
 }
 
 std::vector<PropertyListValue> PropertyListValue::dictionaries() const
 {
-    if (m_node == nullptr || plist_get_node_type(m_node) != PLIST_ARRAY)
+    const auto *array = as<PropertyListTree::Array>();
+    if (array == nullptr)
         return {};
     std::vector<PropertyListValue> elements;
-    elements.reserve(plist_array_get_size(m_node));
-    plist_array_iter iterator = nullptr;
-    plist_array_new_iter(m_node, &iterator);
-    const std::unique_ptr<void, FreeMemory> owner(iterator);
-    for (;;) {
-        plist_t item = nullptr;
-        plist_array_next_item(m_node, iterator, &item);
-        if (item == nullptr)
-            return elements;
-        elements.emplace_back(item);
+    elements.reserve(array->count);
+    for (std::uint32_t i = 0; i < array->count; ++i) {
+        elements.emplace_back(*m_tree, m_tree->children[array->first + i]);
         if (!elements.back().isDictionary())
             return {};
     }
+    return elements;
 }
 
-PropertyList::PropertyList(void *root) : m_root(root, plist_free) {}
-
-std::expected<PropertyList, QString> PropertyList::parse(const QByteArray &bytes)
+PropertyList::PropertyList(PropertyListTree tree)
+    : m_tree(std::make_shared<const PropertyListTree>(std::move(tree)))
 {
-    if (const std::optional<QString> refusal = PropertyListGuard::refusal(bytes))
-        return std::unexpected(*refusal);
-    plist_t root = nullptr;
-    plist_from_memory(bytes.constData(), static_cast<std::uint32_t>(bytes.size()), &root);
-    if (root == nullptr)
-        return std::unexpected(u"not a property list"_s);
-    return PropertyList(root);
+}
+
+std::expected<PropertyList, QString> PropertyList::parse(QByteArrayView bytes)
+{
+    // Places in the file and in the tree are counted with 32 bits.
+    if (bytes.size() >= std::numeric_limits<std::int32_t>::max())
+        return std::unexpected(u"it is too large"_s);
+    auto tree =
+        bytes.startsWith("bplist00") ? PropertyListTree::ofBinary(bytes) : PropertyListTree::ofXml(bytes);
+    if (!tree)
+        return std::unexpected(tree.error());
+    return PropertyList(std::move(*tree));
+}
+
+PropertyListValue PropertyList::root() const
+{
+    return {*m_tree, m_tree->root};
 }
 
 } // namespace roamlet

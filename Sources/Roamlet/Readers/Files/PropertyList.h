@@ -5,11 +5,11 @@
 
 #include "Model/PointInTime.h"
 
-#include <QByteArray>
+#include <QByteArrayView>
 #include <QString>
 
+#include <cstdint>
 #include <expected>
-#include <functional>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -17,19 +17,22 @@
 namespace roamlet
 {
 
+struct PropertyListTree;
+
 /// One value in a property list; also one that is not there. Valid as long as the PropertyList it came from.
 class PropertyListValue
 {
 public:
     /// A value that is not there.
     PropertyListValue() = default;
-    /// Wraps a node of the library's.
-    explicit PropertyListValue(void *node) : m_node(node) {}
+    /// The value at this place of a tree.
+    PropertyListValue(const PropertyListTree &tree, std::uint32_t node) : m_tree(&tree), m_node(node) {}
 
     bool isDictionary() const;
-    /// The value under `key`; one that is not there when this is no dictionary or has no such key.
+    /// The value under `key`, the last one if there are several; one that is not there when this is no
+    /// dictionary or has no such key.
     PropertyListValue member(const char *key) const;
-    /// The text, up to a NUL, when this is a string.
+    /// The text when this is a string.
     std::optional<QString> string() const;
     /// The point in time when this is a date.
     std::optional<PointInTime> date() const;
@@ -37,7 +40,12 @@ public:
     std::vector<PropertyListValue> dictionaries() const;
 
 private:
-    void *m_node = nullptr;
+    /// What is here when it is of this kind, else null.
+    template<typename Kind>
+    const Kind *as() const;
+
+    const PropertyListTree *m_tree = nullptr;
+    std::uint32_t m_node = 0;
 };
 
 /// A property list, binary or XML.
@@ -45,15 +53,15 @@ class PropertyList
 {
 public:
     /// The reason when the bytes are no property list, or one that no honest program writes: nested deeper
-    /// than a reader could follow, or unfolding to many times the size of the file.
-    static std::expected<PropertyList, QString> parse(const QByteArray &bytes);
+    /// than any bookmark, or unfolding to many times the size of the file.
+    static std::expected<PropertyList, QString> parse(QByteArrayView bytes);
 
-    PropertyListValue root() const { return PropertyListValue(m_root.get()); }
+    PropertyListValue root() const;
 
 private:
-    explicit PropertyList(void *root);
+    explicit PropertyList(PropertyListTree tree);
 
-    std::unique_ptr<void, std::function<void(void *)>> m_root;
+    std::shared_ptr<const PropertyListTree> m_tree;
 };
 
 } // namespace roamlet

@@ -43,7 +43,7 @@ Source::SafariBookmarks bookmarkSelection(QByteArrayView extraAttributes)
 {
     if (extraAttributes.isNull())
         return Source::None{};
-    const auto attributes = PropertyList::parse(extraAttributes.toByteArray());
+    const auto attributes = PropertyList::parse(extraAttributes);
     const std::optional<QString> folder =
         attributes ? attributes->root().member("CustomFavoritesFolderServerID").string() : std::nullopt;
     if (!folder || *folder == u"Favorites Bar")
