@@ -552,4 +552,63 @@ TEST_F(LinuxFilesTest, aFolderThatCannotBeListedHasNoNames)
     EXPECT_TRUE(names.isEmpty());
 }
 
+TEST_F(LinuxFilesTest, aFolderIsTheUsersAloneWhereNobodyElseMayPutAnything)
+{
+    const QString folder = path(u"folder"_s);
+    ASSERT_TRUE(QDir().mkpath(folder));
+    for (const mode_t mode : {0700U, 0755U, 0711U, 0775U}) {
+        setPermissions(folder, mode);
+        EXPECT_TRUE(files.isUsersAlone(folder)) << std::oct << mode;
+    }
+    for (const mode_t mode : {0777U, 0703U, 01777U, 01700U}) {
+        setPermissions(folder, mode);
+        EXPECT_FALSE(files.isUsersAlone(folder)) << std::oct << mode;
+    }
+    setPermissions(folder, 0755);
+    ASSERT_TRUE(QFile::link(folder, path(u"link"_s)));
+    EXPECT_TRUE(files.isUsersAlone(path(u"link"_s))) << "it may be reached through a link";
+    EXPECT_FALSE(files.isUsersAlone(path(u"missing"_s)));
+    EXPECT_FALSE(files.isUsersAlone(file(u"file"_s, {})));
+    setPermissions(path({}), 0755);
+    const WithoutPrivileges guard;
+    if (::geteuid() != ::getuid()) {
+        EXPECT_FALSE(files.isUsersAlone(folder)) << "another user's";
+    }
+}
+
+TEST_F(LinuxFilesTest, aPrivateFolderIsKnownAgain)
+{
+    const QString folder = path(u"folder"_s);
+    EXPECT_FALSE(files.isPrivateFolder(folder));
+    EXPECT_FALSE(files.makePrivateFolder(folder));
+    EXPECT_TRUE(files.isPrivateFolder(folder));
+    ASSERT_TRUE(QFile::link(folder, path(u"link"_s)));
+    EXPECT_FALSE(files.isPrivateFolder(path(u"link"_s)));
+    setPermissions(folder, 02700);
+    EXPECT_TRUE(files.isPrivateFolder(folder)) << "where folders hand on their group";
+    for (const mode_t mode : {0755U, 0710U, 0701U, 0500U}) {
+        setPermissions(folder, mode);
+        EXPECT_FALSE(files.isPrivateFolder(folder)) << std::oct << mode;
+    }
+    const QString plain = file(u"file"_s, {});
+    setPermissions(plain, 0700);
+    EXPECT_FALSE(files.isPrivateFolder(plain));
+    setPermissions(folder, 0700);
+    setPermissions(path({}), 0755);
+    const WithoutPrivileges guard;
+    if (::geteuid() != ::getuid()) {
+        EXPECT_FALSE(files.isPrivateFolder(folder)) << "another user's";
+    }
+}
+
+TEST_F(LinuxFilesTest, aPlainFileIsNothingElse)
+{
+    EXPECT_TRUE(files.isPlainFile(file(u"file"_s, {})));
+    for (const QString &thing : thingsThatAreNoFiles())
+        EXPECT_FALSE(files.isPlainFile(thing)) << qPrintable(thing);
+    ASSERT_TRUE(QFile::link(path(u"file"_s), path(u"link"_s)));
+    EXPECT_FALSE(files.isPlainFile(path(u"link"_s)));
+    EXPECT_FALSE(files.isPlainFile(path(u"missing"_s)));
+}
+
 } // namespace roamlet::testing

@@ -43,6 +43,13 @@ public:
     virtual void removeFolder(const QString &path) const = 0;
     /// The names in a folder; none when it cannot be listed.
     virtual QStringList names(const QString &folder) const = 0;
+    /// Whether this folder is the user's alone. In one of another user's, and in one that several users
+    /// share, things lie that are none of ours.
+    virtual bool isUsersAlone(const QString &folder) const = 0;
+    /// Whether a folder stands at `path`, and no link to one, as makePrivateFolder() has left it.
+    virtual bool isPrivateFolder(const QString &path) const = 0;
+    /// Whether a plain file stands at `path`, and no link to one.
+    virtual bool isPlainFile(const QString &path) const = 0;
 };
 
 } // namespace roamlet

@@ -214,4 +214,26 @@ QStringList LinuxFiles::names(const QString &folder) const
     return result;
 }
 
+bool LinuxFiles::isUsersAlone(const QString &folder) const
+{
+    struct stat attributes = {};
+    // The sticky bit has no other use than to keep users apart who share a folder.
+    return ::stat(QFile::encodeName(folder).constData(), &attributes) == 0 && S_ISDIR(attributes.st_mode) &&
+           attributes.st_uid == geteuid() && (attributes.st_mode & (S_ISVTX | S_IWOTH)) == 0;
+}
+
+bool LinuxFiles::isPrivateFolder(const QString &path) const
+{
+    struct stat attributes = {};
+    // A folder can inherit the bit that hands its group on.
+    return ::lstat(QFile::encodeName(path).constData(), &attributes) == 0 && S_ISDIR(attributes.st_mode) &&
+           attributes.st_uid == geteuid() && (attributes.st_mode & ACCESSPERMS) == onlyTheUserEnters;
+}
+
+bool LinuxFiles::isPlainFile(const QString &path) const
+{
+    struct stat attributes = {};
+    return ::lstat(QFile::encodeName(path).constData(), &attributes) == 0 && S_ISREG(attributes.st_mode);
+}
+
 } // namespace roamlet

@@ -20,6 +20,9 @@ public:
     std::error_code makePrivateFolder(const QString &path) const override;
     void removeFolder(const QString &path) const override;
     QStringList names(const QString &folder) const override;
+    bool isUsersAlone(const QString &folder) const override;
+    bool isPrivateFolder(const QString &path) const override;
+    bool isPlainFile(const QString &path) const override;
 };
 
 } // namespace roamlet

@@ -12,10 +12,12 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QSet>
 #include <QUuid>
 
 #include <sqlite3.h>
 
+#include <array>
 #include <stop_token>
 #include <utility>
 
@@ -28,6 +30,8 @@ namespace
 {
 
 constexpr int attempts = 3;
+/// What SQLite keeps beside a database, by what it appends to the name.
+constexpr std::array sidecars{"-wal"_L1, "-shm"_L1, "-journal"_L1};
 const QString folderPrefix = QString::fromLatin1(ConfinedFiles::folderPrefix);
 
 struct Finalize {
@@ -43,6 +47,30 @@ QString messageOf(sqlite3 *connection)
 ReadError queryError(sqlite3 *connection)
 {
     return ReadError::unreadable(u"query"_s, messageOf(connection));
+}
+
+/// The database that a file of a copy belongs to: itself, or the one that it stands beside.
+QString databaseOf(const QString &file)
+{
+    for (const QLatin1StringView suffix : sidecars) {
+        if (file.endsWith(suffix))
+            return file.chopped(suffix.size());
+    }
+    return file;
+}
+
+/// Whether this can be the folder of a private copy: ours, closed to others, with one database at most.
+bool canHoldCopy(const Files &files, const QString &folder)
+{
+    if (!files.isPrivateFolder(folder))
+        return false;
+    QSet<QString> databases;
+    for (const QString &name : files.names(folder)) {
+        if (!files.isPlainFile(folder % u'/' % name))
+            return false;
+        databases.insert(databaseOf(name));
+    }
+    return databases.size() <= 1;
 }
 
 } // namespace
@@ -98,7 +126,7 @@ public:
             const QString before = stamp(m_files, m_source);
             if (const std::error_code error = m_files.copy(m_source, path(), stop))
                 return error;
-            for (const QString &suffix : {u"-wal"_s, u"-shm"_s, u"-journal"_s}) {
+            for (const QLatin1StringView suffix : sidecars) {
                 // Most often there is none.
                 static_cast<void>(m_files.copy(m_source + suffix, path() + suffix, stop));
             }
@@ -248,6 +276,8 @@ QString SQLiteSnapshot::stamp(const Files &files, const QString &database)
 
 void SQLiteSnapshot::removeLeftovers(const Files &files, const QString &temporaryFolder)
 {
+    // Where everybody may put something, a name alone says little: what is no copy is left alone.
+    const bool isShared = !files.isUsersAlone(temporaryFolder);
     for (const QString &name : files.names(temporaryFolder)) {
         if (!name.startsWith(folderPrefix))
             continue;
@@ -257,8 +287,11 @@ void SQLiteSnapshot::removeLeftovers(const Files &files, const QString &temporar
         const std::int32_t process = id.toInt(&isNumber);
         isNumber = isNumber && id == id.trimmed();
         // Never the copies of a run that is still alive, whoever's it is.
-        if (!isNumber || !Processes::exists(process))
-            files.removeFolder(temporaryFolder % u'/' % name);
+        if (isNumber && Processes::exists(process))
+            continue;
+        const QString path = temporaryFolder % u'/' % name;
+        if (!isShared || (isNumber && canHoldCopy(files, path)))
+            files.removeFolder(path);
     }
 }
 

@@ -65,7 +65,9 @@ public:
 
     /// The state of a live database and its logs: equal while nobody has written to them.
     static QString stamp(const Files &files, const QString &database);
-    /// Removes the folders in `temporaryFolder` that earlier runs left behind because they died.
+    /// Removes the folders in `temporaryFolder` that earlier runs left behind because they died. In a folder
+    /// of the user's alone the name decides; in one that others share, only what looks like a copy from the
+    /// inside as well is removed.
     static void removeLeftovers(const Files &files, const QString &temporaryFolder);
 
 private:
