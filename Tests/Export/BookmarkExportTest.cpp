@@ -26,11 +26,6 @@ using BookmarkExport::Format;
 namespace
 {
 
-Source source(Source::Kind kind, const QString &name)
-{
-    return {.kind = kind, .profile = u"1"_s, .name = name, .safariBookmarks = Source::None{}};
-}
-
 QString fileName(Source::Kind kind, const QString &name)
 {
     return BookmarkExport::fileName(source(kind, name));

@@ -19,12 +19,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-const std::string head = "Browser,Profile,Folder,Title,URL,Added\r\n";
-
-Source source(Source::Kind kind, const QString &name)
-{
-    return {.kind = kind, .profile = u"1"_s, .name = name, .safariBookmarks = Source::None{}};
-}
+const std::string csvHead = "Browser,Profile,Folder,Title,URL,Added\r\n";
 
 /// A bookmark of the tree as the flat list has it.
 Bookmark flat(BookmarkNode node, const Source &from = source(Source::Kind::Chrome, u"Chrome"_s))
@@ -36,8 +31,8 @@ Bookmark flat(BookmarkNode node, const Source &from = source(Source::Kind::Chrom
 std::string csv(const QList<Bookmark> &bookmarks)
 {
     const std::string text = BookmarkExport::renderCsv(bookmarks).toStdString();
-    EXPECT_TRUE(text.starts_with(head)) << text;
-    return text.substr(head.size());
+    EXPECT_TRUE(text.starts_with(csvHead)) << text;
+    return text.substr(csvHead.size());
 }
 
 /// The field of a bookmark with this title.
@@ -67,7 +62,7 @@ void expectFields(const std::vector<std::pair<QString, std::string>> &rows)
 
 TEST(CsvRenderer, anEmptyListIsTheHeader)
 {
-    EXPECT_EQ(BookmarkExport::renderCsv({}).toStdString(), head);
+    EXPECT_EQ(BookmarkExport::renderCsv({}).toStdString(), csvHead);
 }
 
 TEST(CsvRenderer, everyBookmarkIsOneLine)

@@ -17,12 +17,12 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-const std::string head = "<!DOCTYPE NETSCAPE-Bookmark-file-1>\n"
-                         "<META HTTP-EQUIV=\"Content-Type\" CONTENT=\"text/html; charset=UTF-8\">\n"
-                         "<TITLE>Bookmarks</TITLE>\n"
-                         "<H1>Bookmarks</H1>\n"
-                         "<DL><p>\n";
-const std::string tail = "</DL><p>\n";
+const std::string htmlHead = "<!DOCTYPE NETSCAPE-Bookmark-file-1>\n"
+                             "<META HTTP-EQUIV=\"Content-Type\" CONTENT=\"text/html; charset=UTF-8\">\n"
+                             "<TITLE>Bookmarks</TITLE>\n"
+                             "<H1>Bookmarks</H1>\n"
+                             "<DL><p>\n";
+const std::string htmlTail = "</DL><p>\n";
 
 std::string html(const QList<BookmarkNode> &tree)
 {
@@ -33,8 +33,8 @@ std::string html(const QList<BookmarkNode> &tree)
 std::string line(const BookmarkNode &node)
 {
     const std::string text = html({node});
-    EXPECT_TRUE(text.starts_with(head + "    ") && text.ends_with("\n" + tail)) << text;
-    return text.substr(head.size() + 4, text.size() - head.size() - 4 - 1 - tail.size());
+    EXPECT_TRUE(text.starts_with(htmlHead + "    ") && text.ends_with("\n" + htmlTail)) << text;
+    return text.substr(htmlHead.size() + 4, text.size() - htmlHead.size() - 4 - 1 - htmlTail.size());
 }
 
 std::string dateOf(double seconds)
@@ -46,7 +46,7 @@ std::string dateOf(double seconds)
 
 TEST(HtmlRenderer, anEmptyTreeIsTheHeadAndTheEnd)
 {
-    EXPECT_EQ(html({}), head + tail);
+    EXPECT_EQ(html({}), htmlHead + htmlTail);
 }
 
 TEST(HtmlRenderer, aTreeIsWrittenLineByLine)
@@ -57,7 +57,7 @@ TEST(HtmlRenderer, aTreeIsWrittenLineByLine)
                                                            folder(u"Empty"_s, {})}),
                                        bookmark(u"Three"_s, u"https://three.example/"_s, 5)}),
         bookmark(u"Top"_s, u"https://top.example/"_s), folder(u"Other"_s, {})};
-    EXPECT_EQ(html(tree), head + R"(    <DT><H3 PERSONAL_TOOLBAR_FOLDER="true">Bookmarks Bar</H3>
+    EXPECT_EQ(html(tree), htmlHead + R"(    <DT><H3 PERSONAL_TOOLBAR_FOLDER="true">Bookmarks Bar</H3>
     <DL><p>
         <DT><A HREF="https://one.example/" ADD_DATE="1709647629">One</A>
         <DT><H3>Inner</H3>
@@ -73,20 +73,20 @@ TEST(HtmlRenderer, aTreeIsWrittenLineByLine)
     <DT><H3>Other</H3>
     <DL><p>
     </DL><p>
-)" + tail);
+)" + htmlTail);
 }
 
 TEST(HtmlRenderer, onlyABarAtTheTopIsTheToolbar)
 {
-    EXPECT_EQ(html({barFolder(u"a"_s, {})}), head +
+    EXPECT_EQ(html({barFolder(u"a"_s, {})}), htmlHead +
                                                  "    <DT><H3 PERSONAL_TOOLBAR_FOLDER=\"true\">a</H3>\n"
                                                  "    <DL><p>\n    </DL><p>\n" +
-                                                 tail);
+                                                 htmlTail);
     EXPECT_EQ(html({folder(u"a"_s, {barFolder(u"b"_s, {})})}),
-              head +
+              htmlHead +
                   "    <DT><H3>a</H3>\n    <DL><p>\n        <DT><H3>b</H3>\n        <DL><p>\n"
                   "        </DL><p>\n    </DL><p>\n" +
-                  tail);
+                  htmlTail);
     BookmarkNode leaf = bookmark(u"t"_s, u"u"_s);
     leaf.isBar = true;
     EXPECT_EQ(line(leaf), "<DT><A HREF=\"u\">t</A>") << "a bookmark is no toolbar";
@@ -108,7 +108,7 @@ TEST(HtmlRenderer, titlesAndUrlsAreEscaped)
               "<DT><A HREF=\"https://x/?a=1&amp;b=&lt;&quot;'&gt;\">t</A>");
     EXPECT_EQ(line(bookmark(u"&&amp;"_s, u"&\""_s)), "<DT><A HREF=\"&amp;&quot;\">&amp;&amp;amp;</A>");
     EXPECT_EQ(html({folder(u"</H3>&\"\n"_s, {})}),
-              head + "    <DT><H3>&lt;/H3&gt;&amp;&quot; </H3>\n    <DL><p>\n    </DL><p>\n" + tail);
+              htmlHead + "    <DT><H3>&lt;/H3&gt;&amp;&quot; </H3>\n    <DL><p>\n    </DL><p>\n" + htmlTail);
 }
 
 TEST(HtmlRenderer, everyLineBreakBecomesABlank)
@@ -158,7 +158,7 @@ TEST(HtmlRenderer, foldersHaveNoDate)
     BookmarkNode node = folder(u"f"_s, {});
     node.dateAdded = pointInTime(1);
     node.url = u"https://x/"_s;
-    EXPECT_EQ(html({node}), head + "    <DT><H3>f</H3>\n    <DL><p>\n    </DL><p>\n" + tail);
+    EXPECT_EQ(html({node}), htmlHead + "    <DT><H3>f</H3>\n    <DL><p>\n    </DL><p>\n" + htmlTail);
 }
 
 TEST(HtmlRendererDeathTest, aDateThatDoesNotFitStopsTheProcess)

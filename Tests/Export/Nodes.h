@@ -11,6 +11,12 @@
 namespace roamlet::testing
 {
 
+/// A profile of this name.
+inline Source source(Source::Kind kind, const QString &name)
+{
+    return {.kind = kind, .profile = QStringLiteral("1"), .name = name, .safariBookmarks = Source::None{}};
+}
+
 /// A bookmark with what a file shows of it.
 inline BookmarkNode bookmark(const QString &title, const std::optional<QString> &url,
                              const std::optional<double> &secondsAdded = {})

@@ -29,9 +29,6 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-const QString firstProfile = u"Default"_s;
-const QString secondProfile = u"Profile 1"_s;
-
 /// The machine's clock, slowed down: under a busy machine's tests a browser takes its time.
 class SlowClock final : public Clock
 {

@@ -22,7 +22,6 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-const QString profile = u"Profile 1"_s;
 
 /// A bookmark as a user sees it.
 struct Kept {
@@ -162,9 +161,9 @@ protected:
 
 void RealBrowserBookmarksTest::keepBookmarks()
 {
-    place(profile % u"/Bookmarks", longKeptBookmarks());
+    place(secondProfile % u"/Bookmarks", longKeptBookmarks());
     HeadlessBrowser browser;
-    ASSERT_EQ(browser.start(options(profile)), QString());
+    ASSERT_EQ(browser.start(options(secondProfile)), QString());
     ASSERT_EQ(shownBy(browser).size(), 6);
     const auto added = browser.evaluate(uR"(chrome.bookmarks.getTree().then(tree => chrome.bookmarks.create({
             parentId: tree[0].children[0].id, title: 'Neu – heute', url: 'http://neu.example/'})))"_s);
@@ -182,7 +181,7 @@ TEST_F(RealBrowserBookmarksTest, BookmarksAreReadAsTheBrowserShowsThem)
     ASSERT_FALSE(HasFatalFailure());
     expectNothingTouched([this] {
         // The browser shows milliseconds and cuts the rest off.
-        expectSame(read(source(profile), home), kept, 0.0011);
+        expectSame(read(source(secondProfile), home), kept, 0.0011);
         const ProgramRun summary = ProgramRun::of(home, {u"--summary"_s});
         EXPECT_THAT(summary.output.toStdString(), ::testing::HasSubstr("7 bookmarks, 5 folders"));
     });
@@ -196,7 +195,7 @@ TEST_F(RealBrowserBookmarksTest, ExportedBookmarksComeBackWhenTheBrowserImportsT
     ASSERT_FALSE(HasFatalFailure());
     ProgramRun exported;
     expectNothingTouched([&] {
-        exported = ProgramRun::of(home, {u"--export"_s, u"html"_s, u"--source"_s, u"chromium/"_s % profile});
+        exported = ProgramRun::of(home, {u"--export"_s, u"html"_s, u"--source"_s, u"chromium/"_s % secondProfile});
     });
     ASSERT_EQ(exported.status, 0) << exported.errors.toStdString();
     ASSERT_EQ(bookmarkLines(exported).size(), kept.size());

@@ -29,8 +29,6 @@ namespace
 
 /// The name that a user gave to the second profile.
 const QString workName = u"Arbeit ☕"_s;
-const QString firstProfile = u"Default"_s;
-const QString secondProfile = u"Profile 1"_s;
 
 /// A time as the program prints it.
 QString printed(double secondsSince1970)

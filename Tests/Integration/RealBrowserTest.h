@@ -24,6 +24,10 @@ inline Source::Kind chromium()
     return Source::kindFromRawValue(u"chromium").value();
 }
 
+/// The folders of the profiles that a real Chromium makes by itself.
+inline const QString firstProfile = QStringLiteral("Default");
+inline const QString secondProfile = QStringLiteral("Profile 1");
+
 /// A home folder in which a real Chromium keeps its profiles where it does by itself.
 class RealBrowserTest : public ::testing::Test
 {

@@ -15,7 +15,7 @@ namespace
 
 using History = SortComparator<HistoryItem>;
 
-const SearchKey search{
+const SearchKey someSearch{
     .sourceID = u"safari"_s, .search = u"Words "_s, .site = u"example.org"_s, .generation = 3};
 
 const RefineKey<HistoryItem> list{.sourceID = u"safari"_s,
@@ -50,10 +50,10 @@ void expectToTellSearchesApart(const Key &key)
 
 TEST(SearchKey, isEqualWhenAllOfItIs)
 {
-    const SearchKey copy = search; // NOLINT(performance-unnecessary-copy-initialization)
-    EXPECT_EQ(copy, search);
-    EXPECT_EQ(qHash(copy), qHash(search));
-    expectToTellSearchesApart(search);
+    const SearchKey copy = someSearch; // NOLINT(performance-unnecessary-copy-initialization)
+    EXPECT_EQ(copy, someSearch);
+    EXPECT_EQ(qHash(copy), qHash(someSearch));
+    expectToTellSearchesApart(someSearch);
 }
 
 TEST(SearchKey, allSourcesAreNotASourceWithoutAnId)
@@ -88,7 +88,7 @@ TEST(RefineKey, changesWithTheSortColumnWhereTheSearchDoesNot)
 
 TEST(RefineKey, changesTogetherWithTheSearchWhenTheLibraryIsReloaded)
 {
-    EXPECT_TRUE(tellsApart(search, [](SearchKey &changed) { changed.generation = 4; }));
+    EXPECT_TRUE(tellsApart(someSearch, [](SearchKey &changed) { changed.generation = 4; }));
     EXPECT_TRUE(tellsApart(list, [](RefineKey<HistoryItem> &changed) { changed.generation = 4; }));
 }
 

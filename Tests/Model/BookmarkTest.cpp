@@ -3,6 +3,8 @@
 
 #include "Model/Bookmark.h"
 
+#include "Model/ChromeProfile.h"
+
 #include <gtest/gtest.h>
 
 #include <utility>
@@ -16,14 +18,6 @@ namespace
 {
 
 constexpr PointInTime added = pointInTime(1'709'647'629);
-
-Source chrome()
-{
-    return {.kind = Source::Kind::Chrome,
-            .profile = u"Default"_s,
-            .name = u"Work"_s,
-            .safariBookmarks = Source::None{}};
-}
 
 BookmarkNode leaf(const QString &id, const QString &title, const std::optional<QString> &url = {})
 {

@@ -3,6 +3,8 @@
 
 #include "Model/HistoryItem.h"
 
+#include "Model/ChromeProfile.h"
+
 #include <gtest/gtest.h>
 
 #include <limits>
@@ -16,14 +18,6 @@ namespace
 {
 
 constexpr PointInTime visited = pointInTime(1'700'000'000.123456);
-
-Source chrome()
-{
-    return {.kind = Source::Kind::Chrome,
-            .profile = u"Default"_s,
-            .name = u"Work"_s,
-            .safariBookmarks = Source::None{}};
-}
 
 HistoryItem item(const QString &title, const QString &url)
 {

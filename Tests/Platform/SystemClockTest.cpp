@@ -3,10 +3,11 @@
 
 #include "Platform/Linux/SystemClock.h"
 
+#include "Support/Waiting.h"
+
 #include <QCoreApplication>
 #include <QObject>
 #include <QPointer>
-#include <QTest>
 #include <QThread>
 #include <QTimer>
 
@@ -24,7 +25,6 @@ using Steady = std::chrono::steady_clock;
 
 namespace
 {
-constexpr auto patience = 20'000;
 const std::stop_token never;
 } // namespace
 
@@ -99,12 +99,12 @@ TEST(SystemClock, callsBackOnceAndNotTooEarly)
         EXPECT_GE(Steady::now() - start, 30ms);
     });
     EXPECT_EQ(calls, 0) << "never before the caller returned";
-    ASSERT_TRUE(QTest::qWaitFor([&] { return calls > 0; }, patience));
+    ASSERT_TRUE(waitUntil([&] { return calls > 0; }));
     EXPECT_EQ(thread, context.thread());
 
     int later = 0;
     SystemClock().after(60ms, &context, [&] { ++later; });
-    ASSERT_TRUE(QTest::qWaitFor([&] { return later > 0; }, patience));
+    ASSERT_TRUE(waitUntil([&] { return later > 0; }));
     EXPECT_EQ(calls, 1) << "it does not repeat";
 }
 
@@ -115,7 +115,7 @@ TEST(SystemClock, callsBackInTheOrderOfTheTimes)
     const SystemClock clock;
     clock.after(60ms, &context, [&] { calls.append(2); });
     clock.after(1ms, &context, [&] { calls.append(1); });
-    ASSERT_TRUE(QTest::qWaitFor([&] { return calls.size() == 2; }, patience));
+    ASSERT_TRUE(waitUntil([&] { return calls.size() == 2; }));
     EXPECT_EQ(calls, (QList<int>{1, 2}));
 }
 
@@ -125,7 +125,7 @@ TEST(SystemClock, aCallBackAtOnceWaitsForTheEventLoop)
     bool isCalled = false;
     SystemClock().after(0ms, &context, [&] { isCalled = true; });
     EXPECT_FALSE(isCalled);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return isCalled; }, patience));
+    EXPECT_TRUE(waitUntil([&] { return isCalled; }));
 }
 
 TEST(SystemClock, nobodyIsCalledBackWhoIsGone)
@@ -138,7 +138,7 @@ TEST(SystemClock, nobodyIsCalledBackWhoIsGone)
     clock.after(1ms, gone.get(), [&] { isGoneCalled = true; });
     clock.after(20ms, &there, [&] { isThereCalled = true; });
     gone.reset();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return isThereCalled; }, patience));
+    ASSERT_TRUE(waitUntil([&] { return isThereCalled; }));
     EXPECT_FALSE(isGoneCalled);
 }
 

@@ -17,7 +17,7 @@ namespace
 
 // The tables and indexes as Safari creates them.
 
-constexpr auto historyTables = R"(
+constexpr auto safariHistoryTables = R"(
 CREATE TABLE history_items (id INTEGER PRIMARY KEY AUTOINCREMENT,url TEXT NOT NULL UNIQUE,domain_expansion TEXT NULL,visit_count INTEGER NOT NULL,daily_visit_counts BLOB NOT NULL,weekly_visit_counts BLOB NULL,autocomplete_triggers BLOB NULL,should_recompute_derived_visit_counts INTEGER NOT NULL,visit_count_score INTEGER NOT NULL,status_code INTEGER NOT NULL DEFAULT 0);
 CREATE TABLE history_visits (id INTEGER PRIMARY KEY AUTOINCREMENT,history_item INTEGER NOT NULL REFERENCES history_items(id) ON DELETE CASCADE,visit_time REAL NOT NULL,title TEXT NULL,load_successful BOOLEAN NOT NULL DEFAULT 1,http_non_get BOOLEAN NOT NULL DEFAULT 0,synthesized BOOLEAN NOT NULL DEFAULT 0,redirect_source INTEGER NULL UNIQUE REFERENCES history_visits(id) ON DELETE CASCADE,redirect_destination INTEGER NULL UNIQUE REFERENCES history_visits(id) ON DELETE CASCADE,origin INTEGER NOT NULL DEFAULT 0,generation INTEGER NOT NULL DEFAULT 0,attributes INTEGER NOT NULL DEFAULT 0,score INTEGER NOT NULL DEFAULT 0);
 CREATE TABLE history_tombstones (id INTEGER PRIMARY KEY AUTOINCREMENT,start_time REAL NOT NULL,end_time REAL NOT NULL,url TEXT,generation INTEGER NOT NULL DEFAULT 0);
@@ -30,7 +30,7 @@ CREATE TABLE history_tags (id INTEGER PRIMARY KEY AUTOINCREMENT,type INTEGER NOT
 CREATE TABLE history_items_to_tags (history_item INTEGER NOT NULL REFERENCES history_items(id) ON DELETE CASCADE,tag_id INTEGER NOT NULL REFERENCES history_tags(id) ON DELETE CASCADE,timestamp REAL NOT NULL,UNIQUE(history_item,tag_id) ON CONFLICT REPLACE);
 )";
 
-constexpr auto historyIndexes = R"(
+constexpr auto safariHistoryIndexes = R"(
 CREATE INDEX history_items__domain_expansion ON history_items (domain_expansion);
 CREATE INDEX history_visits__last_visit ON history_visits (history_item,visit_time DESC,synthesized ASC);
 CREATE INDEX history_visits__origin ON history_visits (origin,generation);
@@ -59,14 +59,14 @@ CREATE INDEX bookmarks_order_index ON bookmarks (order_index);
 CREATE INDEX bookmarks_deleted_index ON bookmarks (deleted);
 )";
 
-constexpr auto faviconTables = R"(
+constexpr auto safariIconTables = R"(
 CREATE TABLE database_info (key TEXT NOT NULL UNIQUE ON CONFLICT REPLACE,value TEXT NOT NULL);
 CREATE TABLE page_url (url TEXT PRIMARY KEY ON CONFLICT REPLACE,uuid TEXT);
 CREATE TABLE icon_info (uuid TEXT PRIMARY KEY NOT NULL ON CONFLICT REPLACE,url TEXT NOT NULL,timestamp REAL NOT NULL,width INTEGER,height INTEGER,has_generated_representations INTEGER);
 CREATE TABLE rejected_resources (page_url TEXT,icon_url TEXT,timestamp REAL NOT NULL);
 )";
 
-constexpr auto faviconIndexes = R"(
+constexpr auto safariIconIndexes = R"(
 CREATE INDEX page_url_uuid ON page_url (uuid);
 CREATE INDEX icon_info_url ON icon_info (url);
 )";
@@ -94,8 +94,8 @@ void writeSafariHistory(const QString &path, const Rows<SafariItem> &items, cons
         }
     };
     writeDatabase(path,
-                  {.tables = historyTables,
-                   .indexes = historyIndexes,
+                  {.tables = safariHistoryTables,
+                   .indexes = safariHistoryIndexes,
                    .fill = fill,
                    .unfinishedChange = "UPDATE history_visits SET title = upper(title)"
                                        " WHERE id IN (SELECT id FROM history_visits ORDER BY id LIMIT 2000)",
@@ -155,8 +155,8 @@ void writeSafariFavicons(const QString &folder, const Rows<SafariIcon> &icons,
         }
     };
     writeDatabase(folder % u"/favicons.db",
-                  {.tables = faviconTables,
-                   .indexes = faviconIndexes,
+                  {.tables = safariIconTables,
+                   .indexes = safariIconIndexes,
                    .fill = fill,
                    .unfinishedChange = "UPDATE icon_info SET timestamp = -timestamp",
                    .unfinishedBulk =

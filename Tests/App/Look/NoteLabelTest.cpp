@@ -3,6 +3,8 @@
 
 #include "App/Look/NoteLabel.h"
 
+#include "App/Look/PlainPalette.h"
+
 #include <QWidget>
 
 #include <gtest/gtest.h>
@@ -16,14 +18,6 @@ namespace
 {
 
 using namespace Qt::StringLiterals;
-
-QPalette paletteOf(Qt::GlobalColor ground, Qt::GlobalColor text)
-{
-    QPalette palette;
-    palette.setColor(QPalette::Window, ground);
-    palette.setColor(QPalette::WindowText, text);
-    return palette;
-}
 
 /// The relative luminance of the guidelines for accessible contents.
 double luminance(const QColor &color)

@@ -3,6 +3,7 @@
 
 #include "App/Look/Switch.h"
 
+#include "App/Look/PlainPalette.h"
 #include "App/Look/SwitchRow.h"
 
 #include <QAccessible>
@@ -27,15 +28,6 @@ QImage picture(const SwitchLook &look, const QPalette &palette)
     QPainter painter(&image);
     look.paint(painter, QRectF(image.rect()), palette);
     return image;
-}
-
-QPalette paletteOf(Qt::GlobalColor ground, Qt::GlobalColor text)
-{
-    QPalette palette;
-    palette.setColor(QPalette::Window, ground);
-    palette.setColor(QPalette::Base, ground);
-    palette.setColor(QPalette::WindowText, text);
-    return palette;
 }
 
 TEST(SwitchTest, MouseAndSpaceTurnIt)

@@ -24,9 +24,9 @@ Source profile(Kind kind, const QString &name)
     return {.kind = kind, .profile = name, .name = name, .safariBookmarks = Source::None{}};
 }
 
-const Source work = profile(Kind::Chrome, u"Work"_s);
-const Source home = profile(Kind::Chrome, u"Home"_s);
-const Source office = profile(Kind::Edge, u"Office"_s);
+const Source workProfile = profile(Kind::Chrome, u"Work"_s);
+const Source homeProfile = profile(Kind::Chrome, u"Home"_s);
+const Source officeProfile = profile(Kind::Edge, u"Office"_s);
 
 TableRow link(const Source &source, const QString &site = u"example.org"_s,
               const std::optional<QString> &folderID = {})
@@ -64,92 +64,94 @@ std::vector<std::string> titles(const LinkMenuSubject &subject, const QList<Kind
 
 TEST(LinkMenuTest, OneRowOfEdgeNamesEdge)
 {
-    EXPECT_THAT(titles(LinkMenuSubject::ofHistory({link(office)})),
+    EXPECT_THAT(titles(LinkMenuSubject::ofHistory({link(officeProfile)})),
                 ElementsAre("Show Edge History", "-", "Open in Edge", "Open in Safari", "Open in Chrome", "-",
                             "Copy URL", "-", "Show Only example.org"));
 }
 
 TEST(LinkMenuTest, ThreeRowsAreCounted)
 {
-    EXPECT_THAT(titles(LinkMenuSubject::ofHistory({link(work), link(home), link(office)})),
-                ElementsAre("Open in Original Browsers", "Open in Safari", "Open in Chrome", "Open in Edge",
-                            "-", "Copy 3 URLs", "-", "Show Only example.org"));
+    EXPECT_THAT(
+        titles(LinkMenuSubject::ofHistory({link(workProfile), link(homeProfile), link(officeProfile)})),
+        ElementsAre("Open in Original Browsers", "Open in Safari", "Open in Chrome", "Open in Edge", "-",
+                    "Copy 3 URLs", "-", "Show Only example.org"));
 }
 
 TEST(LinkMenuTest, SeveralRowsOfOneBrowserAreOfferedTheOthers)
 {
-    EXPECT_THAT(titles(LinkMenuSubject::ofHistory({link(work), link(home)})),
+    EXPECT_THAT(titles(LinkMenuSubject::ofHistory({link(workProfile), link(homeProfile)})),
                 ElementsAre("Open in Original Browsers", "Open in Safari", "Open in Edge", "-", "Copy 2 URLs",
                             "-", "Show Only example.org"));
 }
 
 TEST(LinkMenuTest, OnlyInstalledBrowsersAreOfferedBesideTheOwnOne)
 {
-    EXPECT_THAT(titles(LinkMenuSubject::ofHistory({link(work)}), {Kind::Edge}),
+    EXPECT_THAT(titles(LinkMenuSubject::ofHistory({link(workProfile)}), {Kind::Edge}),
                 ElementsAre("Show Chrome History", "-", "Open in Chrome", "Open in Edge", "-", "Copy URL",
                             "-", "Show Only example.org"));
-    EXPECT_THAT(titles(LinkMenuSubject::ofHistory({link(work)}), {}),
+    EXPECT_THAT(titles(LinkMenuSubject::ofHistory({link(workProfile)}), {}),
                 ElementsAre("Show Chrome History", "-", "Open in Chrome", "-", "Copy URL", "-",
                             "Show Only example.org"));
 }
 
 TEST(LinkMenuTest, AHistoryIsShownForRowsOfOneProfileOnly)
 {
-    EXPECT_EQ(LinkMenuSubject::ofHistory({link(work), link(work)}).historySource, work);
-    EXPECT_EQ(LinkMenuSubject::ofHistory({link(work), link(home)}).historySource, std::nullopt);
-    EXPECT_EQ(LinkMenuSubject::ofHistory({link(work)}).editTarget, std::nullopt);
+    EXPECT_EQ(LinkMenuSubject::ofHistory({link(workProfile), link(workProfile)}).historySource, workProfile);
+    EXPECT_EQ(LinkMenuSubject::ofHistory({link(workProfile), link(homeProfile)}).historySource, std::nullopt);
+    EXPECT_EQ(LinkMenuSubject::ofHistory({link(workProfile)}).editTarget, std::nullopt);
 }
 
 TEST(LinkMenuTest, RowsOfDifferentSitesAreNotNarrowedToOne)
 {
-    EXPECT_THAT(titles(LinkMenuSubject::ofHistory({link(work, u"a.example"_s), link(work, u"b.example"_s)})),
+    EXPECT_THAT(titles(LinkMenuSubject::ofHistory(
+                    {link(workProfile, u"a.example"_s), link(workProfile, u"b.example"_s)})),
                 ElementsAre("Show Chrome History", "-", "Open in Original Browsers", "Open in Safari",
                             "Open in Edge", "-", "Copy 2 URLs"));
 }
 
 TEST(LinkMenuTest, ARowWithoutASiteIsNotNarrowedToIt)
 {
-    EXPECT_THAT(titles(LinkMenuSubject::ofHistory({link(work, {})}), {}),
+    EXPECT_THAT(titles(LinkMenuSubject::ofHistory({link(workProfile, {})}), {}),
                 ElementsAre("Show Chrome History", "-", "Open in Chrome", "-", "Copy URL"));
 }
 
 TEST(LinkMenuTest, BookmarksAreEditedInTheirFolder)
 {
     const LinkMenuSubject subject =
-        LinkMenuSubject::ofBookmarks({link(work, u"example.org"_s, u"chrome/Work/7"_s)});
-    EXPECT_EQ(subject.editTarget, (EditTarget{work, u"chrome/Work/7"_s}));
+        LinkMenuSubject::ofBookmarks({link(workProfile, u"example.org"_s, u"chrome/Work/7"_s)});
+    EXPECT_EQ(subject.editTarget, (EditTarget{workProfile, u"chrome/Work/7"_s}));
     EXPECT_THAT(titles(subject), ElementsAre("Edit Chrome Bookmarks", "-", "Open in Chrome", "Open in Safari",
                                              "Open in Edge", "-", "Copy URL", "-", "Show Only example.org"));
 }
 
 TEST(LinkMenuTest, BookmarksOfDifferentFoldersAreEditedWithoutOne)
 {
-    EXPECT_EQ(
-        LinkMenuSubject::ofBookmarks({link(work, {}, u"chrome/Work/7"_s), link(work, {}, u"chrome/Work/8"_s)})
-            .editTarget,
-        (EditTarget{work, {}}));
-    EXPECT_EQ(LinkMenuSubject::ofBookmarks({link(work), link(home)}).editTarget, std::nullopt);
+    EXPECT_EQ(LinkMenuSubject::ofBookmarks(
+                  {link(workProfile, {}, u"chrome/Work/7"_s), link(workProfile, {}, u"chrome/Work/8"_s)})
+                  .editTarget,
+              (EditTarget{workProfile, {}}));
+    EXPECT_EQ(LinkMenuSubject::ofBookmarks({link(workProfile), link(homeProfile)}).editTarget, std::nullopt);
 }
 
 TEST(LinkMenuTest, AFolderIsOnlyEdited)
 {
-    const LinkMenuSubject subject = LinkMenuSubject::ofBookmarks({folder(office, u"edge/Office/3"_s)});
-    EXPECT_EQ(subject.editTarget, (EditTarget{office, u"edge/Office/3"_s}));
+    const LinkMenuSubject subject = LinkMenuSubject::ofBookmarks({folder(officeProfile, u"edge/Office/3"_s)});
+    EXPECT_EQ(subject.editTarget, (EditTarget{officeProfile, u"edge/Office/3"_s}));
     EXPECT_THAT(titles(subject), ElementsAre("Edit Edge Bookmarks"));
 }
 
 TEST(LinkMenuTest, TheFolderOfAWholeSourceIsNoneOfTheBrowsers)
 {
-    EXPECT_EQ(LinkMenuSubject::ofBookmarks({folder(work, u"source/chrome/Work"_s)}).editTarget,
-              (EditTarget{work, {}}));
-    EXPECT_EQ(LinkMenuSubject::ofBookmarks({link(work, {}, u"source/chrome/Work"_s)}).editTarget,
-              (EditTarget{work, {}}));
+    EXPECT_EQ(LinkMenuSubject::ofBookmarks({folder(workProfile, u"source/chrome/Work"_s)}).editTarget,
+              (EditTarget{workProfile, {}}));
+    EXPECT_EQ(LinkMenuSubject::ofBookmarks({link(workProfile, {}, u"source/chrome/Work"_s)}).editTarget,
+              (EditTarget{workProfile, {}}));
 }
 
 TEST(LinkMenuTest, FoldersAmongLinksDoNotCount)
 {
     const LinkMenuSubject subject =
-        LinkMenuSubject::ofBookmarks({folder(work, u"chrome/Work/3"_s), link(work)});
+        LinkMenuSubject::ofBookmarks({folder(workProfile, u"chrome/Work/3"_s), link(workProfile)});
     EXPECT_EQ(subject.items.size(), 1);
     EXPECT_EQ(subject.site, u"example.org"_s);
 }
@@ -162,8 +164,9 @@ TEST(LinkMenuTest, NoRowsHaveNoMenu)
 
 TEST(LinkMenuTest, URLsAreCopiedLineByLine)
 {
-    EXPECT_EQ(clipboardText({{u"https://a/"_s, work}, {u"https://b/"_s, home}}), u"https://a/\nhttps://b/");
-    EXPECT_EQ(clipboardText({{u"https://a/"_s, work}}), u"https://a/");
+    EXPECT_EQ(clipboardText({{u"https://a/"_s, workProfile}, {u"https://b/"_s, homeProfile}}),
+              u"https://a/\nhttps://b/");
+    EXPECT_EQ(clipboardText({{u"https://a/"_s, workProfile}}), u"https://a/");
 }
 
 } // namespace roamlet::testing

@@ -16,11 +16,11 @@ namespace
 
 using namespace Qt::StringLiterals;
 
-const QUrl address(u"https://updates.example.org/roamlet/feed.xml"_s);
+const QUrl feedAddress(u"https://updates.example.org/roamlet/feed.xml"_s);
 
 QList<FeedItem> items(const QByteArray &bytes)
 {
-    const auto result = Feed::parse(bytes, address);
+    const auto result = Feed::parse(bytes, feedAddress);
     EXPECT_TRUE(result) << (result ? "" : qPrintable(result.error().detail));
     return result ? *result : QList<FeedItem>();
 }
@@ -34,7 +34,7 @@ FeedItem item(const QByteArray &content)
 
 void expectMalformed(const QByteArray &bytes)
 {
-    const auto result = Feed::parse(bytes, address);
+    const auto result = Feed::parse(bytes, feedAddress);
     ASSERT_FALSE(result) << bytes.left(200).constData();
     EXPECT_EQ(result.error().code, UpdateError::Code::FeedMalformed);
     EXPECT_FALSE(result.error().detail.isEmpty());

@@ -18,8 +18,8 @@ using sample::folderNode;
 namespace
 {
 
-constexpr qint64 someTime = 13'300'000'000'000'000;
-constexpr double someTimeSince1970 = 1'655'526'400;
+constexpr qint64 addedTime = 13'300'000'000'000'000;
+constexpr double addedSince1970 = 1'655'526'400;
 
 class ChromiumBookmarks : public ReaderTest
 {
@@ -61,7 +61,7 @@ protected:
 
     static QJsonObject leaf(const QString &id)
     {
-        return bookmarkNode(id, u"n"_s + id, u"https://%1.example/"_s.arg(id), someTime);
+        return bookmarkNode(id, u"n"_s + id, u"https://%1.example/"_s.arg(id), addedTime);
     }
 };
 
@@ -74,7 +74,7 @@ TEST_F(ChromiumBookmarks, aMissingFileMeansNone)
 
 TEST_F(ChromiumBookmarks, nodesAreRead)
 {
-    writeBar({bookmarkNode(u"7"_s, u"A page"_s, u"https://a.example/"_s, someTime),
+    writeBar({bookmarkNode(u"7"_s, u"A page"_s, u"https://a.example/"_s, addedTime),
               folderNode(u"8"_s, u"Inner"_s, {leaf(u"9"_s)}), folderNode(u"10"_s, u""_s, {})});
     const QList<BookmarkNode> roots = read();
     EXPECT_EQ(outlineOf(roots),
@@ -158,9 +158,9 @@ TEST_F(ChromiumBookmarks, aBookmarkWithoutNameIsNamedByItsAddressAFolderKeepsNon
 
 TEST_F(ChromiumBookmarks, datesAreMicrosecondsInAText)
 {
-    EXPECT_EQ(dateOf(u"13300000000000000"_s), someTimeSince1970);
-    EXPECT_EQ(dateOf(u"0013300000000000000"_s), someTimeSince1970);
-    EXPECT_EQ(dateOf(u"+13300000000000000"_s), someTimeSince1970);
+    EXPECT_EQ(dateOf(u"13300000000000000"_s), addedSince1970);
+    EXPECT_EQ(dateOf(u"0013300000000000000"_s), addedSince1970);
+    EXPECT_EQ(dateOf(u"+13300000000000000"_s), addedSince1970);
     EXPECT_EQ(dateOf(u"1"_s), 0.000001 - 11'644'473'600);
     EXPECT_EQ(dateOf(u"9223372036854775807"_s), 9'223'372'036'854.775807 - 11'644'473'600);
     for (const char *text : {"0", "", "abc", "-1", "-13300000000000000", "1.5", "1e16", " 13300000000000000",

@@ -21,7 +21,7 @@ Json::Value valueOf(const QByteArray &bytes)
 }
 
 /// Whether `bytes` is refused, with a reason.
-bool isRefused(const QByteArray &bytes)
+bool isNoJson(const QByteArray &bytes)
 {
     const auto json = Json::parse(bytes);
     return !json && !json.error().isEmpty();
@@ -35,40 +35,40 @@ TEST(Json, onlyOneCompleteTextIsAccepted)
     for (const char *text :
          {"", " ", "{", "{\"a\":", "[1, 2", "{} {}", "[1,]", "{\"a\":1,}", "{a: 1}", "'a'", "01", "nul",
           "// comment\n{}", "/* comment */ {}", "\"unfinished", "\"\\x\"", "NaN"}) {
-        EXPECT_TRUE(isRefused(text)) << text;
+        EXPECT_TRUE(isNoJson(text)) << text;
     }
 }
 
 TEST(Json, aByteOrderMarkIsRefused)
 {
-    EXPECT_TRUE(isRefused("\xEF\xBB\xBF{}"));
+    EXPECT_TRUE(isNoJson("\xEF\xBB\xBF{}"));
 }
 
 TEST(Json, aNulIsRefusedWhereverItStands)
 {
-    EXPECT_TRUE(isRefused(QByteArray("\0", 1)));
-    EXPECT_TRUE(isRefused(QByteArray("\0{}", 3)));
-    EXPECT_TRUE(isRefused(QByteArray("{\0}", 3)));
-    EXPECT_TRUE(isRefused(QByteArray("\"a\0b\"", 5)));
-    EXPECT_TRUE(isRefused(QByteArray("{}\0", 3)));
-    EXPECT_TRUE(isRefused(QByteArray("{}\0{\"a\": 1}", 11)));
+    EXPECT_TRUE(isNoJson(QByteArray("\0", 1)));
+    EXPECT_TRUE(isNoJson(QByteArray("\0{}", 3)));
+    EXPECT_TRUE(isNoJson(QByteArray("{\0}", 3)));
+    EXPECT_TRUE(isNoJson(QByteArray("\"a\0b\"", 5)));
+    EXPECT_TRUE(isNoJson(QByteArray("{}\0", 3)));
+    EXPECT_TRUE(isNoJson(QByteArray("{}\0{\"a\": 1}", 11)));
 }
 
 TEST(Json, brokenEncodingsAreRefused)
 {
-    EXPECT_TRUE(isRefused("\"\xC3\""));
-    EXPECT_TRUE(isRefused("\"\xC3(\""));
-    EXPECT_TRUE(isRefused("\"\xED\xA0\x80\""));
-    EXPECT_TRUE(isRefused("\"\xF8\x88\x80\x80\x80\""));
-    EXPECT_TRUE(isRefused("\"\\ud800\""));
-    EXPECT_TRUE(isRefused("\"Z\xFC"
-                          "rich\""));
-    EXPECT_TRUE(isRefused(QByteArray("\xFF\xFE{\0}\0", 6)));
+    EXPECT_TRUE(isNoJson("\"\xC3\""));
+    EXPECT_TRUE(isNoJson("\"\xC3(\""));
+    EXPECT_TRUE(isNoJson("\"\xED\xA0\x80\""));
+    EXPECT_TRUE(isNoJson("\"\xF8\x88\x80\x80\x80\""));
+    EXPECT_TRUE(isNoJson("\"\\ud800\""));
+    EXPECT_TRUE(isNoJson("\"Z\xFC"
+                         "rich\""));
+    EXPECT_TRUE(isNoJson(QByteArray("\xFF\xFE{\0}\0", 6)));
 }
 
 TEST(Json, aNumberThatNothingCanHoldIsRefusedAndNoCrash)
 {
-    EXPECT_TRUE(isRefused("1e999"));
+    EXPECT_TRUE(isNoJson("1e999"));
 }
 
 TEST(Json, membersOfWhatIsNoObjectAreNotThere)
@@ -137,7 +137,7 @@ TEST(Json, nestingNeedsNoStack)
         EXPECT_TRUE(Json::parse(QByteArray(depth, '[') + QByteArray(depth, ']')).has_value());
         EXPECT_TRUE(
             Json::parse(QByteArray("{\"a\":").repeated(depth) + "1" + QByteArray(depth, '}')).has_value());
-        EXPECT_TRUE(isRefused(QByteArray(depth, '[')));
+        EXPECT_TRUE(isNoJson(QByteArray(depth, '[')));
     }
 }
 

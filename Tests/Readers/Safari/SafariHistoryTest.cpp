@@ -18,7 +18,7 @@ namespace
 {
 
 /// 2026-05-09 06:13:20 UTC, in seconds since 2001.
-constexpr double someTime = 800'000'000;
+constexpr double someSafariTime = 800'000'000;
 
 class SafariHistory : public ReaderTest
 {
@@ -69,7 +69,7 @@ TEST_F(SafariHistory, aNamedProfileMayHaveNone)
 TEST_F(SafariHistory, aRowIsAWholeItem)
 {
     write({{.id = 982, .url = u"HTTPS://www.Example.com/A"_s, .visitCount = 5'000'000'000}},
-          {{.itemID = 982, .time = someTime + 0.25, .title = u"ÄTitle"_s}});
+          {{.itemID = 982, .time = someSafariTime + 0.25, .title = u"ÄTitle"_s}});
     EXPECT_EQ(read(), (QList<HistoryItem>{{.id = u"safari/982"_s,
                                            .title = u"ÄTitle"_s,
                                            .url = u"HTTPS://www.Example.com/A"_s,

@@ -14,7 +14,7 @@
 /// The resources of a static library are there only once somebody asks for them, from outside of any
 /// namespace.
 // NOLINTNEXTLINE(misc-use-anonymous-namespace)
-static void useResources()
+static void useSymbols()
 {
     Q_INIT_RESOURCE(Resources);
 }
@@ -102,7 +102,7 @@ private:
 
 QIcon symbolIcon(const QString &name, const std::optional<QColor> &color)
 {
-    useResources();
+    useSymbols();
     const QString path = u":/symbols/%1.svg"_s.arg(name);
     if (!QFile::exists(path))
         return {};
@@ -111,7 +111,7 @@ QIcon symbolIcon(const QString &name, const std::optional<QColor> &color)
 
 QIcon applicationIcon()
 {
-    useResources();
+    useSymbols();
     // Not the desktop theme's: it would be looked for in every folder before the window shows.
     return QIcon(u":/org.roamlet.Roamlet.svg"_s);
 }

@@ -13,11 +13,11 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-using SortColumn = SortColumns<Bookmark>::Column;
+using BookmarkColumn = SortColumns<Bookmark>::Column;
 
-static_assert(static_cast<int>(SortColumn::Folder) == BookmarkTable::Folder &&
-              static_cast<int>(SortColumn::DateAdded) == BookmarkTable::Added &&
-              static_cast<int>(SortColumn::Source) == BookmarkTable::Source);
+static_assert(static_cast<int>(BookmarkColumn::Folder) == BookmarkTable::Folder &&
+              static_cast<int>(BookmarkColumn::DateAdded) == BookmarkTable::Added &&
+              static_cast<int>(BookmarkColumn::Source) == BookmarkTable::Source);
 
 QList<TableColumn> bookmarkColumns()
 {

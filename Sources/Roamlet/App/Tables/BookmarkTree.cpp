@@ -11,9 +11,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-using SortColumn = SortColumns<BookmarkNode>::Column;
-
-static_assert(static_cast<int>(SortColumn::DateAdded) == BookmarkTree::Added);
+static_assert(static_cast<int>(SortColumns<BookmarkNode>::Column::DateAdded) == BookmarkTree::Added);
 
 QList<TableColumn> treeColumns()
 {

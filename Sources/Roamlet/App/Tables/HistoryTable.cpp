@@ -18,11 +18,11 @@ namespace
 {
 
 using Comparator = SortComparator<HistoryItem>;
-using SortColumn = SortColumns<HistoryItem>::Column;
+using HistoryColumn = SortColumns<HistoryItem>::Column;
 
-static_assert(static_cast<int>(SortColumn::LastVisit) == HistoryTable::LastVisited &&
-              static_cast<int>(SortColumn::VisitCount) == HistoryTable::Visits &&
-              static_cast<int>(SortColumn::Source) == HistoryTable::Source);
+static_assert(static_cast<int>(HistoryColumn::LastVisit) == HistoryTable::LastVisited &&
+              static_cast<int>(HistoryColumn::VisitCount) == HistoryTable::Visits &&
+              static_cast<int>(HistoryColumn::Source) == HistoryTable::Source);
 
 QList<TableColumn> historyColumns()
 {
@@ -36,8 +36,8 @@ QList<TableColumn> historyColumns()
 HistoryTable::Order defaultOrder(HistoryTable::Mode mode)
 {
     if (mode == HistoryTable::Mode::MostVisited)
-        return {Comparator{SortColumn::VisitCount, SortOrder::Reverse}};
-    return {Comparator{SortColumn::LastVisit, SortOrder::Reverse}};
+        return {Comparator{HistoryColumn::VisitCount, SortOrder::Reverse}};
+    return {Comparator{HistoryColumn::LastVisit, SortOrder::Reverse}};
 }
 
 } // namespace

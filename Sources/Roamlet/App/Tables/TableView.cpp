@@ -24,7 +24,7 @@
 namespace roamlet
 {
 
-using Kind = TableRow::Kind;
+using RowKind = TableRow::Kind;
 
 namespace
 {
@@ -94,7 +94,7 @@ TableView::TableView(TableModel &model, Shape shape, QWidget *parent)
     });
 }
 
-bool TableView::isKind(const QModelIndex &index, Kind kind) const
+bool TableView::isKind(const QModelIndex &index, RowKind kind) const
 {
     return index.isValid() && m_model.rowAt(index).kind == kind;
 }
@@ -155,7 +155,7 @@ QList<TableRow> TableView::selectedRows() const
     while (!open.empty() && !selected.empty()) {
         const RowTree::Number number = open.back();
         open.pop_back();
-        if (selected.erase(number) > 0 && tree.row(number).kind != Kind::Section)
+        if (selected.erase(number) > 0 && tree.row(number).kind != RowKind::Section)
             rows.append(tree.row(number));
         const RowTree::Node &node = tree.node(number);
         for (int child = node.childCount - 1; child >= 0; --child)
@@ -166,7 +166,7 @@ QList<TableRow> TableView::selectedRows() const
 
 bool TableView::selectsLinks() const
 {
-    return std::ranges::any_of(selectedRows(), [](const TableRow &row) { return row.kind == Kind::Link; });
+    return std::ranges::any_of(selectedRows(), [](const TableRow &row) { return row.kind == RowKind::Link; });
 }
 
 void TableView::setEmptyText(const QString &text)
@@ -216,7 +216,7 @@ void TableView::openFoldersAndSections()
 
 void TableView::drawRow(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
-    if (isKind(index, Kind::Section))
+    if (isKind(index, RowKind::Section))
         drawSection(painter, option, index);
     else
         QTreeView::drawRow(painter, option, index);
@@ -273,7 +273,7 @@ void TableView::drawSection(QPainter *painter, const QStyleOptionViewItem &optio
 void TableView::mousePressEvent(QMouseEvent *event)
 {
     const QModelIndex index = indexAt(event->position().toPoint());
-    if (!isKind(index, Kind::Section)) {
+    if (!isKind(index, RowKind::Section)) {
         QTreeView::mousePressEvent(event);
         return;
     }
@@ -286,13 +286,13 @@ void TableView::mousePressEvent(QMouseEvent *event)
 void TableView::mouseDoubleClickEvent(QMouseEvent *event)
 {
     const QModelIndex index = indexAt(event->position().toPoint());
-    if (isKind(index, Kind::Section)) {
+    if (isKind(index, RowKind::Section)) {
         // Each of two quick clicks counts.
         mousePressEvent(event);
         return;
     }
     QTreeView::mouseDoubleClickEvent(event);
-    if (event->button() == Qt::LeftButton && isKind(index, Kind::Link))
+    if (event->button() == Qt::LeftButton && isKind(index, RowKind::Link))
         Q_EMIT openRequested();
 }
 
@@ -310,13 +310,13 @@ void TableView::keyPressEvent(QKeyEvent *event)
         if (hasModifiers)
             break;
         // Where links are selected the key is theirs, wherever the current row is.
-        if (!selectsLinks() && (isKind(current, Kind::Section) || isKind(current, Kind::Folder)))
+        if (!selectsLinks() && (isKind(current, RowKind::Section) || isKind(current, RowKind::Folder)))
             toggle(current);
         else
             Q_EMIT openRequested();
         return;
     case Qt::Key_Space:
-        if (!isKind(current, Kind::Section))
+        if (!isKind(current, RowKind::Section))
             break;
         toggle(current);
         return;
@@ -334,7 +334,7 @@ void TableView::contextMenuEvent(QContextMenuEvent *event)
 {
     const bool isMouse = event->reason() == QContextMenuEvent::Mouse;
     const QModelIndex index = isMouse ? indexAt(event->pos()) : currentIndex();
-    if (!index.isValid() || isKind(index, Kind::Section))
+    if (!index.isValid() || isKind(index, RowKind::Section))
         return;
     if (!selectionModel()->isSelected(index))
         setCurrentIndex(index);
