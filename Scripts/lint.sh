@@ -13,9 +13,9 @@ fi
 clang-format-19 --dry-run --Werror "${files[@]}"
 echo "The formatting is right."
 
-cmake --preset dev -DROAMLET_BENCHMARKS=ON >/dev/null
-cmake --build --preset dev --target roamlet_core_autogen roamlet_diagnostics_autogen roamlet_ui_autogen >/dev/null
+cmake --preset plain >/dev/null
+cmake --build --preset plain --target roamlet_core_autogen roamlet_diagnostics_autogen roamlet_ui_autogen >/dev/null
 mapfile -t sources < <(printf '%s\n' "${files[@]}" | grep '\.cpp$')
 printf '%s\0' "${sources[@]}" | xargs -0 -P "$(nproc)" -n 1 \
-  clang-tidy-19 -p build/dev --quiet 2>/dev/null
+  clang-tidy-19 -p build/plain --quiet 2>/dev/null
 echo "clang-tidy has nothing to say."

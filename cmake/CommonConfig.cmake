@@ -16,6 +16,11 @@ target_compile_options(roamlet_common INTERFACE
   -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wold-style-cast -Wnon-virtual-dtor -Woverloaded-virtual
   -Wcast-qual -Wduplicated-cond -Wlogical-op -Wunused -Wformat=2 -Werror)
 
+# The compiler takes the files of a unit for headers, in which nothing should build on what is local to a file.
+if(CMAKE_UNITY_BUILD)
+  target_compile_options(roamlet_common INTERFACE -Wno-subobject-linkage)
+endif()
+
 # Libraries that a run does not reach are not loaded: a diagnostic run must start as fast as a plain Qt Core program.
 target_link_options(roamlet_common INTERFACE -Wl,--as-needed)
 
