@@ -22,7 +22,6 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-
 /// A bookmark as a user sees it.
 struct Kept {
     QStringList folders;
@@ -195,7 +194,8 @@ TEST_F(RealBrowserBookmarksTest, ExportedBookmarksComeBackWhenTheBrowserImportsT
     ASSERT_FALSE(HasFatalFailure());
     ProgramRun exported;
     expectNothingTouched([&] {
-        exported = ProgramRun::of(home, {u"--export"_s, u"html"_s, u"--source"_s, u"chromium/"_s % secondProfile});
+        exported =
+            ProgramRun::of(home, {u"--export"_s, u"html"_s, u"--source"_s, u"chromium/"_s % secondProfile});
     });
     ASSERT_EQ(exported.status, 0) << exported.errors.toStdString();
     ASSERT_EQ(bookmarkLines(exported).size(), kept.size());

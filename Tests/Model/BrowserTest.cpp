@@ -14,8 +14,8 @@ namespace
 
 using namespace Qt::StringLiterals;
 
-Source source(QStringView browser, const QString &profile, const QString &name, const QString &installation,
-              bool isNamed = false)
+Source named(QStringView browser, const QString &profile, const QString &name, const QString &installation,
+             bool isNamed = false)
 {
     return {.kind = Source::kindFromRawValue(browser).value(),
             .profile = profile,
@@ -70,28 +70,28 @@ TEST(Browser, aKeyTellsHowTheBrowserCameHere)
 
 TEST(Browser, theIdNamesTheInstallationWhateverElseIsThere)
 {
-    EXPECT_EQ(source(u"chrome", u"Default"_s, u"Work"_s, {}).id(), u"chrome/Default");
-    EXPECT_EQ(source(u"chrome", u"Default"_s, u"Work"_s, u"beta"_s).id(), u"chrome@beta/Default");
-    EXPECT_EQ(source(u"chrome", u"Default"_s, u"Work"_s, u"beta"_s, true).id(), u"chrome@beta/Default");
-    EXPECT_EQ(source(u"firefox", u"abc.default"_s, u"x"_s, u"snap"_s).id(), u"firefox@snap/abc.default");
-    EXPECT_EQ(source(u"opera", u""_s, u"Opera"_s, {}).id(), u"opera/");
+    EXPECT_EQ(named(u"chrome", u"Default"_s, u"Work"_s, {}).id(), u"chrome/Default");
+    EXPECT_EQ(named(u"chrome", u"Default"_s, u"Work"_s, u"beta"_s).id(), u"chrome@beta/Default");
+    EXPECT_EQ(named(u"chrome", u"Default"_s, u"Work"_s, u"beta"_s, true).id(), u"chrome@beta/Default");
+    EXPECT_EQ(named(u"firefox", u"abc.default"_s, u"x"_s, u"snap"_s).id(), u"firefox@snap/abc.default");
+    EXPECT_EQ(named(u"opera", u""_s, u"Opera"_s, {}).id(), u"opera/");
 }
 
 TEST(Browser, theLabelNamesTheInstallationOnlyBesideOthers)
 {
-    EXPECT_EQ(source(u"chrome", u"p"_s, u"Work"_s, u"beta"_s).label(), u"Chrome - Work");
-    EXPECT_EQ(source(u"chrome", u"p"_s, u"Work"_s, u"beta"_s, true).label(), u"Chrome Beta - Work");
-    EXPECT_EQ(source(u"firefox", u"p"_s, u"default"_s, u"snap"_s, true).label(), u"Firefox (Snap) - default");
-    EXPECT_EQ(source(u"chrome", u"p"_s, u"Work"_s, u"beta-flatpak"_s, true).label(),
+    EXPECT_EQ(named(u"chrome", u"p"_s, u"Work"_s, u"beta"_s).label(), u"Chrome - Work");
+    EXPECT_EQ(named(u"chrome", u"p"_s, u"Work"_s, u"beta"_s, true).label(), u"Chrome Beta - Work");
+    EXPECT_EQ(named(u"firefox", u"p"_s, u"default"_s, u"snap"_s, true).label(), u"Firefox (Snap) - default");
+    EXPECT_EQ(named(u"chrome", u"p"_s, u"Work"_s, u"beta-flatpak"_s, true).label(),
               u"Chrome Beta (Flatpak) - Work");
-    EXPECT_EQ(source(u"chrome", u"p"_s, u"Chrome"_s, u"beta"_s, true).label(), u"Chrome Beta");
-    EXPECT_EQ(source(u"chrome", u"p"_s, u"Chrome"_s, {}, true).label(), u"Chrome");
+    EXPECT_EQ(named(u"chrome", u"p"_s, u"Chrome"_s, u"beta"_s, true).label(), u"Chrome Beta");
+    EXPECT_EQ(named(u"chrome", u"p"_s, u"Chrome"_s, {}, true).label(), u"Chrome");
 }
 
 TEST(Browser, sourcesOfTwoInstallationsDiffer)
 {
-    const Source native = source(u"chrome", u"Default"_s, u"Work"_s, {});
-    const Source beta = source(u"chrome", u"Default"_s, u"Work"_s, u"beta"_s);
+    const Source native = named(u"chrome", u"Default"_s, u"Work"_s, {});
+    const Source beta = named(u"chrome", u"Default"_s, u"Work"_s, u"beta"_s);
     EXPECT_NE(native, beta);
     EXPECT_NE(qHash(native), qHash(beta));
 }

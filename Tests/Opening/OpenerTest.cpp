@@ -5,6 +5,7 @@
 
 #include "Model/Browser.h"
 #include "Support/FakeWorkspace.h"
+#include "Support/Sources.h"
 
 #include <gtest/gtest.h>
 
@@ -15,18 +16,12 @@ namespace
 
 using namespace Qt::StringLiterals;
 
-Source source(Source::Kind kind, const std::optional<QString> &profile)
-{
-    return {.kind = kind, .profile = profile, .name = u"Name"_s, .safariBookmarks = {}};
-}
-
 class OpenerTest : public ::testing::Test
 {
 protected:
-    Source chrome = source(Source::Kind::Chrome, u"Profile 1"_s);
-    Source edge = source(Source::Kind::Edge, u"Default"_s);
-    Source firefox =
-        source(Source::kindFromRawValue(u"firefox").value_or(Source::Kind::Safari), u"abc.default"_s);
+    Source chrome = profileOf(Source::Kind::Chrome, u"Profile 1"_s);
+    Source edge = profileOf(Source::Kind::Edge, u"Default"_s);
+    Source firefox = profileOf(browserKind(u"firefox"), u"abc.default"_s);
     FakeWorkspace workspace;
     Opener opener{workspace};
 };
@@ -60,7 +55,7 @@ TEST_F(OpenerTest, aLinkOpensInTheInstallationThatItCameFrom)
 
 TEST_F(OpenerTest, aSourceWithoutAProfileIsOpenedAsAnApplication)
 {
-    opener.openLinks({{u"http://one/"_s, source(Source::Kind::Chrome, {})}});
+    opener.openLinks({{u"http://one/"_s, profileOf(Source::Kind::Chrome, {})}});
     EXPECT_EQ(workspace.requests, QList<QStringList>({{u"open"_s, u"chrome"_s, u"http://one/"_s}}));
 }
 
@@ -102,8 +97,8 @@ TEST_F(OpenerTest, everyBrowserHasPagesOfItsOwn)
 {
     for (const Browser &browser : Browser::all()) {
         workspace.requests.clear();
-        opener.showHistory(source(browser.kind, u"p"_s));
-        opener.editBookmarks(source(browser.kind, u"p"_s), {});
+        opener.showHistory(profileOf(browser.kind, u"p"_s));
+        opener.editBookmarks(profileOf(browser.kind, u"p"_s), {});
         ASSERT_EQ(workspace.requests.size(), 2) << browser.rawValue.toStdString();
         EXPECT_TRUE(workspace.requests.at(0).last().contains(u"history"_s)) << browser.rawValue.toStdString();
         EXPECT_NE(workspace.requests.at(1).last(), workspace.requests.at(0).last());
@@ -112,8 +107,8 @@ TEST_F(OpenerTest, everyBrowserHasPagesOfItsOwn)
 
 TEST_F(OpenerTest, aSafariLinkOpensInSafariWhateverItsProfile)
 {
-    opener.openLinks(
-        {{u"http://one/"_s, Source::safari()}, {u"http://two/"_s, source(Source::Kind::Safari, u"7F1C"_s)}});
+    opener.openLinks({{u"http://one/"_s, Source::safari()},
+                      {u"http://two/"_s, profileOf(Source::Kind::Safari, u"7F1C"_s)}});
     EXPECT_EQ(workspace.requests, QList<QStringList>({{u"open"_s, u"safari"_s, u"http://one/"_s},
                                                       {u"open"_s, u"safari"_s, u"http://two/"_s}}));
 }
@@ -190,7 +185,7 @@ TEST_F(OpenerTest, historyPagesAreTheBrowsersOwn)
     opener.showHistory(Source::safari());
     opener.showHistory(chrome);
     opener.showHistory(edge);
-    opener.showHistory(source(Source::Kind::Chrome, {}));
+    opener.showHistory(profileOf(Source::Kind::Chrome, {}));
     EXPECT_EQ(workspace.requests,
               QList<QStringList>({{u"open"_s, u"safari"_s, u"history://"_s},
                                   {u"page"_s, u"chrome"_s, u"Profile 1"_s, u"chrome://history/"_s},

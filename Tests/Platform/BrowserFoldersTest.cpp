@@ -3,9 +3,9 @@
 
 #include "Platform/BrowserFolders.h"
 
-#include "Model/Browser.h"
 #include "Platform/WithoutPrivileges.h"
 #include "SampleHome/PlainFiles.h"
+#include "Support/Sources.h"
 #include "Support/TestHome.h"
 
 #include <QFile>
@@ -19,25 +19,6 @@ namespace roamlet::testing
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
-
-Source::Kind kind(QStringView rawValue)
-{
-    return Source::kindFromRawValue(rawValue).value();
-}
-
-Source source(QStringView browser, const QString &profile, const QString &installation = {})
-{
-    return {.kind = kind(browser),
-            .profile = profile,
-            .name = u"Name"_s,
-            .safariBookmarks = {},
-            .installation = installation};
-}
-
-} // namespace
-
 class BrowserFoldersTest : public ::testing::Test
 {
 protected:
@@ -48,7 +29,7 @@ protected:
     {
         QStringList keys;
         for (const BrowserFolders::Installation &each : folders().installations) {
-            if (each.browser == kind(browser) && each.hasProfiles)
+            if (each.browser == browserKind(browser) && each.hasProfiles)
                 keys.append(each.key.isEmpty() ? u"native"_s : each.key);
         }
         return keys;
@@ -89,25 +70,26 @@ TEST_F(BrowserFoldersTest, everyInstallationWithProfilesCountsInTheTablesOrder)
 
 TEST_F(BrowserFoldersTest, theFirstFolderWithProfilesServesAChromium)
 {
-    EXPECT_EQ(folders().roots(source(u"chrome", u"Default"_s)),
+    EXPECT_EQ(folders().roots(profileOf(browserKind(u"chrome"), u"Default"_s)),
               QStringList{home.path(u"Library/Application Support/Google/Chrome"_s)})
         << "where none has profiles, the first one";
     listProfilesIn(u".config/google-chrome"_s);
-    EXPECT_EQ(folders().roots(source(u"chrome", u"Default"_s)),
+    EXPECT_EQ(folders().roots(profileOf(browserKind(u"chrome"), u"Default"_s)),
               QStringList{home.path(u".config/google-chrome"_s)});
     listProfilesIn(u"Library/Application Support/Google/Chrome"_s);
-    EXPECT_EQ(folders().roots(source(u"chrome", u"Default"_s)),
+    EXPECT_EQ(folders().roots(profileOf(browserKind(u"chrome"), u"Default"_s)),
               QStringList{home.path(u"Library/Application Support/Google/Chrome"_s)});
-    EXPECT_EQ(folders().profile(source(u"chrome", u"Profile 1"_s), home.files),
+    EXPECT_EQ(folders().profile(profileOf(browserKind(u"chrome"), u"Profile 1"_s), home.files),
               home.path(u"Library/Application Support/Google/Chrome/Profile 1"_s));
 }
 
 TEST_F(BrowserFoldersTest, everyFolderWithProfilesServesAFirefox)
 {
     listProfilesIn(u".mozilla/firefox"_s);
-    EXPECT_EQ(folders().roots(source(u"firefox", u"a"_s)), QStringList{home.path(u".mozilla/firefox"_s)});
+    EXPECT_EQ(folders().roots(profileOf(browserKind(u"firefox"), u"a"_s)),
+              QStringList{home.path(u".mozilla/firefox"_s)});
     listProfilesIn(u".config/mozilla/firefox"_s);
-    EXPECT_EQ(folders().roots(source(u"firefox", u"a"_s)),
+    EXPECT_EQ(folders().roots(profileOf(browserKind(u"firefox"), u"a"_s)),
               (QStringList{home.path(u".config/mozilla/firefox"_s), home.path(u".mozilla/firefox"_s)}));
 }
 
@@ -117,12 +99,13 @@ TEST_F(BrowserFoldersTest, aProfileLiesWhereItsFilesAre)
     listProfilesIn(u".config/mozilla/firefox"_s);
     addPlaces(u".mozilla/firefox/old"_s);
     addPlaces(u".config/mozilla/firefox/new"_s);
-    EXPECT_EQ(folders().profile(source(u"firefox", u"old"_s), home.files),
+    EXPECT_EQ(folders().profile(profileOf(browserKind(u"firefox"), u"old"_s), home.files),
               home.path(u".mozilla/firefox/old"_s));
-    EXPECT_EQ(folders().profile(source(u"firefox", u"new"_s), home.files),
+    EXPECT_EQ(folders().profile(profileOf(browserKind(u"firefox"), u"new"_s), home.files),
               home.path(u".config/mozilla/firefox/new"_s));
-    EXPECT_EQ(folders().profile(source(u"firefox", u"/mnt/profile"_s), home.files), u"/mnt/profile"_s);
-    EXPECT_EQ(folders().profile(source(u"chrome", u"/etc"_s), home.files),
+    EXPECT_EQ(folders().profile(profileOf(browserKind(u"firefox"), u"/mnt/profile"_s), home.files),
+              u"/mnt/profile"_s);
+    EXPECT_EQ(folders().profile(profileOf(browserKind(u"chrome"), u"/etc"_s), home.files),
               home.path(u"Library/Application Support/Google/Chrome//etc"_s))
         << "only Firefox's profiles may lie elsewhere";
 }

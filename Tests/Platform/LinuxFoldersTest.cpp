@@ -7,6 +7,7 @@
 #include "Platform/Linux/LinuxFiles.h"
 #include "SampleHome/PlainFiles.h"
 #include "Support/MemoryUserDefaults.h"
+#include "Support/Sources.h"
 
 #include <QDir>
 #include <QFile>
@@ -23,15 +24,6 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-
-constexpr Source::Kind safari = Source::Kind::Safari;
-constexpr Source::Kind chrome = Source::Kind::Chrome;
-constexpr Source::Kind edge = Source::Kind::Edge;
-
-Source::Kind kind(QStringView rawValue)
-{
-    return Source::kindFromRawValue(rawValue).value();
-}
 
 /// An environment variable with another value for as long as this lives.
 class Variable
@@ -91,11 +83,11 @@ TEST_F(LinuxFoldersTest, namesHomeAndTheTemporaryFolder)
 
 TEST_F(LinuxFoldersTest, theLayoutOfAMacComesFirst)
 {
-    EXPECT_EQ(folders().dataFolders(safari, {}), QStringList{home(u"Library/Safari"_s)});
-    EXPECT_EQ(folders().dataFolders(chrome, {}),
+    EXPECT_EQ(folders().dataFolders(Source::Kind::Safari, {}), QStringList{home(u"Library/Safari"_s)});
+    EXPECT_EQ(folders().dataFolders(Source::Kind::Chrome, {}),
               (QStringList{home(u"Library/Application Support/Google/Chrome"_s),
                            home(u".config/google-chrome"_s)}));
-    EXPECT_EQ(folders().dataFolders(edge, {}),
+    EXPECT_EQ(folders().dataFolders(Source::Kind::Edge, {}),
               (QStringList{home(u"Library/Application Support/Microsoft Edge"_s),
                            home(u".config/microsoft-edge"_s)}));
     EXPECT_EQ(folders().safariContainer(),
@@ -112,30 +104,31 @@ TEST_F(LinuxFoldersTest, everyInstallationOfATableRowHasFolders)
                 EXPECT_TRUE(place.startsWith(home() % u'/')) << qPrintable(place);
         }
     }
-    EXPECT_TRUE(folders().dataFolders(chrome, u"no-such-key"_s).isEmpty());
+    EXPECT_TRUE(folders().dataFolders(Source::Kind::Chrome, u"no-such-key"_s).isEmpty());
 }
 
 TEST_F(LinuxFoldersTest, sandboxesKeepTheirDataInFoldersOfTheirOwn)
 {
-    EXPECT_EQ(folders().dataFolders(chrome, u"flatpak"_s),
+    EXPECT_EQ(folders().dataFolders(Source::Kind::Chrome, u"flatpak"_s),
               QStringList{home(u".var/app/com.google.Chrome/config/google-chrome"_s)});
-    EXPECT_EQ(folders().dataFolders(edge, u"beta-flatpak"_s),
+    EXPECT_EQ(folders().dataFolders(Source::Kind::Edge, u"beta-flatpak"_s),
               QStringList{home(u".var/app/com.microsoft.Edge/config/microsoft-edge-beta"_s)});
-    EXPECT_EQ(folders().dataFolders(kind(u"chromium"), u"snap"_s),
+    EXPECT_EQ(folders().dataFolders(browserKind(u"chromium"), u"snap"_s),
               QStringList{home(u"snap/chromium/common/chromium"_s)});
-    EXPECT_EQ(folders().dataFolders(kind(u"firefox"), u"snap"_s),
+    EXPECT_EQ(folders().dataFolders(browserKind(u"firefox"), u"snap"_s),
               QStringList{home(u"snap/firefox/common/.mozilla/firefox"_s)});
 }
 
 TEST_F(LinuxFoldersTest, anotherFolderForConfigurationsIsHonoured)
 {
     const LinuxFolders there = folders(home(u"elsewhere"_s));
-    EXPECT_EQ(there.dataFolders(chrome, {}).last(), home(u"elsewhere/google-chrome"_s));
-    EXPECT_EQ(there.dataFolders(chrome, u"beta"_s), QStringList{home(u"elsewhere/google-chrome-beta"_s)});
-    EXPECT_EQ(there.dataFolders(kind(u"firefox"), {}),
+    EXPECT_EQ(there.dataFolders(Source::Kind::Chrome, {}).last(), home(u"elsewhere/google-chrome"_s));
+    EXPECT_EQ(there.dataFolders(Source::Kind::Chrome, u"beta"_s),
+              QStringList{home(u"elsewhere/google-chrome-beta"_s)});
+    EXPECT_EQ(there.dataFolders(browserKind(u"firefox"), {}),
               (QStringList{home(u"Library/Application Support/Firefox"_s),
                            home(u"elsewhere/mozilla/firefox"_s), home(u".mozilla/firefox"_s)}));
-    EXPECT_EQ(there.dataFolders(chrome, u"flatpak"_s),
+    EXPECT_EQ(there.dataFolders(Source::Kind::Chrome, u"flatpak"_s),
               QStringList{home(u".var/app/com.google.Chrome/config/google-chrome"_s)})
         << "a sandboxed browser keeps its own folder for configurations";
 }
@@ -143,23 +136,24 @@ TEST_F(LinuxFoldersTest, anotherFolderForConfigurationsIsHonoured)
 TEST_F(LinuxFoldersTest, settingsOverrideThePlaces)
 {
     defaults.setString(u"dataRoot.chrome"_s, home(u"backup/Chrome"_s));
-    EXPECT_EQ(folders().dataFolders(chrome, {}), QStringList{home(u"backup/Chrome"_s)});
-    EXPECT_EQ(folders().dataFolders(edge, {}).size(), 2) << "each for its own browser";
-    EXPECT_EQ(folders().dataFolders(chrome, u"beta"_s), QStringList{home(u".config/google-chrome-beta"_s)})
+    EXPECT_EQ(folders().dataFolders(Source::Kind::Chrome, {}), QStringList{home(u"backup/Chrome"_s)});
+    EXPECT_EQ(folders().dataFolders(Source::Kind::Edge, {}).size(), 2) << "each for its own browser";
+    EXPECT_EQ(folders().dataFolders(Source::Kind::Chrome, u"beta"_s),
+              QStringList{home(u".config/google-chrome-beta"_s)})
         << "and its own installation";
 
     defaults.setString(u"dataRoot.chrome@beta"_s, u"/no/such/folder"_s);
-    EXPECT_EQ(folders().dataFolders(chrome, u"beta"_s), QStringList{u"/no/such/folder"_s})
+    EXPECT_EQ(folders().dataFolders(Source::Kind::Chrome, u"beta"_s), QStringList{u"/no/such/folder"_s})
         << "also to where nothing is";
     defaults.setString(u"dataRoot.firefox"_s, home(u"backup/firefox"_s));
-    EXPECT_EQ(folders().dataFolders(kind(u"firefox"), {}), QStringList{home(u"backup/firefox"_s)});
+    EXPECT_EQ(folders().dataFolders(browserKind(u"firefox"), {}), QStringList{home(u"backup/firefox"_s)});
 }
 
 TEST_F(LinuxFoldersTest, settingsAreTidiedAndKnowTheHomeFolder)
 {
     const auto root = [this](const QString &value) {
         defaults.setString(u"dataRoot.chrome"_s, value);
-        return folders().dataFolders(chrome, {}).first();
+        return folders().dataFolders(Source::Kind::Chrome, {}).first();
     };
     EXPECT_EQ(root(u"/backup/Chrome/"_s), u"/backup/Chrome"_s);
     EXPECT_EQ(root(u"/backup//x/../Chrome"_s), u"/backup/Chrome"_s);
@@ -168,7 +162,7 @@ TEST_F(LinuxFoldersTest, settingsAreTidiedAndKnowTheHomeFolder)
     EXPECT_EQ(root(u"/~/x"_s), u"/~/x"_s);
     EXPECT_EQ(root(u""_s), home(u"Library/Application Support/Google/Chrome"_s)) << "an empty one is none";
     defaults.setBoolean(u"dataRoot.chrome"_s, true);
-    EXPECT_EQ(folders().dataFolders(chrome, {}).first(),
+    EXPECT_EQ(folders().dataFolders(Source::Kind::Chrome, {}).first(),
               home(u"Library/Application Support/Google/Chrome"_s));
 }
 
@@ -176,7 +170,7 @@ TEST_F(LinuxFoldersTest, safarisContainerLiesBesideAnOverriddenRoot)
 {
     make(u"backup/Library/Safari"_s);
     defaults.setString(u"dataRoot.safari"_s, home(u"backup/Library/Safari"_s));
-    EXPECT_EQ(folders().dataFolders(safari, {}), QStringList{home(u"backup/Library/Safari"_s)});
+    EXPECT_EQ(folders().dataFolders(Source::Kind::Safari, {}), QStringList{home(u"backup/Library/Safari"_s)});
     EXPECT_EQ(folders().safariContainer(), home(u"backup/Library/Safari"_s))
         << "a folder that was copied alone holds everything itself";
     make(u"backup/Library/Containers/com.apple.Safari/Data/Library/Safari"_s);
@@ -215,7 +209,8 @@ TEST(LinuxFoldersEnvironment, withoutAUsableVariableConfigurationsLieBelowHome)
                                                    std::optional(QByteArray("relative"))}) {
         const Variable config("XDG_CONFIG_HOME", value);
         const LinuxFolders folders(LinuxFolders::Environment::ofThisProcess(), files, defaults);
-        EXPECT_EQ(folders.dataFolders(chrome, {}).at(1), folder.filePath(u".config/google-chrome"_s))
+        EXPECT_EQ(folders.dataFolders(Source::Kind::Chrome, {}).at(1),
+                  folder.filePath(u".config/google-chrome"_s))
             << value.value_or("unset").constData();
     }
 }

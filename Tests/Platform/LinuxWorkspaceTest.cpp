@@ -6,6 +6,7 @@
 #include "Platform/FakeBrowserWindows.h"
 #include "Platform/FakeDesktop.h"
 #include "SampleHome/PlainFiles.h"
+#include "Support/Sources.h"
 #include "Support/TestHome.h"
 
 #include <QDir>
@@ -25,22 +26,6 @@ namespace
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
-
-using Kind = Source::Kind;
-
-Kind kind(QStringView rawValue)
-{
-    return Source::kindFromRawValue(rawValue).value();
-}
-
-Source source(Kind browser, const std::optional<QString> &profile, const QString &installation = {})
-{
-    return {.kind = browser,
-            .profile = profile,
-            .name = u"Name"_s,
-            .safariBookmarks = {},
-            .installation = installation};
-}
 
 class LinuxWorkspaceTest : public ::testing::Test
 {
@@ -90,9 +75,9 @@ protected:
     }
 
     /// The program that opens a link of this browser's profile.
-    QString programForLink(Kind browser, const QString &installation = {})
+    QString programForLink(Source::Kind browser, const QString &installation = {})
     {
-        workspace.openInProfile({u"http://a/"_s}, source(browser, u"Default"_s, installation));
+        workspace.openInProfile({u"http://a/"_s}, profileOf(browser, u"Default"_s, installation));
         return onlyStart().program;
     }
 
@@ -107,7 +92,8 @@ TEST_F(LinuxWorkspaceTest, aProfileIsOpenedByTheBrowsersOwnCommand)
 {
     desktop.addApplication(u"google-chrome.desktop"_s, u"chrome"_s);
     keepDataIn(u".config/google-chrome"_s);
-    workspace.openInProfile({u"http://a/"_s, u"http://b/"_s}, source(Kind::Chrome, u"Profile 1"_s));
+    workspace.openInProfile({u"http://a/"_s, u"http://b/"_s},
+                            profileOf(Source::Kind::Chrome, u"Profile 1"_s));
     const FakeDesktop::Start start = onlyStart();
     EXPECT_EQ(start.program, u"chrome");
     EXPECT_EQ(start.arguments,
@@ -119,7 +105,7 @@ TEST_F(LinuxWorkspaceTest, noShellSeesTheArguments)
 {
     desktop.addApplication(u"google-chrome.desktop"_s, u"chrome"_s);
     const QString url = u"http://a/$(touch x);`id`'\"&|\\ *?%u%20ä"_s;
-    workspace.openInProfile({url}, source(Kind::Chrome, u"$HOME \"1\""_s));
+    workspace.openInProfile({url}, profileOf(Source::Kind::Chrome, u"$HOME \"1\""_s));
     EXPECT_EQ(onlyStart().arguments, QStringList({u"--profile-directory=$HOME \"1\""_s,
                                                   u"--ignore-profile-directory-if-not-exists"_s, url}));
 }
@@ -128,7 +114,7 @@ TEST_F(LinuxWorkspaceTest, theEntrysOwnArgumentsStay)
 {
     desktop.addEntry(u"google-chrome.desktop"_s, u"env LANG=C \"" % desktop.addProgram(u"my chrome"_s) %
                                                      u"\" --dark \"--name=a b\" --rate=5%% %i %c %U");
-    workspace.openInProfile({u"http://a/"_s}, source(Kind::Chrome, u"Default"_s));
+    workspace.openInProfile({u"http://a/"_s}, profileOf(Source::Kind::Chrome, u"Default"_s));
     const FakeDesktop::Start start = onlyStart();
     EXPECT_EQ(start.program, u"my chrome");
     EXPECT_EQ(start.arguments,
@@ -142,16 +128,16 @@ TEST_F(LinuxWorkspaceTest, eitherNameOfABrowsersEntryWillDo)
     desktop.addApplication(u"com.microsoft.Edge.desktop"_s, u"edge"_s);
     keepDataIn(u".config/google-chrome"_s);
     keepDataIn(u".config/microsoft-edge"_s);
-    EXPECT_EQ(programForLink(Kind::Chrome), u"chrome");
-    EXPECT_TRUE(workspace.hasBrowser(Kind::Edge));
+    EXPECT_EQ(programForLink(Source::Kind::Chrome), u"chrome");
+    EXPECT_TRUE(workspace.hasBrowser(Source::Kind::Edge));
 }
 
 TEST_F(LinuxWorkspaceTest, edgeIsKnownByItsPackagesEntry)
 {
     desktop.addApplication(u"microsoft-edge.desktop"_s, u"edge"_s);
     keepDataIn(u".config/microsoft-edge"_s);
-    EXPECT_EQ(programForLink(Kind::Edge), u"edge");
-    EXPECT_FALSE(workspace.hasBrowser(Kind::Chrome));
+    EXPECT_EQ(programForLink(Source::Kind::Edge), u"edge");
+    EXPECT_FALSE(workspace.hasBrowser(Source::Kind::Chrome));
 }
 
 TEST_F(LinuxWorkspaceTest, dataOfTheFlatpakIsOpenedByTheFlatpak)
@@ -159,7 +145,7 @@ TEST_F(LinuxWorkspaceTest, dataOfTheFlatpakIsOpenedByTheFlatpak)
     desktop.addApplication(u"google-chrome.desktop"_s, u"chrome"_s);
     addFlatpakChrome();
     keepDataIn(u".var/app/com.google.Chrome/config/google-chrome"_s);
-    workspace.openInProfile({u"http://a/"_s}, source(Kind::Chrome, u"Default"_s, u"flatpak"_s));
+    workspace.openInProfile({u"http://a/"_s}, profileOf(Source::Kind::Chrome, u"Default"_s, u"flatpak"_s));
     const FakeDesktop::Start start = onlyStart();
     EXPECT_EQ(start.program, u"flatpak");
     EXPECT_EQ(start.arguments,
@@ -173,7 +159,7 @@ TEST_F(LinuxWorkspaceTest, thePackageIsToldFromTheFlatpakByItsCommand)
     addFlatpakChrome();
     desktop.addEntry(u"com.google.Chrome.desktop"_s, desktop.addProgram(u"chrome"_s) % u" %U", {}, 1);
     keepDataIn(u".config/google-chrome"_s);
-    EXPECT_EQ(programForLink(Kind::Chrome), u"chrome");
+    EXPECT_EQ(programForLink(Source::Kind::Chrome), u"chrome");
 }
 
 TEST_F(LinuxWorkspaceTest, anotherInstallationDoesNotStandInForAProfile)
@@ -181,13 +167,13 @@ TEST_F(LinuxWorkspaceTest, anotherInstallationDoesNotStandInForAProfile)
     addFlatpakChrome();
     keepDataIn(u".config/google-chrome"_s);
     // Its profiles are others, whatever their names.
-    workspace.openInProfile({u"http://a/"_s}, source(Kind::Chrome, u"Default"_s));
-    workspace.showPage(u"chrome://history/"_s, source(Kind::Chrome, u"Default"_s));
+    workspace.openInProfile({u"http://a/"_s}, profileOf(Source::Kind::Chrome, u"Default"_s));
+    workspace.showPage(u"chrome://history/"_s, profileOf(Source::Kind::Chrome, u"Default"_s));
     EXPECT_TRUE(starts().isEmpty());
     EXPECT_EQ(windows->looks, 0);
     // Without a profile the browser is the browser.
-    EXPECT_TRUE(workspace.hasBrowser(Kind::Chrome));
-    workspace.open({u"http://a/"_s}, Kind::Chrome);
+    EXPECT_TRUE(workspace.hasBrowser(Source::Kind::Chrome));
+    workspace.open({u"http://a/"_s}, Source::Kind::Chrome);
     EXPECT_EQ(onlyStart().program, u"flatpak");
 }
 
@@ -195,9 +181,9 @@ TEST_F(LinuxWorkspaceTest, chromiumIsABrowserOfItsOwn)
 {
     desktop.addApplication(u"chromium.desktop"_s, u"chromium"_s);
     keepDataIn(u".config/chromium"_s);
-    EXPECT_TRUE(workspace.hasBrowser(kind(u"chromium")));
-    EXPECT_FALSE(workspace.hasBrowser(Kind::Chrome));
-    EXPECT_EQ(programForLink(kind(u"chromium")), u"chromium");
+    EXPECT_TRUE(workspace.hasBrowser(browserKind(u"chromium")));
+    EXPECT_FALSE(workspace.hasBrowser(Source::Kind::Chrome));
+    EXPECT_EQ(programForLink(browserKind(u"chromium")), u"chromium");
 }
 
 TEST_F(LinuxWorkspaceTest, aSettingMayNameTheDataOfAnotherBrowser)
@@ -206,7 +192,7 @@ TEST_F(LinuxWorkspaceTest, aSettingMayNameTheDataOfAnotherBrowser)
     desktop.addApplication(u"google-chrome.desktop"_s, u"chrome"_s);
     keepDataIn(u".config/chromium"_s);
     home.defaults.setString(u"dataRoot.chrome"_s, u"~/.config/chromium"_s);
-    EXPECT_EQ(programForLink(Kind::Chrome), u"chromium");
+    EXPECT_EQ(programForLink(Source::Kind::Chrome), u"chromium");
 }
 
 TEST_F(LinuxWorkspaceTest, eachInstallationOpensItsOwnData)
@@ -216,8 +202,8 @@ TEST_F(LinuxWorkspaceTest, eachInstallationOpensItsOwnData)
                      desktop.addProgram(u"flatpak"_s) % u" run org.chromium.Chromium @@u %U @@");
     keepDataIn(u".config/chromium"_s);
     keepDataIn(u".var/app/org.chromium.Chromium/config/chromium"_s);
-    EXPECT_EQ(programForLink(kind(u"chromium"), u"flatpak"_s), u"flatpak");
-    workspace.openInProfile({u"http://a/"_s}, source(kind(u"chromium"), u"Default"_s));
+    EXPECT_EQ(programForLink(browserKind(u"chromium"), u"flatpak"_s), u"flatpak");
+    workspace.openInProfile({u"http://a/"_s}, profileOf(browserKind(u"chromium"), u"Default"_s));
     EXPECT_EQ(starts().value(0).program, u"chromium");
 }
 
@@ -225,7 +211,7 @@ TEST_F(LinuxWorkspaceTest, chromiumsSnapIsNotThePackage)
 {
     desktop.addApplication(u"chromium.desktop"_s, u"chromium"_s);
     keepDataIn(u"snap/chromium/common/chromium"_s);
-    workspace.openInProfile({u"http://a/"_s}, source(kind(u"chromium"), u"Default"_s, u"snap"_s));
+    workspace.openInProfile({u"http://a/"_s}, profileOf(browserKind(u"chromium"), u"Default"_s, u"snap"_s));
     EXPECT_TRUE(starts().isEmpty());
 }
 
@@ -233,17 +219,18 @@ TEST_F(LinuxWorkspaceTest, aTestVersionOpensItsOwnData)
 {
     desktop.addApplication(u"google-chrome.desktop"_s, u"chrome"_s);
     keepDataIn(u".config/google-chrome-beta"_s);
-    workspace.openInProfile({u"http://a/"_s}, source(Kind::Chrome, u"Default"_s, u"beta"_s));
+    workspace.openInProfile({u"http://a/"_s}, profileOf(Source::Kind::Chrome, u"Default"_s, u"beta"_s));
     EXPECT_TRUE(starts().isEmpty()) << "another version stands in for it";
     desktop.addApplication(u"google-chrome-beta.desktop"_s, u"chrome-beta"_s);
-    EXPECT_EQ(programForLink(Kind::Chrome, u"beta"_s), u"chrome-beta");
+    EXPECT_EQ(programForLink(Source::Kind::Chrome, u"beta"_s), u"chrome-beta");
 }
 
 TEST_F(LinuxWorkspaceTest, firefoxOpensInTheFolderOfItsProfile)
 {
     desktop.addApplication(u"firefox-esr.desktop"_s, u"firefox-esr"_s);
     keepFirefoxIn(u".mozilla/firefox"_s, u"abc.default"_s);
-    workspace.openInProfile({u"http://a/"_s, u"http://b/"_s}, source(kind(u"firefox"), u"abc.default"_s));
+    workspace.openInProfile({u"http://a/"_s, u"http://b/"_s},
+                            profileOf(browserKind(u"firefox"), u"abc.default"_s));
     const FakeDesktop::Start start = onlyStart();
     EXPECT_EQ(start.program, u"firefox-esr");
     EXPECT_EQ(start.arguments, QStringList({u"--profile"_s, home.path(u".mozilla/firefox/abc.default"_s),
@@ -255,7 +242,7 @@ TEST_F(LinuxWorkspaceTest, firefoxFindsItsProfileInEitherDataFolder)
     desktop.addApplication(u"firefox.desktop"_s, u"firefox"_s);
     keepFirefoxIn(u".config/mozilla/firefox"_s, u"new.default"_s);
     keepFirefoxIn(u".mozilla/firefox"_s, u"old.default"_s);
-    workspace.openInProfile({u"http://a/"_s}, source(kind(u"firefox"), u"old.default"_s));
+    workspace.openInProfile({u"http://a/"_s}, profileOf(browserKind(u"firefox"), u"old.default"_s));
     EXPECT_EQ(onlyStart().arguments.value(1), home.path(u".mozilla/firefox/old.default"_s));
 }
 
@@ -264,7 +251,7 @@ TEST_F(LinuxWorkspaceTest, aFirefoxProfileMayLieAnywhere)
     desktop.addApplication(u"firefox.desktop"_s, u"firefox"_s);
     keepFirefoxIn(u".mozilla/firefox"_s, u"../../elsewhere"_s);
     const QString folder = home.path(u"elsewhere"_s);
-    workspace.openInProfile({u"http://a/"_s}, source(kind(u"firefox"), folder));
+    workspace.openInProfile({u"http://a/"_s}, profileOf(browserKind(u"firefox"), folder));
     EXPECT_EQ(onlyStart().arguments.value(1), folder);
 }
 
@@ -272,9 +259,9 @@ TEST_F(LinuxWorkspaceTest, firefoxIsNotStartedForAProfileThatIsGone)
 {
     desktop.addApplication(u"firefox.desktop"_s, u"firefox"_s);
     keepFirefoxIn(u".mozilla/firefox"_s, u"abc.default"_s);
-    workspace.openInProfile({u"http://a/"_s}, source(kind(u"firefox"), u"gone.default"_s));
-    workspace.openInProfile({u"http://a/"_s}, source(kind(u"firefox"), u"/nonexistent/profile"_s));
-    workspace.showPage(u"about:firefoxview#history"_s, source(kind(u"firefox"), u"gone.default"_s));
+    workspace.openInProfile({u"http://a/"_s}, profileOf(browserKind(u"firefox"), u"gone.default"_s));
+    workspace.openInProfile({u"http://a/"_s}, profileOf(browserKind(u"firefox"), u"/nonexistent/profile"_s));
+    workspace.showPage(u"about:firefoxview#history"_s, profileOf(browserKind(u"firefox"), u"gone.default"_s));
     EXPECT_TRUE(starts().isEmpty());
 }
 
@@ -283,7 +270,7 @@ TEST_F(LinuxWorkspaceTest, firefoxShowsItsPagesByItsOwnArguments)
     desktop.addApplication(u"firefox.desktop"_s, u"firefox"_s);
     keepFirefoxIn(u".mozilla/firefox"_s, u"abc.default"_s);
     const QString folder = home.path(u".mozilla/firefox/abc.default"_s);
-    const Source firefox = source(kind(u"firefox"), u"abc.default"_s);
+    const Source firefox = profileOf(browserKind(u"firefox"), u"abc.default"_s);
     workspace.showPage(u"about:firefoxview#history"_s, firefox);
     workspace.showPage(u"chrome://browser/content/places/places.xhtml"_s, firefox);
     const QList<FakeDesktop::Start> started = starts();
@@ -300,7 +287,8 @@ TEST_F(LinuxWorkspaceTest, firefoxsFlatpakAndSnapAreStartedByTheirOwnCommands)
                      desktop.addProgram(u"flatpak"_s) %
                          u" run --branch=stable --file-forwarding org.mozilla.firefox @@u %u @@");
     keepFirefoxIn(u".var/app/org.mozilla.firefox/.mozilla/firefox"_s, u"abc.default"_s);
-    workspace.openInProfile({u"http://a/"_s}, source(kind(u"firefox"), u"abc.default"_s, u"flatpak"_s));
+    workspace.openInProfile({u"http://a/"_s},
+                            profileOf(browserKind(u"firefox"), u"abc.default"_s, u"flatpak"_s));
     EXPECT_EQ(onlyStart().arguments,
               QStringList({u"run"_s, u"--branch=stable"_s, u"--file-forwarding"_s, u"org.mozilla.firefox"_s,
                            u"--profile"_s,
@@ -314,13 +302,13 @@ TEST_F(LinuxWorkspaceTest, anEarlyVersionsDataIsOpenedByTheEarlyVersion)
     desktop.addApplication(u"microsoft-edge.desktop"_s, u"edge"_s);
     home.defaults.setString(u"dataRoot.chrome"_s, u"~/.config/google-chrome-beta"_s);
     home.defaults.setString(u"dataRoot.edge"_s, u"~/.config/microsoft-edge-dev"_s);
-    workspace.openInProfile({u"http://a/"_s}, source(Kind::Chrome, u"Default"_s));
-    workspace.openInProfile({u"http://a/"_s}, source(Kind::Edge, u"Default"_s));
+    workspace.openInProfile({u"http://a/"_s}, profileOf(Source::Kind::Chrome, u"Default"_s));
+    workspace.openInProfile({u"http://a/"_s}, profileOf(Source::Kind::Edge, u"Default"_s));
     EXPECT_TRUE(starts().isEmpty()) << "another version stands in for it";
     desktop.addApplication(u"google-chrome-beta.desktop"_s, u"chrome-beta"_s);
-    EXPECT_EQ(programForLink(Kind::Chrome), u"chrome-beta");
+    EXPECT_EQ(programForLink(Source::Kind::Chrome), u"chrome-beta");
     desktop.addApplication(u"microsoft-edge-dev.desktop"_s, u"edge-dev"_s);
-    workspace.showPage(u"edge://favorites/"_s, source(Kind::Edge, u"Default"_s));
+    workspace.showPage(u"edge://favorites/"_s, profileOf(Source::Kind::Edge, u"Default"_s));
     EXPECT_EQ(starts().value(1).program, u"edge-dev");
     EXPECT_EQ(windows->askedClasses, QStringList{u"microsoft-edge-dev"_s});
 }
@@ -329,65 +317,65 @@ TEST_F(LinuxWorkspaceTest, dataFromAMacIsOpenedByTheBrowserThatIsHere)
 {
     keepDataIn(u"Library/Application Support/Google/Chrome"_s);
     addFlatpakChrome();
-    EXPECT_EQ(programForLink(Kind::Chrome), u"flatpak");
+    EXPECT_EQ(programForLink(Source::Kind::Chrome), u"flatpak");
     desktop.addApplication(u"google-chrome.desktop"_s, u"chrome"_s);
-    workspace.open({u"http://a/"_s}, Kind::Chrome);
+    workspace.open({u"http://a/"_s}, Source::Kind::Chrome);
     EXPECT_EQ(starts().value(0).program, u"chrome");
 }
 
 TEST_F(LinuxWorkspaceTest, anEntryThatCannotBeStartedIsNoApplication)
 {
     desktop.addEntry(u"google-chrome.desktop"_s, {});
-    EXPECT_FALSE(workspace.hasBrowser(Kind::Chrome));
+    EXPECT_FALSE(workspace.hasBrowser(Source::Kind::Chrome));
     desktop.addEntry(u"google-chrome.desktop"_s, u""_s);
-    EXPECT_FALSE(workspace.hasBrowser(Kind::Chrome));
+    EXPECT_FALSE(workspace.hasBrowser(Source::Kind::Chrome));
     desktop.addEntry(u"google-chrome.desktop"_s, u"%U"_s);
-    EXPECT_FALSE(workspace.hasBrowser(Kind::Chrome));
+    EXPECT_FALSE(workspace.hasBrowser(Source::Kind::Chrome));
     desktop.addEntry(u"google-chrome.desktop"_s, u"/nonexistent/chrome %U"_s);
-    EXPECT_FALSE(workspace.hasBrowser(Kind::Chrome));
+    EXPECT_FALSE(workspace.hasBrowser(Source::Kind::Chrome));
     desktop.addEntry(u"google-chrome.desktop"_s, u"\"unclosed %U"_s);
-    EXPECT_FALSE(workspace.hasBrowser(Kind::Chrome));
+    EXPECT_FALSE(workspace.hasBrowser(Source::Kind::Chrome));
     desktop.addEntry(u"google-chrome.desktop"_s, desktop.addProgram(u"chrome"_s),
                      u"TryExec=/nonexistent\n"_s);
-    EXPECT_FALSE(workspace.hasBrowser(Kind::Chrome));
+    EXPECT_FALSE(workspace.hasBrowser(Source::Kind::Chrome));
 
-    workspace.openInProfile({u"http://a/"_s}, source(Kind::Chrome, u"Default"_s));
-    workspace.open({u"http://a/"_s}, Kind::Chrome);
+    workspace.openInProfile({u"http://a/"_s}, profileOf(Source::Kind::Chrome, u"Default"_s));
+    workspace.open({u"http://a/"_s}, Source::Kind::Chrome);
     EXPECT_TRUE(starts().isEmpty());
     // The system's entry counts where the user's own is broken.
     desktop.addEntry(u"google-chrome.desktop"_s, desktop.addProgram(u"chrome"_s) % u" %U", {}, 1);
-    EXPECT_TRUE(workspace.hasBrowser(Kind::Chrome));
+    EXPECT_TRUE(workspace.hasBrowser(Source::Kind::Chrome));
 }
 
 TEST_F(LinuxWorkspaceTest, anEntryThatHidesTheApplicationHidesAllOfItsName)
 {
     desktop.addEntry(u"google-chrome.desktop"_s, desktop.addProgram(u"chrome"_s) % u" %U", {}, 1);
-    EXPECT_TRUE(workspace.hasBrowser(Kind::Chrome));
+    EXPECT_TRUE(workspace.hasBrowser(Source::Kind::Chrome));
     desktop.addEntry(u"google-chrome.desktop"_s, desktop.addProgram(u"chrome"_s) % u" %U",
                      u"Hidden=true\n"_s);
-    EXPECT_FALSE(workspace.hasBrowser(Kind::Chrome));
+    EXPECT_FALSE(workspace.hasBrowser(Source::Kind::Chrome));
 }
 
 TEST_F(LinuxWorkspaceTest, aBrokenEntryIsNoApplication)
 {
     desktop.addEntry(u"google-chrome.desktop"_s, desktop.addProgram(u"chrome"_s),
                      u"Type=Link\nURL=http://a/\n"_s);
-    EXPECT_FALSE(workspace.hasBrowser(Kind::Chrome));
+    EXPECT_FALSE(workspace.hasBrowser(Source::Kind::Chrome));
     EXPECT_TRUE(QDir().mkpath(desktop.dataFolders().first() % u"/applications/com.google.Chrome.desktop"));
-    EXPECT_FALSE(workspace.hasBrowser(Kind::Chrome));
+    EXPECT_FALSE(workspace.hasBrowser(Source::Kind::Chrome));
 }
 
 TEST_F(LinuxWorkspaceTest, urlsWithoutAProfileGoToTheApplicationAtOnce)
 {
     desktop.addApplication(u"microsoft-edge.desktop"_s, u"edge"_s);
-    workspace.open({u"http://a/?x='1'"_s, u"about:blank"_s}, Kind::Edge);
+    workspace.open({u"http://a/?x='1'"_s, u"about:blank"_s}, Source::Kind::Edge);
     EXPECT_EQ(onlyStart().arguments, QStringList({u"http://a/?x='1'"_s, u"about:blank"_s}));
 }
 
 TEST_F(LinuxWorkspaceTest, anApplicationThatTakesOneUrlIsStartedForEach)
 {
     desktop.addEntry(u"microsoft-edge.desktop"_s, desktop.addProgram(u"edge"_s) % u" %u");
-    workspace.open({u"http://a/"_s, u"http://b/"_s}, Kind::Edge);
+    workspace.open({u"http://a/"_s, u"http://b/"_s}, Source::Kind::Edge);
     const QList<FakeDesktop::Start> started = starts();
     ASSERT_EQ(started.size(), 2);
     EXPECT_EQ(started.at(0).arguments, QStringList({u"http://a/"_s}));
@@ -396,8 +384,8 @@ TEST_F(LinuxWorkspaceTest, anApplicationThatTakesOneUrlIsStartedForEach)
 
 TEST_F(LinuxWorkspaceTest, safariIsNeverHereAndItsLinksOpenInThePreferredBrowser)
 {
-    EXPECT_FALSE(workspace.hasBrowser(Kind::Safari));
-    workspace.open({u"http://a/"_s}, Kind::Safari);
+    EXPECT_FALSE(workspace.hasBrowser(Source::Kind::Safari));
+    workspace.open({u"http://a/"_s}, Source::Kind::Safari);
     const FakeDesktop::Start start = onlyStart();
     EXPECT_EQ(start.program, u"preferred-browser");
     EXPECT_EQ(start.arguments, QStringList({u"--own-option"_s, u"http://a/"_s}));
@@ -405,8 +393,8 @@ TEST_F(LinuxWorkspaceTest, safariIsNeverHereAndItsLinksOpenInThePreferredBrowser
 
 TEST_F(LinuxWorkspaceTest, safarisOwnPagesOpenNowhere)
 {
-    workspace.open({u"history://"_s}, Kind::Safari);
-    workspace.open({u"bookmarks://"_s}, Kind::Safari);
+    workspace.open({u"history://"_s}, Source::Kind::Safari);
+    workspace.open({u"bookmarks://"_s}, Source::Kind::Safari);
     EXPECT_TRUE(starts().isEmpty());
 }
 
@@ -436,8 +424,8 @@ TEST_F(LinuxWorkspaceTest, startedProgramsGetTheSignalsThatThisOneBlocks)
     ASSERT_EQ(pthread_sigmask(SIG_BLOCK, &mask, &previous), 0);
     const auto previousHandler = signal(SIGPIPE, SIG_IGN);
     desktop.addApplication(u"google-chrome.desktop"_s, u"chrome"_s);
-    workspace.openInProfile({u"http://a/"_s}, source(Kind::Chrome, u"Default"_s));
-    workspace.open({u"http://a/"_s}, Kind::Chrome);
+    workspace.openInProfile({u"http://a/"_s}, profileOf(Source::Kind::Chrome, u"Default"_s));
+    workspace.open({u"http://a/"_s}, Source::Kind::Chrome);
     workspace.finishStarts();
     signal(SIGPIPE, previousHandler);
     pthread_sigmask(SIG_SETMASK, &previous, nullptr);
@@ -455,8 +443,8 @@ TEST_F(LinuxWorkspaceTest, noStartedProgramBecomesAZombie)
     // As a user's session has it: whom nobody waits for falls to another process.
     ASSERT_EQ(prctl(PR_SET_CHILD_SUBREAPER, 0), 0);
     desktop.addApplication(u"google-chrome.desktop"_s, u"chrome"_s);
-    workspace.openInProfile({u"http://a/"_s}, source(Kind::Chrome, u"Default"_s));
-    workspace.open({u"http://a/"_s}, Kind::Chrome);
+    workspace.openInProfile({u"http://a/"_s}, profileOf(Source::Kind::Chrome, u"Default"_s));
+    workspace.open({u"http://a/"_s}, Source::Kind::Chrome);
     workspace.finishStarts();
     EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1);
     EXPECT_EQ(errno, ECHILD) << "a child is left that somebody would have to wait for";
@@ -468,11 +456,11 @@ TEST_F(LinuxWorkspaceTest, whoeverAsksIsNotHeldUpByTheStart)
     static thread_local int copiesByThisThread = 0;
     ASSERT_EQ(pthread_atfork([] { ++copiesByThisThread; }, nullptr, nullptr), 0);
     desktop.addApplication(u"google-chrome.desktop"_s, u"chrome"_s);
-    workspace.openInProfile({u"http://a/"_s}, source(Kind::Chrome, u"Default"_s));
-    workspace.open({u"http://b/"_s}, Kind::Chrome);
-    workspace.open({u"http://c/"_s}, Kind::Safari);
+    workspace.openInProfile({u"http://a/"_s}, profileOf(Source::Kind::Chrome, u"Default"_s));
+    workspace.open({u"http://b/"_s}, Source::Kind::Chrome);
+    workspace.open({u"http://c/"_s}, Source::Kind::Safari);
     workspace.openSystemURL(u"settings:privacy"_s);
-    workspace.showPage(u"chrome://history/"_s, source(Kind::Chrome, u"Default"_s));
+    workspace.showPage(u"chrome://history/"_s, profileOf(Source::Kind::Chrome, u"Default"_s));
     EXPECT_EQ(starts().size(), 5);
     EXPECT_EQ(copiesByThisThread, 0);
 }
@@ -481,7 +469,7 @@ TEST_F(LinuxWorkspaceTest, aPageIsTypedIntoABlankTabOfTheProfile)
 {
     desktop.addEntry(u"google-chrome.desktop"_s, desktop.addProgram(u"chrome"_s) % u" %U",
                      u"StartupWMClass=My-Chrome\n"_s);
-    workspace.showPage(u"chrome://history/"_s, source(Kind::Chrome, u"Profile 1"_s));
+    workspace.showPage(u"chrome://history/"_s, profileOf(Source::Kind::Chrome, u"Profile 1"_s));
     EXPECT_EQ(onlyStart().arguments,
               QStringList({u"--profile-directory=Profile 1"_s, u"--ignore-profile-directory-if-not-exists"_s,
                            u"about:blank"_s}));
@@ -495,7 +483,7 @@ TEST_F(LinuxWorkspaceTest, aPageIsTypedIntoABlankTabOfTheProfile)
 TEST_F(LinuxWorkspaceTest, aPageWithoutAProfileOpensInTheApplication)
 {
     desktop.addApplication(u"microsoft-edge.desktop"_s, u"edge"_s);
-    workspace.showPage(u"edge://favorites/"_s, source(Kind::Edge, {}));
+    workspace.showPage(u"edge://favorites/"_s, profileOf(Source::Kind::Edge, {}));
     EXPECT_EQ(onlyStart().arguments, QStringList({u"about:blank"_s}));
 }
 
@@ -503,7 +491,7 @@ TEST_F(LinuxWorkspaceTest, whereNoWindowCanBeSteeredTheAddressGoesToTheClipboard
 {
     desktop.addApplication(u"google-chrome.desktop"_s, u"chrome"_s);
     windows->isSteerable = false;
-    workspace.showPage(u"chrome://bookmarks/?id=5"_s, source(Kind::Chrome, u"Default"_s));
+    workspace.showPage(u"chrome://bookmarks/?id=5"_s, profileOf(Source::Kind::Chrome, u"Default"_s));
     EXPECT_EQ(onlyStart().arguments.value(2), u"about:blank");
     EXPECT_EQ(clipboard, u"chrome://bookmarks/?id=5");
     home.clock.advance(10s);

@@ -123,7 +123,7 @@ TEST_F(LinuxWorkspaceIconTest, WhatHasNoPictureHasNoIcon)
     write(u"broken.png"_s, "\x89PNG broken");
     addBrowser(u"Icon=" % folder.filePath(u"broken.png"_s) % u'\n');
     EXPECT_EQ(workspace.icon(Source::Kind::Chrome, 16, 1), std::nullopt) << "names a broken picture";
-    EXPECT_EQ(workspace.icon(u"com.apple.Safari"_s, 16, 1), std::nullopt);
+    EXPECT_EQ(workspace.icon(Source::Kind::Safari, 16, 1), std::nullopt);
 }
 
 } // namespace

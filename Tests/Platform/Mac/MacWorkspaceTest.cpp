@@ -4,6 +4,7 @@
 #include "Platform/Mac/MacWorkspace.h"
 
 #include "Platform/Mac/OpenCommands.h"
+#include "Support/Sources.h"
 
 #include <QList>
 
@@ -41,11 +42,6 @@ private:
     }
 };
 
-Source source(Source::Kind kind, const std::optional<QString> &profile)
-{
-    return {.kind = kind, .profile = profile, .name = u"Name"_s, .safariBookmarks = {}};
-}
-
 /// What a request for a page asks: the blank tab, then the script.
 QList<QStringList> pageRequests(const QString &bundleID, const QString &profile, const QString &page)
 {
@@ -64,7 +60,7 @@ protected:
 
 TEST_F(MacWorkspaceTest, aProfileIsOpenedByOneCommand)
 {
-    workspace.openInProfile({u"https://example.com/a b"_s}, source(Source::Kind::Chrome, u"Profile 1"_s));
+    workspace.openInProfile({u"https://example.com/a b"_s}, profileOf(Source::Kind::Chrome, u"Profile 1"_s));
     EXPECT_EQ(workspace.requests,
               QList<QStringList>({{u"/usr/bin/open"_s, u"-n"_s, u"-b"_s, u"com.google.Chrome"_s, u"--args"_s,
                                    u"--profile-directory=Profile 1"_s, u"https://example.com/a b"_s}}));
@@ -72,31 +68,30 @@ TEST_F(MacWorkspaceTest, aProfileIsOpenedByOneCommand)
 
 TEST_F(MacWorkspaceTest, aSourceWithoutAProfileIsOpenedAsAnApplication)
 {
-    workspace.openInProfile({u"http://one/"_s}, source(Source::Kind::Chrome, {}));
+    workspace.openInProfile({u"http://one/"_s}, profileOf(Source::Kind::Chrome, {}));
     EXPECT_EQ(workspace.requests, QList<QStringList>({{u"open"_s, u"chrome"_s, u"http://one/"_s}}));
 }
 
 TEST_F(MacWorkspaceTest, aBrowserThatTakesNoSuchCommandIsOpenedAsAnApplication)
 {
-    const Source::Kind firefox = Source::kindFromRawValue(u"firefox").value_or(Source::Kind::Safari);
-    workspace.openInProfile({u"http://one/"_s}, source(firefox, u"abc.default"_s));
+    workspace.openInProfile({u"http://one/"_s}, profileOf(browserKind(u"firefox"), u"abc.default"_s));
     EXPECT_EQ(workspace.requests, QList<QStringList>({{u"open"_s, u"firefox"_s, u"http://one/"_s}}));
 }
 
 TEST_F(MacWorkspaceTest, aPageIsABlankTabAndTheScript)
 {
-    workspace.showPage(u"chrome://history/"_s, source(Source::Kind::Chrome, u"Profile 1"_s));
+    workspace.showPage(u"chrome://history/"_s, profileOf(Source::Kind::Chrome, u"Profile 1"_s));
     EXPECT_EQ(workspace.requests,
               pageRequests(u"com.google.Chrome"_s, u"Profile 1"_s, u"chrome://history/"_s));
     workspace.requests.clear();
-    workspace.showPage(u"edge://favorites/?id=12"_s, source(Source::Kind::Edge, u"Default"_s));
+    workspace.showPage(u"edge://favorites/?id=12"_s, profileOf(Source::Kind::Edge, u"Default"_s));
     EXPECT_EQ(workspace.requests,
               pageRequests(u"com.microsoft.edgemac"_s, u"Default"_s, u"edge://favorites/?id=12"_s));
 }
 
 TEST_F(MacWorkspaceTest, aPageWithoutAProfileOpensItsBlankTabAsAnApplication)
 {
-    workspace.showPage(u"chrome://history/"_s, source(Source::Kind::Chrome, {}));
+    workspace.showPage(u"chrome://history/"_s, profileOf(Source::Kind::Chrome, {}));
     ASSERT_EQ(workspace.requests.size(), 2);
     EXPECT_EQ(workspace.requests.at(0), QStringList({u"open"_s, u"chrome"_s, u"about:blank"_s}));
     EXPECT_EQ(workspace.requests.at(1).at(0), u"/usr/bin/osascript");

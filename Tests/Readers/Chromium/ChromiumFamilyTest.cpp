@@ -7,6 +7,7 @@
 #include "Readers/ReaderTest.h"
 #include "SampleHome/ChromiumFiles.h"
 #include "SampleHome/PlainFiles.h"
+#include "Support/Sources.h"
 
 namespace roamlet::testing
 {
@@ -17,11 +18,6 @@ using sample::folderNode;
 
 namespace
 {
-
-Source::Kind kind(QStringView rawValue)
-{
-    return Source::kindFromRawValue(rawValue).value();
-}
 
 QJsonObject folderWith(const QString &id, const QString &name, const QString &title)
 {
@@ -122,17 +118,19 @@ TEST_F(ChromiumFamily, aFolderOfAnotherProgramHidesNothing)
     });
     addProfiles(u".config/chromium"_s, {{u"Default"_s, sample::profileInfo(u"Me"_s)}});
     EXPECT_EQ(profiles(Source::Kind::Chrome), QStringList());
-    EXPECT_EQ(profiles(kind(u"chromium")), QStringList{u"chromium/Default  Chromium - Me"_s});
+    EXPECT_EQ(profiles(browserKind(u"chromium")), QStringList{u"chromium/Default  Chromium - Me"_s});
 }
 
 TEST_F(ChromiumFamily, theFirstOfTwoFoldersWithProfilesServesAnInstallation)
 {
     const QString second = u".var/app/io.github.ungoogled_software.ungoogled_chromium/config/chromium"_s;
     addProfiles(second, {{u"Default"_s, sample::profileInfo(u"Second"_s)}});
-    EXPECT_EQ(profiles(kind(u"chromium")), QStringList{u"chromium@flatpak/Default  Chromium - Second"_s});
+    EXPECT_EQ(profiles(browserKind(u"chromium")),
+              QStringList{u"chromium@flatpak/Default  Chromium - Second"_s});
     addProfiles(u".var/app/org.chromium.Chromium/config/chromium"_s,
                 {{u"Default"_s, sample::profileInfo(u"First"_s)}});
-    EXPECT_EQ(profiles(kind(u"chromium")), QStringList{u"chromium@flatpak/Default  Chromium - First"_s});
+    EXPECT_EQ(profiles(browserKind(u"chromium")),
+              QStringList{u"chromium@flatpak/Default  Chromium - First"_s});
 }
 
 TEST_F(ChromiumFamily, profilesOfGuestsAndPassingOnesAreLeftOutExceptOfTheFirstTwo)
@@ -143,7 +141,7 @@ TEST_F(ChromiumFamily, profilesOfGuestsAndPassingOnesAreLeftOutExceptOfTheFirstT
                             {u"System Profile"_s, sample::profileInfo(u"System"_s)}};
     addProfiles(u".config/BraveSoftware/Brave-Browser"_s, cache);
     addProfiles(u".config/google-chrome"_s, cache);
-    EXPECT_EQ(profiles(kind(u"brave")), QStringList{u"brave/Default  Brave - Me"_s});
+    EXPECT_EQ(profiles(browserKind(u"brave")), QStringList{u"brave/Default  Brave - Me"_s});
     EXPECT_EQ(profiles(Source::Kind::Chrome).size(), 4);
 }
 
@@ -153,7 +151,7 @@ TEST_F(ChromiumFamily, edgesRuleForNamesIsEdgesAlone)
     info[u"is_using_default_name"_s] = true;
     info[u"edge_account_type"_s] = 1;
     addProfiles(u".config/vivaldi"_s, {{u"Default"_s, info}});
-    EXPECT_EQ(profiles(kind(u"vivaldi")), QStringList{u"vivaldi/Default  Vivaldi - Profile 1"_s});
+    EXPECT_EQ(profiles(browserKind(u"vivaldi")), QStringList{u"vivaldi/Default  Vivaldi - Profile 1"_s});
 }
 
 TEST_F(ChromiumFamily, theAccountsBookmarksFollowTheLocalOnes)
@@ -261,7 +259,7 @@ TEST_F(ChromiumFamily, operasFurtherRootsFollowTheThree)
                                 {u"bookmark_bar"_s, folderWith(u"1"_s, u"Bar"_s, u"a"_s)},
                                 {u"custom_root"_s, custom}});
     });
-    const QList<Source> sources = ChromiumReader::profiles(kind(u"opera"), context());
+    const QList<Source> sources = ChromiumReader::profiles(browserKind(u"opera"), context());
     ASSERT_EQ(sources.size(), 1);
     const auto trees = ChromiumReader::bookmarks(sources.first(), context());
     ASSERT_TRUE(trees);
@@ -278,7 +276,8 @@ TEST_F(ChromiumFamily, onlyOperaHasFurtherRoots)
     addProfiles(u".config/vivaldi"_s, {{u"Default"_s, sample::profileInfo(u"Me"_s)}});
     change([&] { sample::writeBookmarks(home.path(u".config/vivaldi/Default/Bookmarks"_s), roots); });
     writeLocal(roots);
-    for (const Source &source : {ChromiumReader::profiles(kind(u"vivaldi"), context()).value(0), chrome()}) {
+    for (const Source &source :
+         {ChromiumReader::profiles(browserKind(u"vivaldi"), context()).value(0), chrome()}) {
         const auto trees = ChromiumReader::bookmarks(source, context());
         ASSERT_TRUE(trees);
         EXPECT_EQ(titlesOf(trees->roots), QStringList{u"Bar"_s}) << source.id().toStdString();
@@ -296,24 +295,24 @@ TEST_F(ChromiumFamily, anOldOperaHasItsProfileInTheDataFolderItself)
         sample::makeFolder(home.path(root % u"/_side_profiles/Work"));
         sample::makeFolder(home.path(root % u"/_side_profiles/Home/Default"));
     });
-    EXPECT_EQ(profiles(kind(u"opera")),
+    EXPECT_EQ(profiles(browserKind(u"opera")),
               (QStringList{u"opera/  Opera"_s, u"opera/_side_profiles/Home/Default  Opera - Home"_s,
                            u"opera/_side_profiles/Work  Opera - Work"_s}));
-    const Source first = ChromiumReader::profiles(kind(u"opera"), context()).value(0);
+    const Source first = ChromiumReader::profiles(browserKind(u"opera"), context()).value(0);
     EXPECT_EQ(ChromiumReader::historyFile(first, context()), home.path(root % u"/History"));
     const auto rows = ChromiumReader::history(first, HistoryQuery::recent(), context());
     ASSERT_TRUE(rows);
     EXPECT_EQ(titlesOf(*rows), QStringList{u"A"_s});
 
     addProfiles(root, {{u"Default"_s, sample::profileInfo(u"Me"_s)}});
-    EXPECT_EQ(profiles(kind(u"opera")).value(0), u"opera/Default  Opera - Me"_s);
-    EXPECT_EQ(profiles(kind(u"opera")).size(), 3);
+    EXPECT_EQ(profiles(browserKind(u"opera")).value(0), u"opera/Default  Opera - Me"_s);
+    EXPECT_EQ(profiles(browserKind(u"opera")).size(), 3);
 }
 
 TEST_F(ChromiumFamily, aDataFolderOfAnOldOperaThatWasNeverUsedIsNoProfile)
 {
     change([&] { sample::writeLocalState(home.path(u".config/opera/Local State"_s), {}); });
-    EXPECT_EQ(profiles(kind(u"opera")), QStringList());
+    EXPECT_EQ(profiles(browserKind(u"opera")), QStringList());
 }
 
 } // namespace roamlet::testing

@@ -319,5 +319,10 @@ TEST(PropertyList, foreignBytesAreRefused)
           QByteArray("<!DOCTYPE plist PUBLIC \"a\" \"b\"><plist><string>&unknown;</string></plist>"),
           QByteArray("<!DOCTYPE plist [<!ENTITY a \"b\">]><plist><string>&a;"
                      "</string></plist>"),
-          QByteArray(1'000'000, '<'), QByteArray(1'000'000, 'a')}) {
+          QByteArray(1'000'000, '<'),
+          QByteArray(1'000'000, 'a')}) {
         EXPECT_TRUE(isNoPropertyList(bytes)) << bytes.left(60).constData();
+    }
+}
+
+} // namespace roamlet::testing
