@@ -4,6 +4,7 @@
 #include "Library/BrowserWatcher.h"
 
 #include "Platform/Linux/InotifyFileEvents.h"
+#include "SampleHome/PlainFiles.h"
 #include "Support/LibraryHome.h"
 #include "Support/Waiting.h"
 

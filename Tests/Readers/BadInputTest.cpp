@@ -62,10 +62,10 @@ protected:
 
     QList<BookmarkNode> safariBookmarks()
     {
-        const auto nodes = SafariReader::bookmarks(Source::safari(), context());
-        if (!nodes)
-            ADD_FAILURE() << nodes.error();
-        return nodes.value_or(QList<BookmarkNode>());
+        const auto trees = SafariReader::bookmarks(Source::safari(), context());
+        if (!trees)
+            ADD_FAILURE() << trees.error().first();
+        return trees.value_or(BookmarkTrees()).roots;
     }
 };
 
@@ -154,11 +154,15 @@ TEST_F(BadInput, foreignFilesAreErrorsWithPathAndReason)
 
 TEST_F(BadInput, aTableThatIsMissingIsTheDatabasesMessage)
 {
-    const std::vector<std::pair<size_t, QStringList>> tables{{0, {u"urls"_s}},
-                                                             {1, {u"favicon_bitmaps"_s, u"icon_mapping"_s}},
-                                                             {2, {u"history_items"_s, u"history_visits"_s}},
-                                                             {3, {u"page_url"_s, u"icon_info"_s}},
-                                                             {4, {u"bookmarks"_s}}};
+    const std::vector<std::pair<size_t, QStringList>> tables{
+        {0, {u"urls"_s}},
+        {1, {u"favicon_bitmaps"_s, u"icon_mapping"_s}},
+        {2, {u"history_items"_s, u"history_visits"_s}},
+        {3, {u"page_url"_s, u"icon_info"_s}},
+        {4, {u"bookmarks"_s}},
+        {7, {u"moz_places"_s, u"moz_bookmarks"_s}},
+        {8, {u"moz_icons"_s, u"moz_icons_to_pages"_s, u"moz_pages_w_icons"_s}},
+        {9, {u"Profiles"_s}}};
     for (const auto &[number, names] : tables) {
         const Reading &reading = readings[number];
         writeTables(reading, reading.tables);
@@ -205,7 +209,33 @@ TEST_F(BadInput, aColumnThatIsMissingIsTheDatabasesMessage)
           {u"page_url"_s, u"uuid"_s},
           {u"icon_info"_s, u"uuid"_s},
           {u"icon_info"_s, u"timestamp"_s}}},
-        {4, {{u"bookmarks"_s, u"title"_s}, {u"bookmarks"_s, u"order_index"_s}}}};
+        {4, {{u"bookmarks"_s, u"title"_s}, {u"bookmarks"_s, u"order_index"_s}}},
+        {7,
+         {{u"moz_places"_s, u"id"_s},
+          {u"moz_places"_s, u"url"_s},
+          {u"moz_places"_s, u"title"_s},
+          {u"moz_places"_s, u"last_visit_date"_s},
+          {u"moz_places"_s, u"visit_count"_s},
+          {u"moz_places"_s, u"hidden"_s},
+          {u"moz_bookmarks"_s, u"id"_s},
+          {u"moz_bookmarks"_s, u"type"_s},
+          {u"moz_bookmarks"_s, u"fk"_s},
+          {u"moz_bookmarks"_s, u"parent"_s},
+          {u"moz_bookmarks"_s, u"position"_s},
+          {u"moz_bookmarks"_s, u"title"_s},
+          {u"moz_bookmarks"_s, u"dateAdded"_s},
+          {u"moz_bookmarks"_s, u"guid"_s}}},
+        {8,
+         {{u"moz_icons"_s, u"id"_s},
+          {u"moz_icons"_s, u"icon_url"_s},
+          {u"moz_icons"_s, u"width"_s},
+          {u"moz_icons"_s, u"root"_s},
+          {u"moz_icons"_s, u"data"_s},
+          {u"moz_pages_w_icons"_s, u"id"_s},
+          {u"moz_pages_w_icons"_s, u"page_url"_s},
+          {u"moz_icons_to_pages"_s, u"page_id"_s},
+          {u"moz_icons_to_pages"_s, u"icon_id"_s}}},
+        {9, {{u"Profiles"_s, u"path"_s}, {u"Profiles"_s, u"name"_s}}}};
     for (const auto &[number, names] : columns) {
         const Reading &reading = readings[number];
         for (const auto &[table, column] : names) {
@@ -259,6 +289,26 @@ TEST_F(BadInput, valuesOfOtherTypesDoNoHarm)
                 "CREATE TABLE bookmarks(title, server_id, extra_attributes, subtype, deleted, order_index);"
                 "INSERT INTO bookmarks VALUES(5, 6, 7, 2, 0, NULL), (x'FF', x'FE', 'text', '2', 0, 'z'), "
                 "('a', 1.5, 1.5, 2, 0.0, x'')");
+    writeTables(
+        readings[7],
+        "CREATE TABLE moz_places(id, url, title, last_visit_date, visit_count, hidden);"
+        "INSERT INTO moz_places VALUES('x', x'C3', 5, '12', 1e300, 0), (NULL, NULL, NULL, 9e300, NULL,"
+        " 0), (1.5, 7, x'', 'now', x'01', '0'), (2, x'FF', x'FE', -9e300, 'many', 0.0);"
+        "CREATE TABLE moz_bookmarks(id, type, fk, parent, position, title, dateAdded, guid);"
+        "INSERT INTO moz_bookmarks VALUES('3', 2, 'x', NULL, x'', 5, 'now', 'toolbar_____'),"
+        " (x'FF', '1', 2, 3, 'last', x'FF', 9e300, 7), (NULL, 1.5, 1.5, 3.0, NULL, NULL, NULL, NULL),"
+        " (NULL, NULL, NULL, NULL, NULL, NULL, NULL, x'FF')");
+    writeTables(readings[8],
+                "CREATE TABLE moz_icons(id, icon_url, width, root, data);"
+                "INSERT INTO moz_icons VALUES('1', 5, 'wide', '1', 'text'), (NULL, NULL, NULL, NULL, 5),"
+                " (1.5, x'FF', 1e300, 1.0, 0.5), (2, 'https://b.example/', '65535', 1, x'01');"
+                "CREATE TABLE moz_pages_w_icons(id, page_url);"
+                "INSERT INTO moz_pages_w_icons VALUES('1', 'https://a.example/'), (NULL, 5), (1.5, x'FF');"
+                "CREATE TABLE moz_icons_to_pages(page_id, icon_id);"
+                "INSERT INTO moz_icons_to_pages VALUES('1', '1'), (NULL, NULL), (1.5, 1.5), (x'FF', 'x')");
+    writeTables(readings[9],
+                "CREATE TABLE Profiles(path, name);"
+                "INSERT INTO Profiles VALUES(5, 6), (x'FF', NULL), (NULL, 'x'), ('abcd.default', 1.5)");
     for (const Reading &reading : readings) {
         if (reading.isDatabase) {
             EXPECT_EQ(reading.read(context()), std::nullopt) << reading.name;
@@ -401,16 +451,16 @@ TEST_F(BadInput, safarisFoldersMayBeNestedDeep)
             EXPECT_EQ(nodes[0].bookmarkCount(), 1);
             const auto none =
                 SafariReader::bookmarks(namedSafari(u"P"_s, Source::Folder{u"gone"_s}), context());
-            EXPECT_TRUE(none.has_value() && none->isEmpty());
+            EXPECT_TRUE(none.has_value() && none->roots.isEmpty());
         });
         change([&] { sample::writeFile(safariFile(u"Bookmarks.plist"_s), nested(200'000)); });
         onAnotherThread([&] {
             const auto nodes = SafariReader::bookmarks(Source::safari(), context());
             if (nodes)
-                EXPECT_EQ(nodes->value(0).folderCount(), 200'000);
+                EXPECT_EQ(nodes->roots.value(0).folderCount(), 200'000);
             else
-                EXPECT_EQ(nodes.error(), ReadError::unreadable(safariFile(u"Bookmarks.plist"_s),
-                                                               u"it is nested too deeply"_s));
+                EXPECT_EQ(nodes.error().first(), ReadError::unreadable(safariFile(u"Bookmarks.plist"_s),
+                                                                       u"it is nested too deeply"_s));
         });
     }
 }
@@ -464,8 +514,8 @@ TEST_F(BadInput, bookmarksThatContainThemselvesOrUnfoldWithoutEndAreAnError)
         change([&] { sample::writeFile(path, bytes); });
         const auto nodes = SafariReader::bookmarks(Source::safari(), context());
         ASSERT_FALSE(nodes.has_value());
-        EXPECT_EQ(nodes.error().path(), path);
-        EXPECT_FALSE(nodes.error().reason().isEmpty());
+        EXPECT_EQ(nodes.error().first().path(), path);
+        EXPECT_FALSE(nodes.error().first().reason().isEmpty());
     }
 }
 

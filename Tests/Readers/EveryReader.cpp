@@ -3,10 +3,13 @@
 
 #include "Readers/EveryReader.h"
 
+#include "Readers/BrowserReader.h"
 #include "Readers/Chromium/ChromiumReader.h"
 #include "Readers/FaviconReader.h"
+#include "Readers/Firefox/FirefoxReader.h"
 #include "Readers/Safari/SafariReader.h"
 #include "SampleHome/ChromiumFiles.h"
+#include "SampleHome/FirefoxFiles.h"
 #include "SampleHome/SafariFiles.h"
 
 #include <cmath>
@@ -63,14 +66,40 @@ void lookAtFavicons(const Favicons &favicons)
     }
 }
 
+/// The error of a read of bookmarks, after a look at all of them.
+std::optional<ReadError> errorOf(const std::expected<BookmarkTrees, ReadErrors> &result)
+{
+    if (!result)
+        return result.error().first();
+    lookAtNodes(result->roots);
+    return {};
+}
+
 std::optional<ReadError> readHistory(const Source &source, const ReadContext &context)
 {
-    const auto reader = source.kind == Source::Kind::Safari ? SafariReader::history : ChromiumReader::history;
     const auto searched =
-        reader(source, HistoryQuery::matching(u"site1 ä"_s, u"site1.example"_s, {}), context);
+        BrowserReader::history(source, HistoryQuery::matching(u"site1 ä"_s, u"site1.example"_s, {}), context);
     if (searched)
         lookAtItems(*searched);
-    return errorOf(reader(source, HistoryQuery::recent(), context), lookAtItems);
+    return errorOf(BrowserReader::history(source, HistoryQuery::recent(), context), lookAtItems);
+}
+
+std::optional<ReadError> readPlaces(const Source &source, const ReadContext &context)
+{
+    const std::optional<ReadError> ofHistory = readHistory(source, context);
+    const FirefoxReader::Content content = FirefoxReader::content(source, HistoryQuery::recent(), context);
+    EXPECT_EQ(errorOf(content.history, lookAtItems), ofHistory);
+    const std::optional<ReadError> ofBookmarks = errorOf(content.bookmarks);
+    return ofHistory ? ofHistory : ofBookmarks;
+}
+
+std::optional<ReadError> readProfiles(Source::Kind kind, const ReadContext &context)
+{
+    for (const Source &source : BrowserReader::profiles(kind, context)) {
+        EXPECT_TRUE(source.profile.has_value());
+        EXPECT_FALSE(BrowserReader::historyFile(source, context).isEmpty());
+    }
+    return {};
 }
 
 constexpr auto chromiumHistoryTables =
@@ -90,6 +119,20 @@ constexpr auto safariTabTables =
 constexpr auto safariFaviconTables =
     "CREATE TABLE page_url(url, uuid); INSERT INTO page_url VALUES('https://a.example/', 'u');"
     "CREATE TABLE icon_info(uuid, timestamp); INSERT INTO icon_info VALUES('u', 1)";
+constexpr auto firefoxPlacesTables =
+    "CREATE TABLE moz_places(id INTEGER PRIMARY KEY, url, title, last_visit_date, visit_count, hidden);"
+    "INSERT INTO moz_places VALUES(1, 'https://a.example/', 'a', 1, 1, 0);"
+    "CREATE TABLE moz_bookmarks(id INTEGER PRIMARY KEY, type, fk, parent, position, title, dateAdded, guid);"
+    "INSERT INTO moz_bookmarks VALUES(1, 2, NULL, 0, 0, '', 1, 'toolbar_____'),"
+    " (2, 1, 1, 1, 0, 'a', 1, 'abcdefghijkl')";
+constexpr auto firefoxIconTables =
+    "CREATE TABLE moz_icons(id INTEGER PRIMARY KEY, icon_url, width, root, data);"
+    "INSERT INTO moz_icons VALUES(1, 'https://a.example/i', 32, 0, x'01');"
+    "CREATE TABLE moz_pages_w_icons(id INTEGER PRIMARY KEY, page_url);"
+    "INSERT INTO moz_pages_w_icons VALUES(1, 'https://a.example/');"
+    "CREATE TABLE moz_icons_to_pages(page_id, icon_id); INSERT INTO moz_icons_to_pages VALUES(1, 1)";
+constexpr auto firefoxGroupTables =
+    "CREATE TABLE Profiles(path, name); INSERT INTO Profiles VALUES('abcd.default', 'Default')";
 
 } // namespace
 
@@ -116,24 +159,32 @@ EveryReader::EveryReader()
            },
            true, false, safariTabTables},
           {"Chromium bookmarks", chromeFile(u"Bookmarks"_s),
-           [](const ReadContext &context) {
-               return errorOf(ChromiumReader::bookmarks(chrome(), context), lookAtNodes);
-           },
+           [](const ReadContext &context) { return errorOf(ChromiumReader::bookmarks(chrome(), context)); },
            false, true, ""},
           {"Chromium profiles", chromeFile(u"Local State"_s, {}),
+           [](const ReadContext &context) { return readProfiles(Source::Kind::Chrome, context); }, false,
+           false, ""},
+          {"Firefox history and bookmarks", firefoxFile(u"places.sqlite"_s),
+           [](const ReadContext &context) { return readPlaces(firefox(), context); }, true, true,
+           firefoxPlacesTables},
+          {"Firefox icons", firefoxFile(u"favicons.sqlite"_s),
            [](const ReadContext &context) {
-               for (const Source &source : ChromiumReader::profiles(Source::Kind::Chrome, context))
-                   EXPECT_TRUE(source.profile.has_value());
-               return std::optional<ReadError>();
+               return errorOf(FaviconReader::firefox(firefox(), context), lookAtFavicons);
            },
-           false, false, ""},
+           true, true, firefoxIconTables},
+          {"Firefox group of profiles", firefoxFile(u"Profile Groups/1234abcd.sqlite"_s, {}),
+           [](const ReadContext &context) { return readProfiles(firefox().kind, context); }, true, false,
+           firefoxGroupTables},
+          {"Firefox profiles", firefoxFile(u"profiles.ini"_s, {}),
+           [](const ReadContext &context) { return readProfiles(firefox().kind, context); }, false, false,
+           ""},
           {"Safari bookmarks", safariFile(u"Bookmarks.plist"_s),
            [](const ReadContext &context) {
                const auto favourites =
                    SafariReader::bookmarks(namedSafari(u"P"_s, Source::Folder{u"X"_s}), context);
                if (favourites)
-                   lookAtNodes(*favourites);
-               return errorOf(SafariReader::bookmarks(Source::safari(), context), lookAtNodes);
+                   lookAtNodes(favourites->roots);
+               return errorOf(SafariReader::bookmarks(Source::safari(), context));
            },
            false, true, ""}}
 {
@@ -148,6 +199,10 @@ void EveryReader::writeHome(sample::Journal journal, sample::PropertyListFormat 
     QList<sample::SafariVisit> visits;
     QList<sample::SafariIcon> icons;
     QList<sample::SafariIconPage> pages;
+    QList<sample::FirefoxPage> places;
+    QList<sample::FirefoxIcon> placeIcons;
+    QList<sample::FirefoxIconPage> iconPlaces;
+    sample::FirefoxBookmarks bookmarks;
     QJsonArray nodes;
     QVariantList entries;
     const QDateTime added(QDate(2026, 5, 9), QTime(6, 13, 20), Qt::UTC);
@@ -162,6 +217,13 @@ void EveryReader::writeHome(sample::Journal journal, sample::PropertyListFormat 
         visits.append({.itemID = i, .time = double(i), .title = title});
         icons.append({.uuid = id, .timestamp = double(i)});
         pages.append({.url = url, .uuid = id});
+        places.append({.url = url, .title = title, .lastVisitDate = sample::firefoxTime(1'700'000'000 + i)});
+        placeIcons.append({.url = url, .width = i % 2 == 0 ? 16 : 32, .root = i % 3 == 0, .data = "i"});
+        iconPlaces.append({.url = url, .icons = {i}});
+        if (i % 10 == 0)
+            bookmarks.toolbar = {sample::firefoxFolder(title, bookmarks.toolbar)};
+        else
+            bookmarks.toolbar.append(sample::firefoxBookmark(title, url, i, {u"tag"_s}));
         nodes.append(i % 10 == 0 ? sample::folderNode(id, title, nodes)
                                  : sample::bookmarkNode(id, title, url, i));
         if (i % 10 == 0)
@@ -175,6 +237,17 @@ void EveryReader::writeHome(sample::Journal journal, sample::PropertyListFormat 
     sample::writeFavicons(chromeFile(u"Favicons"_s), bitmaps, mappings, journal);
     sample::writeSafariHistory(safariFile(u"History.db"_s), items, visits, journal);
     sample::writeSafariFavicons(safariFile(u"Favicon Cache"_s), icons, pages, journal);
+    sample::writeFirefoxPlaces(firefoxFile(u"places.sqlite"_s), places,
+                               sample::firefoxBookmarkRows(bookmarks), journal);
+    sample::writeFirefoxFavicons(firefoxFile(u"favicons.sqlite"_s), placeIcons, iconPlaces, journal);
+    sample::writeFirefoxGroup(
+        firefoxFile(u"Profile Groups/1234abcd.sqlite"_s, {}),
+        {{.path = u"abcd.default"_s, .name = u"Default"_s}, {.path = u"efgh.work"_s, .name = u"Work"_s}},
+        journal);
+    sample::writeFirefoxProfiles(firefoxFile(u"profiles.ini"_s, {}),
+                                 {{.name = u"default"_s, .path = u"abcd.default"_s, .isDefault = true},
+                                  {.name = u"Zoë"_s, .path = u"ijkl.zoë"_s}},
+                                 {{.hash = u"4F96D1932A9F858E"_s, .defaultPath = u"abcd.default"_s}});
     const QByteArray favourites =
         sample::propertyList(QVariantMap{{u"CustomFavoritesFolderServerID"_s, u"X"_s}}, format);
     sample::writeSafariTabs(safariContainerFile(u"SafariTabs.db"_s),

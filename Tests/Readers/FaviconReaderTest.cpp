@@ -4,7 +4,9 @@
 #include "Readers/FaviconReader.h"
 
 #include "Readers/ReaderTest.h"
+#include "SampleHome/AwkwardFirefox.h"
 #include "SampleHome/ChromiumFiles.h"
+#include "SampleHome/FirefoxFiles.h"
 #include "SampleHome/PlainFiles.h"
 #include "SampleHome/SafariFiles.h"
 
@@ -14,6 +16,8 @@ namespace roamlet::testing
 using namespace Qt::StringLiterals;
 using sample::FaviconBitmap;
 using sample::FaviconMapping;
+using sample::FirefoxIcon;
+using sample::FirefoxIconPage;
 using sample::SafariIcon;
 using sample::SafariIconPage;
 using sample::Text;
@@ -34,6 +38,39 @@ protected:
                      sample::Journal journal = sample::Journal::Clean)
     {
         change([&] { sample::writeSafariFavicons(safariFile(u"Favicon Cache"_s), icons, pages, journal); });
+    }
+
+    void writeFirefox(const QList<FirefoxIcon> &icons, const QList<FirefoxIconPage> &pages,
+                      sample::Journal journal = sample::Journal::Clean)
+    {
+        change(
+            [&] { sample::writeFirefoxFavicons(firefoxFile(u"favicons.sqlite"_s), icons, pages, journal); });
+    }
+
+    Favicons firefoxIcons(const Source &source = firefox())
+    {
+        const auto favicons = FaviconReader::firefox(source, context());
+        if (!favicons)
+            ADD_FAILURE() << favicons.error();
+        return favicons.value_or(Favicons());
+    }
+
+    /// The width that is kept when one page has icons of these, or one host.
+    QByteArray keptOfFirefox(const QList<qint64> &widths, bool areRoots = false)
+    {
+        QList<FirefoxIcon> icons;
+        QList<qint64> numbers;
+        for (const qint64 width : widths) {
+            numbers.append(icons.size() + 1);
+            icons.append({.url = u"https://a.example/favicon.ico"_s,
+                          .width = width,
+                          .root = areRoots,
+                          .data = QByteArray::number(width)});
+        }
+        writeFirefox(icons, areRoots
+                                ? QList<FirefoxIconPage>()
+                                : QList<FirefoxIconPage>{{.url = u"https://a.example/"_s, .icons = numbers}});
+        return bytes(firefoxIcons(), u"a.example"_s);
     }
 
     Favicons chromium(const Source &source = chrome())
@@ -85,6 +122,7 @@ TEST_F(FaviconReading, missingStoresMeanNoIcons)
 {
     EXPECT_EQ(chromium(), Favicons());
     EXPECT_EQ(safari(), Favicons());
+    EXPECT_EQ(firefoxIcons(), Favicons());
 }
 
 TEST_F(FaviconReading, theSmallestWidthFrom32OnWinsElseTheWidest)
@@ -242,6 +280,114 @@ TEST_F(FaviconReading, safarisPagesWithoutASiteOrAnIconAreSkipped)
                  {.url = u"https://unknown.example/"_s, .uuid = u"two"_s},
                  {.url = u"https://good.example/"_s, .uuid = u"one"_s}});
     EXPECT_EQ(safari().keys(), QStringList{u"good.example"_s});
+}
+
+TEST_F(FaviconReading, ofAFirefoxPagesIconsTheBestWidthWins)
+{
+    for (const bool areRoots : {false, true}) {
+        EXPECT_EQ(keptOfFirefox({16, 32, 64}, areRoots), "32");
+        EXPECT_EQ(keptOfFirefox({64, 32, 16}, areRoots), "32");
+        EXPECT_EQ(keptOfFirefox({16, 24}, areRoots), "24");
+        EXPECT_EQ(keptOfFirefox({64, 48}, areRoots), "48");
+        EXPECT_EQ(keptOfFirefox({48, 64}, areRoots), "48");
+        EXPECT_EQ(keptOfFirefox({31, 256}, areRoots), "256");
+        EXPECT_EQ(keptOfFirefox({0}, areRoots), "0");
+    }
+}
+
+TEST_F(FaviconReading, ofEqualWidthsTheFirstFirefoxIconStays)
+{
+    for (const bool isRoot : {false, true}) {
+        const QString url = u"https://a.example/favicon.ico"_s;
+        writeFirefox({{.url = url, .width = 32, .root = isRoot, .data = "first"},
+                      {.url = url, .width = 32, .root = isRoot, .data = "second"}},
+                     {{.url = isRoot ? u"about:blank"_s : u"https://a.example/"_s, .icons = {2, 1}}});
+        EXPECT_EQ(bytes(firefoxIcons(), u"a.example"_s), "first");
+    }
+}
+
+TEST_F(FaviconReading, drawingsAndIconsWithoutBytesDoNotCount)
+{
+    writeFirefox({{.url = u"https://a.example/svg"_s, .width = FirefoxIcon::drawing, .data = "<svg/>"},
+                  {.url = u"https://a.example/16"_s, .width = 16, .data = "small"},
+                  {.url = u"fake-favicon-uri:https://a.example/"_s, .width = 32},
+                  {.url = u"https://a.example/empty"_s, .width = 32, .data = QByteArray("")},
+                  {.url = u"https://c.example/favicon.ico"_s,
+                   .width = FirefoxIcon::drawing,
+                   .root = true,
+                   .data = "<svg/>"},
+                  {.url = u"https://d.example/favicon.ico"_s, .width = 16, .root = true}},
+                 {{.url = u"https://a.example/"_s, .icons = {1, 2, 3, 4}},
+                  {.url = u"https://b.example/"_s, .icons = {1, 3, 4}}});
+    EXPECT_EQ(firefoxIcons(), (Favicons{{u"a.example"_s, FaviconData{"small"}}}));
+}
+
+TEST_F(FaviconReading, aHostsOwnIconServesWhereNoPageHasOne)
+{
+    writeFirefox(
+        {{.url = u"https://cdn.example/page.png"_s, .width = 16, .data = "page"},
+         {.url = u"https://www.A.example/favicon.ico"_s, .width = 32, .root = true, .data = "host a"},
+         {.url = u"https://b.example:8443/favicon.ico"_s, .width = 32, .root = true, .data = "host b"},
+         {.url = u"fake-favicon-uri:https://c.example/"_s, .width = 16, .data = "imported"},
+         {.url = u"/favicon.ico"_s, .width = 16, .root = true, .data = "of nobody"}},
+        {{.url = u"https://a.example/"_s, .icons = {1}}, {.url = u"https://c.example/x"_s, .icons = {4}}});
+    EXPECT_EQ(firefoxIcons(), (Favicons{{u"a.example"_s, FaviconData{"page"}},
+                                        {u"b.example"_s, FaviconData{"host b"}},
+                                        {u"c.example"_s, FaviconData{"imported"}}}));
+}
+
+TEST_F(FaviconReading, ofAFirefoxSitesPagesTheLaterOneWins)
+{
+    writeFirefox({{.url = u"https://a.example/1"_s, .width = 32, .data = "one"},
+                  {.url = u"https://a.example/2"_s, .width = 16, .data = "two"}},
+                 {{.url = u"https://WWW.A.example/x"_s, .icons = {1}},
+                  {.url = u"http://a.example:80/y"_s, .icons = {2}},
+                  {.url = u"https://a.example/without"_s},
+                  {.url = u"https://a.example/unknown"_s, .icons = {1'000}},
+                  {.url = u"about:blank"_s, .icons = {1}},
+                  {.url = u""_s, .icons = {1}}});
+    EXPECT_EQ(firefoxIcons(), (Favicons{{u"a.example"_s, FaviconData{"two"}}}));
+}
+
+TEST_F(FaviconReading, firefoxIconsThatAreNotMergedYetCount)
+{
+    QList<FirefoxIcon> icons;
+    QList<FirefoxIconPage> pages;
+    for (int i = 0; i < 200; ++i) {
+        const QString url = u"https://s%1.example/"_s.arg(i);
+        icons.append({.url = url, .width = 32, .data = QByteArray(500, 'x')});
+        pages.append({.url = url, .icons = {i + 1}});
+    }
+    for (const sample::Journal journal :
+         {sample::Journal::UnmergedWal, sample::Journal::WalAlone, sample::Journal::HotJournal}) {
+        writeFirefox(icons, pages, journal);
+        EXPECT_EQ(firefoxIcons().size(), 200);
+        EXPECT_EQ(bytes(firefoxIcons(), u"s0.example"_s), QByteArray(500, 'x'));
+        EXPECT_EQ(bytes(firefoxIcons(), u"s199.example"_s), QByteArray(500, 'x'));
+    }
+}
+
+TEST_F(FaviconReading, awkwardFirefoxIconsAreReadAsFarAsTheyGo)
+{
+    writeFirefox(sample::awkwardFirefoxIcons(1), sample::awkwardFirefoxIconPages(1));
+    const Favicons favicons = firefoxIcons();
+    QStringList sites = favicons.keys();
+    sites.sort();
+    EXPECT_EQ(sites, (QStringList{u""_s, u"[2001:db8::1]"_s, u"broken.example"_s, u"fake.example"_s,
+                                  u"many.example"_s, u"root.example"_s, u"upper.example"_s,
+                                  u"wrong-width.example"_s}));
+    EXPECT_EQ(favicons.value(u"many.example"_s), favicons.value(u"upper.example"_s));
+}
+
+TEST_F(FaviconReading, eachFirefoxProfileHasItsOwnIcons)
+{
+    change([&] {
+        sample::writeFirefoxFavicons(firefoxFile(u"favicons.sqlite"_s, u"efgh.work"_s),
+                                     {{.url = u"https://a.example/i"_s, .width = 32, .data = "one"}},
+                                     {{.url = u"https://a.example/"_s, .icons = {1}}});
+    });
+    EXPECT_EQ(firefoxIcons(), Favicons());
+    EXPECT_EQ(bytes(firefoxIcons(firefox(u"efgh.work"_s)), u"a.example"_s), "one");
 }
 
 } // namespace roamlet::testing

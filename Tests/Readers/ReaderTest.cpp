@@ -83,6 +83,14 @@ Source ReaderTest::edge(const QString &profile)
             .safariBookmarks = Source::AllExcept{}};
 }
 
+Source ReaderTest::firefox(const QString &profile)
+{
+    return {.kind = *Source::kindFromRawValue(u"firefox"),
+            .profile = profile,
+            .name = u"Firefox"_s,
+            .safariBookmarks = Source::AllExcept{}};
+}
+
 Source ReaderTest::namedSafari(const QString &profile, const Source::SafariBookmarks &bookmarks)
 {
     return {
@@ -99,6 +107,11 @@ QString ReaderTest::edgeFile(const QString &name, const QString &profile) const
 {
     return QDir::cleanPath(home.path(u"Library/Application Support/Microsoft Edge/"_s) % profile % u'/' %
                            name);
+}
+
+QString ReaderTest::firefoxFile(const QString &name, const QString &profile) const
+{
+    return QDir::cleanPath(home.path(u"Library/Application Support/Firefox/"_s) % profile % u'/' % name);
 }
 
 QString ReaderTest::safariFile(const QString &name) const

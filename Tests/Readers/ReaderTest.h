@@ -39,11 +39,13 @@ protected:
 
     static Source chrome(const QString &profile = QStringLiteral("Default"));
     static Source edge(const QString &profile = QStringLiteral("Default"));
+    static Source firefox(const QString &profile = QStringLiteral("abcd.default"));
     /// A named Safari profile.
     static Source namedSafari(const QString &profile, const Source::SafariBookmarks &bookmarks);
     /// A file in a profile's folder, or with an empty profile in the browser's.
     QString chromeFile(const QString &name, const QString &profile = QStringLiteral("Default")) const;
     QString edgeFile(const QString &name, const QString &profile = QStringLiteral("Default")) const;
+    QString firefoxFile(const QString &name, const QString &profile = QStringLiteral("abcd.default")) const;
     QString safariFile(const QString &name) const;
     QString safariContainerFile(const QString &name) const;
 

@@ -7,6 +7,8 @@
 #include "Platform/Files.h"
 #include "Platform/Folders.h"
 
+#include <QDir>
+
 #include <algorithm>
 
 namespace roamlet
@@ -66,20 +68,32 @@ QStringList BrowserFolders::roots(const Source &source) const
     return found == installations.end() ? QStringList() : found->roots;
 }
 
+QString BrowserFolders::firefoxProfile(const QString &root, const QString &key)
+{
+    return QDir::cleanPath(key.startsWith(u'/') ? key : QString(root % u'/' % key));
+}
+
 QString BrowserFolders::profile(const Source &source, const Files &files) const
 {
     const QString key = source.profile.value_or(QString());
-    const bool mayLieAnywhere = Browser::of(source.kind).family == Browser::Family::Firefox;
-    if (mayLieAnywhere && key.startsWith(u'/'))
-        return key;
-    QStringList places = roots(source);
-    for (QString &place : places)
-        place += key.isEmpty() ? QString() : QString(u'/' % key);
+    const bool isFirefox = Browser::of(source.kind).family == Browser::Family::Firefox;
+    if (isFirefox && key.startsWith(u'/'))
+        return firefoxProfile({}, key);
+    QStringList profiles = roots(source);
+    for (QString &folder : profiles) {
+        if (isFirefox)
+            folder = firefoxProfile(folder, key);
+        else if (!key.isEmpty())
+            folder += u'/' % key;
+    }
+    // A folder that has been given up may still be there; only what a profile always has tells it apart.
     const auto found =
-        places.size() < 2
-            ? places.cend()
-            : std::ranges::find_if(places, [&files](const QString &place) { return files.exists(place); });
-    return found == places.cend() ? places.value(0) : *found;
+        profiles.size() < 2
+            ? profiles.cend()
+            : std::ranges::find_if(
+                  profiles,
+                  [&files](const QString &folder) { return files.exists(folder % u"/places.sqlite"); });
+    return found == profiles.cend() ? profiles.value(0) : *found;
 }
 
 } // namespace roamlet

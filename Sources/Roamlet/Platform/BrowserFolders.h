@@ -48,8 +48,11 @@ struct BrowserFolders {
     /// The folders in which the installation of this source keeps its profiles; none for Safari.
     QStringList roots(const Source &source) const;
     /// The folder of a profile of Chromium's or Firefox's family. Where several folders could hold it, the
-    /// first one that has it.
+    /// first one that has its history.
     QString profile(const Source &source, const Files &files) const;
+    /// The folder that a browser of Firefox's family with this data folder means by `key`: seen from there,
+    /// or absolute. Two ways to write it give the same.
+    static QString firefoxProfile(const QString &root, const QString &key);
 
     bool operator==(const BrowserFolders &) const = default;
 };

@@ -10,6 +10,7 @@
 #include "Readers/Safari/SafariReader.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace roamlet::BrowserReader
 {
@@ -55,10 +56,10 @@ Content chromiumContent(const Source &source, const ReadContext &context)
 
 Content firefoxContent(const Source &source, const ReadContext &context)
 {
-    Content content;
-    content.bookmarks = FirefoxReader::bookmarks(source, context);
-    content.history = FirefoxReader::history(source, HistoryQuery::recent(), context);
-    return content;
+    auto [bookmarks, history] = FirefoxReader::content(source, HistoryQuery::recent(), context);
+    return {.bookmarks = std::move(bookmarks),
+            .history = std::move(history),
+            .favicons = FaviconReader::firefox(source, context)};
 }
 
 const FamilyReader &readerOf(Source::Kind browser)

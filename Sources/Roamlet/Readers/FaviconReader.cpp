@@ -33,6 +33,23 @@ bool isBetter(std::int64_t width, std::int64_t keptWidth)
     return keptWidth >= wideEnough ? width >= wideEnough && width < keptWidth : width > keptWidth;
 }
 
+/// One of the bitmaps that could serve.
+struct Candidate {
+    std::int64_t icon;
+    std::int64_t width;
+};
+
+/// Keeps the best bitmap for each key, of equal ones the first.
+template<typename Key>
+void choose(QHash<Key, Candidate> &chosen, const Key &key, Candidate candidate)
+{
+    const auto kept = chosen.find(key);
+    if (kept == chosen.end())
+        chosen.insert(key, candidate);
+    else if (isBetter(candidate.width, kept->width))
+        *kept = candidate;
+}
+
 /// Safari names an icon's file by the digest of its identifier.
 QString fileName(const QString &uuid)
 {
@@ -78,6 +95,67 @@ std::expected<Favicons, ReadError> chromium(const Source &source, const ReadCont
         });
     if (!readMappings)
         return std::unexpected(readMappings.error());
+    return favicons;
+}
+
+std::expected<Favicons, ReadError> firefox(const Source &source, const ReadContext &context)
+{
+    const QString file = context.folders.profile(source, *context.files) % u"/favicons.sqlite";
+    if (!context.files->exists(file))
+        return Favicons();
+    const auto snapshot = SQLiteSnapshot::copying(file, context);
+    if (!snapshot)
+        return std::unexpected(snapshot.error());
+
+    QHash<std::int64_t, Bitmap> bitmaps;
+    QHash<QString, Candidate> iconsOfHosts;
+    // Drawings (SVG) stand there with the largest width; they are foreign programs to whoever draws them.
+    const auto readIcons = snapshot->query(
+        u"SELECT id, icon_url, width, root, data FROM moz_icons WHERE width <> 65535"_s, {},
+        [&](const SQLiteSnapshot::Row &row) {
+            enum Column { Id, IconUrl, Width, Root, Data };
+            const QByteArrayView bytes = row.blob(Data);
+            if (bytes.isEmpty())
+                return;
+            const Candidate icon{row.integer(Id), row.integer(Width)};
+            bitmaps.insert(icon.icon, {icon.width, bytes.toByteArray()});
+            const std::optional<QString> site =
+                row.integer(Root) == 1 ? Site::name(row.text(IconUrl).value_or(QString())) : std::nullopt;
+            if (site)
+                choose(iconsOfHosts, *site, icon);
+        });
+    if (!readIcons)
+        return std::unexpected(readIcons.error());
+
+    QHash<std::int64_t, Candidate> iconsOfPages;
+    const auto readMappings = snapshot->query(
+        u"SELECT page_id, icon_id FROM moz_icons_to_pages"_s, {}, [&](const SQLiteSnapshot::Row &row) {
+            enum Column { PageId, IconId };
+            const std::int64_t icon = row.integer(IconId);
+            const auto bitmap = bitmaps.constFind(icon);
+            if (bitmap != bitmaps.cend())
+                choose(iconsOfPages, row.integer(PageId), {icon, bitmap->width});
+        });
+    if (!readMappings)
+        return std::unexpected(readMappings.error());
+
+    Favicons favicons;
+    const auto readPages = snapshot->query(
+        u"SELECT id, page_url FROM moz_pages_w_icons"_s, {}, [&](const SQLiteSnapshot::Row &row) {
+            enum Column { Id, PageUrl };
+            const auto icon = iconsOfPages.constFind(row.integer(Id));
+            const std::optional<QString> site = icon != iconsOfPages.cend()
+                                                    ? Site::name(row.text(PageUrl).value_or(QString()))
+                                                    : std::nullopt;
+            if (site)
+                favicons.insert(*site, FaviconData{bitmaps.value(icon->icon).bytes});
+        });
+    if (!readPages)
+        return std::unexpected(readPages.error());
+    for (auto host = iconsOfHosts.cbegin(); host != iconsOfHosts.cend(); ++host) {
+        if (!favicons.contains(host.key()))
+            favicons.insert(host.key(), FaviconData{bitmaps.value(host->icon).bytes});
+    }
     return favicons;
 }
 

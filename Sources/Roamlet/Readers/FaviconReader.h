@@ -15,8 +15,11 @@
 namespace roamlet::FaviconReader
 {
 
-/// The icons of one Chrome or Edge profile. Empty when it has no icon store.
+/// The icons of one profile of Chromium's family. Empty when it has no icon store.
 std::expected<Favicons, ReadError> chromium(const Source &source, const ReadContext &context);
+/// The icons of one profile of Firefox's family: those of its pages, and for hosts without any those of the
+/// whole host. Empty when it has no icon store.
+std::expected<Favicons, ReadError> firefox(const Source &source, const ReadContext &context);
 /// The icons of Safari, which has one store for all its profiles. The files are not looked for. Empty when
 /// there is no icon store.
 std::expected<Favicons, ReadError> safari(const ReadContext &context);

@@ -40,10 +40,10 @@ protected:
 
     QList<BookmarkNode> read(const Source &source = chrome())
     {
-        const auto nodes = ChromiumReader::bookmarks(source, context());
-        if (!nodes)
-            ADD_FAILURE() << nodes.error();
-        return nodes.value_or(QList<BookmarkNode>());
+        const auto trees = ChromiumReader::bookmarks(source, context());
+        if (!trees)
+            ADD_FAILURE() << trees.error().first();
+        return trees.value_or(BookmarkTrees()).roots;
     }
 
     /// What stands in the bookmarks bar.

@@ -325,4 +325,23 @@ TEST(PropertyList, foreignBytesAreRefused)
     }
 }
 
+TEST(PropertyList, aTruncatedListIsRefused)
+{
+    const QByteArray binary = sample::propertyList(someDictionary(), PropertyListFormat::Binary);
+    for (qsizetype length = 0; length < binary.size(); ++length)
+        EXPECT_TRUE(isNoPropertyList(binary.first(length))) << length;
+    const QByteArray text = sample::propertyList(someDictionary(), PropertyListFormat::Xml);
+    const qsizetype end = text.lastIndexOf("</dict>");
+    ASSERT_GT(end, 0);
+    for (qsizetype length = 0; length < end; ++length)
+        EXPECT_TRUE(isNoPropertyList(text.first(length))) << length;
+}
+
+TEST(PropertyList, longTextsAreRead)
+{
+    const QString megabyte = u"ä"_s.repeated(1'000'000);
+    for (const PropertyListFormat format : {PropertyListFormat::Binary, PropertyListFormat::Xml})
+        EXPECT_EQ(rootString(sample::propertyList(megabyte, format)), megabyte);
+}
+
 } // namespace roamlet::testing

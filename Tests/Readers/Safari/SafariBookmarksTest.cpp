@@ -41,10 +41,10 @@ protected:
 
     QList<BookmarkNode> read(const Source &source = Source::safari())
     {
-        const auto nodes = SafariReader::bookmarks(source, context());
-        if (!nodes)
-            ADD_FAILURE() << nodes.error();
-        return nodes.value_or(QList<BookmarkNode>());
+        const auto trees = SafariReader::bookmarks(source, context());
+        if (!trees)
+            ADD_FAILURE() << trees.error().first();
+        return trees.value_or(BookmarkTrees()).roots;
     }
 
     QStringList outline(const Source &source = Source::safari()) { return outlineOf(read(source)); }
@@ -275,7 +275,7 @@ TEST_F(SafariBookmarks, whatIsNoDictionaryAtTheTopIsAnError)
             write(root, format);
             const auto nodes = SafariReader::bookmarks(Source::safari(), context());
             ASSERT_FALSE(nodes.has_value());
-            EXPECT_EQ(nodes.error(), ReadError::unreadable(path, u"not a dictionary"_s));
+            EXPECT_EQ(nodes.error().first(), ReadError::unreadable(path, u"not a dictionary"_s));
         }
     }
 }
@@ -285,7 +285,7 @@ TEST_F(SafariBookmarks, aMissingRefusedOrForeignFileIsAnError)
     const QString path = safariFile(u"Bookmarks.plist"_s);
     const auto error = [this] {
         const auto nodes = SafariReader::bookmarks(Source::safari(), context());
-        return nodes ? ReadError::unreadable(u"no"_s, u"error"_s) : nodes.error();
+        return nodes ? ReadError::unreadable(u"no"_s, u"error"_s) : nodes.error().first();
     };
     EXPECT_EQ(error(), ReadError::unreadable(path, u"No such file or directory"_s));
     for (const QByteArray &bytes : {QByteArray(), QByteArray("{}"), QByteArray("SQLite format 3\0", 16)}) {

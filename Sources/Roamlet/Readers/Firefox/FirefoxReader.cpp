@@ -3,14 +3,82 @@
 
 #include "Readers/Firefox/FirefoxReader.h"
 
+#include "Platform/Files.h"
+#include "Readers/Files/SQLiteSnapshot.h"
+#include "Readers/Firefox/FirefoxBookmarks.h"
+#include "Readers/Firefox/FirefoxProfiles.h"
+#include "Readers/Firefox/FirefoxTime.h"
+
+#include <algorithm>
+#include <utility>
+
 namespace roamlet::FirefoxReader
 {
 
 using namespace Qt::StringLiterals;
 
-QList<Source> profiles(Source::Kind /*kind*/, const ReadContext & /*context*/)
+namespace
 {
-    return {};
+
+QString historyStatement(const HistoryQuery &query)
+{
+    return u"SELECT id, url, title, last_visit_date, visit_count FROM moz_places\n"
+           "WHERE hidden = 0 AND last_visit_date IS NOT NULL" %
+           query.conditions(u"(url || ' ' || coalesce(title, ''))"_s, u"url"_s) % u"\nORDER BY " %
+           (query.order == HistoryQuery::Order::MostVisited ? u"visit_count DESC, "_s : QString()) %
+           u"last_visit_date DESC\nLIMIT " % QString::number(query.limit);
+}
+
+std::expected<QList<HistoryItem>, ReadError> historyIn(const SQLiteSnapshot &places, const Source &source,
+                                                       const HistoryQuery &query)
+{
+    QList<HistoryItem> items;
+    items.reserve(std::min(query.limit, HistoryQuery::defaultLimit));
+    const auto run =
+        places.query(historyStatement(query), query.patterns(), [&](const SQLiteSnapshot::Row &row) {
+            enum Column { Id, Url, Title, LastVisitDate, VisitCount };
+            const std::optional<PointInTime> lastVisit = firefoxTime(row.integer(LastVisitDate));
+            if (lastVisit) {
+                items.append(HistoryItem::ofRow(row.integer(Id), row.text(Title).value_or(QString()),
+                                                row.text(Url).value_or(QString()), *lastVisit,
+                                                row.integer(VisitCount), source));
+            }
+        });
+    if (!run)
+        return std::unexpected(run.error());
+    return items;
+}
+
+std::expected<BookmarkTrees, ReadErrors> treesOf(std::expected<QList<BookmarkNode>, ReadError> roots)
+{
+    if (!roots)
+        return std::unexpected(ReadErrors{roots.error()});
+    return BookmarkTrees{.roots = std::move(*roots)};
+}
+
+/// What `read` makes of a private copy of the profile's database, or an empty part where there is none.
+template<typename Part, typename Read>
+std::expected<Part, ReadError> fromPlaces(const Source &source, const ReadContext &context, Read read)
+{
+    const QString file = historyFile(source, context);
+    if (!context.files->exists(file))
+        return Part();
+    const auto places = SQLiteSnapshot::copying(file, context);
+    if (!places)
+        return std::unexpected(places.error());
+    return read(*places);
+}
+
+} // namespace
+
+QList<Source> profiles(Source::Kind kind, const ReadContext &context)
+{
+    QList<Source> result;
+    for (const BrowserFolders::Installation &installation : context.folders.installations) {
+        if (installation.browser == kind && installation.hasProfiles)
+            result += FirefoxProfiles::read(installation, context);
+    }
+    return result;
 }
 
 QString historyFile(const Source &source, const ReadContext &context)
@@ -18,15 +86,30 @@ QString historyFile(const Source &source, const ReadContext &context)
     return context.folders.profile(source, *context.files) % u"/places.sqlite";
 }
 
-std::expected<QList<HistoryItem>, ReadError>
-history(const Source & /*source*/, const HistoryQuery & /*query*/, const ReadContext & /*context*/)
+std::expected<QList<HistoryItem>, ReadError> history(const Source &source, const HistoryQuery &query,
+                                                     const ReadContext &context)
 {
-    return QList<HistoryItem>();
+    return fromPlaces<QList<HistoryItem>>(
+        source, context, [&](const SQLiteSnapshot &places) { return historyIn(places, source, query); });
 }
 
-std::expected<BookmarkTrees, ReadErrors> bookmarks(const Source & /*source*/, const ReadContext & /*context*/)
+std::expected<BookmarkTrees, ReadErrors> bookmarks(const Source &source, const ReadContext &context)
 {
-    return BookmarkTrees();
+    return treesOf(fromPlaces<QList<BookmarkNode>>(source, context, [&](const SQLiteSnapshot &places) {
+        return FirefoxBookmarks::read(places, source);
+    }));
+}
+
+Content content(const Source &source, const HistoryQuery &query, const ReadContext &context)
+{
+    auto result = fromPlaces<Content>(source, context, [&](const SQLiteSnapshot &places) {
+        return Content{.bookmarks = treesOf(FirefoxBookmarks::read(places, source)),
+                       .history = historyIn(places, source, query)};
+    });
+    if (result)
+        return std::move(*result);
+    return {.bookmarks = std::unexpected(ReadErrors{result.error()}),
+            .history = std::unexpected(result.error())};
 }
 
 QStringList readFiles()

@@ -30,6 +30,15 @@ std::expected<QList<HistoryItem>, ReadError> history(const Source &source, const
                                                      const ReadContext &context);
 /// One tree for each of the browser's root folders that holds a bookmark, the bookmarks bar first.
 std::expected<BookmarkTrees, ReadErrors> bookmarks(const Source &source, const ReadContext &context);
+
+/// What one database holds.
+struct Content {
+    std::expected<BookmarkTrees, ReadErrors> bookmarks;
+    std::expected<QList<HistoryItem>, ReadError> history;
+};
+/// The bookmarks, and the rows that match, of one private copy.
+Content content(const Source &source, const HistoryQuery &query, const ReadContext &context);
+
 /// The names of the files in a profile's folder that hold its history and its bookmarks.
 QStringList readFiles();
 

@@ -1,0 +1,335 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "Readers/Firefox/FirefoxReader.h"
+
+#include "Readers/BrowserReader.h"
+#include "Readers/ReaderTest.h"
+#include "SampleHome/AwkwardFirefox.h"
+#include "SampleHome/FirefoxFiles.h"
+#include "SampleHome/PlainFiles.h"
+
+#include <algorithm>
+
+namespace roamlet::testing
+{
+
+using namespace Qt::StringLiterals;
+using sample::FirefoxPage;
+using sample::Journal;
+using sample::Text;
+
+namespace
+{
+
+/// 2023-11-14 22:13:20 UTC in Firefox's microseconds.
+constexpr qint64 someTime = 1'700'000'000'000'000;
+constexpr double someTimeSince1970 = 1'700'000'000;
+
+class FirefoxHistory : public ReaderTest
+{
+protected:
+    void write(const sample::Rows<FirefoxPage> &pages, Journal journal = Journal::Clean,
+               const sample::Rows<sample::FirefoxBookmarkRow> &bookmarks = {})
+    {
+        change(
+            [&] { sample::writeFirefoxPlaces(firefoxFile(u"places.sqlite"_s), pages, bookmarks, journal); });
+    }
+
+    QList<HistoryItem> read(const HistoryQuery &query = HistoryQuery::recent(),
+                            const Source &source = firefox())
+    {
+        const auto items = FirefoxReader::history(source, query, context());
+        if (!items)
+            ADD_FAILURE() << items.error();
+        return items.value_or(QList<HistoryItem>());
+    }
+
+    QStringList found(const QString &text, const std::optional<QString> &site = {})
+    {
+        return titlesOf(read(HistoryQuery::matching(text, site, HistoryQuery::Order::Latest)));
+    }
+
+    /// One bookmark in the bar.
+    static QList<sample::FirefoxBookmarkRow> oneBookmark()
+    {
+        return sample::firefoxBookmarkRows(
+            {.toolbar = {sample::firefoxBookmark(u"Bookmark"_s, u"https://b.example/"_s, someTime)}});
+    }
+};
+
+} // namespace
+
+TEST_F(FirefoxHistory, aMissingFileIsAnEmptyHistory)
+{
+    EXPECT_EQ(read(), QList<HistoryItem>());
+    change([this] { sample::makeFolder(firefoxFile({})); });
+    EXPECT_EQ(read(), QList<HistoryItem>());
+}
+
+TEST_F(FirefoxHistory, aRowIsAWholeItem)
+{
+    write({{.id = 4711,
+            .url = u"HTTPS://www.Example.com:8443/Path?Q=1"_s,
+            .title = u"ÄTitle"_s,
+            .visitCount = 5'000'000'000,
+            .lastVisitDate = someTime}});
+    EXPECT_EQ(read(), (QList<HistoryItem>{{.id = u"firefox/abcd.default/4711"_s,
+                                           .title = u"ÄTitle"_s,
+                                           .url = u"HTTPS://www.Example.com:8443/Path?Q=1"_s,
+                                           .lastVisit = pointInTime(someTimeSince1970),
+                                           .visitCount = 5'000'000'000,
+                                           .source = firefox(),
+                                           .searchKey = u"ätitle\nhttps://www.example.com:8443/path?q=1"_s,
+                                           .site = u"example.com"_s}}));
+}
+
+TEST_F(FirefoxHistory, eachProfileHasItsOwnFile)
+{
+    write({{.id = 1, .url = u"https://a.example/"_s, .title = u"first"_s, .lastVisitDate = someTime}});
+    change([&] {
+        sample::writeFirefoxPlaces(
+            firefoxFile(u"places.sqlite"_s, u"../far/efgh.work"_s),
+            {{.id = 1, .url = u"https://a.example/"_s, .title = u"second"_s, .lastVisitDate = someTime}});
+    });
+    EXPECT_EQ(titlesOf(read()), QStringList{u"first"_s});
+    const QList<HistoryItem> items = read({}, firefox(u"../far/efgh.work"_s));
+    EXPECT_EQ(titlesOf(items), QStringList{u"second"_s});
+    EXPECT_EQ(items.value(0).id, u"firefox/../far/efgh.work/1"_s);
+    EXPECT_EQ(titlesOf(read({}, firefox(firefoxFile({}, u"../far/efgh.work"_s)))), QStringList{u"second"_s});
+}
+
+TEST_F(FirefoxHistory, microsecondsAreKept)
+{
+    write({{.url = u"https://a.example/"_s, .title = u"first"_s, .lastVisitDate = someTime + 1},
+           {.url = u"https://b.example/"_s, .title = u"second"_s, .lastVisitDate = someTime + 2},
+           {.url = u"https://c.example/"_s, .title = u"oldest"_s, .lastVisitDate = 1}});
+    const QList<HistoryItem> items = read();
+    ASSERT_EQ(titlesOf(items), (QStringList{u"second"_s, u"first"_s, u"oldest"_s}));
+    EXPECT_GT(items[0].lastVisit, items[1].lastVisit);
+    EXPECT_DOUBLE_EQ(secondsSince1970(items[2].lastVisit), 0.000001);
+}
+
+TEST_F(FirefoxHistory, rowsThatWereNeverVisitedAreNotShown)
+{
+    write({{.url = u"https://a.example/"_s, .title = u"bookmark only"_s, .visitCount = 9},
+           {.url = u"https://b.example/"_s, .title = u"never"_s, .visitCount = 8, .lastVisitDate = 0},
+           {.url = u"https://c.example/"_s, .title = u"before"_s, .visitCount = 7, .lastVisitDate = -5},
+           {.url = u"https://d.example/"_s, .title = u"visited"_s, .visitCount = 1, .lastVisitDate = 1}});
+    EXPECT_EQ(titlesOf(read()), QStringList{u"visited"_s});
+    EXPECT_EQ(found(u"example"_s), QStringList{u"visited"_s});
+    // A date that means none is seen by us alone, after the database has counted.
+    EXPECT_EQ(read(listing(HistoryQuery::Order::MostVisited, 2)), QList<HistoryItem>());
+    EXPECT_EQ(read(listing(HistoryQuery::Order::MostVisited, 3)).size(), 1);
+}
+
+TEST_F(FirefoxHistory, hiddenRowsAreNotShown)
+{
+    write(
+        {{.url = u"https://a.example/"_s, .title = u"shown"_s, .lastVisitDate = someTime},
+         {.url = u"https://b.example/"_s, .title = u"hidden"_s, .lastVisitDate = someTime, .hidden = true}});
+    EXPECT_EQ(titlesOf(read()), QStringList{u"shown"_s});
+}
+
+TEST_F(FirefoxHistory, missingTextsAreReplaced)
+{
+    write({{.id = 1, .url = u"https://a.example/X"_s, .title = u""_s, .lastVisitDate = someTime + 2},
+           {.id = 2, .url = u"https://b.example/"_s, .lastVisitDate = someTime + 1},
+           {.id = 3, .lastVisitDate = someTime}});
+    const QList<HistoryItem> items = read();
+    ASSERT_EQ(items.size(), 3);
+    EXPECT_EQ(items[0].title, u"https://a.example/X"_s);
+    EXPECT_EQ(items[0].searchKey, u"https://a.example/x\nhttps://a.example/x"_s);
+    EXPECT_EQ(items[1].title, u"https://b.example/"_s);
+    EXPECT_EQ(items[2].title, u""_s);
+    EXPECT_EQ(items[2].url, u""_s);
+    EXPECT_EQ(items[2].site, u""_s);
+}
+
+TEST_F(FirefoxHistory, theOrderIsTheQuerys)
+{
+    write(
+        {{.url = u"https://a.example/"_s, .title = u"often, old"_s, .visitCount = 5, .lastVisitDate = 10},
+         {.url = u"https://b.example/"_s, .title = u"once, new"_s, .visitCount = 1, .lastVisitDate = 30},
+         {.url = u"https://c.example/"_s, .title = u"often, newer"_s, .visitCount = 5, .lastVisitDate = 20}});
+    EXPECT_EQ(titlesOf(read()), (QStringList{u"once, new"_s, u"often, newer"_s, u"often, old"_s}));
+    EXPECT_EQ(titlesOf(read(listing(HistoryQuery::Order::MostVisited))),
+              (QStringList{u"often, newer"_s, u"often, old"_s, u"once, new"_s}));
+}
+
+TEST_F(FirefoxHistory, theLimitIsExact)
+{
+    write(sample::Rows<FirefoxPage>::generated(1500, [](qsizetype i) {
+        return FirefoxPage{
+            .url = u"https://a.example/%1"_s.arg(i), .title = QString::number(i), .lastVisitDate = i + 1};
+    }));
+    EXPECT_EQ(read().size(), 1000);
+    EXPECT_EQ(titlesOf(read(listing(HistoryQuery::Order::Latest, 2))), (QStringList{u"1499"_s, u"1498"_s}));
+    EXPECT_EQ(read(listing(HistoryQuery::Order::Latest, 0)).size(), 0);
+    EXPECT_EQ(read(listing(HistoryQuery::Order::Latest, 5'000'000'000)).size(), 1500);
+}
+
+TEST_F(FirefoxHistory, everyWordMustOccurInTheAddressOrTheTitle)
+{
+    write({{.url = u"https://a.example/Apple"_s, .title = u"Pear"_s, .lastVisitDate = 3},
+           {.url = u"https://b.example/"_s, .title = u"apple tree"_s, .lastVisitDate = 2},
+           {.url = u"https://c.example/"_s, .title = u"ÄPFEL"_s, .lastVisitDate = 1}});
+    EXPECT_EQ(found(u"apple"_s), (QStringList{u"Pear"_s, u"apple tree"_s}));
+    EXPECT_EQ(found(u"PEAR  Apple "_s), QStringList{u"Pear"_s});
+    EXPECT_EQ(found(u"pear tree"_s), QStringList());
+    // The letter case of ASCII letters alone is ignored.
+    EXPECT_EQ(found(u"pfel"_s), QStringList{u"ÄPFEL"_s});
+    EXPECT_EQ(found(u"äpfel"_s), QStringList());
+    EXPECT_EQ(found(u" "_s).size(), 3);
+}
+
+TEST_F(FirefoxHistory, wordsAreMeantLiterally)
+{
+    const QString first = u"100% sure_thing C:\\"_s;
+    write({{.url = u"https://a.example/"_s, .title = first, .lastVisitDate = 2},
+           {.url = u"https://b.example/"_s, .title = u"1000 sureXthing 'quoted'"_s, .lastVisitDate = 1}});
+    EXPECT_EQ(found(u"100%"_s), QStringList{first});
+    EXPECT_EQ(found(u"sure_thing"_s), QStringList{first});
+    EXPECT_EQ(found(u"\\"_s), QStringList{first});
+    EXPECT_EQ(found(u"'quoted'"_s).size(), 1);
+    EXPECT_EQ(found(u"'; DROP TABLE moz_places; --"_s), QStringList());
+}
+
+TEST_F(FirefoxHistory, aRowWithoutATitleIsFoundByItsAddress)
+{
+    write({{.url = u"https://a.example/"_s, .lastVisitDate = 2},
+           {.url = u"https://a.example/"_s, .title = u""_s, .lastVisitDate = 1},
+           {.title = u"example"_s, .lastVisitDate = 3}});
+    EXPECT_EQ(found(u"example"_s), (QStringList{u"https://a.example/"_s, u"https://a.example/"_s}));
+    EXPECT_EQ(found({}, u"a.example"_s).size(), 2);
+}
+
+TEST_F(FirefoxHistory, aSiteIsItsHostWithOrWithoutWww)
+{
+    const QStringList urls{u"https://example.com/a"_s, u"http://www.example.com:80/"_s,
+                           u"https://sub.example.com/"_s, u"https://example.company/"_s};
+    write(sample::Rows<FirefoxPage>::generated(urls.size(), [&urls](qsizetype i) {
+        return FirefoxPage{.url = urls[i], .title = QString::number(i), .lastVisitDate = 100 - i};
+    }));
+    EXPECT_EQ(found({}, u"example.com"_s), (QStringList{u"0"_s, u"1"_s}));
+    EXPECT_EQ(found(u"80"_s, u"example.com"_s), QStringList{u"1"_s});
+    EXPECT_EQ(found({}, u"exa_ple.com"_s), QStringList());
+}
+
+TEST_F(FirefoxHistory, changesThatAreNotMergedYetCount)
+{
+    const auto pages = sample::Rows<FirefoxPage>::generated(1000, [](qsizetype i) {
+        return FirefoxPage{
+            .url = u"https://a.example/%1"_s.arg(i), .title = QString::number(i), .lastVisitDate = i + 1};
+    });
+    for (const Journal journal : {Journal::UnmergedWal, Journal::WalAlone, Journal::HotJournal}) {
+        write(pages, journal);
+        const QList<HistoryItem> items = read();
+        ASSERT_EQ(items.size(), 1000);
+        EXPECT_EQ(items.first().title, u"999"_s);
+        EXPECT_EQ(items.last().title, u"0"_s);
+        // What the file alone would have said.
+        home.files.failure = [this](const QString &path) {
+            return path == firefoxFile(u"places.sqlite"_s)
+                       ? std::error_code()
+                       : std::make_error_code(std::errc::no_such_file_or_directory);
+        };
+        const auto alone = FirefoxReader::history(firefox(), HistoryQuery::recent(), context());
+        EXPECT_TRUE(!alone || alone->size() != 1000);
+        home.files.failure = {};
+    }
+}
+
+TEST_F(FirefoxHistory, awkwardPagesAreReadAsFarAsTheyGo)
+{
+    write(sample::awkwardFirefoxPages(1'700'000'000));
+    const QStringList titles = titlesOf(read());
+    EXPECT_TRUE(titles.contains(u"A negative key"_s));
+    EXPECT_TRUE(titles.contains(u"Without an address"_s));
+    EXPECT_TRUE(titles.contains(u"Visited at 1"_s));
+    EXPECT_TRUE(titles.contains(u"Visited at 9223372036854775807"_s));
+    EXPECT_TRUE(titles.contains(u"Visited -9223372036854775808 times"_s));
+    EXPECT_FALSE(titles.contains(u"Visited at 0"_s));
+    EXPECT_FALSE(titles.contains(u"Visited at -1"_s));
+    EXPECT_FALSE(titles.contains(u"Never visited"_s));
+    EXPECT_FALSE(titles.contains(u"Hidden"_s));
+    write({{.id = 1,
+            .url = u"https://a.example/"_s,
+            .title = Text::raw(QByteArray("before\0after", 12)),
+            .lastVisitDate = 2},
+           {.id = 2,
+            .url = u"\uFEFFhttps://b.example/"_s,
+            .title = Text::raw("Z\xFCrich"),
+            .lastVisitDate = 1}});
+    EXPECT_EQ(titlesOf(read()), (QStringList{u"before"_s, u"Z\uFFFDrich"_s}));
+    EXPECT_EQ(read().value(1).url, u"\uFEFFhttps://b.example/"_s);
+}
+
+TEST_F(FirefoxHistory, columnsOfOtherVersionsDoNotMatter)
+{
+    sample::makeFolder(firefoxFile({}));
+    sample::Database(firefoxFile(u"places.sqlite"_s))
+        .execute("CREATE TABLE moz_places(visit_count, last_visit_date, hidden, title, url, future,"
+                 " id INTEGER PRIMARY KEY);"
+                 "INSERT INTO moz_places VALUES(3, 2000000, 0, 't', 'https://a.example/', 'x', 9)");
+    const QList<HistoryItem> items = read();
+    ASSERT_EQ(items.size(), 1);
+    EXPECT_EQ(items[0].id, u"firefox/abcd.default/9"_s);
+    EXPECT_EQ(items[0].visitCount, 3);
+    EXPECT_EQ(secondsSince1970(items[0].lastVisit), 2);
+}
+
+TEST_F(FirefoxHistory, aLoadCopiesTheDatabaseOnce)
+{
+    write({{.url = u"https://a.example/"_s, .title = u"Page"_s, .lastVisitDate = someTime}},
+          Journal::UnmergedWal, oneBookmark());
+    int copies = 0;
+    home.files.afterCopy = [&](const QString &file) {
+        copies += file == firefoxFile(u"places.sqlite"_s) ? 1 : 0;
+    };
+    const BrowserReader::Content content = BrowserReader::content(firefox(), context());
+    home.files.afterCopy = {};
+    EXPECT_EQ(copies, 1);
+    ASSERT_TRUE(content.history.has_value());
+    EXPECT_EQ(titlesOf(*content.history), QStringList{u"Page"_s});
+    ASSERT_TRUE(content.bookmarks.has_value());
+    EXPECT_EQ(titlesOf(content.bookmarks->roots), QStringList{u"Bookmarks Toolbar"_s});
+    EXPECT_EQ(content.favicons, Favicons());
+    EXPECT_FALSE(content.isHistoryFirst);
+}
+
+TEST_F(FirefoxHistory, eachPartOfALoadIsReadOrNotOnItsOwn)
+{
+    const auto content = [this] {
+        return FirefoxReader::content(firefox(), HistoryQuery::recent(), context());
+    };
+    EXPECT_TRUE(content().history.value().isEmpty());
+    EXPECT_TRUE(content().bookmarks.value().roots.isEmpty());
+
+    write({{.url = u"https://a.example/"_s, .title = u"Page"_s, .lastVisitDate = someTime}}, Journal::Clean,
+          oneBookmark());
+    const QString file = firefoxFile(u"places.sqlite"_s);
+    change([&] { sample::Database(file).execute("DROP TABLE moz_bookmarks"); });
+    EXPECT_EQ(content().history.value().size(), 1);
+    ASSERT_FALSE(content().bookmarks.has_value());
+    EXPECT_EQ(content().bookmarks.error(),
+              ReadErrors{ReadError::unreadable(u"query"_s, u"no such table: moz_bookmarks"_s)});
+
+    refuse(file, std::errc::permission_denied);
+    ASSERT_FALSE(content().history.has_value());
+    EXPECT_EQ(content().history.error(), ReadError::noAccess(file));
+    ASSERT_FALSE(content().bookmarks.has_value());
+    EXPECT_EQ(content().bookmarks.error(), ReadErrors{ReadError::noAccess(file)});
+}
+
+TEST_F(FirefoxHistory, onlyItsDatabaseAndTheLogOfItAreWatched)
+{
+    const Source::Kind kind = firefox().kind;
+    for (const QString &name : {u"places.sqlite"_s, u"places.sqlite-wal"_s})
+        EXPECT_TRUE(BrowserReader::isRead(name, kind)) << name.toStdString();
+    for (const QString &name :
+         {u"favicons.sqlite"_s, u"favicons.sqlite-wal"_s, u"places.sqlite-shm"_s, u"History"_s})
+        EXPECT_FALSE(BrowserReader::isRead(name, kind)) << name.toStdString();
+}
+
+} // namespace roamlet::testing
