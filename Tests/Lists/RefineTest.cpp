@@ -130,6 +130,7 @@ TEST(RefineText, dropsSpacesAndTabsAroundItButNotLineEnds)
 TEST(RefineText, isLowerCaseInEveryScript)
 {
     EXPECT_EQ(refineText(u"ÄÖ ΣΑ Привет"), u"äö σα привет");
+    EXPECT_EQ(refineText(u"ΣΊΣΥΦΟΣ ΟΔΟΣ"), u"σίσυφος οδος");
     EXPECT_EQ(refineText(u"I"), u"i") << "also for Turkish users: rows were lower-cased without their locale";
 }
 
@@ -165,6 +166,16 @@ TEST(RefinedRows, compareCodeByCode)
     EXPECT_EQ(found(u"a%b"_s, rows), "a%b");
     EXPECT_EQ(found(u"a_b"_s, rows), "a_b");
     EXPECT_EQ(found(u"a.b"_s, rows), "");
+}
+
+TEST(RefinedRows, holdASigmaWhereverItStandsInAWord)
+{
+    const QList<Bookmark> rows{bookmark(u"σίσυφος"_s), bookmark(u"ΣΊΣΥΦΟΣ"_s), bookmark(u"ΟΔΟΣΤΡΩΤΉΡΑΣ"_s)};
+    EXPECT_EQ(found(u"ΣΊΣΥΦΟΣ"_s, rows), "σίσυφος ΣΊΣΥΦΟΣ");
+    EXPECT_EQ(found(u"ΣΊΣ"_s, rows), "σίσυφος ΣΊΣΥΦΟΣ")
+        << "a final sigma in the word, another one in the title";
+    EXPECT_EQ(found(u"ΟΔΟΣ"_s, rows), "ΟΔΟΣΤΡΩΤΉΡΑΣ");
+    EXPECT_EQ(found(u"ος"_s, rows), "σίσυφος ΣΊΣΥΦΟΣ ΟΔΟΣΤΡΩΤΉΡΑΣ");
 }
 
 TEST(RefinedRows, areMatchedByTheKeyThatIsGiven)

@@ -115,6 +115,9 @@ TEST(BookmarkNode, aBookmarkWithoutUrlHasAnEmptyOne)
     EXPECT_EQ(flat.url, u""_s);
     EXPECT_EQ(flat.site, u""_s);
     EXPECT_EQ(flat.searchKey, u"a\n\n"_s);
+    BookmarkNode greek;
+    greek.title = u"ΣΊΣΥΦΟΣ"_s;
+    EXPECT_EQ(greek.flattened({u"ΟΔΟΣ"_s}).value(0).searchKey, u"σίσυφος\n\nοδος"_s);
     EXPECT_FALSE(flat.dateAdded.has_value());
 }
 

@@ -68,6 +68,7 @@ TEST(HistoryItem, lowerCasesAllOfUnicode)
     EXPECT_EQ(item(u"STRAẞE"_s, u"u"_s).searchKey, u"straße\nu"_s);
     EXPECT_EQ(item(u"İ"_s, u"u"_s).searchKey, u"i\u0307\nu"_s) << "one letter becomes two";
     EXPECT_EQ(item(u"𐐀"_s, u"u"_s).searchKey, u"𐐨\nu"_s) << "a letter beyond the first plane";
+    EXPECT_EQ(item(u"ΣΊΣΥΦΟΣ"_s, u"ΟΔΟΣ"_s).searchKey, u"σίσυφος\nοδος"_s) << "a sigma that ends a word";
     EXPECT_EQ(item(u"I"_s, u"u"_s).searchKey, u"i\nu"_s) << "not by the rules of one language";
 }
 

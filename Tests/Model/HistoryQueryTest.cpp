@@ -120,8 +120,8 @@ TEST(HistoryQuery, wordsAreSeparatedByBlanksOnly)
 
 TEST(HistoryQuery, wordsAreLowerCasedByAllOfUnicode)
 {
-    EXPECT_EQ(words(u"ÄPFEL Ελλάς İ 𐐀 STRAẞE"_s),
-              (QStringList{u"äpfel"_s, u"ελλάς"_s, u"i\u0307"_s, u"𐐨"_s, u"straße"_s}));
+    EXPECT_EQ(words(u"ÄPFEL Ελλάς İ 𐐀 STRAẞE ΣΊΣΥΦΟΣ"_s),
+              (QStringList{u"äpfel"_s, u"ελλάς"_s, u"i\u0307"_s, u"𐐨"_s, u"straße"_s, u"σίσυφος"_s}));
 }
 
 TEST(HistoryQuery, textOfBlanksIsThePlainListing)
@@ -180,7 +180,7 @@ TEST(HistoryQuery, patternsStandInTheOrderOfThePlaceholders)
 
 TEST(HistoryQuery, everyPlaceholderHasAPattern)
 {
-    for (const QString &text : {u""_s, u"a"_s, u"a b c"_s, u"% _ \\ ?"_s}) {
+    for (const QString &text : {u""_s, u"a"_s, u"a b c"_s, u"% _ \\ ?"_s, u"ΟΔΟΣ a"_s}) {
         for (const std::optional<QString> &site :
              {std::optional<QString>(), std::optional(u""_s), std::optional(u"a_b%c\\"_s)}) {
             const HistoryQuery query = HistoryQuery::matching(text, site, latest);
@@ -263,6 +263,21 @@ TEST(HistoryQuery, onlyLettersOfAsciiAreFolded)
     EXPECT_EQ(pages.find(HistoryQuery::matching(u"pfel"_s, {}, latest)).size(), 1);
     EXPECT_EQ(pages.find(HistoryQuery::matching(u"ÄPFEL"_s, {}, latest)).size(), 0)
         << "the word is lower-cased, the stored text is not";
+}
+
+TEST(HistoryQuery, aSigmaIsFoundWhereverItStandsInAWord)
+{
+    Pages pages;
+    pages.add(u"https://a.example/"_s, u"ο σίσυφος"_s);
+    pages.add(u"https://b.example/"_s, u"ο οδοστρωτήρας"_s);
+    const auto find = [&pages](const QString &text) {
+        return pages.find(HistoryQuery::matching(text, {}, latest)).join(u' ').toStdString();
+    };
+    EXPECT_EQ(find(u"ΣΊΣΥΦΟΣ"_s), "https://a.example/");
+    EXPECT_EQ(find(u"ΣΊΣ"_s), "https://a.example/") << "a final sigma in the word, another one in the title";
+    EXPECT_EQ(find(u"ΟΔΟΣ"_s), "https://b.example/");
+    EXPECT_EQ(find(u"Σ"_s), "https://a.example/ https://b.example/");
+    EXPECT_EQ(find(u"σίς 100%"_s), "");
 }
 
 TEST(HistoryQuery, aSiteIsFoundWithAndWithoutWwwAndPort)

@@ -3,6 +3,8 @@
 
 #include "Lists/Refine.h"
 
+#include "Model/LowerCase.h"
+
 namespace roamlet
 {
 
@@ -14,7 +16,7 @@ QString refineText(QStringView typed)
         typed = typed.sliced(1);
     while (!typed.isEmpty() && isSpace(typed.back()))
         typed.chop(1);
-    return typed.toString().toLower();
+    return lowerCased(typed.toString());
 }
 
 QStringList refineWords(const QString &text)

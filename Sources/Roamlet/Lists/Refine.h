@@ -4,6 +4,7 @@
 #pragma once
 
 #include "Lists/SortedRows.h"
+#include "Model/LowerCase.h"
 
 #include <QList>
 #include <QString>
@@ -46,8 +47,8 @@ QString refineText(QStringView typed);
 /// The words of such a text.
 QStringList refineWords(const QString &text);
 
-/// The rows whose `key` holds each of the words somewhere, in the order of `order`. Nothing when `stop` is
-/// requested on the way. Any thread.
+/// The rows whose `key` holds each of the words somewhere, both kinds of sigma being one letter, in the order
+/// of `order`. Nothing when `stop` is requested on the way. Any thread.
 template<typename Row, typename Key>
 std::optional<QList<Row>> refinedRows(const QList<Row> &rows, const QStringList &words,
                                       const QList<SortComparator<Row>> &order, const Key &key,
@@ -55,12 +56,19 @@ std::optional<QList<Row>> refinedRows(const QList<Row> &rows, const QStringList 
 {
     if (words.isEmpty())
         return sortedRows(rows, order, collation, stop);
+    const bool hasSigmas = std::ranges::any_of(words, hasSigma);
+    QStringList wanted;
+    for (const QString &word : words)
+        wanted.append(withPlainSigmas(word));
+    const auto holdsAll = [&wanted](const QString &text) {
+        return std::ranges::all_of(wanted, [&text](const QString &word) { return text.contains(word); });
+    };
     std::vector<const Row *> found;
     for (const Row &row : rows) {
         if (stop.stop_requested())
             return {};
         const auto &text = std::invoke(key, row);
-        if (std::ranges::all_of(words, [&text](const QString &word) { return text.contains(word); }))
+        if (hasSigmas ? holdsAll(withPlainSigmas(text)) : holdsAll(text))
             found.push_back(&row);
     }
     QList<Row> kept;

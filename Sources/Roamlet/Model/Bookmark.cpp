@@ -3,6 +3,7 @@
 
 #include "Model/Bookmark.h"
 
+#include "Model/LowerCase.h"
 #include "Model/Site.h"
 
 #include <utility>
@@ -42,7 +43,7 @@ Bookmark bookmark(const BookmarkNode &leaf, const QString &folder, const std::op
             .folderID = folderID,
             .dateAdded = leaf.dateAdded,
             .source = leaf.source,
-            .searchKey = QString(leaf.title % u'\n' % url % u'\n' % folder).toLower(),
+            .searchKey = lowerCased(leaf.title % u'\n' % url % u'\n' % folder),
             .site = Site::name(url).value_or(QString())};
 }
 

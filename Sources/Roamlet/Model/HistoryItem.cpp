@@ -3,6 +3,7 @@
 
 #include "Model/HistoryItem.h"
 
+#include "Model/LowerCase.h"
 #include "Model/Site.h"
 
 namespace roamlet
@@ -18,7 +19,7 @@ HistoryItem HistoryItem::ofRow(qint64 rowID, const QString &rowTitle, const QStr
             .lastVisit = visitedAt,
             .visitCount = visits,
             .source = from,
-            .searchKey = QString(shownTitle % u'\n' % rowUrl).toLower(),
+            .searchKey = lowerCased(shownTitle % u'\n' % rowUrl),
             .site = Site::name(rowUrl).value_or(QString())};
 }
 

@@ -3,6 +3,8 @@
 
 #include "Model/HistoryQuery.h"
 
+#include "Model/LowerCase.h"
+
 namespace roamlet
 {
 
@@ -34,7 +36,7 @@ QStringList sitePatterns(const std::optional<QString> &site)
 
 HistoryQuery HistoryQuery::matching(const QString &text, const std::optional<QString> &site, Order order)
 {
-    return {.words = text.toLower().split(u' ', Qt::SkipEmptyParts),
+    return {.words = lowerCased(text).split(u' ', Qt::SkipEmptyParts),
             .site = site,
             .order = order,
             .limit = defaultLimit};
@@ -43,8 +45,10 @@ HistoryQuery HistoryQuery::matching(const QString &text, const std::optional<QSt
 QString HistoryQuery::conditions(const QString &text, const QString &url) const
 {
     QString result;
-    for (qsizetype i = 0; i < words.size(); ++i)
-        result += u" AND " % text % u' ' % likeClause;
+    for (const QString &word : words) {
+        const QString searched = hasSigma(word) ? QString(u"replace(" % text % u", 'ς', 'σ')") : text;
+        result += u" AND " % searched % u' ' % likeClause;
+    }
     if (site) {
         const QString clause = url % u' ' % likeClause;
         const QStringList clauses(sitePatterns(site).size(), clause);
@@ -58,7 +62,7 @@ QStringList HistoryQuery::patterns() const
     QStringList result;
     result.reserve(words.size() + 4);
     for (const QString &word : words)
-        result.append(u'%' % escaped(word) % u'%');
+        result.append(u'%' % escaped(withPlainSigmas(word)) % u'%');
     return result + sitePatterns(site);
 }
 

@@ -23,7 +23,7 @@ struct HistoryQuery {
 
     static constexpr qint64 defaultLimit = 1000;
 
-    /// Lower-cased words, each of which must occur.
+    /// Lower-cased words, each of which must occur, both kinds of sigma being one letter.
     QStringList words;
     /// Only this site, in the form of Site::name.
     std::optional<QString> site;

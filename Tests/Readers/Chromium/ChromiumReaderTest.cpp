@@ -347,6 +347,14 @@ TEST_F(ChromiumHistory, everyWordMustOccurInTheAddressOrTheTitle)
     EXPECT_EQ(found(u" "_s).size(), 3);
 }
 
+TEST_F(ChromiumHistory, aSigmaIsFoundWhereverItStandsInAWord)
+{
+    write({{.url = u"https://a.example/"_s, .title = u"ο σίσυφος"_s, .lastVisitTime = 2},
+           {.url = u"https://b.example/"_s, .lastVisitTime = 1}});
+    for (const QString &text : {u"ΣΊΣΥΦΟΣ"_s, u"σίσυφος"_s, u"ΣΊΣ"_s, u"ΦΟΣ Ο"_s})
+        EXPECT_EQ(found(text), QStringList{u"ο σίσυφος"_s}) << text.toStdString();
+}
+
 TEST_F(ChromiumHistory, wordsAreMeantLiterally)
 {
     write({{.url = u"https://a.example/"_s, .title = u"100% sure_thing C:\\"_s, .lastVisitTime = 2},
