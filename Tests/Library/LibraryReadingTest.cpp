@@ -193,6 +193,26 @@ TEST_F(LibraryReadingTest, ARefusalEmptiesThePartAndIsNotTriedAgain)
     EXPECT_EQ(titles(library.snapshot().history), QStringList{u"s1"_s});
 }
 
+TEST_F(LibraryReadingTest, ATemporaryFolderThatRefusesBlocksNobodyAndLeavesWhatIsKnown)
+{
+    addChromium();
+    addSafari();
+    addSafariProfile();
+    Library library(home.platform());
+    loadNow(library);
+    const Library::Snapshot before = library.snapshot();
+    ASSERT_EQ(titles(before.history).size(), 6);
+    home.files.privateFolderFailure = std::make_error_code(std::errc::permission_denied);
+    loadNow(library, QSet<QString>{u"safari"_s, u"chrome/Default"_s});
+    EXPECT_FALSE(library.snapshot().safariBlocked);
+    EXPECT_EQ(library.snapshot().history, before.history);
+    EXPECT_EQ(library.snapshot().sourceFavicons, before.sourceFavicons);
+    EXPECT_EQ(library.snapshot().problems.value(u"safari"_s),
+              QString(u"Couldn't read " % safariFile(u"History.db"_s) % u": cannot make a copy in " %
+                      home.temporary() % u": Permission denied"));
+    EXPECT_FALSE(home.clock.sleeps().empty()) << "it may pass: it is tried again";
+}
+
 TEST_F(LibraryReadingTest, BesideARefusalAnotherFailureIsNotTriedAgainEither)
 {
     addSafari();

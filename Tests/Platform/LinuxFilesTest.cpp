@@ -22,6 +22,7 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <optional>
 #include <thread>
 
 namespace roamlet::testing
@@ -110,7 +111,15 @@ protected:
 
     std::error_code copy(const QString &source, const QString &target, const std::stop_token &stop = {}) const
     {
-        return files.copy(source, target, stop);
+        const auto copied = files.copy(source, target, stop);
+        return copied ? std::error_code{} : copied.error().code;
+    }
+
+    /// The side on which a copy fails; absent when it does not.
+    std::optional<CopyError::Side> failingSide(const QString &source, const QString &target) const
+    {
+        const auto copied = files.copy(source, target, {});
+        return copied ? std::nullopt : std::optional(copied.error().side);
     }
 
     /// What may stand in the place of a file and is none, each by its path.
@@ -404,6 +413,32 @@ TEST_F(LinuxFilesTest, copyingTellsWhyItFailed)
         EXPECT_EQ(copy(source, target), std::errc::permission_denied);
         EXPECT_FALSE(isThere(target));
     }
+}
+
+TEST_F(LinuxFilesTest, copyingTellsOnWhichSideItFailed)
+{
+    using Side = CopyError::Side;
+    const QString source = file(u"source"_s, bytes(4 << 20));
+    const QString target = path(u"target"_s);
+    EXPECT_EQ(failingSide(path(u"missing"_s), target), Side::Source);
+    EXPECT_EQ(failingSide(path({}), target), Side::Source);
+    EXPECT_EQ(failingSide(source, path(u"missing/target"_s)), Side::Target);
+    EXPECT_EQ(failingSide(source, source), Side::Target);
+    {
+        const FileSizeLimit limit(1 << 20);
+        EXPECT_EQ(failingSide(source, target), Side::Target);
+    }
+    EXPECT_EQ(failingSide(source, target), std::nullopt);
+
+    ASSERT_TRUE(QDir().mkpath(path(u"closed"_s)));
+    setPermissions(path({}), 0755);
+    setPermissions(path(u"closed"_s), 0555);
+    const std::optional<Side> closed = [&] {
+        const WithoutPrivileges guard;
+        return guard.arePermissionsChecked() ? failingSide(source, path(u"closed/target"_s)) : Side::Target;
+    }();
+    setPermissions(path(u"closed"_s), 0755);
+    EXPECT_EQ(closed, Side::Target);
 }
 
 TEST_F(LinuxFilesTest, aCopyThatFindsNoRoomLeavesNothing)

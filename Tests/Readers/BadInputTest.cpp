@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
-#include "Readers/Files/BinaryPropertyList.h"
 #include "Readers/EveryReader.h"
+#include "Readers/Files/BinaryPropertyList.h"
 #include "Readers/Safari/SafariReader.h"
 #include "SampleHome/PlainFiles.h"
 #include "SampleHome/SampleText.h"
@@ -412,16 +412,23 @@ TEST_F(BadInput, aFullOrUnusableTemporaryFolderIsUnreadableWithTheReason)
     for (const Reading &reading : readings) {
         if (!reading.isDatabase || !reading.reportsErrors)
             continue;
-        refuse(reading.path, std::errc::no_space_on_device);
-        EXPECT_EQ(reading.read(context()), ReadError::unreadable(reading.path, u"No space left on device"_s));
-        refuse(reading.path, std::errc::read_only_file_system);
-        EXPECT_EQ(reading.read(context()), ReadError::unreadable(reading.path, u"Read-only file system"_s));
-        home.files.failure = {};
+        const auto noCopy = [&reading](const QString &temporary, const QString &reason) {
+            return ReadError::unreadable(reading.path,
+                                         u"cannot make a copy in " % temporary % u": " % reason);
+        };
+        for (const auto &[error, reason] :
+             {std::pair(std::errc::no_space_on_device, u"No space left on device"_s),
+              std::pair(std::errc::read_only_file_system, u"Read-only file system"_s),
+              std::pair(std::errc::permission_denied, u"Permission denied"_s)}) {
+            home.files.privateFolderFailure = std::make_error_code(error);
+            EXPECT_EQ(reading.read(context()), noCopy(home.temporary(), reason));
+        }
+        home.files.privateFolderFailure = {};
         ReadContext below = context();
         below.folders.temporary = reading.path % u"/below";
-        EXPECT_EQ(reading.read(below), ReadError::unreadable(reading.path, u"Not a directory"_s));
+        EXPECT_EQ(reading.read(below), noCopy(below.folders.temporary, u"Not a directory"_s));
         below.folders.temporary = u"/proc/nowhere"_s;
-        EXPECT_EQ(reading.read(below), ReadError::unreadable(reading.path, u"No such file or directory"_s));
+        EXPECT_EQ(reading.read(below), noCopy(below.folders.temporary, u"No such file or directory"_s));
     }
 }
 

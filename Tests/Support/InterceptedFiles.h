@@ -17,6 +17,8 @@ public:
     /// Asked before a file is read or copied; an error is answered in its place. Called on the reading
     /// thread.
     std::function<std::error_code(const QString &path)> failure;
+    /// Answered in the place of making a private folder.
+    std::error_code privateFolderFailure;
     /// Called after a file was copied, before anybody looks at its stamp again. Called on the reading thread.
     std::function<void(const QString &source)> afterCopy;
 
@@ -27,15 +29,20 @@ public:
         return LinuxFiles::read(path);
     }
 
-    std::error_code copy(const QString &source, const QString &target,
-                         const std::stop_token &stop) const override
+    std::expected<void, CopyError> copy(const QString &source, const QString &target,
+                                        const std::stop_token &stop) const override
     {
         if (const std::error_code error = failureOf(source))
-            return error;
-        const std::error_code error = LinuxFiles::copy(source, target, stop);
-        if (!error && afterCopy)
+            return std::unexpected(CopyError{.side = CopyError::Side::Source, .code = error});
+        const auto copied = LinuxFiles::copy(source, target, stop);
+        if (copied && afterCopy)
             afterCopy(source);
-        return error;
+        return copied;
+    }
+
+    std::error_code makePrivateFolder(const QString &path) const override
+    {
+        return privateFolderFailure ? privateFolderFailure : LinuxFiles::makePrivateFolder(path);
     }
 
 private:

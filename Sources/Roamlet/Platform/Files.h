@@ -15,6 +15,16 @@
 namespace roamlet
 {
 
+/// Why a copy could not be made.
+struct CopyError {
+    /// What could not be read or written. A copy that was interrupted failed on neither side; it counts as
+    /// the source's.
+    enum class Side { Source, Target };
+
+    Side side = Side::Source;
+    std::error_code code;
+};
+
 /// What is needed of the file system. All operations may be called from any thread. Nothing here ever opens
 /// one of the given sources for writing, and nothing blocks on a pipe or a device that stands where a file is
 /// expected.
@@ -35,8 +45,8 @@ public:
     virtual std::expected<QByteArray, std::error_code> read(const QString &path) const = 0;
     /// Copies the bytes of `source` into a new file that only the user can read. A copy that fails, or that
     /// `stop` interrupts (std::errc::operation_canceled), leaves no file.
-    virtual std::error_code copy(const QString &source, const QString &target,
-                                 const std::stop_token &stop) const = 0;
+    virtual std::expected<void, CopyError> copy(const QString &source, const QString &target,
+                                                const std::stop_token &stop) const = 0;
     /// Makes a folder that only the user can enter, and the folders above it.
     virtual std::error_code makePrivateFolder(const QString &path) const = 0;
     /// Removes a folder with everything in it, without following links. A failure is ignored.

@@ -85,7 +85,8 @@ TEST_F(ProgramHomesTest, withoutATemporaryFolderTheSummarySaysWhy)
     EXPECT_THAT(lines[0], StartsWith("Chrome - Personal  "));
     EXPECT_THAT(lines[0], HasSubstr("  0 history URLs"));
     EXPECT_THAT(lines[1], HasSubstr("Couldn't read " + home.chrome(u"Default/History"_s).toStdString() +
-                                    ": Not a directory"));
+                                    ": cannot make a copy in " + home.temporary().toStdString() +
+                                    "/file/below: Not a directory"));
     EXPECT_THAT(linesOf({u"--search"_s}), ElementsAre(StartsWith("0 matches, not capped, in ")));
     EXPECT_THAT(linesOf({u"--top"_s}), ElementsAre(StartsWith("0 URLs in ")));
 }

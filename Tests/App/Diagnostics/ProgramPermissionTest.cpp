@@ -25,6 +25,7 @@ namespace
 using ::testing::AllOf;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
+using ::testing::Not;
 using ::testing::StartsWith;
 
 /// Whether a user who owns nothing can come as far as this file.
@@ -120,12 +121,22 @@ TEST_F(ProgramPermissionTest, aRefusedSafariIsReportedAsBlocked)
     EXPECT_EQ(lines[lines.size() - 2], "Safari is blocked: grant Full Disk Access.");
 }
 
-TEST_F(ProgramPermissionTest, aTemporaryFolderThatRefusesIsNoCrash)
+TEST_F(ProgramPermissionTest, aTemporaryFolderThatRefusesIsNotBlamedOnTheBrowser)
 {
+    const QString safari = home.path(u"Library/Safari/History.db"_s);
+    sample::writeFile(safari, "any");
     forbid(home.temporary(), 0500);
     const auto lines = linesOf({u"--summary"_s});
-    EXPECT_THAT(lines[1], HasSubstr("Default/History"));
-    EXPECT_THAT(linesOf({u"--top"_s}), ElementsAre(StartsWith("0 URLs in ")));
+    const auto problem = [this](const QString &file) {
+        return "  ! Couldn't read " + file.toStdString() + ": cannot make a copy in " +
+               home.temporary().toStdString() + ": Permission denied";
+    };
+    EXPECT_THAT(lines, ::testing::Contains(problem(safari)));
+    EXPECT_THAT(lines, ::testing::Contains(problem(home.chrome(u"Default/History"_s))));
+    for (const std::string &line : lines) {
+        EXPECT_THAT(line, Not(HasSubstr("macOS blocked")));
+        EXPECT_THAT(line, Not(HasSubstr("Safari is blocked")));
+    }
 }
 
 } // namespace roamlet::testing

@@ -3,6 +3,8 @@
 
 #include "Readers/Files/SQLiteSnapshot.h"
 
+#include "Platform/FileSizeLimit.h"
+#include "Platform/WithoutPrivileges.h"
 #include "Readers/ReaderTest.h"
 #include "SampleHome/PlainFiles.h"
 #include "SampleHome/SqliteFile.h"
@@ -330,7 +332,7 @@ TEST_F(SQLiteSnapshotTest, makesAMissingTemporaryFolder)
     EXPECT_EQ(query(*snapshot, u"SELECT v FROM t"_s), QStringList{u"value"_s});
 }
 
-TEST_F(SQLiteSnapshotTest, aTemporaryFolderThatCannotBeMadeIsUnreadableWithTheSystemsReason)
+TEST_F(SQLiteSnapshotTest, aTemporaryFolderThatCannotBeMadeIsUnreadableAndNamed)
 {
     write({});
     const QString file = home.temporary() % u"/file";
@@ -340,8 +342,54 @@ TEST_F(SQLiteSnapshotTest, aTemporaryFolderThatCannotBeMadeIsUnreadableWithTheSy
         reading.folders.temporary = temporary;
         const auto snapshot = SQLiteSnapshot::copying(source, reading);
         ASSERT_FALSE(snapshot.has_value());
-        EXPECT_EQ(snapshot.error(), ReadError::unreadable(source, u"Not a directory"_s));
+        EXPECT_EQ(snapshot.error(), ReadError::unreadable(source, u"cannot make a copy in "_s % temporary %
+                                                                      u": Not a directory"));
     }
+}
+
+TEST_F(SQLiteSnapshotTest, aTemporaryFolderThatRefusesIsNoRefusalOfTheBrowsersFile)
+{
+    write({});
+    const auto setMode = [](const QString &path, mode_t mode) {
+        ASSERT_EQ(::chmod(QFile::encodeName(path).constData(), mode), 0);
+    };
+    for (const QString &path : {QFileInfo(home.path()).path(), home.path(), QFileInfo(source).path()})
+        setMode(path, 0755);
+    setMode(source, 0644);
+    setMode(home.temporary(), 0555);
+    {
+        const WithoutPrivileges guard;
+        if (guard.arePermissionsChecked()) {
+            EXPECT_EQ(errorOfCopying(),
+                      ReadError::unreadable(source, u"cannot make a copy in "_s % home.temporary() %
+                                                        u": Permission denied"));
+        }
+    }
+    setMode(home.temporary(), 0755);
+}
+
+TEST_F(SQLiteSnapshotTest, aCopyThatFindsNoRoomIsUnreadableAndNamesTheTemporaryFolder)
+{
+    const ReadError noRoom =
+        ReadError::unreadable(source, u"cannot make a copy in "_s % home.temporary() % u": File too large");
+    sample::writeFile(source, QByteArray(300'000, 'x'));
+    {
+        const FileSizeLimit limit(100'000);
+        EXPECT_EQ(errorOfCopying(), noRoom);
+    }
+    EXPECT_EQ(foldersLeft(), QStringList());
+
+    for (const QString &suffix : {u"-wal"_s, u"-shm"_s, u"-journal"_s}) {
+        change([&] {
+            write({u"an older value"_s});
+            sample::writeFile(source % suffix, QByteArray(300'000, 'x'));
+        });
+        const FileSizeLimit limit(100'000);
+        EXPECT_EQ(errorOfCopying(), noRoom)
+            << "without its log it would be older than the database: " << suffix.toStdString();
+        change([&] { QFile::remove(source % suffix); });
+    }
+    EXPECT_EQ(foldersLeft(), QStringList());
 }
 
 TEST_F(SQLiteSnapshotTest, bindsParametersAsTextInTheirOrder)

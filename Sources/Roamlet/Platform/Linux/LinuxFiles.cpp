@@ -84,8 +84,20 @@ std::expected<OpenFile, std::error_code> openForReading(const QString &path)
     return OpenFile{std::move(file), static_cast<size_t>(attributes.st_size)};
 }
 
-/// For file systems between which the kernel does not copy by itself.
-std::error_code copyThroughMemory(int source, int target, const std::stop_token &stop)
+using Copied = std::expected<void, CopyError>;
+
+Copied failed(CopyError::Side side, std::error_code code)
+{
+    return std::unexpected(CopyError{.side = side, .code = code});
+}
+
+Copied interrupted()
+{
+    return failed(CopyError::Side::Source, std::make_error_code(std::errc::operation_canceled));
+}
+
+/// Copies what is left from where the two files stand. It also tells which of them is to blame.
+Copied copyThroughMemory(int source, int target, const std::stop_token &stop)
 {
     std::vector<char> buffer(bytesPerRead);
     while (!stop.stop_requested()) {
@@ -93,34 +105,30 @@ std::error_code copyThroughMemory(int source, int target, const std::stop_token 
         if (count < 0 && errno == EINTR)
             continue;
         if (count < 0)
-            return lastError();
+            return failed(CopyError::Side::Source, lastError());
         if (count == 0)
             return {};
         if (const std::error_code error = writeAll(target, QByteArrayView(buffer.data(), count)))
-            return error;
+            return failed(CopyError::Side::Target, error);
     }
-    return std::make_error_code(std::errc::operation_canceled);
+    return interrupted();
 }
 
-std::error_code copyContent(int source, int target, const std::stop_token &stop)
+Copied copyContent(int source, int target, const std::stop_token &stop)
 {
     if (ioctl(target, FICLONE, source) == 0)
         return {};
-    bool hasBegun = false;
     while (!stop.stop_requested()) {
         const ssize_t count = copy_file_range(source, nullptr, target, nullptr, bytesPerCopy, 0);
         if (count == 0)
             return {};
         if (count < 0 && errno == EINTR)
             continue;
-        // File systems refuse this for reasons of their own; a real fault shows itself when reading, too.
-        if (count < 0 && !hasBegun)
-            return copyThroughMemory(source, target, stop);
+        // File systems refuse this for reasons of their own; a real fault shows itself there, too.
         if (count < 0)
-            return lastError();
-        hasBegun = true;
+            return copyThroughMemory(source, target, stop);
     }
-    return std::make_error_code(std::errc::operation_canceled);
+    return interrupted();
 }
 
 } // namespace
@@ -166,24 +174,24 @@ std::expected<QByteArray, std::error_code> LinuxFiles::read(const QString &path)
     }
 }
 
-std::error_code LinuxFiles::copy(const QString &source, const QString &target,
-                                 const std::stop_token &stop) const
+std::expected<void, CopyError> LinuxFiles::copy(const QString &source, const QString &target,
+                                                const std::stop_token &stop) const
 {
     const auto original = openForReading(source);
     if (!original)
-        return original.error();
+        return failed(CopyError::Side::Source, original.error());
     const QByteArray name = QFile::encodeName(target);
     FileDescriptor duplicate(
         ::open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, onlyTheUserReads));
     if (!duplicate.isOpen())
-        return lastError();
-    std::error_code error = copyContent(original->descriptor.get(), duplicate.get(), stop);
+        return failed(CopyError::Side::Target, lastError());
+    Copied copied = copyContent(original->descriptor.get(), duplicate.get(), stop);
     const std::error_code closeError = duplicate.close();
-    if (!error)
-        error = closeError;
-    if (error)
+    if (copied && closeError)
+        copied = failed(CopyError::Side::Target, closeError);
+    if (!copied)
         ::unlink(name.constData());
-    return error;
+    return copied;
 }
 
 std::error_code LinuxFiles::makePrivateFolder(const QString &path) const

@@ -15,8 +15,8 @@ public:
     bool exists(const QString &path) const override;
     QString fileStamp(const QString &path) const override;
     std::expected<QByteArray, std::error_code> read(const QString &path) const override;
-    std::error_code copy(const QString &source, const QString &target,
-                         const std::stop_token &stop) const override;
+    std::expected<void, CopyError> copy(const QString &source, const QString &target,
+                                        const std::stop_token &stop) const override;
     std::error_code makePrivateFolder(const QString &path) const override;
     void removeFolder(const QString &path) const override;
     QStringList names(const QString &folder) const override;

@@ -117,22 +117,24 @@ public:
     QString folder() const { return m_folder; }
     QString path() const { return m_folder % u'/' % QFileInfo(m_source).fileName(); }
 
-    std::error_code make(const std::stop_token &stop)
+    std::expected<void, ReadError> make(const std::stop_token &stop)
     {
         for (int attempt = 1; attempt <= attempts; ++attempt) {
             m_files.removeFolder(m_folder);
             if (const std::error_code error = m_files.makePrivateFolder(m_folder))
-                return error;
+                return std::unexpected(noRoom(error));
             const QString before = stamp(m_files, m_source);
-            if (const std::error_code error = m_files.copy(m_source, path(), stop))
-                return error;
+            if (const auto copied = m_files.copy(m_source, path(), stop); !copied)
+                return std::unexpected(errorOf(copied.error()));
             for (const QLatin1StringView suffix : sidecars) {
-                // Most often there is none.
-                static_cast<void>(m_files.copy(m_source + suffix, path() + suffix, stop));
+                const auto copied = m_files.copy(m_source + suffix, path() + suffix, stop);
+                // Most often there is none. A copy without its logs is worse than none.
+                if (!copied && copied.error().side == CopyError::Side::Target)
+                    return std::unexpected(errorOf(copied.error()));
             }
-            // A copy without its logs is worse than none.
             if (stop.stop_requested())
-                return std::make_error_code(std::errc::operation_canceled);
+                return std::unexpected(
+                    ReadError::wrap(std::make_error_code(std::errc::operation_canceled), m_source));
             if (stamp(m_files, m_source) == before)
                 break;
         }
@@ -140,6 +142,19 @@ public:
     }
 
 private:
+    ReadError errorOf(const CopyError &error) const
+    {
+        return error.side == CopyError::Side::Target ? noRoom(error.code)
+                                                     : ReadError::wrap(error.code, m_source);
+    }
+
+    /// The browser's file may be as it should: whatever kind of failure this is, it is none of the browser's.
+    ReadError noRoom(std::error_code error) const
+    {
+        return ReadError::unreadable(m_source, u"cannot make a copy in " % QFileInfo(m_folder).path() %
+                                                   u": " % QString::fromStdString(error.message()));
+    }
+
     const Files &m_files;
     QString m_source;
     QString m_folder;
@@ -234,8 +249,8 @@ std::expected<SQLiteSnapshot, ReadError> SQLiteSnapshot::copying(const QString &
                                                                  const ReadContext &context)
 {
     auto copy = std::make_unique<Copy>(*context.files, context.folders.temporary, source);
-    if (const std::error_code error = copy->make(context.stop))
-        return std::unexpected(ReadError::wrap(error, source));
+    if (const auto made = copy->make(context.stop); !made)
+        return std::unexpected(made.error());
     auto connection = std::make_unique<Connection>(context.stop);
     if (const auto opened = connection->open(copy->path()); !opened)
         return std::unexpected(ReadError::unreadable(source, opened.error()));
