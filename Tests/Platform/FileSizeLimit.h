@@ -9,7 +9,8 @@
 namespace roamlet::testing
 {
 
-/// No file can grow beyond this size for as long as this lives, as on a disk that is full.
+/// No file can grow beyond this size for as long as this lives, as on a disk that is full. Until then this
+/// process ignores the signal for it, as the program does from its start.
 class FileSizeLimit
 {
 public:

@@ -3,6 +3,7 @@
 
 #include "App/Diagnostics/DiagnosticRun.h"
 #include "App/WindowModule.h"
+#include "Platform/Linux/LinuxIO.h"
 #include "Platform/Linux/ProgramModule.h"
 
 #include <cstdio>
@@ -28,6 +29,7 @@ int runWindows(int argc, char **argv)
 
 int main(int argc, char **argv)
 {
+    roamlet::ignoreFileSizeSignal();
     if (const std::optional<int> status = roamlet::DiagnosticRun::run(argc, argv))
         return *status;
     return runWindows(argc, argv);

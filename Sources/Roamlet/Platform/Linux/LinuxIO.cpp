@@ -3,6 +3,7 @@
 
 #include "Platform/Linux/LinuxIO.h"
 
+#include <signal.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -25,6 +26,11 @@ std::error_code writeAll(int descriptor, QByteArrayView bytes)
             return lastError();
     }
     return {};
+}
+
+void ignoreFileSizeSignal()
+{
+    signal(SIGXFSZ, SIG_IGN);
 }
 
 } // namespace roamlet

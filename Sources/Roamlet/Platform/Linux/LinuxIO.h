@@ -14,5 +14,9 @@ namespace roamlet
 std::error_code lastError();
 /// Writes all the bytes to a file descriptor, however many calls that takes.
 std::error_code writeAll(int descriptor, QByteArrayView bytes);
+/// Lets a file that may not grow any more (RLIMIT_FSIZE) be an error to its writer, as a full disk is.
+/// Otherwise the system ends the process in the middle of its work. For the whole process, and what it starts
+/// inherits it.
+void ignoreFileSizeSignal();
 
 } // namespace roamlet

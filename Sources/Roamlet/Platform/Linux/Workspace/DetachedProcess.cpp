@@ -36,6 +36,7 @@ void prepareChild(void * /*unused*/)
     // A session of its own: what is typed into our terminal is not meant for it.
     setsid();
     signal(SIGPIPE, SIG_DFL);
+    signal(SIGXFSZ, SIG_DFL);
     sigset_t none;
     sigemptyset(&none);
     pthread_sigmask(SIG_SETMASK, &none, nullptr);
