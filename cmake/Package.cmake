@@ -27,8 +27,9 @@ set(CPACK_PACKAGE_VENDOR "The Roamlet authors")
 set(CPACK_PACKAGE_CONTACT ${ROAMLET_PACKAGE_CONTACT})
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "history and bookmarks of all your browsers in one place")
 set(CPACK_PACKAGE_DESCRIPTION
-"Roamlet gathers the history, the bookmarks and the site icons of Safari, Google
-Chrome, Chromium and Microsoft Edge, every profile of each, and finds a page in
+"Roamlet gathers the history, the bookmarks and the site icons of Firefox,
+LibreWolf, Waterfox, Floorp, Zen, Google Chrome, Chromium, Microsoft Edge,
+Brave, Vivaldi, Opera and Safari, every profile of each, and finds a page in
 all of them at once. A page opens in the browser and the profile that it came
 from, and bookmarks can be exported as HTML, Markdown or CSV.
 

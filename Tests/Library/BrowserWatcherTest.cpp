@@ -6,6 +6,7 @@
 #include "Platform/Linux/InotifyFileEvents.h"
 #include "SampleHome/PlainFiles.h"
 #include "Support/LibraryHome.h"
+#include "Support/Sources.h"
 #include "Support/Waiting.h"
 
 #include <QFile>
@@ -43,6 +44,8 @@ TEST_F(BrowserWatcherTest, filesBelongToTheSourceInWhoseFolderTheyLie)
         {chromeFile(u"Default/History-wal"_s), u"chrome/Default"_s},
         {chromeFile(u"Default/Bookmarks"_s), u"chrome/Default"_s},
         {chromeFile(u"Profile 1/Bookmarks"_s), u"chrome/Profile 1"_s},
+        {chromeFile(u"Default/AccountBookmarks"_s), u"chrome/Default"_s},
+        {chromeFile(u"Default/EncryptedBookmarks2"_s), u"chrome/Default"_s},
         {chromeFile(u"Default/Favicons"_s), {}},
         {chromeFile(u"Default/History-journal"_s), {}},
         {chromeFile(u"Default/history"_s), {}},
@@ -155,6 +158,55 @@ TEST_F(BrowserWatcherTest, safarisFoldersAreAskedForFirst)
         folders.indexOf(home.path(u"Library/Application Support/Microsoft Edge"_s))};
     EXPECT_FALSE(places.contains(-1));
     EXPECT_TRUE(std::ranges::is_sorted(places));
+}
+
+TEST_F(BrowserWatcherTest, everyInstallationsFilesAreItsOwn)
+{
+    const QString beta = home.path(u".config/google-chrome-beta"_s);
+    const QString firefox = home.path(u".mozilla/firefox"_s);
+    change([&] {
+        sample::writeFile(beta % u"/Local State", "{}");
+        sample::writeFile(firefox % u"/profiles.ini", "");
+    });
+    EXPECT_EQ(sourceID(beta % u"/Default/History"), u"chrome@beta/Default"_s);
+    EXPECT_EQ(sourceID(firefox % u"/abc.default/places.sqlite"), u"firefox/abc.default"_s);
+    EXPECT_EQ(sourceID(firefox % u"/abc.default/places.sqlite-wal"), u"firefox/abc.default"_s);
+    for (const QString &name : {u"abc.default/favicons.sqlite"_s, u"abc.default/History"_s, u"profiles.ini"_s,
+                                u"places.sqlite"_s, u"Profile Groups/1a2b.sqlite"_s})
+        EXPECT_EQ(sourceID(firefox % u'/' % name), std::nullopt) << qPrintable(name);
+}
+
+TEST_F(BrowserWatcherTest, profilesThatLieElsewhereAreFollowed)
+{
+    const QString opera = home.path(u".config/opera"_s);
+    const QString side = opera % u"/_side_profiles/Work/Default";
+    const QString far = home.path(u"elsewhere/profile"_s);
+    change([&] {
+        sample::writeFile(opera % u"/Local State", "{}");
+        sample::writeFile(opera % u"/History", "x");
+        sample::writeFile(side % u"/History", "x");
+        sample::writeFile(home.path(u".mozilla/firefox/profiles.ini"_s), "");
+        sample::writeFile(far % u"/places.sqlite", "x");
+    });
+    QList<QSet<QString>> reports;
+    BrowserWatcher watcher(home.platform(),
+                           [&reports](const QSet<QString> &report) { reports.append(report); });
+    home.fileEvents.report({opera % u"/History", side % u"/History", far % u"/places.sqlite"});
+    EXPECT_TRUE(reports.isEmpty()) << "nobody knows of them yet";
+    watcher.setProfiles({profileOf(browserKind(u"opera"), u""_s),
+                         profileOf(browserKind(u"opera"), u"_side_profiles/Work/Default"_s),
+                         profileOf(browserKind(u"firefox"), far),
+                         profileOf(Source::Kind::Chrome, u"Default"_s), Source::safari()});
+    for (const QString &folder : {opera, side, far})
+        EXPECT_TRUE(home.fileEvents.watchedFolders.contains(folder)) << qPrintable(folder);
+    home.fileEvents.report({opera % u"/History", side % u"/History", far % u"/places.sqlite",
+                            opera % u"/Local State", far % u"/favicons.sqlite"});
+    EXPECT_EQ(reports, QList<QSet<QString>>({{u"opera/"_s, u"opera/_side_profiles/Work/Default"_s,
+                                              QString(u"firefox/" % far)}}));
+    watcher.setProfiles({});
+    change([&] { sample::writeFile(side % u"/History", "longer"); });
+    home.fileEvents.report({side % u"/History"});
+    EXPECT_EQ(reports.size(), 1) << "a profile that is gone is no longer followed";
 }
 
 TEST_F(BrowserWatcherTest, aBrowserThatIsInstalledLaterElsewhereIsKnown)

@@ -415,3 +415,112 @@ TEST_F(LinuxWorkspaceTest, aSystemUrlThatNobodyHandlesOpensNothing)
 }
 
 TEST_F(LinuxWorkspaceTest, startedProgramsGetTheSignalsThatThisOneBlocksOrIgnores)
+{
+    sigset_t mask;
+    sigset_t previous;
+    sigemptyset(&mask);
+    for (const int number : {SIGINT, SIGTERM, SIGHUP})
+        sigaddset(&mask, number);
+    ASSERT_EQ(pthread_sigmask(SIG_BLOCK, &mask, &previous), 0);
+    const auto previousPipeHandler = signal(SIGPIPE, SIG_IGN);
+    const auto previousSizeHandler = signal(SIGXFSZ, SIG_IGN);
+    desktop.addApplication(u"google-chrome.desktop"_s, u"chrome"_s);
+    workspace.openInProfile({u"http://a/"_s}, profileOf(Source::Kind::Chrome, u"Default"_s));
+    workspace.open({u"http://a/"_s}, Source::Kind::Chrome);
+    workspace.finishStarts();
+    signal(SIGPIPE, previousPipeHandler);
+    signal(SIGXFSZ, previousSizeHandler);
+    pthread_sigmask(SIG_SETMASK, &previous, nullptr);
+
+    const QList<FakeDesktop::Start> started = starts();
+    ASSERT_EQ(started.size(), 2);
+    for (const FakeDesktop::Start &start : started) {
+        EXPECT_EQ(start.blockedSignals.toULongLong(nullptr, 16), 0U);
+        for (const int number : {SIGPIPE, SIGXFSZ})
+            EXPECT_EQ(start.ignoredSignals.toULongLong(nullptr, 16) & (1ULL << (number - 1)), 0U) << number;
+    }
+}
+
+TEST_F(LinuxWorkspaceTest, noStartedProgramBecomesAZombie)
+{
+    // As a user's session has it: whom nobody waits for falls to another process.
+    ASSERT_EQ(prctl(PR_SET_CHILD_SUBREAPER, 0), 0);
+    desktop.addApplication(u"google-chrome.desktop"_s, u"chrome"_s);
+    workspace.openInProfile({u"http://a/"_s}, profileOf(Source::Kind::Chrome, u"Default"_s));
+    workspace.open({u"http://a/"_s}, Source::Kind::Chrome);
+    workspace.finishStarts();
+    EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1);
+    EXPECT_EQ(errno, ECHILD) << "a child is left that somebody would have to wait for";
+}
+
+TEST_F(LinuxWorkspaceTest, whoeverAsksIsNotHeldUpByTheStart)
+{
+    // Copying a process for a start takes its time.
+    static thread_local int copiesByThisThread = 0;
+    ASSERT_EQ(pthread_atfork([] { ++copiesByThisThread; }, nullptr, nullptr), 0);
+    desktop.addApplication(u"google-chrome.desktop"_s, u"chrome"_s);
+    workspace.openInProfile({u"http://a/"_s}, profileOf(Source::Kind::Chrome, u"Default"_s));
+    workspace.open({u"http://b/"_s}, Source::Kind::Chrome);
+    workspace.open({u"http://c/"_s}, Source::Kind::Safari);
+    workspace.openSystemURL(u"settings:privacy"_s);
+    workspace.showPage(u"chrome://history/"_s, profileOf(Source::Kind::Chrome, u"Default"_s));
+    EXPECT_EQ(starts().size(), 5);
+    EXPECT_EQ(copiesByThisThread, 0);
+}
+
+TEST_F(LinuxWorkspaceTest, aPageIsTypedIntoABlankTabOfTheProfile)
+{
+    desktop.addEntry(u"google-chrome.desktop"_s, desktop.addProgram(u"chrome"_s) % u" %U",
+                     u"StartupWMClass=My-Chrome\n"_s);
+    workspace.showPage(u"chrome://history/"_s, profileOf(Source::Kind::Chrome, u"Profile 1"_s));
+    EXPECT_EQ(onlyStart().arguments,
+              QStringList({u"--profile-directory=Profile 1"_s, u"--ignore-profile-directory-if-not-exists"_s,
+                           u"about:blank"_s}));
+    EXPECT_EQ(windows->askedClasses, QStringList({u"google-chrome"_s, u"My-Chrome"_s}));
+    windows->window = {.id = 7, .title = u"about:blank - Google Chrome"_s, .isActive = true};
+    home.clock.advance(1s);
+    EXPECT_EQ(windows->keys.value(2), u"7: chrome://history/");
+    EXPECT_TRUE(clipboard.isEmpty());
+}
+
+TEST_F(LinuxWorkspaceTest, aPageWithoutAProfileOpensInTheApplication)
+{
+    desktop.addApplication(u"microsoft-edge.desktop"_s, u"edge"_s);
+    workspace.showPage(u"edge://favorites/"_s, profileOf(Source::Kind::Edge, {}));
+    EXPECT_EQ(onlyStart().arguments, QStringList({u"about:blank"_s}));
+}
+
+TEST_F(LinuxWorkspaceTest, whereNoWindowCanBeSteeredTheAddressGoesToTheClipboard)
+{
+    desktop.addApplication(u"google-chrome.desktop"_s, u"chrome"_s);
+    windows->isSteerable = false;
+    workspace.showPage(u"chrome://bookmarks/?id=5"_s, profileOf(Source::Kind::Chrome, u"Default"_s));
+    EXPECT_EQ(onlyStart().arguments.value(2), u"about:blank");
+    EXPECT_EQ(clipboard, u"chrome://bookmarks/?id=5");
+    home.clock.advance(10s);
+    EXPECT_EQ(windows->looks, 0);
+}
+
+TEST(LinuxWorkspaceEnvironmentTest, noWindowIsSteeredInAWaylandSession)
+{
+    struct Case {
+        const char *waylandDisplay;
+        const char *sessionType;
+        QByteArray display;
+    };
+    const Case cases[] = {{"", "", ":7"}, {"", "x11", ":7"}, {"wayland-0", "", ""}, {"", "wayland", ""}};
+    const QByteArray previous[] = {qgetenv("DISPLAY"), qgetenv("WAYLAND_DISPLAY"),
+                                   qgetenv("XDG_SESSION_TYPE")};
+    for (const auto &[waylandDisplay, sessionType, display] : cases) {
+        qputenv("DISPLAY", ":7");
+        qputenv("WAYLAND_DISPLAY", waylandDisplay);
+        qputenv("XDG_SESSION_TYPE", sessionType);
+        EXPECT_EQ(LinuxWorkspace::Environment::ofThisProcess().display, display);
+    }
+    qputenv("DISPLAY", previous[0]);
+    qputenv("WAYLAND_DISPLAY", previous[1]);
+    qputenv("XDG_SESSION_TYPE", previous[2]);
+}
+
+} // namespace
+} // namespace roamlet::testing

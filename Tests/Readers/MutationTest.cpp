@@ -123,8 +123,8 @@ constexpr int mutationsOfJournal = 40;
 
 TEST_F(Mutations, doDamage)
 {
-    writeHome();
     const Reading &bookmarks = readings[5];
+    writeOnly(bookmarks);
     const QByteArray good = contentOf(bookmarks.path);
     int errors = 0;
     for (quint64 seed = 1; seed <= 100; ++seed) {

@@ -18,14 +18,14 @@ class FakeFileEvents final : public FileEvents
 public:
     std::unique_ptr<Stream> open(const QStringList &folders, Handler handler) override
     {
-        watchedFolders = folders;
+        watchedFolders += folders;
         if (!isAvailable)
             return nullptr;
         m_handler = std::move(handler);
         return std::make_unique<Stream>();
     }
 
-    /// Hands these paths to whoever opened the stream.
+    /// Hands these paths to whoever opened the last stream.
     void report(const QStringList &paths) const
     {
         if (m_handler)

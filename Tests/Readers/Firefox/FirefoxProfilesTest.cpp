@@ -36,7 +36,7 @@ protected:
     /// Lets a profile have a history, which only has to be there.
     void makeProfile(const QString &path, const QString &root = oldFolder)
     {
-        const QString folder = path.startsWith(u'/') ? path : home.path(root % path);
+        const QString folder = QDir::cleanPath(path.startsWith(u'/') ? path : home.path(root % path));
         change([&] { sample::writeFile(folder % u"/places.sqlite", "history"); });
     }
 
@@ -400,11 +400,11 @@ TEST_F(FirefoxProfilesTest, anUnusableListMeansNoProfiles)
     EXPECT_EQ(keys(), QStringList{u"a"_s});
 }
 
-TEST_F(FirefoxProfilesTest, aListOfAHundredMegabytesIsRead)
+TEST_F(FirefoxProfilesTest, aListOfManyMegabytesIsRead)
 {
     makeProfile(u"a"_s);
     makeProfile(u"b"_s);
-    constexpr qsizetype size = 100'000'000;
+    constexpr qsizetype size = 20'000'000;
     QByteArray text = "[Profile0]\nName=A\nIsRelative=1\nPath=a\n";
     for (int number = 1; number < 100'000; ++number)
         text += "[Profile" + QByteArray::number(number) + "]\nName=x\nPath=missing" +

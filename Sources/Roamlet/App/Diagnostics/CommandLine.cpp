@@ -55,8 +55,8 @@ QString Command::help()
 {
     return u"Usage: roamlet [SWITCH]\n"
            "\n"
-           "Roamlet gathers the history and the bookmarks of Safari, Chrome and Edge, every profile of\n"
-           "each, and never writes to the browsers' files.\n"
+           "Roamlet gathers the history and the bookmarks of all your browsers, every profile of each,\n"
+           "and never writes to the browsers' files.\n"
            "\n"
            "  --summary            what every profile holds\n"
            "  --search WORD...     pages whose title or address holds all the words, newest first\n"
