@@ -20,11 +20,20 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-/// Characters in UTF-16, big end first, what is broken replaced. A mark of the byte order is a character.
+/// Characters in UTF-16, big end first, halves of pairs replaced. A mark of the byte order is a character.
 QString utf16Text(QByteArrayView bytes)
 {
     using Flag = QStringConverter::Flag;
-    return QStringDecoder(QStringConverter::Utf16BE, Flag::Stateless | Flag::ConvertInitialBom)(bytes);
+    QString text =
+        QStringDecoder(QStringConverter::Utf16BE, Flag::Stateless | Flag::ConvertInitialBom)(bytes);
+    for (auto character = text.begin(); character != text.end(); ++character) {
+        const auto next = character + 1;
+        if (character->isHighSurrogate() && next != text.end() && next->isLowSurrogate())
+            character = next;
+        else if (character->isSurrogate())
+            *character = QChar::ReplacementCharacter;
+    }
+    return text;
 }
 
 /// Reads a binary property list: objects anywhere in the file, a table of their offsets, and a trailer that
