@@ -61,8 +61,11 @@ TEST(OptionalDateComparator, comparesEveryDateThereIs)
 
 TEST(OptionalDateComparator, isAValue)
 {
-    EXPECT_EQ(OptionalDateComparator{SortOrder::Reverse}, OptionalDateComparator{SortOrder::Reverse});
-    EXPECT_NE(OptionalDateComparator{SortOrder::Reverse}, OptionalDateComparator{SortOrder::Forward});
+    OptionalDateComparator turned;
+    EXPECT_EQ(turned, OptionalDateComparator{SortOrder::Forward}) << "as it is made";
+    turned.order = SortOrder::Reverse;
+    EXPECT_EQ(turned, OptionalDateComparator{SortOrder::Reverse});
+    EXPECT_NE(turned, OptionalDateComparator{SortOrder::Forward});
 }
 
 TEST(SortRank, hasTheOrderOfTheNumbers)

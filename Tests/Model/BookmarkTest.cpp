@@ -258,12 +258,15 @@ TEST(BookmarkNode, wideAndDeepTreesAreFlattenedWhole)
 
 TEST(BookmarkNode, equalityAndHashCoverEveryField)
 {
-    BookmarkNode original = folder(u"1"_s, u"a"_s, {leaf(u"2"_s, u"b"_s)});
-    original.url = u"https://a/"_s;
-    original.dateAdded = added;
-    const BookmarkNode copy = original;
-    EXPECT_EQ(copy, original);
-    EXPECT_EQ(qHash(copy), qHash(original));
+    const auto made = [] {
+        BookmarkNode node = folder(u"1"_s, u"a"_s, {leaf(u"2"_s, u"b"_s)});
+        node.url = u"https://a/"_s;
+        node.dateAdded = added;
+        return node;
+    };
+    const BookmarkNode original = made();
+    EXPECT_EQ(made(), original);
+    EXPECT_EQ(qHash(made()), qHash(original));
 
     QList<BookmarkNode> others(12, original);
     others[0].id = u"x"_s;

@@ -3,6 +3,8 @@
 
 #include "Readers/EveryReader.h"
 
+#include "Model/LowerCase.h"
+#include "Platform/Files.h"
 #include "Readers/BrowserReader.h"
 #include "Readers/Chromium/ChromiumReader.h"
 #include "Readers/FaviconReader.h"
@@ -44,7 +46,7 @@ void lookAtItems(const QList<HistoryItem> &items)
     for (const HistoryItem &item : items) {
         EXPECT_TRUE(item.id.startsWith(item.source.id() + u'/'));
         EXPECT_TRUE(!item.title.isEmpty() || item.url.isEmpty());
-        EXPECT_EQ(item.searchKey.size() > 0, true);
+        EXPECT_EQ(item.searchKey, lowerCased(item.title) % u'\n' % lowerCased(item.url));
     }
     EXPECT_LE(items.size(), HistoryQuery::defaultLimit);
 }
@@ -75,6 +77,16 @@ std::optional<ReadError> errorOf(const std::expected<BookmarkTrees, ReadErrors> 
     return {};
 }
 
+/// Profiles are never missing and never the same: the default one, alone or before those with names.
+void lookAtSafariProfiles(const QList<Source> &profiles)
+{
+    ASSERT_FALSE(profiles.isEmpty());
+    EXPECT_EQ(profiles.first().profile, std::nullopt);
+    EXPECT_EQ(profiles.first().name, profiles.size() == 1 ? u"Safari" : u"Personal");
+    for (const Source &named : profiles.sliced(1))
+        EXPECT_TRUE(named.profile.has_value() && !named.name.isEmpty());
+}
+
 std::optional<ReadError> readHistory(const Source &source, const ReadContext &context)
 {
     const auto searched =
@@ -95,10 +107,15 @@ std::optional<ReadError> readPlaces(const Source &source, const ReadContext &con
 
 std::optional<ReadError> readProfiles(Source::Kind kind, const ReadContext &context)
 {
-    for (const Source &source : BrowserReader::profiles(kind, context)) {
-        EXPECT_TRUE(source.profile.has_value());
-        EXPECT_FALSE(BrowserReader::historyFile(source, context).isEmpty());
+    // What is listed has a folder, and no folder is listed twice.
+    const QList<Source> profiles = BrowserReader::profiles(kind, context);
+    QSet<QString> folders;
+    for (const Source &source : profiles) {
+        const QString folder = context.folders.profile(source, *context.files);
+        EXPECT_TRUE(context.files->exists(folder)) << folder.toStdString();
+        folders.insert(folder);
     }
+    EXPECT_EQ(folders.size(), profiles.size());
     return {};
 }
 
@@ -162,7 +179,7 @@ EveryReader::EveryReader()
            true, true, safariFaviconTables},
           {"Safari profiles", safariContainerFile(u"SafariTabs.db"_s),
            [](const ReadContext &context) {
-               EXPECT_GE(SafariReader::profiles(context).size(), 1);
+               lookAtSafariProfiles(SafariReader::profiles(context));
                return std::optional<ReadError>();
            },
            true, false, safariTabTables},
