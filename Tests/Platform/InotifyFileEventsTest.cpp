@@ -163,6 +163,27 @@ TEST_F(InotifyFileEventsTest, whatMayNotBeReadDisturbsNothingElse)
         ASSERT_EQ(::chmod(QFile::encodeName(path(name)).constData(), 0700), 0);
 }
 
+TEST_F(InotifyFileEventsTest, whereNoFolderCanBeWatchedThereIsNoStream)
+{
+    make(u"open"_s);
+    make(u"closed"_s);
+    ASSERT_EQ(::chmod(QFile::encodeName(path({})).constData(), 0755), 0);
+    ASSERT_EQ(::chmod(QFile::encodeName(path(u"closed"_s)).constData(), 0), 0);
+    {
+        const WithoutPrivileges guard;
+        if (guard.arePermissionsChecked()) {
+            const auto open = [this](const QStringList &roots) {
+                return events.open(roots, [](const QStringList &) {}) != nullptr;
+            };
+            EXPECT_FALSE(open({path(u"closed"_s)}));
+            EXPECT_FALSE(open({path(u"closed"_s), path(u"closed/deeper"_s)}));
+            EXPECT_TRUE(open({path(u"closed"_s), path(u"open"_s)}));
+            EXPECT_TRUE(open({path(u"closed"_s), path(u"open/missing/root"_s)})) << "it may appear";
+        }
+    }
+    ASSERT_EQ(::chmod(QFile::encodeName(path(u"closed"_s)).constData(), 0700), 0);
+}
+
 TEST_F(InotifyFileEventsTest, manyChangesComeInOneReport)
 {
     make(u"root/Default"_s);

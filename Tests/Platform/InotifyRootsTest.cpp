@@ -237,6 +237,73 @@ TEST_F(InotifyRootsTest, aRootThatWasMovedAwayMayComeBack)
     EXPECT_EQ(changes(), Paths{"root/Default/History"});
 }
 
+TEST_F(InotifyRootsTest, aRootThatWasMovedAwayIsNoLongerReportedWithAllThatIsInIt)
+{
+    write(u"root/Default/History"_s);
+    watch({u"root"_s});
+    rename(u"root"_s, u"away"_s);
+    write(u"away/Local State"_s);
+    write(u"away/Default/History"_s, "y");
+    write(u"away/Profile 1/History"_s);
+    EXPECT_EQ(changes(), Paths()) << "also before anybody noticed";
+    write(u"away/Default/History"_s, "z");
+    EXPECT_EQ(changes(), Paths());
+}
+
+TEST_F(InotifyRootsTest, aRootFollowsNoFolderOnItsWayThatIsRenamed)
+{
+    write(u"home/config/chrome/Default/History"_s);
+    write(u"home/config/edge/Default/History"_s);
+    watch({u"home/config/chrome"_s, u"home/config/edge"_s, u"home/config/missing"_s});
+    rename(u"home/config"_s, u"home/config-old"_s);
+    write(u"home/config-old/chrome/Local State"_s);
+    write(u"home/config-old/edge/Default/History"_s, "y");
+    EXPECT_EQ(changes(), Paths()) << "the roots do not lie there any more";
+
+    make(u"home/config/chrome/Default"_s);
+    EXPECT_EQ(changes(), Paths());
+    write(u"home/config/chrome/Default/History"_s);
+    write(u"home/config/edge/Default/History"_s);
+    write(u"home/config/missing/Default/History"_s);
+    write(u"home/config-old/chrome/Default/History"_s, "z");
+    EXPECT_EQ(changes(), (Paths{"home/config/chrome/Default/History", "home/config/edge/Default/History",
+                                "home/config/missing/Default/History"}));
+}
+
+TEST_F(InotifyRootsTest, aFolderOnTheWayThatIsReplacedByRenamingIsPickedUpWithItsFiles)
+{
+    for (const QString &top : {u"home"_s, u"home/config"_s, u"home/config/browsers"_s}) {
+        SCOPED_TRACE(top.toStdString());
+        const QString rest = u"home/config/browsers/root/Default/History"_s.sliced(top.size());
+        write(top % rest);
+        write(u"backup" % rest, "other");
+        watch({u"home/config/browsers/root"_s});
+        rename(top, u"away"_s);
+        rename(u"backup"_s, top);
+        EXPECT_EQ(changes(), Paths{"home/config/browsers/root/Default/History"});
+        write(u"away" % rest, "y");
+        EXPECT_EQ(changes(), Paths());
+        write(top % rest, "y");
+        EXPECT_EQ(changes(), Paths{"home/config/browsers/root/Default/History"});
+        removeFolder(u"away"_s);
+        removeFolder(u"home"_s);
+    }
+}
+
+TEST_F(InotifyRootsTest, aFolderOnTheWayMayComeBack)
+{
+    write(u"home/config/root/Default/History"_s);
+    watch({u"home/config/root"_s});
+    for (int round = 0; round < 3; ++round) {
+        rename(u"home/config"_s, u"away"_s);
+        EXPECT_EQ(changes(), Paths());
+        rename(u"away"_s, u"home/config"_s);
+        EXPECT_EQ(changes(), Paths{"home/config/root/Default/History"});
+        write(u"home/config/root/Default/History"_s, QByteArray::number(round));
+        EXPECT_EQ(changes(), Paths{"home/config/root/Default/History"});
+    }
+}
+
 TEST_F(InotifyRootsTest, linksToFoldersAreFollowed)
 {
     write(u"data/Default/History"_s);

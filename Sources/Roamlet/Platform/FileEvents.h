@@ -33,8 +33,8 @@ public:
     virtual ~FileEvents() = default;
 
     /// Reports the files in `folders` and in their direct subfolders, from now on, gathered over about 2 s.
-    /// Folders that do not exist yet are picked up when they appear. Null when the system offers no such
-    /// reports.
+    /// Folders that do not exist yet are picked up when they appear, and a folder is always the one that now
+    /// has its name. Null when the system offers no such reports, or none about any of these folders.
     virtual std::unique_ptr<Stream> open(const QStringList &folders, Handler handler) = 0;
 };
 

@@ -4,6 +4,7 @@
 #include "Platform/Linux/InotifyFileEvents.h"
 
 #include "Platform/Clock.h"
+#include "Platform/Linux/LinuxIO.h"
 
 #include <QDir>
 #include <QFile>
@@ -14,6 +15,7 @@
 #include <QSocketNotifier>
 
 #include <sys/inotify.h>
+#include <system_error>
 #include <unistd.h>
 
 #include <array>
@@ -26,7 +28,7 @@ namespace roamlet
 namespace
 {
 
-/// For a folder in which something may appear on the way to one that we want.
+/// For a folder on the way to one that we want.
 constexpr std::uint32_t arrivals = IN_CREATE | IN_MOVED_TO | IN_DELETE_SELF | IN_MOVE_SELF | IN_ONLYDIR;
 /// For a folder whose files count.
 constexpr std::uint32_t changes = arrivals | IN_MODIFY | IN_CLOSE_WRITE | IN_DELETE | IN_MOVED_FROM;
@@ -52,6 +54,9 @@ public:
         ::close(m_descriptor);
     }
 
+    /// Whether any of the folders is watched, or is waited for where it would appear.
+    bool followsAny() const { return m_followsAny; }
+
 private:
     /// Whether the files in a folder that is watched from now on were there before anybody listened.
     enum class Contents { Known, New };
@@ -61,16 +66,16 @@ private:
     {
         return isRoot(folder) || isRoot(QFileInfo(folder).path());
     }
-    bool watch(const QString &folder)
+    std::error_code watch(const QString &folder)
     {
         const int number =
             inotify_add_watch(m_descriptor, QFile::encodeName(folder).constData(),
                               (isRootOrDirectlyBelow(folder) ? changes : arrivals) | IN_MASK_ADD);
         if (number < 0)
-            return false;
+            return lastError();
         if (!m_folders.contains(number, folder))
             m_folders.insert(number, folder);
-        return true;
+        return {};
     }
 
     void watchRoots(Contents contents)
@@ -83,21 +88,48 @@ private:
 
     void watchRoot(const QString &root, Contents contents)
     {
-        if (watch(root)) {
-            m_watchedRoots.insert(root);
-            watchContents(root, contents);
+        // The folders on the way as well: one of them may be renamed, or the next one may appear. From the
+        // top, so that neither happens unseen below a folder that was looked at already.
+        bool isFollowed = false;
+        std::error_code error;
+        for (const QString &folder : wayTo(root)) {
+            error = watch(folder);
+            if (error != std::errc::no_such_file_or_directory && error != std::errc::not_a_directory)
+                isFollowed = !error;
+        }
+        m_followsAny = m_followsAny || isFollowed;
+        if (error)
             return;
+        m_watchedRoots.insert(root);
+        watchContents(root, contents);
+    }
+
+    /// A folder and those that it lies in, from the root of the file system down.
+    static QStringList wayTo(const QString &folder)
+    {
+        QStringList result{folder};
+        for (QString above = QFileInfo(folder).path(); above != result.first();
+             above = QFileInfo(above).path())
+            result.prepend(above);
+        return result;
+    }
+
+    /// Forgets a folder and all below it: nothing is reported from there under these names any more.
+    void letGo(const QString &folder)
+    {
+        const QString below = folder % u'/';
+        for (auto entry = m_folders.begin(); entry != m_folders.end();) {
+            if (entry.value() != folder && !entry.value().startsWith(below)) {
+                ++entry;
+                continue;
+            }
+            const int number = entry.key();
+            m_watchedRoots.remove(entry.value());
+            entry = m_folders.erase(entry);
+            // Another name may lead to it.
+            if (!m_folders.contains(number))
+                inotify_rm_watch(m_descriptor, number);
         }
-        // Wait where the next folder on the way to the root would appear.
-        QString next = root;
-        QString ancestor = QFileInfo(root).path();
-        while (ancestor != next && !watch(ancestor)) {
-            next = ancestor;
-            ancestor = QFileInfo(ancestor).path();
-        }
-        // It may have appeared between the two looks.
-        if (watch(next))
-            watchRoot(root, Contents::New);
     }
 
     void watchContents(const QString &root, Contents contents)
@@ -115,7 +147,7 @@ private:
         // A root can lie in another one.
         if (isRoot(folder))
             watchRoots(contents);
-        else if (watch(folder) && contents == Contents::New)
+        else if (!watch(folder) && contents == Contents::New)
             noteFilesIn(folder);
     }
 
@@ -169,24 +201,30 @@ private:
             m_folders.remove(event.wd);
             for (const QString &folder : folders)
                 m_watchedRoots.remove(folder);
-            for (const QString &folder : folders) {
-                // Another one may have taken its place already.
-                if (!isRoot(folder) && isRootOrDirectlyBelow(folder))
-                    watchSubfolder(folder, Contents::New);
-            }
-            watchRoots(Contents::New);
+            watchAgain(folders);
             return;
         }
         if ((event.mask & IN_MOVE_SELF) != 0) {
-            // The kernel goes on watching it under its new name. Let go of it; where one of the names that we
-            // know still leads to a folder, that one is watched again.
-            inotify_rm_watch(m_descriptor, event.wd);
+            // The kernel goes on watching it, and all that lies in it, under its new name.
+            for (const QString &folder : folders)
+                letGo(folder);
+            watchAgain(folders);
             return;
         }
         for (const QString &folder : folders) {
             if (!name.isEmpty())
                 handleEntry(folder, name, event.mask);
         }
+    }
+
+    /// Watches what now stands in the place of these folders, if anything does, and of all roots.
+    void watchAgain(const QStringList &folders)
+    {
+        for (const QString &folder : folders) {
+            if (!isRoot(folder) && isRootOrDirectlyBelow(folder))
+                watchSubfolder(folder, Contents::New);
+        }
+        watchRoots(Contents::New);
     }
 
     void handleEntry(const QString &folder, const QString &name, std::uint32_t mask)
@@ -223,6 +261,7 @@ private:
     /// By the kernel's number. Two names can lead to one folder.
     QMultiHash<int, QString> m_folders;
     QSet<QString> m_watchedRoots;
+    bool m_followsAny = false;
     QSet<QString> m_changed;
     QSocketNotifier m_notifier;
     QObject m_context;
@@ -235,7 +274,10 @@ std::unique_ptr<FileEvents::Stream> InotifyFileEvents::open(const QStringList &f
     const int descriptor = inotify_init1(IN_NONBLOCK | IN_CLOEXEC);
     if (descriptor < 0)
         return nullptr;
-    return std::make_unique<InotifyStream>(descriptor, folders, std::move(handler), m_clock);
+    auto stream = std::make_unique<InotifyStream>(descriptor, folders, std::move(handler), m_clock);
+    if (!folders.isEmpty() && !stream->followsAny())
+        return nullptr;
+    return stream;
 }
 
 } // namespace roamlet
