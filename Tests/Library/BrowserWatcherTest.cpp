@@ -352,6 +352,13 @@ TEST_F(BrowserWatcherTest, aLibraryThatGoesBeforeTheDelayEndsReadsNothing)
     EXPECT_EQ(takeReads(), QStringList());
 }
 
+TEST_F(BrowserWatcherTest, tellsWhetherItWatches)
+{
+    EXPECT_TRUE(BrowserWatcher(home.platform(), [](const QSet<QString> &) {}).isWatching());
+    home.fileEvents.isAvailable = false;
+    EXPECT_FALSE(BrowserWatcher(home.platform(), [](const QSet<QString> &) {}).isWatching());
+}
+
 TEST_F(BrowserWatcherTest, withoutFileEventsEverythingElseWorks)
 {
     addChromium();

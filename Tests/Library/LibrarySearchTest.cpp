@@ -142,6 +142,28 @@ TEST_F(LibrarySearchTest, ASourceThatCannotBeReadContributesNothing)
     EXPECT_EQ(search(u"example"_s).items.size(), 2);
 }
 
+TEST_F(LibrarySearchTest, SourcesThatFailAreReportedInTheirOrderOnTheCallersThread)
+{
+    addChromium();
+    home.files.failure = [this](const QString &path) {
+        return path == chromeFile(u"Default/History"_s) || path == edgeFile(u"Default/History"_s)
+                   ? std::make_error_code(std::errc::io_error)
+                   : std::error_code{};
+    };
+    const ReadContext context = home.context();
+    QStringList problems;
+    const auto caller = std::this_thread::get_id();
+    const HistoryResults results =
+        Library::history(HistoryQuery::recent(), Library::allProfiles({}, context), context,
+                         [&](const Source &source, const ReadError &error) {
+                             EXPECT_EQ(std::this_thread::get_id(), caller);
+                             problems.append(source.id() % u' ' % error.path());
+                         });
+    EXPECT_EQ(titles(results.items), QStringList{u"b1"_s});
+    EXPECT_EQ(problems, (QStringList{u"chrome/Default " % chromeFile(u"Default/History"_s),
+                                     u"edge/Default " % edgeFile(u"Default/History"_s)}));
+}
+
 TEST_F(LibrarySearchTest, AWordThatIsTooLongForTheDatabaseFindsNothing)
 {
     addChromium();

@@ -31,6 +31,9 @@ public:
     /// Watches from now on; `onChange` gets the ids of the sources whose files really changed.
     BrowserWatcher(const Platform &platform, Handler onChange);
 
+    /// Whether the system reports changes of the browsers' files.
+    bool isWatching() const { return m_stream != nullptr; }
+
     /// Also follows profiles that lie elsewhere than right below their browser's data folder. Called whenever
     /// the profiles may have changed.
     void setProfiles(const QList<Source> &profiles);

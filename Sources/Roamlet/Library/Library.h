@@ -8,6 +8,7 @@
 #include "Model/Bookmark.h"
 #include "Model/Favicon.h"
 #include "Model/HistoryQuery.h"
+#include "Model/ReadError.h"
 #include "Platform/Platform.h"
 #include "Readers/ReadContext.h"
 
@@ -127,10 +128,13 @@ public:
     /// Reads the enabled profiles in parallel, as many at a time as there are cores. Never fails: what cannot
     /// be read becomes a problem text.
     static Snapshot readAll(const ReadRequest &request, const ReadContext &context, const Clock &clock);
+    /// Gets a source that could not be read, and why.
+    using ProblemHandler = std::function<void(const Source &source, const ReadError &error)>;
     /// Runs a query on these sources in parallel. The rows come unsorted, source by source as they finish; a
-    /// source that cannot be read has none.
+    /// source that cannot be read has none. In the end `report` gets these, on the caller's thread and in the
+    /// order of `sources`.
     static HistoryResults history(const HistoryQuery &query, const QList<Source> &sources,
-                                  const ReadContext &context);
+                                  const ReadContext &context, const ProblemHandler &report = {});
     /// The latest rows of these sources: those of `snapshot` where its files have not changed since, and what
     /// the databases hold for all others.
     static HistoryResults latestHistory(const QList<Source> &sources, const Snapshot &snapshot,

@@ -233,15 +233,18 @@ Library::Snapshot Library::readAll(const ReadRequest &request, const ReadContext
 }
 
 HistoryResults Library::history(const HistoryQuery &query, const QList<Source> &sources,
-                                const ReadContext &context)
+                                const ReadContext &context, const ProblemHandler &report)
 {
     // Each task writes into the slot of the place in which it finished.
     std::vector<QList<HistoryItem>> results(static_cast<size_t>(sources.size()));
+    std::vector<std::optional<ReadError>> problems(results.size());
     std::atomic<size_t> finished = 0;
     forEachInParallel(results.size(), [&](size_t index, CoreTurns &turns) {
         const CoreTurns::Turn turn(turns);
         const Source &source = sources.at(static_cast<qsizetype>(index));
         auto rows = BrowserReader::history(source, query, context);
+        if (!rows)
+            problems[index] = rows.error();
         results[finished.fetch_add(1)] = std::move(rows).value_or(QList<HistoryItem>());
     });
 
@@ -249,6 +252,10 @@ HistoryResults Library::history(const HistoryQuery &query, const QList<Source> &
     for (QList<HistoryItem> &rows : results) {
         merged.isCapped = merged.isCapped || (query.isSearch() && rows.size() >= query.limit);
         merged.items += std::move(rows);
+    }
+    for (size_t i = 0; report && i < problems.size(); ++i) {
+        if (problems[i])
+            report(sources.at(static_cast<qsizetype>(i)), *problems[i]);
     }
     // The SQL also matched the site's text further on in the URL.
     if (query.site)

@@ -90,6 +90,26 @@ TEST_F(DiagnosticsExportTest, ofAnUnknownSourceIsEmptyAndSaysWhy)
     EXPECT_EQ(outputOf({u"--export"_s, u"csv"_s, u"--source"_s, u""_s}), emptyCsv);
 }
 
+TEST_F(DiagnosticsExportTest, ofASourceThatThereIsNotNamesTheOnesThatThereAre)
+{
+    home.addProfiles();
+    home.addBookmarks();
+    EXPECT_EQ(outputOf({u"--export"_s, u"html"_s}), emptyHtml);
+    EXPECT_EQ(console.errors.toStdString(), "roamlet: There is no source safari. There are: chrome/Default, "
+                                            "chrome/Profile 1, edge/Default\n");
+    switchOff({u"chrome/Profile 1"_s});
+    console.errors.clear();
+    EXPECT_EQ(outputOf({u"--export"_s, u"html"_s, u"--source"_s, u"Profile 1"_s}), emptyHtml);
+    EXPECT_EQ(console.errors.toStdString(),
+              "roamlet: There is no source Profile 1. There are: chrome/Default, edge/Default\n");
+}
+
+TEST_F(DiagnosticsExportTest, whereThereIsNoSourceAtAllNamesNone)
+{
+    EXPECT_EQ(outputOf({u"--export"_s, u"html"_s}), emptyHtml);
+    EXPECT_EQ(console.errors.toStdString(), "roamlet: There is no source safari.\n");
+}
+
 TEST_F(DiagnosticsExportTest, ofASwitchedOffSourceIsEmptyAndSaysWhy)
 {
     home.addProfiles();

@@ -163,13 +163,47 @@ TEST_F(DiagnosticsSearchTest, siteSaysCappedForRowsThatOnlyMentionIt)
     EXPECT_THAT(lines.last().toStdString(), StartsWith("10 matches, capped, in "));
 }
 
-TEST_F(DiagnosticsSearchTest, aSourceThatFailsContributesNoRowsAndNoMessage)
+TEST_F(DiagnosticsSearchTest, sourcesThatFailAreNamedOnTheErrorStreamInTheirOrder)
 {
     home.addPages();
+    sample::writeFile(home.edge(u"Default/History"_s), "foreign");
     sample::writeFile(home.chrome(u"Default/History"_s), "foreign");
-    EXPECT_EQ(rowsOf({u"--search"_s, u"page"_s}).size(), 3);
-    EXPECT_EQ(rowsOf({u"--top"_s}).size(), 3);
-    EXPECT_EQ(console.errors, "");
+    for (const QStringList &arguments :
+         {QStringList{u"--search"_s, u"page"_s}, {u"--site"_s, u"work.example.com"_s}, {u"--top"_s}}) {
+        SCOPED_TRACE(arguments.first().toStdString());
+        console.errors.clear();
+        const QStringList rows = rowsOf(arguments);
+        EXPECT_EQ(rows.size(), arguments.contains(u"--site") ? 1 : 2);
+        EXPECT_TRUE(rows.first().contains(u"Work")) << rows.first().toStdString();
+        EXPECT_EQ(console.errors.toStdString(),
+                  "roamlet: Chrome - Personal: Couldn't read query: file is not a database\n"
+                  "roamlet: Edge - Office: Couldn't read query: file is not a database\n");
+    }
+}
+
+TEST_F(DiagnosticsSearchTest, aSourceThatFailsCannotCommandTheTerminal)
+{
+    sample::writeLocalState(home.chrome(u"Local State"_s),
+                            {{u"Default"_s, QJsonObject{{u"name"_s, u"Evil\u001B[2J\nname"_s}}}});
+    sample::writeFile(home.chrome(u"Default/History"_s), "foreign");
+    console.terminal = true;
+    for (const QString &option : {u"--search"_s, u"--top"_s}) {
+        console.errors.clear();
+        outputOf({option});
+        EXPECT_THAT(console.errors.toStdString(),
+                    StartsWith("roamlet: Chrome - Evil␛[2J␊name: Couldn't read "));
+        EXPECT_EQ(console.errors.count('\n'), 1);
+    }
+}
+
+TEST_F(DiagnosticsSearchTest, aRunThatShallEndComplainsAboutNoSource)
+{
+    home.addPages();
+    stop.request_stop();
+    for (const QString &option : {u"--search"_s, u"--site"_s, u"--top"_s}) {
+        run({option});
+        EXPECT_EQ(console.errors, "") << option.toStdString();
+    }
 }
 
 TEST_F(DiagnosticsSearchTest, textsArePrintedAsStoredWhenNoTerminalShowsThem)

@@ -88,18 +88,19 @@ TEST_F(DiagnosticsTopTest, withoutHistoryPrintsACountOfNone)
     EXPECT_THAT(lines[0].toStdString(), MatchesRegex("0 URLs in " + seconds + "s"));
 }
 
-TEST_F(DiagnosticsTopTest, standsInColumnsOnATerminal)
+TEST_F(DiagnosticsTopTest, keepsItsLinesOnATerminal)
 {
     sample::writeLocalState(home.chrome(u"Local State"_s),
                             {{u"Default"_s, QJsonObject{{u"name"_s, u"東京"_s}}},
                              {u"Profile 1"_s, QJsonObject{{u"name"_s, u"Travel"_s}}}});
     sample::writeHistory(home.chrome(u"Default/History"_s),
                          {BrowserHome::page(u"https://a.example/"_s, u"one"_s, 1200, BrowserHome::newest)});
+    const QString title = u"two "_s % QString(100, u't');
     sample::writeHistory(home.chrome(u"Profile 1/History"_s),
-                         {BrowserHome::page(u"https://long.example/"_s, u"two"_s, 7, BrowserHome::newest)});
+                         {BrowserHome::page(u"https://long.example/"_s, title, 7, BrowserHome::newest)});
     console.terminal = true;
-    EXPECT_EQ(text(rowsOf({u"--top"_s})), "1200  東京    a.example     one\n"
-                                          "   7  Travel  long.example  two");
+    EXPECT_EQ(text(rowsOf({u"--top"_s})),
+              "1200  東京  a.example  one\n7  Travel  long.example  " + title.toStdString());
 }
 
 } // namespace roamlet::testing

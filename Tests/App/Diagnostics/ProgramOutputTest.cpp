@@ -133,22 +133,23 @@ TEST_F(ProgramOutputTest, aTerminalShowsControlCharactersAndDoesNotObeyThem)
     }
 }
 
-TEST_F(ProgramOutputTest, aTerminalGetsColumnsOfEqualWidth)
+TEST_F(ProgramOutputTest, aTerminalGetsFoundPagesInColumnsOfEqualWidth)
 {
     home.addPages();
-    EXPECT_THAT(program.runOnTerminal({u"--top"_s}).output.toStdString(),
-                StartsWith("40  Work      work.example.com    Board page\n"
-                           "12  Personal  example.org         Daily page\n"
-                           " 7  Personal  mirror.example.net  Mirror page\n"
-                           " 5  Office    intra.example       https://intra.example/page\n"
-                           " 3  Personal  example.org         Blue Bike page 東京\n"
-                           " 2  Work      bike.example.com    Red Bike page\n"
-                           "6 URLs in "));
     EXPECT_THAT(
         program.runOnTerminal({u"--search"_s, u"bike"_s}).output.toStdString(),
         StartsWith("2026-05-09 09:43  Chrome - Personal  Blue Bike page 東京  https://example.org:8443/bike\n"
                    "2026-05-08 11:43  Chrome - Work      Red Bike page        https://bike.example.com/\n"
                    "2 matches, not capped, in "));
+}
+
+TEST_F(ProgramOutputTest, aTerminalGetsTheSameMostVisitedPagesAsAPipe)
+{
+    home.addPages();
+    const auto withoutTheTime = [](const Ended &ended) {
+        return ended.lines().first(6).join(u'\n').toStdString();
+    };
+    EXPECT_EQ(withoutTheTime(program.runOnTerminal({u"--top"_s})), withoutTheTime(program.run({u"--top"_s})));
 }
 
 TEST_F(ProgramOutputTest, aTerminalGetsLongTitlesCut)

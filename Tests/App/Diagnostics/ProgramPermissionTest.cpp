@@ -92,7 +92,11 @@ TEST_F(ProgramPermissionTest, aRefusedFileIsNamedAndTheOthersAreRead)
             HasSubstr("macOS blocked access to " + home.chrome(u"Default/History"_s).toStdString() + "."),
             AllOf(StartsWith("Chrome - Work"), HasSubstr("  2 history URLs")),
             AllOf(StartsWith("Edge - Office"), HasSubstr("  1 history URLs")), StartsWith("Read in ")));
-    EXPECT_EQ(linesOf({u"--search"_s}).size(), 4U);
+    const Ended search = program.run({u"--search"_s});
+    EXPECT_EQ(search.status, 0);
+    EXPECT_EQ(search.lines().size(), 4);
+    EXPECT_EQ(search.errors.toStdString(), "roamlet: Chrome - Personal: macOS blocked access to " +
+                                               home.chrome(u"Default/History"_s).toStdString() + ".\n");
 }
 
 TEST_F(ProgramPermissionTest, aRefusedFolderIsNamedAndTheOthersAreRead)

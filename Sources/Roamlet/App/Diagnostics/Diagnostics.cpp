@@ -87,6 +87,16 @@ private:
         return sources;
     }
 
+    /// The rows of these sources. The error stream tells which of them could not be read.
+    HistoryResults history(const HistoryQuery &query, const QList<Source> &sources)
+    {
+        return Library::history(query, sources, m_context,
+                                [this](const Source &source, const ReadError &error) {
+                                    // Whoever has ended the run knows why nothing more was read.
+                                    if (!m_stop.stop_requested())
+                                        complain(source.label() % u": " % error.errorDescription());
+                                });
+    }
     /// The bookmarks of one source, or why there is no such source. What cannot be read is complained of.
     std::expected<QList<BookmarkNode>, QString> bookmarks(const QString &sourceID);
     /// What stands for the sources that the watcher reports, sorted.
@@ -180,8 +190,13 @@ std::expected<QList<BookmarkNode>, QString> Job::bookmarks(const QString &source
     const auto source = std::ranges::find(sources, sourceID, &Source::id);
     if (source == sources.end()) {
         const bool isDisabled = Library::storedDisabledProfiles(m_platform.defaults).contains(sourceID);
-        return std::unexpected(isDisabled ? QString(sourceID % u" is turned off in Settings.")
-                                          : QString(u"There is no source " % sourceID % u'.'));
+        if (isDisabled)
+            return std::unexpected(sourceID % u" is turned off in Settings.");
+        QStringList ids;
+        for (const Source &known : sources)
+            ids.append(known.id());
+        return std::unexpected(u"There is no source " % sourceID % u'.' %
+                               (ids.isEmpty() ? QString() : QString(u" There are: " % ids.join(u", "_s))));
     }
     const auto trees = BrowserReader::bookmarks(*source, m_context);
     for (const ReadError &error : trees ? trees->problems : trees.error())
@@ -217,25 +232,14 @@ int Job::top()
 {
     const Stopwatch stopwatch;
     const auto query = HistoryQuery::matching({}, {}, HistoryQuery::Order::MostVisited);
-    QList<HistoryItem> rows = Library::history(query, enabledSources(), m_context).items;
+    QList<HistoryItem> rows = history(query, enabledSources()).items;
     std::ranges::stable_sort(rows, std::ranges::greater(), &HistoryItem::visitCount);
 
-    QList<QStringList> cells;
-    for (const HistoryItem &row : rows.first(std::min(rows.size(), topLength)))
-        cells.append(
-            {QString::number(row.visitCount), text(row.source.name), text(row.site), text(row.title)});
+    // No columns: the line is the same on a terminal and in a pipe.
     QStringList lines;
-    if (m_console.isTerminal()) {
-        int countWidth = 0;
-        for (const QStringList &row : std::as_const(cells))
-            countWidth = std::max(countWidth, TextLayout::width(row.first()));
-        for (QStringList &row : cells)
-            row.first() = TextLayout::rightAligned(row.first(), countWidth);
-        lines = TextLayout::aligned(cells, widestCell);
-    } else {
-        for (const QStringList &row : std::as_const(cells))
-            lines.append(row.join(u"  "_s));
-    }
+    for (const HistoryItem &row : rows.first(std::min(rows.size(), topLength)))
+        lines.append(QString::number(row.visitCount) % u"  " % text(row.source.name) % u"  " %
+                     text(row.site) % u"  " % text(row.title));
     lines.append(QString::number(rows.size()) % u" URLs in " % stopwatch.seconds() % u's');
     return print(lines);
 }
@@ -244,7 +248,7 @@ int Job::search(const HistoryQuery &query)
 {
     const Stopwatch stopwatch;
     const QList<Source> sources = enabledSources();
-    HistoryResults results = Library::history(query, sources, m_context);
+    HistoryResults results = history(query, sources);
     QHash<QString, qsizetype> places;
     for (qsizetype i = 0; i < sources.size(); ++i)
         places.insert(sources[i].id(), i);
@@ -304,6 +308,10 @@ int Job::watch(const std::optional<QString> &duration)
         if (!m_canWrite)
             loop.quit();
     });
+    if (!watcher.isWatching()) {
+        complain(u"The browsers' folders cannot be watched: the system reports no changes in them."_s);
+        return failure;
+    }
     watcher.setProfiles(Library::allProfiles({}, m_context));
     m_platform.clock.after(std::chrono::milliseconds(milliseconds), &loop, [&loop] { loop.quit(); });
     const std::stop_callback end(m_stop,

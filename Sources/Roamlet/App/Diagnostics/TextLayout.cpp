@@ -60,11 +60,6 @@ void forEachCharacter(QStringView text, Visit visit)
     }
 }
 
-QString blanks(int count)
-{
-    return QString(std::max(count, 0), u' ');
-}
-
 /// Whether the mark changes the direction of what follows, or breaks the line, wherever it stands.
 bool isLayoutMark(char16_t c)
 {
@@ -89,12 +84,7 @@ int width(QStringView text)
 
 QString padded(const QString &text, int columns)
 {
-    return text % blanks(columns - width(text));
-}
-
-QString rightAligned(const QString &text, int columns)
-{
-    return blanks(columns - width(text)) % text;
+    return text % QString(std::max(columns - width(text), 0), u' ');
 }
 
 QString elided(const QString &text, int columns)

@@ -15,8 +15,6 @@ namespace roamlet::TextLayout
 int width(QStringView text);
 /// The text with blanks after it up to `columns`.
 QString padded(const QString &text, int columns);
-/// The text with blanks before it up to `columns`.
-QString rightAligned(const QString &text, int columns);
 /// The text, cut with "…" where it is wider than `columns`.
 QString elided(const QString &text, int columns);
 /// The text with pictures in the place of control characters and of marks that reorder a line: shown, not
