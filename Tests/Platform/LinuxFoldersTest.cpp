@@ -5,6 +5,7 @@
 
 #include "Model/Browser.h"
 #include "Platform/Linux/LinuxFiles.h"
+#include "Platform/Variable.h"
 #include "SampleHome/PlainFiles.h"
 #include "Support/MemoryUserDefaults.h"
 #include "Support/Sources.h"
@@ -14,46 +15,15 @@
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <optional>
+#include <pwd.h>
 
 namespace roamlet::testing
 {
 
 using namespace Qt::StringLiterals;
-
-namespace
-{
-
-/// An environment variable with another value for as long as this lives.
-class Variable
-{
-public:
-    Variable(const char *name, const std::optional<QByteArray> &value)
-        : m_name(name), m_wasSet(qEnvironmentVariableIsSet(name)), m_before(qgetenv(name))
-    {
-        if (value)
-            qputenv(name, *value);
-        else
-            qunsetenv(name);
-    }
-    Variable(const Variable &) = delete;
-    Variable &operator=(const Variable &) = delete;
-    ~Variable()
-    {
-        if (m_wasSet)
-            qputenv(m_name, m_before);
-        else
-            qunsetenv(m_name);
-    }
-
-private:
-    const char *m_name;
-    bool m_wasSet;
-    QByteArray m_before;
-};
-
-} // namespace
 
 class LinuxFoldersTest : public ::testing::Test
 {
@@ -212,6 +182,21 @@ TEST(LinuxFoldersEnvironment, withoutAUsableVariableConfigurationsLieBelowHome)
         EXPECT_EQ(folders.dataFolders(Source::Kind::Chrome, {}).at(1),
                   folder.filePath(u".config/google-chrome"_s))
             << value.value_or("unset").constData();
+    }
+}
+
+TEST(LinuxFoldersEnvironment, withoutAVariableTheUserDatabaseNamesTheHome)
+{
+    const passwd *user = getpwuid(getuid());
+    ASSERT_NE(user, nullptr);
+    const QString expected = QDir::cleanPath(QFile::decodeName(user->pw_dir));
+    const Variable config("XDG_CONFIG_HOME", {});
+    for (const std::optional<QByteArray> &value :
+         {std::optional<QByteArray>(), std::optional(QByteArray(""))}) {
+        const Variable home("HOME", value);
+        const auto environment = LinuxFolders::Environment::ofThisProcess();
+        EXPECT_EQ(environment.home, expected);
+        EXPECT_EQ(environment.configHome, QString(expected % u"/.config"));
     }
 }
 

@@ -3,6 +3,7 @@
 
 #include "Platform/Linux/SettingsUserDefaults.h"
 
+#include "Platform/Variable.h"
 #include "SampleHome/PlainFiles.h"
 
 #include <QFile>
@@ -60,15 +61,33 @@ private:
 
 TEST_F(SettingsUserDefaultsTest, theUsersFileIsRoamletConfInTheFolderForConfigurations)
 {
-    // The program's own file, at another place for the rest of this process.
-    for (const QSettings::Format format : {QSettings::NativeFormat, QSettings::IniFormat})
-        QSettings::setPath(format, QSettings::UserScope, folder());
+    const Variable config("XDG_CONFIG_HOME", QFile::encodeName(folder()));
     sample::writeFile(path(), "[General]\nshowDockIcon=false\n");
     SettingsUserDefaults defaults;
     EXPECT_EQ(defaults.boolean(u"showDockIcon"_s), std::optional(false));
     defaults.setString(u"export.format"_s, u"csv"_s);
     EXPECT_TRUE(content().contains("export.format=csv")) << content().constData();
     EXPECT_TRUE(content().contains("showDockIcon=false")) << content().constData();
+}
+
+TEST_F(SettingsUserDefaultsTest, theUsersFileLiesWhereEverythingElseIsLookedFor)
+{
+    const Variable home("HOME", QFile::encodeName(folder()));
+    sample::writeFile(folder() % u"/.config/Roamlet/Roamlet.conf", "[General]\nexport.format=markdown\n");
+    for (const std::optional<QByteArray> &value : {std::optional<QByteArray>(), std::optional(QByteArray("")),
+                                                   std::optional(QByteArray("relative"))}) {
+        const Variable config("XDG_CONFIG_HOME", value);
+        EXPECT_EQ(SettingsUserDefaults().string(u"export.format"_s), std::optional(u"markdown"_s))
+            << value.value_or("unset").constData();
+    }
+}
+
+TEST_F(SettingsUserDefaultsTest, aNewFileIsForTheUserOnly)
+{
+    SettingsUserDefaults(path()).setBoolean(u"showDockIcon"_s, true);
+    const auto others =
+        QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup | QFile::ReadOther | QFile::WriteOther;
+    EXPECT_EQ(QFile::permissions(path()) & others, QFile::Permissions());
 }
 
 TEST_F(SettingsUserDefaultsTest, withoutAFileEverythingIsAbsent)

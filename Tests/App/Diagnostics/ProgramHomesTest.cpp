@@ -8,7 +8,10 @@
 
 #include <QDir>
 
+#include <unistd.h>
+
 #include <gmock/gmock.h>
+#include <pwd.h>
 
 namespace roamlet::testing
 {
@@ -67,12 +70,47 @@ TEST_F(ProgramHomesTest, aLinuxHomeIsFoundBelowTheConfigurationFolder)
 
 TEST_F(ProgramHomesTest, aUserWithoutAHomeGetsEmptyAnswers)
 {
-    program.environment.remove(u"HOME"_s);
-    program.environment.remove(u"XDG_CONFIG_HOME"_s);
-    EXPECT_EQ(program.run({u"--site"_s, u"nowhere.invalid"_s}).status, 0);
     program.environment.insert(u"HOME"_s, u"/dev/null"_s);
+    program.environment.remove(u"XDG_CONFIG_HOME"_s);
     for (const QStringList &arguments : readingJobs)
         EXPECT_EQ(program.run(arguments).status, 0) << arguments.first().toStdString();
+}
+
+TEST_F(ProgramHomesTest, withoutAVariableTheUserDatabaseNamesTheHome)
+{
+    const passwd *user = getpwuid(getuid());
+    ASSERT_NE(user, nullptr);
+    // That home is not the test's own, so nothing is looked for there.
+    QByteArray settings;
+    for (const char *browser : {"safari", "chrome", "edge"})
+        settings += QByteArray("dataRoot.") + browser + '=' + home.path(u"nothing"_s).toUtf8() + '\n';
+    home.setSettings(settings);
+    program.environment.remove(u"HOME"_s);
+    const Ended ended = program.run({u"--summary"_s});
+    EXPECT_EQ(ended.status, 0);
+    EXPECT_EQ(ended.errors.toStdString(),
+              std::string("roamlet: No browser profiles were found in ") + user->pw_dir + '\n');
+}
+
+TEST_F(ProgramHomesTest, aRelativeHomeIsRefused)
+{
+    home.addPages();
+    const auto expectRefused = [this](const QString &relative, const QStringList &arguments) {
+        SCOPED_TRACE(arguments.value(0).toStdString());
+        program.environment.insert(u"HOME"_s, relative);
+        const Ended ended = program.run(arguments);
+        EXPECT_EQ(ended.status, 1);
+        EXPECT_EQ(ended.output, "");
+        EXPECT_EQ(ended.errors.toStdString(), "roamlet: the home folder is not an absolute path: " +
+                                                  relative.toStdString() + ". Set HOME to one.\n");
+    };
+    for (const QStringList &arguments : readingJobs + QList<QStringList>{{u"--watch"_s, u"0"_s}})
+        expectRefused(u"home"_s, arguments);
+    for (const QString &relative : {u"../home"_s, u"."_s, u"~"_s})
+        expectRefused(relative, {u"--summary"_s});
+    EXPECT_EQ(program.run({u"--help"_s}).status, 0);
+    program.environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
+    expectRefused(u"home"_s, {});
 }
 
 TEST_F(ProgramHomesTest, withoutATemporaryFolderTheSummarySaysWhy)

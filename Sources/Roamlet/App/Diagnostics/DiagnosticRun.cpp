@@ -6,12 +6,14 @@
 #include "App/Diagnostics/CommandLine.h"
 #include "App/Diagnostics/Diagnostics.h"
 #include "App/Diagnostics/Printing.h"
+#include "Platform/Linux/ConfigHome.h"
 #include "Platform/Linux/LinuxConsole.h"
 #include "Platform/Linux/LinuxPlatform.h"
 #include "Platform/Linux/StopSignals.h"
 #include "Platform/Linux/UnicodeLocale.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 
 #include <algorithm>
@@ -50,6 +52,21 @@ int printed(Console &console, const QString &text)
     return print(console, text) == Printed::Failed ? failure : success;
 }
 
+/// Sees to it that whoever looks for the home folder finds the same one. False, with a message, when the
+/// variable names a relative one: what that means would depend on where the program was started.
+bool settleHome(Console &console)
+{
+    const QString home = homeFolder();
+    if (!QDir::isAbsolutePath(home)) {
+        complain(console, u"the home folder is not an absolute path: "_s % home % u". Set HOME to one.");
+        return false;
+    }
+    // Qt's own look-ups, of caches for example, know nothing but the variable.
+    if (qEnvironmentVariableIsEmpty("HOME"))
+        qputenv("HOME", QFile::encodeName(home));
+    return true;
+}
+
 int runDiagnostics(const Command &command, int argc, char **argv)
 {
     StopSignals signals;
@@ -78,6 +95,8 @@ std::optional<int> run(int argc, char **argv)
     case Command::Job::Version:
         return printed(console, u"Roamlet " ROAMLET_VERSION "\n"_s);
     case Command::Job::Windows:
+        if (!settleHome(console))
+            return failure;
         if (hasDisplay())
             return {};
         complain(console,
@@ -88,6 +107,8 @@ std::optional<int> run(int argc, char **argv)
                               u". roamlet --help lists what there is.");
         return misuse;
     default:
+        if (!settleHome(console))
+            return failure;
         return runDiagnostics(command, argc, argv);
     }
 }

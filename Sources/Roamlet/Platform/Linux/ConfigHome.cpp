@@ -4,15 +4,45 @@
 #include "Platform/Linux/ConfigHome.h"
 
 #include <QDir>
+#include <QFile>
+
+#include <unistd.h>
+
+#include <pwd.h>
+#include <vector>
 
 namespace roamlet
 {
+
+namespace
+{
+
+/// The home folder of the user who runs this process; empty for one whom the database does not know.
+QByteArray homeInUserDatabase()
+{
+    constexpr size_t longestEntry = size_t{64} << 10U;
+    std::vector<char> buffer(longestEntry);
+    passwd entry = {};
+    passwd *found = nullptr;
+    if (getpwuid_r(getuid(), &entry, buffer.data(), buffer.size(), &found) != 0 || found == nullptr)
+        return {};
+    return entry.pw_dir;
+}
+
+} // namespace
+
+QString homeFolder()
+{
+    const QByteArray variable = qgetenv("HOME");
+    const QByteArray path = variable.isEmpty() ? homeInUserDatabase() : variable;
+    return path.isEmpty() ? QDir::rootPath() : QDir::cleanPath(QFile::decodeName(path));
+}
 
 QString configHome()
 {
     // A relative path in this variable is invalid and to be ignored.
     const QString path = qEnvironmentVariable("XDG_CONFIG_HOME");
-    return QDir::isAbsolutePath(path) ? path : QString(QDir::homePath() % u"/.config");
+    return QDir::isAbsolutePath(path) ? path : QString(homeFolder() % u"/.config");
 }
 
 } // namespace roamlet

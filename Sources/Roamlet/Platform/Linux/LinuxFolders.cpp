@@ -39,7 +39,7 @@ LinuxFolders::Environment LinuxFolders::Environment::ofThisProcess()
 {
     // As it stands: where it does not exist, making the private copies there makes it or says why it cannot.
     const QString temporary = qEnvironmentVariable("TMPDIR");
-    return {.home = QDir::homePath(),
+    return {.home = homeFolder(),
             .configHome = roamlet::configHome(),
             .temporary = QDir::isAbsolutePath(temporary) ? QDir::cleanPath(temporary) : u"/tmp"_s};
 }

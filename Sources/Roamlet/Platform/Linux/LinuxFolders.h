@@ -25,7 +25,7 @@ public:
         QString configHome; ///< empty: ".config" below home
         QString temporary;
 
-        /// $HOME, $XDG_CONFIG_HOME and $TMPDIR.
+        /// homeFolder(), configHome() and $TMPDIR.
         static Environment ofThisProcess();
     };
 

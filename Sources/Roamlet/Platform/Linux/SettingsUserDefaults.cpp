@@ -3,20 +3,20 @@
 
 #include "Platform/Linux/SettingsUserDefaults.h"
 
+#include "Platform/Linux/ConfigHome.h"
+
 namespace roamlet
 {
 
 using namespace Qt::StringLiterals;
 
-SettingsUserDefaults::SettingsUserDefaults()
-    : m_settings(QSettings::NativeFormat, QSettings::UserScope, u"Roamlet"_s, u"Roamlet"_s)
+SettingsUserDefaults::SettingsUserDefaults() : SettingsUserDefaults(configHome() % u"/Roamlet/Roamlet.conf")
 {
-    // Only the user's own file: another program's or the system's settings are not ours.
-    m_settings.setFallbacksEnabled(false);
 }
 
 SettingsUserDefaults::SettingsUserDefaults(const QString &path) : m_settings(path, QSettings::IniFormat)
 {
+    // Only this file: another program's or the system's settings are not ours.
     m_settings.setFallbacksEnabled(false);
 }
 

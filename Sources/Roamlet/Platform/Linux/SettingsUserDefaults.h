@@ -14,8 +14,7 @@ namespace roamlet
 class SettingsUserDefaults final : public UserDefaults
 {
 public:
-    /// The user's own file, "Roamlet/Roamlet.conf" in the configuration folder: the native format here is
-    /// INI.
+    /// The user's own file, "Roamlet/Roamlet.conf" in the configuration folder.
     SettingsUserDefaults();
     /// The file at `path`.
     explicit SettingsUserDefaults(const QString &path);
