@@ -157,11 +157,12 @@ protected:
     }
 
     /// What the folder "Awkward" holds, the only one with bookmarks in it.
-    QStringList awkwardNodes(const std::expected<QList<BookmarkNode>, ReadError> &roots)
+    QStringList awkwardNodes(const std::expected<BookmarkTrees, ReadErrors> &trees)
     {
-        if (!roots || roots->size() != 1 || titlesOf(*roots->first().children) != QStringList{u"Awkward"_s})
+        const QList<BookmarkNode> roots = trees.value_or(BookmarkTrees()).roots;
+        if (roots.size() != 1 || titlesOf(*roots.first().children) != QStringList{u"Awkward"_s})
             return {u"no such folder"_s};
-        return nodesOf(*roots->first().children->first().children);
+        return nodesOf(*roots.first().children->first().children);
     }
 
     const qint64 newest = sample::Options().newestVisit.toSecsSinceEpoch();

@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
+#include "Readers/Chromium/ChromiumReader.h"
 #include "Readers/EveryReader.h"
+#include "Readers/FaviconReader.h"
 #include "Readers/Files/BinaryPropertyList.h"
 #include "Readers/Safari/SafariReader.h"
 #include "SampleHome/PlainFiles.h"
@@ -112,8 +114,9 @@ TEST_F(BadInput, theSamplesThemselvesAreGood)
     EXPECT_EQ(FaviconReader::safari(context()).value().size(), 20);
     EXPECT_EQ(SafariReader::profiles(context()).size(), 3);
     EXPECT_EQ(ChromiumReader::profiles(Source::Kind::Chrome, context()).size(), 1);
-    EXPECT_GT(ChromiumReader::bookmarks(chrome(), context()).value().value(0).bookmarkCount(), 10);
-    EXPECT_GT(SafariReader::bookmarks(Source::safari(), context()).value().value(0).bookmarkCount(), 10);
+    EXPECT_GT(ChromiumReader::bookmarks(chrome(), context()).value().roots.value(0).bookmarkCount(), 10);
+    EXPECT_GT(SafariReader::bookmarks(Source::safari(), context()).value().roots.value(0).bookmarkCount(),
+              10);
 }
 
 TEST_F(BadInput, missingFilesAreSilentExceptSafarisDefaultOnes)

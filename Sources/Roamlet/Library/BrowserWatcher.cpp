@@ -76,7 +76,9 @@ void BrowserWatcher::setProfiles(const QList<Source> &profiles)
     for (const Source &source : profiles) {
         const QStringList roots = folders.roots(source);
         const QString folder = folders.profile(source, m_platform.files);
-        if (!roots.isEmpty() && !roots.contains(split(folder).folder))
+        const auto [parent, name] = split(folder);
+        const bool isKnownByPlace = roots.contains(parent) && source.profile == name;
+        if (!roots.isEmpty() && !isKnownByPlace)
             far.insert(folder, source);
     }
     if (far == m_farProfiles)

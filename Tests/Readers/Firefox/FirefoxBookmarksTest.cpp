@@ -27,7 +27,7 @@ namespace folder = sample::firefox_folder;
 namespace
 {
 
-constexpr qint64 someTime = 1'700'000'000'000'000;
+constexpr qint64 addedTime = 1'700'000'000'000'000;
 constexpr qint64 first = folder::firstFree;
 
 class FirefoxBookmarksTest : public ReaderTest
@@ -90,13 +90,13 @@ TEST_F(FirefoxBookmarksTest, nodesAreRead)
 {
     write({{.title = u"A page"_s,
             .url = u"https://a.example/"_s,
-            .dateAdded = someTime,
+            .dateAdded = addedTime,
             .guid = u"aaaaaaaaaaaa"_s},
            {.id = 20,
             .type = FirefoxBookmarkRow::folder,
             .position = 1,
             .title = u"Inner"_s,
-            .dateAdded = someTime,
+            .dateAdded = addedTime,
             .guid = u"bbbbbbbbbbbb"_s},
            {.parent = 20, .title = u"B"_s, .url = u"https://b.example/"_s, .guid = u"cccccccccccc"_s},
            {.type = FirefoxBookmarkRow::folder, .position = 2, .title = u""_s, .guid = u"dddddddddddd"_s}});
@@ -114,7 +114,7 @@ TEST_F(FirefoxBookmarksTest, nodesAreRead)
 TEST_F(FirefoxBookmarksTest, theRootsComeInTheirOrderUnderTheirOwnTitles)
 {
     const auto one = [](const QString &title) {
-        return QList{firefoxBookmark(title, u"https://%1.example/"_s.arg(title), someTime)};
+        return QList{firefoxBookmark(title, u"https://%1.example/"_s.arg(title), addedTime)};
     };
     write({.toolbar = one(u"a"_s), .menu = one(u"b"_s), .unfiled = one(u"c"_s), .mobile = one(u"d"_s)});
     const QList<BookmarkNode> roots = read();
@@ -134,7 +134,7 @@ TEST_F(FirefoxBookmarksTest, rootsWithoutBookmarksAreLeftOut)
     EXPECT_TRUE(read().isEmpty());
     write({.toolbar = {firefoxFolder(u"Empty"_s, {firefoxFolder(u"Empty, too"_s, {})})},
            .menu = {sample::firefoxSeparator()},
-           .mobile = {firefoxBookmark(u"x"_s, u"https://x.example/"_s, someTime)}});
+           .mobile = {firefoxBookmark(u"x"_s, u"https://x.example/"_s, addedTime)}});
     EXPECT_EQ(titlesOf(read()), QStringList{u"Mobile Bookmarks"_s});
     EXPECT_FALSE(read().value(0).isBar);
 }
@@ -189,7 +189,7 @@ TEST_F(FirefoxBookmarksTest, onlyBookmarksOfPagesAndFoldersAreRead)
 
 TEST_F(FirefoxBookmarksTest, tagsAreNoBookmarks)
 {
-    write({.toolbar = {firefoxBookmark(u"a"_s, u"https://a.example/"_s, someTime, {u"tag"_s, u"other"_s})}});
+    write({.toolbar = {firefoxBookmark(u"a"_s, u"https://a.example/"_s, addedTime, {u"tag"_s, u"other"_s})}});
     EXPECT_EQ(titlesOf(read()), QStringList{u"Bookmarks Toolbar"_s});
     EXPECT_EQ(titlesOf(bar()), QStringList{u"a"_s});
     // Nor are they where the folder of the tags is drawn into another.
@@ -214,7 +214,7 @@ TEST_F(FirefoxBookmarksTest, aDateBelowOneIsNone)
     QList<FirefoxBookmarkRow> rows;
     for (const std::optional<qint64> date :
          {std::optional<qint64>(), std::optional<qint64>(0), std::optional<qint64>(-1),
-          std::optional<qint64>(lowest), std::optional<qint64>(1), std::optional<qint64>(someTime + 1)})
+          std::optional<qint64>(lowest), std::optional<qint64>(1), std::optional<qint64>(addedTime + 1)})
         rows.append(
             {.position = rows.size(), .title = u"x"_s, .url = u"https://a.example/"_s, .dateAdded = date});
     write(rows);
@@ -324,7 +324,7 @@ TEST_F(FirefoxBookmarksTest, awkwardRowsAreReadAsFarAsTheyGo)
 TEST_F(FirefoxBookmarksTest, rowsThatAreNotMergedYetCount)
 {
     const QList<FirefoxBookmarkRow> rows = sample::firefoxBookmarkRows(
-        {.toolbar = {firefoxBookmark(u"a"_s, u"https://a.example/"_s, someTime)}});
+        {.toolbar = {firefoxBookmark(u"a"_s, u"https://a.example/"_s, addedTime)}});
     for (const Journal journal : {Journal::UnmergedWal, Journal::WalAlone}) {
         write(rows, journal);
         EXPECT_EQ(titlesOf(bar()), QStringList{u"a"_s});

@@ -23,8 +23,8 @@ namespace
 {
 
 /// 2023-11-14 22:13:20 UTC in Firefox's microseconds.
-constexpr qint64 someTime = 1'700'000'000'000'000;
-constexpr double someTimeSince1970 = 1'700'000'000;
+constexpr qint64 visitTime = 1'700'000'000'000'000;
+constexpr double visitTimeSince1970 = 1'700'000'000;
 
 class FirefoxHistory : public ReaderTest
 {
@@ -54,7 +54,7 @@ protected:
     static QList<sample::FirefoxBookmarkRow> oneBookmark()
     {
         return sample::firefoxBookmarkRows(
-            {.toolbar = {sample::firefoxBookmark(u"Bookmark"_s, u"https://b.example/"_s, someTime)}});
+            {.toolbar = {sample::firefoxBookmark(u"Bookmark"_s, u"https://b.example/"_s, visitTime)}});
     }
 };
 
@@ -73,11 +73,11 @@ TEST_F(FirefoxHistory, aRowIsAWholeItem)
             .url = u"HTTPS://www.Example.com:8443/Path?Q=1"_s,
             .title = u"ÄTitle"_s,
             .visitCount = 5'000'000'000,
-            .lastVisitDate = someTime}});
+            .lastVisitDate = visitTime}});
     EXPECT_EQ(read(), (QList<HistoryItem>{{.id = u"firefox/abcd.default/4711"_s,
                                            .title = u"ÄTitle"_s,
                                            .url = u"HTTPS://www.Example.com:8443/Path?Q=1"_s,
-                                           .lastVisit = pointInTime(someTimeSince1970),
+                                           .lastVisit = pointInTime(visitTimeSince1970),
                                            .visitCount = 5'000'000'000,
                                            .source = firefox(),
                                            .searchKey = u"ätitle\nhttps://www.example.com:8443/path?q=1"_s,
@@ -86,11 +86,11 @@ TEST_F(FirefoxHistory, aRowIsAWholeItem)
 
 TEST_F(FirefoxHistory, eachProfileHasItsOwnFile)
 {
-    write({{.id = 1, .url = u"https://a.example/"_s, .title = u"first"_s, .lastVisitDate = someTime}});
+    write({{.id = 1, .url = u"https://a.example/"_s, .title = u"first"_s, .lastVisitDate = visitTime}});
     change([&] {
         sample::writeFirefoxPlaces(
             firefoxFile(u"places.sqlite"_s, u"../far/efgh.work"_s),
-            {{.id = 1, .url = u"https://a.example/"_s, .title = u"second"_s, .lastVisitDate = someTime}});
+            {{.id = 1, .url = u"https://a.example/"_s, .title = u"second"_s, .lastVisitDate = visitTime}});
     });
     EXPECT_EQ(titlesOf(read()), QStringList{u"first"_s});
     const QList<HistoryItem> items = read({}, firefox(u"../far/efgh.work"_s));
@@ -101,8 +101,8 @@ TEST_F(FirefoxHistory, eachProfileHasItsOwnFile)
 
 TEST_F(FirefoxHistory, microsecondsAreKept)
 {
-    write({{.url = u"https://a.example/"_s, .title = u"first"_s, .lastVisitDate = someTime + 1},
-           {.url = u"https://b.example/"_s, .title = u"second"_s, .lastVisitDate = someTime + 2},
+    write({{.url = u"https://a.example/"_s, .title = u"first"_s, .lastVisitDate = visitTime + 1},
+           {.url = u"https://b.example/"_s, .title = u"second"_s, .lastVisitDate = visitTime + 2},
            {.url = u"https://c.example/"_s, .title = u"oldest"_s, .lastVisitDate = 1}});
     const QList<HistoryItem> items = read();
     ASSERT_EQ(titlesOf(items), (QStringList{u"second"_s, u"first"_s, u"oldest"_s}));
@@ -126,16 +126,16 @@ TEST_F(FirefoxHistory, rowsThatWereNeverVisitedAreNotShown)
 TEST_F(FirefoxHistory, hiddenRowsAreNotShown)
 {
     write(
-        {{.url = u"https://a.example/"_s, .title = u"shown"_s, .lastVisitDate = someTime},
-         {.url = u"https://b.example/"_s, .title = u"hidden"_s, .lastVisitDate = someTime, .hidden = true}});
+        {{.url = u"https://a.example/"_s, .title = u"shown"_s, .lastVisitDate = visitTime},
+         {.url = u"https://b.example/"_s, .title = u"hidden"_s, .lastVisitDate = visitTime, .hidden = true}});
     EXPECT_EQ(titlesOf(read()), QStringList{u"shown"_s});
 }
 
 TEST_F(FirefoxHistory, missingTextsAreReplaced)
 {
-    write({{.id = 1, .url = u"https://a.example/X"_s, .title = u""_s, .lastVisitDate = someTime + 2},
-           {.id = 2, .url = u"https://b.example/"_s, .lastVisitDate = someTime + 1},
-           {.id = 3, .lastVisitDate = someTime}});
+    write({{.id = 1, .url = u"https://a.example/X"_s, .title = u""_s, .lastVisitDate = visitTime + 2},
+           {.id = 2, .url = u"https://b.example/"_s, .lastVisitDate = visitTime + 1},
+           {.id = 3, .lastVisitDate = visitTime}});
     const QList<HistoryItem> items = read();
     ASSERT_EQ(items.size(), 3);
     EXPECT_EQ(items[0].title, u"https://a.example/X"_s);
@@ -281,7 +281,7 @@ TEST_F(FirefoxHistory, columnsOfOtherVersionsDoNotMatter)
 
 TEST_F(FirefoxHistory, aLoadCopiesTheDatabaseOnce)
 {
-    write({{.url = u"https://a.example/"_s, .title = u"Page"_s, .lastVisitDate = someTime}},
+    write({{.url = u"https://a.example/"_s, .title = u"Page"_s, .lastVisitDate = visitTime}},
           Journal::UnmergedWal, oneBookmark());
     int copies = 0;
     home.files.afterCopy = [&](const QString &file) {
@@ -306,7 +306,7 @@ TEST_F(FirefoxHistory, eachPartOfALoadIsReadOrNotOnItsOwn)
     EXPECT_TRUE(content().history.value().isEmpty());
     EXPECT_TRUE(content().bookmarks.value().roots.isEmpty());
 
-    write({{.url = u"https://a.example/"_s, .title = u"Page"_s, .lastVisitDate = someTime}}, Journal::Clean,
+    write({{.url = u"https://a.example/"_s, .title = u"Page"_s, .lastVisitDate = visitTime}}, Journal::Clean,
           oneBookmark());
     const QString file = firefoxFile(u"places.sqlite"_s);
     change([&] { sample::Database(file).execute("DROP TABLE moz_bookmarks"); });
