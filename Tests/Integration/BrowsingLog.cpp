@@ -3,7 +3,7 @@
 
 #include "BrowsingLog.h"
 
-#include "HeadlessBrowser.h"
+#include "DrivenBrowser.h"
 #include "Support/Waiting.h"
 
 #include <QDateTime>
@@ -34,7 +34,7 @@ QString siteOf(const QString &url)
 
 } // namespace
 
-void BrowsingLog::visit(HeadlessBrowser &browser, const LoopbackServer &server, const QString &url,
+void BrowsingLog::visit(DrivenBrowser &browser, const LoopbackServer &server, const QString &url,
                         const LoopbackServer::Page &page, const QStringList &redirects)
 {
     // The browser writes microseconds; the clock here has milliseconds.
@@ -48,7 +48,7 @@ void BrowsingLog::visit(HeadlessBrowser &browser, const LoopbackServer &server, 
         << "no icon of " << qPrintable(url);
 
     ++m_steps;
-    for (const QString &visited : chain) {
+    for (const QString &visited : m_redirects == Redirects::Listed ? chain : QStringList{chain.last()}) {
         Entry &entry = m_entries[visited];
         entry = {.title = page.title.isEmpty() ? visited : page.title,
                  .visitCount = entry.visitCount + 1,

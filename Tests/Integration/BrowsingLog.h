@@ -14,7 +14,7 @@
 namespace roamlet::testing
 {
 
-class HeadlessBrowser;
+class DrivenBrowser;
 
 /// Browses in one profile and remembers what the profile's history must say afterwards.
 class BrowsingLog final
@@ -31,9 +31,14 @@ public:
         QColor icon;
     };
 
+    /// Whether the browser lists the addresses that it was only led through, too.
+    enum class Redirects { Listed, Hidden };
+
+    explicit BrowsingLog(Redirects redirects = Redirects::Listed) : m_redirects(redirects) {}
+
     /// Opens `url` and waits until its page and its icon have come. `redirects` are the further addresses
     /// that the browser is led through, the page itself last; `page` is what stands there.
-    void visit(HeadlessBrowser &browser, const LoopbackServer &server, const QString &url,
+    void visit(DrivenBrowser &browser, const LoopbackServer &server, const QString &url,
                const LoopbackServer::Page &page, const QStringList &redirects = {});
 
     const QHash<QString, Entry> &entries() const { return m_entries; }
@@ -45,6 +50,7 @@ public:
     Entry latest() const;
 
 private:
+    Redirects m_redirects;
     QHash<QString, Entry> m_entries;
     int m_steps = 0;
 };

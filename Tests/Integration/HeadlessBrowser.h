@@ -5,6 +5,7 @@
 
 #include "BrowserProcess.h"
 #include "DevToolsPipe.h"
+#include "DrivenBrowser.h"
 
 #include <QJsonValue>
 #include <QSet>
@@ -17,7 +18,7 @@ namespace roamlet::testing
 
 /// A real Chromium without windows, driven by a test. It finds every host on the loopback address, so that
 /// it talks to nobody else. Ended with all its processes when this object goes.
-class HeadlessBrowser final
+class HeadlessBrowser final : public DrivenBrowser
 {
 public:
     struct Options {
@@ -43,8 +44,8 @@ public:
 
     /// Starts the browser and waits until it can be driven; an empty text, or what went wrong.
     QString start(const Options &options);
-    /// Shows `url` in a tab of its own, waits until it has loaded and returns the address that it ended at.
-    std::expected<QString, QString> open(const QString &url);
+    /// In a tab of its own.
+    std::expected<QString, QString> open(const QString &url) override;
     /// The value of a JavaScript expression (or of the promise that it is) in the tab that opened last.
     std::expected<QJsonValue, QString> evaluate(const QString &expression);
     /// Stops the whole browser where it stands, so that its files cannot change.

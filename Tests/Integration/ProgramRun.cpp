@@ -6,7 +6,13 @@
 #include "Support/TestHome.h"
 #include "Support/Waiting.h"
 
+#include <QDateTime>
 #include <QProcess>
+#include <QRegularExpression>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
 
 namespace roamlet::testing
 {
@@ -19,6 +25,26 @@ QStringList ProgramRun::lines() const
     if (lines.last().isEmpty())
         lines.removeLast();
     return lines;
+}
+
+QList<ProgramRun::Visit> ProgramRun::visits() const
+{
+    static const QRegularExpression gap(u" {2,}"_s);
+    QList<Visit> visits;
+    const QStringList printedLines = lines();
+    for (const QString &line : printedLines.first(std::max<qsizetype>(printedLines.size() - 1, 0))) {
+        const QStringList cells = line.split(gap);
+        EXPECT_EQ(cells.size(), 4) << line.toStdString();
+        visits.append({cells.value(0), cells.value(1), cells.value(2), cells.value(3)});
+    }
+    return visits;
+}
+
+QString ProgramRun::printed(double secondsSince1970)
+{
+    const QDateTime utc =
+        QDateTime::fromMSecsSinceEpoch(static_cast<qint64>(secondsSince1970 * 1000), Qt::UTC);
+    return utc.addSecs(std::chrono::seconds(localTimeOffset).count()).toString(u"yyyy-MM-dd HH:mm"_s);
 }
 
 ProgramRun ProgramRun::of(const TestHome &home, const QStringList &arguments)

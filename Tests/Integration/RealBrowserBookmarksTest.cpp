@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "HeadlessBrowser.h"
+#include "KeptBookmark.h"
 #include "ProgramRun.h"
 #include "Readers/Chromium/ChromiumReader.h"
 #include "RealBrowserTest.h"
@@ -22,38 +23,15 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-/// A bookmark as a user sees it.
-struct Kept {
-    QStringList folders;
-    QString title;
-    QString url;
-    /// In seconds since 1970.
-    double added = 0;
-};
-
-void append(const BookmarkNode &node, const QStringList &folders, QList<Kept> *list)
-{
-    if (!node.isFolder()) {
-        ASSERT_TRUE(node.dateAdded);
-        list->append({folders, node.title, node.urlText(), secondsSince1970(*node.dateAdded)});
-        return;
-    }
-    for (const BookmarkNode &child : *node.children)
-        append(child, folders + QStringList{node.title}, list);
-}
-
-QList<Kept> read(const Source &source, const TestHome &home)
+QList<KeptBookmark> read(const Source &source, const TestHome &home)
 {
     const auto trees = ChromiumReader::bookmarks(source, home.context());
     EXPECT_TRUE(trees) << (trees ? "" : trees.error().first().errorDescription().toStdString());
-    QList<Kept> list;
-    for (const BookmarkNode &root : trees.value_or(BookmarkTrees()).roots)
-        append(root, {}, &list);
-    return list;
+    return KeptBookmark::allOf(trees.value_or(BookmarkTrees()).roots);
 }
 
 /// The same from the browser's own mouth, whose times have milliseconds.
-void append(const QJsonObject &node, const QStringList &folders, QList<Kept> *list)
+void append(const QJsonObject &node, const QStringList &folders, QList<KeptBookmark> *list)
 {
     const QString title = node.value(u"title"_s).toString();
     if (node.contains(u"url"_s)) {
@@ -68,36 +46,23 @@ void append(const QJsonObject &node, const QStringList &folders, QList<Kept> *li
         append(child.toObject(), isTop ? folders : folders + QStringList{title}, list);
 }
 
-QList<Kept> shownBy(HeadlessBrowser &browser)
+QList<KeptBookmark> shownBy(HeadlessBrowser &browser)
 {
     const auto address = browser.open(u"chrome://bookmarks/"_s);
     EXPECT_TRUE(address) << (address ? "" : address.error().toStdString());
     const auto tree = browser.evaluate(u"new Promise(done => chrome.bookmarks.getTree(done))"_s);
     EXPECT_TRUE(tree) << (tree ? "" : tree.error().toStdString());
-    QList<Kept> list;
+    QList<KeptBookmark> list;
     append(tree.value_or(QJsonValue()).toArray().at(0).toObject(), {}, &list);
     return list;
 }
 
-/// Expects the same bookmarks in the same order, added within `tolerance` seconds of each other.
-void expectSame(const QList<Kept> &actual, const QList<Kept> &expected, double tolerance)
-{
-    ASSERT_EQ(actual.size(), expected.size());
-    for (qsizetype i = 0; i < actual.size(); ++i) {
-        SCOPED_TRACE(expected[i].title.toStdString());
-        EXPECT_EQ(actual[i].folders, expected[i].folders);
-        EXPECT_EQ(actual[i].title, expected[i].title);
-        EXPECT_EQ(actual[i].url, expected[i].url);
-        EXPECT_NEAR(actual[i].added, expected[i].added, tolerance);
-    }
-}
-
 /// Where a new Chromium puts what it imports: the bookmarks bar's content onto its bar, everything else into
 /// a folder there. A bookmarks file has whole seconds.
-QList<Kept> asImported(QList<Kept> list)
+QList<KeptBookmark> asImported(QList<KeptBookmark> list)
 {
     const QString bar = list.first().folders.first();
-    for (Kept &kept : list) {
+    for (KeptBookmark &kept : list) {
         kept.added = std::trunc(kept.added);
         if (kept.folders.first() != bar)
             kept.folders = QStringList{bar, u"Imported"_s} + kept.folders;
@@ -155,7 +120,7 @@ protected:
     void keepBookmarks();
 
     /// What the browser showed before it ended.
-    QList<Kept> kept;
+    QList<KeptBookmark> kept;
 };
 
 void RealBrowserBookmarksTest::keepBookmarks()
@@ -180,7 +145,7 @@ TEST_F(RealBrowserBookmarksTest, BookmarksAreReadAsTheBrowserShowsThem)
     ASSERT_FALSE(HasFatalFailure());
     expectNothingTouched([this] {
         // The browser shows milliseconds and cuts the rest off.
-        expectSame(read(source(secondProfile), home), kept, 0.0011);
+        expectSameBookmarks(read(source(secondProfile), home), kept, 0.0011);
         const ProgramRun summary = ProgramRun::of(home, {u"--summary"_s});
         EXPECT_THAT(summary.output.toStdString(), ::testing::HasSubstr("7 bookmarks, 5 folders"));
     });
@@ -228,10 +193,10 @@ TEST_F(RealBrowserBookmarksTest, ExportedBookmarksComeBackWhenTheBrowserImportsT
         return read(imported, other).size() == kept.size() &&
                ChromiumReader::profiles(chromium(), other.context()).size() == 1;
     }));
-    const QList<Kept> expected = asImported(kept);
-    expectSame(shownBy(browser), expected, 0);
+    const QList<KeptBookmark> expected = asImported(kept);
+    expectSameBookmarks(shownBy(browser), expected, 0);
     const auto expectImported = [&] {
-        expectSame(read(imported, other), expected, 0);
+        expectSameBookmarks(read(imported, other), expected, 0);
         const ProgramRun again =
             ProgramRun::of(other, {u"--export"_s, u"html"_s, u"--source"_s, u"chromium/Default"_s});
         EXPECT_EQ(bookmarkLines(again).join(u'\n').toStdString(),

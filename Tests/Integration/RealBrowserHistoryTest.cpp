@@ -11,9 +11,7 @@
 #include "RealBrowserTest.h"
 #include "Support/Waiting.h"
 
-#include <QDateTime>
 #include <QImage>
-#include <QRegularExpression>
 #include <QSet>
 
 #include <gmock/gmock.h>
@@ -30,41 +28,10 @@ namespace
 /// The name that a user gave to the second profile.
 const QString workName = u"Arbeit ☕"_s;
 
-/// A time as the program prints it.
-QString printed(double secondsSince1970)
-{
-    const QDateTime utc =
-        QDateTime::fromMSecsSinceEpoch(static_cast<qint64>(secondsSince1970 * 1000), Qt::UTC);
-    return utc.addSecs(std::chrono::seconds(ProgramRun::localTimeOffset).count())
-        .toString(u"yyyy-MM-dd HH:mm"_s);
-}
-
-/// One line of a printed list of visits.
-struct PrintedVisit {
-    QString time;
-    QString label;
-    QString title;
-    QString url;
-};
-
-/// The visits that a run printed; its last line is the count.
-QList<PrintedVisit> printedVisits(const ProgramRun &run)
-{
-    static const QRegularExpression gap(u" {2,}"_s);
-    QList<PrintedVisit> visits;
-    const QStringList lines = run.lines();
-    for (const QString &line : lines.first(std::max<qsizetype>(lines.size() - 1, 0))) {
-        const QStringList cells = line.split(gap);
-        EXPECT_EQ(cells.size(), 4) << line.toStdString();
-        visits.append({cells.value(0), cells.value(1), cells.value(2), cells.value(3)});
-    }
-    return visits;
-}
-
-QSet<QString> urls(const QList<PrintedVisit> &visits)
+QSet<QString> urls(const QList<ProgramRun::Visit> &visits)
 {
     QSet<QString> found;
-    for (const PrintedVisit &visit : visits)
+    for (const ProgramRun::Visit &visit : visits)
         found.insert(visit.url);
     return found;
 }
@@ -196,8 +163,8 @@ void RealBrowserHistoryTest::expectSummary() const
         EXPECT_TRUE(line.contains(u" "_s % QString::number(log.iconsBySite().size()) % u" site icons"))
             << line.toStdString();
         const QString counts = QString::number(log.entries().size()) % u" history URLs, latest visit ";
-        EXPECT_TRUE(line.endsWith(counts % printed(log.latest().notBefore)) ||
-                    line.endsWith(counts % printed(log.latest().notAfter)))
+        EXPECT_TRUE(line.endsWith(counts % ProgramRun::printed(log.latest().notBefore)) ||
+                    line.endsWith(counts % ProgramRun::printed(log.latest().notAfter)))
             << line.toStdString();
     };
     expectLine(lines[0], source(firstProfile).label(), privateLog);
@@ -209,17 +176,17 @@ void RealBrowserHistoryTest::expectSearches() const
 {
     const ProgramRun all = ProgramRun::of(home, {u"--search"_s});
     EXPECT_EQ(all.status, 0) << all.errors.toStdString();
-    const QList<PrintedVisit> visits = printedVisits(all);
+    const QList<ProgramRun::Visit> visits = all.visits();
     EXPECT_EQ(visits.size(), privateLog.entries().size() + workLog.entries().size());
     QString newer = visits.isEmpty() ? QString() : visits.first().time;
-    for (const PrintedVisit &visit : visits) {
+    for (const ProgramRun::Visit &visit : visits) {
         SCOPED_TRACE(visit.url.toStdString());
         const bool isPrivate = privateLog.entries().contains(visit.url);
         const BrowsingLog::Entry entry = (isPrivate ? privateLog : workLog).entries().value(visit.url);
         EXPECT_EQ(visit.title, entry.title);
         EXPECT_EQ(visit.label, source(isPrivate ? firstProfile : secondProfile).label());
-        EXPECT_GE(visit.time, printed(entry.notBefore));
-        EXPECT_LE(visit.time, printed(entry.notAfter));
+        EXPECT_GE(visit.time, ProgramRun::printed(entry.notBefore));
+        EXPECT_LE(visit.time, ProgramRun::printed(entry.notAfter));
         EXPECT_LE(visit.time, newer);
         newer = visit.time;
     }
@@ -227,15 +194,15 @@ void RealBrowserHistoryTest::expectSearches() const
     // Words in any order and any case, some in the title and some in the address, across both profiles.
     const ProgramRun words = ProgramRun::of(home, {u"--search"_s, u"EXAMPLE"_s, u"gärten"_s});
     EXPECT_THAT(words.lines().last().toStdString(), ::testing::StartsWith("2 matches, not capped"));
-    EXPECT_EQ(urls(printedVisits(words)), asSet(privateLog.entries().keys().filter(u"/www.garten.example"_s) +
-                                                workLog.entries().keys().filter(u"xn--bcher-kva"_s)));
+    EXPECT_EQ(urls(words.visits()), asSet(privateLog.entries().keys().filter(u"/www.garten.example"_s) +
+                                          workLog.entries().keys().filter(u"xn--bcher-kva"_s)));
 
     const ProgramRun site = ProgramRun::of(home, {u"--site"_s, u"garten.example"_s});
-    EXPECT_EQ(urls(printedVisits(site)), asSet(privateLog.urlsOfSite(u"garten.example"_s)));
+    EXPECT_EQ(urls(site.visits()), asSet(privateLog.urlsOfSite(u"garten.example"_s)));
     const ProgramRun nested = ProgramRun::of(home, {u"--site"_s, u"www.buero.example"_s});
-    EXPECT_EQ(urls(printedVisits(nested)), asSet(workLog.urlsOfSite(u"www.buero.example"_s)));
+    EXPECT_EQ(urls(nested.visits()), asSet(workLog.urlsOfSite(u"www.buero.example"_s)));
     const ProgramRun address = ProgramRun::of(home, {u"--site"_s, u"127.0.0.1"_s});
-    EXPECT_EQ(urls(printedVisits(address)), asSet(privateLog.urlsOfSite(u"127.0.0.1"_s)));
+    EXPECT_EQ(urls(address.visits()), asSet(privateLog.urlsOfSite(u"127.0.0.1"_s)));
 }
 
 void RealBrowserHistoryTest::expectMostVisited() const

@@ -3,15 +3,11 @@
 
 #pragma once
 
+#include "BrowserHomeTest.h"
 #include "HeadlessBrowser.h"
 #include "Model/Source.h"
-#include "Support/TestHome.h"
 
-#include <QDir>
 #include <QString>
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 
 #include <functional>
 
@@ -29,7 +25,7 @@ inline const QString firstProfile = QStringLiteral("Default");
 inline const QString secondProfile = QStringLiteral("Profile 1");
 
 /// A home folder in which a real Chromium keeps its profiles where it does by itself.
-class RealBrowserTest : public ::testing::Test
+class RealBrowserTest : public BrowserHomeTest
 {
 protected:
     void SetUp() override;
@@ -38,19 +34,16 @@ protected:
     HeadlessBrowser::Options options(const QString &profile) const;
     /// The source of one profile, found as the program finds it.
     Source source(const QString &profile) const;
-    /// Runs `read` and expects that neither a file of the browser nor a private copy remains changed by it.
-    /// The browser must stand still meanwhile.
-    static void expectNothingTouched(const TestHome &home, const QString &userData,
-                                     const std::function<void()> &read);
+    using BrowserHomeTest::expectNothingTouched;
     void expectNothingTouched(const std::function<void()> &read) const
     {
         expectNothingTouched(home, userData(), read);
     }
     /// Writes a file below the user data folder before the browser has ever run.
-    void place(const QString &relativePath, const QByteArray &bytes) const;
-
-    TestHome home;
-    QTemporaryDir browserTemporary;
+    void place(const QString &relativePath, const QByteArray &bytes) const
+    {
+        write(userData() % u'/' % relativePath, bytes);
+    }
 };
 
 } // namespace roamlet::testing
