@@ -95,7 +95,8 @@ bool BrowserProcess::start(const Start &start)
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     for (const QString &name : environment.keys()) {
         // No desktop, no session bus and no settings of whoever runs the test.
-        if (name.startsWith(u"XDG_") || name.startsWith(u"DBUS_") || name.startsWith(u"CHROM"))
+        if (name.startsWith(u"XDG_") || name.startsWith(u"DBUS_") || name.startsWith(u"CHROM") ||
+            name.startsWith(u"MOZ_"))
             environment.remove(name);
     }
     environment.remove(u"DISPLAY"_s);
@@ -115,7 +116,8 @@ bool BrowserProcess::start(const Start &start)
         ::prctl(PR_SET_PDEATHSIG, SIGKILL);
         if (!cover.isEmpty() && !coverFolder(cover, covered))
             ::_exit(1);
-        placeDescriptors(start.readEnd, start.writeEnd);
+        if (start.readEnd >= 0)
+            placeDescriptors(start.readEnd, start.writeEnd);
     });
     m_process.start(start.program, start.arguments);
     if (!m_process.waitForStarted())

@@ -23,7 +23,7 @@ public:
         /// Stands in for the user's home folder and is where the browser's output goes.
         QString home;
         QString temporary;
-        /// The file descriptors that the browser finds as 3 (to read from) and 4 (to write to).
+        /// The file descriptors that the browser finds as 3 (to read from) and 4 (to write to), if any.
         int readEnd = -1;
         int writeEnd = -1;
         /// When not empty, the browser sees this folder in the place of `covered`; nobody else does.

@@ -90,25 +90,33 @@ void LoopbackServer::answer(QTcpSocket *socket)
 
 QByteArray LoopbackServer::response(const QString &host, const QString &path)
 {
-    if (path.startsWith(u"/icon-"))
-        return iconResponse(path);
+    if (path.startsWith(u"/icon-")) {
+        const QStringView name = QStringView(path).sliced(QStringView(u"/icon-").size());
+        return iconResponse(QColor(u'#' % name.chopped(QStringView(u".png").size())));
+    }
     const auto page = m_pages.constFind(host % path);
     if (page == m_pages.cend())
         return message("404 Not Found", {}, {});
+    const auto status = [&page](const QByteArray &usual) {
+        return page->status.isEmpty() ? usual : page->status;
+    };
     if (!page->movedTo.isEmpty())
-        return message("302 Found", "Location: " + page->movedTo.toUtf8() + "\r\n", {});
+        return message(status("302 Found"), "Location: " + page->movedTo.toUtf8() + "\r\n", {});
+    if (path == u"/favicon.ico")
+        return iconResponse(page->icon);
     const QString title =
         page->title.isEmpty() ? QString() : QString(u"<title>" % page->title.toHtmlEscaped() % u"</title>");
-    const QString html = u"<!DOCTYPE html><html><head><meta charset=\"utf-8\">" % title %
-                         u"<link rel=\"icon\" type=\"image/png\" href=\"" % iconPath(page->icon) %
-                         u"\"></head><body><p>Hello</p></body></html>";
-    return message("200 OK", "Content-Type: text/html; charset=utf-8\r\n", html.toUtf8());
+    const QString icon =
+        page->icon.isValid()
+            ? QString(u"<link rel=\"icon\" type=\"image/png\" href=\"" % iconPath(page->icon) % u"\">")
+            : QString();
+    const QString html = u"<!DOCTYPE html><html><head><meta charset=\"utf-8\">" % title % icon %
+                         u"</head><body><p>Hello</p></body></html>";
+    return message(status("200 OK"), "Content-Type: text/html; charset=utf-8\r\n", html.toUtf8());
 }
 
-QByteArray LoopbackServer::iconResponse(const QString &path)
+QByteArray LoopbackServer::iconResponse(const QColor &color)
 {
-    const QColor color(u'#' +
-                       path.sliced(QStringView(u"/icon-").size()).chopped(QStringView(u".png").size()));
     m_servedIcons.insert(color.name());
     return message("200 OK", "Content-Type: image/png\r\n", iconBytes(color));
 }

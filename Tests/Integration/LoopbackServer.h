@@ -25,10 +25,13 @@ class LoopbackServer final : public QObject
 public:
     struct Page {
         QString title;
-        /// The colour that fills the page's icon.
+        /// The colour that fills the page's icon. Without one, the page names no icon, and what stands at
+        /// "/favicon.ico" of its host is its icon.
         QColor icon;
         /// When not empty, the page is not shown: the browser is sent on to this URL.
         QString movedTo;
+        /// When not empty, the page is answered with this instead of "200 OK" or "302 Found".
+        QByteArray status = {};
     };
 
     explicit LoopbackServer(int ports);
@@ -43,7 +46,7 @@ public:
 private:
     void answer(QTcpSocket *socket);
     QByteArray response(const QString &host, const QString &path);
-    QByteArray iconResponse(const QString &path);
+    QByteArray iconResponse(const QColor &color);
 
     std::vector<std::unique_ptr<QTcpServer>> m_servers;
     QHash<QString, Page> m_pages;
