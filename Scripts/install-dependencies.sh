@@ -9,7 +9,7 @@ build=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-svg-dev libsqlite3-dev 
 samples=(libplist-dev)
 test=(libgtest-dev libgmock-dev sqlite3 dbus-daemon desktop-file-utils appstream groff-base)
 # Without these the tests that need them say that they were skipped.
-optional_test=(chromium openssl xvfb openbox at-spi2-core)
+optional_test=(chromium firefox-esr openssl xvfb openbox at-spi2-core)
 lint=(git clang-format-19 clang-tidy-19)
 packaging=(dpkg-dev file)
 pictures=(xvfb openbox trayer xdotool imagemagick dbus-daemon procps qt6-gtk-platformtheme fonts-dejavu fonts-noto-cjk)
