@@ -39,7 +39,8 @@ done <<'CASES'
 Model Model kept
 Model Platform broken
 Model Readers broken
-Platform Model broken
+Platform Model kept
+Platform Readers broken
 Platform Platform kept
 Readers Model kept
 Readers Platform kept

@@ -213,8 +213,7 @@ TEST_F(ChromiumFamily, aRefusedFolderIsRefusedOnce)
 {
     writeLocal({});
     writeAccount({});
-    refuse(chromeFile(u"Bookmarks"_s), std::errc::permission_denied);
-    refuse(chromeFile(u"AccountBookmarks"_s), std::errc::permission_denied);
+    home.files.failure = [](const QString &) { return std::make_error_code(std::errc::permission_denied); };
     const auto trees = ChromiumReader::bookmarks(chrome(), context());
     ASSERT_FALSE(trees);
     EXPECT_EQ(trees.error(), ReadErrors{ReadError::noAccess(chromeFile(u"Bookmarks"_s))});

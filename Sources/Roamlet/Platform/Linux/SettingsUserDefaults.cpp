@@ -5,6 +5,10 @@
 
 #include "Platform/Linux/ConfigHome.h"
 
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
 namespace roamlet
 {
 
@@ -91,6 +95,9 @@ void SettingsUserDefaults::remove(const QString &key)
 
 void SettingsUserDefaults::set(const QString &key, const QVariant &value)
 {
+    // A file that is named outright would be made for everybody to read. One that is there keeps its mode.
+    if (QFile file(m_settings.fileName()); !file.exists() && QDir().mkpath(QFileInfo(file).path()))
+        static_cast<void>(file.open(QFile::WriteOnly | QFile::NewOnly, QFile::ReadOwner | QFile::WriteOwner));
     m_settings.setValue(key, value);
     // A choice of the user's must survive a crash a moment later.
     m_settings.sync();
