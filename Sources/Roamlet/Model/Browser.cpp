@@ -242,6 +242,10 @@ QList<Browser> table()
         firefox(u"floorp"_s, u"Floorp"_s, {u"floorp"_s, u"one.ablaze.floorp"_s},
                 {{{}, {onMac(u"Floorp"_s), atHome(u".floorp"_s)}},
                  {u"flatpak"_s, {inFlatpak(u"one.ablaze.floorp"_s, u".floorp"_s)}}}),
+
+        firefox(u"zen"_s, u"Zen"_s, {u"zen"_s, u"zen-browser"_s, u"app.zen_browser.zen"_s},
+                {{{}, {onMac(u"zen"_s), inConfig(u"zen"_s), atHome(u".zen"_s)}},
+                 {u"flatpak"_s, {inFlatpak(u"app.zen_browser.zen"_s, u".zen"_s)}}}),
     };
 }
 
