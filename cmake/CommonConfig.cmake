@@ -21,6 +21,11 @@ if(CMAKE_UNITY_BUILD)
   target_compile_options(roamlet_common INTERFACE -Wno-subobject-linkage)
 endif()
 
+# Version 12 of the compiler takes moved variants inside the standard library's sorting for values that were never set.
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+  target_compile_options(roamlet_common INTERFACE -Wno-maybe-uninitialized)
+endif()
+
 # Libraries that a run does not reach are not loaded: a diagnostic run must start as fast as a plain Qt Core program.
 target_link_options(roamlet_common INTERFACE -Wl,--as-needed)
 
