@@ -15,6 +15,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace roamlet::testing
@@ -50,6 +51,27 @@ TEST(BookmarkExport, noOtherNameGivesAFormat)
     for (const QString &name : {u""_s, u"HTML"_s, u"md"_s, u"Markdown"_s, u"csv "_s, u" csv"_s,
                                 u"text/html"_s, u"json"_s, u"--search"_s})
         EXPECT_FALSE(BookmarkExport::format(name).has_value()) << qPrintable(name);
+}
+
+TEST(BookmarkExport, aFileThatWouldBeLittleButBlanksIsTooDeep)
+{
+    const auto nested = [](int depth) {
+        QList<BookmarkNode> nodes;
+        for (int i = 0; i < depth; ++i) {
+            BookmarkNode folder;
+            folder.children = std::exchange(nodes, {});
+            nodes.append(std::move(folder));
+        }
+        return nodes;
+    };
+    for (const Format format : {Format::Html, Format::Markdown}) {
+        EXPECT_FALSE(BookmarkExport::isTooDeep(format, nested(1'000)));
+        EXPECT_TRUE(BookmarkExport::isTooDeep(format, nested(200'000)));
+    }
+    EXPECT_FALSE(BookmarkExport::isTooDeep(Format::Csv, nested(200'000))) << "it has no blanks";
+    BookmarkNode wide;
+    wide.children = QList<BookmarkNode>(1'000'000);
+    EXPECT_FALSE(BookmarkExport::isTooDeep(Format::Html, {wide})) << "many bookmarks are no depth";
 }
 
 TEST(BookmarkExport, formatsHaveTheirTypeAndExtension)

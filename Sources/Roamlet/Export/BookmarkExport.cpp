@@ -8,6 +8,8 @@
 #include <QMimeDatabase>
 #include <QSaveFile>
 
+#include <vector>
+
 namespace roamlet::BookmarkExport
 {
 
@@ -54,6 +56,34 @@ QString type(Format format)
 QString fileNameExtension(Format format)
 {
     return format == Format::Markdown ? u"md"_s : rawValue(format);
+}
+
+bool isTooDeep(Format format, const QList<BookmarkNode> &tree)
+{
+    if (format == Format::Csv)
+        return false;
+    constexpr qint64 mostBlanks = 256LL * 1024 * 1024;
+    struct Level {
+        const QList<BookmarkNode> *nodes;
+        qsizetype next = 0;
+    };
+    qint64 blanks = 0;
+    std::vector<Level> open{{&tree}};
+    while (!open.empty()) {
+        Level &level = open.back();
+        if (level.next == level.nodes->size()) {
+            open.pop_back();
+            continue;
+        }
+        // A folder takes three lines and the deepest format four blanks for each level.
+        blanks += 3 * 4 * static_cast<qint64>(open.size());
+        if (blanks > mostBlanks)
+            return true;
+        const BookmarkNode &node = level.nodes->at(level.next++);
+        if (node.isFolder())
+            open.push_back({&*node.children});
+    }
+    return false;
 }
 
 QString render(Format format, const QList<BookmarkNode> &tree, const QList<Bookmark> &flat)

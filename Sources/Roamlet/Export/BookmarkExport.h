@@ -32,6 +32,9 @@ QString type(Format format);
 QString fileNameExtension(Format format);
 /// The whole file text. HTML and Markdown show the tree, CSV the flat list.
 QString render(Format format, const QList<BookmarkNode> &tree, const QList<Bookmark> &flat);
+/// Whether the file would be little but the blanks before folders that lie in folders: each level adds some
+/// to every line below it, and a foreign file decides how many levels there are.
+bool isTooDeep(Format format, const QList<BookmarkNode> &tree);
 /// The file name to suggest, without an extension; for all sources when none is given.
 QString fileName(const std::optional<Source> &source);
 /// Writes a text as UTF-8, all of it or nothing: what stood at `path` stays until the new file is complete.

@@ -219,6 +219,10 @@ int Job::exportBookmarks(const std::optional<QString> &formatName, const std::op
     if (!tree)
         complain(tree.error());
     const QList<BookmarkNode> roots = tree.value_or(QList<BookmarkNode>());
+    if (BookmarkExport::isTooDeep(*format, roots)) {
+        complain(u"The folders are nested too deeply for this format."_s);
+        return failure;
+    }
     // Every bookmark of the flat list names all folders around it, which takes far more room than the tree.
     QList<Bookmark> flat;
     if (*format == BookmarkExport::Format::Csv) {

@@ -270,7 +270,9 @@ void ExportPanel::write(const Job &job, const QString &path)
     setBusy(true);
     m_tasks.run(
         this,
-        [job, path](const std::stop_token & /*stop*/) {
+        [job, path](const std::stop_token & /*stop*/) -> std::expected<void, QString> {
+            if (BookmarkExport::isTooDeep(job.format, job.tree))
+                return std::unexpected(tr("The folders are nested too deeply for this format."));
             const QString text =
                 BookmarkExport::render(job.format, job.tree, ofSource(job.bookmarks, job.sourceID));
             return BookmarkExport::write(text, path);
