@@ -66,6 +66,18 @@ TEST_F(OpenerTest, firefoxOpensInItsProfile)
               QList<QStringList>({{u"profile"_s, u"firefox"_s, u"abc.default"_s, u"https://one/"_s}}));
 }
 
+TEST_F(OpenerTest, linksOfOneFirefoxProfileOpenInOneStart)
+{
+    Source other = firefox;
+    other.profile = u"other"_s;
+    opener.openLinks(
+        {{u"https://one/"_s, firefox}, {u"https://two/"_s, other}, {u"https://three/"_s, firefox}});
+    EXPECT_EQ(workspace.requests,
+              QList<QStringList>(
+                  {{u"profile"_s, u"firefox"_s, u"abc.default"_s, u"https://one/"_s, u"https://three/"_s},
+                   {u"profile"_s, u"firefox"_s, u"other"_s, u"https://two/"_s}}));
+}
+
 TEST_F(OpenerTest, firefoxGetsOnlyAddressesThatItOpensItself)
 {
     const QStringList opened{u"http://a/"_s, u"HTTPS://a/"_s,   u"file:///tmp/a.html"_s,

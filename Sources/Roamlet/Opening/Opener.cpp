@@ -10,6 +10,8 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
+#include <vector>
 
 namespace roamlet
 {
@@ -73,6 +75,9 @@ QStringList filtered(const QStringList &urls, bool (*isWanted)(const QString &))
 
 void Opener::openLinks(const QList<Link> &links)
 {
+    // A profile of Firefox's that rests takes seconds to start, and further starts meanwhile would be
+    // refused.
+    std::vector<std::pair<Source, QStringList>> ofFirefox;
     for (const auto &[url, source] : links) {
         switch (Browser::of(source.kind).family) {
         case Family::Safari:
@@ -82,10 +87,17 @@ void Opener::openLinks(const QList<Link> &links)
             openInChromium({url}, source);
             break;
         case Family::Firefox:
-            openInFirefox({url}, source);
+            if (const auto known =
+                    std::ranges::find(ofFirefox, source, &std::pair<Source, QStringList>::first);
+                known != ofFirefox.end())
+                known->second.append(url);
+            else
+                ofFirefox.emplace_back(source, QStringList(url));
             break;
         }
     }
+    for (const auto &[source, urls] : ofFirefox)
+        openInFirefox(urls, source);
 }
 
 void Opener::open(const QStringList &urls, Source::Kind kind)
