@@ -207,6 +207,28 @@ TEST_F(LinuxWorkspaceTest, eachInstallationOpensItsOwnData)
     EXPECT_EQ(starts().value(0).program, u"chromium");
 }
 
+TEST_F(LinuxWorkspaceTest, ofTwoFlatpaksTheOneWithTheDataOpensIt)
+{
+    for (const QString &id :
+         {u"org.chromium.Chromium"_s, u"io.github.ungoogled_software.ungoogled_chromium"_s})
+        desktop.addEntry(id % u".desktop", desktop.addProgram(u"flatpak"_s) % u" run " % id % u" @@u %U @@");
+    keepDataIn(u".var/app/io.github.ungoogled_software.ungoogled_chromium/config/chromium"_s);
+    workspace.openInProfile({u"http://a/"_s},
+                            profileOf(browserKind(u"chromium"), u"Default"_s, u"flatpak"_s));
+    EXPECT_EQ(onlyStart().arguments.value(1), u"io.github.ungoogled_software.ungoogled_chromium");
+}
+
+TEST_F(LinuxWorkspaceTest, aSnapIsKnownWhereverSnapsAreMounted)
+{
+    desktop.addEntry(u"chromium_chromium.desktop"_s,
+                     desktop.addProgram(u"env"_s) % u" X=1 /var/lib/snapd/snap/bin/chromium %U");
+    keepDataIn(u".config/chromium"_s);
+    workspace.openInProfile({u"http://a/"_s}, profileOf(browserKind(u"chromium"), u"Default"_s));
+    EXPECT_TRUE(starts().isEmpty()) << "a snap stands in for the package";
+    keepDataIn(u"snap/chromium/common/chromium"_s);
+    EXPECT_EQ(programForLink(browserKind(u"chromium"), u"snap"_s), u"env");
+}
+
 TEST_F(LinuxWorkspaceTest, chromiumsSnapIsNotThePackage)
 {
     desktop.addApplication(u"chromium.desktop"_s, u"chromium"_s);

@@ -30,6 +30,10 @@ std::optional<Browser::Installation> installationOfData(const QString &root)
                     root.endsWith(QString(u'/' % path))) {
                     best = installation;
                     longest = path.size();
+                    // Two applications may share a key; the folder of a sandbox is named by its own.
+                    const QString application = path.section(u'/', 2, 2);
+                    if (path.startsWith(u".var/app/") && best->desktopEntries.contains(application))
+                        best->desktopEntries = {application};
                 }
             }
         }

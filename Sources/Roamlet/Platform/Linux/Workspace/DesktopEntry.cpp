@@ -91,7 +91,7 @@ DesktopEntry::Packaging DesktopEntry::packaging() const
 {
     // The program need not come first: "env NAME=value" may stand before it.
     for (const QString &argument : command) {
-        if (argument.startsWith(u"/snap/bin/"))
+        if (argument.contains(u"/snap/bin/"))
             return Packaging::Snap;
         if (argument == u"flatpak" || argument.endsWith(u"/flatpak"))
             return Packaging::Flatpak;
