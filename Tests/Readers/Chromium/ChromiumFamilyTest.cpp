@@ -209,14 +209,15 @@ TEST_F(ChromiumFamily, whereNothingCanBeReadEachFileSaysWhy)
     EXPECT_EQ(both.error().size(), 2);
 }
 
-TEST_F(ChromiumFamily, aRefusedFolderIsRefusedOnce)
+TEST_F(ChromiumFamily, refusedFilesSayEachThatTheyAre)
 {
     writeLocal({});
     writeAccount({});
     home.files.failure = [](const QString &) { return std::make_error_code(std::errc::permission_denied); };
     const auto trees = ChromiumReader::bookmarks(chrome(), context());
     ASSERT_FALSE(trees);
-    EXPECT_EQ(trees.error(), ReadErrors{ReadError::noAccess(chromeFile(u"Bookmarks"_s))});
+    EXPECT_EQ(trees.error(), (ReadErrors{ReadError::noAccess(chromeFile(u"Bookmarks"_s)),
+                                         ReadError::noAccess(chromeFile(u"AccountBookmarks"_s))}));
 }
 
 TEST_F(ChromiumFamily, bookmarksThatAreOnlyEncryptedAreToldFromNone)
@@ -291,8 +292,9 @@ TEST_F(ChromiumFamily, anOldOperaHasItsProfileInTheDataFolderItself)
         sample::writeHistory(
             home.path(root % u"/History"),
             {.written = {{.url = u"https://a.example/"_s, .title = u"A"_s, .lastVisitTime = 1'000'000}}});
-        sample::makeFolder(home.path(root % u"/_side_profiles/Work"));
-        sample::makeFolder(home.path(root % u"/_side_profiles/Home/Default"));
+        sample::writeHistory(home.path(root % u"/_side_profiles/Work/History"), {});
+        sample::writeHistory(home.path(root % u"/_side_profiles/Home/Default/History"), {});
+        sample::writeFile(home.path(root % u"/_side_profiles/.DS_Store"), "no profile");
     });
     EXPECT_EQ(profiles(browserKind(u"opera")),
               (QStringList{u"opera/  Opera"_s, u"opera/_side_profiles/Home/Default  Opera - Home"_s,
@@ -303,7 +305,8 @@ TEST_F(ChromiumFamily, anOldOperaHasItsProfileInTheDataFolderItself)
     ASSERT_TRUE(rows);
     EXPECT_EQ(titlesOf(*rows), QStringList{u"A"_s});
 
-    addProfiles(root, {{u"Default"_s, sample::profileInfo(u"Me"_s)}});
+    addProfiles(root, {{u"Default"_s, sample::profileInfo(u"Me"_s)},
+                       {u"_side_profiles/Work"_s, sample::profileInfo(u"Listed"_s)}});
     EXPECT_EQ(profiles(browserKind(u"opera")).value(0), u"opera/Default  Opera - Me"_s);
     EXPECT_EQ(profiles(browserKind(u"opera")).size(), 3);
 }

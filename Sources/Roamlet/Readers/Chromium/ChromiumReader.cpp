@@ -118,6 +118,8 @@ QString historyStatement(const HistoryQuery &query)
 }
 
 const QString defaultFolder = u"Default"_s;
+/// Where an Opera keeps its further profiles.
+const QString operaSideFolder = u"_side_profiles"_s;
 
 /// Profiles of guests, and those that go when they are closed.
 bool isPassing(const QString &folderName, const Json::Value &info)
@@ -158,13 +160,18 @@ QList<Source> listedProfiles(const BrowserFolders::Installation &installation, c
             continue;
         if (!browser.listsPassingProfiles && isPassing(folderName, info))
             continue;
-        // The data folder itself is looked at apart.
-        if (browser.hasOperaLayout && folderName.isEmpty())
+        // The data folder itself and the folders beside the first profile are looked at apart.
+        if (browser.hasOperaLayout && (folderName.isEmpty() || folderName.startsWith(operaSideFolder)))
             continue;
         result.append(profileSource(installation, folderName,
                                     displayName(info, installation.browser).value_or(folderName)));
     }
     return result;
+}
+
+bool hasProfileFiles(const QString &folder, const Files &files)
+{
+    return files.exists(folder % u"/History") || files.exists(folder % u"/Bookmarks");
 }
 
 /// The profiles that an Opera keeps without listing them: an old one its first in the data folder itself, and
@@ -175,13 +182,14 @@ QList<Source> operaProfiles(const BrowserFolders::Installation &installation, co
     const Files &files = *context.files;
     QList<Source> result;
     const bool isOld = !files.exists(root % u'/' % defaultFolder);
-    if (isOld && (files.exists(root % u"/History") || files.exists(root % u"/Bookmarks")))
+    if (isOld && hasProfileFiles(root, files))
         result.append(profileSource(installation, u""_s, Source::displayName(installation.browser)));
-    const QString side = u"_side_profiles"_s;
-    for (const QString &name : files.names(root % u'/' % side)) {
-        const QString folder = side % u'/' % name;
-        const QString inner = folder % u'/' % defaultFolder;
-        result.append(profileSource(installation, files.exists(root % u'/' % inner) ? inner : folder, name));
+    for (const QString &name : files.names(root % u'/' % operaSideFolder)) {
+        const QString outer = operaSideFolder % u'/' % name;
+        const QString inner = outer % u'/' % defaultFolder;
+        const QString folder = files.exists(root % u'/' % inner) ? inner : outer;
+        if (hasProfileFiles(root % u'/' % folder, files))
+            result.append(profileSource(installation, folder, name));
     }
     return result;
 }
@@ -344,9 +352,10 @@ std::expected<BookmarkTrees, ReadErrors> bookmarks(const Source &source, const R
     BookmarkTrees trees;
     if (!local)
         trees.problems.append(local.error());
-    // Where the folder may not be looked into, nobody knows whether there is an account's file.
-    const bool isFolderRefused = !local && local.error().kind() == ReadError::Kind::NoAccess;
-    if (!account && !(isFolderRefused && account.error().kind() == ReadError::Kind::NoAccess))
+    // Where the folder may not be looked into, everything seems to exist, and nobody knows whether there is
+    // an account's file.
+    const bool isFolderRefused = !local && !account && files.exists(place % u"/no-such-file");
+    if (!account && !isFolderRefused)
         trees.problems.append(account.error());
     const bool hasLocal = local && files.exists(localFile);
     const bool hasAccount = account && files.exists(accountFile);
