@@ -188,7 +188,7 @@ QString LinkTable::emptyText() const
     if (library.generation() == 0)
         return u"Reading…"_s;
     if (library.snapshot().browserProfiles.isEmpty())
-        return u"No browser found.\nRoamlet looks for the data of Safari, Google Chrome and Microsoft Edge."_s;
+        return u"No browser found."_s;
     if (library.snapshot().sources.isEmpty())
         return u"All profiles are switched off in the settings."_s;
     if (m_inputs.sourceID && library.snapshot().problems.contains(*m_inputs.sourceID))
