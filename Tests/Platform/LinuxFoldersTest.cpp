@@ -187,7 +187,7 @@ TEST(LinuxFoldersEnvironment, withoutAUsableVariableConfigurationsLieBelowHome)
 
 TEST(LinuxFoldersEnvironment, withoutAVariableTheUserDatabaseNamesTheHome)
 {
-    const passwd *user = getpwuid(getuid());
+    const passwd *user = getpwuid(getuid()); // NOLINT(concurrency-mt-unsafe): no other thread asks
     ASSERT_NE(user, nullptr);
     const QString expected = QDir::cleanPath(QFile::decodeName(user->pw_dir));
     const Variable config("XDG_CONFIG_HOME", {});

@@ -78,7 +78,7 @@ TEST_F(ProgramHomesTest, aUserWithoutAHomeGetsEmptyAnswers)
 
 TEST_F(ProgramHomesTest, withoutAVariableTheUserDatabaseNamesTheHome)
 {
-    const passwd *user = getpwuid(getuid());
+    const passwd *user = getpwuid(getuid()); // NOLINT(concurrency-mt-unsafe): no other thread asks
     ASSERT_NE(user, nullptr);
     // That home is not the test's own, so nothing is looked for there.
     QByteArray settings;
