@@ -8,6 +8,7 @@
 #include "Platform/Linux/LinuxWorkspace.h"
 #include "Platform/Linux/SystemClock.h"
 #include "Platform/Linux/Workspace/XdoBrowserWindows.h"
+#include "Readers/BrowserReader.h"
 #include "Readers/Chromium/ChromiumReader.h"
 #include "RealBrowserTest.h"
 #include "Support/Waiting.h"
@@ -271,7 +272,7 @@ TEST_F(OpenInChromiumTest, AProfileThatWasDeletedDoesNotComeBack)
     opener->showHistory(deleted);
     ASSERT_TRUE(waitForTitle(u"History"_s)) << title().toStdString();
     EXPECT_FALSE(QDir(userData()).exists(u"Profile 7"_s));
-    for (const Source &profile : ChromiumReader::profiles(chromium(), home.context()))
+    for (const Source &profile : BrowserReader::profiles(chromium(), home.context()))
         EXPECT_NE(profile.profile, u"Profile 7"_s);
 }
 

@@ -4,6 +4,7 @@
 #include "HeadlessBrowser.h"
 #include "KeptBookmark.h"
 #include "ProgramRun.h"
+#include "Readers/BrowserReader.h"
 #include "Readers/Chromium/ChromiumReader.h"
 #include "RealBrowserTest.h"
 #include "Support/Waiting.h"
@@ -191,7 +192,7 @@ TEST_F(RealBrowserBookmarksTest, ExportedBookmarksComeBackWhenTheBrowserImportsT
     // The browser replaces its file some seconds after the import.
     ASSERT_TRUE(waitUntil([&] {
         return read(imported, other).size() == kept.size() &&
-               ChromiumReader::profiles(chromium(), other.context()).size() == 1;
+               BrowserReader::profiles(chromium(), other.context()).size() == 1;
     }));
     const QList<KeptBookmark> expected = asImported(kept);
     expectSameBookmarks(shownBy(browser), expected, 0);

@@ -6,6 +6,7 @@
 #include "Library/FaviconImage.h"
 #include "LoopbackServer.h"
 #include "ProgramRun.h"
+#include "Readers/BrowserReader.h"
 #include "Readers/Chromium/ChromiumReader.h"
 #include "Readers/FaviconReader.h"
 #include "RealBrowserTest.h"
@@ -104,7 +105,7 @@ void RealBrowserHistoryTest::browseAtWork(HeadlessBrowser &browser)
 
 void RealBrowserHistoryTest::expectProfiles() const
 {
-    const QList<Source> sources = ChromiumReader::profiles(chromium(), home.context());
+    const QList<Source> sources = BrowserReader::profiles(chromium(), home.context());
     ASSERT_EQ(sources.size(), 2);
     EXPECT_EQ(sources[0].id(), u"chromium/Default"_s);
     EXPECT_FALSE(sources[0].name.isEmpty());
@@ -244,7 +245,7 @@ bool RealBrowserHistoryTest::isWritten(const QString &profile, const BrowsingLog
     for (const BrowsingLog::Entry &entry : log.entries())
         expected += entry.visitCount;
     return visits == expected && icons.value_or(Favicons()).size() == log.iconsBySite().size() &&
-           ChromiumReader::profiles(chromium(), context).size() == 2;
+           BrowserReader::profiles(chromium(), context).size() == 2;
 }
 
 } // namespace

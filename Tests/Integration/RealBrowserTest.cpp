@@ -3,7 +3,7 @@
 
 #include "RealBrowserTest.h"
 
-#include "Readers/Chromium/ChromiumReader.h"
+#include "Readers/BrowserReader.h"
 
 #include <algorithm>
 
@@ -27,7 +27,7 @@ HeadlessBrowser::Options RealBrowserTest::options(const QString &profile) const
 
 Source RealBrowserTest::source(const QString &profile) const
 {
-    const QList<Source> sources = ChromiumReader::profiles(chromium(), home.context());
+    const QList<Source> sources = BrowserReader::profiles(chromium(), home.context());
     const auto found = std::ranges::find(sources, std::optional(profile), &Source::profile);
     EXPECT_NE(found, sources.end()) << "no profile " << profile.toStdString();
     return found == sources.end() ? Source() : *found;

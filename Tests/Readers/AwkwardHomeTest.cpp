@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
+#include "Readers/BrowserReader.h"
 #include "Readers/Chromium/ChromiumReader.h"
 #include "Readers/ReaderTest.h"
 #include "Readers/Safari/SafariReader.h"
@@ -241,7 +242,7 @@ TEST_F(AwkwardHome, chromiumsProfilesAreReadAsTheyWereWritten)
         if (isEdge)
             written[u"Profile 20"_s] = u"Personal"_s;
         std::map<QString, QString> read;
-        for (const Source &source : ChromiumReader::profiles(kind, context()))
+        for (const Source &source : BrowserReader::profiles(kind, context()))
             read[*source.profile] = source.name;
         EXPECT_EQ(read, written);
     }

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
+#include "Readers/BrowserReader.h"
 #include "Readers/Chromium/ChromiumReader.h"
 #include "Readers/EveryReader.h"
 #include "Readers/FaviconReader.h"
@@ -113,7 +114,7 @@ TEST_F(BadInput, theSamplesThemselvesAreGood)
     EXPECT_EQ(FaviconReader::chromium(chrome(), context()).value().size(), 20);
     EXPECT_EQ(FaviconReader::safari(context()).value().size(), 20);
     EXPECT_EQ(SafariReader::profiles(context()).size(), 3);
-    EXPECT_EQ(ChromiumReader::profiles(Source::Kind::Chrome, context()).size(), 1);
+    EXPECT_EQ(BrowserReader::profiles(Source::Kind::Chrome, context()).size(), 1);
     EXPECT_GT(ChromiumReader::bookmarks(chrome(), context()).value().roots.value(0).bookmarkCount(), 10);
     EXPECT_GT(SafariReader::bookmarks(Source::safari(), context()).value().roots.value(0).bookmarkCount(),
               10);

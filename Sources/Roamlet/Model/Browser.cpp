@@ -75,7 +75,13 @@ Browser firefox(const QString &rawValue, const QString &displayName, const QStri
 Browser firstOfChromium(Browser browser, const QString &bundleID)
 {
     browser.bundleID = bundleID;
-    browser.listsPassingProfiles = true;
+    browser.listsEphemeralProfiles = true;
+    return browser;
+}
+
+Browser withPersonalProfiles(Browser browser)
+{
+    browser.namesPersonalProfiles = true;
     return browser;
 }
 
@@ -140,28 +146,29 @@ QList<Browser> table()
                                    {u"google-chrome-unstable"_s}}}),
                         u"com.google.Chrome"_s),
 
-        firstOfChromium(chromium(u"edge"_s, u"Edge"_s, u"edge://history/"_s, u"edge://favorites/"_s,
-                                 {{{},
-                                   {onMac(u"Microsoft Edge"_s), inConfig(u"microsoft-edge"_s)},
-                                   edgeEntries,
-                                   {u"microsoft-edge"_s}},
-                                  {u"beta"_s,
-                                   {inConfig(u"microsoft-edge-beta"_s)},
-                                   {u"microsoft-edge-beta"_s},
-                                   {u"microsoft-edge-beta"_s}},
-                                  {u"dev"_s,
-                                   {inConfig(u"microsoft-edge-dev"_s)},
-                                   {u"microsoft-edge-dev"_s},
-                                   {u"microsoft-edge-dev"_s}},
-                                  {u"flatpak"_s,
-                                   {inFlatpak(u"com.microsoft.Edge"_s, u"config/microsoft-edge"_s)},
-                                   edgeEntries,
-                                   {u"microsoft-edge"_s}},
-                                  {u"beta-flatpak"_s,
-                                   {inFlatpak(u"com.microsoft.Edge"_s, u"config/microsoft-edge-beta"_s)},
-                                   {u"com.microsoft.Edge"_s},
-                                   {u"microsoft-edge-beta"_s}}}),
-                        u"com.microsoft.edgemac"_s),
+        withPersonalProfiles(
+            firstOfChromium(chromium(u"edge"_s, u"Edge"_s, u"edge://history/"_s, u"edge://favorites/"_s,
+                                     {{{},
+                                       {onMac(u"Microsoft Edge"_s), inConfig(u"microsoft-edge"_s)},
+                                       edgeEntries,
+                                       {u"microsoft-edge"_s}},
+                                      {u"beta"_s,
+                                       {inConfig(u"microsoft-edge-beta"_s)},
+                                       {u"microsoft-edge-beta"_s},
+                                       {u"microsoft-edge-beta"_s}},
+                                      {u"dev"_s,
+                                       {inConfig(u"microsoft-edge-dev"_s)},
+                                       {u"microsoft-edge-dev"_s},
+                                       {u"microsoft-edge-dev"_s}},
+                                      {u"flatpak"_s,
+                                       {inFlatpak(u"com.microsoft.Edge"_s, u"config/microsoft-edge"_s)},
+                                       edgeEntries,
+                                       {u"microsoft-edge"_s}},
+                                      {u"beta-flatpak"_s,
+                                       {inFlatpak(u"com.microsoft.Edge"_s, u"config/microsoft-edge-beta"_s)},
+                                       {u"com.microsoft.Edge"_s},
+                                       {u"microsoft-edge-beta"_s}}}),
+                            u"com.microsoft.edgemac"_s)),
 
         chromium(u"chromium"_s, u"Chromium"_s, u"chrome://history/"_s, u"chrome://bookmarks/"_s,
                  {{{}, {onMac(u"Chromium"_s), inConfig(u"chromium"_s)}, chromiumEntries, chromiumClasses},
@@ -277,6 +284,19 @@ const Browser &Browser::of(Source::Kind kind)
 QString Browser::profileList(Family family)
 {
     return family == Family::Firefox ? u"profiles.ini"_s : u"Local State"_s;
+}
+
+QString Browser::historyFile(Family family)
+{
+    switch (family) {
+    case Family::Safari:
+        return u"History.db"_s;
+    case Family::Firefox:
+        return u"places.sqlite"_s;
+    case Family::Chromium:
+        break;
+    }
+    return u"History"_s;
 }
 
 QString Browser::installationName(const QString &key)

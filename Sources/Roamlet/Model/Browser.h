@@ -61,7 +61,9 @@ struct Browser {
     QString folderQuery;
     QList<Installation> installations;
     /// Whether profiles of guests, and those that go when they are closed, are listed, too.
-    bool listsPassingProfiles = false;
+    bool listsEphemeralProfiles = false;
+    /// Whether a profile that was never named is called "Personal" where its account is a private one.
+    bool namesPersonalProfiles = false;
     /// Whether a profile may lie in the data folder itself, others lie in "_side_profiles", and bookmarks
     /// have further roots in "custom_root".
     bool hasOperaLayout = false;
@@ -71,6 +73,8 @@ struct Browser {
     static const Browser &of(Source::Kind kind);
     /// The file in a data folder that lists the profiles. A folder without it has none.
     static QString profileList(Family family);
+    /// The file in a profile's folder that holds its history.
+    static QString historyFile(Family family);
     /// "Beta", "(Snap)", "Beta (Flatpak)": how an installation with this key is told apart.
     static QString installationName(const QString &key);
 };

@@ -87,12 +87,12 @@ QString BrowserFolders::profile(const Source &source, const Files &files) const
             folder += u'/' % key;
     }
     // A folder that has been given up may still be there; only what a profile always has tells it apart.
+    const QString history = u'/' % Browser::historyFile(Browser::Family::Firefox);
     const auto found =
         profiles.size() < 2
             ? profiles.cend()
             : std::ranges::find_if(
-                  profiles,
-                  [&files](const QString &folder) { return files.exists(folder % u"/places.sqlite"); });
+                  profiles, [&](const QString &folder) { return files.exists(folder % history); });
     return found == profiles.cend() ? profiles.value(0) : *found;
 }
 

@@ -6,6 +6,7 @@
 #include "Model/Browser.h"
 #include "Readers/Chromium/ChromiumReader.h"
 #include "Readers/FaviconReader.h"
+#include "Readers/Firefox/FirefoxProfiles.h"
 #include "Readers/Firefox/FirefoxReader.h"
 #include "Readers/Safari/SafariReader.h"
 
@@ -31,6 +32,18 @@ struct FamilyReader {
 QList<Source> safariProfiles(Source::Kind /*browser*/, const ReadContext &context)
 {
     return context.folders.hasSafari ? SafariReader::profiles(context) : QList<Source>();
+}
+
+/// The profiles of every installation that has some.
+template<QList<Source> (*profilesIn)(const BrowserFolders::Installation &, const ReadContext &)>
+QList<Source> installedProfiles(Source::Kind browser, const ReadContext &context)
+{
+    QList<Source> result;
+    for (const BrowserFolders::Installation &installation : context.folders.installations) {
+        if (installation.browser == browser && installation.hasProfiles)
+            result += profilesIn(installation, context);
+    }
+    return result;
 }
 
 Content safariContent(const Source &source, const ReadContext &context)
@@ -67,12 +80,18 @@ const FamilyReader &readerOf(Source::Kind browser)
     static constexpr FamilyReader safari{safariProfiles,        SafariReader::historyFile,
                                          SafariReader::history, SafariReader::bookmarks,
                                          safariContent,         SafariReader::readFiles};
-    static constexpr FamilyReader chromium{ChromiumReader::profiles, ChromiumReader::historyFile,
-                                           ChromiumReader::history,  ChromiumReader::bookmarks,
-                                           chromiumContent,          ChromiumReader::readFiles};
-    static constexpr FamilyReader firefox{FirefoxReader::profiles, FirefoxReader::historyFile,
-                                          FirefoxReader::history,  FirefoxReader::bookmarks,
-                                          firefoxContent,          FirefoxReader::readFiles};
+    static constexpr FamilyReader chromium{installedProfiles<ChromiumReader::profiles>,
+                                           ChromiumReader::historyFile,
+                                           ChromiumReader::history,
+                                           ChromiumReader::bookmarks,
+                                           chromiumContent,
+                                           ChromiumReader::readFiles};
+    static constexpr FamilyReader firefox{installedProfiles<FirefoxProfiles::read>,
+                                          FirefoxReader::historyFile,
+                                          FirefoxReader::history,
+                                          FirefoxReader::bookmarks,
+                                          firefoxContent,
+                                          FirefoxReader::readFiles};
     switch (Browser::of(browser).family) {
     case Browser::Family::Safari:
         return safari;

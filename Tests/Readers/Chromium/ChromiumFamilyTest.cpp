@@ -259,7 +259,7 @@ TEST_F(ChromiumFamily, operasFurtherRootsFollowTheThree)
                                 {u"bookmark_bar"_s, folderWith(u"1"_s, u"Bar"_s, u"a"_s)},
                                 {u"custom_root"_s, custom}});
     });
-    const QList<Source> sources = ChromiumReader::profiles(browserKind(u"opera"), context());
+    const QList<Source> sources = BrowserReader::profiles(browserKind(u"opera"), context());
     ASSERT_EQ(sources.size(), 1);
     const auto trees = ChromiumReader::bookmarks(sources.first(), context());
     ASSERT_TRUE(trees);
@@ -277,7 +277,7 @@ TEST_F(ChromiumFamily, onlyOperaHasFurtherRoots)
     change([&] { sample::writeBookmarks(home.path(u".config/vivaldi/Default/Bookmarks"_s), roots); });
     writeLocal(roots);
     for (const Source &source :
-         {ChromiumReader::profiles(browserKind(u"vivaldi"), context()).value(0), chrome()}) {
+         {BrowserReader::profiles(browserKind(u"vivaldi"), context()).value(0), chrome()}) {
         const auto trees = ChromiumReader::bookmarks(source, context());
         ASSERT_TRUE(trees);
         EXPECT_EQ(titlesOf(trees->roots), QStringList{u"Bar"_s}) << source.id().toStdString();
@@ -299,7 +299,7 @@ TEST_F(ChromiumFamily, anOldOperaHasItsProfileInTheDataFolderItself)
     EXPECT_EQ(profiles(browserKind(u"opera")),
               (QStringList{u"opera/  Opera"_s, u"opera/_side_profiles/Home/Default  Opera - Home"_s,
                            u"opera/_side_profiles/Work  Opera - Work"_s}));
-    const Source first = ChromiumReader::profiles(browserKind(u"opera"), context()).value(0);
+    const Source first = BrowserReader::profiles(browserKind(u"opera"), context()).value(0);
     EXPECT_EQ(ChromiumReader::historyFile(first, context()), home.path(root % u"/History"));
     const auto rows = ChromiumReader::history(first, HistoryQuery::recent(), context());
     ASSERT_TRUE(rows);

@@ -3,6 +3,7 @@
 
 #include "Readers/Chromium/ChromiumReader.h"
 
+#include "Readers/BrowserReader.h"
 #include "Readers/ReaderTest.h"
 #include "SampleHome/ChromiumFiles.h"
 #include "SampleHome/PlainFiles.h"
@@ -43,7 +44,7 @@ protected:
 
     QList<Source> profiles(Source::Kind kind = Source::Kind::Chrome)
     {
-        return ChromiumReader::profiles(kind, context());
+        return BrowserReader::profiles(kind, context());
     }
 
     QStringList folders()

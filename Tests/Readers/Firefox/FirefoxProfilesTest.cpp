@@ -3,6 +3,7 @@
 
 #include "Readers/Firefox/FirefoxProfiles.h"
 
+#include "Readers/BrowserReader.h"
 #include "Readers/Firefox/FirefoxReader.h"
 #include "Readers/ReaderTest.h"
 #include "SampleHome/AwkwardFirefox.h"
@@ -69,7 +70,7 @@ protected:
     QList<Source> profiles(const QString &kind = u"firefox"_s)
     {
         const ReadContext context = this->context();
-        const QList<Source> sources = FirefoxReader::profiles(*Source::kindFromRawValue(kind), context);
+        const QList<Source> sources = BrowserReader::profiles(*Source::kindFromRawValue(kind), context);
         for (const Source &source : sources)
             EXPECT_TRUE(context.files->exists(FirefoxReader::historyFile(source, context)))
                 << source.id().toStdString();
@@ -228,7 +229,7 @@ TEST_F(FirefoxProfilesTest, everyGroupIsReadAndNothingElseBesideIt)
     EXPECT_EQ(names(), (QStringList{u"A"_s, u"B"_s}));
 }
 
-TEST_F(FirefoxProfilesTest, aGroupThatCannotBeReadIsPassedOverButThere)
+TEST_F(FirefoxProfilesTest, aGroupThatCannotBeReadHarmsNoneButLetsNoneComeFirst)
 {
     write({{.name = u"B"_s, .path = u"b"_s, .isDefault = true}, {.name = u"A"_s, .path = u"a"_s}});
     const QString file = home.path(oldFolder % u"Profile Groups/1234abcd.sqlite");
@@ -254,6 +255,20 @@ TEST_F(FirefoxProfilesTest, aGroupThatCannotBeReadIsPassedOverButThere)
             "CREATE TABLE Profiles(path, name);"
             "INSERT INTO Profiles VALUES(NULL, 'x'), ('', 'x'), ('missing', NULL), (x'00', 'x')");
     });
+}
+
+TEST_F(FirefoxProfilesTest, aGroupThatCannotBeReadKeepsItsMembersUnderTheNamesOfTheirFolders)
+{
+    write({{.name = u"A"_s, .path = u"./a"_s, .storeID = u"1234abcd"_s}});
+    makeProfile(u"b.Menu"_s);
+    makeProfile(u"Profiles/c.Mac"_s);
+    change([&] { sample::makeFolder(home.path(oldFolder % u"empty")); });
+    writeGroup({{.path = u"b.Menu"_s, .name = u"Made in the menu"_s},
+                {.path = u"Profiles/c.Mac"_s, .name = u"From a Mac"_s}});
+    EXPECT_EQ(keys(), (QStringList{u"./a"_s, u"Profiles/c.Mac"_s, u"b.Menu"_s}));
+    change([&] { sample::writeFile(home.path(oldFolder % u"Profile Groups/1234abcd.sqlite"), "torn"); });
+    EXPECT_EQ(keys(), (QStringList{u"./a"_s, u"b.Menu"_s, u"Profiles/c.Mac"_s}));
+    EXPECT_EQ(names(), (QStringList{u"A"_s, u"b.Menu"_s, u"c.Mac"_s}));
 }
 
 TEST_F(FirefoxProfilesTest, aGroupIsReadWhereTheListCannotBe)
@@ -309,7 +324,7 @@ TEST_F(FirefoxProfilesTest, aFolderThatMayNotBeLookedIntoMayHoldAProfile)
     });
     const ReadContext context = this->context();
     const int result = asAnotherUser([&] {
-        const QList<Source> sources = FirefoxReader::profiles(*Source::kindFromRawValue(u"firefox"), context);
+        const QList<Source> sources = BrowserReader::profiles(*Source::kindFromRawValue(u"firefox"), context);
         if (sources.size() != 1 || sources.front().name != u"A")
             return 1;
         const auto history = FirefoxReader::history(sources.front(), HistoryQuery::recent(), context);
@@ -382,6 +397,8 @@ TEST_F(FirefoxProfilesTest, withoutANameTheFolderGivesOne)
     EXPECT_EQ(names(), QStringList{u"abcd.A"_s});
     writeGroup({{.path = u"Profiles/abcd.A"_s, .name = u""_s}});
     EXPECT_EQ(names(), QStringList{u"abcd.A"_s});
+    writeText("[Profile0]\nName=In the list\nIsRelative=1\nPath=Profiles/abcd.A/\n");
+    EXPECT_EQ(names(), QStringList{u"In the list"_s});
 }
 
 TEST_F(FirefoxProfilesTest, anUnusableListMeansNoProfiles)

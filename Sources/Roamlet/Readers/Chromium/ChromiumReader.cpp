@@ -9,6 +9,7 @@
 #include "Readers/BookmarkTree.h"
 #include "Readers/Files/Json.h"
 #include "Readers/Files/SQLiteSnapshot.h"
+#include "Readers/HistoryRows.h"
 
 #include <QUuid>
 
@@ -42,10 +43,10 @@ std::optional<PointInTime> pointInTimeOf(std::int64_t microseconds)
     return pointInTime((static_cast<double>(microseconds) / microsecondsPerSecond) - secondsBefore1970);
 }
 
-std::optional<QString> displayName(const Json::Value &info, Source::Kind kind)
+std::optional<QString> displayName(const Json::Value &info, const Browser &browser)
 {
     constexpr std::int64_t personalAccount = 1;
-    if (kind == Source::Kind::Edge && Json::isTrue(Json::member(info, "is_using_default_name")) &&
+    if (browser.namesPersonalProfiles && Json::isTrue(Json::member(info, "is_using_default_name")) &&
         Json::isInteger(Json::member(info, "edge_account_type"), personalAccount))
         return u"Personal"_s;
     return Json::text(Json::member(info, "name"));
@@ -122,7 +123,7 @@ const QString defaultFolder = u"Default"_s;
 const QString operaSideFolder = u"_side_profiles"_s;
 
 /// Profiles of guests, and those that go when they are closed.
-bool isPassing(const QString &folderName, const Json::Value &info)
+bool isEphemeral(const QString &folderName, const Json::Value &info)
 {
     return folderName == u"Guest Profile" || folderName == u"System Profile" ||
            Json::isTrue(Json::member(info, "is_ephemeral"));
@@ -158,13 +159,13 @@ QList<Source> listedProfiles(const BrowserFolders::Installation &installation, c
             continue;
         if (!context.files->exists(root % u'/' % folderName))
             continue;
-        if (!browser.listsPassingProfiles && isPassing(folderName, info))
+        if (!browser.listsEphemeralProfiles && isEphemeral(folderName, info))
             continue;
         // The data folder itself and the folders beside the first profile are looked at apart.
         if (browser.hasOperaLayout && (folderName.isEmpty() || folderName.startsWith(operaSideFolder)))
             continue;
-        result.append(profileSource(installation, folderName,
-                                    displayName(info, installation.browser).value_or(folderName)));
+        result.append(
+            profileSource(installation, folderName, displayName(info, browser).value_or(folderName)));
     }
     return result;
 }
@@ -191,27 +192,6 @@ QList<Source> operaProfiles(const BrowserFolders::Installation &installation, co
         if (hasProfileFiles(root % u'/' % folder, files))
             result.append(profileSource(installation, folder, name));
     }
-    return result;
-}
-
-QList<Source> installationProfiles(const BrowserFolders::Installation &installation,
-                                   const ReadContext &context)
-{
-    const QString root = installation.roots.value(0);
-    QList<Source> result = listedProfiles(installation, root, context);
-    if (Browser::of(installation.browser).hasOperaLayout)
-        result += operaProfiles(installation, root, context);
-    if (result.size() < 2)
-        return result;
-    const Collation collation(context.locale);
-    const auto isFirst = [](const Source &source) {
-        return source.profile == defaultFolder || source.profile == u"";
-    };
-    std::ranges::stable_sort(result, [&](const Source &left, const Source &right) {
-        if (isFirst(left) || isFirst(right))
-            return isFirst(left) && !isFirst(right);
-        return collation.compare(*left.profile, *right.profile) < 0;
-    });
     return result;
 }
 
@@ -294,13 +274,23 @@ bool hasEncryptedBookmarks(const QString &folder, const Files &files)
 
 } // namespace
 
-QList<Source> profiles(Source::Kind kind, const ReadContext &context)
+QList<Source> profiles(const BrowserFolders::Installation &installation, const ReadContext &context)
 {
-    QList<Source> result;
-    for (const BrowserFolders::Installation &installation : context.folders.installations) {
-        if (installation.browser == kind && installation.hasProfiles)
-            result += installationProfiles(installation, context);
-    }
+    const QString root = installation.roots.value(0);
+    QList<Source> result = listedProfiles(installation, root, context);
+    if (Browser::of(installation.browser).hasOperaLayout)
+        result += operaProfiles(installation, root, context);
+    if (result.size() < 2)
+        return result;
+    const Collation collation(context.locale);
+    const auto isFirst = [](const Source &source) {
+        return source.profile == defaultFolder || source.profile == u"";
+    };
+    std::ranges::stable_sort(result, [&](const Source &left, const Source &right) {
+        if (isFirst(left) || isFirst(right))
+            return isFirst(left) && !isFirst(right);
+        return collation.compare(*left.profile, *right.profile) < 0;
+    });
     return result;
 }
 
@@ -311,7 +301,7 @@ QString folder(const Source &source, const ReadContext &context)
 
 QString historyFile(const Source &source, const ReadContext &context)
 {
-    return folder(source, context) % u"/History";
+    return folder(source, context) % u'/' % Browser::historyFile(Browser::Family::Chromium);
 }
 
 std::expected<QList<HistoryItem>, ReadError> history(const Source &source, const HistoryQuery &query,
@@ -323,21 +313,9 @@ std::expected<QList<HistoryItem>, ReadError> history(const Source &source, const
     const auto snapshot = SQLiteSnapshot::copying(file, context);
     if (!snapshot)
         return std::unexpected(snapshot.error());
-    QList<HistoryItem> items;
-    items.reserve(std::min(query.limit, HistoryQuery::defaultLimit));
-    const auto run =
-        snapshot->query(historyStatement(query), query.patterns(), [&](const SQLiteSnapshot::Row &row) {
-            enum Column { Id, Url, Title, LastVisitTime, VisitCount };
-            const std::optional<PointInTime> lastVisit = pointInTimeOf(row.integer(LastVisitTime));
-            if (lastVisit) {
-                items.append(HistoryItem::ofRow(row.integer(Id), row.text(Title).value_or(QString()),
-                                                row.text(Url).value_or(QString()), *lastVisit,
-                                                row.integer(VisitCount), source));
-            }
-        });
-    if (!run)
-        return std::unexpected(run.error());
-    return items;
+    return historyRows(
+        *snapshot, historyStatement(query), query, source,
+        [](const SQLiteSnapshot::Row &row, int column) { return pointInTimeOf(row.integer(column)); });
 }
 
 std::expected<BookmarkTrees, ReadErrors> bookmarks(const Source &source, const ReadContext &context)

@@ -20,9 +20,9 @@
 namespace roamlet::ChromiumReader
 {
 
-/// The profiles of one browser, installation by installation, in each "Default" first and the others by
-/// folder name. Empty when the browser is absent or its lists of profiles cannot be read.
-QList<Source> profiles(Source::Kind kind, const ReadContext &context);
+/// The profiles of one installation, "Default" first and the others by folder name. Empty when its list of
+/// profiles cannot be read.
+QList<Source> profiles(const BrowserFolders::Installation &installation, const ReadContext &context);
 /// The folder of a profile.
 QString folder(const Source &source, const ReadContext &context);
 /// The database that holds a profile's history.

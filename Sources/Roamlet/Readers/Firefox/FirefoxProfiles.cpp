@@ -3,6 +3,7 @@
 
 #include "Readers/Firefox/FirefoxProfiles.h"
 
+#include "Model/Browser.h"
 #include "Model/Collation.h"
 #include "Platform/BrowserFolders.h"
 #include "Platform/Files.h"
@@ -15,6 +16,7 @@
 #include <algorithm>
 #include <array>
 #include <map>
+#include <optional>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -100,7 +102,8 @@ struct Member {
     QString name;
 };
 
-QList<Member> groupMembers(const QString &database, const ReadContext &context)
+/// The members of a group, or nothing where its database cannot be read.
+std::optional<QList<Member>> groupMembers(const QString &database, const ReadContext &context)
 {
     const auto snapshot = SQLiteSnapshot::copying(database, context);
     if (!snapshot)
@@ -111,7 +114,18 @@ QList<Member> groupMembers(const QString &database, const ReadContext &context)
             enum Column { Path, Name };
             result.append({row.text(Path).value_or(QString()), row.text(Name).value_or(QString())});
         });
-    return run ? result : QList<Member>();
+    return run ? std::optional(result) : std::nullopt;
+}
+
+/// The folders that could be profiles, where Firefox makes them.
+QStringList profileFolders(const QString &root, const Files &files)
+{
+    QStringList result;
+    for (const QString &parent : {u""_s, u"Profiles/"_s}) {
+        for (const QString &name : files.names(root % u'/' % parent))
+            result.append(parent % name);
+    }
+    return result;
 }
 
 /// The databases of the groups of profiles in a data folder.
@@ -144,7 +158,8 @@ private:
         QString folder;
     };
 
-    /// Adds the profile in the folder that is written as `key`, when there is one that is not known yet.
+    /// Adds the profile in the folder that is written as `key`, when there is one that is not known yet. The
+    /// first name that is not empty holds.
     void add(const QString &key, const QString &name, const QString &root, std::vector<Found> &found);
 
     const BrowserFolders::Installation &m_installation;
@@ -162,13 +177,21 @@ QList<Source> Finder::profilesIn(const QString &root)
     const QStringList groups = groupDatabases(root, *m_context.files);
     std::vector<Found> found;
     // What a group says of a profile goes before the text file, in which its members come and go.
+    bool areMembersKnown = true;
     for (const QString &group : groups) {
-        for (const Member &member : groupMembers(group, m_context))
+        const std::optional<QList<Member>> members = groupMembers(group, m_context);
+        areMembersKnown = areMembersKnown && members.has_value();
+        for (const Member &member : members.value_or(QList<Member>()))
             add(member.path, member.name, root, found);
     }
     for (const auto &[number, section] : list.sections) {
         if (section.isUsable())
             add(utf8Text(section.path), utf8Text(section.name), root, found);
+    }
+    // A profile must not go because its group's database could not be copied or is damaged.
+    if (!areMembersKnown) {
+        for (const QString &folder : profileFolders(root, *m_context.files))
+            add(folder, {}, root, found);
     }
 
     // Of a group, the profile that was started last is the one that starts by itself: a list must not change
@@ -176,6 +199,10 @@ QList<Source> Finder::profilesIn(const QString &root)
     const QString first = groups.isEmpty() && !list.defaultPath.empty()
                               ? BrowserFolders::firefoxProfile(root, utf8Text(list.defaultPath))
                               : QString();
+    for (Found &each : found) {
+        if (each.source.name.isEmpty())
+            each.source.name = each.folder.sliced(each.folder.lastIndexOf(u'/') + 1);
+    }
     std::ranges::sort(found, [&](const Found &left, const Found &right) {
         if (left.folder == first || right.folder == first)
             return left.folder == first && right.folder != first;
@@ -191,15 +218,18 @@ QList<Source> Finder::profilesIn(const QString &root)
 void Finder::add(const QString &key, const QString &name, const QString &root, std::vector<Found> &found)
 {
     const QString folder = BrowserFolders::firefoxProfile(root, key);
+    const auto known = std::ranges::find(found, folder, &Found::folder);
+    if (known != found.end() && known->source.name.isEmpty())
+        known->source.name = name;
     // A new Firefox also makes a folder that it never uses.
     if (key.isEmpty() || m_keys.contains(key) || m_folders.contains(folder) ||
-        !m_context.files->exists(folder % u"/places.sqlite"))
+        !m_context.files->exists(folder % u'/' % Browser::historyFile(Browser::Family::Firefox)))
         return;
     m_keys.insert(key);
     m_folders.insert(folder);
     Source source{.kind = m_installation.browser,
                   .profile = key,
-                  .name = name.isEmpty() ? folder.sliced(folder.lastIndexOf(u'/') + 1) : name,
+                  .name = name,
                   .safariBookmarks = Source::AllExcept{},
                   .installation = m_installation.key,
                   .namesInstallation = m_installation.isNamed};

@@ -3,13 +3,13 @@
 
 #include "Readers/Firefox/FirefoxReader.h"
 
+#include "Model/Browser.h"
 #include "Platform/Files.h"
 #include "Readers/Files/SQLiteSnapshot.h"
 #include "Readers/Firefox/FirefoxBookmarks.h"
-#include "Readers/Firefox/FirefoxProfiles.h"
 #include "Readers/Firefox/FirefoxTime.h"
+#include "Readers/HistoryRows.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace roamlet::FirefoxReader
@@ -19,6 +19,12 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
+
+/// The database of history and bookmarks.
+QString placesFile()
+{
+    return Browser::historyFile(Browser::Family::Firefox);
+}
 
 QString historyStatement(const HistoryQuery &query)
 {
@@ -32,21 +38,9 @@ QString historyStatement(const HistoryQuery &query)
 std::expected<QList<HistoryItem>, ReadError> historyIn(const SQLiteSnapshot &places, const Source &source,
                                                        const HistoryQuery &query)
 {
-    QList<HistoryItem> items;
-    items.reserve(std::min(query.limit, HistoryQuery::defaultLimit));
-    const auto run =
-        places.query(historyStatement(query), query.patterns(), [&](const SQLiteSnapshot::Row &row) {
-            enum Column { Id, Url, Title, LastVisitDate, VisitCount };
-            const std::optional<PointInTime> lastVisit = firefoxTime(row.integer(LastVisitDate));
-            if (lastVisit) {
-                items.append(HistoryItem::ofRow(row.integer(Id), row.text(Title).value_or(QString()),
-                                                row.text(Url).value_or(QString()), *lastVisit,
-                                                row.integer(VisitCount), source));
-            }
-        });
-    if (!run)
-        return std::unexpected(run.error());
-    return items;
+    return historyRows(
+        places, historyStatement(query), query, source,
+        [](const SQLiteSnapshot::Row &row, int column) { return firefoxTime(row.integer(column)); });
 }
 
 std::expected<BookmarkTrees, ReadErrors> treesOf(std::expected<QList<BookmarkNode>, ReadError> roots)
@@ -71,19 +65,9 @@ std::expected<Part, ReadError> fromPlaces(const Source &source, const ReadContex
 
 } // namespace
 
-QList<Source> profiles(Source::Kind kind, const ReadContext &context)
-{
-    QList<Source> result;
-    for (const BrowserFolders::Installation &installation : context.folders.installations) {
-        if (installation.browser == kind && installation.hasProfiles)
-            result += FirefoxProfiles::read(installation, context);
-    }
-    return result;
-}
-
 QString historyFile(const Source &source, const ReadContext &context)
 {
-    return context.folders.profile(source, *context.files) % u"/places.sqlite";
+    return context.folders.profile(source, *context.files) % u'/' % placesFile();
 }
 
 std::expected<QList<HistoryItem>, ReadError> history(const Source &source, const HistoryQuery &query,
@@ -114,7 +98,7 @@ Content content(const Source &source, const HistoryQuery &query, const ReadConte
 
 QStringList readFiles()
 {
-    return {u"places.sqlite"_s, u"places.sqlite-wal"_s};
+    return {placesFile(), placesFile() % u"-wal"};
 }
 
 } // namespace roamlet::FirefoxReader

@@ -20,9 +20,6 @@
 namespace roamlet::FirefoxReader
 {
 
-/// The profiles of one browser, installation by installation and in each data folder by data folder: the one
-/// that starts by itself first, the others by name. A folder without history and bookmarks is no profile.
-QList<Source> profiles(Source::Kind kind, const ReadContext &context);
 /// The database that holds a profile's history, and its bookmarks.
 QString historyFile(const Source &source, const ReadContext &context);
 /// The rows that match, in the query's order and at most as many as it says. Empty when there is no history.

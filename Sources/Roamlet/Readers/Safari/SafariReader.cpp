@@ -3,10 +3,12 @@
 
 #include "Readers/Safari/SafariReader.h"
 
+#include "Model/Browser.h"
 #include "Platform/Files.h"
 #include "Readers/BookmarkTree.h"
 #include "Readers/Files/PropertyList.h"
 #include "Readers/Files/SQLiteSnapshot.h"
+#include "Readers/HistoryRows.h"
 
 #include <QUuid>
 
@@ -198,7 +200,7 @@ QString historyFile(const Source &source, const ReadContext &context)
 {
     const QString folder = source.profile ? QString(context.folders.safariProfiles() % u'/' % *source.profile)
                                           : context.folders.safari;
-    return folder % u"/History.db";
+    return folder % u'/' % Browser::historyFile(Browser::Family::Safari);
 }
 
 std::expected<QList<HistoryItem>, ReadError> history(const Source &source, const HistoryQuery &query,
@@ -211,18 +213,10 @@ std::expected<QList<HistoryItem>, ReadError> history(const Source &source, const
     const auto snapshot = SQLiteSnapshot::copying(file, context);
     if (!snapshot)
         return std::unexpected(snapshot.error());
-    QList<HistoryItem> items;
-    items.reserve(std::min(query.limit, HistoryQuery::defaultLimit));
-    const auto run =
-        snapshot->query(historyStatement(query), query.patterns(), [&](const SQLiteSnapshot::Row &row) {
-            enum Column { Id, Url, Title, NewestVisit, VisitCount };
-            items.append(HistoryItem::ofRow(
-                row.integer(Id), row.text(Title).value_or(QString()), row.text(Url).value_or(QString()),
-                pointInTime(row.real(NewestVisit) + secondsUntil2001), row.integer(VisitCount), source));
-        });
-    if (!run)
-        return std::unexpected(run.error());
-    return items;
+    return historyRows(*snapshot, historyStatement(query), query, source,
+                       [](const SQLiteSnapshot::Row &row, int column) {
+                           return std::optional(pointInTime(row.real(column) + secondsUntil2001));
+                       });
 }
 
 std::expected<BookmarkTrees, ReadErrors> bookmarks(const Source &source, const ReadContext &context)
