@@ -33,6 +33,15 @@ bool hasSource(const QList<Source> &sources, const QString &id)
     return std::ranges::find(sources, id, &Source::id) != sources.end();
 }
 
+/// Whether the source is there under the same label: another installation of its browser that comes or goes
+/// changes how every row of it is called.
+bool isUnchanged(const Source &source, const QList<Source> &sources)
+{
+    return std::ranges::any_of(sources, [&source](const Source &each) {
+        return each.id() == source.id() && each.namesInstallation == source.namesInstallation;
+    });
+}
+
 /// What a source's history is read from, and in what state that is. A row also holds its profile's name.
 QString stateOfHistory(const Source &source, const ReadContext &context)
 {
@@ -225,7 +234,7 @@ Library::Snapshot Library::readAll(const ReadRequest &request, const ReadContext
     forEachInParallel(reads.size(), [&](size_t index, CoreTurns &turns) {
         const Source &source = enabled.at(static_cast<qsizetype>(index));
         const bool isRequested = !request.only || request.only->contains(source.id());
-        const bool isKnown = hasSource(request.previous.sources, source.id());
+        const bool isKnown = isUnchanged(source, request.previous.sources);
         const Read kept = Read::reused(source, request.previous);
         reads[index] = isKnown && !isRequested ? kept : Read::of(source, kept, context, clock, turns);
     });
