@@ -324,6 +324,8 @@ TEST_F(ContentViewTest, withoutAnyBrowserItSaysWhereItLooked)
     EXPECT_THAT(text, ::testing::HasSubstr("~/Library/Safari"));
     EXPECT_THAT(text, ::testing::HasSubstr("~/.config/google-chrome"));
     EXPECT_THAT(text, ::testing::HasSubstr("microsoft-edge"));
+    EXPECT_THAT(text, ::testing::HasSubstr("~/.config/mozilla/firefox, ~/.mozilla/firefox\n"));
+    EXPECT_THAT(text, ::testing::HasSubstr("~/.waterfox"));
     EXPECT_THAT(text, ::testing::Not(::testing::HasSubstr(home.path().toStdString())));
 }
 

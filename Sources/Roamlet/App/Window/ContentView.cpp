@@ -41,10 +41,15 @@ QString whereWeLooked(const Folders &folders)
     const QString home = folders.home() % u'/';
     for (const Browser &browser : Browser::all()) {
         names.append(browser.displayName);
-        QString place = folders.dataFolders(browser.kind, {}).last();
-        if (place.startsWith(home))
-            place.replace(0, home.size(), u"~/"_s);
-        places.append(place);
+        QStringList ofBrowser = folders.dataFolders(browser.kind, {});
+        // A Mac's place stands first, beside those of this system.
+        if (ofBrowser.size() > 1)
+            ofBrowser.removeFirst();
+        for (QString &place : ofBrowser) {
+            if (place.startsWith(home))
+                place.replace(0, home.size(), u"~/"_s);
+        }
+        places.append(ofBrowser.join(u", "_s));
     }
     const QString last = names.takeLast();
     return u"Roamlet looks for the data of " % names.join(u", "_s) % u" and " % last %
