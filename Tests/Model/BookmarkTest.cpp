@@ -216,6 +216,27 @@ TEST(BookmarkNode, aMillionLevelsCanBeHeldCopiedCountedAndLetGo)
     EXPECT_EQ(moved.bookmarkCount(), 1);
 }
 
+TEST(BookmarkNode, aBookmarkInEachOfManyFoldersNeedsNoMoreThanItsShare)
+{
+    constexpr qsizetype depth = 200'000;
+    BookmarkNode node = nested(0);
+    for (qsizetype i = 0; i < depth; ++i) {
+        QList<BookmarkNode> children{leaf(QString::number(i), u"Leaf"_s, u"https://example.org/"_s)};
+        children.append(std::move(node));
+        node = folder(u"folder"_s, u"folder %1"_s.arg(i), {});
+        node.children = std::move(children);
+    }
+    const QList<Bookmark> bookmarks = node.flattened();
+    ASSERT_EQ(bookmarks.size(), depth + 1);
+    qint64 characters = 0;
+    for (const Bookmark &bookmark : bookmarks)
+        characters += bookmark.folder.size() + bookmark.searchKey.size();
+    EXPECT_LT(characters, 200'000'000) << "in full it would be some 560 billion";
+    EXPECT_EQ(bookmarks.at(1).folder, u"folder 199999 › folder 199998");
+    EXPECT_TRUE(bookmarks.last().folder.startsWith(u"folder 199999 › folder 199998 › "));
+    EXPECT_TRUE(bookmarks.last().folder.endsWith(u"folder 1 › folder 0"));
+}
+
 TEST(BookmarkNode, lettingGoOfATreeLeavesThePartsThatSomebodyElseHolds)
 {
     BookmarkNode tree = nested(100'000);

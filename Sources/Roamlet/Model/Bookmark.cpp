@@ -33,6 +33,25 @@ void forEachNode(const BookmarkNode &root, Visit visit)
     }
 }
 
+/// The paths of one tree's bookmarks, which repeat themselves level by level. Those of any tree that a person
+/// made stand in full; of a file that nests bookmarks by the thousand they would fill the memory.
+class Paths
+{
+public:
+    QString operator()(const QString &path)
+    {
+        constexpr qsizetype mostCharacters = 32LL * 1024 * 1024;
+        constexpr qsizetype keptAtEachEnd = 100;
+        m_characters += path.size();
+        if (m_characters < mostCharacters || path.size() <= 3 * keptAtEachEnd)
+            return path;
+        return path.first(keptAtEachEnd) % u" … " % path.last(keptAtEachEnd);
+    }
+
+private:
+    qsizetype m_characters = 0;
+};
+
 Bookmark bookmark(const BookmarkNode &leaf, const QString &folder, const std::optional<QString> &folderID)
 {
     const QString url = leaf.urlText();
@@ -103,6 +122,7 @@ QList<Bookmark> BookmarkNode::flattened(const QStringList &path, const std::opti
     if (!isFolder())
         return {bookmark(*this, joined, folderID)};
 
+    Paths paths;
     std::vector<Level> open;
     const auto enter = [&](const BookmarkNode &folder) {
         open.push_back({&folder, 0, joined.size()});
@@ -123,7 +143,7 @@ QList<Bookmark> BookmarkNode::flattened(const QStringList &path, const std::opti
         if (child.isFolder())
             enter(child);
         else
-            result.append(bookmark(child, joined, level.folder->id));
+            result.append(bookmark(child, paths(joined), level.folder->id));
     }
     return result;
 }

@@ -21,7 +21,8 @@ struct Bookmark {
     QString id;
     QString title;
     QString url;
-    /// The titles of the enclosing folders, outermost first, joined by " › ".
+    /// The titles of the enclosing folders, outermost first, joined by " › ". The middle of long ones is left
+    /// out where all those of a tree would not fit into the memory.
     QString folder;
     /// The id of the folder that directly encloses it.
     std::optional<QString> folderID;
