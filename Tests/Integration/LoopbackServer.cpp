@@ -97,6 +97,7 @@ QByteArray LoopbackServer::response(const QString &host, const QString &path)
     const auto page = m_pages.constFind(host % path);
     if (page == m_pages.cend())
         return message("404 Not Found", {}, {});
+    m_servedPages.insert(u"http://" % host % path);
     const auto status = [&page](const QByteArray &usual) {
         return page->status.isEmpty() ? usual : page->status;
     };

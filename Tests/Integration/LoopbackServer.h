@@ -40,6 +40,8 @@ public:
     bool isListening() const;
     /// Serves `page` and returns its URL. `path` is what the browser asks for, percent-encoded as it does.
     QString add(const QString &host, int port, const QString &path, const Page &page);
+    /// Whether the page with this URL was sent to somebody.
+    bool hasServed(const QString &url) const { return m_servedPages.contains(url); }
     /// Whether the icon of this colour was sent to somebody.
     bool hasServedIcon(const QColor &icon) const { return m_servedIcons.contains(icon.name()); }
 
@@ -50,6 +52,7 @@ private:
 
     std::vector<std::unique_ptr<QTcpServer>> m_servers;
     QHash<QString, Page> m_pages;
+    QSet<QString> m_servedPages;
     QSet<QString> m_servedIcons;
 };
 

@@ -144,6 +144,7 @@ TEST_F(OpenInFirefoxTest, aLinkOpensInItsProfileWhetherThatRunsOrRests)
     const QString toStart = addPage(u"/start"_s);
     const QString toHandOver = addPage(u"/further"_s);
     const QString toOther = addPage(u"/other"_s);
+    const QString toSource = addPage(u"/source"_s);
     const QString toEnd = addPage(u"/end"_s);
     const FolderFingerprint resting(folder(privat));
 
@@ -165,12 +166,16 @@ TEST_F(OpenInFirefoxTest, aLinkOpensInItsProfileWhetherThatRunsOrRests)
     EXPECT_FALSE(hasVisited(privat, toHandOver));
     EXPECT_EQ(lines(u"ends"_s), QStringList{u"0"_s});
 
+    // A source is no visit.
+    opener->openLinks({{u"view-source:" % toSource, workSource}});
+    EXPECT_TRUE(waitUntil([&] { return server.hasServed(toSource); }, 3 * patience));
+
     // A profile that is gone: Firefox would wait with a question. Starts come one after the other.
     Source gone = workSource;
     gone.profile = work % u"-gone";
     opener->openLinks({{toStart, gone}, {toEnd, workSource}});
     ASSERT_TRUE(waitForVisit(work, toEnd));
-    EXPECT_EQ(lines(u"sessions"_s).size(), 4);
+    EXPECT_EQ(lines(u"sessions"_s).size(), 5);
     EXPECT_FALSE(QDir(dataFolder()).exists(*gone.profile));
 }
 

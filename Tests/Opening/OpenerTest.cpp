@@ -95,6 +95,17 @@ TEST_F(OpenerTest, firefoxGetsOnlyAddressesThatItOpensItself)
                                   QStringList{u"open"_s, u"firefox"_s} + opened}));
 }
 
+TEST_F(OpenerTest, firefoxShowsTheSourceOfWhateverItOpensItself)
+{
+    const QStringList opened{u"view-source:http://a/"_s, u"View-Source:file:///tmp/a.html"_s};
+    const QStringList refused{
+        u"view-source:unknown:x"_s, u"view-source:javascript:alert(1)"_s,   u"view-source:example.com"_s,
+        u"view-source:"_s,          u"view-source:view-source:http://a/"_s, u"view-source: http://a/"_s};
+    opener.openInFirefox(refused + opened, firefox);
+    EXPECT_EQ(workspace.requests,
+              QList<QStringList>({QStringList{u"profile"_s, u"firefox"_s, u"abc.default"_s} + opened}));
+}
+
 TEST_F(OpenerTest, firefoxHasPagesOfItsOwn)
 {
     opener.showHistory(firefox);

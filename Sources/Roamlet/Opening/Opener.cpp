@@ -39,13 +39,17 @@ bool isURL(const QString &text)
 }
 
 /// Whether Firefox opens the text itself. It takes one without a scheme for a file, sends one with a scheme
-/// that it does not know to a web search, and shows an empty tab for scripts and data.
+/// that it does not know to a web search, and shows an empty tab for scripts and data. The same goes for what
+/// it is to show the source of.
 bool isFirefoxURL(const QString &text)
 {
     static const QStringList schemes{u"http"_s, u"https"_s, u"file"_s,
                                      u"ftp"_s,  u"about"_s, u"moz-extension"_s};
-    const QString scheme = text.section(u':', 0, 0).toLower();
-    return text.contains(u':') && schemes.contains(scheme) && isURL(text);
+    constexpr QStringView viewSource = u"view-source:";
+    const QString page =
+        text.startsWith(viewSource, Qt::CaseInsensitive) ? text.sliced(viewSource.size()) : text;
+    const QString scheme = page.section(u':', 0, 0).toLower();
+    return page.contains(u':') && schemes.contains(scheme) && isURL(page);
 }
 
 bool isNumber(const QString &text)
