@@ -101,6 +101,19 @@ TEST_F(LinuxWorkspaceTest, aProfileIsOpenedByTheBrowsersOwnCommand)
                            u"http://a/"_s, u"http://b/"_s}));
 }
 
+TEST_F(LinuxWorkspaceTest, aProfileInTheDataFolderItselfIsNamedToNobody)
+{
+    desktop.addApplication(u"opera.desktop"_s, u"opera"_s);
+    keepDataIn(u".config/opera"_s);
+    windows->isSteerable = false;
+    workspace.openInProfile({u"http://a/"_s}, profileOf(browserKind(u"opera"), u""_s));
+    workspace.showPage(u"opera://bookmarks/"_s, profileOf(browserKind(u"opera"), u""_s));
+    const QList<FakeDesktop::Start> started = starts();
+    ASSERT_EQ(started.size(), 2);
+    EXPECT_EQ(started.at(0).arguments, QStringList{u"about:blank"_s});
+    EXPECT_EQ(started.at(1).arguments, QStringList{u"http://a/"_s});
+}
+
 TEST_F(LinuxWorkspaceTest, noShellSeesTheArguments)
 {
     desktop.addApplication(u"google-chrome.desktop"_s, u"chrome"_s);

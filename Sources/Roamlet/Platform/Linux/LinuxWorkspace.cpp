@@ -41,10 +41,13 @@ using Family = Browser::Family;
 QStringList chromiumCommand(const BrowserInstallation &installation, const QString &profile,
                             const QStringList &urls)
 {
-    // Without the second one a profile that was deleted would come back, empty.
-    return installation.entry.command +
-           QStringList{u"--profile-directory=" % profile, u"--ignore-profile-directory-if-not-exists"_s} +
-           urls;
+    QStringList command = installation.entry.command;
+    // One in the data folder itself has no name; the browser finds it when it is told nothing.
+    if (!profile.isEmpty()) {
+        // Without the second one a profile that was deleted would come back, empty.
+        command << u"--profile-directory=" % profile << u"--ignore-profile-directory-if-not-exists"_s;
+    }
+    return command + urls;
 }
 
 /// What a browser of Firefox's family is started with to open something in the profile in this folder.
