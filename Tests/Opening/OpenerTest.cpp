@@ -250,10 +250,9 @@ TEST_F(OpenerTest, safarisBookmarksOpenWhateverTheFolder)
 
 TEST_F(OpenerTest, knowsWhichBrowsersAreInstalled)
 {
-    workspace.icons.insert(u"edge"_s, Qt::blue);
-    EXPECT_TRUE(opener.isInstalled(Source::Kind::Edge));
-    EXPECT_FALSE(opener.isInstalled(Source::Kind::Chrome));
-    EXPECT_FALSE(opener.isInstalled(Source::Kind::Safari));
+    EXPECT_EQ(opener.installedBrowsers(), QList<Source::Kind>());
+    workspace.icons = {{u"firefox"_s, Qt::red}, {u"edge"_s, Qt::blue}};
+    EXPECT_EQ(opener.installedBrowsers(), QList({Source::Kind::Edge, firefox.kind}));
 }
 
 TEST_F(OpenerTest, anIconIsAskedForOnce)

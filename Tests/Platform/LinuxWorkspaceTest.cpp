@@ -62,6 +62,8 @@ protected:
                              "com.google.Chrome @@u %U @@");
     }
 
+    bool hasBrowser(Source::Kind browser) const { return workspace.installedBrowsers().contains(browser); }
+
     QList<FakeDesktop::Start> starts()
     {
         workspace.finishStarts();
@@ -142,7 +144,7 @@ TEST_F(LinuxWorkspaceTest, eitherNameOfABrowsersEntryWillDo)
     keepDataIn(u".config/google-chrome"_s);
     keepDataIn(u".config/microsoft-edge"_s);
     EXPECT_EQ(programForLink(Source::Kind::Chrome), u"chrome");
-    EXPECT_TRUE(workspace.hasBrowser(Source::Kind::Edge));
+    EXPECT_TRUE(hasBrowser(Source::Kind::Edge));
 }
 
 TEST_F(LinuxWorkspaceTest, edgeIsKnownByItsPackagesEntry)
@@ -150,7 +152,7 @@ TEST_F(LinuxWorkspaceTest, edgeIsKnownByItsPackagesEntry)
     desktop.addApplication(u"microsoft-edge.desktop"_s, u"edge"_s);
     keepDataIn(u".config/microsoft-edge"_s);
     EXPECT_EQ(programForLink(Source::Kind::Edge), u"edge");
-    EXPECT_FALSE(workspace.hasBrowser(Source::Kind::Chrome));
+    EXPECT_FALSE(hasBrowser(Source::Kind::Chrome));
 }
 
 TEST_F(LinuxWorkspaceTest, dataOfTheFlatpakIsOpenedByTheFlatpak)
@@ -185,17 +187,28 @@ TEST_F(LinuxWorkspaceTest, anotherInstallationDoesNotStandInForAProfile)
     EXPECT_TRUE(starts().isEmpty());
     EXPECT_EQ(windows->looks, 0);
     // Without a profile the browser is the browser.
-    EXPECT_TRUE(workspace.hasBrowser(Source::Kind::Chrome));
+    EXPECT_TRUE(hasBrowser(Source::Kind::Chrome));
     workspace.open({u"http://a/"_s}, Source::Kind::Chrome);
     EXPECT_EQ(onlyStart().program, u"flatpak");
+}
+
+TEST_F(LinuxWorkspaceTest, installedBrowsersComeInTheOrderInWhichBrowsersAreListed)
+{
+    EXPECT_EQ(workspace.installedBrowsers(), QList<Source::Kind>());
+    desktop.addApplication(u"firefox.desktop"_s, u"firefox"_s);
+    desktop.addApplication(u"google-chrome.desktop"_s, u"chrome"_s);
+    desktop.addApplication(u"opera.desktop"_s, u"opera"_s);
+    keepFirefoxIn(u".mozilla/firefox"_s, u"abc.default"_s);
+    EXPECT_EQ(workspace.installedBrowsers(),
+              QList({Source::Kind::Chrome, browserKind(u"opera"), browserKind(u"firefox")}));
 }
 
 TEST_F(LinuxWorkspaceTest, chromiumIsABrowserOfItsOwn)
 {
     desktop.addApplication(u"chromium.desktop"_s, u"chromium"_s);
     keepDataIn(u".config/chromium"_s);
-    EXPECT_TRUE(workspace.hasBrowser(browserKind(u"chromium")));
-    EXPECT_FALSE(workspace.hasBrowser(Source::Kind::Chrome));
+    EXPECT_TRUE(hasBrowser(browserKind(u"chromium")));
+    EXPECT_FALSE(hasBrowser(Source::Kind::Chrome));
     EXPECT_EQ(programForLink(browserKind(u"chromium")), u"chromium");
 }
 
@@ -361,43 +374,43 @@ TEST_F(LinuxWorkspaceTest, dataFromAMacIsOpenedByTheBrowserThatIsHere)
 TEST_F(LinuxWorkspaceTest, anEntryThatCannotBeStartedIsNoApplication)
 {
     desktop.addEntry(u"google-chrome.desktop"_s, {});
-    EXPECT_FALSE(workspace.hasBrowser(Source::Kind::Chrome));
+    EXPECT_FALSE(hasBrowser(Source::Kind::Chrome));
     desktop.addEntry(u"google-chrome.desktop"_s, u""_s);
-    EXPECT_FALSE(workspace.hasBrowser(Source::Kind::Chrome));
+    EXPECT_FALSE(hasBrowser(Source::Kind::Chrome));
     desktop.addEntry(u"google-chrome.desktop"_s, u"%U"_s);
-    EXPECT_FALSE(workspace.hasBrowser(Source::Kind::Chrome));
+    EXPECT_FALSE(hasBrowser(Source::Kind::Chrome));
     desktop.addEntry(u"google-chrome.desktop"_s, u"/nonexistent/chrome %U"_s);
-    EXPECT_FALSE(workspace.hasBrowser(Source::Kind::Chrome));
+    EXPECT_FALSE(hasBrowser(Source::Kind::Chrome));
     desktop.addEntry(u"google-chrome.desktop"_s, u"\"unclosed %U"_s);
-    EXPECT_FALSE(workspace.hasBrowser(Source::Kind::Chrome));
+    EXPECT_FALSE(hasBrowser(Source::Kind::Chrome));
     desktop.addEntry(u"google-chrome.desktop"_s, desktop.addProgram(u"chrome"_s),
                      u"TryExec=/nonexistent\n"_s);
-    EXPECT_FALSE(workspace.hasBrowser(Source::Kind::Chrome));
+    EXPECT_FALSE(hasBrowser(Source::Kind::Chrome));
 
     workspace.openInProfile({u"http://a/"_s}, profileOf(Source::Kind::Chrome, u"Default"_s));
     workspace.open({u"http://a/"_s}, Source::Kind::Chrome);
     EXPECT_TRUE(starts().isEmpty());
     // The system's entry counts where the user's own is broken.
     desktop.addEntry(u"google-chrome.desktop"_s, desktop.addProgram(u"chrome"_s) % u" %U", {}, 1);
-    EXPECT_TRUE(workspace.hasBrowser(Source::Kind::Chrome));
+    EXPECT_TRUE(hasBrowser(Source::Kind::Chrome));
 }
 
 TEST_F(LinuxWorkspaceTest, anEntryThatHidesTheApplicationHidesAllOfItsName)
 {
     desktop.addEntry(u"google-chrome.desktop"_s, desktop.addProgram(u"chrome"_s) % u" %U", {}, 1);
-    EXPECT_TRUE(workspace.hasBrowser(Source::Kind::Chrome));
+    EXPECT_TRUE(hasBrowser(Source::Kind::Chrome));
     desktop.addEntry(u"google-chrome.desktop"_s, desktop.addProgram(u"chrome"_s) % u" %U",
                      u"Hidden=true\n"_s);
-    EXPECT_FALSE(workspace.hasBrowser(Source::Kind::Chrome));
+    EXPECT_FALSE(hasBrowser(Source::Kind::Chrome));
 }
 
 TEST_F(LinuxWorkspaceTest, aBrokenEntryIsNoApplication)
 {
     desktop.addEntry(u"google-chrome.desktop"_s, desktop.addProgram(u"chrome"_s),
                      u"Type=Link\nURL=http://a/\n"_s);
-    EXPECT_FALSE(workspace.hasBrowser(Source::Kind::Chrome));
+    EXPECT_FALSE(hasBrowser(Source::Kind::Chrome));
     EXPECT_TRUE(QDir().mkpath(desktop.dataFolders().first() % u"/applications/com.google.Chrome.desktop"));
-    EXPECT_FALSE(workspace.hasBrowser(Source::Kind::Chrome));
+    EXPECT_FALSE(hasBrowser(Source::Kind::Chrome));
 }
 
 TEST_F(LinuxWorkspaceTest, urlsWithoutAProfileGoToTheApplicationAtOnce)
@@ -419,7 +432,7 @@ TEST_F(LinuxWorkspaceTest, anApplicationThatTakesOneUrlIsStartedForEach)
 
 TEST_F(LinuxWorkspaceTest, safariIsNeverHereAndItsLinksOpenInThePreferredBrowser)
 {
-    EXPECT_FALSE(workspace.hasBrowser(Source::Kind::Safari));
+    EXPECT_FALSE(hasBrowser(Source::Kind::Safari));
     workspace.open({u"http://a/"_s}, Source::Kind::Safari);
     const FakeDesktop::Start start = onlyStart();
     EXPECT_EQ(start.program, u"preferred-browser");

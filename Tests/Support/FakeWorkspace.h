@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "Model/Browser.h"
 #include "Platform/Workspace.h"
 
 #include <QHash>
@@ -16,11 +17,19 @@ namespace roamlet::testing
 class FakeWorkspace final : public Workspace
 {
 public:
-    bool hasBrowser(Source::Kind browser) const override { return icons.contains(Source::rawValue(browser)); }
+    QList<Source::Kind> installedBrowsers() const override
+    {
+        QList<Source::Kind> installed;
+        for (const Browser &browser : Browser::all()) {
+            if (icons.contains(browser.rawValue))
+                installed.append(browser.kind);
+        }
+        return installed;
+    }
     std::optional<QImage> icon(Source::Kind browser, int side, qreal devicePixelRatio) const override
     {
         ++iconRequests;
-        if (!hasBrowser(browser))
+        if (!icons.contains(Source::rawValue(browser)))
             return {};
         const int pixels = qRound(side * devicePixelRatio);
         QImage image(pixels, pixels, QImage::Format_ARGB32);

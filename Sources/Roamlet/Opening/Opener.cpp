@@ -150,9 +150,9 @@ void Opener::editBookmarks(const Source &source, const std::optional<QString> &f
     showPage(browser.bookmarksPage % folderPart(browser.folderQuery, folderID), source);
 }
 
-bool Opener::isInstalled(Source::Kind kind) const
+QList<Source::Kind> Opener::installedBrowsers() const
 {
-    return m_workspace.hasBrowser(kind);
+    return m_workspace.installedBrowsers();
 }
 
 std::optional<QImage> Opener::icon(Source::Kind kind, qreal devicePixelRatio)

@@ -46,8 +46,8 @@ public:
     /// Opens the browser's bookmark manager for the source, at a folder where that is possible.
     void editBookmarks(const Source &source, const std::optional<QString> &folderID);
 
-    /// Whether the browser is installed.
-    bool isInstalled(Source::Kind kind) const;
+    /// The browsers that are installed, in the order in which browsers are listed.
+    QList<Source::Kind> installedBrowsers() const;
     /// The browser's icon at 16 x 16 points, or nothing when there is none. An icon that was found is kept.
     std::optional<QImage> icon(Source::Kind kind, qreal devicePixelRatio);
 

@@ -6,6 +6,7 @@
 #include "Model/Source.h"
 
 #include <QImage>
+#include <QList>
 #include <QString>
 #include <QStringList>
 
@@ -24,8 +25,8 @@ public:
     Workspace &operator=(const Workspace &) = delete;
     virtual ~Workspace() = default;
 
-    /// Whether the browser is installed, in whatever way.
-    virtual bool hasBrowser(Source::Kind browser) const = 0;
+    /// The browsers that are installed, in whatever way, in the order in which browsers are listed.
+    virtual QList<Source::Kind> installedBrowsers() const = 0;
     /// The browser's icon, a square of `side` points in a device's pixel ratio; nothing when there is none.
     virtual std::optional<QImage> icon(Source::Kind browser, int side, qreal devicePixelRatio) const = 0;
     /// Opens the URLs with the browser, as it does by itself.

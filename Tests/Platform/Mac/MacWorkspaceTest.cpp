@@ -21,7 +21,7 @@ using namespace Qt::StringLiterals;
 class RecordingWorkspace final : public MacWorkspace
 {
 public:
-    bool hasBrowser(Source::Kind /*browser*/) const override { return true; }
+    QList<Source::Kind> installedBrowsers() const override { return {}; }
     std::optional<QImage> icon(Source::Kind /*browser*/, int /*side*/, qreal /*ratio*/) const override
     {
         return {};

@@ -7,7 +7,6 @@
 #include "App/Tables/TableHeader.h"
 #include "Library/Library.h"
 #include "Lists/Refine.h"
-#include "Model/Browser.h"
 #include "Platform/Clock.h"
 
 #include <QClipboard>
@@ -224,13 +223,8 @@ void LinkTable::copySelection()
 
 void LinkTable::showLinkMenu(const QPoint &place)
 {
-    QList<Source::Kind> installed;
-    for (const Browser &browser : Browser::all()) {
-        if (m_services.opener.isInstalled(browser.kind))
-            installed.append(browser.kind);
-    }
     const LinkMenuSubject subject = menuSubject(m_view.selectedRows());
-    const QList<LinkMenuEntry> entries = linkMenuEntries(subject, installed);
+    const QList<LinkMenuEntry> entries = linkMenuEntries(subject, m_services.opener.installedBrowsers());
     if (entries.isEmpty())
         return;
     auto *menu = new QMenu(this);

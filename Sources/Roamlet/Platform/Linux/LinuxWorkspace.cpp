@@ -106,9 +106,16 @@ LinuxWorkspace::LinuxWorkspace(QStringList dataFolders, const Folders &folders, 
 
 LinuxWorkspace::~LinuxWorkspace() = default;
 
-bool LinuxWorkspace::hasBrowser(Source::Kind browser) const
+QList<Source::Kind> LinuxWorkspace::installedBrowsers() const
 {
-    return installationOf(browser).has_value();
+    // Looking for the data folders of one browser is looking for those of all.
+    const auto folders = BrowserFolders::of(m_folders, m_files);
+    QList<Source::Kind> installed;
+    for (const Browser &browser : Browser::all()) {
+        if (BrowserInstallation::any(browser.kind, folders, m_dataFolders))
+            installed.append(browser.kind);
+    }
+    return installed;
 }
 
 std::optional<QImage> LinuxWorkspace::icon(Source::Kind browser, int side, qreal devicePixelRatio) const

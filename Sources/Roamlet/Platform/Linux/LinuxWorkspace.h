@@ -46,7 +46,7 @@ public:
                    std::unique_ptr<BrowserWindows> windows, PasteNotice notice);
     ~LinuxWorkspace() override;
 
-    bool hasBrowser(Source::Kind browser) const override;
+    QList<Source::Kind> installedBrowsers() const override;
     std::optional<QImage> icon(Source::Kind browser, int side, qreal devicePixelRatio) const override;
     void open(const QStringList &urls, Source::Kind browser) override;
     void openSystemURL(const QString &url) override;

@@ -110,6 +110,9 @@ QList<DesktopEntry> DesktopEntry::named(const QString &name, const QStringList &
     QList<DesktopEntry> entries;
     for (const QString &folder : dataFolders) {
         const QString path = folder % u"/applications/" % name;
+        // Most names are nowhere, which the library takes longer to find out.
+        if (!QFileInfo::exists(path))
+            continue;
         const GLibPointer<GDesktopAppInfo> info = load(path);
         if (!info)
             continue;
