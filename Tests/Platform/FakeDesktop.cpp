@@ -73,9 +73,14 @@ QStringList FakeDesktop::dataFolders() const
     return {m_folder.filePath(u"data0"_s), m_folder.filePath(u"data1"_s)};
 }
 
+QString FakeDesktop::programFolder() const
+{
+    return m_folder.filePath(u"bin"_s);
+}
+
 QString FakeDesktop::addProgram(const QString &name) const
 {
-    return writeProgram(m_folder.filePath(u"bin/"_s % name));
+    return writeProgram(programFolder() % u'/' % name);
 }
 
 void FakeDesktop::addEntry(const QString &name, const QString &command, const QString &furtherLines,

@@ -31,7 +31,9 @@ public:
 
     /// Where entries are looked for, in this order.
     QStringList dataFolders() const;
-    /// A new program of this name; its path.
+    /// Where new programs stand.
+    QString programFolder() const;
+    /// A new program of this name, which may begin with folders; its path.
     QString addProgram(const QString &name) const;
     /// Writes an entry to the first folder of entries, or to the one with this number.
     void addEntry(const QString &name, const QString &command, const QString &furtherLines = {},

@@ -5,11 +5,13 @@
 
 #include "Platform/FakeBrowserWindows.h"
 #include "Platform/FakeDesktop.h"
+#include "Platform/Variable.h"
 #include "SampleHome/PlainFiles.h"
 #include "Support/Sources.h"
 #include "Support/TestHome.h"
 
 #include <QDir>
+#include <QFile>
 
 #include <gtest/gtest.h>
 #include <signal.h>
@@ -60,6 +62,16 @@ protected:
                          desktop.addProgram(u"flatpak"_s) %
                              u" run --branch=stable --command=/app/bin/chrome --file-forwarding "
                              "com.google.Chrome @@u %U @@");
+    }
+
+    /// Makes the profile one that a program in this folder used last.
+    void useFirefoxLastFrom(const QString &folder, const QString &root, const QString &profile)
+    {
+        sample::writeFile(home.path(root % u'/' % profile % u"/compatibility.ini"),
+                          QString(u"[Compatibility]\nLastVersion=140.0_20260101/20260101\n"
+                                  "LastOSABI=Linux_x86_64-gcc3\nLastPlatformDir=" %
+                                  folder % u"\nLastAppDir=" % folder % u"/browser\n")
+                              .toUtf8());
     }
 
     bool hasBrowser(Source::Kind browser) const { return workspace.installedBrowsers().contains(browser); }
@@ -283,6 +295,75 @@ TEST_F(LinuxWorkspaceTest, firefoxOpensInTheFolderOfItsProfile)
     EXPECT_EQ(start.program, u"firefox-esr");
     EXPECT_EQ(start.arguments, QStringList({u"--profile"_s, home.path(u".mozilla/firefox/abc.default"_s),
                                             u"http://a/"_s, u"http://b/"_s}));
+}
+
+TEST_F(LinuxWorkspaceTest, ofTwoFirefoxesTheOneThatUsedTheProfileLastOpensIt)
+{
+    desktop.addApplication(u"firefox.desktop"_s, u"firefox-esr/firefox"_s);
+    desktop.addApplication(u"firefox-esr.desktop"_s, u"firefox/firefox-esr"_s);
+    const QString root = u".mozilla/firefox"_s;
+    keepFirefoxIn(root, u"abc.default"_s);
+    keepFirefoxIn(root, u"def.new"_s);
+    // The one folder's name begins like the other's.
+    useFirefoxLastFrom(desktop.programFolder() % u"/firefox", root, u"abc.default"_s);
+    const Source firefox = profileOf(browserKind(u"firefox"), u"abc.default"_s);
+    workspace.openInProfile({u"http://a/"_s}, firefox);
+    EXPECT_EQ(onlyStart().program, u"firefox-esr");
+    workspace.showPage(u"about:firefoxview#history"_s, firefox);
+    EXPECT_EQ(starts().value(1).program, u"firefox-esr");
+    workspace.openInProfile({u"http://a/"_s}, profileOf(browserKind(u"firefox"), u"def.new"_s));
+    EXPECT_EQ(starts().value(0).program, u"firefox") << "a profile that nobody has used yet";
+}
+
+TEST_F(LinuxWorkspaceTest, theFirefoxThatUsedAProfileLastIsKnownBehindLinks)
+{
+    desktop.addApplication(u"firefox.desktop"_s, u"firefox/firefox"_s);
+    QDir programs(desktop.programFolder());
+    desktop.addProgram(u"lib/esr/firefox-esr"_s);
+    ASSERT_TRUE(programs.mkpath(u"links"_s));
+    ASSERT_TRUE(QFile::link(u"../lib/esr/firefox-esr"_s, programs.filePath(u"links/linked-firefox"_s)));
+    ASSERT_TRUE(QFile::link(u"lib"_s, programs.filePath(u"lib64"_s)));
+    const Variable path("PATH", QFile::encodeName(programs.filePath(u"links"_s)) + ':' + qgetenv("PATH"));
+    desktop.addEntry(u"firefox-esr.desktop"_s, u"env LANG=C linked-firefox %u"_s);
+    keepFirefoxIn(u".mozilla/firefox"_s, u"abc.default"_s);
+    useFirefoxLastFrom(programs.filePath(u"lib64/esr"_s), u".mozilla/firefox"_s, u"abc.default"_s);
+    workspace.openInProfile({u"http://a/"_s}, profileOf(browserKind(u"firefox"), u"abc.default"_s));
+    EXPECT_EQ(onlyStart().program, u"linked-firefox");
+}
+
+TEST_F(LinuxWorkspaceTest, aFirefoxEntryOfTheUsersOwnStandsBeforeTheSystemsOfThatName)
+{
+    desktop.addApplication(u"firefox.desktop"_s, u"my-firefox"_s);
+    desktop.addEntry(u"firefox.desktop"_s, desktop.addProgram(u"firefox/firefox"_s) % u" %u", {}, 1);
+    keepFirefoxIn(u".mozilla/firefox"_s, u"abc.default"_s);
+    useFirefoxLastFrom(desktop.programFolder() % u"/firefox", u".mozilla/firefox"_s, u"abc.default"_s);
+    workspace.openInProfile({u"http://a/"_s}, profileOf(browserKind(u"firefox"), u"abc.default"_s));
+    EXPECT_EQ(onlyStart().program, u"my-firefox");
+}
+
+TEST_F(LinuxWorkspaceTest, whereNoFirefoxHasUsedTheProfileTheFirstOneOpensIt)
+{
+    desktop.addApplication(u"firefox.desktop"_s, u"firefox/firefox"_s);
+    desktop.addApplication(u"firefox-esr.desktop"_s, u"firefox-esr/firefox-esr"_s);
+    const QString root = u".mozilla/firefox"_s;
+    keepFirefoxIn(root, u"abc.default"_s);
+    const QString file = home.path(root % u"/abc.default/compatibility.ini");
+    const QByteArray folder = QFile::encodeName(desktop.programFolder()) + "/firefox-esr";
+    const QByteArrayList texts{"[Compatibility]\nLastPlatformDir=/usr/lib/gone\n",
+                               "[Compatibility]\nLastPlatformDir=\n",
+                               "[Compatibility]\n",
+                               "",
+                               QByteArray("\xFF\0[", 3),
+                               "LastPlatformDir=" + folder + '\n',
+                               "[Other]\nLastPlatformDir=" + folder + '\n'};
+    for (const QByteArray &text : texts) {
+        sample::writeFile(file, text);
+        workspace.openInProfile({u"http://a/"_s}, profileOf(browserKind(u"firefox"), u"abc.default"_s));
+    }
+    const QList<FakeDesktop::Start> started = starts();
+    EXPECT_EQ(started.size(), texts.size());
+    for (const FakeDesktop::Start &start : started)
+        EXPECT_EQ(start.program, u"firefox");
 }
 
 TEST_F(LinuxWorkspaceTest, firefoxFindsItsProfileInEitherDataFolder)

@@ -150,7 +150,7 @@ void LinuxWorkspace::openSystemURL(const QString &url)
 void LinuxWorkspace::openInProfile(const QStringList &urls, const Source &source)
 {
     const auto folders = BrowserFolders::of(m_folders, m_files);
-    const auto installation = BrowserInstallation::ofSource(source, folders, m_dataFolders);
+    const auto installation = BrowserInstallation::ofSource(source, folders, m_dataFolders, m_files);
     if (!installation)
         return;
     if (Browser::of(source.kind).family == Family::Firefox)
@@ -162,8 +162,9 @@ void LinuxWorkspace::openInProfile(const QStringList &urls, const Source &source
 void LinuxWorkspace::showPage(const QString &page, const Source &source)
 {
     const auto folders = BrowserFolders::of(m_folders, m_files);
-    const auto installation = source.profile ? BrowserInstallation::ofSource(source, folders, m_dataFolders)
-                                             : BrowserInstallation::any(source.kind, folders, m_dataFolders);
+    const auto installation = source.profile
+                                  ? BrowserInstallation::ofSource(source, folders, m_dataFolders, m_files)
+                                  : BrowserInstallation::any(source.kind, folders, m_dataFolders);
     if (!installation)
         return;
     if (Browser::of(source.kind).family == Family::Firefox) {

@@ -5,8 +5,13 @@
 
 #include "Model/Browser.h"
 #include "Platform/BrowserFolders.h"
+#include "Platform/Files.h"
+#include "Platform/Linux/Workspace/GLibPointer.h"
 
+#include <QFile>
 #include <QList>
+
+#include <functional>
 
 namespace roamlet
 {
@@ -54,14 +59,43 @@ DesktopEntry::Packaging packagingOf(const Browser::Installation &installation)
     return DesktopEntry::Packaging::Native;
 }
 
+/// All that a source's data leaves to choose from.
+QList<Browser::Installation> candidates(const Source &source, const BrowserFolders &folders)
+{
+    const auto installation = installationOfData(folders.roots(source).value(0));
+    return installation ? QList{*installation} : Browser::of(source.kind).installations;
+}
+
+/// The folder of the Firefox that used the profile last; empty when that is not known. An older one would
+/// refuse the profile, and a newer one change it.
+QString lastProgramFolder(const Source &source, const BrowserFolders &folders, const Files &files)
+{
+    if (!source.profile || Browser::of(source.kind).family != Browser::Family::Firefox)
+        return {};
+    const auto text = files.read(folders.profile(source, files) % u"/compatibility.ini");
+    const GLibPointer<GKeyFile> values(g_key_file_new());
+    if (!text || g_key_file_load_from_data(values.get(), text->constData(), static_cast<gsize>(text->size()),
+                                           G_KEY_FILE_NONE, nullptr) == FALSE)
+        return {};
+    // As it stands there: what looks like an escape is a part of the path.
+    const GLibPointer<gchar> folder(
+        g_key_file_get_value(values.get(), "Compatibility", "LastPlatformDir", nullptr));
+    return QFile::decodeName(folder.get());
+}
+
+/// The first one of which an entry will do.
 std::optional<BrowserInstallation> find(const QList<Browser::Installation> &installations,
-                                        const QStringList &dataFolders)
+                                        const QStringList &dataFolders,
+                                        const std::function<bool(const DesktopEntry &)> &isWanted)
 {
     for (const Browser::Installation &installation : installations) {
         for (const QString &name : installation.desktopEntries) {
             for (const DesktopEntry &entry : DesktopEntry::named(name % u".desktop", dataFolders)) {
                 if (entry.packaging() != packagingOf(installation))
                     continue;
+                // One of the user's own stands before the system's of that name.
+                if (!isWanted(entry))
+                    break;
                 QStringList classes = installation.windowClasses;
                 if (!entry.windowClass.isEmpty())
                     classes.append(entry.windowClass);
@@ -72,14 +106,25 @@ std::optional<BrowserInstallation> find(const QList<Browser::Installation> &inst
     return {};
 }
 
+bool isAny(const DesktopEntry & /*entry*/)
+{
+    return true;
+}
+
 } // namespace
 
 std::optional<BrowserInstallation> BrowserInstallation::ofSource(const Source &source,
                                                                  const BrowserFolders &folders,
-                                                                 const QStringList &dataFolders)
+                                                                 const QStringList &dataFolders,
+                                                                 const Files &files)
 {
-    const auto installation = installationOfData(folders.roots(source).value(0));
-    return find(installation ? QList{*installation} : Browser::of(source.kind).installations, dataFolders);
+    const QList<Browser::Installation> installations = candidates(source, folders);
+    if (const QString folder = lastProgramFolder(source, folders, files); !folder.isEmpty()) {
+        const auto isLast = [&folder](const DesktopEntry &entry) { return entry.startsFrom(folder); };
+        if (auto installation = find(installations, dataFolders, isLast))
+            return installation;
+    }
+    return find(installations, dataFolders, isAny);
 }
 
 std::optional<BrowserInstallation>
@@ -90,10 +135,10 @@ BrowserInstallation::any(Source::Kind browser, const BrowserFolders &folders, co
             continue;
         const Source source{
             .kind = browser, .profile = {}, .name = {}, .safariBookmarks = {}, .installation = data.key};
-        if (auto installation = ofSource(source, folders, dataFolders))
+        if (auto installation = find(candidates(source, folders), dataFolders, isAny))
             return installation;
     }
-    return find(Browser::of(browser).installations, dataFolders);
+    return find(Browser::of(browser).installations, dataFolders, isAny);
 }
 
 } // namespace roamlet

@@ -8,6 +8,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QStandardPaths>
 
 #include <algorithm>
 #include <optional>
@@ -97,6 +98,15 @@ DesktopEntry::Packaging DesktopEntry::packaging() const
             return Packaging::Flatpak;
     }
     return Packaging::Native;
+}
+
+bool DesktopEntry::startsFrom(const QString &folder) const
+{
+    const QString place = QFileInfo(folder).canonicalFilePath();
+    return !place.isEmpty() && std::ranges::any_of(command, [&place](const QString &argument) {
+        const QString program = QStandardPaths::findExecutable(argument);
+        return QFileInfo(program).canonicalFilePath().startsWith(QString(place % u'/'));
+    });
 }
 
 void DesktopEntry::launch(const QStringList &urls) const

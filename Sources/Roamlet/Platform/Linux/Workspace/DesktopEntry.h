@@ -22,6 +22,8 @@ struct DesktopEntry {
 
     /// Seen by the command: a browser's own package and its Flatpak may share the entry's name.
     Packaging packaging() const;
+    /// Whether the program lies below this folder; either may be reached through links.
+    bool startsFrom(const QString &folder) const;
     /// Opens URLs with the application, as many at once as it takes.
     void launch(const QStringList &urls) const;
 

@@ -20,6 +20,7 @@ struct GLibDeleter {
     void operator()(gchar *text) const { g_free(text); }
     void operator()(gchar **texts) const { g_strfreev(texts); }
     void operator()(GList *list) const { g_list_free(list); }
+    void operator()(GKeyFile *file) const { g_key_file_unref(file); }
     void operator()(GAppInfo *info) const { g_object_unref(info); }
     void operator()(GDesktopAppInfo *info) const { g_object_unref(info); }
 };
