@@ -304,32 +304,6 @@ TEST_F(InotifyRootsTest, aFolderOnTheWayMayComeBack)
     }
 }
 
-TEST_F(InotifyRootsTest, linksToFoldersAreFollowed)
-{
-    write(u"data/Default/History"_s);
-    write(u"profile/History"_s);
-    link(u"data"_s, u"root"_s);
-    link(u"profile"_s, u"data/Linked"_s);
-    watch({u"root"_s});
-    write(u"root/Default/History"_s, "y");
-    write(u"root/Linked/History"_s, "y");
-    EXPECT_EQ(changes(), (Paths{"root/Default/History", "root/Linked/History"}))
-        << "under the names that were asked for";
-}
-
-TEST_F(InotifyRootsTest, linksToFoldersThatAppearLaterArePickedUp)
-{
-    write(u"data/Default/History"_s);
-    write(u"profile/History"_s);
-    watch({u"root"_s});
-    link(u"data"_s, u"root"_s);
-    EXPECT_EQ(changes(), Paths{"root/Default/History"});
-    link(u"profile"_s, u"root/Linked"_s);
-    EXPECT_EQ(changes(), Paths{"root/Linked/History"});
-    write(u"root/Linked/History"_s, "y");
-    EXPECT_EQ(changes(), Paths{"root/Linked/History"});
-}
-
 TEST_F(InotifyRootsTest, aFolderWithTwoNamesIsReportedUnderBoth)
 {
     write(u"one/Default/History"_s);

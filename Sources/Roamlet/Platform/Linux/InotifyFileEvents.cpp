@@ -29,9 +29,10 @@ namespace
 {
 
 /// For a folder on the way to one that we want.
-constexpr std::uint32_t arrivals = IN_CREATE | IN_MOVED_TO | IN_DELETE_SELF | IN_MOVE_SELF | IN_ONLYDIR;
+constexpr std::uint32_t entries =
+    IN_CREATE | IN_MOVED_TO | IN_DELETE | IN_MOVED_FROM | IN_DELETE_SELF | IN_MOVE_SELF | IN_ONLYDIR;
 /// For a folder whose files count.
-constexpr std::uint32_t changes = arrivals | IN_MODIFY | IN_CLOSE_WRITE | IN_DELETE | IN_MOVED_FROM;
+constexpr std::uint32_t changes = entries | IN_MODIFY | IN_CLOSE_WRITE;
 
 class InotifyStream final : public FileEvents::Stream
 {
@@ -70,7 +71,7 @@ private:
     {
         const int number =
             inotify_add_watch(m_descriptor, QFile::encodeName(folder).constData(),
-                              (isRootOrDirectlyBelow(folder) ? changes : arrivals) | IN_MASK_ADD);
+                              (isRootOrDirectlyBelow(folder) ? changes : entries) | IN_MASK_ADD);
         if (number < 0)
             return lastError();
         if (!m_folders.contains(number, folder))
@@ -114,15 +115,18 @@ private:
         return result;
     }
 
-    /// Forgets a folder and all below it: nothing is reported from there under these names any more.
-    void letGo(const QString &folder)
+    /// Forgets a folder and all below it: nothing is reported from there under these names any more. Whether
+    /// anything was watched there.
+    bool letGo(const QString &folder)
     {
+        bool wasWatched = false;
         const QString below = folder % u'/';
         for (auto entry = m_folders.begin(); entry != m_folders.end();) {
             if (entry.value() != folder && !entry.value().startsWith(below)) {
                 ++entry;
                 continue;
             }
+            wasWatched = true;
             const int number = entry.key();
             m_watchedRoots.remove(entry.value());
             entry = m_folders.erase(entry);
@@ -130,6 +134,7 @@ private:
             if (!m_folders.contains(number))
                 inotify_rm_watch(m_descriptor, number);
         }
+        return wasWatched;
     }
 
     void watchContents(const QString &root, Contents contents)
@@ -231,12 +236,15 @@ private:
     {
         const QString path = folder.endsWith(u'/') ? QString(folder % name) : QString(folder % u'/' % name);
         const bool hasArrived = (mask & (IN_CREATE | IN_MOVED_TO)) != 0;
-        // A link to a folder arrives as if it were a file.
-        const bool isFolder = (mask & IN_ISDIR) != 0 || (hasArrived && QFileInfo(path).isDir());
+        const bool hasGone = (mask & (IN_DELETE | IN_MOVED_FROM)) != 0;
+        // The folder behind a link does not notice that the link is gone or leads elsewhere now.
+        const bool wasWatched = (hasArrived || hasGone) && letGo(path);
+        // A link to a folder comes and goes as if it were a file.
+        const bool isFolder = (mask & IN_ISDIR) != 0 || (hasArrived ? QFileInfo(path).isDir() : wasWatched);
         if (!isFolder) {
             if (isRootOrDirectlyBelow(folder))
                 note(path);
-        } else if (hasArrived) {
+        } else if (hasArrived || wasWatched) {
             if (isRoot(folder))
                 watchSubfolder(path, Contents::New);
             watchRoots(Contents::New);
