@@ -180,33 +180,57 @@ TEST_F(BrowserWatcherTest, profilesThatLieElsewhereAreFollowed)
 {
     const QString opera = home.path(u".config/opera"_s);
     const QString side = opera % u"/_side_profiles/Work/Default";
-    const QString far = home.path(u"elsewhere/profile"_s);
+    const QString distant = home.path(u"elsewhere/profile"_s);
     change([&] {
         sample::writeFile(opera % u"/Local State", "{}");
         sample::writeFile(opera % u"/History", "x");
         sample::writeFile(side % u"/History", "x");
         sample::writeFile(home.path(u".mozilla/firefox/profiles.ini"_s), "");
-        sample::writeFile(far % u"/places.sqlite", "x");
+        sample::writeFile(distant % u"/places.sqlite", "x");
     });
     QList<QSet<QString>> reports;
     BrowserWatcher watcher(home.platform(),
                            [&reports](const QSet<QString> &report) { reports.append(report); });
-    home.fileEvents.report({opera % u"/History", side % u"/History", far % u"/places.sqlite"});
+    home.fileEvents.report({opera % u"/History", side % u"/History", distant % u"/places.sqlite"});
     EXPECT_TRUE(reports.isEmpty()) << "nobody knows of them yet";
     watcher.setProfiles({profileOf(browserKind(u"opera"), u""_s),
                          profileOf(browserKind(u"opera"), u"_side_profiles/Work/Default"_s),
-                         profileOf(browserKind(u"firefox"), far),
+                         profileOf(browserKind(u"firefox"), distant),
                          profileOf(Source::Kind::Chrome, u"Default"_s), Source::safari()});
-    for (const QString &folder : {opera, side, far})
+    for (const QString &folder : {opera, side, distant})
         EXPECT_TRUE(home.fileEvents.watchedFolders.contains(folder)) << qPrintable(folder);
-    home.fileEvents.report({opera % u"/History", side % u"/History", far % u"/places.sqlite",
-                            opera % u"/Local State", far % u"/favicons.sqlite"});
+    home.fileEvents.report({opera % u"/History", side % u"/History", distant % u"/places.sqlite",
+                            opera % u"/Local State", distant % u"/favicons.sqlite"});
     EXPECT_EQ(reports, QList<QSet<QString>>({{u"opera/"_s, u"opera/_side_profiles/Work/Default"_s,
-                                              QString(u"firefox/" % far)}}));
+                                              QString(u"firefox/" % distant)}}));
     watcher.setProfiles({});
     change([&] { sample::writeFile(side % u"/History", "longer"); });
     home.fileEvents.report({side % u"/History"});
     EXPECT_EQ(reports.size(), 1) << "a profile that is gone is no longer followed";
+}
+
+TEST_F(BrowserWatcherTest, profilesMayBeSetWhileOneOfThemIsReported)
+{
+    const QString places = home.path(u"elsewhere/profile/places.sqlite"_s);
+    change([&] {
+        sample::writeFile(home.path(u".mozilla/firefox/profiles.ini"_s), "");
+        sample::writeFile(places, "x");
+    });
+    InotifyFileEvents events(home.clock);
+    QList<QSet<QString>> reports;
+    std::unique_ptr<BrowserWatcher> watcher;
+    watcher = std::make_unique<BrowserWatcher>(
+        Platform{home.folders, home.files, home.defaults, events, home.clock},
+        [&](const QSet<QString> &report) {
+            reports.append(report);
+            watcher->setProfiles({});
+        });
+    const QString profile = home.path(u"elsewhere/profile"_s);
+    watcher->setProfiles({profileOf(browserKind(u"firefox"), profile)});
+    change([&] { sample::writeFile(places, "longer"); });
+    ASSERT_TRUE(waitUntil([this] { return home.clock.waiting() == 1; }));
+    home.clock.advance(InotifyFileEvents::latency);
+    EXPECT_EQ(reports, QList<QSet<QString>>{{QString(u"firefox/" % profile)}});
 }
 
 TEST_F(BrowserWatcherTest, aBrowserThatIsInstalledLaterElsewhereIsKnown)
@@ -225,6 +249,38 @@ TEST_F(BrowserWatcherTest, aBrowserThatIsInstalledLaterElsewhereIsKnown)
     });
     home.fileEvents.report({history});
     EXPECT_EQ(reports, QList<QSet<QString>>{{u"chrome/Default"_s}});
+}
+
+TEST_F(BrowserWatcherTest, changesOfFilesThatNobodyReadsCostNoLookAtTheFileSystem)
+{
+    class Files final : public LinuxFiles
+    {
+    public:
+        bool exists(const QString &path) const override
+        {
+            ++looks;
+            return LinuxFiles::exists(path);
+        }
+        QString fileStamp(const QString &path) const override
+        {
+            ++looks;
+            return LinuxFiles::fileStamp(path);
+        }
+
+        mutable int looks = 0;
+    };
+    addChromium();
+    const Files files;
+    const Platform platform{home.folders, files, home.defaults, home.fileEvents, home.clock};
+    int reports = 0;
+    const BrowserWatcher watcher(platform, [&reports](const QSet<QString> &) { ++reports; });
+    files.looks = 0;
+    home.fileEvents.report({chromeFile(u"Default/Favicons"_s), chromeFile(u"Default/History-journal"_s),
+                            chromeFile(u"Local State"_s), chromeFile(u"Default/Cookies"_s)});
+    EXPECT_EQ(files.looks, 0);
+    home.fileEvents.report({chromeFile(u"Default/Favicons"_s), chromeFile(u"Default/History"_s)});
+    EXPECT_GT(files.looks, 0);
+    EXPECT_EQ(reports, 1);
 }
 
 TEST_F(BrowserWatcherTest, aWatcherThatGoesEndsItsStream)

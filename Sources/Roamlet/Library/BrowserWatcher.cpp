@@ -57,6 +57,23 @@ QString idOf(Source::Kind kind, QStringView profile, const QString &installation
         .id();
 }
 
+/// Whether any browser has a file of this name that is read. Browsers of one family have the same ones.
+bool isReadAnywhere(QStringView name)
+{
+    static const QList<Source::Kind> oneOfEachFamily = [] {
+        QList<Source::Kind> kinds;
+        for (const Browser &browser : Browser::all()) {
+            if (std::ranges::none_of(kinds, [&browser](Source::Kind kind) {
+                    return Browser::of(kind).family == browser.family;
+                }))
+                kinds.append(browser.kind);
+        }
+        return kinds;
+    }();
+    return std::ranges::any_of(oneOfEachFamily,
+                               [name](Source::Kind kind) { return BrowserReader::isRead(name, kind); });
+}
+
 } // namespace
 
 BrowserWatcher::BrowserWatcher(const Platform &platform, Handler onChange)
@@ -72,31 +89,36 @@ std::unique_ptr<FileEvents::Stream> BrowserWatcher::open(const QStringList &fold
 void BrowserWatcher::setProfiles(const QList<Source> &profiles)
 {
     const BrowserFolders folders = BrowserFolders::of(m_platform.folders, m_platform.files);
-    QHash<QString, Source> far;
+    QHash<QString, Source> elsewhere;
     for (const Source &source : profiles) {
         const QStringList roots = folders.roots(source);
         const QString folder = folders.profile(source, m_platform.files);
         const auto [parent, name] = split(folder);
         const bool isKnownByPlace = roots.contains(parent) && source.profile == name;
         if (!roots.isEmpty() && !isKnownByPlace)
-            far.insert(folder, source);
+            elsewhere.insert(folder, source);
     }
-    if (far == m_farProfiles)
+    if (elsewhere == m_profilesElsewhere)
         return;
-    m_farProfiles = far;
-    m_farStream = far.isEmpty() ? nullptr : open(far.keys());
+    m_profilesElsewhere = elsewhere;
+    m_streamElsewhere = elsewhere.isEmpty() ? nullptr : open(elsewhere.keys());
 }
 
 void BrowserWatcher::handle(const QStringList &paths)
 {
-    const BrowserFolders folders = BrowserFolders::of(m_platform.folders, m_platform.files);
+    // Browsers write many files that nobody here reads; the folders cost a look at every browser's place.
+    std::optional<BrowserFolders> folders;
     QSet<QString> changed;
     for (const QString &path : paths) {
-        std::optional<QString> id = sourceID(path, folders);
         const auto [folder, name] = split(path);
-        const auto far = m_farProfiles.constFind(folder.toString());
-        if (far != m_farProfiles.cend() && BrowserReader::isRead(name, far->kind))
-            id = far->id();
+        if (!isReadAnywhere(name))
+            continue;
+        if (!folders)
+            folders = BrowserFolders::of(m_platform.folders, m_platform.files);
+        std::optional<QString> id = sourceID(path, *folders);
+        const auto profile = m_profilesElsewhere.constFind(folder.toString());
+        if (profile != m_profilesElsewhere.cend() && BrowserReader::isRead(name, profile->kind))
+            id = profile->id();
         if (!id)
             continue;
         const QString stamp = m_platform.files.fileStamp(path);

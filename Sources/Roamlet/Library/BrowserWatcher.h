@@ -35,7 +35,7 @@ public:
     bool isWatching() const { return m_stream != nullptr; }
 
     /// Also follows profiles that lie elsewhere than right below their browser's data folder. Called whenever
-    /// the profiles may have changed.
+    /// the profiles may have changed, also by `onChange`.
     void setProfiles(const QList<Source> &profiles);
 
     /// The id of the source that owns the file at `path`, or nothing when it is no file that is read. Every
@@ -51,9 +51,10 @@ private:
     /// The last stamp seen of each file.
     QHash<QString, QString> m_stamps;
     /// The profiles that lie elsewhere, by folder.
-    QHash<QString, Source> m_farProfiles;
+    QHash<QString, Source> m_profilesElsewhere;
     std::unique_ptr<FileEvents::Stream> m_stream;
-    std::unique_ptr<FileEvents::Stream> m_farStream;
+    /// Reports from the profiles that lie elsewhere; null while there are none.
+    std::unique_ptr<FileEvents::Stream> m_streamElsewhere;
 };
 
 } // namespace roamlet
