@@ -28,8 +28,10 @@ public:
     /// Hands these paths to whoever opened the last stream.
     void report(const QStringList &paths) const
     {
-        if (m_handler)
-            m_handler(paths);
+        // Who gets the report may open another stream.
+        const Handler handler = m_handler;
+        if (handler)
+            handler(paths);
     }
 
     /// Whether the system offers file events at all.

@@ -4,6 +4,8 @@
 #include "App/Diagnostics/Diagnostics.h"
 #include "BrowserHome.h"
 #include "LocalTime.h"
+#include "SampleHome/FirefoxFiles.h"
+#include "SampleHome/PlainFiles.h"
 #include "Support/FakeConsole.h"
 
 #include <QTimer>
@@ -204,6 +206,36 @@ TEST_F(DiagnosticsWatchTest, namesAProfileThatIsInNoListByItsId)
     home.addPages();
     watching.run({[&] { home.fileEvents.report({home.chrome(u"Profile 9/History"_s)}); }});
     EXPECT_EQ(watching.console.output.toStdString(), "2026-05-09 11:43  chrome/Profile 9\n");
+}
+
+TEST_F(DiagnosticsWatchTest, followsProfilesElsewhereThatAppearWhileItWatches)
+{
+    Watching watching(u"60"_s);
+    const BrowserHome &home = watching.home;
+    home.addPages();
+    const QString list = home.path(u".mozilla/firefox/profiles.ini"_s);
+    const QString first = home.path(u"disk/first"_s);
+    const QString second = home.path(u"disk/second"_s);
+    for (const QString &folder : {first, second})
+        sample::writeFile(folder % u"/places.sqlite", "x");
+    sample::writeFirefoxProfiles(list, {{.name = u"First"_s, .path = first, .isRelative = false}});
+    const auto report = [&home](const QString &file) {
+        return [&home, file] { home.fileEvents.report({file}); };
+    };
+    bool isWatchedAtFirst = true;
+    watching.run({report(first % u"/places.sqlite"), report(second % u"/places.sqlite"),
+                  [&] {
+                      isWatchedAtFirst = home.fileEvents.watchedFolders.contains(second);
+                      sample::writeFirefoxProfiles(
+                          list, {{.name = u"First"_s, .path = first, .isRelative = false},
+                                 {.name = u"Second"_s, .path = second, .isRelative = false}});
+                  },
+                  report(home.edge(u"Default/History"_s)), report(second % u"/places.sqlite")});
+    EXPECT_FALSE(isWatchedAtFirst);
+    EXPECT_TRUE(home.fileEvents.watchedFolders.contains(second));
+    EXPECT_EQ(watching.console.output.toStdString(), "2026-05-09 11:43  Firefox - First\n"
+                                                     "2026-05-09 11:43  Edge - Office\n"
+                                                     "2026-05-09 11:43  Firefox - Second\n");
 }
 
 TEST_F(DiagnosticsWatchTest, namesCannotCommandATerminal)

@@ -99,8 +99,10 @@ private:
     }
     /// The bookmarks of one source, or why there is no such source. What cannot be read is complained of.
     std::expected<QList<BookmarkNode>, QString> bookmarks(const QString &sourceID);
+    /// Every profile that there is now: a browser may have been installed since the start.
+    QList<Source> profilesNow() const;
     /// What stands for the sources that the watcher reports, sorted.
-    QStringList labels(const QSet<QString> &sourceIDs) const;
+    QStringList labels(const QSet<QString> &sourceIDs, const QList<Source> &profiles) const;
 
     /// A text of the user's as it may be shown: unchanged, but never obeyed by a terminal.
     QString text(const QString &stored) const
@@ -278,16 +280,19 @@ int Job::search(const HistoryQuery &query)
     return print(lines);
 }
 
-QStringList Job::labels(const QSet<QString> &sourceIDs) const
+QList<Source> Job::profilesNow() const
 {
-    // A browser may have been installed since the start.
     ReadContext context = Library::readContext(m_platform);
     context.stop = m_stop;
-    const QList<Source> sources = Library::allProfiles({}, context);
+    return Library::allProfiles({}, context);
+}
+
+QStringList Job::labels(const QSet<QString> &sourceIDs, const QList<Source> &profiles) const
+{
     QStringList result;
     for (const QString &id : sourceIDs) {
-        const auto source = std::ranges::find(sources, id, &Source::id);
-        result.append(text(source == sources.end() ? id : source->label()));
+        const auto source = std::ranges::find(profiles, id, &Source::id);
+        result.append(text(source == profiles.end() ? id : source->label()));
     }
     result.sort();
     return result;
@@ -308,7 +313,10 @@ int Job::watch(const std::optional<QString> &duration)
     QEventLoop loop;
     BrowserWatcher watcher(m_platform, [&](const QSet<QString> &sourceIDs) {
         const PointInTime now = std::chrono::time_point_cast<PointInTime::duration>(m_platform.clock.now());
-        status = print({localTime(now) % u"  " % labels(sourceIDs).join(u", "_s)});
+        const QList<Source> profiles = profilesNow();
+        // One that lies elsewhere may be new, too.
+        watcher.setProfiles(profiles);
+        status = print({localTime(now) % u"  " % labels(sourceIDs, profiles).join(u", "_s)});
         if (!m_canWrite)
             loop.quit();
     });
@@ -316,7 +324,7 @@ int Job::watch(const std::optional<QString> &duration)
         complain(u"The browsers' folders cannot be watched: the system reports no changes in them."_s);
         return failure;
     }
-    watcher.setProfiles(Library::allProfiles({}, m_context));
+    watcher.setProfiles(profilesNow());
     m_platform.clock.after(std::chrono::milliseconds(milliseconds), &loop, [&loop] { loop.quit(); });
     const std::stop_callback end(m_stop,
                                  [&loop] { QMetaObject::invokeMethod(&loop, "quit", Qt::QueuedConnection); });
