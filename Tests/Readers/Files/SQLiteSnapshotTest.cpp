@@ -1,19 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
-#include "Readers/Files/SQLiteSnapshot.h"
+#include "Readers/Files/SQLiteSnapshotTest.h"
 
 #include "Platform/FileSizeLimit.h"
 #include "Platform/WithoutPrivileges.h"
-#include "Readers/ReaderTest.h"
-#include "SampleHome/PlainFiles.h"
-#include "SampleHome/SqliteFile.h"
 
-#include <QDataStream>
-#include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
+#include <QSet>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -21,122 +16,14 @@
 #include <unistd.h>
 
 #include <array>
-#include <atomic>
-#include <numeric>
 #include <stop_token>
 #include <thread>
+#include <vector>
 
 namespace roamlet::testing
 {
 
 using namespace Qt::StringLiterals;
-
-namespace
-{
-
-class SQLiteSnapshotTest : public ReaderTest
-{
-protected:
-    SQLiteSnapshotTest()
-    {
-        home.files.afterCopy = [this](const QString &copied) {
-            if (copied == source)
-                ++copies;
-        };
-    }
-
-    /// A small database with one table of these values, no log and no journal.
-    void write(const QStringList &values) const
-    {
-        sample::makeFolderOf(source);
-        QFile::remove(source);
-        sample::Database database(source);
-        database.execute("PRAGMA synchronous = OFF; PRAGMA journal_mode = MEMORY; CREATE TABLE t(v)");
-        sample::Statement insert = database.prepare("INSERT INTO t VALUES(?)");
-        for (const QString &value : values)
-            insert.run(sample::Text(value));
-    }
-
-    /// Writes 1,000 numbers and leaves the later ones in the log, or a half-done change with its journal.
-    void writeThousand(sample::Journal journal) const
-    {
-        const auto fill = [](sample::Database &database, sample::Share share) {
-            sample::Statement insert = database.prepare("INSERT INTO t VALUES(?)");
-            const auto [first, end] = share.of(1000);
-            for (qsizetype i = first; i < end; ++i)
-                insert.run(qint64(i));
-        };
-        sample::writeDatabase(source,
-                              {.tables = "CREATE TABLE t(v); CREATE TABLE bulk(v)",
-                               .fill = fill,
-                               .unfinishedChange = "UPDATE t SET v = -v",
-                               .unfinishedBulk = "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 "
-                                                 "FROM n WHERE i < 2000) INSERT INTO bulk SELECT "
-                                                 "zeroblob(600) FROM n"},
-                              journal);
-    }
-
-    static QStringList query(const SQLiteSnapshot &snapshot, const QString &sql,
-                             const QStringList &parameters = {})
-    {
-        QStringList values;
-        const auto run = snapshot.query(sql, parameters, [&values](const SQLiteSnapshot::Row &row) {
-            values.append(row.text(0).value_or(u"NULL"_s));
-        });
-        if (!run)
-            values = {run.error().errorDescription()};
-        return values;
-    }
-
-    /// The first column of a query on a fresh copy, or the error.
-    QStringList read(const QString &sql = u"SELECT v FROM t"_s)
-    {
-        const auto snapshot = SQLiteSnapshot::copying(source, context());
-        return snapshot ? query(*snapshot, sql) : QStringList{snapshot.error().errorDescription()};
-    }
-
-    ReadError errorOfCopying()
-    {
-        const auto snapshot = SQLiteSnapshot::copying(source, context());
-        return snapshot ? ReadError::unreadable(u"there"_s, u"is no error"_s) : snapshot.error();
-    }
-
-    QStringList foldersLeft() const
-    {
-        return QDir(home.temporary()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
-    }
-
-    const QString source = home.path(u"data/History"_s);
-    /// Some tests read on several threads.
-    std::atomic<int> copies = 0;
-};
-
-/// The journal of a change that has changed nothing yet, and that shares its fate with the changes of other
-/// databases: `shared` is the file that says whose.
-QByteArray journalThatNames(const QString &shared, const QString &database)
-{
-    constexpr quint32 pageSize = 4096;
-    constexpr qsizetype sectorSize = 512;
-    constexpr quint32 lockByte = 0x40000000;
-    const QByteArray magic = QByteArray::fromHex("d9d505f920a163d7");
-    QByteArray journal;
-    QDataStream stream(&journal, QIODevice::WriteOnly);
-    const auto pages = static_cast<quint32>(QFileInfo(database).size() / pageSize);
-    stream.writeRawData(magic.constData(), static_cast<int>(magic.size()));
-    stream << quint32(0) << quint32(12345) << pages << quint32(sectorSize) << pageSize;
-    const QByteArray padding(sectorSize - journal.size(), '\0');
-    stream.writeRawData(padding.constData(), static_cast<int>(padding.size()));
-    const QByteArray name = QFile::encodeName(shared);
-    stream << quint32(lockByte / pageSize + 1);
-    stream.writeRawData(name.constData(), static_cast<int>(name.size()));
-    stream << quint32(name.size()) << quint32(std::accumulate(name.begin(), name.end(), 0));
-    stream.writeRawData(magic.constData(), static_cast<int>(magic.size()));
-    return journal;
-}
-
-const QString sumAndCount = u"SELECT count(*) || ' ' || sum(v) FROM t"_s;
-
-} // namespace
 
 TEST_F(SQLiteSnapshotTest, copiesOnceWhatDoesNotChange)
 {
@@ -179,24 +66,6 @@ TEST_F(SQLiteSnapshotTest, keepsTheCopyFromOtherUsers)
     EXPECT_EQ(read(), QStringList{u"secret"_s});
     ::umask(oldMask);
     EXPECT_EQ(seen, (QStringList{u"History"_s, u"History-wal"_s, u"History-shm"_s, u"History-journal"_s}));
-}
-
-TEST_F(SQLiteSnapshotTest, readsWhatStandsOnlyInTheWriteAheadLog)
-{
-    writeThousand(sample::Journal::UnmergedWal);
-    ASSERT_GT(QFileInfo(source % u"-wal").size(), 0);
-    EXPECT_EQ(read(sumAndCount), QStringList{u"1000 499500"_s});
-    // The log made the difference.
-    refuse(source % u"-wal", std::errc::no_such_file_or_directory);
-    EXPECT_EQ(read(sumAndCount), QStringList{u"500 124750"_s});
-}
-
-TEST_F(SQLiteSnapshotTest, rollsAnUnfinishedChangeBackInTheCopy)
-{
-    writeThousand(sample::Journal::HotJournal);
-    EXPECT_EQ(read(sumAndCount), QStringList{u"1000 499500"_s});
-    refuse(source % u"-journal", std::errc::no_such_file_or_directory);
-    EXPECT_NE(read(sumAndCount), QStringList{u"1000 499500"_s});
 }
 
 TEST_F(SQLiteSnapshotTest, copiesAgainWhenTheDatabaseChangedMeanwhile)
@@ -284,23 +153,6 @@ TEST_F(SQLiteSnapshotTest, everyCopyStartsInAnEmptyFolder)
     EXPECT_EQ(read(), QStringList{u"value"_s});
     EXPECT_EQ(copies, 2);
     EXPECT_EQ(filesOfSecondCopy, QStringList{u"History"_s});
-}
-
-TEST_F(SQLiteSnapshotTest, whatIsNoDatabaseFailsAtTheFirstQuery)
-{
-    sample::writeFile(source,
-                      QByteArray("this is no database, but long enough for its header ").repeated(20));
-    const auto snapshot = SQLiteSnapshot::copying(source, context());
-    ASSERT_TRUE(snapshot.has_value());
-    const auto run = snapshot->query(u"SELECT v FROM t"_s, {}, [](const auto &) {});
-    ASSERT_FALSE(run.has_value());
-    EXPECT_EQ(run.error(), ReadError::unreadable(u"query"_s, u"file is not a database"_s));
-}
-
-TEST_F(SQLiteSnapshotTest, anEmptyFileIsADatabaseWithoutTables)
-{
-    sample::writeFile(source, {});
-    EXPECT_EQ(read(), QStringList{u"Couldn't read query: no such table: t"_s});
 }
 
 TEST_F(SQLiteSnapshotTest, aMissingSourceIsTheCopysError)
@@ -392,57 +244,6 @@ TEST_F(SQLiteSnapshotTest, aCopyThatFindsNoRoomIsUnreadableAndNamesTheTemporaryF
     EXPECT_EQ(foldersLeft(), QStringList());
 }
 
-TEST_F(SQLiteSnapshotTest, bindsParametersAsTextInTheirOrder)
-{
-    write({});
-    const auto snapshot = SQLiteSnapshot::copying(source, context());
-    ASSERT_TRUE(snapshot.has_value());
-    EXPECT_EQ(query(*snapshot, u"SELECT ? || ',' || ? || typeof(?)"_s, {u"1"_s, u"Zoë"_s, u"3"_s}),
-              QStringList{u"1,Zoëtext"_s});
-}
-
-TEST_F(SQLiteSnapshotTest, rowsGiveEveryKindOfValue)
-{
-    write({});
-    const auto snapshot = SQLiteSnapshot::copying(source, context());
-    ASSERT_TRUE(snapshot.has_value());
-    int rows = 0;
-    const auto run = snapshot->query(
-        u"SELECT 9223372036854775807, 0.5, 'text', NULL, x'00ff00', x'', CAST(x'61006263' AS TEXT),"
-        " CAST(x'61c362ff' AS TEXT), '', CAST(x'efbbbf6d61726b6564efbbbf' AS TEXT)"_s,
-        {}, [&rows](const SQLiteSnapshot::Row &row) {
-            ++rows;
-            EXPECT_EQ(row.integer(0), 9223372036854775807);
-            EXPECT_EQ(row.real(1), 0.5);
-            EXPECT_EQ(row.text(2), u"text"_s);
-            EXPECT_EQ(row.text(3), std::nullopt);
-            EXPECT_EQ(row.integer(3), 0);
-            EXPECT_TRUE(row.blob(3).isNull());
-            EXPECT_EQ(row.blob(4).toByteArray(), QByteArray("\0\xff\0", 3));
-            EXPECT_EQ(row.blob(5).size(), 0);
-            // A text ends at a NUL; broken sequences are replaced.
-            EXPECT_EQ(row.text(6), u"a"_s);
-            EXPECT_EQ(row.text(7), u"a\uFFFDb\uFFFD"_s);
-            EXPECT_EQ(row.text(8), u""_s);
-            EXPECT_EQ(row.text(9), u"\uFEFFmarked\uFEFF"_s);
-        });
-    EXPECT_TRUE(run.has_value());
-    EXPECT_EQ(rows, 1);
-}
-
-TEST_F(SQLiteSnapshotTest, staysUsableAfterAQueryThatFailed)
-{
-    write({u"value"_s});
-    const auto snapshot = SQLiteSnapshot::copying(source, context());
-    ASSERT_TRUE(snapshot.has_value());
-    EXPECT_EQ(query(*snapshot, u"SELECT missing FROM t"_s),
-              QStringList{u"Couldn't read query: no such column: missing"_s});
-    EXPECT_EQ(query(*snapshot, u"SELECT abs(-9223372036854775808) FROM t"_s),
-              QStringList{u"Couldn't read query: integer overflow"_s});
-    EXPECT_EQ(query(*snapshot, u""_s).value(0).left(20), u"Couldn't read query:"_s);
-    EXPECT_EQ(query(*snapshot, u"SELECT v FROM t"_s), QStringList{u"value"_s});
-}
-
 TEST_F(SQLiteSnapshotTest, isGoneWhenItIsReleased)
 {
     write({});
@@ -527,42 +328,6 @@ TEST_F(SQLiteSnapshotTest, twoReadsOfOneDatabaseDoNotMeet)
     EXPECT_EQ(QSet<QString>(folders.begin(), folders.end()).size(), 4);
 }
 
-TEST_F(SQLiteSnapshotTest, runsNothingThatTheDatabaseBringsAlong)
-{
-    write({u"value"_s});
-    sample::Database(source).execute("CREATE VIEW w AS SELECT v FROM t");
-    EXPECT_EQ(read(u"SELECT v FROM w"_s),
-              QStringList{u"Couldn't read query: access to view \"w\" prohibited"_s});
-}
-
-TEST_F(SQLiteSnapshotTest, aJournalCannotHaveAFileOfTheUsersDeleted)
-{
-    write({u"value"_s});
-    const QString precious = home.path(u"precious.txt"_s);
-    const QString otherJournal = home.path(u"other-journal"_s);
-    sample::writeFile(otherJournal, "of another database");
-    const QByteArray nobody = otherJournal.toUtf8() + '\0';
-    const QByteArray thisOne = source.toUtf8() + "-journal" + '\0';
-    for (const QByteArray &content : {QByteArray("my thesis\n"), QByteArray(), nobody, thisOne}) {
-        change([&] {
-            sample::writeFile(precious, content);
-            sample::writeFile(source % u"-journal", journalThatNames(precious, source));
-        });
-        EXPECT_EQ(read(), QStringList{u"value"_s});
-        expectNothingTouched();
-    }
-}
-
-TEST_F(SQLiteSnapshotTest, aJournalThatNamesSomethingThatNeverEndsIsNoHang)
-{
-    write({u"value"_s});
-    const QString pipe = home.path(u"pipe"_s);
-    ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
-    sample::writeFile(source % u"-journal", journalThatNames(pipe, source));
-    EXPECT_EQ(read(), QStringList{u"value"_s});
-    EXPECT_TRUE(QFileInfo::exists(pipe));
-}
-
 TEST_F(SQLiteSnapshotTest, aLongLogIsNotMergedIntoACopyThatIsThrownAway)
 {
     writeThousand(sample::Journal::UnmergedWal);
@@ -609,34 +374,6 @@ TEST_F(SQLiteSnapshotTest, aRequestToStopBetweenTheFilesNeverYieldsADatabaseWith
     const QStringList rows = snapshot ? query(*snapshot, sumAndCount) : QStringList{};
     EXPECT_NE(rows, QStringList{u"500 124750"_s});
     EXPECT_FALSE(snapshot.has_value());
-}
-
-TEST_F(SQLiteSnapshotTest, aRequestToStopEndsAStatementThatRuns)
-{
-    write({});
-    std::stop_source stop;
-    ReadContext reading = context();
-    reading.stop = stop.get_token();
-    const auto snapshot = SQLiteSnapshot::copying(source, reading);
-    ASSERT_TRUE(snapshot.has_value());
-    int rows = 0;
-    const auto run = snapshot->query(
-        u"WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 1000000) SELECT i FROM n"_s,
-        {}, [&](const SQLiteSnapshot::Row &) {
-            ++rows;
-            stop.request_stop();
-        });
-    ASSERT_FALSE(run.has_value());
-    EXPECT_EQ(run.error(), ReadError::unreadable(u"query"_s, u"interrupted"_s));
-    EXPECT_LT(rows, 10'000);
-}
-
-TEST_F(SQLiteSnapshotTest, aStatementThatWouldNeverEndIsEnded)
-{
-    write({});
-    EXPECT_EQ(
-        read(u"WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n) SELECT count(*) FROM n"_s),
-        QStringList{u"Couldn't read query: interrupted"_s});
 }
 
 } // namespace roamlet::testing

@@ -1,0 +1,199 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "Platform/FileSizeLimit.h"
+#include "Platform/LinuxFilesTest.h"
+#include "Platform/WithoutPrivileges.h"
+
+#include <QDir>
+
+#include <unistd.h>
+
+#include <optional>
+#include <thread>
+
+namespace roamlet::testing
+{
+
+using namespace Qt::StringLiterals;
+
+/// Private copies of files that belong to somebody else.
+class FileCopyTest : public LinuxFilesTest
+{
+protected:
+    static QByteArray content(const QString &path)
+    {
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(path);
+        return file.readAll();
+    }
+
+    /// The side on which a copy fails; absent when it does not.
+    std::optional<CopyError::Side> failingSide(const QString &source, const QString &target) const
+    {
+        const auto copied = files.copy(source, target, {});
+        return copied ? std::nullopt : std::optional(copied.error().side);
+    }
+};
+
+TEST_F(FileCopyTest, aCopyHasTheSameBytes)
+{
+    const QString target = path(u"target"_s);
+    for (const qsizetype size : {0, 1, 4096, 8 << 20, (16 << 20) + 1}) {
+        const QByteArray expected = bytes(size);
+        const QString source = file(u"source"_s, expected);
+        EXPECT_FALSE(copy(source, target)) << size;
+        EXPECT_TRUE(content(target) == expected) << size;
+        ASSERT_TRUE(QFile::remove(target));
+    }
+}
+
+TEST_F(FileCopyTest, aCopyToAnotherFileSystemHasTheSameBytes)
+{
+    const QTemporaryDir other(u"/dev/shm/roamlet-test-XXXXXX"_s);
+    if (!other.isValid() || attributes(other.path()).st_dev == attributes(path({})).st_dev)
+        GTEST_SKIP() << "there is no second file system";
+    const QByteArray expected = bytes((1 << 20) + 7);
+    const QString source = file(u"source"_s, expected);
+    const QString there = other.filePath(u"there"_s);
+    ASSERT_FALSE(copy(source, there));
+    EXPECT_TRUE(content(there) == expected);
+    EXPECT_EQ(permissions(there), 0600U);
+    ASSERT_FALSE(copy(there, path(u"back"_s)));
+    EXPECT_TRUE(content(path(u"back"_s)) == expected);
+
+    const std::stop_source stop;
+    stop.request_stop();
+    EXPECT_EQ(copy(source, other.filePath(u"stopped"_s), stop.get_token()), std::errc::operation_canceled);
+    EXPECT_FALSE(isThere(other.filePath(u"stopped"_s)));
+}
+
+TEST_F(FileCopyTest, onlyTheUserCanReadACopy)
+{
+    const OpenMask mask;
+    const QString target = path(u"target"_s);
+    for (const mode_t mode : {0400U, 0444U, 0600U, 0644U, 0777U, 04755U}) {
+        const QString source = file(u"source"_s, "x");
+        setPermissions(source, mode);
+        EXPECT_FALSE(copy(source, target)) << mode;
+        EXPECT_EQ(permissions(target), 0600U) << mode;
+        EXPECT_EQ(permissions(source), mode);
+        ASSERT_TRUE(QFile::remove(source));
+        ASSERT_TRUE(QFile::remove(target));
+    }
+}
+
+TEST_F(FileCopyTest, aCopyTakesTheTargetOfALink)
+{
+    const QString source = file(u"source"_s, "bytes");
+    ASSERT_TRUE(QFile::link(source, path(u"link"_s)));
+    ASSERT_FALSE(copy(path(u"link"_s), path(u"target"_s)));
+    EXPECT_TRUE(S_ISREG(attributes(path(u"target"_s)).st_mode));
+    EXPECT_EQ(content(path(u"target"_s)), "bytes");
+}
+
+TEST_F(FileCopyTest, aCopyNeverReplacesAnything)
+{
+    const QString source = file(u"source"_s, "new");
+    const QString target = file(u"target"_s, "old");
+    EXPECT_EQ(copy(source, target), std::errc::file_exists);
+    EXPECT_EQ(content(target), "old");
+    EXPECT_EQ(copy(source, source), std::errc::file_exists);
+    EXPECT_EQ(content(source), "new");
+
+    ASSERT_TRUE(QFile::link(path(u"nowhere"_s), path(u"link"_s)));
+    EXPECT_EQ(copy(source, path(u"link"_s)), std::errc::file_exists);
+    EXPECT_FALSE(isThere(path(u"nowhere"_s))) << "a link that somebody laid out is not followed";
+}
+
+TEST_F(FileCopyTest, copyingTellsWhyItFailed)
+{
+    const QString source = file(u"source"_s, "x");
+    const QString target = path(u"target"_s);
+    EXPECT_EQ(copy(path(u"missing"_s), target), std::errc::no_such_file_or_directory);
+    EXPECT_EQ(copy(path({}), target), std::errc::is_a_directory);
+    EXPECT_EQ(copy(source, path(u"missing/target"_s)), std::errc::no_such_file_or_directory);
+    EXPECT_EQ(copy(source, source % u"/target"), std::errc::not_a_directory);
+    EXPECT_FALSE(isThere(target));
+
+    setPermissions(path({}), 0777);
+    setPermissions(source, 0);
+    const WithoutPrivileges guard;
+    if (guard.arePermissionsChecked()) {
+        EXPECT_EQ(copy(source, target), std::errc::permission_denied);
+        EXPECT_FALSE(isThere(target));
+    }
+}
+
+TEST_F(FileCopyTest, copyingTellsOnWhichSideItFailed)
+{
+    using Side = CopyError::Side;
+    const QString source = file(u"source"_s, bytes(4 << 20));
+    const QString target = path(u"target"_s);
+    EXPECT_EQ(failingSide(path(u"missing"_s), target), Side::Source);
+    EXPECT_EQ(failingSide(path({}), target), Side::Source);
+    EXPECT_EQ(failingSide(source, path(u"missing/target"_s)), Side::Target);
+    EXPECT_EQ(failingSide(source, source), Side::Target);
+    {
+        const FileSizeLimit limit(1 << 20);
+        EXPECT_EQ(failingSide(source, target), Side::Target);
+    }
+    EXPECT_EQ(failingSide(source, target), std::nullopt);
+
+    ASSERT_TRUE(QDir().mkpath(path(u"closed"_s)));
+    setPermissions(path({}), 0755);
+    setPermissions(path(u"closed"_s), 0555);
+    const std::optional<Side> closed = [&] {
+        const WithoutPrivileges guard;
+        return guard.arePermissionsChecked() ? failingSide(source, path(u"closed/target"_s)) : Side::Target;
+    }();
+    setPermissions(path(u"closed"_s), 0755);
+    EXPECT_EQ(closed, Side::Target);
+}
+
+TEST_F(FileCopyTest, aCopyThatFindsNoRoomLeavesNothing)
+{
+    const QString source = file(u"source"_s, bytes(4 << 20));
+    const std::error_code error = [&] {
+        const FileSizeLimit limit(1 << 20);
+        return copy(source, path(u"target"_s));
+    }();
+    EXPECT_EQ(error, std::errc::file_too_large);
+    EXPECT_FALSE(isThere(path(u"target"_s)));
+    EXPECT_EQ(content(source).size(), 4 << 20);
+}
+
+TEST_F(FileCopyTest, aCopyThatShallNotBeginLeavesNothing)
+{
+    const QString source = file(u"source"_s, "x");
+    const std::stop_source stop;
+    stop.request_stop();
+    const std::error_code error = copy(source, path(u"target"_s), stop.get_token());
+    if (!error)
+        GTEST_SKIP() << "this file system copies in one step";
+    EXPECT_EQ(error, std::errc::operation_canceled);
+    EXPECT_FALSE(isThere(path(u"target"_s)));
+}
+
+TEST_F(FileCopyTest, aCopyThatIsInterruptedLeavesNothing)
+{
+    // Large enough that it cannot be finished before the other thread has seen that it began.
+    const QString source = file(u"source"_s, "x");
+    ASSERT_EQ(::truncate(QFile::encodeName(source).constData(), off_t{8} << 30U), 0);
+    const QString target = path(u"target"_s);
+    const std::stop_source stop;
+    const std::jthread other([&](const std::stop_token &end) {
+        struct stat now = {};
+        while (!end.stop_requested() &&
+               (::stat(QFile::encodeName(target).constData(), &now) != 0 || now.st_size == 0))
+            std::this_thread::yield();
+        stop.request_stop();
+    });
+    const std::error_code error = copy(source, target, stop.get_token());
+    if (!error)
+        GTEST_SKIP() << "this file system copies in one step";
+    EXPECT_EQ(error, std::errc::operation_canceled);
+    EXPECT_FALSE(isThere(target));
+}
+
+} // namespace roamlet::testing
