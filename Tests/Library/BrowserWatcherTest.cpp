@@ -45,7 +45,11 @@ TEST_F(BrowserWatcherTest, filesBelongToTheSourceInWhoseFolderTheyLie)
         {chromeFile(u"Default/Bookmarks"_s), u"chrome/Default"_s},
         {chromeFile(u"Profile 1/Bookmarks"_s), u"chrome/Profile 1"_s},
         {chromeFile(u"Default/AccountBookmarks"_s), u"chrome/Default"_s},
+        {chromeFile(u"Default/EncryptedBookmarks"_s), u"chrome/Default"_s},
         {chromeFile(u"Default/EncryptedBookmarks2"_s), u"chrome/Default"_s},
+        {chromeFile(u"Default/EncryptedAccountBookmarks"_s), u"chrome/Default"_s},
+        {chromeFile(u"Default/EncryptedAccountBookmarks2"_s), u"chrome/Default"_s},
+        {chromeFile(u"Default/EncryptedBookmarks3"_s), {}},
         {chromeFile(u"Default/Favicons"_s), {}},
         {chromeFile(u"Default/History-journal"_s), {}},
         {chromeFile(u"Default/history"_s), {}},
@@ -207,6 +211,23 @@ TEST_F(BrowserWatcherTest, profilesThatLieElsewhereAreFollowed)
     change([&] { sample::writeFile(side % u"/History", "longer"); });
     home.fileEvents.report({side % u"/History"});
     EXPECT_EQ(reports.size(), 1) << "a profile that is gone is no longer followed";
+}
+
+TEST_F(BrowserWatcherTest, aProfileThatIsListedUnderAnotherNameThanItsFoldersIsReportedByItsKey)
+{
+    const QString root = home.path(u".mozilla/firefox"_s);
+    change([&] {
+        sample::writeFile(root % u"/profiles.ini", "");
+        sample::writeFile(root % u"/a/places.sqlite", "x");
+        sample::writeFile(root % u"/b/places.sqlite", "x");
+    });
+    QList<QSet<QString>> reports;
+    BrowserWatcher watcher(home.platform(),
+                           [&reports](const QSet<QString> &report) { reports.append(report); });
+    watcher.setProfiles(
+        {profileOf(browserKind(u"firefox"), u"./a"_s), profileOf(browserKind(u"firefox"), root % u"/b")});
+    home.fileEvents.report({root % u"/a/places.sqlite", root % u"/b/places.sqlite"});
+    EXPECT_EQ(reports, QList<QSet<QString>>({{u"firefox/./a"_s, QString(u"firefox/" % root % u"/b")}}));
 }
 
 TEST_F(BrowserWatcherTest, profilesMayBeSetWhileOneOfThemIsReported)

@@ -101,10 +101,15 @@ TEST_F(InotifyFileEventsTest, filesInTheFolderItselfAreReported)
 
 TEST_F(InotifyFileEventsTest, namesAreReportedAsTheyAre)
 {
+    const QString marked = QChar(QChar::ByteOrderMark) + u"Marked"_s;
     make(u"root/Profil Ü 日本"_s);
     watch({u"root"_s});
     write(u"root/Profil Ü 日本/History"_s);
     EXPECT_EQ(changes(), Paths{"root/Profil Ü 日本/History"});
+    make(u"root/" % marked);
+    EXPECT_EQ(changes(), Paths());
+    write(u"root/" % marked % u'/' % marked);
+    EXPECT_EQ(changes(), Paths{(u"root/" % marked % u'/' % marked).toUtf8().toStdString()});
 }
 
 TEST_F(InotifyFileEventsTest, nothingIsReportedFromDeeperFolders)

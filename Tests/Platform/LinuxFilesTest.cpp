@@ -312,8 +312,11 @@ TEST_F(LinuxFilesTest, theNamesInAFolderAreAllOfThem)
     file(u"folder/sub/deeper"_s, "x");
     file(u"folder/Über 日本"_s, "x");
     ASSERT_TRUE(QFile::link(path(u"nowhere"_s), path(u"folder/link"_s)));
+    const QString marked = QChar(QChar::ByteOrderMark) + u"with a mark"_s;
+    file(u"folder/" % marked, "x");
     QStringList names = files.names(path(u"folder"_s));
     names.sort();
+    EXPECT_TRUE(names.removeOne(marked));
     EXPECT_EQ(names, (QStringList{u".hidden"_s, u"file"_s, u"link"_s, u"sub"_s, u"Über 日本"_s}));
 }
 

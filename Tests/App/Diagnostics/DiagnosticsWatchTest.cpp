@@ -208,6 +208,25 @@ TEST_F(DiagnosticsWatchTest, namesAProfileThatIsInNoListByItsId)
     EXPECT_EQ(watching.console.output.toStdString(), "2026-05-09 11:43  chrome/Profile 9\n");
 }
 
+TEST_F(DiagnosticsWatchTest, readsNothingOfAProfileThatIsSwitchedOff)
+{
+    Watching watching(u"60"_s);
+    BrowserHome &home = watching.home;
+    home.addPages();
+    home.defaults.setStringList(u"disabledProfiles"_s, {u"chrome/Default"_s});
+    QStringList touched;
+    home.files.failure = [&touched](const QString &path) {
+        touched.append(path);
+        return std::error_code{};
+    };
+    watching.run({[&] {
+        home.fileEvents.report({home.chrome(u"Default/History"_s), home.edge(u"Default/History"_s)});
+    }});
+    EXPECT_FALSE(touched.isEmpty());
+    for (const QString &path : std::as_const(touched))
+        EXPECT_FALSE(path.startsWith(home.chrome(u"Default/"_s))) << path.toStdString();
+}
+
 TEST_F(DiagnosticsWatchTest, followsProfilesElsewhereThatAppearWhileItWatches)
 {
     Watching watching(u"60"_s);

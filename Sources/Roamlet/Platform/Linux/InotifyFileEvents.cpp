@@ -3,6 +3,7 @@
 
 #include "Platform/Linux/InotifyFileEvents.h"
 
+#include "Model/Utf8.h"
 #include "Platform/Clock.h"
 #include "Platform/Linux/LinuxIO.h"
 
@@ -189,7 +190,7 @@ private:
                 inotify_event event = {};
                 std::memcpy(&event, position, sizeof(event));
                 const char *name = position + sizeof(event);
-                handle(event, event.len > 0 ? QFile::decodeName(name) : QString());
+                handle(event, event.len > 0 ? utf8Text(name) : QString());
                 position = name + event.len;
             }
         }

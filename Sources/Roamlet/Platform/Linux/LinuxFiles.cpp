@@ -3,6 +3,7 @@
 
 #include "Platform/Linux/LinuxFiles.h"
 
+#include "Model/Utf8.h"
 #include "Platform/Linux/LinuxIO.h"
 
 #include <QFile>
@@ -216,7 +217,7 @@ QStringList LinuxFiles::names(const QString &folder) const
     std::error_code error;
     std::filesystem::directory_iterator entry(QFile::encodeName(folder).toStdString(), error);
     while (!error && entry != std::filesystem::directory_iterator()) {
-        result.append(QFile::decodeName(QByteArray::fromStdString(entry->path().filename().string())));
+        result.append(utf8Text(entry->path().filename().string()));
         entry.increment(error);
     }
     return result;

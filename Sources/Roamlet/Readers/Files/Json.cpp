@@ -3,7 +3,7 @@
 
 #include "Readers/Files/Json.h"
 
-#include "Readers/Files/Utf8.h"
+#include "Model/Utf8.h"
 
 namespace roamlet::Json
 {

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "Readers/Files/PropertyListTree.h"
-#include "Readers/Files/Utf8.h"
+#include "Model/Utf8.h"
 
 #include <QStringDecoder>
 

@@ -7,7 +7,7 @@
 #include "Platform/Processes.h"
 #include "Readers/Files/ConfinedFiles.h"
 #include "Readers/Files/LiteralLike.h"
-#include "Readers/Files/Utf8.h"
+#include "Model/Utf8.h"
 #include "Readers/ReadContext.h"
 
 #include <QFile>

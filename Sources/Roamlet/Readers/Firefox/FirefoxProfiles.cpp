@@ -9,7 +9,7 @@
 #include "Platform/Files.h"
 #include "Readers/Files/Ini.h"
 #include "Readers/Files/SQLiteSnapshot.h"
-#include "Readers/Files/Utf8.h"
+#include "Model/Utf8.h"
 
 #include <QSet>
 

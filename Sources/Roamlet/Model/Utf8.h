@@ -10,8 +10,8 @@
 namespace roamlet
 {
 
-/// The text that UTF-8 bytes stand for, broken sequences replaced. A value out of a file has no byte-order
-/// mark: what looks like one is its first character, which Qt would leave out.
+/// The text that UTF-8 bytes stand for, broken sequences replaced. A value out of a file, and a file's
+/// name, has no byte-order mark: what looks like one is its first character, which Qt would leave out.
 inline QString utf8Text(QByteArrayView bytes)
 {
     const QString text = QString::fromUtf8(bytes);
