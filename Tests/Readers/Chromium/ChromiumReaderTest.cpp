@@ -15,7 +15,6 @@ namespace roamlet::testing
 
 using namespace Qt::StringLiterals;
 using sample::HistoryRow;
-using sample::Text;
 
 namespace
 {
@@ -69,9 +68,9 @@ protected:
 class ChromiumHistory : public ReaderTest
 {
 protected:
-    void write(const sample::Rows<HistoryRow> &rows, sample::Journal journal = sample::Journal::Clean) const
+    void write(const sample::Rows<HistoryRow> &rows) const
     {
-        sample::writeHistory(chromeFile(u"History"_s), rows, journal);
+        sample::writeHistory(chromeFile(u"History"_s), rows);
     }
 
     QList<HistoryItem> read(const HistoryQuery &query = HistoryQuery::recent(),
@@ -227,13 +226,6 @@ TEST_F(ChromiumProfiles, eachBrowserHasItsOwnAndSafariNone)
     EXPECT_EQ(profiles(Source::Kind::Safari), QList<Source>());
 }
 
-TEST_F(ChromiumHistory, aMissingFileIsAnEmptyHistory)
-{
-    EXPECT_EQ(read(), QList<HistoryItem>());
-    change([this] { sample::makeFolder(chromeFile({})); });
-    EXPECT_EQ(read(), QList<HistoryItem>());
-}
-
 TEST_F(ChromiumHistory, aRowIsAWholeItem)
 {
     write({{.id = 4711,
@@ -286,90 +278,6 @@ TEST_F(ChromiumHistory, rowsThatWereNeverVisitedAreDroppedAfterTheLimit)
     EXPECT_EQ(read(listing(HistoryQuery::Order::MostVisited, 2)), QList<HistoryItem>());
 }
 
-TEST_F(ChromiumHistory, hiddenRowsAreNotShown)
-{
-    write(
-        {{.url = u"https://a.example/"_s, .title = u"shown"_s, .lastVisitTime = someTime},
-         {.url = u"https://b.example/"_s, .title = u"hidden"_s, .lastVisitTime = someTime, .hidden = true}});
-    EXPECT_EQ(titlesOf(read()), QStringList{u"shown"_s});
-}
-
-TEST_F(ChromiumHistory, missingTextsAreReplaced)
-{
-    write({{.id = 1, .url = u"https://a.example/X"_s, .title = u""_s, .lastVisitTime = someTime + 2},
-           {.id = 2, .url = u"https://b.example/"_s, .lastVisitTime = someTime + 1},
-           {.id = 3, .lastVisitTime = someTime}});
-    const QList<HistoryItem> items = read();
-    ASSERT_EQ(items.size(), 3);
-    EXPECT_EQ(items[0].title, u"https://a.example/X"_s);
-    EXPECT_EQ(items[0].searchKey, u"https://a.example/x\nhttps://a.example/x"_s);
-    EXPECT_EQ(items[1].title, u"https://b.example/"_s);
-    EXPECT_EQ(items[2].title, u""_s);
-    EXPECT_EQ(items[2].url, u""_s);
-    EXPECT_EQ(items[2].site, u""_s);
-}
-
-TEST_F(ChromiumHistory, theOrderIsTheQuerys)
-{
-    write(
-        {{.url = u"https://a.example/"_s, .title = u"often, old"_s, .visitCount = 5, .lastVisitTime = 10},
-         {.url = u"https://b.example/"_s, .title = u"once, new"_s, .visitCount = 1, .lastVisitTime = 30},
-         {.url = u"https://c.example/"_s, .title = u"often, newer"_s, .visitCount = 5, .lastVisitTime = 20}});
-    EXPECT_EQ(titlesOf(read()), (QStringList{u"once, new"_s, u"often, newer"_s, u"often, old"_s}));
-    EXPECT_EQ(titlesOf(read(listing(HistoryQuery::Order::MostVisited))),
-              (QStringList{u"often, newer"_s, u"often, old"_s, u"once, new"_s}));
-}
-
-TEST_F(ChromiumHistory, theLimitIsExact)
-{
-    write(sample::Rows<HistoryRow>::generated(1500, [](qsizetype i) {
-        return HistoryRow{
-            .url = u"https://a.example/%1"_s.arg(i), .title = QString::number(i), .lastVisitTime = i + 1};
-    }));
-    EXPECT_EQ(read().size(), 1000);
-    EXPECT_EQ(titlesOf(read(listing(HistoryQuery::Order::Latest, 2))), (QStringList{u"1499"_s, u"1498"_s}));
-    EXPECT_EQ(read(listing(HistoryQuery::Order::Latest, 0)).size(), 0);
-    EXPECT_EQ(read(listing(HistoryQuery::Order::Latest, 5'000'000'000)).size(), 1500);
-}
-
-TEST_F(ChromiumHistory, everyWordMustOccurInTheAddressOrTheTitle)
-{
-    write({{.url = u"https://a.example/Apple"_s, .title = u"Pear"_s, .lastVisitTime = 3},
-           {.url = u"https://b.example/"_s, .title = u"apple tree"_s, .lastVisitTime = 2},
-           {.url = u"https://c.example/"_s, .title = u"ÄPFEL"_s, .lastVisitTime = 1}});
-    EXPECT_EQ(found(u"apple"_s), (QStringList{u"Pear"_s, u"apple tree"_s}));
-    EXPECT_EQ(found(u"PEAR  Apple "_s), QStringList{u"Pear"_s});
-    EXPECT_EQ(found(u"pear tree"_s), QStringList());
-    // The letter case of ASCII letters alone is ignored.
-    EXPECT_EQ(found(u"pfel"_s), QStringList{u"ÄPFEL"_s});
-    EXPECT_EQ(found(u"äpfel"_s), QStringList());
-    // Address and title meet with a blank between them.
-    EXPECT_EQ(found(u"/\tapple"_s), QStringList());
-    EXPECT_EQ(found(u" "_s).size(), 3);
-}
-
-TEST_F(ChromiumHistory, aSigmaIsFoundWhereverItStandsInAWord)
-{
-    write({{.url = u"https://a.example/"_s, .title = u"ο σίσυφος"_s, .lastVisitTime = 2},
-           {.url = u"https://b.example/"_s, .lastVisitTime = 1}});
-    for (const QString &text : {u"ΣΊΣΥΦΟΣ"_s, u"σίσυφος"_s, u"ΣΊΣ"_s, u"ΦΟΣ Ο"_s})
-        EXPECT_EQ(found(text), QStringList{u"ο σίσυφος"_s}) << text.toStdString();
-}
-
-TEST_F(ChromiumHistory, wordsAreMeantLiterally)
-{
-    write({{.url = u"https://a.example/"_s, .title = u"100% sure_thing C:\\"_s, .lastVisitTime = 2},
-           {.url = u"https://b.example/"_s, .title = u"1000 sureXthing 'quoted'"_s, .lastVisitTime = 1}});
-    const QString first = u"100% sure_thing C:\\"_s;
-    EXPECT_EQ(found(u"100%"_s), QStringList{first});
-    EXPECT_EQ(found(u"sure_thing"_s), QStringList{first});
-    EXPECT_EQ(found(u"c:\\"_s), QStringList{first});
-    EXPECT_EQ(found(u"\\"_s), QStringList{first});
-    EXPECT_EQ(found(u"%"_s), QStringList{first});
-    EXPECT_EQ(found(u"'quoted'"_s).size(), 1);
-    EXPECT_EQ(found(u"'; DROP TABLE urls; --"_s), QStringList());
-}
-
 TEST_F(ChromiumHistory, aRowWithoutTitleMatchesNoWord)
 {
     write({{.url = u"https://a.example/"_s, .lastVisitTime = 2},
@@ -377,109 +285,6 @@ TEST_F(ChromiumHistory, aRowWithoutTitleMatchesNoWord)
            {.title = u"example"_s, .lastVisitTime = 3}});
     EXPECT_EQ(found(u"example"_s).size(), 1);
     EXPECT_EQ(found({}, u"a.example"_s).size(), 2);
-}
-
-TEST_F(ChromiumHistory, aSiteIsItsHostWithOrWithoutWww)
-{
-    const QStringList urls{u"https://example.com/a"_s,       u"http://www.example.com:80/"_s,
-                           u"https://example.com:8443/"_s,   u"ftp://www.example.com/x"_s,
-                           u"https://sub.example.com/"_s,    u"https://example.com"_s,
-                           u"https://example.company/"_s,    u"https://other.test/?u=https://example.com/"_s,
-                           u"https://www.www.example.com/"_s};
-    write(sample::Rows<HistoryRow>::generated(urls.size(), [&urls](qsizetype i) {
-        return HistoryRow{.url = urls[i], .title = QString::number(i), .lastVisitTime = 100 - i};
-    }));
-    // What only holds the address further on is removed by whoever compares the sites.
-    EXPECT_EQ(found({}, u"example.com"_s), (QStringList{u"0"_s, u"1"_s, u"2"_s, u"3"_s, u"7"_s}));
-    EXPECT_EQ(found(u"8443"_s, u"example.com"_s), QStringList{u"2"_s});
-    EXPECT_EQ(found({}, u"exa_ple.com"_s), QStringList());
-    EXPECT_EQ(found({}, u"%"_s), QStringList());
-}
-
-TEST_F(ChromiumHistory, changesThatAreNotMergedYetCount)
-{
-    const auto rows = sample::Rows<HistoryRow>::generated(1000, [](qsizetype i) {
-        return HistoryRow{
-            .url = u"https://a.example/%1"_s.arg(i), .title = QString::number(i), .lastVisitTime = i + 1};
-    });
-    for (const sample::Journal journal : {sample::Journal::UnmergedWal, sample::Journal::HotJournal}) {
-        change([&] { write(rows, journal); });
-        const QList<HistoryItem> items = read();
-        ASSERT_EQ(items.size(), 1000);
-        EXPECT_EQ(items.first().title, u"999"_s);
-        EXPECT_EQ(items.last().title, u"0"_s);
-        // What the file alone would have said.
-        home.files.failure = [this](const QString &path) {
-            return path == chromeFile(u"History"_s)
-                       ? std::error_code()
-                       : std::make_error_code(std::errc::no_such_file_or_directory);
-        };
-        EXPECT_NE(read().size(), 1000);
-        home.files.failure = {};
-    }
-}
-
-TEST_F(ChromiumHistory, awkwardTextsAreReadAsFarAsTheyGo)
-{
-    const QString megabyte = u"ü"_s.repeated(1'000'000);
-    write({{.id = 1,
-            .url = u"https://a.example/"_s,
-            .title = Text::raw(QByteArray("before\0after", 12)),
-            .lastVisitTime = 9},
-           {.id = 2,
-            .url = u"https://b.example/"_s,
-            .title = Text::raw("Z\xFCrich \xE2\x82"),
-            .lastVisitTime = 8},
-           {.id = 3,
-            .url = u"https://c.example/"_s,
-            .title = u"\u202Eright to left\u200F"_s,
-            .lastVisitTime = 7},
-           {.id = 4, .url = u"https://d.example/"_s, .title = megabyte, .lastVisitTime = 6},
-           {.id = 5,
-            .url = Text::raw(QByteArray("https://e.example/\0.evil.test/", 30)),
-            .title = u"e"_s,
-            .lastVisitTime = 5},
-           {.id = 6,
-            .url = u"https://f.example/"_s,
-            .title = Text::raw(QByteArray("\0hidden", 7)),
-            .lastVisitTime = 4},
-           {.id = 7, .url = u"\uFEFFhttps://g.example/"_s, .title = u"\uFEFFmarked"_s, .lastVisitTime = 3}});
-    const QList<HistoryItem> items = read();
-    ASSERT_EQ(items.size(), 7);
-    EXPECT_EQ(items[0].title, u"before"_s);
-    EXPECT_TRUE(items[1].title.startsWith(u"Z\uFFFDrich \uFFFD"_s));
-    EXPECT_EQ(items[2].title, u"\u202Eright to left\u200F"_s);
-    EXPECT_EQ(items[3].title, megabyte);
-    EXPECT_EQ(items[4].url, u"https://e.example/"_s);
-    EXPECT_EQ(items[4].site, u"e.example"_s);
-    EXPECT_EQ(items[5].title, u"https://f.example/"_s);
-    EXPECT_EQ(items[6].url, u"\uFEFFhttps://g.example/"_s);
-    EXPECT_EQ(items[6].title, u"\uFEFFmarked"_s);
-    EXPECT_EQ(found(u"zz"_s), QStringList());
-    EXPECT_EQ(found(u"üüü"_s).size(), 1);
-}
-
-TEST_F(ChromiumHistory, aWordThatIsTooLongIsTheDatabasesError)
-{
-    write({{.url = u"https://a.example/"_s, .title = u"a"_s, .lastVisitTime = 1}});
-    const auto items = ChromiumReader::history(
-        chrome(), HistoryQuery::matching(u"x"_s.repeated(50'001), {}, HistoryQuery::Order::Latest),
-        context());
-    ASSERT_FALSE(items.has_value());
-    EXPECT_EQ(items.error(), ReadError::unreadable(u"query"_s, u"LIKE or GLOB pattern too complex"_s));
-    // The longest that passes, with the two wildcards around it.
-    EXPECT_EQ(found(u"x"_s.repeated(49'998)), QStringList());
-}
-
-TEST_F(ChromiumHistory, moreWordsThanTheDatabaseTakesAreItsError)
-{
-    write({{.url = u"https://a.example/"_s, .title = u"a"_s, .lastVisitTime = 1}});
-    const auto items = ChromiumReader::history(
-        chrome(), HistoryQuery::matching(u"a "_s.repeated(100'000), {}, HistoryQuery::Order::Latest),
-        context());
-    ASSERT_FALSE(items.has_value());
-    EXPECT_EQ(items.error().path(), u"query"_s);
-    EXPECT_EQ(found(u"a "_s.repeated(500)), QStringList{u"a"_s});
 }
 
 } // namespace roamlet::testing

@@ -5,11 +5,10 @@
 
 #include "Readers/BrowserReader.h"
 #include "Readers/ReaderTest.h"
-#include "SampleHome/AwkwardFirefox.h"
 #include "SampleHome/FirefoxFiles.h"
 #include "SampleHome/PlainFiles.h"
 
-#include <algorithm>
+#include <optional>
 
 namespace roamlet::testing
 {
@@ -17,7 +16,6 @@ namespace roamlet::testing
 using namespace Qt::StringLiterals;
 using sample::FirefoxPage;
 using sample::Journal;
-using sample::Text;
 
 namespace
 {
@@ -59,13 +57,6 @@ protected:
 };
 
 } // namespace
-
-TEST_F(FirefoxHistory, aMissingFileIsAnEmptyHistory)
-{
-    EXPECT_EQ(read(), QList<HistoryItem>());
-    change([this] { sample::makeFolder(firefoxFile({})); });
-    EXPECT_EQ(read(), QList<HistoryItem>());
-}
 
 TEST_F(FirefoxHistory, aRowIsAWholeItem)
 {
@@ -123,78 +114,6 @@ TEST_F(FirefoxHistory, rowsThatWereNeverVisitedAreNotShown)
     EXPECT_EQ(read(listing(HistoryQuery::Order::MostVisited, 3)).size(), 1);
 }
 
-TEST_F(FirefoxHistory, hiddenRowsAreNotShown)
-{
-    write(
-        {{.url = u"https://a.example/"_s, .title = u"shown"_s, .lastVisitDate = visitTime},
-         {.url = u"https://b.example/"_s, .title = u"hidden"_s, .lastVisitDate = visitTime, .hidden = true}});
-    EXPECT_EQ(titlesOf(read()), QStringList{u"shown"_s});
-}
-
-TEST_F(FirefoxHistory, missingTextsAreReplaced)
-{
-    write({{.id = 1, .url = u"https://a.example/X"_s, .title = u""_s, .lastVisitDate = visitTime + 2},
-           {.id = 2, .url = u"https://b.example/"_s, .lastVisitDate = visitTime + 1},
-           {.id = 3, .lastVisitDate = visitTime}});
-    const QList<HistoryItem> items = read();
-    ASSERT_EQ(items.size(), 3);
-    EXPECT_EQ(items[0].title, u"https://a.example/X"_s);
-    EXPECT_EQ(items[0].searchKey, u"https://a.example/x\nhttps://a.example/x"_s);
-    EXPECT_EQ(items[1].title, u"https://b.example/"_s);
-    EXPECT_EQ(items[2].title, u""_s);
-    EXPECT_EQ(items[2].url, u""_s);
-    EXPECT_EQ(items[2].site, u""_s);
-}
-
-TEST_F(FirefoxHistory, theOrderIsTheQuerys)
-{
-    write(
-        {{.url = u"https://a.example/"_s, .title = u"often, old"_s, .visitCount = 5, .lastVisitDate = 10},
-         {.url = u"https://b.example/"_s, .title = u"once, new"_s, .visitCount = 1, .lastVisitDate = 30},
-         {.url = u"https://c.example/"_s, .title = u"often, newer"_s, .visitCount = 5, .lastVisitDate = 20}});
-    EXPECT_EQ(titlesOf(read()), (QStringList{u"once, new"_s, u"often, newer"_s, u"often, old"_s}));
-    EXPECT_EQ(titlesOf(read(listing(HistoryQuery::Order::MostVisited))),
-              (QStringList{u"often, newer"_s, u"often, old"_s, u"once, new"_s}));
-}
-
-TEST_F(FirefoxHistory, theLimitIsExact)
-{
-    write(sample::Rows<FirefoxPage>::generated(1500, [](qsizetype i) {
-        return FirefoxPage{
-            .url = u"https://a.example/%1"_s.arg(i), .title = QString::number(i), .lastVisitDate = i + 1};
-    }));
-    EXPECT_EQ(read().size(), 1000);
-    EXPECT_EQ(titlesOf(read(listing(HistoryQuery::Order::Latest, 2))), (QStringList{u"1499"_s, u"1498"_s}));
-    EXPECT_EQ(read(listing(HistoryQuery::Order::Latest, 0)).size(), 0);
-    EXPECT_EQ(read(listing(HistoryQuery::Order::Latest, 5'000'000'000)).size(), 1500);
-}
-
-TEST_F(FirefoxHistory, everyWordMustOccurInTheAddressOrTheTitle)
-{
-    write({{.url = u"https://a.example/Apple"_s, .title = u"Pear"_s, .lastVisitDate = 3},
-           {.url = u"https://b.example/"_s, .title = u"apple tree"_s, .lastVisitDate = 2},
-           {.url = u"https://c.example/"_s, .title = u"ÄPFEL"_s, .lastVisitDate = 1}});
-    EXPECT_EQ(found(u"apple"_s), (QStringList{u"Pear"_s, u"apple tree"_s}));
-    EXPECT_EQ(found(u"PEAR  Apple "_s), QStringList{u"Pear"_s});
-    EXPECT_EQ(found(u"pear tree"_s), QStringList());
-    // The letter case of ASCII letters alone is ignored.
-    EXPECT_EQ(found(u"pfel"_s), QStringList{u"ÄPFEL"_s});
-    EXPECT_EQ(found(u"äpfel"_s), QStringList());
-    EXPECT_EQ(found(u" "_s).size(), 3);
-}
-
-TEST_F(FirefoxHistory, wordsAreMeantLiterally)
-{
-    const QString first = u"100% sure_thing C:\\"_s;
-    write({{.url = u"https://a.example/"_s, .title = first, .lastVisitDate = 2},
-           {.url = u"https://b.example/"_s, .title = u"1000 sureXthing 'quoted'"_s, .lastVisitDate = 1}});
-    EXPECT_EQ(found(u"100%"_s), QStringList{first});
-    EXPECT_EQ(found(u"sure_thing"_s), QStringList{first});
-    EXPECT_EQ(found(u"\\"_s), QStringList{first});
-    EXPECT_EQ(found(u"'quoted'"_s).size(), 1);
-    EXPECT_EQ(found(u"'; DROP TABLE moz_places; --"_s), QStringList());
-}
-
 TEST_F(FirefoxHistory, aRowWithoutATitleIsFoundByItsAddress)
 {
     write({{.url = u"https://a.example/"_s, .lastVisitDate = 2},
@@ -202,67 +121,6 @@ TEST_F(FirefoxHistory, aRowWithoutATitleIsFoundByItsAddress)
            {.title = u"example"_s, .lastVisitDate = 3}});
     EXPECT_EQ(found(u"example"_s), (QStringList{u"https://a.example/"_s, u"https://a.example/"_s}));
     EXPECT_EQ(found({}, u"a.example"_s).size(), 2);
-}
-
-TEST_F(FirefoxHistory, aSiteIsItsHostWithOrWithoutWww)
-{
-    const QStringList urls{u"https://example.com/a"_s, u"http://www.example.com:80/"_s,
-                           u"https://sub.example.com/"_s, u"https://example.company/"_s};
-    write(sample::Rows<FirefoxPage>::generated(urls.size(), [&urls](qsizetype i) {
-        return FirefoxPage{.url = urls[i], .title = QString::number(i), .lastVisitDate = 100 - i};
-    }));
-    EXPECT_EQ(found({}, u"example.com"_s), (QStringList{u"0"_s, u"1"_s}));
-    EXPECT_EQ(found(u"80"_s, u"example.com"_s), QStringList{u"1"_s});
-    EXPECT_EQ(found({}, u"exa_ple.com"_s), QStringList());
-}
-
-TEST_F(FirefoxHistory, changesThatAreNotMergedYetCount)
-{
-    const auto pages = sample::Rows<FirefoxPage>::generated(1000, [](qsizetype i) {
-        return FirefoxPage{
-            .url = u"https://a.example/%1"_s.arg(i), .title = QString::number(i), .lastVisitDate = i + 1};
-    });
-    for (const Journal journal : {Journal::UnmergedWal, Journal::WalAlone, Journal::HotJournal}) {
-        write(pages, journal);
-        const QList<HistoryItem> items = read();
-        ASSERT_EQ(items.size(), 1000);
-        EXPECT_EQ(items.first().title, u"999"_s);
-        EXPECT_EQ(items.last().title, u"0"_s);
-        // What the file alone would have said.
-        home.files.failure = [this](const QString &path) {
-            return path == firefoxFile(u"places.sqlite"_s)
-                       ? std::error_code()
-                       : std::make_error_code(std::errc::no_such_file_or_directory);
-        };
-        const auto alone = FirefoxReader::history(firefox(), HistoryQuery::recent(), context());
-        EXPECT_TRUE(!alone || alone->size() != 1000);
-        home.files.failure = {};
-    }
-}
-
-TEST_F(FirefoxHistory, awkwardPagesAreReadAsFarAsTheyGo)
-{
-    write(sample::awkwardFirefoxPages(1'700'000'000));
-    const QStringList titles = titlesOf(read());
-    EXPECT_TRUE(titles.contains(u"A negative key"_s));
-    EXPECT_TRUE(titles.contains(u"Without an address"_s));
-    EXPECT_TRUE(titles.contains(u"Visited at 1"_s));
-    EXPECT_TRUE(titles.contains(u"Visited at 9223372036854775807"_s));
-    EXPECT_TRUE(titles.contains(u"Visited -9223372036854775808 times"_s));
-    EXPECT_FALSE(titles.contains(u"Visited at 0"_s));
-    EXPECT_FALSE(titles.contains(u"Visited at -1"_s));
-    EXPECT_FALSE(titles.contains(u"Never visited"_s));
-    EXPECT_FALSE(titles.contains(u"Hidden"_s));
-    write({{.id = 1,
-            .url = u"https://a.example/"_s,
-            .title = Text::raw(QByteArray("before\0after", 12)),
-            .lastVisitDate = 2},
-           {.id = 2,
-            .url = u"\uFEFFhttps://b.example/"_s,
-            .title = Text::raw("Z\xFCrich"),
-            .lastVisitDate = 1}});
-    EXPECT_EQ(titlesOf(read()), (QStringList{u"before"_s, u"Z\uFFFDrich"_s}));
-    EXPECT_EQ(read().value(1).url, u"\uFEFFhttps://b.example/"_s);
 }
 
 TEST_F(FirefoxHistory, columnsOfOtherVersionsDoNotMatter)
