@@ -4,6 +4,7 @@
 #include "Model/Browser.h"
 
 #include <QSet>
+#include <QStringList>
 
 #include <gtest/gtest.h>
 
@@ -35,6 +36,47 @@ TEST(Browser, everyRowIsFoundByItsKindAndItsName)
         names.insert(browser.displayName);
     }
     EXPECT_EQ(names.size(), 2 * Browser::all().size()) << "a name stands for two browsers";
+}
+
+TEST(Browser, namesFamiliesAndInstallationsStandInTheOrderInWhichTheyAreListed)
+{
+    struct Row {
+        const char *rawValue;
+        const char *displayName;
+        Browser::Family family;
+        QStringList installations;
+    };
+    using enum Browser::Family;
+    const QString beta = u"beta"_s;
+    const QString dev = u"dev"_s;
+    const QString nightly = u"nightly"_s;
+    const QString snap = u"snap"_s;
+    const QString flatpak = u"flatpak"_s;
+    const QList<Row> rows{{"safari", "Safari", Safari, {{}}},
+                          {"chrome", "Chrome", Chromium, {{}, beta, dev, flatpak, u"dev-flatpak"_s}},
+                          {"edge", "Edge", Chromium, {{}, beta, dev, flatpak, u"beta-flatpak"_s}},
+                          {"chromium", "Chromium", Chromium, {{}, snap, flatpak}},
+                          {"brave", "Brave", Chromium, {{}, beta, nightly, snap, flatpak}},
+                          {"vivaldi", "Vivaldi", Chromium, {{}, nightly, snap, flatpak}},
+                          {"opera", "Opera", Chromium, {{}, beta, dev, snap, flatpak}},
+                          {"firefox", "Firefox", Firefox, {{}, snap, flatpak}},
+                          {"librewolf", "LibreWolf", Firefox, {{}, flatpak}},
+                          {"waterfox", "Waterfox", Firefox, {{}, flatpak}},
+                          {"floorp", "Floorp", Firefox, {{}, flatpak}},
+                          {"zen", "Zen", Firefox, {{}, flatpak}}};
+    ASSERT_EQ(Browser::all().size(), rows.size());
+    for (qsizetype i = 0; i < rows.size(); ++i) {
+        const Browser &browser = Browser::all()[i];
+        QStringList keys;
+        for (const Browser::Installation &installation : browser.installations)
+            keys.append(installation.key);
+        EXPECT_EQ(browser.kind, static_cast<Source::Kind>(i));
+        EXPECT_EQ(browser.rawValue.toStdString(), rows[i].rawValue);
+        EXPECT_EQ(browser.displayName.toStdString(), rows[i].displayName);
+        EXPECT_EQ(browser.family, rows[i].family) << rows[i].rawValue;
+        EXPECT_EQ(keys.join(u' ').toStdString(), rows[i].installations.join(u' ').toStdString())
+            << rows[i].rawValue;
+    }
 }
 
 TEST(Browser, theFirstThreeAreThoseThatCodeNames)

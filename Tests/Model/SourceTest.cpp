@@ -111,7 +111,13 @@ TEST(Source, bookmarkSelectionsStandInTheirOrder)
 TEST(Source, equalityAndHashCoverEveryField)
 {
     const Source original = source(Source::Kind::Chrome, u"Default"_s, u"Work"_s, Source::Folder{u"A"_s});
+    Source beta = original;
+    beta.installation = u"beta"_s;
+    Source named = original;
+    named.namesInstallation = true;
     const QList<Source> others{
+        beta,
+        named,
         source(Source::Kind::Edge, u"Default"_s, u"Work"_s, Source::Folder{u"A"_s}),
         source(Source::Kind::Chrome, u"Profile 1"_s, u"Work"_s, Source::Folder{u"A"_s}),
         source(Source::Kind::Chrome, {}, u"Work"_s, Source::Folder{u"A"_s}),
