@@ -114,6 +114,16 @@ TEST(BookmarkExport, theFileIsNamedAfterBrowserAndProfile)
     EXPECT_EQ(fileName(Source::Kind::Edge, u"a/b %1"_s), u"Edge a/b %1 Bookmarks"_s);
 }
 
+TEST(BookmarkExport, theFileIsNotNamedAfterTheInstallation)
+{
+    Source beta = source(Source::Kind::Chrome, u"Work"_s);
+    beta.installation = u"beta"_s;
+    beta.namesInstallation = true;
+    EXPECT_EQ(BookmarkExport::fileName(beta), u"Chrome Work Bookmarks"_s);
+    beta.name = u"Chrome"_s;
+    EXPECT_EQ(BookmarkExport::fileName(beta), u"Chrome Bookmarks"_s);
+}
+
 class BookmarkExportWriting : public ::testing::Test
 {
 protected:

@@ -90,6 +90,19 @@ TEST(CsvRenderer, theProfileIsShownUnlessItIsNamedAfterTheBrowser)
               "Chrome,\"Work, \"\"private\"\"\",,t,u,\r\n");
 }
 
+TEST(CsvRenderer, theBrowserIsNamedWithoutItsInstallation)
+{
+    const auto beta = [](const QString &name) {
+        Source profile = source(Source::Kind::Chrome, name);
+        profile.installation = u"beta"_s;
+        profile.namesInstallation = true;
+        return csv({flat(bookmark(u"t"_s, u"u"_s), profile)});
+    };
+    EXPECT_EQ(beta(u"Work"_s), "Chrome,Work,,t,u,\r\n");
+    EXPECT_EQ(beta(u"Chrome"_s), "Chrome,,,t,u,\r\n");
+    EXPECT_EQ(beta(u"Chrome Beta"_s), "Chrome,Chrome Beta,,t,u,\r\n");
+}
+
 TEST(CsvRenderer, theFolderIsQuotedWhereItMustBe)
 {
     EXPECT_EQ(csv(folder(u"a,b"_s, {bookmark(u"t"_s, u"u"_s)}).flattened()), "Safari,,\"a,b\",t,u,\r\n");
