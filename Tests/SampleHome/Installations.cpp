@@ -84,6 +84,11 @@ QString Installation::dataFolder(Layout layout) const
     return u"Library/Application Support/" % macFolder;
 }
 
+QList<Installation> allInstallations()
+{
+    return {installations.begin(), installations.end()};
+}
+
 const Installation &installation(const QString &name)
 {
     const qsizetype at = name.indexOf(u'@');

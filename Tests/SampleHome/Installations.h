@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QList>
 #include <QString>
 #include <QStringView>
 
@@ -41,6 +42,8 @@ struct Installation {
     QString dataFolder(Layout layout) const;
 };
 
+/// Every one that the samples know.
+QList<Installation> allInstallations();
 /// What is asked for as "KIND" or "KIND@KEY". Throws Failure.
 const Installation &installation(const QString &name);
 

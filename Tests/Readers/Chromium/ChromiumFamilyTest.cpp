@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
-#include "Model/Browser.h"
 #include "Readers/BrowserReader.h"
 #include "Readers/Chromium/ChromiumReader.h"
 #include "Readers/ReaderTest.h"
@@ -70,33 +69,6 @@ protected:
 };
 
 } // namespace
-
-TEST_F(ChromiumFamily, everyBrowserIsReadInItsOwnFolder)
-{
-    QStringList expected;
-    for (const Browser &browser : Browser::all()) {
-        if (browser.family != Browser::Family::Chromium)
-            continue;
-        const QString root = home.folders.dataFolders(browser.kind, {}).last();
-        change([&] {
-            sample::writeLocalState(root % u"/Local State", {{u"Default"_s, sample::profileInfo(u"Me"_s)}});
-            sample::writeHistory(root % u"/Default/History", {.written = {{.url = u"https://a.example/"_s,
-                                                                           .title = browser.displayName,
-                                                                           .lastVisitTime = 1'000'000}}});
-        });
-    }
-    for (const Browser &browser : Browser::all()) {
-        if (browser.family != Browser::Family::Chromium)
-            continue;
-        const QList<Source> sources = BrowserReader::profiles(browser.kind, context());
-        ASSERT_EQ(sources.size(), 1) << browser.rawValue.toStdString();
-        EXPECT_EQ(sources.first().id(), browser.rawValue % u"/Default");
-        EXPECT_EQ(sources.first().label(), browser.displayName % u" - Me");
-        const auto rows = BrowserReader::history(sources.first(), HistoryQuery::recent(), context());
-        ASSERT_TRUE(rows);
-        EXPECT_EQ(titlesOf(*rows), QStringList{browser.displayName});
-    }
-}
 
 TEST_F(ChromiumFamily, everyInstallationWithProfilesIsListedInOrder)
 {
