@@ -172,6 +172,14 @@ void writeBookmarks(const QString &path, const QJsonObject &roots)
     writeFile(path, indented({{u"checksum"_s, QString()}, {u"roots"_s, roots}, {u"version"_s, 1}}));
 }
 
+void writeDeepBookmarks(const QString &path, qsizetype folders)
+{
+    const QByteArray open = R"({"type":"folder","name":"f","children":[)";
+    writeFile(path, R"({"roots": {"bookmark_bar": )" + open.repeated(folders) +
+                        R"({"type": "url", "name": "deep", "url": "https://a.example/"})" +
+                        QByteArray("]}").repeated(folders) + "}}");
+}
+
 QJsonObject operaCustomRoot(const QMap<QString, QJsonArray> &children)
 {
     constexpr std::array<std::pair<QStringView, QStringView>, 5> folders{

@@ -62,6 +62,9 @@ QJsonObject folderNode(const QString &id, const QString &name, const QJsonArray 
 /// Writes a profile's "Bookmarks" or "AccountBookmarks"; "roots" holds "bookmark_bar", "other" and "synced".
 void writeBookmarks(const QString &path, const QJsonObject &roots);
 
+/// Writes "Bookmarks" with one bookmark, in a bar of this many folders inside each other.
+void writeDeepBookmarks(const QString &path, qsizetype folders);
+
 /// Opera's further root, "custom_root": its folders by their keys, with what lies in them by the same keys.
 QJsonObject operaCustomRoot(const QMap<QString, QJsonArray> &children);
 

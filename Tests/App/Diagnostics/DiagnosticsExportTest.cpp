@@ -16,6 +16,7 @@ namespace
 {
 
 using ::testing::HasSubstr;
+using ::testing::StartsWith;
 
 using DiagnosticsExportTest = DiagnosticsTest;
 
@@ -126,6 +127,57 @@ TEST_F(DiagnosticsExportTest, ofAnUnreadableSourceIsEmptyAndSaysWhy)
     EXPECT_EQ(outputOf({u"--export"_s, u"html"_s, u"--source"_s, u"chrome/Default"_s}), emptyHtml);
     EXPECT_THAT(console.errors.toStdString(),
                 HasSubstr("Couldn't read " + home.chrome(u"Default/Bookmarks"_s).toStdString() + ": "));
+}
+
+TEST_F(DiagnosticsExportTest, ofADamagedFileBesideAGoodOneIsTheGoodOneAndSaysWhatIsMissing)
+{
+    home.addProfiles();
+    home.addBookmarks();
+    const QStringList arguments{u"--export"_s, u"markdown"_s, u"--source"_s, u"chrome/Default"_s};
+    const QByteArray whole = outputOf(arguments);
+    const QString account = home.chrome(u"Default/AccountBookmarks"_s);
+    sample::writeFile(account, "[1, 2");
+    EXPECT_EQ(outputOf(arguments), whole);
+    EXPECT_THAT(console.errors.toStdString(),
+                StartsWith("roamlet: Couldn't read " + account.toStdString() + ": "));
+    EXPECT_EQ(console.errors.count('\n'), 1);
+
+    const QString local = home.chrome(u"Default/Bookmarks"_s);
+    sample::writeFile(local, "{");
+    console.errors.clear();
+    EXPECT_EQ(outputOf(arguments), emptyMarkdown);
+    EXPECT_THAT(console.errors.toStdString(),
+                StartsWith("roamlet: Couldn't read " + local.toStdString() + ": "));
+    EXPECT_EQ(console.errors.count('\n'), 2) << "each file is named";
+}
+
+TEST_F(DiagnosticsExportTest, ofEncryptedBookmarksIsEmptyAndSaysWhy)
+{
+    home.addProfiles();
+    sample::writeEncryptedBookmarks(home.chrome(u"Default/EncryptedBookmarks2"_s));
+    const QStringList arguments{u"--export"_s, u"html"_s, u"--source"_s, u"chrome/Default"_s};
+    EXPECT_EQ(outputOf(arguments), emptyHtml);
+    EXPECT_EQ(console.errors.toStdString(), "roamlet: Chrome keeps the bookmarks of Chrome - Personal "
+                                            "encrypted. Only it can export them.\n");
+    home.addBookmarks();
+    console.errors.clear();
+    EXPECT_NE(outputOf(arguments), emptyHtml);
+    EXPECT_EQ(console.errors, "") << "what can be read is everything";
+}
+
+TEST_F(DiagnosticsExportTest, foldersThatAreTooDeepAreAMessageAndStatusOne)
+{
+    home.addProfiles();
+    sample::writeDeepBookmarks(home.chrome(u"Default/Bookmarks"_s), 10'000);
+    for (const QString &format : {u"html"_s, u"markdown"_s}) {
+        console.errors.clear();
+        EXPECT_EQ(run({u"--export"_s, format, u"--source"_s, u"chrome/Default"_s}), 1);
+        EXPECT_EQ(console.output, "") << qPrintable(format);
+        EXPECT_EQ(console.errors, "roamlet: The folders are nested too deeply for this format.\n");
+    }
+    console.errors.clear();
+    EXPECT_EQ(outputOf({u"--export"_s, u"csv"_s, u"--source"_s, u"chrome/Default"_s}).count('\n'), 2);
+    EXPECT_EQ(console.errors, "");
 }
 
 TEST_F(DiagnosticsExportTest, withoutSafariOrBookmarksIsEmpty)

@@ -13,6 +13,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
+using ::testing::HasSubstr;
 using ::testing::MatchesRegex;
 using ::testing::StartsWith;
 
@@ -78,6 +79,20 @@ TEST_F(DiagnosticsTopTest, withoutASiteKeepsItsColumnEmpty)
     sample::writeHistory(home.chrome(u"Default/History"_s),
                          {BrowserHome::page(u"file:///tmp/x"_s, u"Local"_s, 4, BrowserHome::newest)});
     EXPECT_EQ(text(rowsOf({u"--top"_s})), text(QStringList({u"4  Personal    Local"_s})));
+}
+
+TEST_F(DiagnosticsTopTest, namesTheProfileWithoutItsInstallation)
+{
+    home.addPages();
+    const QString beta = home.path(u".config/google-chrome-beta"_s);
+    sample::writeLocalState(beta % u"/Local State", {{u"Default"_s, QJsonObject{{u"name"_s, u"Test"_s}}}});
+    sample::writeHistory(beta % u"/Default/History",
+                         {BrowserHome::page(u"https://b.example/"_s, u"t"_s, 50, BrowserHome::newest)});
+    const QStringList rows = rowsOf({u"--top"_s});
+    EXPECT_EQ(rows.value(0).toStdString(), "50  Test  b.example  t");
+    EXPECT_EQ(rows.value(1).toStdString(), "40  Work  work.example.com  Board page");
+    EXPECT_THAT(linesOf({u"--summary"_s}).join(u'\n').toStdString(), HasSubstr("Chrome Beta - Test"))
+        << "where the label does name it";
 }
 
 TEST_F(DiagnosticsTopTest, withoutHistoryPrintsACountOfNone)

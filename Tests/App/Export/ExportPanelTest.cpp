@@ -463,5 +463,28 @@ TEST_F(ExportPanelTest, OnAFullDiskTheOldFileStaysAndSoDoesTheSheet)
     EXPECT_EQ(savedNames(), QStringList{u"file"_s});
 }
 
+TEST_F(ExportPanelTest, FoldersThatAreTooDeepAreToldAndNoFileIsMade)
+{
+    change([this] { sample::writeDeepBookmarks(chromeFile(u"Profile 1/Bookmarks"_s), 10'000); });
+    loadNow(library);
+    for (const QString &name : {u"html"_s, u"markdown"_s}) {
+        open({work});
+        format(name).click();
+        savePanel.chosenPath = path(name);
+        alert.problems.clear();
+        alert.subjects.clear();
+        exportNow();
+        expectFailure();
+        EXPECT_EQ(alert.problems, QStringList{u"The folders are nested too deeply for this format."_s});
+        delete panel;
+    }
+    EXPECT_EQ(savedNames(), QStringList());
+    open({work});
+    format(u"csv"_s).click();
+    savePanel.chosenPath = path(u"csv"_s);
+    exportNow();
+    EXPECT_EQ(savedNames(), QStringList{u"csv"_s}) << "a list has no depth";
+}
+
 } // namespace
 } // namespace roamlet::testing

@@ -268,10 +268,7 @@ TEST_F(ChromiumBookmarks, aHundredThousandFoldersAreRead)
 TEST_F(ChromiumBookmarks, foldersMayBeNestedAsDeepAsTheyLike)
 {
     for (const int depth : {5'000, 200'000}) {
-        const QByteArray open = R"({"type":"folder","name":"f","children":[)";
-        writeText(R"({"roots": {"bookmark_bar": )" + open.repeated(depth) +
-                  R"({"type": "url", "name": "deep", "url": "https://a.example/"})" +
-                  QByteArray("]}").repeated(depth) + "}}");
+        change([&] { sample::writeDeepBookmarks(chromeFile(u"Bookmarks"_s), depth); });
         onAnotherThread([&] {
             const QList<BookmarkNode> roots = read();
             ASSERT_EQ(roots.size(), 1);
