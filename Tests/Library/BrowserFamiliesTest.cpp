@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <utility>
 
 namespace roamlet::testing
 {
@@ -103,6 +104,30 @@ TEST_F(BrowserFamiliesTest, aDamagedFileTakesItsOwnBookmarksAwayAndNoOthers)
     writeBookmarks(u"AccountBookmarks"_s, u"account"_s);
     loadNow(library);
     EXPECT_EQ(bookmarksOf(library, u"chrome/Default"_s), (QStringList{u"again"_s, u"account"_s}));
+    EXPECT_EQ(problemOf(library), QString());
+}
+
+TEST_F(BrowserFamiliesTest, aRefusedFileTakesItsOwnBookmarksAwayAndNoOthers)
+{
+    addChromium();
+    writeBookmarks(u"Bookmarks"_s, u"local"_s);
+    writeBookmarks(u"AccountBookmarks"_s, u"account"_s);
+    Library library(home.platform());
+    loadNow(library);
+    for (const auto &[refused, left] :
+         {std::pair(u"AccountBookmarks"_s, u"local"_s), std::pair(u"Bookmarks"_s, u"account"_s)}) {
+        const QString file = chromeFile(u"Default/"_s % refused);
+        fail(file, std::errc::permission_denied);
+        loadNow(library);
+        EXPECT_EQ(bookmarksOf(library, u"chrome/Default"_s), QStringList{left});
+        EXPECT_EQ(problemOf(library), QString(u"macOS blocked access to " % file % u'.'));
+        EXPECT_TRUE(home.clock.sleeps().empty()) << "nobody grants access in a moment";
+        EXPECT_TRUE(titles(library.snapshot().history).contains(u"a1"_s));
+        EXPECT_FALSE(library.snapshot().safariBlocked);
+    }
+    home.files.failure = {};
+    loadNow(library);
+    EXPECT_EQ(bookmarksOf(library, u"chrome/Default"_s), (QStringList{u"local"_s, u"account"_s}));
     EXPECT_EQ(problemOf(library), QString());
 }
 
