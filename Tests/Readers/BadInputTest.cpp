@@ -116,6 +116,8 @@ TEST_F(BadInput, theSamplesThemselvesAreGood)
     EXPECT_EQ(SafariReader::profiles(context()).size(), 3);
     EXPECT_EQ(BrowserReader::profiles(Source::Kind::Chrome, context()).size(), 1);
     EXPECT_GT(ChromiumReader::bookmarks(chrome(), context()).value().roots.value(0).bookmarkCount(), 10);
+    EXPECT_EQ(ChromiumReader::bookmarks(chrome(accountProfile), context()).value().roots.size(), 1);
+    EXPECT_TRUE(ChromiumReader::bookmarks(chrome(encryptedProfile), context()).value().areEncrypted);
     EXPECT_GT(SafariReader::bookmarks(Source::safari(), context()).value().roots.value(0).bookmarkCount(),
               10);
 }
@@ -351,21 +353,24 @@ TEST_F(BadInput, filesAndFoldersThatAnotherUserClosedAreNoAccess)
     writeHome();
     openHome();
     for (const Reading &reading : readings) {
-        const auto kindForAnotherUser = [&] {
+        const QString folder = QFileInfo(reading.path).path();
+        const auto kindForAnotherUser = [&](const QString &closed) {
             return asAnotherUser([&] {
                 const std::optional<ReadError> error = reading.read(context());
                 if (!error)
                     return 0;
-                return *error == ReadError::noAccess(reading.path) ? 1 : 2;
+                // Of a closed folder nobody can tell which of two files there is.
+                const bool isNamed = error->path() == closed || QFileInfo(error->path()).path() == closed;
+                return error->kind() == ReadError::Kind::NoAccess && isNamed ? 1 : 2;
             });
         };
-        EXPECT_EQ(kindForAnotherUser(), 0) << reading.name;
+        EXPECT_EQ(kindForAnotherUser({}), 0) << reading.name;
         change([&] { mode(reading.path, 0); });
-        EXPECT_EQ(kindForAnotherUser(), reading.reportsErrors ? 1 : 0) << reading.name;
+        EXPECT_EQ(kindForAnotherUser(reading.path), reading.reportsErrors ? 1 : 0) << reading.name;
         change([&] { mode(reading.path, 0644); });
-        const QString folder = QFileInfo(reading.path).path();
         change([&] { mode(folder, 0); });
-        EXPECT_EQ(kindForAnotherUser(), reading.reportsErrors ? 1 : 0) << reading.name << ", its folder";
+        EXPECT_EQ(kindForAnotherUser(folder), reading.reportsErrors ? 1 : 0)
+            << reading.name << ", its folder";
         change([&] { mode(folder, 0755); });
     }
 }

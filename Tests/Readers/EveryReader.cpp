@@ -203,6 +203,18 @@ EveryReader::EveryReader()
           {"Firefox profiles", firefoxFile(u"profiles.ini"_s, {}),
            [](const ReadContext &context) { return readProfiles(firefox().kind, context); }, false, false,
            ""},
+          {"Chromium bookmarks of an account", chromeFile(u"AccountBookmarks"_s, accountProfile),
+           [](const ReadContext &context) {
+               return errorOf(ChromiumReader::bookmarks(chrome(accountProfile), context));
+           },
+           false, true, ""},
+          {"Encrypted bookmarks", chromeFile(u"EncryptedBookmarks2"_s, encryptedProfile),
+           [](const ReadContext &context) {
+               const auto trees = ChromiumReader::bookmarks(chrome(encryptedProfile), context);
+               EXPECT_TRUE(!trees || trees->roots.isEmpty());
+               return std::optional<ReadError>();
+           },
+           false, false, ""},
           {"Safari bookmarks", safariFile(u"Bookmarks.plist"_s),
            [](const ReadContext &context) {
                const auto favourites =
@@ -285,8 +297,10 @@ void EveryReader::writeHome(sample::Journal journal, sample::PropertyListFormat 
                             {{.title = u"Work"_s, .serverID = u"ID"_s, .extraAttributes = favourites},
                              {.title = u"Home"_s, .serverID = u"ID2"_s, .extraAttributes = favourites}},
                             journal);
-    sample::writeBookmarks(chromeFile(u"Bookmarks"_s),
-                           {{u"bookmark_bar"_s, sample::folderNode(u"0"_s, u"Bar"_s, nodes)}});
+    const QJsonObject roots{{u"bookmark_bar"_s, sample::folderNode(u"0"_s, u"Bar"_s, nodes)}};
+    sample::writeBookmarks(chromeFile(u"Bookmarks"_s), roots);
+    sample::writeBookmarks(chromeFile(u"AccountBookmarks"_s, accountProfile), roots);
+    sample::writeEncryptedBookmarks(chromeFile(u"EncryptedBookmarks2"_s, encryptedProfile));
     sample::writeLocalState(chromeFile(u"Local State"_s, {}),
                             {{u"Default"_s, QJsonObject{{u"name"_s, u"Person 1"_s}}},
                              {u"Profile 1"_s, QJsonObject{{u"name"_s, u"Zoë"_s}}}});

@@ -25,11 +25,16 @@ protected:
         /// Reads it, looks at what comes out and returns the error, if there was one.
         std::function<std::optional<ReadError>(const ReadContext &)> read;
         bool isDatabase;
-        /// Profile lists report nothing: where they cannot be read, there are no profiles.
+        /// Profile lists report nothing: where they cannot be read, there are no profiles. Nor do encrypted
+        /// bookmarks, which are never read.
         bool reportsErrors;
         /// The statements that make the tables that are read, with one row each.
         const char *tables;
     };
+
+    /// Each file has a profile of its own: a good one beside a bad one makes another answer.
+    static inline const QString accountProfile = QStringLiteral("Account");
+    static inline const QString encryptedProfile = QStringLiteral("Encrypted");
 
     EveryReader();
 
