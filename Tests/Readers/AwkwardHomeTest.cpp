@@ -5,15 +5,19 @@
 #include "Readers/Chromium/ChromiumReader.h"
 #include "Readers/ReaderTest.h"
 #include "Readers/Safari/SafariReader.h"
+#include "SampleHome/AwkwardFirefox.h"
 #include "SampleHome/AwkwardValues.h"
 #include "SampleHome/PropertyLists.h"
 #include "SampleHome/SampleHome.h"
+#include "Support/Sources.h"
 
 #include <QRegularExpression>
 #include <QStringDecoder>
 
 #include <algorithm>
+#include <iterator>
 #include <map>
+#include <utility>
 
 namespace roamlet::testing
 {
@@ -90,6 +94,18 @@ std::optional<double> chromiumDate(const QJsonValue &value)
     return microseconds > 0 ? std::optional(double(microseconds) / 1e6 - secondsBefore1970) : std::nullopt;
 }
 
+/// What is to be shown of the awkward pages in Chromium's database.
+QStringList chromiumRows(qint64 newest)
+{
+    QStringList rows;
+    for (const sample::HistoryRow &each : sample::awkwardHistory(newest)) {
+        if (!each.hidden && each.lastVisitTime > 0)
+            rows.append(row(textOf(each.url), textOf(each.title), each.visitCount,
+                            double(each.lastVisitTime) / 1e6 - secondsBefore1970));
+    }
+    return rows;
+}
+
 /// What is to be shown of nodes in Chromium's file.
 QStringList nodesOf(const QJsonArray &nodes)
 {
@@ -142,6 +158,32 @@ QStringList nodesOf(const QVariant &entries)
     return lines;
 }
 
+/// What is to be shown of what lies in a folder of Firefox's.
+QStringList nodesOf(const QList<sample::FirefoxBookmarkRow> &rows, qint64 folder)
+{
+    using Row = sample::FirefoxBookmarkRow;
+    QList<Row> inside;
+    std::ranges::copy_if(rows, std::back_inserter(inside), [folder](const Row &each) {
+        return each.parent == folder && each.id.value() >= sample::firefox_folder::firstFree;
+    });
+    // A missing place comes before the lowest; rows of one place stay as they are numbered.
+    std::ranges::stable_sort(inside, {}, &Row::position);
+    QStringList lines;
+    for (const Row &each : inside) {
+        const QString title = textOf(each.title);
+        const QString url = textOf(each.url);
+        if (each.type == Row::folder)
+            lines.append(node(title, {}, {}, nodesOf(rows, *each.id)));
+        else if (each.type == Row::bookmark && each.url.bytes() &&
+                 !url.startsWith(u"place:", Qt::CaseInsensitive))
+            lines.append(node(title.isEmpty() ? url : title, url,
+                              each.dateAdded.value_or(0) > 0 ? std::optional(double(*each.dateAdded) / 1e6)
+                                                             : std::nullopt,
+                              {}));
+    }
+    return lines;
+}
+
 /// Every value of a home that is hard to read comes out of the readers as it was written.
 class AwkwardHome : public ReaderTest
 {
@@ -169,20 +211,88 @@ protected:
     const qint64 newest = sample::Options().newestVisit.toSecsSinceEpoch();
 };
 
+/// The same of the browsers that keep their files as the first ones do, or in other ways.
+class AwkwardRelatives : public ReaderTest
+{
+protected:
+    explicit AwkwardRelatives(const QList<sample::BrowserSample> &browsers = {
+                                  {u"brave"_s}, {u"vivaldi"_s}, {u"opera"_s}, {u"firefox"_s}})
+    {
+        sample::build(home.path(), {.chromeProfiles = 0,
+                                    .edgeProfiles = 0,
+                                    .safariProfiles = -1,
+                                    .furtherBrowsers = browsers,
+                                    .rowsPerProfile = 0,
+                                    .bookmarksPerProfile = 0,
+                                    .iconsPerProfile = 0,
+                                    .isAwkward = true});
+    }
+
+    QList<Source> profiles(QStringView browser)
+    {
+        return BrowserReader::profiles(browserKind(browser), context());
+    }
+    std::map<QString, QString> names(QStringView browser)
+    {
+        std::map<QString, QString> result;
+        for (const Source &source : profiles(browser))
+            result[*source.profile] = source.name;
+        return result;
+    }
+    Source profile(QStringView browser, const QString &name)
+    {
+        const QList<Source> sources = profiles(browser);
+        const auto found = std::ranges::find(sources, name, &Source::name);
+        EXPECT_NE(found, sources.end()) << name.toStdString();
+        return found == sources.end() ? Source() : *found;
+    }
+    BookmarkTrees trees(const Source &source)
+    {
+        const auto read = BrowserReader::bookmarks(source, context());
+        if (!read)
+            ADD_FAILURE() << read.error().first();
+        return read.value_or(BookmarkTrees());
+    }
+
+    /// The profiles of Chromium's relatives that their list names, but for the first.
+    static std::map<QString, QString> listedProfiles()
+    {
+        std::map<QString, QString> result{{u"Profile 88"_s, u"Encrypted"_s}};
+        const QJsonObject profiles = sample::awkwardProfiles();
+        for (const QString &folder : profiles.keys()) {
+            const QJsonValue name = profiles[folder].toObject()[u"name"_s];
+            if (folder != u"Profile 404")
+                result[folder] = name.isString() ? name.toString() : folder;
+        }
+        return result;
+    }
+    /// The bookmarks of the first profile: of the local file the one folder that is not empty, and those of
+    /// the account.
+    QStringList chromiumBookmarks(const QString &localRoot) const
+    {
+        const QStringList synced =
+            node(u"Synced with the account"_s, u"https://account.example/"_s, double(newest), {});
+        return node(localRoot, {}, {}, node(u"Awkward"_s, {}, {}, nodesOf(sample::awkwardNodes()))) +
+               node(u"Bookmarks bar"_s, {}, {}, synced);
+    }
+
+    const qint64 newest = sample::Options().newestVisit.toSecsSinceEpoch();
+};
+
+class AwkwardOldOpera : public AwkwardRelatives
+{
+protected:
+    AwkwardOldOpera() : AwkwardRelatives({{u"opera@old"_s}}) {}
+};
+
 } // namespace
 
 TEST_F(AwkwardHome, chromiumsHistoryIsReadAsItWasWritten)
 {
-    QStringList written;
-    for (const sample::HistoryRow &each : sample::awkwardHistory(newest)) {
-        if (!each.hidden && each.lastVisitTime > 0)
-            written.append(row(textOf(each.url), textOf(each.title), each.visitCount,
-                               double(each.lastVisitTime) / 1e6 - secondsBefore1970));
-    }
     for (const Source &source : {chrome(), edge()}) {
         const auto items = ChromiumReader::history(source, HistoryQuery::recent(), context());
         ASSERT_TRUE(items.has_value()) << items.error();
-        expectSameRows(rowsOf(*items), written);
+        expectSameRows(rowsOf(*items), chromiumRows(newest));
     }
 }
 
@@ -267,6 +377,108 @@ TEST_F(AwkwardHome, safarisProfilesAreReadAsTheyWereWritten)
                                                     : Source::SafariBookmarks(Source::None{}))
             << source.name.toStdString();
     }
+}
+
+TEST_F(AwkwardRelatives, ofChromiumHaveTheirHistoryReadAsItWasWritten)
+{
+    for (const QStringView browser : {u"brave", u"vivaldi", u"opera"}) {
+        const auto items =
+            BrowserReader::history(profile(browser, u"Work"_s), HistoryQuery::recent(), context());
+        ASSERT_TRUE(items.has_value()) << items.error();
+        expectSameRows(rowsOf(*items), chromiumRows(newest));
+    }
+}
+
+TEST_F(AwkwardRelatives, ofChromiumHaveTheirProfilesReadAsTheyWereWritten)
+{
+    // The profile of a guest and the one for a single window are left out.
+    std::map<QString, QString> written = listedProfiles();
+    written[u"Default"_s] = u"Work"_s;
+    for (const QStringView browser : {u"brave", u"vivaldi", u"opera"})
+        EXPECT_EQ(names(browser), written) << browser.toString().toStdString();
+}
+
+TEST_F(AwkwardRelatives, ofChromiumHaveTheirBookmarksReadAsTheyWereWritten)
+{
+    for (const auto &[browser, localRoot] :
+         {std::pair(u"brave"_s, u"Other bookmarks"_s), std::pair(u"vivaldi"_s, u"Other bookmarks"_s),
+          std::pair(u"opera"_s, u"Unsorted Bookmarks"_s)}) {
+        const Source source = profile(browser, u"Work"_s);
+        const BookmarkTrees read = trees(source);
+        EXPECT_EQ(nodesOf(read.roots), chromiumBookmarks(localRoot)) << browser.toStdString();
+        EXPECT_EQ(read.roots.value(1).id, QString(source.id() % u"/account/1"));
+        EXPECT_TRUE(read.roots.value(1).isBar);
+        EXPECT_FALSE(read.areEncrypted) << "the encrypted file stands beside one that can be read";
+        EXPECT_TRUE(read.problems.isEmpty());
+    }
+}
+
+TEST_F(AwkwardRelatives, ofChromiumKeepTheSecretOfTheirEncryptedBookmarks)
+{
+    for (const QStringView browser : {u"brave", u"vivaldi", u"opera"}) {
+        const BookmarkTrees read = trees(profile(browser, u"Encrypted"_s));
+        EXPECT_TRUE(read.areEncrypted) << browser.toString().toStdString();
+        EXPECT_TRUE(read.roots.isEmpty());
+        EXPECT_TRUE(read.problems.isEmpty());
+    }
+}
+
+TEST_F(AwkwardOldOpera, isReadAsItWasWritten)
+{
+    std::map<QString, QString> written = listedProfiles();
+    written[u""_s] = u"Opera"_s;
+    EXPECT_EQ(names(u"opera"), written);
+    const Source first = profile(u"opera", u"Opera"_s);
+    EXPECT_EQ(nodesOf(trees(first).roots), chromiumBookmarks(u"Unsorted Bookmarks"_s));
+    const auto items = BrowserReader::history(first, HistoryQuery::recent(), context());
+    ASSERT_TRUE(items.has_value()) << items.error();
+    expectSameRows(rowsOf(*items), chromiumRows(newest));
+}
+
+TEST_F(AwkwardRelatives, firefoxsHistoryIsReadAsItWasWritten)
+{
+    QStringList written;
+    for (const sample::FirefoxPage &each : sample::awkwardFirefoxPages(newest)) {
+        if (!each.hidden && each.lastVisitDate.value_or(0) > 0)
+            written.append(row(textOf(each.url), textOf(each.title), each.visitCount,
+                               double(*each.lastVisitDate) / 1e6));
+    }
+    const auto items = BrowserReader::history(profile(u"firefox", u"Renamed in the group"_s),
+                                              HistoryQuery::recent(), context());
+    ASSERT_TRUE(items.has_value()) << items.error();
+    expectSameRows(rowsOf(*items), written);
+}
+
+TEST_F(AwkwardRelatives, firefoxsBookmarksAreReadAsTheyWereWritten)
+{
+    namespace folder = sample::firefox_folder;
+    QList<sample::FirefoxBookmarkRow> rows = sample::awkwardFirefoxBookmarks(folder::firstFree);
+    const auto next = [&rows] { return *rows.last().id + 1; };
+    rows += sample::circlingFirefoxFolders(next());
+    rows += sample::orphanedFirefoxBookmarks(next());
+    rows += sample::firefoxRootBelowItself(folder::mobile, u"mobile______"_s, next());
+    QStringList written;
+    for (const auto &[title, root] :
+         {std::pair(u"Bookmarks Toolbar"_s, folder::toolbar), std::pair(u"Bookmarks Menu"_s, folder::menu),
+          std::pair(u"Mobile Bookmarks"_s, folder::mobile)})
+        written += node(title, {}, {}, nodesOf(rows, root));
+    EXPECT_EQ(nodesOf(trees(profile(u"firefox", u"Renamed in the group"_s)).roots), written);
+}
+
+TEST_F(AwkwardRelatives, firefoxsProfilesAreReadAsTheyWereWritten)
+{
+    QStringList written{u"Renamed in the group"_s, u"In the group only"_s};
+    for (int number = 2; const QString &name : sample::awkwardFirefoxProfileNames()) {
+        // The folder stands for a name that is empty.
+        const QString folder = u"awkward.%1"_s.arg(number++);
+        written.append(name.isEmpty() ? folder : name);
+    }
+    QStringList read;
+    for (const Source &source : profiles(u"firefox"))
+        read.append(source.name);
+    read.sort();
+    written.sort();
+    EXPECT_EQ(read, written);
 }
 
 } // namespace roamlet::testing
