@@ -126,6 +126,7 @@ TEST_F(SafariHistory, aMissingTitleOfTheNewestVisitIsReplacedByTheAddress)
     const QList<HistoryItem> items = read();
     ASSERT_EQ(titlesOf(items), (QStringList{u"https://A.example/"_s, u"https://b.example/"_s}));
     EXPECT_EQ(items[0].searchKey, u"https://a.example/\nhttps://a.example/"_s);
+    EXPECT_EQ(items[1].searchKey, u"https://b.example/\nhttps://b.example/"_s);
 }
 
 TEST_F(SafariHistory, pagesWithoutAVisitAreNotListed)
