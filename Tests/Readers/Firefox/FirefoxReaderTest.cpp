@@ -156,6 +156,61 @@ TEST_F(FirefoxHistory, aLoadCopiesTheDatabaseOnce)
     EXPECT_FALSE(content.isHistoryFirst);
 }
 
+TEST_F(FirefoxHistory, aBrowserThatWritesDuringEveryCopyIsReadAllTheSame)
+{
+    constexpr qint64 rows = 900;
+    constexpr qint64 visits = 1000;
+    const QString file = firefoxFile(u"places.sqlite"_s);
+    write(sample::Rows<FirefoxPage>::generated(rows, [](qsizetype i) {
+        return FirefoxPage{.url = u"https://a.example/%1"_s.arg(i),
+                           .title = u"wide "_s.repeated(100),
+                           .visitCount = visits,
+                           .lastVisitDate = i + 1};
+    }));
+    std::optional<sample::Database> browser;
+    change([&] {
+        browser.emplace(file);
+        browser->execute(
+            "PRAGMA synchronous = OFF; PRAGMA journal_mode = WAL; PRAGMA wal_autocheckpoint = 0");
+    });
+    // Each change moves visits between far pages of the file, so that a part of one is a wrong sum.
+    const char *const moves = "BEGIN; UPDATE moz_places SET visit_count = visit_count - 1 WHERE id = 1;"
+                              " UPDATE moz_places SET visit_count = visit_count + 1 WHERE id = 900; COMMIT";
+    const char *const movesBack =
+        "BEGIN; UPDATE moz_places SET visit_count = visit_count - 1 WHERE id = 1;"
+        " UPDATE moz_places SET visit_count = visit_count + 1 WHERE id = 450; COMMIT";
+    const char *const merges = "PRAGMA wal_checkpoint(RESTART)";
+    const auto readWhile = [&](const QList<const char *> &written) {
+        int copies = 0;
+        home.files.afterCopy = [&](const QString &copied) {
+            copies += copied == file ? 1 : 0;
+            change([&] {
+                for (const char *statements : written)
+                    browser->execute(statements);
+            });
+        };
+        const auto items = FirefoxReader::history(firefox(), HistoryQuery::recent(), context());
+        home.files.afterCopy = {};
+        EXPECT_EQ(copies, 3);
+        return items.value();
+    };
+    const auto visitsOf = [](const QList<HistoryItem> &items) {
+        qint64 sum = 0;
+        for (const HistoryItem &item : items)
+            sum += item.visitCount;
+        return sum;
+    };
+    const QList<HistoryItem> appended = readWhile({moves});
+    EXPECT_EQ(appended.size(), rows);
+    EXPECT_EQ(visitsOf(appended), rows * visits) << "a log that only grows is read up to one of its commits";
+    // The third copy serves whatever happens meanwhile; the next reading is whole again.
+    EXPECT_EQ(readWhile({moves, merges}).size(), rows);
+    EXPECT_EQ(readWhile({moves, merges, movesBack}).size(), rows);
+    const auto rested = FirefoxReader::history(firefox(), HistoryQuery::recent(), context());
+    EXPECT_EQ(visitsOf(rested.value()), rows * visits);
+    change([&] { browser.reset(); });
+}
+
 TEST_F(FirefoxHistory, eachPartOfALoadIsReadOrNotOnItsOwn)
 {
     const auto content = [this] {
