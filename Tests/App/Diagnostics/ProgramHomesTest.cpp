@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "EmptyDocuments.h"
+#include "Model/Browser.h"
 #include "ProgramTest.h"
 #include "SampleHome/PlainFiles.h"
 #include "SampleHome/SampleHome.h"
@@ -82,8 +83,14 @@ TEST_F(ProgramHomesTest, withoutAVariableTheUserDatabaseNamesTheHome)
     ASSERT_NE(user, nullptr);
     // That home is not the test's own, so nothing is looked for there.
     QByteArray settings;
-    for (const char *browser : {"safari", "chrome", "edge"})
-        settings += QByteArray("dataRoot.") + browser + '=' + home.path(u"nothing"_s).toUtf8() + '\n';
+    for (const Browser &browser : Browser::all()) {
+        for (const Browser::Installation &installation : browser.installations) {
+            settings += "dataRoot." + browser.rawValue.toUtf8();
+            if (!installation.key.isEmpty())
+                settings += '@' + installation.key.toUtf8();
+            settings += '=' + home.path(u"nothing"_s).toUtf8() + '\n';
+        }
+    }
     home.setSettings(settings);
     program.environment.remove(u"HOME"_s);
     const Ended ended = program.run({u"--summary"_s});
