@@ -6,6 +6,7 @@
 #include "ProgramTest.h"
 #include "SampleHome/PlainFiles.h"
 #include "SampleHome/SampleHome.h"
+#include "Support/Stranger.h"
 
 #include <QDir>
 
@@ -118,6 +119,30 @@ TEST_F(ProgramHomesTest, aRelativeHomeIsRefused)
     EXPECT_EQ(program.run({u"--help"_s}).status, 0);
     program.environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
     expectRefused(u"home"_s, {});
+}
+
+TEST_F(ProgramHomesTest, aUserWhomNobodyKnowsIsAskedForAHome)
+{
+    constexpr int cannotBecomeOne = 99;
+    program.environment.remove(u"HOME"_s);
+    program.environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
+    program.prepare = [stranger = strangerToTheUserDatabase()] {
+        if (setuid(stranger) != 0 || access(ROAMLET_PROGRAM, X_OK) != 0)
+            _exit(cannotBecomeOne);
+    };
+    if (program.run({u"--help"_s}).status == cannotBecomeOne)
+        GTEST_SKIP() << "only root can become another user, and that one has to reach the program";
+    for (const QStringList &arguments :
+         readingJobs + QList<QStringList>{{u"--watch"_s, u"0"_s}, QStringList()}) {
+        SCOPED_TRACE(arguments.value(0).toStdString());
+        const Ended ended = program.run(arguments);
+        EXPECT_EQ(ended.status, 1);
+        EXPECT_EQ(ended.output, "");
+        EXPECT_EQ(ended.errors,
+                  "roamlet: the user database knows no home folder of this user. Set HOME to one.\n");
+    }
+    program.environment.insert(u"HOME"_s, home.path());
+    EXPECT_EQ(program.run({u"--search"_s}).status, 0);
 }
 
 TEST_F(ProgramHomesTest, withoutATemporaryFolderTheSummarySaysWhy)

@@ -52,11 +52,16 @@ int printed(Console &console, const QString &text)
     return print(console, text) == Printed::Failed ? failure : success;
 }
 
-/// Sees to it that whoever looks for the home folder finds the same one. False, with a message, when the
-/// variable names a relative one: what that means would depend on where the program was started.
+/// Sees to it that whoever looks for the home folder finds the same one. False, with a message, when there is
+/// none, or when the variable names a relative one: what that means would depend on where the program was
+/// started.
 bool settleHome(Console &console)
 {
     const QString home = homeFolder();
+    if (home.isEmpty()) {
+        complain(console, u"the user database knows no home folder of this user. Set HOME to one."_s);
+        return false;
+    }
     if (!QDir::isAbsolutePath(home)) {
         complain(console, u"the home folder is not an absolute path: "_s % home % u". Set HOME to one.");
         return false;

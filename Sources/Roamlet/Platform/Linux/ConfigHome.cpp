@@ -6,8 +6,6 @@
 #include <QDir>
 #include <QFile>
 
-#include <unistd.h>
-
 #include <pwd.h>
 #include <vector>
 
@@ -17,25 +15,25 @@ namespace roamlet
 namespace
 {
 
-/// The home folder of the user who runs this process; empty for one whom the database does not know.
-QByteArray homeInUserDatabase()
+/// A user's home folder; empty for one whom the database does not know.
+QByteArray homeInUserDatabase(uid_t user)
 {
     constexpr size_t longestEntry = size_t{64} << 10U;
     std::vector<char> buffer(longestEntry);
     passwd entry = {};
     passwd *found = nullptr;
-    if (getpwuid_r(getuid(), &entry, buffer.data(), buffer.size(), &found) != 0 || found == nullptr)
+    if (getpwuid_r(user, &entry, buffer.data(), buffer.size(), &found) != 0 || found == nullptr)
         return {};
     return entry.pw_dir;
 }
 
 } // namespace
 
-QString homeFolder()
+QString homeFolder(uid_t user)
 {
     const QByteArray variable = qgetenv("HOME");
-    const QByteArray path = variable.isEmpty() ? homeInUserDatabase() : variable;
-    return path.isEmpty() ? QDir::rootPath() : QDir::cleanPath(QFile::decodeName(path));
+    const QByteArray path = variable.isEmpty() ? homeInUserDatabase(user) : variable;
+    return QDir::cleanPath(QFile::decodeName(path));
 }
 
 QString configHome()

@@ -5,12 +5,14 @@
 
 #include <QString>
 
+#include <unistd.h>
+
 namespace roamlet
 {
 
 /// The user's home folder: $HOME, or what the user database says where that is not set. A relative one stays
-/// so.
-QString homeFolder();
+/// so; where the database does not know the user either, it is empty.
+QString homeFolder(uid_t user = getuid());
 /// The folder of the user's configuration files: $XDG_CONFIG_HOME, or ".config" below the home folder.
 QString configHome();
 
