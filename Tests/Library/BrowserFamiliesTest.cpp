@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
-#include "SampleHome/FirefoxFiles.h"
 #include "SampleHome/PlainFiles.h"
 #include "Support/LibraryHome.h"
 
@@ -49,22 +48,6 @@ protected:
     QString problemOf(const Library &library) const
     {
         return library.snapshot().problems.value(u"chrome/Default"_s);
-    }
-
-    QString firefoxFile(const QString &name) const { return home.path(u".mozilla/firefox/"_s % name); }
-    void addFirefox()
-    {
-        change([this] {
-            sample::writeFirefoxProfiles(firefoxFile(u"profiles.ini"_s),
-                                         {{.name = u"default"_s, .path = u"abc.default"_s}});
-            sample::writeFirefoxPlaces(
-                firefoxFile(u"abc.default/places.sqlite"_s),
-                {.written = {{.url = u"https://fox.example/"_s,
-                              .title = u"Fox"_s,
-                              .lastVisitDate = sample::firefoxTime(newest)}}},
-                {.written = sample::firefoxBookmarkRows(
-                     {.toolbar = {sample::firefoxBookmark(u"Kept"_s, u"https://kept.example/"_s, 1)}})});
-        });
     }
 };
 
@@ -191,8 +174,9 @@ TEST_F(BrowserFamiliesTest, browsersFollowEachOtherInTheirOrder)
     addFirefox();
     addChromium();
     addSafari();
-    for (const QString &folder : {u".config/opera"_s, u".config/BraveSoftware/Brave-Browser"_s,
-                                  u".config/chromium"_s, u".config/google-chrome-beta"_s}) {
+    addChromeBeta();
+    for (const QString &folder :
+         {u".config/opera"_s, u".config/BraveSoftware/Brave-Browser"_s, u".config/chromium"_s}) {
         change([&] {
             sample::writeLocalState(home.path(folder % u"/Local State"),
                                     {{u"Default"_s, sample::profileInfo(u"Me"_s)}});
@@ -209,26 +193,20 @@ TEST_F(BrowserFamiliesTest, browsersFollowEachOtherInTheirOrder)
 
 TEST_F(BrowserFamiliesTest, rowsGetANewLabelWhenAnotherInstallationComes)
 {
-    const QString flatpak = home.path(u".var/app/org.mozilla.firefox/.mozilla/firefox"_s);
-    change([&] {
-        sample::writeFirefoxProfiles(flatpak % u"/profiles.ini", {{.name = u"p"_s, .path = u"p"_s}});
-        sample::writeFirefoxPlaces(flatpak % u"/p/places.sqlite",
-                                   {.written = {{.url = u"https://fox.example/"_s,
-                                                 .title = u"Fox"_s,
-                                                 .lastVisitDate = sample::firefoxTime(newest)}}});
-    });
+    addFirefox(flatpakFirefox);
     Library library(home.platform());
     loadNow(library);
-    EXPECT_EQ(library.snapshot().history.value(0).source.label(), u"Firefox - p");
+    EXPECT_EQ(library.snapshot().history.value(0).source.label(), u"Firefox - default");
     addFirefox();
     loadNow(library, QSet<QString>{u"firefox/abc.default"_s});
     const QList<Source> sources = library.snapshot().sources;
     for (const HistoryResults &rows : {HistoryResults{.items = library.snapshot().history},
                                        Library::latestHistory(sources, library.snapshot(), home.context())}) {
-        const auto row = std::ranges::find_if(
-            rows.items, [](const HistoryItem &item) { return item.source.id() == u"firefox@flatpak/p"; });
+        const auto row = std::ranges::find_if(rows.items, [](const HistoryItem &item) {
+            return item.source.id() == u"firefox@flatpak/abc.default";
+        });
         ASSERT_NE(row, rows.items.end());
-        EXPECT_EQ(row->source.label(), u"Firefox (Flatpak) - p");
+        EXPECT_EQ(row->source.label(), u"Firefox (Flatpak) - default");
     }
 }
 

@@ -87,6 +87,45 @@ TEST_F(LibrarySettingsTest, ChoicesSurviveInARealFile)
     EXPECT_EQ(order(library), (QStringList{u"edge/Default"_s, u"chrome/Default"_s, u"chrome/Profile 1"_s}));
 }
 
+TEST_F(LibrarySettingsTest, anInstallationIsSwitchedOffAloneInARealFileToo)
+{
+    addChromium();
+    addChromeBeta();
+    addFirefox();
+    addFirefox(snapFirefox);
+    const QString file = home.temporary() % u"/settings/Roamlet.conf";
+    const QString beta = u"chrome@beta/Default"_s;
+    const QString snap = u"firefox@snap/abc.default"_s;
+    {
+        SettingsUserDefaults defaults(file);
+        Library library({home.folders, home.files, defaults, home.fileEvents, home.clock});
+        loadNow(library);
+        for (const QString &id : {beta, snap})
+            library.setEnabled(false, *library.source(id));
+        library.moveProfiles({5}, 0);
+        ASSERT_TRUE(waitUntil([&library] { return !library.isLoading(); }));
+    }
+    SettingsUserDefaults defaults(file);
+    Library library({home.folders, home.files, defaults, home.fileEvents, home.clock});
+    EXPECT_EQ(library.disabledProfiles(), (QSet<QString>{beta, snap}));
+    loadNow(library);
+    EXPECT_EQ(ids(library.snapshot().sources), (QStringList{u"chrome/Default"_s, u"chrome/Profile 1"_s,
+                                                            u"edge/Default"_s, u"firefox/abc.default"_s}));
+    EXPECT_EQ(order(library), (QStringList{snap, u"chrome/Default"_s, u"chrome/Profile 1"_s, beta,
+                                           u"edge/Default"_s, u"firefox/abc.default"_s}));
+}
+
+TEST_F(LibrarySettingsTest, theOlderListOfChromeProfilesMeansNoOtherInstallation)
+{
+    addChromium();
+    addChromeBeta();
+    home.defaults.setStringList(u"disabledChromeProfiles"_s, {u"Default"_s});
+    Library library(home.platform());
+    loadNow(library);
+    EXPECT_EQ(ids(library.snapshot().sources),
+              (QStringList{u"chrome/Profile 1"_s, u"chrome@beta/Default"_s, u"edge/Default"_s}));
+}
+
 TEST_F(LibrarySettingsTest, TheLastProfileThatIsSwitchedOnAgainIsOnInARealFileToo)
 {
     addChromium();

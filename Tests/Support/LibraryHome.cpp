@@ -3,6 +3,7 @@
 
 #include "Support/LibraryHome.h"
 
+#include "SampleHome/FirefoxFiles.h"
 #include "SampleHome/PropertyLists.h"
 #include "Support/Waiting.h"
 
@@ -56,6 +57,40 @@ void LibraryHome::addChromium()
             {{u"bookmark_bar"_s,
               sample::folderNode(u"1"_s, u"Bar"_s,
                                  {sample::bookmarkNode(u"5"_s, u"Mark"_s, u"https://mark.example/"_s, 0)})}});
+    });
+}
+
+void LibraryHome::addChromeBeta()
+{
+    change([this] {
+        sample::writeLocalState(chromeBetaFile(u"Local State"_s),
+                                {{u"Default"_s, sample::profileInfo(u"Trial"_s)}});
+        sample::writeHistory(chromeBetaFile(u"Default/History"_s),
+                             {sample::HistoryRow{.url = u"https://beta.example/"_s,
+                                                 .title = u"Beta"_s,
+                                                 .lastVisitTime = sample::chromiumTime(newest + 30)}});
+        sample::writeBookmarks(
+            chromeBetaFile(u"Default/Bookmarks"_s),
+            {{u"bookmark_bar"_s,
+              sample::folderNode(
+                  u"1"_s, u"Bar"_s,
+                  {sample::bookmarkNode(u"5"_s, u"Beta mark"_s, u"https://betamark.example/"_s, 0)})}});
+    });
+}
+
+void LibraryHome::addFirefox(const QString &folder)
+{
+    change([&] {
+        const QString data = home.path(folder);
+        sample::writeFirefoxProfiles(data % u"/profiles.ini",
+                                     {{.name = u"default"_s, .path = u"abc.default"_s}});
+        sample::writeFirefoxPlaces(
+            data % u"/abc.default/places.sqlite",
+            {sample::FirefoxPage{.url = u"https://fox.example/"_s,
+                                 .title = u"Fox"_s,
+                                 .lastVisitDate = sample::firefoxTime(newest + 40)}},
+            sample::firefoxBookmarkRows(
+                {.toolbar = {sample::firefoxBookmark(u"Kept"_s, u"https://kept.example/"_s, 1)}}));
     });
 }
 

@@ -50,6 +50,11 @@ class LibraryHome : public ::testing::Test
 protected:
     /// 2026-05-09 06:13:20 UTC, in seconds since 1970.
     static constexpr qint64 newest = 1'778'307'200;
+    /// The data folders of installations of Firefox, seen from the home.
+    inline static const QString nativeFirefox = QStringLiteral(".mozilla/firefox");
+    inline static const QString snapFirefox = QStringLiteral("snap/firefox/common/.mozilla/firefox");
+    inline static const QString flatpakFirefox =
+        QStringLiteral(".var/app/org.mozilla.firefox/.mozilla/firefox");
 
     void TearDown() override;
 
@@ -65,6 +70,10 @@ protected:
 
     /// Chrome with the profiles Default ("Personal") and Profile 1 ("Work"), Edge with Default ("Office").
     void addChromium();
+    /// Chrome's beta with the profile Default ("Trial"), one page and one bookmark.
+    void addChromeBeta();
+    /// A Firefox in this data folder with the profile abc.default ("default"), one page and one bookmark.
+    void addFirefox(const QString &folder = nativeFirefox);
     /// Safari with one page, one bookmark and one icon.
     void addSafari();
     /// The named Safari profile "Travel" with the identifier "T", one page, and no bookmarks of its own.
@@ -77,10 +86,15 @@ protected:
     {
         return home.path(u"Library/Application Support/Google/Chrome/" % file);
     }
+    QString chromeBetaFile(const QString &file) const
+    {
+        return home.path(u".config/google-chrome-beta/" % file);
+    }
     QString edgeFile(const QString &file) const
     {
         return home.path(u"Library/Application Support/Microsoft Edge/" % file);
     }
+    QString firefoxFile(const QString &file) const { return home.path(nativeFirefox % u'/' % file); }
     QString safariFile(const QString &file) const { return home.path(u"Library/Safari/" % file); }
     QString safariContainerFile(const QString &file) const
     {

@@ -318,6 +318,29 @@ TEST_F(ExportPanelTest, SuggestsANameAnExtensionAndAType)
     EXPECT_EQ(activation.timesInFront, 2);
 }
 
+TEST_F(ExportPanelTest, aFileIsNamedAfterTheBrowserAndNotAfterItsInstallation)
+{
+    addChromeBeta();
+    addFirefox(snapFirefox);
+    loadNow(library);
+    open({u"chrome@beta/Default"_s});
+    EXPECT_EQ(choices(),
+              (QStringList{u"All Browsers (6)"_s, u"Chrome - Personal (1)"_s, u"Chrome - Work (3)"_s,
+                           u"Chrome Beta - Trial (1)"_s, u"Firefox - default (1)"_s}));
+    EXPECT_EQ(sources().currentText(), u"Chrome Beta - Trial (1)");
+    exportNow();
+    ASSERT_EQ(savePanel.requests.size(), 1);
+    EXPECT_EQ(savePanel.requests.last().name, u"Chrome Trial Bookmarks");
+    sources().setCurrentIndex(4);
+    format(u"csv"_s).click();
+    savePanel.chosenPath = path(u"file.csv"_s);
+    exportNow();
+    EXPECT_EQ(savePanel.requests.last().name, u"Firefox default Bookmarks");
+    EXPECT_TRUE(
+        content(u"file.csv"_s).contains("\r\nFirefox,default,Bookmarks Toolbar,Kept,https://kept.example/,"))
+        << content(u"file.csv"_s).constData();
+}
+
 TEST_F(ExportPanelTest, CancellingTheSavePanelLeavesTheSheetOpen)
 {
     open({work});

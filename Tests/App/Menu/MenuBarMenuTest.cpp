@@ -183,10 +183,27 @@ TEST_F(MenuBarMenuTest, APageOpensInTheBrowserAndProfileThatItCameFrom)
     for (const int row : {0, 1, 2})
         choose(recent(), *recent().actions().at(row));
     EXPECT_EQ(workspace.requests,
-              (QList<QStringList>{
-                  {u"profile"_s, u"chrome"_s, u"Profile 1"_s, u"https://b1.example/"_s},
-                  {u"profile"_s, u"edge"_s, u"Default"_s, u"https://edge.example/"_s},
-                  {u"open"_s, u"safari"_s, u"https://s.example/"_s}}));
+              (QList<QStringList>{{u"profile"_s, u"chrome"_s, u"Profile 1"_s, u"https://b1.example/"_s},
+                                  {u"profile"_s, u"edge"_s, u"Default"_s, u"https://edge.example/"_s},
+                                  {u"open"_s, u"safari"_s, u"https://s.example/"_s}}));
+}
+
+TEST_F(MenuBarMenuTest, aPageOpensInTheInstallationThatItCameFrom)
+{
+    workspace.icons = {{u"chrome"_s, Qt::green}, {u"firefox"_s, Qt::red}};
+    addChromium();
+    addChromeBeta();
+    addFirefox(snapFirefox);
+    loadNow(library);
+    EXPECT_EQ(recentTitles(), (QStringList{u"b1"_s, u"e1"_s, u"Fox"_s, u"Beta"_s, u"a1"_s, u"a2"_s}));
+    const QIcon ofFirefox = recent().actions().at(2)->icon();
+    EXPECT_EQ(ofFirefox.pixmap(16).toImage().pixelColor(8, 8), QColor(Qt::red));
+    for (const int row : {2, 3})
+        choose(recent(), *recent().actions().at(row));
+    EXPECT_EQ(
+        workspace.requests,
+        (QList<QStringList>{{u"profile"_s, u"firefox@snap"_s, u"abc.default"_s, u"https://fox.example/"_s},
+                            {u"profile"_s, u"chrome@beta"_s, u"Default"_s, u"https://beta.example/"_s}}));
 }
 
 TEST_F(MenuBarMenuTest, WhileItIsOpenItDoesNotChange)

@@ -102,6 +102,37 @@ TEST_F(BrowserProfileSettingsTest, ASwitchTurnsItsProfileOffAndOnAgain)
     ASSERT_TRUE(waitUntil([this] { return !library.isLoading(); }));
 }
 
+TEST_F(BrowserProfileSettingsTest, anInstallationIsSwitchedAndMovedByItself)
+{
+    addChromeBeta();
+    addFirefox(snapFirefox);
+    loadNow(library);
+    EXPECT_EQ(labels(), (QStringList{all[0], all[1], all[2], all[3], u"Chrome Beta - Trial"_s, all[4],
+                                     u"Firefox - default"_s}));
+    list().scrollTo(row(6));
+    clickSwitch(6);
+    EXPECT_EQ(home.defaults.stringList(u"disabledProfiles"_s), QStringList{u"firefox@snap/abc.default"_s});
+    ASSERT_TRUE(waitUntil([this] { return !library.isLoading(); }));
+    list().setFocus();
+    list().setCurrentIndex(row(6));
+    QTest::keyClick(&list(), Qt::Key_Up, Qt::AltModifier);
+    const QStringList moved{u"safari"_s,
+                            u"safari/T"_s,
+                            u"chrome/Default"_s,
+                            u"chrome/Profile 1"_s,
+                            u"chrome@beta/Default"_s,
+                            u"firefox@snap/abc.default"_s,
+                            u"edge/Default"_s};
+    EXPECT_EQ(home.defaults.stringList(u"sourceOrder"_s), moved);
+    // Another Firefox comes: it is on, and the first one is where it was, and off.
+    addFirefox();
+    loadNow(library);
+    EXPECT_EQ(labels(), (QStringList{all[0], all[1], all[2], all[3], u"Chrome Beta - Trial"_s,
+                                     u"Firefox (Snap) - default"_s, all[4], u"Firefox - default"_s}));
+    EXPECT_FALSE(isOn(5));
+    EXPECT_TRUE(isOn(7));
+}
+
 TEST_F(BrowserProfileSettingsTest, OnlyTheSwitchTurnsIt)
 {
     QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, center(2));

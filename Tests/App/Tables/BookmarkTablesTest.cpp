@@ -250,8 +250,8 @@ TEST_F(BookmarkTreeTest, ReturnOpensAFolderInPlaceAndALinkInItsBrowser)
     EXPECT_TRUE(workspace.requests.isEmpty());
     press(table, Qt::Key_Down);
     press(table, Qt::Key_Return);
-    EXPECT_EQ(workspace.requests.value(0), (QStringList{u"profile"_s, u"chrome"_s, u"Default"_s,
-                                                        u"https://food.example/pie"_s}));
+    EXPECT_EQ(workspace.requests.value(0),
+              (QStringList{u"profile"_s, u"chrome"_s, u"Default"_s, u"https://food.example/pie"_s}));
 }
 
 TEST_F(BookmarkTreeTest, AFolderThatClosesDeselectsWhatItHides)
@@ -272,6 +272,19 @@ TEST_F(BookmarkTreeTest, AFolderHasAMenuOfItsOwn)
     show(table, {.sourceID = u"chrome/Default"_s});
     rightClick(table, u"Food"_s);
     EXPECT_EQ(entries(menu(table, u"linkMenu"_s)), QStringList{u"Edit Chrome Bookmarks"_s});
+}
+
+TEST_F(BookmarkTreeTest, aFolderOfFirefoxIsEditedWithoutNamingIt)
+{
+    addFirefox(snapFirefox);
+    loadNow(*library);
+    BookmarkTree table(services());
+    show(table, {.sourceID = u"firefox@snap/abc.default"_s});
+    EXPECT_EQ(titles(table), "Bookmarks Toolbar Kept");
+    rightClick(table, u"Bookmarks Toolbar"_s);
+    choose(table, u"linkMenu"_s, u"Edit Firefox Bookmarks"_s);
+    EXPECT_EQ(workspace.requests.value(0), (QStringList{u"page"_s, u"firefox@snap"_s, u"abc.default"_s,
+                                                        u"chrome://browser/content/places/places.xhtml"_s}));
 }
 
 TEST_F(BookmarkTreeTest, ASearchChangesNothing)

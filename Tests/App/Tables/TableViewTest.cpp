@@ -156,8 +156,37 @@ TEST_F(TableViewTest, TheHistoryPageOpensInItsProfile)
     show(table);
     rightClick(table, u"w"_s);
     choose(table, u"linkMenu"_s, u"Show Chrome History"_s);
+    EXPECT_EQ(requested(0), (QStringList{u"page"_s, u"chrome"_s, u"Profile 1"_s, u"chrome://history/"_s}));
+}
+
+TEST_F(TableViewTest, aLinkOpensInTheInstallationThatItCameFrom)
+{
+    workspace.icons = {{u"chrome"_s, Qt::green}, {u"firefox"_s, Qt::red}};
+    addChromeBeta();
+    addFirefox(snapFirefox);
+    loadNow(*library);
+    show(table);
+    rightClick(table, u"Beta"_s);
+    EXPECT_EQ(entries(menu(table, u"linkMenu"_s)),
+              (QStringList{u"Show Chrome History"_s, u"-"_s, u"Open in Chrome"_s, u"Open in Firefox"_s,
+                           u"-"_s, u"Copy URL"_s, u"-"_s, u"Show Only beta.example"_s}));
+    choose(table, u"linkMenu"_s, u"Open in Chrome"_s);
     EXPECT_EQ(requested(0),
-              (QStringList{u"page"_s, u"chrome"_s, u"Profile 1"_s, u"chrome://history/"_s}));
+              (QStringList{u"profile"_s, u"chrome@beta"_s, u"Default"_s, u"https://beta.example/"_s}));
+    rightClick(table, u"Beta"_s);
+    choose(table, u"linkMenu"_s, u"Show Chrome History"_s);
+    EXPECT_EQ(requested(1), (QStringList{u"page"_s, u"chrome@beta"_s, u"Default"_s, u"chrome://history/"_s}));
+    rightClick(table, u"Fox"_s);
+    EXPECT_EQ(entries(menu(table, u"linkMenu"_s)),
+              (QStringList{u"Show Firefox History"_s, u"-"_s, u"Open in Firefox"_s, u"Open in Chrome"_s,
+                           u"-"_s, u"Copy URL"_s, u"-"_s, u"Show Only fox.example"_s}));
+    choose(table, u"linkMenu"_s, u"Open in Firefox"_s);
+    EXPECT_EQ(requested(2),
+              (QStringList{u"profile"_s, u"firefox@snap"_s, u"abc.default"_s, u"https://fox.example/"_s}));
+    rightClick(table, u"Fox"_s);
+    choose(table, u"linkMenu"_s, u"Open in Chrome"_s);
+    EXPECT_EQ(requested(3), (QStringList{u"open"_s, u"chrome"_s, u"https://fox.example/"_s}))
+        << "the chosen browser itself decides which installation that is";
 }
 
 TEST_F(TableViewTest, ThereIsNoMenuForHeadingsAndEmptySpace)

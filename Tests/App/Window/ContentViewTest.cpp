@@ -52,6 +52,18 @@ protected:
         }
         return {};
     }
+    /// What is said where no table is seen: a heading, and a text below it.
+    static QStringList shownTexts(const ContentView &content)
+    {
+        QStringList result;
+        for (const QString &name : {u"emptyStateTitle"_s, u"emptyStateText"_s}) {
+            for (const QLabel *label : content.findChildren<QLabel *>(name)) {
+                if (label->isVisible())
+                    result.append(label->text());
+            }
+        }
+        return result;
+    }
     static bool isShown(const ContentView &content, const QString &name)
     {
         const auto *widget = content.findChild<QWidget *>(name);
@@ -345,6 +357,9 @@ TEST_F(ContentViewTest, ofEncryptedBookmarksItSaysSoAndOffersTheirManager)
     auto *button = part<QPushButton>(*content, u"emptyStateAction"_s);
     ASSERT_TRUE(button->isVisible());
     EXPECT_EQ(button->text(), u"Edit Chrome Bookmarks");
+    EXPECT_EQ(shownTexts(*content), (QStringList{u"Bookmarks are encrypted"_s,
+                                                 u"Chrome keeps the bookmarks of this profile encrypted, "
+                                                 "so that only Chrome itself can show them."_s}));
     QTest::mouseClick(button, Qt::LeftButton);
     EXPECT_EQ(workspace.requests,
               QList<QStringList>({{u"page"_s, u"chrome"_s, u"Profile 1"_s, u"chrome://bookmarks/"_s}}));

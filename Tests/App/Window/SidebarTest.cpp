@@ -62,6 +62,31 @@ TEST_F(SidebarTest, listsAllSourcesTogetherAndThenEachOne)
     EXPECT_EQ(model.index(5).data(Qt::AccessibleTextRole), u"Chrome - Personal: History"_s);
 }
 
+TEST_F(SidebarTest, everyInstallationOfABrowserHasItsRows)
+{
+    addChromium();
+    addChromeBeta();
+    addFirefox(snapFirefox);
+    loadNow(library);
+    Sidebar sidebar(library);
+    sidebar.resize(220, 400);
+    const auto headings = [&sidebar] { return texts(*sidebar.model()).filter(u"["_s); };
+    EXPECT_EQ(headings(),
+              (QStringList{u"[Library]"_s, u"[Chrome - Personal]"_s, u"[Chrome - Work]"_s,
+                           u"[Chrome Beta - Trial]"_s, u"[Edge - Office]"_s, u"[Firefox - default]"_s}));
+    sidebar.select(HistoryPane{u"chrome@beta/Default"_s});
+    EXPECT_EQ(sidebar.currentIndex().data(Qt::AccessibleTextRole), u"Chrome Beta - Trial: History"_s);
+    QTest::keyClick(&sidebar, Qt::Key_End);
+    const Pane ofFirefox = BookmarksPane{u"firefox@snap/abc.default"_s};
+    EXPECT_EQ(sidebar.pane(), ofFirefox);
+    // Another Firefox comes: from now on the first one has to be told apart, and is still the one shown.
+    addFirefox();
+    loadNow(library);
+    EXPECT_EQ(headings().last(2), (QStringList{u"[Firefox - default]"_s, u"[Firefox (Snap) - default]"_s}));
+    EXPECT_EQ(sidebar.pane(), ofFirefox);
+    EXPECT_EQ(sidebar.currentIndex().data(Qt::AccessibleTextRole), u"Firefox (Snap) - default: Bookmarks"_s);
+}
+
 TEST_F(SidebarTest, aHeadingIsShownAsItIsAndNotAsMarkUp)
 {
     addChromium();
