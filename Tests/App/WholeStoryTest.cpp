@@ -117,8 +117,8 @@ TEST_F(WholeStoryTest, aPageIsVisitedSearchedNarrowedToItsSiteOpenedAndTheBookma
         view->setCurrentIndex(view->model()->index(0, 0));
         QTest::keyClick(view, Qt::Key_Return);
     }
-    EXPECT_EQ(workspace.requests, QList<QStringList>({{u"profile"_s, u"chrome"_s, u"Default"_s,
-                                                       u"https://Fresh.example/"_s}}));
+    EXPECT_EQ(workspace.requests,
+              QList<QStringList>({{u"profile"_s, u"chrome"_s, u"Default"_s, u"https://Fresh.example/"_s}}));
 
     // And the bookmarks go into a file.
     const QTemporaryDir target;
