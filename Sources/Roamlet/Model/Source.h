@@ -40,6 +40,8 @@ struct Source {
     QString name;
     SafariBookmarks safariBookmarks;
     /// The key of the browser's installation that it belongs to; empty for the native release.
+    // The compiler wants it from whoever names only some of the members.
+    // NOLINTNEXTLINE(readability-redundant-member-init)
     QString installation = {};
     /// Whether the label tells the installation, because several of them have profiles.
     bool namesInstallation = false;
