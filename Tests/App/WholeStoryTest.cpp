@@ -308,7 +308,7 @@ TEST_F(WholeStoryTest, withoutATrayAnUpdateThatWaitsIsShownWhenTheUserComesBack)
     EXPECT_EQ(driver->checks, 1);
 }
 
-TEST(SuccessorTest, ASuccessorThatCannotBeStartedIsAFailureInTheSystemsWords)
+TEST(SuccessorTest, aSuccessorThatCannotBeStartedIsAFailureInTheSystemsWords)
 {
     ::testing::internal::CaptureStderr();
     const int status = RoamletApp::giveWayTo(u"/nonexistent/Roamlet.AppImage"_s);

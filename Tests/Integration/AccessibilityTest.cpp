@@ -120,7 +120,7 @@ protected:
     QList<AccessibleNode> nodes;
 };
 
-TEST_F(AccessibilityTest, AScreenReaderFindsNamesRowsAndCommands)
+TEST_F(AccessibilityTest, aScreenReaderFindsNamesRowsAndCommands)
 {
     ASSERT_TRUE(eventually([this](const QList<AccessibleNode> &) {
         return has(u"column header"_s, u"Last Visited"_s) && has(u"tree item"_s, u"Edge - Personal"_s);

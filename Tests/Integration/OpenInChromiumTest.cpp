@@ -190,7 +190,7 @@ protected:
     std::unique_ptr<Opener> opener;
 };
 
-TEST_F(OpenInChromiumTest, ALinkOpensInTheProfileThatItCameFrom)
+TEST_F(OpenInChromiumTest, aLinkOpensInTheProfileThatItCameFrom)
 {
     const QString url = addPage(u"Work page"_s);
     const QString otherUrl = addPage(u"Home page"_s);
@@ -206,7 +206,7 @@ TEST_F(OpenInChromiumTest, ALinkOpensInTheProfileThatItCameFrom)
     EXPECT_FALSE(hasVisited(secondProfile, otherUrl));
 }
 
-TEST_F(OpenInChromiumTest, TheHistoryPageOpensInTheProfile)
+TEST_F(OpenInChromiumTest, theHistoryPageOpensInTheProfile)
 {
     openAndAwait(u"Work page"_s, source(secondProfile));
     openAndAwait(u"Home page"_s, source(firstProfile));
@@ -216,7 +216,7 @@ TEST_F(OpenInChromiumTest, TheHistoryPageOpensInTheProfile)
     EXPECT_FALSE(showsTab(firstProfile, u"chrome://history/"_s));
 }
 
-TEST_F(OpenInChromiumTest, TheBookmarkManagerOpensAtTheFolder)
+TEST_F(OpenInChromiumTest, theBookmarkManagerOpensAtTheFolder)
 {
     place(u"Profile 1/Bookmarks"_s, R"({"version":1,"roots":{
         "bookmark_bar":{"id":"1","name":"Bookmarks bar","type":"folder","children":[
@@ -235,7 +235,7 @@ TEST_F(OpenInChromiumTest, TheBookmarkManagerOpensAtTheFolder)
     EXPECT_TRUE(waitUntil([&] { return showsTab(secondProfile, page); })) << page.toStdString();
 }
 
-TEST_F(OpenInChromiumTest, PagesOpenOneAfterTheOther)
+TEST_F(OpenInChromiumTest, pagesOpenOneAfterTheOther)
 {
     openAndAwait(u"Work page"_s, source(secondProfile));
     opener->showHistory(source(secondProfile));
@@ -247,7 +247,7 @@ TEST_F(OpenInChromiumTest, PagesOpenOneAfterTheOther)
     }));
 }
 
-TEST_F(OpenInChromiumTest, WhereNoBlankTabComesNothingHappens)
+TEST_F(OpenInChromiumTest, whereNoBlankTabComesNothingHappens)
 {
     openAndAwait(u"Work page"_s, source(secondProfile));
     // A browser that shows something else, as one does that a policy forbids blank tabs.
@@ -264,7 +264,7 @@ TEST_F(OpenInChromiumTest, WhereNoBlankTabComesNothingHappens)
     EXPECT_FALSE(showsTab(secondProfile, u"chrome://history/"_s));
 }
 
-TEST_F(OpenInChromiumTest, AProfileThatWasDeletedDoesNotComeBack)
+TEST_F(OpenInChromiumTest, aProfileThatWasDeletedDoesNotComeBack)
 {
     Source deleted = source(secondProfile);
     deleted.profile = u"Profile 7"_s;

@@ -140,7 +140,7 @@ void RealBrowserBookmarksTest::keepBookmarks()
 
 } // namespace
 
-TEST_F(RealBrowserBookmarksTest, BookmarksAreReadAsTheBrowserShowsThem)
+TEST_F(RealBrowserBookmarksTest, bookmarksAreReadAsTheBrowserShowsThem)
 {
     keepBookmarks();
     ASSERT_FALSE(HasFatalFailure());
@@ -152,7 +152,7 @@ TEST_F(RealBrowserBookmarksTest, BookmarksAreReadAsTheBrowserShowsThem)
     });
 }
 
-TEST_F(RealBrowserBookmarksTest, ExportedBookmarksComeBackWhenTheBrowserImportsThem)
+TEST_F(RealBrowserBookmarksTest, exportedBookmarksComeBackWhenTheBrowserImportsThem)
 {
     if (!HeadlessBrowser::canImport())
         GTEST_SKIP() << "This machine does not let a process cover a folder, so no import could be tried.";

@@ -250,7 +250,7 @@ bool RealBrowserHistoryTest::isWritten(const QString &profile, const BrowsingLog
 
 } // namespace
 
-TEST_F(RealBrowserHistoryTest, WhatWasVisitedIsReadWhileTheBrowserRunsAndAfterItEnded)
+TEST_F(RealBrowserHistoryTest, whatWasVisitedIsReadWhileTheBrowserRunsAndAfterItEnded)
 {
     ASSERT_TRUE(server.isListening());
     place(u"Profile 1/Preferences"_s, QString(u"{\"profile\": {\"name\": \"" % workName % u"\"}}").toUtf8());

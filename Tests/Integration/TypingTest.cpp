@@ -128,7 +128,7 @@ protected:
     std::unique_ptr<XdoBrowserWindows> windows;
 };
 
-TEST_F(TypingTest, NothingIsTypedOnAKeyboardWithoutLatinLetters)
+TEST_F(TypingTest, nothingIsTypedOnAKeyboardWithoutLatinLetters)
 {
     for (const QString &layout : {u"ru"_s, u"gr"_s, u"il"_s, u"ara"_s})
         EXPECT_FALSE(canSteerWith(layout)) << layout.toStdString();
@@ -136,7 +136,7 @@ TEST_F(TypingTest, NothingIsTypedOnAKeyboardWithoutLatinLetters)
         EXPECT_TRUE(canSteerWith(layout)) << layout.toStdString();
 }
 
-TEST_F(TypingTest, CapsLockStaysOnAndChangesNoText)
+TEST_F(TypingTest, capsLockStaysOnAndChangesNoText)
 {
     ASSERT_TRUE(canSteerWith(u"us"_s));
     TypedInto window(screen.display());

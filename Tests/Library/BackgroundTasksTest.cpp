@@ -21,7 +21,7 @@ namespace roamlet::testing
 namespace
 {
 
-TEST(BackgroundTasksTest, WorkRunsElsewhereAndItsResultComesBackHere)
+TEST(BackgroundTasksTest, workRunsElsewhereAndItsResultComesBackHere)
 {
     BackgroundTasks tasks;
     QObject context;
@@ -39,7 +39,7 @@ TEST(BackgroundTasksTest, WorkRunsElsewhereAndItsResultComesBackHere)
     EXPECT_EQ(delivered, 2);
 }
 
-TEST(BackgroundTasksTest, AResultThatCanOnlyBeMovedArrives)
+TEST(BackgroundTasksTest, aResultThatCanOnlyBeMovedArrives)
 {
     BackgroundTasks tasks;
     QObject context;
@@ -51,7 +51,7 @@ TEST(BackgroundTasksTest, AResultThatCanOnlyBeMovedArrives)
     EXPECT_EQ(*delivered, 5);
 }
 
-TEST(BackgroundTasksTest, NothingIsDeliveredToWhoIsGoneOrHasStopped)
+TEST(BackgroundTasksTest, nothingIsDeliveredToWhoIsGoneOrHasStopped)
 {
     std::counting_semaphore<> ended(0);
     BackgroundTasks tasks;
@@ -76,7 +76,7 @@ TEST(BackgroundTasksTest, NothingIsDeliveredToWhoIsGoneOrHasStopped)
     EXPECT_EQ(deliveries, 1);
 }
 
-TEST(BackgroundTasksTest, AStopReachesOnlyTheWorkThatItIsFor)
+TEST(BackgroundTasksTest, aStopReachesOnlyTheWorkThatItIsFor)
 {
     std::binary_semaphore mayLook(0);
     BackgroundTasks tasks;
@@ -97,7 +97,7 @@ TEST(BackgroundTasksTest, AStopReachesOnlyTheWorkThatItIsFor)
     EXPECT_EQ(sawStop, false);
 }
 
-TEST(BackgroundTasksTest, WhatEndedIsNotDeliveredAfterGoing)
+TEST(BackgroundTasksTest, whatEndedIsNotDeliveredAfterGoing)
 {
     QObject context;
     {
@@ -115,7 +115,7 @@ TEST(BackgroundTasksTest, WhatEndedIsNotDeliveredAfterGoing)
     QCoreApplication::processEvents();
 }
 
-TEST(BackgroundTasksTest, GoingAsksAllWorkToStopAndWaitsForIt)
+TEST(BackgroundTasksTest, goingAsksAllWorkToStopAndWaitsForIt)
 {
     std::atomic<int> ended = 0;
     QObject context;
@@ -140,7 +140,7 @@ TEST(BackgroundTasksTest, GoingAsksAllWorkToStopAndWaitsForIt)
     EXPECT_EQ(ended, 3);
 }
 
-TEST(BackgroundTasksTest, ADeliveryMayDestroyWhatRanTheWork)
+TEST(BackgroundTasksTest, aDeliveryMayDestroyWhatRanTheWork)
 {
     auto tasks = std::make_unique<BackgroundTasks>();
     QObject context;

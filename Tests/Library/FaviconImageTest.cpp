@@ -54,14 +54,14 @@ protected:
     TestHome home;
 };
 
-TEST_F(FaviconImageTest, AnIconKeepsItsSizeAndColours)
+TEST_F(FaviconImageTest, anIconKeepsItsSizeAndColours)
 {
     const QImage image = decode(png(32, QColor(1, 2, 3)));
     EXPECT_EQ(image.size(), QSize(32, 32));
     EXPECT_EQ(image.pixelColor(5, 5), QColor(1, 2, 3));
 }
 
-TEST_F(FaviconImageTest, ALargeIconIsScaledDownAndKeepsItsShape)
+TEST_F(FaviconImageTest, aLargeIconIsScaledDownAndKeepsItsShape)
 {
     EXPECT_EQ(decode(png(64, Qt::red)).size(), QSize(64, 64));
     EXPECT_EQ(decode(png(65, Qt::red)).size(), QSize(64, 64));
@@ -71,20 +71,20 @@ TEST_F(FaviconImageTest, ALargeIconIsScaledDownAndKeepsItsShape)
     EXPECT_EQ(decode(encoded(2048, 1, "PNG")).size(), QSize(64, 1)) << "a line stays a line";
 }
 
-TEST_F(FaviconImageTest, WhatIsClearStaysClear)
+TEST_F(FaviconImageTest, whatIsClearStaysClear)
 {
     EXPECT_EQ(decode(png(16, QColor(0, 0, 0, 0))).pixelColor(0, 0).alpha(), 0);
     EXPECT_EQ(decode(png(128, QColor(0, 0, 0, 0))).pixelColor(0, 0).alpha(), 0);
 }
 
-TEST_F(FaviconImageTest, TheUsualFormatsAreKnown)
+TEST_F(FaviconImageTest, theUsualFormatsAreKnown)
 {
     for (const char *format : {"PNG", "JPEG", "BMP"})
         EXPECT_EQ(decode(encoded(20, 10, format)).size(), QSize(20, 10)) << format;
     EXPECT_EQ(decode(ico(32, 32, png(32, Qt::blue))).pixelColor(9, 9), QColor(Qt::blue));
 }
 
-TEST_F(FaviconImageTest, OtherFormatsAreRefused)
+TEST_F(FaviconImageTest, otherFormatsAreRefused)
 {
     for (const char *format : {"XPM", "XBM", "PPM"}) {
         const QByteArray bytes = encoded(16, 16, format);
@@ -93,7 +93,7 @@ TEST_F(FaviconImageTest, OtherFormatsAreRefused)
     }
 }
 
-TEST_F(FaviconImageTest, AFileThatIsTooLargeIsNotDecoded)
+TEST_F(FaviconImageTest, aFileThatIsTooLargeIsNotDecoded)
 {
     constexpr qsizetype limit = 8LL * 1024 * 1024;
     QByteArray bytes = png(16, Qt::red);
@@ -103,7 +103,7 @@ TEST_F(FaviconImageTest, AFileThatIsTooLargeIsNotDecoded)
     EXPECT_TRUE(decode(bytes).isNull());
 }
 
-TEST_F(FaviconImageTest, WhatClaimsToBeHugeIsNotDecoded)
+TEST_F(FaviconImageTest, whatClaimsToBeHugeIsNotDecoded)
 {
     EXPECT_FALSE(decode(png(2048, Qt::red)).isNull());
     EXPECT_TRUE(decode(encoded(2049, 1, "PNG")).isNull());
@@ -113,12 +113,12 @@ TEST_F(FaviconImageTest, WhatClaimsToBeHugeIsNotDecoded)
     EXPECT_TRUE(decode(lying).isNull());
 }
 
-TEST_F(FaviconImageTest, AnIconThatSaysItIsSmallMayNotHoldAHugePicture)
+TEST_F(FaviconImageTest, anIconThatSaysItIsSmallMayNotHoldAHugePicture)
 {
     EXPECT_TRUE(decode(ico(16, 16, png(2049, Qt::red))).isNull());
 }
 
-TEST_F(FaviconImageTest, BrokenBytesAreNoIcon)
+TEST_F(FaviconImageTest, brokenBytesAreNoIcon)
 {
     const QByteArray whole = png(16, Qt::red);
     EXPECT_TRUE(decode({}).isNull());
@@ -136,14 +136,14 @@ TEST_F(FaviconImageTest, BrokenBytesAreNoIcon)
     }
 }
 
-TEST_F(FaviconImageTest, DrawingsAreRefused)
+TEST_F(FaviconImageTest, drawingsAreRefused)
 {
     EXPECT_TRUE(decode("<svg xmlns='http://www.w3.org/2000/svg' width='16' height='16'><rect width='16' "
                        "height='16'/></svg>")
                     .isNull());
 }
 
-TEST_F(FaviconImageTest, OfAnAnimationTheFirstPictureCounts)
+TEST_F(FaviconImageTest, ofAnAnimationTheFirstPictureCounts)
 {
     // Two pictures of one pixel each, the first one red, the second one blue.
     const QByteArray animation =
@@ -156,7 +156,7 @@ TEST_F(FaviconImageTest, OfAnAnimationTheFirstPictureCounts)
     EXPECT_EQ(image.pixelColor(0, 0), QColor(Qt::red));
 }
 
-TEST_F(FaviconImageTest, AFileIsReadFromDisk)
+TEST_F(FaviconImageTest, aFileIsReadFromDisk)
 {
     const QString file = home.path(u"icon.png"_s);
     sample::writeFile(file, png(16, Qt::blue));

@@ -23,7 +23,7 @@ protected:
     }
 };
 
-TEST_F(LibraryIconsTest, IconsThatCannotBeReadOrAreRefusedAreKeptWithoutAWord)
+TEST_F(LibraryIconsTest, iconsThatCannotBeReadOrAreRefusedAreKeptWithoutAWord)
 {
     addChromium();
     addSafari();
@@ -45,7 +45,7 @@ TEST_F(LibraryIconsTest, IconsThatCannotBeReadOrAreRefusedAreKeptWithoutAWord)
     EXPECT_TRUE(home.clock.sleeps().empty());
 }
 
-TEST_F(LibraryIconsTest, ABrokenIconDatabaseIsNoProblem)
+TEST_F(LibraryIconsTest, aBrokenIconDatabaseIsNoProblem)
 {
     addChromium();
     change([this] { sample::writeFile(chromeFile(u"Default/Favicons"_s), QByteArray(5000, 'x')); });
@@ -56,7 +56,7 @@ TEST_F(LibraryIconsTest, ABrokenIconDatabaseIsNoProblem)
     EXPECT_TRUE(home.clock.sleeps().empty());
 }
 
-TEST_F(LibraryIconsTest, TheFirstSourcesIconOfASiteWins)
+TEST_F(LibraryIconsTest, theFirstSourcesIconOfASiteWins)
 {
     addChromium();
     addSafari();
@@ -69,7 +69,7 @@ TEST_F(LibraryIconsTest, TheFirstSourcesIconOfASiteWins)
               Favicon(FaviconData{png(16, Qt::blue)}));
 }
 
-TEST_F(LibraryIconsTest, TheUsersOrderDoesNotDecideWhoseIconWins)
+TEST_F(LibraryIconsTest, theUsersOrderDoesNotDecideWhoseIconWins)
 {
     addChromium();
     home.defaults.setStringList(u"sourceOrder"_s, {u"chrome/Profile 1"_s, u"chrome/Default"_s});
@@ -84,7 +84,7 @@ TEST_F(LibraryIconsTest, TheUsersOrderDoesNotDecideWhoseIconWins)
               Favicon(FaviconData{png(16, Qt::blue)}));
 }
 
-TEST_F(LibraryIconsTest, OfSafariTheDefaultProfileAloneHasIcons)
+TEST_F(LibraryIconsTest, ofSafariTheDefaultProfileAloneHasIcons)
 {
     addSafari();
     addSafariProfile();
@@ -94,7 +94,7 @@ TEST_F(LibraryIconsTest, OfSafariTheDefaultProfileAloneHasIcons)
     EXPECT_TRUE(library.snapshot().sourceFavicons.value(u"safari/T"_s).isEmpty());
 }
 
-TEST_F(LibraryIconsTest, AnIconIsDecodedOnceForEachGeneration)
+TEST_F(LibraryIconsTest, anIconIsDecodedOnceForEachGeneration)
 {
     addChromium();
     setChromeIcon(u"Default"_s, u"https://icon.example/"_s, png(16, Qt::red));
@@ -111,7 +111,7 @@ TEST_F(LibraryIconsTest, AnIconIsDecodedOnceForEachGeneration)
     EXPECT_NE(library.favicon(u"icon.example"_s)->cacheKey(), image->cacheKey());
 }
 
-TEST_F(LibraryIconsTest, AnIconThatCouldNotBeDecodedIsNotTriedAgainInItsGeneration)
+TEST_F(LibraryIconsTest, anIconThatCouldNotBeDecodedIsNotTriedAgainInItsGeneration)
 {
     addSafari();
     Library library(home.platform());
@@ -127,7 +127,7 @@ TEST_F(LibraryIconsTest, AnIconThatCouldNotBeDecodedIsNotTriedAgainInItsGenerati
     EXPECT_EQ(image->pixelColor(0, 0), QColor(Qt::blue));
 }
 
-TEST_F(LibraryIconsTest, AnIconFileIsReadOnceForEachGeneration)
+TEST_F(LibraryIconsTest, anIconFileIsReadOnceForEachGeneration)
 {
     addSafari();
     Library library(home.platform());
@@ -140,7 +140,7 @@ TEST_F(LibraryIconsTest, AnIconFileIsReadOnceForEachGeneration)
     EXPECT_EQ(library.favicon(u"shared.example"_s), std::nullopt);
 }
 
-TEST_F(LibraryIconsTest, WhoHearsOfANewSnapshotGetsItsIcons)
+TEST_F(LibraryIconsTest, whoHearsOfANewSnapshotGetsItsIcons)
 {
     addChromium();
     setChromeIcon(u"Default"_s, u"https://icon.example/"_s, png(16, Qt::red));

@@ -41,7 +41,7 @@ protected:
     }
 };
 
-TEST_F(LibraryLoadTest, AnEmptyHomeLoadsAnEmptySnapshot)
+TEST_F(LibraryLoadTest, anEmptyHomeLoadsAnEmptySnapshot)
 {
     Library library(home.platform());
     EXPECT_EQ(library.snapshot(), Library::Snapshot());
@@ -54,7 +54,7 @@ TEST_F(LibraryLoadTest, AnEmptyHomeLoadsAnEmptySnapshot)
     EXPECT_TRUE(home.clock.sleeps().empty());
 }
 
-TEST_F(LibraryLoadTest, EverythingIsReadInDiscoveryOrder)
+TEST_F(LibraryLoadTest, everythingIsReadInDiscoveryOrder)
 {
     addChromium();
     addSafari();
@@ -74,7 +74,7 @@ TEST_F(LibraryLoadTest, EverythingIsReadInDiscoveryOrder)
     EXPECT_FALSE(snapshot.safariBlocked);
 }
 
-TEST_F(LibraryLoadTest, TheUsersOrderDoesNotChangeTheSnapshots)
+TEST_F(LibraryLoadTest, theUsersOrderDoesNotChangeTheSnapshots)
 {
     addChromium();
     home.defaults.setStringList(u"sourceOrder"_s, {u"edge/Default"_s, u"chrome/Profile 1"_s});
@@ -85,7 +85,7 @@ TEST_F(LibraryLoadTest, TheUsersOrderDoesNotChangeTheSnapshots)
     EXPECT_EQ(titles(library.snapshot().history), (QStringList{u"a1"_s, u"a2"_s, u"b1"_s, u"e1"_s}));
 }
 
-TEST_F(LibraryLoadTest, SignalsTellOfEachChangeOnce)
+TEST_F(LibraryLoadTest, signalsTellOfEachChangeOnce)
 {
     addChromium();
     Library library(home.platform());
@@ -104,7 +104,7 @@ TEST_F(LibraryLoadTest, SignalsTellOfEachChangeOnce)
     EXPECT_EQ(recent.count(), 1);
 }
 
-TEST_F(LibraryLoadTest, WhoHearsOfASnapshotFindsItsGenerationAndALoadThatRuns)
+TEST_F(LibraryLoadTest, whoHearsOfASnapshotFindsItsGenerationAndALoadThatRuns)
 {
     addChromium();
     Library library(home.platform());
@@ -121,7 +121,7 @@ TEST_F(LibraryLoadTest, WhoHearsOfASnapshotFindsItsGenerationAndALoadThatRuns)
     EXPECT_EQ(generations, (QList<int>{1, 2}));
 }
 
-TEST_F(LibraryLoadTest, ALoadWasFinishedWhenItsLastPassEnded)
+TEST_F(LibraryLoadTest, aLoadWasFinishedWhenItsLastPassEnded)
 {
     addChromium();
     Gate gate;
@@ -135,7 +135,7 @@ TEST_F(LibraryLoadTest, ALoadWasFinishedWhenItsLastPassEnded)
     EXPECT_EQ(library.lastLoaded(), pointInTime(newest + 7));
 }
 
-TEST_F(LibraryLoadTest, RequestsDuringALoadAreOneFurtherPassOfJustThese)
+TEST_F(LibraryLoadTest, requestsDuringALoadAreOneFurtherPassOfJustThese)
 {
     addChromium();
     Gate gate;
@@ -155,7 +155,7 @@ TEST_F(LibraryLoadTest, RequestsDuringALoadAreOneFurtherPassOfJustThese)
                                         u"edge/Default"_s, u"edge/Default"_s}));
 }
 
-TEST_F(LibraryLoadTest, AFullRequestWinsOverPartialOnes)
+TEST_F(LibraryLoadTest, aFullRequestWinsOverPartialOnes)
 {
     addChromium();
     Library library(home.platform());
@@ -174,7 +174,7 @@ TEST_F(LibraryLoadTest, AFullRequestWinsOverPartialOnes)
                                         u"edge/Default"_s}));
 }
 
-TEST_F(LibraryLoadTest, ARequestFromWhoHearsOfASnapshotIsAFurtherPass)
+TEST_F(LibraryLoadTest, aRequestFromWhoHearsOfASnapshotIsAFurtherPass)
 {
     addChromium();
     Library library(home.platform());
@@ -189,7 +189,7 @@ TEST_F(LibraryLoadTest, ARequestFromWhoHearsOfASnapshotIsAFurtherPass)
                                         u"edge/Default"_s}));
 }
 
-TEST_F(LibraryLoadTest, ARequestFromWhoHearsOfTheEndStartsAnew)
+TEST_F(LibraryLoadTest, aRequestFromWhoHearsOfTheEndStartsAnew)
 {
     addChromium();
     Library library(home.platform());
@@ -201,7 +201,7 @@ TEST_F(LibraryLoadTest, ARequestFromWhoHearsOfTheEndStartsAnew)
     ASSERT_TRUE(waitUntil([&library] { return library.generation() == 2 && !library.isLoading(); }));
 }
 
-TEST_F(LibraryLoadTest, ARequestForNothingReadsNothing)
+TEST_F(LibraryLoadTest, aRequestForNothingReadsNothing)
 {
     addChromium();
     Library library(home.platform());
@@ -217,7 +217,7 @@ TEST_F(LibraryLoadTest, ARequestForNothingReadsNothing)
     EXPECT_EQ(takeReads(), QStringList());
 }
 
-TEST_F(LibraryLoadTest, APartialLoadReadsOnlyWhatWasAskedForAndWhatIsNew)
+TEST_F(LibraryLoadTest, aPartialLoadReadsOnlyWhatWasAskedForAndWhatIsNew)
 {
     addChromium();
     addSafari();
@@ -235,7 +235,7 @@ TEST_F(LibraryLoadTest, APartialLoadReadsOnlyWhatWasAskedForAndWhatIsNew)
     EXPECT_EQ(library.snapshot().favicons.size(), 1);
 }
 
-TEST_F(LibraryLoadTest, APartialLoadOfAnUnknownSourceTakesOverEverything)
+TEST_F(LibraryLoadTest, aPartialLoadOfAnUnknownSourceTakesOverEverything)
 {
     addChromium();
     addSafari();
@@ -249,7 +249,7 @@ TEST_F(LibraryLoadTest, APartialLoadOfAnUnknownSourceTakesOverEverything)
     EXPECT_EQ(takeReads(), QStringList());
 }
 
-TEST_F(LibraryLoadTest, APartialLoadDropsWhatIsGone)
+TEST_F(LibraryLoadTest, aPartialLoadDropsWhatIsGone)
 {
     addChromium();
     Library library(home.platform());
@@ -262,7 +262,7 @@ TEST_F(LibraryLoadTest, APartialLoadDropsWhatIsGone)
     EXPECT_FALSE(library.snapshot().bookmarkTrees.contains(u"edge/Default"_s));
 }
 
-TEST_F(LibraryLoadTest, AProfileThatWasSwitchedOffBeforeIsNewToAPartialPass)
+TEST_F(LibraryLoadTest, aProfileThatWasSwitchedOffBeforeIsNewToAPartialPass)
 {
     addChromium();
     const ReadContext context = Library::readContext(home.platform());
@@ -278,7 +278,7 @@ TEST_F(LibraryLoadTest, AProfileThatWasSwitchedOffBeforeIsNewToAPartialPass)
     EXPECT_EQ(titles(with.history), (QStringList{u"a1"_s, u"a2"_s, u"b1"_s, u"e1"_s}));
 }
 
-TEST_F(LibraryLoadTest, SafariProfilesAreLookedForOnlyWhenAPartialLoadNeedsThem)
+TEST_F(LibraryLoadTest, safariProfilesAreLookedForOnlyWhenAPartialLoadNeedsThem)
 {
     addChromium();
     addSafari();
@@ -304,7 +304,7 @@ TEST_F(LibraryLoadTest, SafariProfilesAreLookedForOnlyWhenAPartialLoadNeedsThem)
     EXPECT_EQ(looks, 3);
 }
 
-TEST_F(LibraryLoadTest, TheFirstLoadLooksForSafariEvenWhenItIsAPartialOne)
+TEST_F(LibraryLoadTest, theFirstLoadLooksForSafariEvenWhenItIsAPartialOne)
 {
     addSafari();
     addSafariProfile();
@@ -314,7 +314,7 @@ TEST_F(LibraryLoadTest, TheFirstLoadLooksForSafariEvenWhenItIsAPartialOne)
     EXPECT_EQ(titles(library.snapshot().history), (QStringList{u"s1"_s, u"t1"_s}));
 }
 
-TEST_F(LibraryLoadTest, ASafariThatAppearsIsFoundByTheNextLoadOfAnything)
+TEST_F(LibraryLoadTest, aSafariThatAppearsIsFoundByTheNextLoadOfAnything)
 {
     addChromium();
     Library library(home.platform());
@@ -329,7 +329,7 @@ TEST_F(LibraryLoadTest, ASafariThatAppearsIsFoundByTheNextLoadOfAnything)
     EXPECT_EQ(ids(library.snapshot().sources).first(2), (QStringList{u"safari"_s, u"safari/T"_s}));
 }
 
-TEST_F(LibraryLoadTest, StartingSweepsLoadsAndWatches)
+TEST_F(LibraryLoadTest, startingSweepsLoadsAndWatches)
 {
     addChromium();
     const QString leftover = home.temporary() % u"/Roamlet-leftover";
@@ -343,7 +343,7 @@ TEST_F(LibraryLoadTest, StartingSweepsLoadsAndWatches)
     EXPECT_TRUE(home.fileEvents.watchedFolders.contains(chromeFile(u""_s).chopped(1)));
 }
 
-TEST_F(LibraryLoadTest, ALibraryThatGoesWhileItLoadsLeavesNothing)
+TEST_F(LibraryLoadTest, aLibraryThatGoesWhileItLoadsLeavesNothing)
 {
     addChromium();
     addSafari();

@@ -16,7 +16,7 @@ using namespace std::chrono_literals;
 
 using LibraryReadingTest = LibraryHome;
 
-TEST_F(LibraryReadingTest, WhatCannotBeReadIsTriedOnceMoreAfterASecondAndKeepsWhatWasKnown)
+TEST_F(LibraryReadingTest, whatCannotBeReadIsTriedOnceMoreAfterASecondAndKeepsWhatWasKnown)
 {
     addChromium();
     Library library(home.platform());
@@ -42,7 +42,7 @@ TEST_F(LibraryReadingTest, WhatCannotBeReadIsTriedOnceMoreAfterASecondAndKeepsWh
     EXPECT_TRUE(library.snapshot().problems.isEmpty());
 }
 
-TEST_F(LibraryReadingTest, WhatCouldNeverBeReadIsEmpty)
+TEST_F(LibraryReadingTest, whatCouldNeverBeReadIsEmpty)
 {
     addChromium();
     fail(chromeFile(u"Default/History"_s), std::errc::io_error);
@@ -53,7 +53,7 @@ TEST_F(LibraryReadingTest, WhatCouldNeverBeReadIsEmpty)
     EXPECT_EQ(library.snapshot().sources.size(), 3) << "a source with a problem is a source";
 }
 
-TEST_F(LibraryReadingTest, BookmarksThatCannotBeReadStayAsTheyWere)
+TEST_F(LibraryReadingTest, bookmarksThatCannotBeReadStayAsTheyWere)
 {
     addChromium();
     Library library(home.platform());
@@ -69,7 +69,7 @@ TEST_F(LibraryReadingTest, BookmarksThatCannotBeReadStayAsTheyWere)
     EXPECT_TRUE(library.snapshot().bookmarks.isEmpty()) << "what can be read replaces what was known";
 }
 
-TEST_F(LibraryReadingTest, ARetryThatSucceedsLeavesNoProblem)
+TEST_F(LibraryReadingTest, aRetryThatSucceedsLeavesNoProblem)
 {
     addChromium();
     std::atomic<int> attempts = 0;
@@ -83,7 +83,7 @@ TEST_F(LibraryReadingTest, ARetryThatSucceedsLeavesNoProblem)
     EXPECT_EQ(titles(library.snapshot().history), (QStringList{u"a1"_s, u"a2"_s, u"b1"_s, u"e1"_s}));
 }
 
-TEST_F(LibraryReadingTest, TheSecondAttemptStandsWhateverItBrings)
+TEST_F(LibraryReadingTest, theSecondAttemptStandsWhateverItBrings)
 {
     addChromium();
     Library library(home.platform());
@@ -108,7 +108,7 @@ TEST_F(LibraryReadingTest, TheSecondAttemptStandsWhateverItBrings)
     EXPECT_EQ(home.clock.sleeps().size(), 1U);
 }
 
-TEST_F(LibraryReadingTest, ASecondAttemptThatIsRefusedEmptiesThePart)
+TEST_F(LibraryReadingTest, aSecondAttemptThatIsRefusedEmptiesThePart)
 {
     addSafari();
     Library library(home.platform());
@@ -126,7 +126,7 @@ TEST_F(LibraryReadingTest, ASecondAttemptThatIsRefusedEmptiesThePart)
     EXPECT_TRUE(library.snapshot().safariBlocked);
 }
 
-TEST_F(LibraryReadingTest, EachSourceWithAFailureWaitsForItselfOnce)
+TEST_F(LibraryReadingTest, eachSourceWithAFailureWaitsForItselfOnce)
 {
     addChromium();
     home.files.failure = [](const QString &path) {
@@ -139,7 +139,7 @@ TEST_F(LibraryReadingTest, EachSourceWithAFailureWaitsForItselfOnce)
     EXPECT_EQ(library.snapshot().problems.size(), 2);
 }
 
-TEST_F(LibraryReadingTest, SeveralProblemsOfASourceAreOneLineEach)
+TEST_F(LibraryReadingTest, severalProblemsOfASourceAreOneLineEach)
 {
     addChromium();
     const QString bookmarks = chromeFile(u"Default/Bookmarks"_s);
@@ -155,7 +155,7 @@ TEST_F(LibraryReadingTest, SeveralProblemsOfASourceAreOneLineEach)
     EXPECT_EQ(lines[1], u"Couldn't read query: file is not a database"_s);
 }
 
-TEST_F(LibraryReadingTest, OfSafariTheHistoryIsReadFirst)
+TEST_F(LibraryReadingTest, ofSafariTheHistoryIsReadFirst)
 {
     addSafari();
     home.files.failure = [this](const QString &path) {
@@ -172,7 +172,7 @@ TEST_F(LibraryReadingTest, OfSafariTheHistoryIsReadFirst)
     EXPECT_FALSE(library.snapshot().safariBlocked) << "nothing was refused";
 }
 
-TEST_F(LibraryReadingTest, ARefusalEmptiesThePartAndIsNotTriedAgain)
+TEST_F(LibraryReadingTest, aRefusalEmptiesThePartAndIsNotTriedAgain)
 {
     addSafari();
     Library library(home.platform());
@@ -193,7 +193,7 @@ TEST_F(LibraryReadingTest, ARefusalEmptiesThePartAndIsNotTriedAgain)
     EXPECT_EQ(titles(library.snapshot().history), QStringList{u"s1"_s});
 }
 
-TEST_F(LibraryReadingTest, ATemporaryFolderThatRefusesBlocksNobodyAndLeavesWhatIsKnown)
+TEST_F(LibraryReadingTest, aTemporaryFolderThatRefusesBlocksNobodyAndLeavesWhatIsKnown)
 {
     addChromium();
     addSafari();
@@ -213,7 +213,7 @@ TEST_F(LibraryReadingTest, ATemporaryFolderThatRefusesBlocksNobodyAndLeavesWhatI
     EXPECT_FALSE(home.clock.sleeps().empty()) << "it may pass: it is tried again";
 }
 
-TEST_F(LibraryReadingTest, BesideARefusalAnotherFailureIsNotTriedAgainEither)
+TEST_F(LibraryReadingTest, besideARefusalAnotherFailureIsNotTriedAgainEither)
 {
     addSafari();
     Library library(home.platform());
@@ -233,7 +233,7 @@ TEST_F(LibraryReadingTest, BesideARefusalAnotherFailureIsNotTriedAgainEither)
     EXPECT_EQ(library.snapshot().problems.value(u"safari"_s).split(u'\n').size(), 2);
 }
 
-TEST_F(LibraryReadingTest, ARefusalByAnotherBrowserDoesNotBlockSafari)
+TEST_F(LibraryReadingTest, aRefusalByAnotherBrowserDoesNotBlockSafari)
 {
     addChromium();
     addSafari();
@@ -245,7 +245,7 @@ TEST_F(LibraryReadingTest, ARefusalByAnotherBrowserDoesNotBlockSafari)
     EXPECT_EQ(titles(library.snapshot().history), (QStringList{u"s1"_s, u"b1"_s, u"e1"_s}));
 }
 
-TEST_F(LibraryReadingTest, ARefusalOfOneSafariProfileLeavesTheOthersAlone)
+TEST_F(LibraryReadingTest, aRefusalOfOneSafariProfileLeavesTheOthersAlone)
 {
     addSafari();
     addSafariProfile();
@@ -257,7 +257,7 @@ TEST_F(LibraryReadingTest, ARefusalOfOneSafariProfileLeavesTheOthersAlone)
     EXPECT_TRUE(library.snapshot().safariBlocked);
 }
 
-TEST_F(LibraryReadingTest, SourcesThatAPartialLoadLeavesOutKeepTheirProblems)
+TEST_F(LibraryReadingTest, sourcesThatAPartialLoadLeavesOutKeepTheirProblems)
 {
     addChromium();
     addSafari();
@@ -280,7 +280,7 @@ TEST_F(LibraryReadingTest, SourcesThatAPartialLoadLeavesOutKeepTheirProblems)
     EXPECT_EQ(library.snapshot().problems.keys(), QStringList{u"chrome/Profile 1"_s});
 }
 
-TEST_F(LibraryReadingTest, AProfileThatWasOffHasNothingToKeep)
+TEST_F(LibraryReadingTest, aProfileThatWasOffHasNothingToKeep)
 {
     addChromium();
     Library library(home.platform());
@@ -299,7 +299,7 @@ TEST_F(LibraryReadingTest, AProfileThatWasOffHasNothingToKeep)
     EXPECT_EQ(snapshot.bookmarks.size(), 1);
 }
 
-TEST_F(LibraryReadingTest, OfEachSourceTheLatestThousandRowsAreKept)
+TEST_F(LibraryReadingTest, ofEachSourceTheLatestThousandRowsAreKept)
 {
     addChromium();
     const auto rows = sample::Rows<sample::HistoryRow>::generated(1001, [](qsizetype i) {

@@ -69,14 +69,14 @@ protected:
     }
 };
 
-TEST_F(LibrarySearchTest, NoSourcesGiveNothing)
+TEST_F(LibrarySearchTest, noSourcesGiveNothing)
 {
     const ReadContext context = home.context();
     EXPECT_EQ(Library::history(HistoryQuery::matching(u"x"_s, {}, HistoryQuery::Order::Latest), {}, context),
               HistoryResults());
 }
 
-TEST_F(LibrarySearchTest, EverySourceIsSearchedAndSafariToo)
+TEST_F(LibrarySearchTest, everySourceIsSearchedAndSafariToo)
 {
     addChromium();
     addSafari();
@@ -85,7 +85,7 @@ TEST_F(LibrarySearchTest, EverySourceIsSearchedAndSafariToo)
     EXPECT_EQ(titles(search(u"  E1  EDGE "_s).items), QStringList{u"e1"_s});
 }
 
-TEST_F(LibrarySearchTest, TwoFullSourcesGiveTwoThousandRowsAndAreCapped)
+TEST_F(LibrarySearchTest, twoFullSourcesGiveTwoThousandRowsAndAreCapped)
 {
     addChromium();
     setRows(u"Default"_s, 1200, u"https://w.example/"_s);
@@ -95,7 +95,7 @@ TEST_F(LibrarySearchTest, TwoFullSourcesGiveTwoThousandRowsAndAreCapped)
     EXPECT_TRUE(results.isCapped);
 }
 
-TEST_F(LibrarySearchTest, OneRowLessIsNotCapped)
+TEST_F(LibrarySearchTest, oneRowLessIsNotCapped)
 {
     addChromium();
     setRows(u"Default"_s, 999, u"https://w.example/"_s);
@@ -104,7 +104,7 @@ TEST_F(LibrarySearchTest, OneRowLessIsNotCapped)
     EXPECT_TRUE(search(u"word"_s).isCapped);
 }
 
-TEST_F(LibrarySearchTest, ThePlainListingIsNeverCapped)
+TEST_F(LibrarySearchTest, thePlainListingIsNeverCapped)
 {
     addChromium();
     setRows(u"Default"_s, 1500, u"https://w.example/"_s);
@@ -113,7 +113,7 @@ TEST_F(LibrarySearchTest, ThePlainListingIsNeverCapped)
     EXPECT_EQ(results.items.size(), 1000 + 2);
 }
 
-TEST_F(LibrarySearchTest, ASiteIsComparedExactlyAfterTheCap)
+TEST_F(LibrarySearchTest, aSiteIsComparedExactlyAfterTheCap)
 {
     addChromium();
     change([this] {
@@ -132,7 +132,7 @@ TEST_F(LibrarySearchTest, ASiteIsComparedExactlyAfterTheCap)
     EXPECT_TRUE(results.isCapped);
 }
 
-TEST_F(LibrarySearchTest, ASourceThatCannotBeReadContributesNothing)
+TEST_F(LibrarySearchTest, aSourceThatCannotBeReadContributesNothing)
 {
     addChromium();
     home.files.failure = [this](const QString &path) {
@@ -142,7 +142,7 @@ TEST_F(LibrarySearchTest, ASourceThatCannotBeReadContributesNothing)
     EXPECT_EQ(search(u"example"_s).items.size(), 2);
 }
 
-TEST_F(LibrarySearchTest, SourcesThatFailAreReportedInTheirOrderOnTheCallersThread)
+TEST_F(LibrarySearchTest, sourcesThatFailAreReportedInTheirOrderOnTheCallersThread)
 {
     addChromium();
     home.files.failure = [this](const QString &path) {
@@ -164,13 +164,13 @@ TEST_F(LibrarySearchTest, SourcesThatFailAreReportedInTheirOrderOnTheCallersThre
                                      u"edge/Default " % edgeFile(u"Default/History"_s)}));
 }
 
-TEST_F(LibrarySearchTest, AWordThatIsTooLongForTheDatabaseFindsNothing)
+TEST_F(LibrarySearchTest, aWordThatIsTooLongForTheDatabaseFindsNothing)
 {
     addChromium();
     EXPECT_EQ(search(QString(60'000, u'x')), HistoryResults());
 }
 
-TEST_F(LibrarySearchTest, ASiteOfWhichThereAreFewerRowsIsNotCapped)
+TEST_F(LibrarySearchTest, aSiteOfWhichThereAreFewerRowsIsNotCapped)
 {
     addChromium();
     setRows(u"Default"_s, 999, u"https://site.example/"_s);
@@ -182,7 +182,7 @@ TEST_F(LibrarySearchTest, ASiteOfWhichThereAreFewerRowsIsNotCapped)
     EXPECT_TRUE(search({}, u"site.example"_s).isCapped);
 }
 
-TEST_F(LibrarySearchTest, RowsComeSourceBySourceInTheOrderOfTheirQuery)
+TEST_F(LibrarySearchTest, rowsComeSourceBySourceInTheOrderOfTheirQuery)
 {
     addChromium();
     setRows(u"Default"_s, 50, u"https://d.example/"_s);
@@ -197,7 +197,7 @@ TEST_F(LibrarySearchTest, RowsComeSourceBySourceInTheOrderOfTheirQuery)
     }
 }
 
-TEST_F(LibrarySearchTest, RowsOfSeveralSourcesAreNotMadeOne)
+TEST_F(LibrarySearchTest, rowsOfSeveralSourcesAreNotMadeOne)
 {
     addChromium();
     setChromeHistory(u"Default"_s, {u"same"_s});
@@ -205,7 +205,7 @@ TEST_F(LibrarySearchTest, RowsOfSeveralSourcesAreNotMadeOne)
     EXPECT_EQ(titles(search(u"same"_s).items), (QStringList{u"same"_s, u"same"_s}));
 }
 
-TEST_F(LibrarySearchTest, TheLibrarySearchesOneSourceOrAllOfTheSnapshot)
+TEST_F(LibrarySearchTest, theLibrarySearchesOneSourceOrAllOfTheSnapshot)
 {
     addChromium();
     Library library(home.platform());
@@ -219,7 +219,7 @@ TEST_F(LibrarySearchTest, TheLibrarySearchesOneSourceOrAllOfTheSnapshot)
         ask(library, {}, HistoryQuery::matching(u"edge"_s, {}, HistoryQuery::Order::Latest)).items.size(), 1);
 }
 
-TEST_F(LibrarySearchTest, TheLibraryAsksTheDatabasesAndNotTheSnapshot)
+TEST_F(LibrarySearchTest, theLibraryAsksTheDatabasesAndNotTheSnapshot)
 {
     addChromium();
     Library library(home.platform());
@@ -230,7 +230,7 @@ TEST_F(LibrarySearchTest, TheLibraryAsksTheDatabasesAndNotTheSnapshot)
     EXPECT_EQ(library.generation(), 1);
 }
 
-TEST_F(LibrarySearchTest, TheLatestRowsOfUnchangedFilesAreNotReadAgain)
+TEST_F(LibrarySearchTest, theLatestRowsOfUnchangedFilesAreNotReadAgain)
 {
     addChromium();
     addSafari();
@@ -246,7 +246,7 @@ TEST_F(LibrarySearchTest, TheLatestRowsOfUnchangedFilesAreNotReadAgain)
     EXPECT_EQ(takeReads().size(), library.snapshot().sources.size()) << "the snapshot knows the latest only";
 }
 
-TEST_F(LibrarySearchTest, TheLatestRowsOfChangedFilesAreReadAgain)
+TEST_F(LibrarySearchTest, theLatestRowsOfChangedFilesAreReadAgain)
 {
     addChromium();
     Library library(home.platform());
@@ -268,7 +268,7 @@ TEST_F(LibrarySearchTest, TheLatestRowsOfChangedFilesAreReadAgain)
     EXPECT_TRUE(ask(library, u"edge/Default"_s).items.isEmpty());
 }
 
-TEST_F(LibrarySearchTest, TheLatestRowsThatAPartialLoadHasKeptAreNotReadAgain)
+TEST_F(LibrarySearchTest, theLatestRowsThatAPartialLoadHasKeptAreNotReadAgain)
 {
     addChromium();
     Library library(home.platform());
@@ -280,7 +280,7 @@ TEST_F(LibrarySearchTest, TheLatestRowsThatAPartialLoadHasKeptAreNotReadAgain)
     EXPECT_EQ(takeReads(), QStringList());
 }
 
-TEST_F(LibrarySearchTest, TheLatestRowsOfARenamedProfileBearItsNewName)
+TEST_F(LibrarySearchTest, theLatestRowsOfARenamedProfileBearItsNewName)
 {
     addChromium();
     Library library(home.platform());
@@ -295,7 +295,7 @@ TEST_F(LibrarySearchTest, TheLatestRowsOfARenamedProfileBearItsNewName)
     EXPECT_EQ(results.items.first().source.name, u"Elsewhere");
 }
 
-TEST_F(LibrarySearchTest, TheLatestRowsThatCouldNotBeReadAreAskedForAgain)
+TEST_F(LibrarySearchTest, theLatestRowsThatCouldNotBeReadAreAskedForAgain)
 {
     addChromium();
     fail(chromeFile(u"Default/History"_s), std::errc::io_error);
@@ -307,7 +307,7 @@ TEST_F(LibrarySearchTest, TheLatestRowsThatCouldNotBeReadAreAskedForAgain)
     EXPECT_EQ(takeReads(), QStringList{u"chrome/Default"_s});
 }
 
-TEST_F(LibrarySearchTest, ProfilesThatAreSwitchedOffAreNotSearched)
+TEST_F(LibrarySearchTest, profilesThatAreSwitchedOffAreNotSearched)
 {
     addChromium();
     home.defaults.setStringList(u"disabledProfiles"_s, {u"chrome/Default"_s});
@@ -317,7 +317,7 @@ TEST_F(LibrarySearchTest, ProfilesThatAreSwitchedOffAreNotSearched)
     EXPECT_EQ(ask(library, u"chrome/Default"_s), HistoryResults());
 }
 
-TEST_F(LibrarySearchTest, ASearchDoesNotWaitForALoad)
+TEST_F(LibrarySearchTest, aSearchDoesNotWaitForALoad)
 {
     addChromium();
     Library library(home.platform());
@@ -332,7 +332,7 @@ TEST_F(LibrarySearchTest, ASearchDoesNotWaitForALoad)
     ASSERT_TRUE(waitUntil([&library] { return !library.isLoading(); }));
 }
 
-TEST_F(LibrarySearchTest, ASearchThatIsDroppedDeliversNothing)
+TEST_F(LibrarySearchTest, aSearchThatIsDroppedDeliversNothing)
 {
     addChromium();
     Library library(home.platform());
@@ -355,7 +355,7 @@ TEST_F(LibrarySearchTest, ASearchThatIsDroppedDeliversNothing)
     EXPECT_EQ(deliveries, 0);
 }
 
-TEST_F(LibrarySearchTest, ALibraryThatGoesDuringASearchLeavesNothing)
+TEST_F(LibrarySearchTest, aLibraryThatGoesDuringASearchLeavesNothing)
 {
     addChromium();
     std::counting_semaphore<> copies(0);

@@ -22,7 +22,7 @@ QStringList order(const Library &library)
     return ids(library.ordered(library.snapshot().browserProfiles));
 }
 
-TEST_F(LibrarySettingsTest, AProfileThatIsSwitchedOffIsFoundButNotRead)
+TEST_F(LibrarySettingsTest, aProfileThatIsSwitchedOffIsFoundButNotRead)
 {
     addChromium();
     home.defaults.setStringList(u"disabledProfiles"_s, {u"chrome/Profile 1"_s});
@@ -33,7 +33,7 @@ TEST_F(LibrarySettingsTest, AProfileThatIsSwitchedOffIsFoundButNotRead)
     EXPECT_FALSE(titles(library.snapshot().history).contains(u"b1"_s));
 }
 
-TEST_F(LibrarySettingsTest, SwitchingStoresTheIdsSortedAndReloads)
+TEST_F(LibrarySettingsTest, switchingStoresTheIdsSortedAndReloads)
 {
     addChromium();
     Library library(home.platform());
@@ -53,7 +53,7 @@ TEST_F(LibrarySettingsTest, SwitchingStoresTheIdsSortedAndReloads)
     EXPECT_EQ(library.snapshot().sources.size(), 2);
 }
 
-TEST_F(LibrarySettingsTest, TheOlderListOfChromeProfilesCountsUntilTheNextChange)
+TEST_F(LibrarySettingsTest, theOlderListOfChromeProfilesCountsUntilTheNextChange)
 {
     addChromium();
     home.defaults.setStringList(u"disabledChromeProfiles"_s, {u"Profile 1"_s});
@@ -68,7 +68,7 @@ TEST_F(LibrarySettingsTest, TheOlderListOfChromeProfilesCountsUntilTheNextChange
     EXPECT_FALSE(home.defaults.contains(u"disabledChromeProfiles"_s));
 }
 
-TEST_F(LibrarySettingsTest, ChoicesSurviveInARealFile)
+TEST_F(LibrarySettingsTest, choicesSurviveInARealFile)
 {
     addChromium();
     const QString file = home.temporary() % u"/settings/Roamlet.conf";
@@ -126,7 +126,7 @@ TEST_F(LibrarySettingsTest, theOlderListOfChromeProfilesMeansNoOtherInstallation
               (QStringList{u"chrome/Profile 1"_s, u"chrome@beta/Default"_s, u"edge/Default"_s}));
 }
 
-TEST_F(LibrarySettingsTest, TheLastProfileThatIsSwitchedOnAgainIsOnInARealFileToo)
+TEST_F(LibrarySettingsTest, theLastProfileThatIsSwitchedOnAgainIsOnInARealFileToo)
 {
     addChromium();
     const QString file = home.temporary() % u"/settings/Roamlet.conf";
@@ -142,7 +142,7 @@ TEST_F(LibrarySettingsTest, TheLastProfileThatIsSwitchedOnAgainIsOnInARealFileTo
     EXPECT_TRUE(library.disabledProfiles().isEmpty());
 }
 
-TEST_F(LibrarySettingsTest, AFileWrittenByHandCounts)
+TEST_F(LibrarySettingsTest, aFileWrittenByHandCounts)
 {
     addChromium();
     const QString file = home.temporary() % u"/settings/Roamlet.conf";
@@ -159,7 +159,7 @@ TEST_F(LibrarySettingsTest, AFileWrittenByHandCounts)
     EXPECT_EQ(order(library), (QStringList{u"edge/Default"_s, u"chrome/Profile 1"_s, u"chrome/Default"_s}));
 }
 
-TEST_F(LibrarySettingsTest, SwitchingOnAProfileOfTheOlderListEndsThatList)
+TEST_F(LibrarySettingsTest, switchingOnAProfileOfTheOlderListEndsThatList)
 {
     addChromium();
     home.defaults.setStringList(u"disabledChromeProfiles"_s, {u"Profile 1"_s});
@@ -175,7 +175,7 @@ TEST_F(LibrarySettingsTest, SwitchingOnAProfileOfTheOlderListEndsThatList)
     EXPECT_EQ(library.snapshot().sources.size(), 3);
 }
 
-TEST_F(LibrarySettingsTest, SwitchingDuringALoadIsSeenByItsNextPass)
+TEST_F(LibrarySettingsTest, switchingDuringALoadIsSeenByItsNextPass)
 {
     addChromium();
     Library library(home.platform());
@@ -192,7 +192,7 @@ TEST_F(LibrarySettingsTest, SwitchingDuringALoadIsSeenByItsNextPass)
     EXPECT_EQ(ids(library.snapshot().sources), (QStringList{u"chrome/Profile 1"_s, u"edge/Default"_s}));
 }
 
-TEST_F(LibrarySettingsTest, SettingsAreReadWhenTheLibraryIsMade)
+TEST_F(LibrarySettingsTest, settingsAreReadWhenTheLibraryIsMade)
 {
     addChromium();
     Library library(home.platform());
@@ -203,7 +203,7 @@ TEST_F(LibrarySettingsTest, SettingsAreReadWhenTheLibraryIsMade)
     EXPECT_EQ(order(library).first(), u"chrome/Default"_s);
 }
 
-TEST_F(LibrarySettingsTest, AMoveForgetsProfilesThatAreGoneAndKeepsTheOnesThatAreOff)
+TEST_F(LibrarySettingsTest, aMoveForgetsProfilesThatAreGoneAndKeepsTheOnesThatAreOff)
 {
     addChromium();
     home.defaults.setStringList(u"sourceOrder"_s, {u"gone"_s, u"edge/Default"_s});
@@ -219,7 +219,7 @@ TEST_F(LibrarySettingsTest, AMoveForgetsProfilesThatAreGoneAndKeepsTheOnesThatAr
     EXPECT_EQ(library.source(u"chrome/Default"_s), std::nullopt) << "it is off";
 }
 
-TEST_F(LibrarySettingsTest, ProfilesMoveAsRowsOfAListDo)
+TEST_F(LibrarySettingsTest, profilesMoveAsRowsOfAListDo)
 {
     addChromium();
     addSafari();
@@ -250,7 +250,7 @@ TEST_F(LibrarySettingsTest, ProfilesMoveAsRowsOfAListDo)
     }
 }
 
-TEST_F(LibrarySettingsTest, SourcesThatTheOrderDoesNotKnowFollowInTheirOwnOrder)
+TEST_F(LibrarySettingsTest, sourcesThatTheOrderDoesNotKnowFollowInTheirOwnOrder)
 {
     addChromium();
     addSafari();
@@ -264,7 +264,7 @@ TEST_F(LibrarySettingsTest, SourcesThatTheOrderDoesNotKnowFollowInTheirOwnOrder)
     EXPECT_EQ(library.source({}), std::nullopt);
 }
 
-TEST_F(LibrarySettingsTest, AllBookmarksAreOneFolderForEachSourceInTheUsersOrder)
+TEST_F(LibrarySettingsTest, allBookmarksAreOneFolderForEachSourceInTheUsersOrder)
 {
     addChromium();
     addSafari();
@@ -284,7 +284,7 @@ TEST_F(LibrarySettingsTest, AllBookmarksAreOneFolderForEachSourceInTheUsersOrder
     EXPECT_EQ(ids(library.snapshot().sources).first(), u"safari"_s) << "the snapshot has its own order";
 }
 
-TEST_F(LibrarySettingsTest, AllBookmarksLeaveOutProfilesThatAreOff)
+TEST_F(LibrarySettingsTest, allBookmarksLeaveOutProfilesThatAreOff)
 {
     addChromium();
     home.defaults.setStringList(u"disabledProfiles"_s, {u"chrome/Default"_s});
@@ -297,7 +297,7 @@ TEST_F(LibrarySettingsTest, AllBookmarksLeaveOutProfilesThatAreOff)
     EXPECT_TRUE(library.bookmarkTree(u"chrome/Default"_s).isEmpty());
 }
 
-TEST_F(LibrarySettingsTest, TheMenuShowsTheTenPagesVisitedLast)
+TEST_F(LibrarySettingsTest, theMenuShowsTheTenPagesVisitedLast)
 {
     addChromium();
     QStringList many;
@@ -313,7 +313,7 @@ TEST_F(LibrarySettingsTest, TheMenuShowsTheTenPagesVisitedLast)
     EXPECT_EQ(library.menuUpdated(), library.lastLoaded());
 }
 
-TEST_F(LibrarySettingsTest, PagesOfTheSameTimeStayInTheSnapshotsOrder)
+TEST_F(LibrarySettingsTest, pagesOfTheSameTimeStayInTheSnapshotsOrder)
 {
     addChromium();
     setChromeHistory(u"Default"_s, {u"first"_s});
@@ -323,7 +323,7 @@ TEST_F(LibrarySettingsTest, PagesOfTheSameTimeStayInTheSnapshotsOrder)
     EXPECT_EQ(titles(library.menuRecent()), (QStringList{u"e1"_s, u"first"_s, u"second"_s}));
 }
 
-TEST_F(LibrarySettingsTest, AnOpenMenuDoesNotChangeUntilItIsClosed)
+TEST_F(LibrarySettingsTest, anOpenMenuDoesNotChangeUntilItIsClosed)
 {
     addChromium();
     Library library(home.platform());
@@ -342,7 +342,7 @@ TEST_F(LibrarySettingsTest, AnOpenMenuDoesNotChangeUntilItIsClosed)
     EXPECT_NE(library.menuUpdated(), updated);
 }
 
-TEST_F(LibrarySettingsTest, AMenuThatClosesBeforeTheFirstLoadIsEmpty)
+TEST_F(LibrarySettingsTest, aMenuThatClosesBeforeTheFirstLoadIsEmpty)
 {
     addChromium();
     Library library(home.platform());
@@ -354,7 +354,7 @@ TEST_F(LibrarySettingsTest, AMenuThatClosesBeforeTheFirstLoadIsEmpty)
     EXPECT_EQ(library.menuUpdated(), std::nullopt);
 }
 
-TEST_F(LibrarySettingsTest, AMenuThatClosesDuringALoadShowsTheLastSnapshot)
+TEST_F(LibrarySettingsTest, aMenuThatClosesDuringALoadShowsTheLastSnapshot)
 {
     addChromium();
     Library library(home.platform());

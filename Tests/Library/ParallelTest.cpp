@@ -16,7 +16,7 @@ namespace roamlet::testing
 namespace
 {
 
-TEST(ParallelTest, EveryIndexIsWorkedOnOnce)
+TEST(ParallelTest, everyIndexIsWorkedOnOnce)
 {
     for (const size_t count : {size_t{0}, size_t{1}, size_t{2}, size_t{50}}) {
         std::vector<std::atomic<int>> calls(count);
@@ -29,7 +29,7 @@ TEST(ParallelTest, EveryIndexIsWorkedOnOnce)
     }
 }
 
-TEST(ParallelTest, AsManyHaveATurnAsThereAreCoresAndNoMore)
+TEST(ParallelTest, asManyHaveATurnAsThereAreCoresAndNoMore)
 {
     const int cores = static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
     std::latch firstOnes(cores);
@@ -49,7 +49,7 @@ TEST(ParallelTest, AsManyHaveATurnAsThereAreCoresAndNoMore)
     EXPECT_EQ(most, cores);
 }
 
-TEST(ParallelTest, WhoOnlyWaitsKeepsNobodyFromWorking)
+TEST(ParallelTest, whoOnlyWaitsKeepsNobodyFromWorking)
 {
     // All of them wait for each other without a turn; that ends only when all of them run.
     constexpr int count = 30;

@@ -128,7 +128,7 @@ protected:
     ~ExportPanelTest() override { delete panel; }
 };
 
-TEST_F(ExportPanelTest, ShowsItsPartsFromTopToBottom)
+TEST_F(ExportPanelTest, showsItsPartsFromTopToBottom)
 {
     open();
     QList<int> tops;
@@ -149,7 +149,7 @@ TEST_F(ExportPanelTest, ShowsItsPartsFromTopToBottom)
     EXPECT_LT(cancelButton().x(), exportButton().x());
 }
 
-TEST_F(ExportPanelTest, OffersTheThreeFormatsWithTheirDescriptions)
+TEST_F(ExportPanelTest, offersTheThreeFormatsWithTheirDescriptions)
 {
     open();
     const QList<QStringList> rows{
@@ -164,7 +164,7 @@ TEST_F(ExportPanelTest, OffersTheThreeFormatsWithTheirDescriptions)
     EXPECT_EQ(panel->findChildren<QRadioButton *>().size(), 3);
 }
 
-TEST_F(ExportPanelTest, OffersAllBrowsersAndEachSourceWithBookmarksInTheUsersOrder)
+TEST_F(ExportPanelTest, offersAllBrowsersAndEachSourceWithBookmarksInTheUsersOrder)
 {
     library.moveProfiles({1}, 0);
     open();
@@ -173,7 +173,7 @@ TEST_F(ExportPanelTest, OffersAllBrowsersAndEachSourceWithBookmarksInTheUsersOrd
     EXPECT_EQ(sources().currentIndex(), 0);
 }
 
-TEST_F(ExportPanelTest, CountsAreGroupedAsTheUserWritesNumbers)
+TEST_F(ExportPanelTest, countsAreGroupedAsTheUserWritesNumbers)
 {
     setBookmarks(1233);
     loadNow(library);
@@ -185,13 +185,13 @@ TEST_F(ExportPanelTest, CountsAreGroupedAsTheUserWritesNumbers)
                                       u"Chrome - Work (1,233)"_s}));
 }
 
-TEST_F(ExportPanelTest, BeginsWithTheRequestedSource)
+TEST_F(ExportPanelTest, beginsWithTheRequestedSource)
 {
     open({work});
     EXPECT_EQ(sources().currentText(), u"Chrome - Work (3)"_s);
 }
 
-TEST_F(ExportPanelTest, FollowsTheLibraryAndKeepsTheChoice)
+TEST_F(ExportPanelTest, followsTheLibraryAndKeepsTheChoice)
 {
     open({work});
     library.moveProfiles({1}, 0);
@@ -203,7 +203,7 @@ TEST_F(ExportPanelTest, FollowsTheLibraryAndKeepsTheChoice)
     EXPECT_EQ(sources().currentText(), u"Chrome - Work (5)"_s);
 }
 
-TEST_F(ExportPanelTest, ASourceThatVanishesLeavesNoChoiceAndAnEmptyFile)
+TEST_F(ExportPanelTest, aSourceThatVanishesLeavesNoChoiceAndAnEmptyFile)
 {
     open({work});
     library.setEnabled(false, library.snapshot().browserProfiles[1]);
@@ -217,7 +217,7 @@ TEST_F(ExportPanelTest, ASourceThatVanishesLeavesNoChoiceAndAnEmptyFile)
     EXPECT_EQ(content(u"file.csv"_s), "Browser,Profile,Folder,Title,URL,Added\r\n");
 }
 
-TEST_F(ExportPanelTest, AnEmptyHomeOffersOnlyAllBrowsers)
+TEST_F(ExportPanelTest, anEmptyHomeOffersOnlyAllBrowsers)
 {
     TestHome empty;
     Library nothing(empty.platform());
@@ -225,7 +225,7 @@ TEST_F(ExportPanelTest, AnEmptyHomeOffersOnlyAllBrowsers)
     EXPECT_EQ(choices(), QStringList{u"All Browsers (0)"_s});
 }
 
-TEST_F(ExportPanelTest, AnEndlessProfileNameKeepsTheSheetOnTheScreen)
+TEST_F(ExportPanelTest, anEndlessProfileNameKeepsTheSheetOnTheScreen)
 {
     change([&] {
         sample::writeLocalState(chromeFile(u"Local State"_s),
@@ -237,7 +237,7 @@ TEST_F(ExportPanelTest, AnEndlessProfileNameKeepsTheSheetOnTheScreen)
     EXPECT_TRUE(choices()[1].endsWith(u"w… (3)")) << qPrintable(choices()[1].right(20));
 }
 
-TEST_F(ExportPanelTest, TheFormatIsStoredWhenChosenAndFoundAgain)
+TEST_F(ExportPanelTest, theFormatIsStoredWhenChosenAndFoundAgain)
 {
     open();
     EXPECT_TRUE(format(u"html"_s).isChecked()) << "by default";
@@ -250,7 +250,7 @@ TEST_F(ExportPanelTest, TheFormatIsStoredWhenChosenAndFoundAgain)
     EXPECT_TRUE(format(u"markdown"_s).isChecked());
 }
 
-TEST_F(ExportPanelTest, AStoredFormatThatIsNoneIsHtml)
+TEST_F(ExportPanelTest, aStoredFormatThatIsNoneIsHtml)
 {
     home.defaults.setString(u"export.format"_s, u"pdf"_s);
     open();
@@ -261,7 +261,7 @@ TEST_F(ExportPanelTest, AStoredFormatThatIsNoneIsHtml)
     EXPECT_TRUE(format(u"html"_s).isChecked());
 }
 
-TEST_F(ExportPanelTest, AClickOnADescriptionChoosesItsFormat)
+TEST_F(ExportPanelTest, aClickOnADescriptionChoosesItsFormat)
 {
     open();
     QTest::mouseClick(panel->findChild<NoteLabel *>(u"exportFormatNote.csv"_s), Qt::LeftButton);
@@ -269,7 +269,7 @@ TEST_F(ExportPanelTest, AClickOnADescriptionChoosesItsFormat)
     EXPECT_EQ(home.defaults.string(u"export.format"_s), u"csv"_s);
 }
 
-TEST_F(ExportPanelTest, IsDrivenByTheKeyboardAlone)
+TEST_F(ExportPanelTest, isDrivenByTheKeyboardAlone)
 {
     open();
     QTest::keyClick(panel.data(), Qt::Key_Tab);
@@ -289,7 +289,7 @@ TEST_F(ExportPanelTest, IsDrivenByTheKeyboardAlone)
     EXPECT_FALSE(panel->isVisible());
 }
 
-TEST_F(ExportPanelTest, EveryControlSaysWhatItIs)
+TEST_F(ExportPanelTest, everyControlSaysWhatItIs)
 {
     open();
     for (const QWidget *control : panel->findChildren<QWidget *>()) {
@@ -302,7 +302,7 @@ TEST_F(ExportPanelTest, EveryControlSaysWhatItIs)
     EXPECT_EQ(format(u"csv"_s).accessibleDescription(), u"One row per bookmark, for Numbers or Excel."_s);
 }
 
-TEST_F(ExportPanelTest, SuggestsANameAnExtensionAndAType)
+TEST_F(ExportPanelTest, suggestsANameAnExtensionAndAType)
 {
     open({work});
     exportNow();
@@ -341,7 +341,7 @@ TEST_F(ExportPanelTest, aFileIsNamedAfterTheBrowserAndNotAfterItsInstallation)
         << content(u"file.csv"_s).constData();
 }
 
-TEST_F(ExportPanelTest, CancellingTheSavePanelLeavesTheSheetOpen)
+TEST_F(ExportPanelTest, cancellingTheSavePanelLeavesTheSheetOpen)
 {
     open({work});
     exportNow();
@@ -351,7 +351,7 @@ TEST_F(ExportPanelTest, CancellingTheSavePanelLeavesTheSheetOpen)
     EXPECT_TRUE(alert.problems.isEmpty());
 }
 
-TEST_F(ExportPanelTest, WritesWhatTheFormatMakesOfTheSourceAndCloses)
+TEST_F(ExportPanelTest, writesWhatTheFormatMakesOfTheSourceAndCloses)
 {
     for (const BookmarkExport::Format each : BookmarkExport::formats) {
         const QString name = BookmarkExport::rawValue(each);
@@ -368,7 +368,7 @@ TEST_F(ExportPanelTest, WritesWhatTheFormatMakesOfTheSourceAndCloses)
     EXPECT_TRUE(alert.problems.isEmpty());
 }
 
-TEST_F(ExportPanelTest, AllBrowsersAreOneFile)
+TEST_F(ExportPanelTest, allBrowsersAreOneFile)
 {
     open();
     savePanel.chosenPath = path(u"all"_s);
@@ -377,7 +377,7 @@ TEST_F(ExportPanelTest, AllBrowsersAreOneFile)
               BookmarkExport::render(BookmarkExport::Format::Html, library.bookmarkTree({}), {}).toUtf8());
 }
 
-TEST_F(ExportPanelTest, ExportsWhatWasThereWhenTheButtonWasPressed)
+TEST_F(ExportPanelTest, exportsWhatWasThereWhenTheButtonWasPressed)
 {
     open({work});
     format(u"csv"_s).click();
@@ -390,7 +390,7 @@ TEST_F(ExportPanelTest, ExportsWhatWasThereWhenTheButtonWasPressed)
     EXPECT_EQ(content(u"file"_s).count('\n'), 4);
 }
 
-TEST_F(ExportPanelTest, WaitsVisiblyWhileItWrites)
+TEST_F(ExportPanelTest, waitsVisiblyWhileItWrites)
 {
     open();
     const QSize size = panel->size();
@@ -409,7 +409,7 @@ TEST_F(ExportPanelTest, WaitsVisiblyWhileItWrites)
     EXPECT_EQ(savedNames(), QStringList{u"file"_s});
 }
 
-TEST_F(ExportPanelTest, ASheetThatGoesWhileItWritesLeavesAWholeFile)
+TEST_F(ExportPanelTest, aSheetThatGoesWhileItWritesLeavesAWholeFile)
 {
     open();
     savePanel.chosenPath = path(u"file"_s);
@@ -420,7 +420,7 @@ TEST_F(ExportPanelTest, ASheetThatGoesWhileItWritesLeavesAWholeFile)
     EXPECT_TRUE(alert.problems.isEmpty());
 }
 
-TEST_F(ExportPanelTest, AFolderThatIsGoneIsToldOnceAndTheSheetStays)
+TEST_F(ExportPanelTest, aFolderThatIsGoneIsToldOnceAndTheSheetStays)
 {
     open({work});
     savePanel.chosenPath = path(u"missing/file"_s);
@@ -432,7 +432,7 @@ TEST_F(ExportPanelTest, AFolderThatIsGoneIsToldOnceAndTheSheetStays)
     ASSERT_TRUE(waitUntil([this] { return panel == nullptr; })) << "the next try works";
 }
 
-TEST_F(ExportPanelTest, WithoutPermissionTheOldFileStaysAndSoDoesTheSheet)
+TEST_F(ExportPanelTest, withoutPermissionTheOldFileStaysAndSoDoesTheSheet)
 {
     sample::writeFile(path(u"closed/file"_s), "old");
     QFile::setPermissions(path(u"closed"_s),
@@ -449,7 +449,7 @@ TEST_F(ExportPanelTest, WithoutPermissionTheOldFileStaysAndSoDoesTheSheet)
     EXPECT_EQ(content(u"closed/file"_s), "old");
 }
 
-TEST_F(ExportPanelTest, AReadOnlyFileIsNotReplaced)
+TEST_F(ExportPanelTest, aReadOnlyFileIsNotReplaced)
 {
     sample::writeFile(path(u"file"_s), "old");
     QFile::setPermissions(path(u"file"_s), QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther);
@@ -470,7 +470,7 @@ TEST_F(ExportPanelTest, AReadOnlyFileIsNotReplaced)
     EXPECT_EQ(savedNames(), QStringList{u"file"_s});
 }
 
-TEST_F(ExportPanelTest, OnAFullDiskTheOldFileStaysAndSoDoesTheSheet)
+TEST_F(ExportPanelTest, onAFullDiskTheOldFileStaysAndSoDoesTheSheet)
 {
     setBookmarks(2000);
     loadNow(library);

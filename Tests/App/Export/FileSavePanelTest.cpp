@@ -75,7 +75,7 @@ protected:
     int answers = 0;
 };
 
-TEST_F(FileSavePanelTest, SuggestsTheNameWithItsExtension)
+TEST_F(FileSavePanelTest, suggestsTheNameWithItsExtension)
 {
     ask(html);
     EXPECT_EQ(name().text(), u"Bookmarks.html"_s);
@@ -85,7 +85,7 @@ TEST_F(FileSavePanelTest, SuggestsTheNameWithItsExtension)
     EXPECT_EQ(answers, 1);
 }
 
-TEST_F(FileSavePanelTest, EscapeAnswersWithoutAPath)
+TEST_F(FileSavePanelTest, escapeAnswersWithoutAPath)
 {
     ask(html);
     QTest::keyClick(dialog, Qt::Key_Escape);
@@ -93,14 +93,14 @@ TEST_F(FileSavePanelTest, EscapeAnswersWithoutAPath)
     EXPECT_EQ(answer, std::nullopt);
 }
 
-TEST_F(FileSavePanelTest, AddsTheExtensionThatTheUserLeavesOut)
+TEST_F(FileSavePanelTest, addsTheExtensionThatTheUserLeavesOut)
 {
     ask(html);
     type(u"mine"_s);
     EXPECT_EQ(answer, path(u"mine.html"_s));
 }
 
-TEST_F(FileSavePanelTest, KeepsExtensionsOfTheType)
+TEST_F(FileSavePanelTest, keepsExtensionsOfTheType)
 {
     EXPECT_EQ(FileSavePanel::completed(u"/a/b.HTML"_s, html), u"/a/b.HTML"_s);
     EXPECT_EQ(FileSavePanel::completed(u"/a/b.htm"_s, html), u"/a/b.htm"_s);
@@ -109,7 +109,7 @@ TEST_F(FileSavePanelTest, KeepsExtensionsOfTheType)
     EXPECT_EQ(FileSavePanel::completed(u"/a/b"_s, {{}, u"md"_s, u"text/unknown-to-all"_s}), u"/a/b.md"_s);
 }
 
-TEST_F(FileSavePanelTest, AsksBeforeAFileIsReplaced)
+TEST_F(FileSavePanelTest, asksBeforeAFileIsReplaced)
 {
     sample::writeFile(path(u"old.html"_s), "old");
     ask(html);
@@ -127,7 +127,7 @@ TEST_F(FileSavePanelTest, AsksBeforeAFileIsReplaced)
     EXPECT_TRUE(dialog->isVisible());
 }
 
-TEST_F(FileSavePanelTest, AsksBeforeAFileIsReplacedWhoseExtensionWasLeftOut)
+TEST_F(FileSavePanelTest, asksBeforeAFileIsReplacedWhoseExtensionWasLeftOut)
 {
     sample::writeFile(path(u"old.html"_s), "old");
     ask(html);
@@ -147,7 +147,7 @@ TEST_F(FileSavePanelTest, AsksBeforeAFileIsReplacedWhoseExtensionWasLeftOut)
     EXPECT_EQ(answers, 1);
 }
 
-TEST_F(FileSavePanelTest, ComesBackToTheFolderOfTheLastFile)
+TEST_F(FileSavePanelTest, comesBackToTheFolderOfTheLastFile)
 {
     QDir(folder.path()).mkdir(u"below"_s);
     ask(html);
@@ -159,7 +159,7 @@ TEST_F(FileSavePanelTest, ComesBackToTheFolderOfTheLastFile)
     EXPECT_EQ(dialog->directory().path(), path(u"below"_s));
 }
 
-TEST_F(FileSavePanelTest, SuggestedNamesAreNamesThatAFileCanHave)
+TEST_F(FileSavePanelTest, suggestedNamesAreNamesThatAFileCanHave)
 {
     const auto suggested = [](const QString &text) {
         return FileSavePanel::suggestedFileName({text, u"html"_s, u"text/html"_s});
@@ -173,7 +173,7 @@ TEST_F(FileSavePanelTest, SuggestedNamesAreNamesThatAFileCanHave)
     EXPECT_EQ(suggested(family.repeated(50)), QString(family.repeated(13) % u".html"));
 }
 
-TEST_F(FileSavePanelTest, APanelWhoseWindowGoesTellsNobody)
+TEST_F(FileSavePanelTest, aPanelWhoseWindowGoesTellsNobody)
 {
     auto *window = new QWidget;
     panel.ask(window, html, [this](const std::optional<QString> &) { ++answers; });
@@ -181,7 +181,7 @@ TEST_F(FileSavePanelTest, APanelWhoseWindowGoesTellsNobody)
     EXPECT_EQ(answers, 0);
 }
 
-TEST_F(FileSavePanelTest, AnAlertShowsTheProblemAndWhatItIsAboutAsPlainText)
+TEST_F(FileSavePanelTest, anAlertShowsTheProblemAndWhatItIsAboutAsPlainText)
 {
     MessageAlert alert;
     alert.show(&parent, u"<b>Permission denied</b>"_s, u"/home/<i>x</i>"_s);

@@ -43,7 +43,7 @@ protected:
     NoteLabel *label = new NoteLabel(&window);
 };
 
-TEST_F(NoteLabelTest, IsReadableAndQuieterThanTheTextInEveryTheme)
+TEST_F(NoteLabelTest, isReadableAndQuieterThanTheTextInEveryTheme)
 {
     for (const QPalette &palette : {paletteOf(Qt::white, Qt::black), paletteOf(Qt::black, Qt::white)}) {
         window.setPalette(palette);
@@ -55,7 +55,7 @@ TEST_F(NoteLabelTest, IsReadableAndQuieterThanTheTextInEveryTheme)
     }
 }
 
-TEST_F(NoteLabelTest, FollowsAThemeThatChanges)
+TEST_F(NoteLabelTest, followsAThemeThatChanges)
 {
     window.setPalette(paletteOf(Qt::white, Qt::black));
     const QColor onLight = label->palette().color(QPalette::WindowText);
@@ -66,7 +66,7 @@ TEST_F(NoteLabelTest, FollowsAThemeThatChanges)
     EXPECT_EQ(label->palette().color(QPalette::WindowText), onLight);
 }
 
-TEST_F(NoteLabelTest, TakesTheColoursOfTheWindowThatItIsPutInto)
+TEST_F(NoteLabelTest, takesTheColoursOfTheWindowThatItIsPutInto)
 {
     window.setPalette(paletteOf(Qt::black, Qt::white));
     auto *added = new NoteLabel;
@@ -74,7 +74,7 @@ TEST_F(NoteLabelTest, TakesTheColoursOfTheWindowThatItIsPutInto)
     EXPECT_EQ(added->palette().color(QPalette::WindowText), label->palette().color(QPalette::WindowText));
 }
 
-TEST_F(NoteLabelTest, AProblemIsRed)
+TEST_F(NoteLabelTest, aProblemIsRed)
 {
     label->setTone(NoteLabel::Tone::Problem);
     const QColor color = label->palette().color(QPalette::WindowText);
@@ -82,7 +82,7 @@ TEST_F(NoteLabelTest, AProblemIsRed)
     EXPECT_GT(color.red(), color.blue() + 80);
 }
 
-TEST_F(NoteLabelTest, IsSmallerThanTheTextAndNoMarkup)
+TEST_F(NoteLabelTest, isSmallerThanTheTextAndNoMarkup)
 {
     EXPECT_LT(label->font().pointSizeF(), window.font().pointSizeF());
     EXPECT_TRUE(label->wordWrap());

@@ -30,7 +30,7 @@ QImage picture(const SwitchLook &look, const QPalette &palette)
     return image;
 }
 
-TEST(SwitchTest, MouseAndSpaceTurnIt)
+TEST(SwitchTest, mouseAndSpaceTurnIt)
 {
     Switch toggle;
     toggle.show();
@@ -45,7 +45,7 @@ TEST(SwitchTest, MouseAndSpaceTurnIt)
     EXPECT_EQ(turned.count(), 2);
 }
 
-TEST(SwitchTest, IsACheckBoxForThoseWhoHearIt)
+TEST(SwitchTest, isACheckBoxForThoseWhoHearIt)
 {
     Switch toggle;
     QAccessibleInterface *heard = QAccessible::queryAccessibleInterface(&toggle);
@@ -56,7 +56,7 @@ TEST(SwitchTest, IsACheckBoxForThoseWhoHearIt)
     EXPECT_TRUE(heard->state().checked);
 }
 
-TEST(SwitchTest, EveryStateLooksDifferentInEveryTheme)
+TEST(SwitchTest, everyStateLooksDifferentInEveryTheme)
 {
     const QList<SwitchLook> looks{{.isOn = false},
                                   {.isOn = true},
@@ -74,7 +74,7 @@ TEST(SwitchTest, EveryStateLooksDifferentInEveryTheme)
     }
 }
 
-TEST(SwitchTest, TheKnobOfASwitchThatIsOnLiesWhereLinesEnd)
+TEST(SwitchTest, theKnobOfASwitchThatIsOnLiesWhereLinesEnd)
 {
     const QPalette palette = paletteOf(Qt::white, Qt::black);
     const QColor accent = palette.color(QPalette::Active, QPalette::Highlight);
@@ -86,7 +86,7 @@ TEST(SwitchTest, TheKnobOfASwitchThatIsOnLiesWhereLinesEnd)
     EXPECT_EQ(rightToLeft.pixelColor(27, 10), accent);
 }
 
-TEST(SwitchTest, AClickOnTheLineTurnsItAndADragAwayDoesNot)
+TEST(SwitchTest, aClickOnTheLineTurnsItAndADragAwayDoesNot)
 {
     SwitchRow row(u"Open at login"_s);
     row.resize(300, 30);

@@ -77,18 +77,18 @@ QRect inkOf(const QImage &image)
     return result;
 }
 
-TEST_F(SymbolTest, AnUnknownNameGivesNone)
+TEST_F(SymbolTest, anUnknownNameGivesNone)
 {
     EXPECT_TRUE(symbolIcon(u"no.such.symbol"_s).isNull());
     EXPECT_TRUE(symbolIcon(QString()).isNull());
 }
 
-TEST_F(SymbolTest, HasTheColorOfTheText)
+TEST_F(SymbolTest, hasTheColorOfTheText)
 {
     EXPECT_EQ(colorOf(imageOf(symbolIcon(u"clock"_s), 64)), text);
 }
 
-TEST_F(SymbolTest, FollowsThePaletteWhenItChanges)
+TEST_F(SymbolTest, followsThePaletteWhenItChanges)
 {
     const QIcon icon = symbolIcon(u"clock"_s);
     ASSERT_EQ(colorOf(imageOf(icon, 64)), text);
@@ -100,7 +100,7 @@ TEST_F(SymbolTest, FollowsThePaletteWhenItChanges)
     EXPECT_EQ(colorOf(imageOf(icon, 64)), QColor(238, 238, 238));
 }
 
-TEST_F(SymbolTest, FollowsTheSelectionAndWhatIsDisabled)
+TEST_F(SymbolTest, followsTheSelectionAndWhatIsDisabled)
 {
     const QIcon icon = symbolIcon(u"folder"_s);
 
@@ -109,7 +109,7 @@ TEST_F(SymbolTest, FollowsTheSelectionAndWhatIsDisabled)
     EXPECT_EQ(colorOf(imageOf(icon, 64, 1, QIcon::Disabled)), disabledText);
 }
 
-TEST_F(SymbolTest, KeepsToAColorOfItsOwn)
+TEST_F(SymbolTest, keepsToAColorOfItsOwn)
 {
     const QColor orange(230, 120, 0);
     const QIcon icon = symbolIcon(u"lock.fill"_s, orange);
@@ -118,7 +118,7 @@ TEST_F(SymbolTest, KeepsToAColorOfItsOwn)
         EXPECT_EQ(colorOf(imageOf(icon, 64, 1, mode)), orange);
 }
 
-TEST_F(SymbolTest, IsDrawnAnewForAFineScreenAndNotEnlarged)
+TEST_F(SymbolTest, isDrawnAnewForAFineScreenAndNotEnlarged)
 {
     const QIcon icon = symbolIcon(u"gearshape"_s);
 
@@ -131,7 +131,7 @@ TEST_F(SymbolTest, IsDrawnAnewForAFineScreenAndNotEnlarged)
     EXPECT_EQ(image, imageOf(icon, 32));
 }
 
-TEST_F(SymbolTest, PaintsOnAFineScreenWithEveryPixelItHas)
+TEST_F(SymbolTest, paintsOnAFineScreenWithEveryPixelItHas)
 {
     const QIcon icon = symbolIcon(u"globe"_s);
     QImage screen(32, 32, QImage::Format_ARGB32);
@@ -146,7 +146,7 @@ TEST_F(SymbolTest, PaintsOnAFineScreenWithEveryPixelItHas)
     EXPECT_EQ(screen, imageOf(icon, 32));
 }
 
-TEST_F(SymbolTest, StaysInTheMiddleOfAPlaceThatIsNotSquare)
+TEST_F(SymbolTest, staysInTheMiddleOfAPlaceThatIsNotSquare)
 {
     const QRect ink = inkOf(
         symbolIcon(u"clock"_s).pixmap(QSize(96, 32), 1.0).toImage().convertToFormat(QImage::Format_ARGB32));
@@ -155,12 +155,12 @@ TEST_F(SymbolTest, StaysInTheMiddleOfAPlaceThatIsNotSquare)
     EXPECT_EQ(ink.center(), QPoint(47, 15));
 }
 
-TEST_F(SymbolTest, OneIsNotTakenForAnother)
+TEST_F(SymbolTest, oneIsNotTakenForAnother)
 {
     EXPECT_NE(imageOf(symbolIcon(u"globe"_s), 16), imageOf(symbolIcon(u"safari"_s), 16));
 }
 
-TEST_F(SymbolTest, TheProgramHasAnIconOfItsOwn)
+TEST_F(SymbolTest, theProgramHasAnIconOfItsOwn)
 {
     const QIcon icon = applicationIcon();
 
@@ -177,13 +177,13 @@ protected:
     static QIcon icon() { return symbolIcon(QString::fromLatin1(GetParam())); }
 };
 
-TEST_P(EverySymbolTest, IsThere)
+TEST_P(EverySymbolTest, isThere)
 {
     EXPECT_FALSE(icon().isNull());
     EXPECT_EQ(colorOf(imageOf(icon(), 64)), text);
 }
 
-TEST_P(EverySymbolTest, FillsItsPlaceLikeTheOthersDo)
+TEST_P(EverySymbolTest, fillsItsPlaceLikeTheOthersDo)
 {
     constexpr int side = 160;
     constexpr int middle = side / 2;

@@ -34,7 +34,7 @@ protected:
     MenuBarIcon icon{services, menu};
 };
 
-TEST_F(MenuBarIconTest, ShowsTheSteeringWheelWithTheMenu)
+TEST_F(MenuBarIconTest, showsTheSteeringWheelWithTheMenu)
 {
     const auto *tray = icon.findChild<QSystemTrayIcon *>(u"trayIcon"_s);
     ASSERT_NE(tray, nullptr);
@@ -47,12 +47,12 @@ TEST_F(MenuBarIconTest, ShowsTheSteeringWheelWithTheMenu)
     EXPECT_TRUE(tray->isVisible());
 }
 
-TEST_F(MenuBarIconTest, SaysWhereThereIsNoTray)
+TEST_F(MenuBarIconTest, saysWhereThereIsNoTray)
 {
     EXPECT_FALSE(MenuBarIcon::isAvailable()) << "there is none without a display";
 }
 
-TEST_F(MenuBarIconTest, ANormalLaunchOpensTheWindowOnce)
+TEST_F(MenuBarIconTest, aNormalLaunchOpensTheWindowOnce)
 {
     EXPECT_EQ(opened, 0);
     icon.appear();
@@ -64,7 +64,7 @@ TEST_F(MenuBarIconTest, ANormalLaunchOpensTheWindowOnce)
     EXPECT_EQ(opened, 1);
 }
 
-TEST_F(MenuBarIconTest, ALaunchAtLoginOpensNothing)
+TEST_F(MenuBarIconTest, aLaunchAtLoginOpensNothing)
 {
     delegate.applicationWillFinishLaunching(true);
     icon.appear();
@@ -73,7 +73,7 @@ TEST_F(MenuBarIconTest, ALaunchAtLoginOpensNothing)
     EXPECT_EQ(opened, 1) << "the delegate knows how";
 }
 
-TEST_F(MenuBarIconTest, SafariThatIsBlockedAlreadyOpensTheWindow)
+TEST_F(MenuBarIconTest, safariThatIsBlockedAlreadyOpensTheWindow)
 {
     addSafari();
     block();
@@ -84,7 +84,7 @@ TEST_F(MenuBarIconTest, SafariThatIsBlockedAlreadyOpensTheWindow)
     EXPECT_EQ(activation.timesInFront, 1);
 }
 
-TEST_F(MenuBarIconTest, EachTimeSafariBecomesBlockedTheWindowOpens)
+TEST_F(MenuBarIconTest, eachTimeSafariBecomesBlockedTheWindowOpens)
 {
     addSafari();
     delegate.applicationWillFinishLaunching(true);
@@ -104,7 +104,7 @@ TEST_F(MenuBarIconTest, EachTimeSafariBecomesBlockedTheWindowOpens)
     EXPECT_EQ(opened, 2);
 }
 
-TEST_F(MenuBarIconTest, AClickOpensTheMenu)
+TEST_F(MenuBarIconTest, aClickOpensTheMenu)
 {
     icon.appear();
     menu.addAction(u"item"_s);

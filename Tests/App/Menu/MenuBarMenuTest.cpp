@@ -67,7 +67,7 @@ private:
     }
 };
 
-TEST_F(MenuBarMenuTest, BeforeTheFirstLoadItHasNoUpdateTimeAndIsReading)
+TEST_F(MenuBarMenuTest, beforeTheFirstLoadItHasNoUpdateTimeAndIsReading)
 {
     EXPECT_EQ(texts(menu), (QStringList{u"Open Roamlet"_s, u"Recently Visited"_s, u"---"_s, u"Reload"_s,
                                         u"Settings…"_s, u"---"_s, u"Quit Roamlet"_s}));
@@ -75,7 +75,7 @@ TEST_F(MenuBarMenuTest, BeforeTheFirstLoadItHasNoUpdateTimeAndIsReading)
     EXPECT_FALSE(recent().actions().first()->isEnabled());
 }
 
-TEST_F(MenuBarMenuTest, AfterALoadItTellsTheTime)
+TEST_F(MenuBarMenuTest, afterALoadItTellsTheTime)
 {
     const QLocale before;
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
@@ -93,14 +93,14 @@ TEST_F(MenuBarMenuTest, AfterALoadItTellsTheTime)
     EXPECT_FALSE(item(u"updated"_s).isEnabled());
 }
 
-TEST_F(MenuBarMenuTest, WithoutHistoryTheSubmenuSaysSo)
+TEST_F(MenuBarMenuTest, withoutHistoryTheSubmenuSaysSo)
 {
     loadNow(library);
     EXPECT_EQ(recentTitles(), QStringList{u"No history"_s});
     EXPECT_FALSE(recent().actions().first()->isEnabled());
 }
 
-TEST_F(MenuBarMenuTest, ItemsHaveTheirShortcuts)
+TEST_F(MenuBarMenuTest, itemsHaveTheirShortcuts)
 {
     EXPECT_EQ(item(u"open"_s).shortcut(), QKeySequence(u"Ctrl+O"_s));
     EXPECT_EQ(item(u"reload"_s).shortcut(), QKeySequence(u"Ctrl+R"_s));
@@ -110,21 +110,21 @@ TEST_F(MenuBarMenuTest, ItemsHaveTheirShortcuts)
     EXPECT_TRUE(recent().menuAction()->shortcut().isEmpty());
 }
 
-TEST_F(MenuBarMenuTest, OpenOpensTheWindowAndComesToTheFront)
+TEST_F(MenuBarMenuTest, openOpensTheWindowAndComesToTheFront)
 {
     choose(menu, item(u"open"_s));
     EXPECT_EQ(events, QStringList{u"window/0"_s});
     EXPECT_EQ(activation.timesInFront, 1);
 }
 
-TEST_F(MenuBarMenuTest, SettingsOpensTheSettingsAndThenComesToTheFront)
+TEST_F(MenuBarMenuTest, settingsOpensTheSettingsAndThenComesToTheFront)
 {
     choose(menu, item(u"settings"_s));
     EXPECT_EQ(events, QStringList{u"settings/0"_s});
     EXPECT_EQ(activation.timesInFront, 1);
 }
 
-TEST_F(MenuBarMenuTest, ReloadReadsEverySource)
+TEST_F(MenuBarMenuTest, reloadReadsEverySource)
 {
     addChromium();
     loadNow(library);
@@ -135,13 +135,13 @@ TEST_F(MenuBarMenuTest, ReloadReadsEverySource)
     EXPECT_EQ(takeReads(), (QStringList{u"chrome/Default"_s, u"chrome/Profile 1"_s, u"edge/Default"_s}));
 }
 
-TEST_F(MenuBarMenuTest, QuitQuits)
+TEST_F(MenuBarMenuTest, quitQuits)
 {
     choose(menu, item(u"quit"_s));
     EXPECT_EQ(events, QStringList{u"quit/0"_s});
 }
 
-TEST_F(MenuBarMenuTest, AnUpdateThatWaitsHasAnItemThatComesToTheFrontFirst)
+TEST_F(MenuBarMenuTest, anUpdateThatWaitsHasAnItemThatComesToTheFrontFirst)
 {
     EXPECT_FALSE(texts(menu).contains(u"Update Available…"_s));
     menu.setUpdateIsWaiting(true);
@@ -154,7 +154,7 @@ TEST_F(MenuBarMenuTest, AnUpdateThatWaitsHasAnItemThatComesToTheFrontFirst)
     EXPECT_FALSE(texts(menu).contains(u"Update Available…"_s));
 }
 
-TEST_F(MenuBarMenuTest, ShowsThePagesVisitedLastInTheirOrder)
+TEST_F(MenuBarMenuTest, showsThePagesVisitedLastInTheirOrder)
 {
     addChromium();
     addSafari();
@@ -163,7 +163,7 @@ TEST_F(MenuBarMenuTest, ShowsThePagesVisitedLastInTheirOrder)
     EXPECT_EQ(recentTitles(), (QStringList{u"b1"_s, u"e1"_s, u"s1"_s, u"a1"_s, u"a2"_s}));
 }
 
-TEST_F(MenuBarMenuTest, PagesHaveTheirBrowsersIcon)
+TEST_F(MenuBarMenuTest, pagesHaveTheirBrowsersIcon)
 {
     workspace.icons = {{u"chrome"_s, Qt::green}, {u"edge"_s, Qt::blue}};
     addChromium();
@@ -175,7 +175,7 @@ TEST_F(MenuBarMenuTest, PagesHaveTheirBrowsersIcon)
     EXPECT_EQ(color(1), QColor(Qt::blue));
 }
 
-TEST_F(MenuBarMenuTest, APageOpensInTheBrowserAndProfileThatItCameFrom)
+TEST_F(MenuBarMenuTest, aPageOpensInTheBrowserAndProfileThatItCameFrom)
 {
     addChromium();
     addSafari();
@@ -206,7 +206,7 @@ TEST_F(MenuBarMenuTest, aPageOpensInTheInstallationThatItCameFrom)
                             {u"profile"_s, u"chrome@beta"_s, u"Default"_s, u"https://beta.example/"_s}}));
 }
 
-TEST_F(MenuBarMenuTest, WhileItIsOpenItDoesNotChange)
+TEST_F(MenuBarMenuTest, whileItIsOpenItDoesNotChange)
 {
     addChromium();
     loadNow(library);
@@ -219,7 +219,7 @@ TEST_F(MenuBarMenuTest, WhileItIsOpenItDoesNotChange)
     ASSERT_TRUE(waitUntil([this] { return recentTitles().first() == u"newest"; }));
 }
 
-TEST_F(MenuBarMenuTest, AMenuWhoseEndNobodyReportsIsUpToDateWhenItOpensAgain)
+TEST_F(MenuBarMenuTest, aMenuWhoseEndNobodyReportsIsUpToDateWhenItOpensAgain)
 {
     addChromium();
     loadNow(library);
@@ -231,7 +231,7 @@ TEST_F(MenuBarMenuTest, AMenuWhoseEndNobodyReportsIsUpToDateWhenItOpensAgain)
     EXPECT_EQ(recentTitles().first(), u"newest"_s);
 }
 
-TEST_F(MenuBarMenuTest, ThePageThatIsChosenIsTheOneThatWasShown)
+TEST_F(MenuBarMenuTest, thePageThatIsChosenIsTheOneThatWasShown)
 {
     addChromium();
     loadNow(library);
@@ -245,7 +245,7 @@ TEST_F(MenuBarMenuTest, ThePageThatIsChosenIsTheOneThatWasShown)
     EXPECT_EQ(workspace.requests.first().last(), u"https://b1.example/"_s);
 }
 
-TEST_F(MenuBarMenuTest, ShortcutsWorkWhileItIsOpen)
+TEST_F(MenuBarMenuTest, shortcutsWorkWhileItIsOpen)
 {
     menu.popup(QPoint(0, 0));
     QTest::keyClick(&menu, Qt::Key_Q, Qt::ControlModifier);
@@ -260,7 +260,7 @@ TEST_F(MenuBarMenuTest, ShortcutsWorkWhileItIsOpen)
     EXPECT_EQ(events.last(), u"window/1"_s) << "the arrows work as in any menu";
 }
 
-TEST_F(MenuBarMenuTest, ShortcutsWorkWhileTheSubmenuIsOpen)
+TEST_F(MenuBarMenuTest, shortcutsWorkWhileTheSubmenuIsOpen)
 {
     menu.popup(QPoint(0, 0));
     recent().popup(QPoint(200, 0));
@@ -270,7 +270,7 @@ TEST_F(MenuBarMenuTest, ShortcutsWorkWhileTheSubmenuIsOpen)
     EXPECT_FALSE(menu.isVisible());
 }
 
-TEST_F(MenuBarMenuTest, AnEndlessTitleIsCutInTheItemAndInTheTip)
+TEST_F(MenuBarMenuTest, anEndlessTitleIsCutInTheItemAndInTheTip)
 {
     addChromium();
     setChromeHistory(u"Default"_s, {QString(1'000'000, u'w')}, newest + 1000);
@@ -281,7 +281,7 @@ TEST_F(MenuBarMenuTest, AnEndlessTitleIsCutInTheItemAndInTheTip)
     EXPECT_LT(recent().sizeHint().width(), 1500);
 }
 
-TEST_F(MenuBarMenuTest, TitlesAreNoMarkupAndHaveNoLetterToPress)
+TEST_F(MenuBarMenuTest, titlesAreNoMarkupAndHaveNoLetterToPress)
 {
     addChromium();
     setChromeHistory(u"Default"_s, {u"<b>Q&A</b>"_s}, newest + 1000);

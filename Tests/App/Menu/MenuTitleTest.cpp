@@ -17,7 +17,7 @@ QString letters(qsizetype count)
     return QString(count, u'x');
 }
 
-TEST(MenuTitle, SixtyCharactersAreShownWholeAndOneMoreIsCut)
+TEST(MenuTitle, sixtyCharactersAreShownWholeAndOneMoreIsCut)
 {
     EXPECT_EQ(MenuTitle::shortened({}), QString());
     EXPECT_EQ(MenuTitle::shortened(letters(59)), letters(59));
@@ -26,7 +26,7 @@ TEST(MenuTitle, SixtyCharactersAreShownWholeAndOneMoreIsCut)
     EXPECT_EQ(MenuTitle::shortened(letters(1'000'000)), QString(letters(58) % u'…'));
 }
 
-TEST(MenuTitle, BlanksAtTheEndsOfTheCutGo)
+TEST(MenuTitle, blanksAtTheEndsOfTheCutGo)
 {
     const QString rest = letters(40);
     EXPECT_EQ(MenuTitle::shortened(letters(57) % u' ' % rest), QString(letters(57) % u'…'));
@@ -38,7 +38,7 @@ TEST(MenuTitle, BlanksAtTheEndsOfTheCutGo)
         << "nothing is cut, nothing is trimmed";
 }
 
-TEST(MenuTitle, CharactersAreWhatPeopleTakeForOne)
+TEST(MenuTitle, charactersAreWhatPeopleTakeForOne)
 {
     for (const QString &character :
          {u"é"_s, u"e\u0301"_s, u"😀"_s, u"👨‍👩‍👧"_s, u"🇩🇪"_s, u"각"_s, u"\r\n"_s}) {
@@ -47,7 +47,7 @@ TEST(MenuTitle, CharactersAreWhatPeopleTakeForOne)
     }
 }
 
-TEST(MenuTitle, ACharacterOfAnyLengthIsStillOne)
+TEST(MenuTitle, aCharacterOfAnyLengthIsStillOne)
 {
     const QString tower = u'o' % QString(2'000, QChar(0x0301));
     EXPECT_EQ(MenuTitle::shortened(tower.repeated(60)), tower.repeated(60));
@@ -57,7 +57,7 @@ TEST(MenuTitle, ACharacterOfAnyLengthIsStillOne)
     EXPECT_EQ(MenuTitle::shortened(endless), endless);
 }
 
-TEST(MenuTitle, InAMenuItIsOneLineWithoutALetterToPress)
+TEST(MenuTitle, inAMenuItIsOneLineWithoutALetterToPress)
 {
     EXPECT_EQ(MenuTitle::inMenu(u"Q&A && more"_s), u"Q&&A &&&& more"_s);
     EXPECT_EQ(MenuTitle::inMenu(u"a\tb\nc"_s), u"a b c"_s) << "a tab would set a shortcut apart";

@@ -77,7 +77,7 @@ protected:
                           u"Chrome - Work"_s, u"Edge - Office"_s};
 };
 
-TEST_F(BrowserProfileSettingsTest, ListsEveryProfileInTheUsersOrderAndSaysWhatForBelow)
+TEST_F(BrowserProfileSettingsTest, listsEveryProfileInTheUsersOrderAndSaysWhatForBelow)
 {
     EXPECT_EQ(labels(), all);
     const auto *note = tab.findChild<NoteLabel *>();
@@ -88,7 +88,7 @@ TEST_F(BrowserProfileSettingsTest, ListsEveryProfileInTheUsersOrderAndSaysWhatFo
     EXPECT_GT(note->y(), list().geometry().bottom());
 }
 
-TEST_F(BrowserProfileSettingsTest, ASwitchTurnsItsProfileOffAndOnAgain)
+TEST_F(BrowserProfileSettingsTest, aSwitchTurnsItsProfileOffAndOnAgain)
 {
     clickSwitch(3);
     EXPECT_FALSE(isOn(3));
@@ -133,7 +133,7 @@ TEST_F(BrowserProfileSettingsTest, anInstallationIsSwitchedAndMovedByItself)
     EXPECT_TRUE(isOn(7));
 }
 
-TEST_F(BrowserProfileSettingsTest, OnlyTheSwitchTurnsIt)
+TEST_F(BrowserProfileSettingsTest, onlyTheSwitchTurnsIt)
 {
     QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, center(2));
     EXPECT_TRUE(isOn(2));
@@ -145,7 +145,7 @@ TEST_F(BrowserProfileSettingsTest, OnlyTheSwitchTurnsIt)
     EXPECT_EQ(list().currentIndex().row(), 2);
 }
 
-TEST_F(BrowserProfileSettingsTest, SpaceTurnsTheCurrentProfile)
+TEST_F(BrowserProfileSettingsTest, spaceTurnsTheCurrentProfile)
 {
     list().setFocus();
     list().setCurrentIndex(row(0));
@@ -158,7 +158,7 @@ TEST_F(BrowserProfileSettingsTest, SpaceTurnsTheCurrentProfile)
     EXPECT_EQ(list().currentIndex().row(), 2) << "a reload leaves the keyboard where it is";
 }
 
-TEST_F(BrowserProfileSettingsTest, SafarisMainSourceIsAlwaysOnAndSaysWhy)
+TEST_F(BrowserProfileSettingsTest, safarisMainSourceIsAlwaysOnAndSaysWhy)
 {
     clickSwitch(0);
     list().setCurrentIndex(row(0));
@@ -169,7 +169,7 @@ TEST_F(BrowserProfileSettingsTest, SafarisMainSourceIsAlwaysOnAndSaysWhy)
     EXPECT_EQ(row(0).data(Qt::ToolTipRole), u"Holds Safari's main bookmarks, so it's always on."_s);
 }
 
-TEST_F(BrowserProfileSettingsTest, OtherProfilesOfSafariCanBeTurnedOffAndHaveNoTip)
+TEST_F(BrowserProfileSettingsTest, otherProfilesOfSafariCanBeTurnedOffAndHaveNoTip)
 {
     EXPECT_EQ(row(1).data(Qt::ToolTipRole), QVariant());
     clickSwitch(1);
@@ -177,7 +177,7 @@ TEST_F(BrowserProfileSettingsTest, OtherProfilesOfSafariCanBeTurnedOffAndHaveNoT
     ASSERT_TRUE(waitUntil([this] { return !library.isLoading(); }));
 }
 
-TEST_F(BrowserProfileSettingsTest, DraggingMovesARow)
+TEST_F(BrowserProfileSettingsTest, draggingMovesARow)
 {
     drag(4, 0, -3);
     EXPECT_EQ(labels(), (QStringList{all[4], all[0], all[1], all[2], all[3]}));
@@ -190,7 +190,7 @@ TEST_F(BrowserProfileSettingsTest, DraggingMovesARow)
     EXPECT_TRUE(list().selectionModel()->isRowSelected(2));
 }
 
-TEST_F(BrowserProfileSettingsTest, ARowCanBeDraggedBelowTheLast)
+TEST_F(BrowserProfileSettingsTest, aRowCanBeDraggedBelowTheLast)
 {
     const QPoint below(30, list().viewport()->height() + 50);
     QTest::mousePress(list().viewport(), Qt::LeftButton, {}, center(0));
@@ -199,7 +199,7 @@ TEST_F(BrowserProfileSettingsTest, ARowCanBeDraggedBelowTheLast)
     EXPECT_EQ(labels(), (QStringList{all[1], all[2], all[3], all[4], all[0]}));
 }
 
-TEST_F(BrowserProfileSettingsTest, ARowThatIsDroppedWhereItWasStoresNothing)
+TEST_F(BrowserProfileSettingsTest, aRowThatIsDroppedWhereItWasStoresNothing)
 {
     drag(2, 2, 3);
     drag(2, 2, -3);
@@ -208,7 +208,7 @@ TEST_F(BrowserProfileSettingsTest, ARowThatIsDroppedWhereItWasStoresNothing)
     EXPECT_FALSE(home.defaults.contains(u"sourceOrder"_s));
 }
 
-TEST_F(BrowserProfileSettingsTest, EscapeEndsTheDragAndNothingMoves)
+TEST_F(BrowserProfileSettingsTest, escapeEndsTheDragAndNothingMoves)
 {
     QTest::mousePress(list().viewport(), Qt::LeftButton, {}, center(4));
     moveMouse(center(0));
@@ -218,7 +218,7 @@ TEST_F(BrowserProfileSettingsTest, EscapeEndsTheDragAndNothingMoves)
     EXPECT_TRUE(tab.isVisible());
 }
 
-TEST_F(BrowserProfileSettingsTest, TheSwitchIsNoHandle)
+TEST_F(BrowserProfileSettingsTest, theSwitchIsNoHandle)
 {
     QTest::mousePress(list().viewport(), Qt::LeftButton, {}, list().switchRect(row(4)).center());
     moveMouse(center(0));
@@ -226,7 +226,7 @@ TEST_F(BrowserProfileSettingsTest, TheSwitchIsNoHandle)
     EXPECT_EQ(labels(), all);
 }
 
-TEST_F(BrowserProfileSettingsTest, AReloadDuringADragDropsTheRowThatIsThen)
+TEST_F(BrowserProfileSettingsTest, aReloadDuringADragDropsTheRowThatIsThen)
 {
     QTest::mousePress(list().viewport(), Qt::LeftButton, {}, center(4));
     moveMouse(center(1));
@@ -240,7 +240,7 @@ TEST_F(BrowserProfileSettingsTest, AReloadDuringADragDropsTheRowThatIsThen)
     EXPECT_EQ(labels(), (QStringList{all[0], all[1], all[2]})) << "the dragged profile is gone";
 }
 
-TEST_F(BrowserProfileSettingsTest, AltOrControlWithTheArrowsMoveTheCurrentRow)
+TEST_F(BrowserProfileSettingsTest, altOrControlWithTheArrowsMoveTheCurrentRow)
 {
     list().setFocus();
     list().setCurrentIndex(row(1));
@@ -258,7 +258,7 @@ TEST_F(BrowserProfileSettingsTest, AltOrControlWithTheArrowsMoveTheCurrentRow)
     EXPECT_EQ(labels(), (QStringList{all[1], all[0], all[2], all[3], all[4]})) << "and so is the bottom";
 }
 
-TEST_F(BrowserProfileSettingsTest, WithoutProfilesTheListSaysWhyItIsEmpty)
+TEST_F(BrowserProfileSettingsTest, withoutProfilesTheListSaysWhyItIsEmpty)
 {
     TestHome empty;
     Library nothing(empty.platform());
@@ -270,7 +270,7 @@ TEST_F(BrowserProfileSettingsTest, WithoutProfilesTheListSaysWhyItIsEmpty)
     EXPECT_EQ(otherList->placeholderText(), u"No browser profiles were found."_s);
 }
 
-TEST_F(BrowserProfileSettingsTest, AnEndlessNameIsCut)
+TEST_F(BrowserProfileSettingsTest, anEndlessNameIsCut)
 {
     change([&] {
         sample::writeLocalState(chromeFile(u"Local State"_s),
@@ -281,7 +281,7 @@ TEST_F(BrowserProfileSettingsTest, AnEndlessNameIsCut)
     EXPECT_LE(list().visualRect(row(2)).width(), list().viewport()->width());
 }
 
-TEST_F(BrowserProfileSettingsTest, TheModelIsAProperOne)
+TEST_F(BrowserProfileSettingsTest, theModelIsAProperOne)
 {
     ProfileListModel own(library);
     const QAbstractItemModelTester tester(&own, QAbstractItemModelTester::FailureReportingMode::Fatal);

@@ -57,7 +57,7 @@ protected:
     std::unique_ptr<SettingsWindow> window;
 };
 
-TEST_F(GeneralSettingsTest, TheWindowHasTwoTabsWithSymbols)
+TEST_F(GeneralSettingsTest, theWindowHasTwoTabsWithSymbols)
 {
     open();
     auto *tabs = window->findChild<QTabWidget *>();
@@ -71,7 +71,7 @@ TEST_F(GeneralSettingsTest, TheWindowHasTwoTabsWithSymbols)
     EXPECT_EQ(tabs->currentIndex(), 1);
 }
 
-TEST_F(GeneralSettingsTest, EscapeClosesTheWindowAndItOpensAgain)
+TEST_F(GeneralSettingsTest, escapeClosesTheWindowAndItOpensAgain)
 {
     open();
     QTest::keyClick(window.get(), Qt::Key_Escape);
@@ -80,7 +80,7 @@ TEST_F(GeneralSettingsTest, EscapeClosesTheWindowAndItOpensAgain)
     EXPECT_TRUE(window->isVisible());
 }
 
-TEST_F(GeneralSettingsTest, OpenAtLoginShowsTheServicesStatus)
+TEST_F(GeneralSettingsTest, openAtLoginShowsTheServicesStatus)
 {
     open();
     EXPECT_FALSE(atLogin().isChecked());
@@ -93,7 +93,7 @@ TEST_F(GeneralSettingsTest, OpenAtLoginShowsTheServicesStatus)
     EXPECT_FALSE(atLogin().isChecked());
 }
 
-TEST_F(GeneralSettingsTest, AStatusThatChangesMeanwhileShowsWhenTheTabAppears)
+TEST_F(GeneralSettingsTest, aStatusThatChangesMeanwhileShowsWhenTheTabAppears)
 {
     open();
     window->close();
@@ -103,7 +103,7 @@ TEST_F(GeneralSettingsTest, AStatusThatChangesMeanwhileShowsWhenTheTabAppears)
     EXPECT_EQ(login.registrations, 0) << "showing it is no change";
 }
 
-TEST_F(GeneralSettingsTest, OpenAtLoginRegistersAndUnregisters)
+TEST_F(GeneralSettingsTest, openAtLoginRegistersAndUnregisters)
 {
     open();
     QTest::mouseClick(&atLogin(), Qt::LeftButton);
@@ -116,14 +116,14 @@ TEST_F(GeneralSettingsTest, OpenAtLoginRegistersAndUnregisters)
     EXPECT_FALSE(atLogin().isChecked());
 }
 
-TEST_F(GeneralSettingsTest, AClickOnTheWordsTurnsTheSwitch)
+TEST_F(GeneralSettingsTest, aClickOnTheWordsTurnsTheSwitch)
 {
     open();
     QTest::mouseClick(atLogin().parentWidget(), Qt::LeftButton, {}, QPoint(5, 5));
     EXPECT_EQ(login.currentStatus, Status::Enabled);
 }
 
-TEST_F(GeneralSettingsTest, AFailedRegistrationFlipsTheSwitchBackAndSaysWhyInRed)
+TEST_F(GeneralSettingsTest, aFailedRegistrationFlipsTheSwitchBackAndSaysWhyInRed)
 {
     login.error = u"<b>Operation not permitted</b>"_s;
     open();
@@ -142,7 +142,7 @@ TEST_F(GeneralSettingsTest, AFailedRegistrationFlipsTheSwitchBackAndSaysWhyInRed
     EXPECT_FALSE(note().isVisible());
 }
 
-TEST_F(GeneralSettingsTest, AFailedRegistrationIsNotToldAgainWhenTheWindowComesBack)
+TEST_F(GeneralSettingsTest, aFailedRegistrationIsNotToldAgainWhenTheWindowComesBack)
 {
     login.error = u"no"_s;
     open();
@@ -155,7 +155,7 @@ TEST_F(GeneralSettingsTest, AFailedRegistrationIsNotToldAgainWhenTheWindowComesB
     EXPECT_FALSE(note().isVisible());
 }
 
-TEST_F(GeneralSettingsTest, AFailedUnregistrationLeavesTheSwitchOn)
+TEST_F(GeneralSettingsTest, aFailedUnregistrationLeavesTheSwitchOn)
 {
     login.currentStatus = Status::Enabled;
     login.error = u"no"_s;
@@ -165,7 +165,7 @@ TEST_F(GeneralSettingsTest, AFailedUnregistrationLeavesTheSwitchOn)
     EXPECT_EQ(note().text(), u"no"_s);
 }
 
-TEST_F(GeneralSettingsTest, ARegistrationThatNeedsApprovalSaysSo)
+TEST_F(GeneralSettingsTest, aRegistrationThatNeedsApprovalSaysSo)
 {
     /// The user has switched the entry off in the system's settings.
     class PendingLoginService final : public LoginService
@@ -192,7 +192,7 @@ TEST_F(GeneralSettingsTest, ARegistrationThatNeedsApprovalSaysSo)
     EXPECT_EQ(hint->tone(), NoteLabel::Tone::Secondary);
 }
 
-TEST_F(GeneralSettingsTest, ShowDockIconIsOffUnlessStoredOtherwise)
+TEST_F(GeneralSettingsTest, showDockIconIsOffUnlessStoredOtherwise)
 {
     open();
     EXPECT_FALSE(dockIcon().isChecked());
@@ -205,7 +205,7 @@ TEST_F(GeneralSettingsTest, ShowDockIconIsOffUnlessStoredOtherwise)
     EXPECT_TRUE(activation.policies.isEmpty()) << "showing it is no change";
 }
 
-TEST_F(GeneralSettingsTest, ShowDockIconIsStoredAndSetsThePolicyBeforeComingToTheFront)
+TEST_F(GeneralSettingsTest, showDockIconIsStoredAndSetsThePolicyBeforeComingToTheFront)
 {
     open();
     QTest::mouseClick(&dockIcon(), Qt::LeftButton);
@@ -219,7 +219,7 @@ TEST_F(GeneralSettingsTest, ShowDockIconIsStoredAndSetsThePolicyBeforeComingToTh
     EXPECT_EQ(activation.timesInFront, 2);
 }
 
-TEST_F(GeneralSettingsTest, WhileTheMainWindowIsOpenItKeepsTheDockIcon)
+TEST_F(GeneralSettingsTest, whileTheMainWindowIsOpenItKeepsTheDockIcon)
 {
     delegate.mainWindowDidAppear();
     home.defaults.setBoolean(u"showDockIcon"_s, true);
@@ -232,7 +232,7 @@ TEST_F(GeneralSettingsTest, WhileTheMainWindowIsOpenItKeepsTheDockIcon)
     EXPECT_EQ(activation.current, Policy::Accessory);
 }
 
-TEST_F(GeneralSettingsTest, WithoutATrayTheSettingsStayInTheTaskSwitcher)
+TEST_F(GeneralSettingsTest, withoutATrayTheSettingsStayInTheTaskSwitcher)
 {
     hasTray = false;
     home.defaults.setBoolean(u"showDockIcon"_s, true);
@@ -267,7 +267,7 @@ protected:
     const QString feed = u"https://updates.example/feed.xml"_s;
 };
 
-TEST_F(UpdateSettingsTest, ABuildWithoutAFeedHasNoSettingsForUpdates)
+TEST_F(UpdateSettingsTest, aBuildWithoutAFeedHasNoSettingsForUpdates)
 {
     openWith({});
     EXPECT_EQ(automatic(), nullptr);
@@ -276,7 +276,7 @@ TEST_F(UpdateSettingsTest, ABuildWithoutAFeedHasNoSettingsForUpdates)
     EXPECT_EQ(automatic(), nullptr);
 }
 
-TEST_F(UpdateSettingsTest, TheSwitchShowsAndSetsTheAutomaticChecks)
+TEST_F(UpdateSettingsTest, theSwitchShowsAndSetsTheAutomaticChecks)
 {
     openWith(feed);
     ASSERT_NE(automatic(), nullptr);
@@ -292,7 +292,7 @@ TEST_F(UpdateSettingsTest, TheSwitchShowsAndSetsTheAutomaticChecks)
     EXPECT_TRUE(automatic()->isChecked()) << "it is read whenever the tab appears";
 }
 
-TEST_F(UpdateSettingsTest, TheButtonComesToTheFrontAndChecks)
+TEST_F(UpdateSettingsTest, theButtonComesToTheFrontAndChecks)
 {
     openWith(feed);
     EXPECT_EQ(check()->text(), u"Check for Updates…"_s);
@@ -302,7 +302,7 @@ TEST_F(UpdateSettingsTest, TheButtonComesToTheFrontAndChecks)
     EXPECT_EQ(activation.timesInFront, 1);
 }
 
-TEST_F(GeneralSettingsTest, EverySwitchSaysWhatItIs)
+TEST_F(GeneralSettingsTest, everySwitchSaysWhatItIs)
 {
     open();
     for (const Switch *each : window->findChildren<Switch *>()) {

@@ -22,7 +22,7 @@ protected:
     MemoryUserDefaults defaults;
 };
 
-TEST_F(LoginItemTest, TheSwitchRegistersAndUnregisters)
+TEST_F(LoginItemTest, theSwitchRegistersAndUnregisters)
 {
     EXPECT_EQ(LoginItem::set(true, service), std::nullopt);
     EXPECT_EQ(service.status(), LoginService::Status::Enabled);
@@ -30,7 +30,7 @@ TEST_F(LoginItemTest, TheSwitchRegistersAndUnregisters)
     EXPECT_EQ(service.status(), LoginService::Status::NotRegistered);
 }
 
-TEST_F(LoginItemTest, AFailureIsTheServicesOwnWords)
+TEST_F(LoginItemTest, aFailureIsTheServicesOwnWords)
 {
     service.error = u"Permission denied"_s;
     EXPECT_EQ(LoginItem::set(true, service), u"Permission denied"_s);
@@ -38,7 +38,7 @@ TEST_F(LoginItemTest, AFailureIsTheServicesOwnWords)
     EXPECT_EQ(service.status(), LoginService::Status::NotRegistered);
 }
 
-TEST_F(LoginItemTest, TheFirstLaunchOfAnInstalledCopyRegistersOnce)
+TEST_F(LoginItemTest, theFirstLaunchOfAnInstalledCopyRegistersOnce)
 {
     LoginItem::setUpOnFirstLaunch(service, defaults);
     EXPECT_EQ(service.status(), LoginService::Status::Enabled);
@@ -50,7 +50,7 @@ TEST_F(LoginItemTest, TheFirstLaunchOfAnInstalledCopyRegistersOnce)
     EXPECT_EQ(service.registrations, 1);
 }
 
-TEST_F(LoginItemTest, ACopyThatWasNotInstalledIsNeverRegistered)
+TEST_F(LoginItemTest, aCopyThatWasNotInstalledIsNeverRegistered)
 {
     service.isInstalled = false;
     LoginItem::setUpOnFirstLaunch(service, defaults);
@@ -58,7 +58,7 @@ TEST_F(LoginItemTest, ACopyThatWasNotInstalledIsNeverRegistered)
     EXPECT_FALSE(defaults.contains(u"loginItemSetUp"_s));
 }
 
-TEST_F(LoginItemTest, AFailureOnTheFirstLaunchIsNotTriedAgain)
+TEST_F(LoginItemTest, aFailureOnTheFirstLaunchIsNotTriedAgain)
 {
     service.error = u"Permission denied"_s;
     LoginItem::setUpOnFirstLaunch(service, defaults);

@@ -18,7 +18,7 @@ namespace roamlet::testing
 
 using namespace std::chrono_literals;
 
-TEST(BackgroundRefineRunnerTest, WaitsOnTheClock)
+TEST(BackgroundRefineRunnerTest, waitsOnTheClock)
 {
     FakeClock clock;
     BackgroundRefineRunner runner(clock);
@@ -30,7 +30,7 @@ TEST(BackgroundRefineRunnerTest, WaitsOnTheClock)
     EXPECT_EQ(calls, 1);
 }
 
-TEST(BackgroundRefineRunnerTest, WorksElsewhereAndDeliversHere)
+TEST(BackgroundRefineRunnerTest, worksElsewhereAndDeliversHere)
 {
     const FakeClock clock;
     BackgroundRefineRunner runner(clock);
@@ -43,7 +43,7 @@ TEST(BackgroundRefineRunnerTest, WorksElsewhereAndDeliversHere)
     EXPECT_NE(worker, receiver);
 }
 
-TEST(BackgroundRefineRunnerTest, CallsNothingOnceItIsGone)
+TEST(BackgroundRefineRunnerTest, callsNothingOnceItIsGone)
 {
     FakeClock clock;
     int calls = 0;

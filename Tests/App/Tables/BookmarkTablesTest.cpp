@@ -66,7 +66,7 @@ using BookmarkTreeTest = BookmarkTablesTest;
 
 } // namespace
 
-TEST_F(BookmarkTableTest, BookmarksHaveTheBrowsersOrderAtFirst)
+TEST_F(BookmarkTableTest, bookmarksHaveTheBrowsersOrderAtFirst)
 {
     BookmarkTable table(services());
     show(table);
@@ -79,7 +79,7 @@ TEST_F(BookmarkTableTest, BookmarksHaveTheBrowsersOrderAtFirst)
     EXPECT_EQ(table.view().header()->sortIndicatorSection(), -1);
 }
 
-TEST_F(BookmarkTableTest, ASourceAndASiteNarrowTheList)
+TEST_F(BookmarkTableTest, aSourceAndASiteNarrowTheList)
 {
     BookmarkTable table(services());
     show(table, {.sourceID = u"chrome/Profile 1"_s});
@@ -93,7 +93,7 @@ TEST_F(BookmarkTableTest, ASourceAndASiteNarrowTheList)
     EXPECT_EQ(table.view().emptyText(), u"No bookmarks yet");
 }
 
-TEST_F(BookmarkTableTest, TypedWordsAreSearchedForAfterAShorterWait)
+TEST_F(BookmarkTableTest, typedWordsAreSearchedForAfterAShorterWait)
 {
     BookmarkTable table(services());
     show(table);
@@ -105,7 +105,7 @@ TEST_F(BookmarkTableTest, TypedWordsAreSearchedForAfterAShorterWait)
     EXPECT_EQ(titles(table), "Bread");
 }
 
-TEST_F(BookmarkTableTest, OnlyTheLastOfQuickKeysMakesAList)
+TEST_F(BookmarkTableTest, onlyTheLastOfQuickKeysMakesAList)
 {
     BookmarkTable table(services());
     show(table);
@@ -119,7 +119,7 @@ TEST_F(BookmarkTableTest, OnlyTheLastOfQuickKeysMakesAList)
     EXPECT_EQ(lists.size(), 1);
 }
 
-TEST_F(BookmarkTableTest, WhatIsTypedAndTakenBackMakesNoList)
+TEST_F(BookmarkTableTest, whatIsTypedAndTakenBackMakesNoList)
 {
     BookmarkTable table(services());
     show(table);
@@ -131,14 +131,14 @@ TEST_F(BookmarkTableTest, WhatIsTypedAndTakenBackMakesNoList)
     EXPECT_EQ(table.rowCount(), 5);
 }
 
-TEST_F(BookmarkTableTest, SitesAreSections)
+TEST_F(BookmarkTableTest, sitesAreSections)
 {
     BookmarkTable table(services());
     show(table, {.grouping = Grouping::Site});
     EXPECT_EQ(titles(table), "food.example Apple pie Bread work.example Report zoo.example Zebra Ant");
 }
 
-TEST_F(BookmarkTableTest, ABookmarkWithoutADateIsTheNewest)
+TEST_F(BookmarkTableTest, aBookmarkWithoutADateIsTheNewest)
 {
     BookmarkTable table(services());
     show(table);
@@ -148,7 +148,7 @@ TEST_F(BookmarkTableTest, ABookmarkWithoutADateIsTheNewest)
     EXPECT_EQ(titles(table), "Ant Apple pie Zebra Report Bread");
 }
 
-TEST_F(BookmarkTableTest, TheMenuEditsTheFolder)
+TEST_F(BookmarkTableTest, theMenuEditsTheFolder)
 {
     BookmarkTable table(services());
     show(table);
@@ -158,7 +158,7 @@ TEST_F(BookmarkTableTest, TheMenuEditsTheFolder)
               (QStringList{u"page"_s, u"chrome"_s, u"Default"_s, u"chrome://bookmarks/?id=6"_s}));
 }
 
-TEST_F(BookmarkTreeTest, TheOutermostFoldersAreOpenAtFirst)
+TEST_F(BookmarkTreeTest, theOutermostFoldersAreOpenAtFirst)
 {
     BookmarkTree table(services());
     show(table, {.sourceID = u"chrome/Default"_s});
@@ -169,7 +169,7 @@ TEST_F(BookmarkTreeTest, TheOutermostFoldersAreOpenAtFirst)
     EXPECT_EQ(table.rowCount(), 4);
 }
 
-TEST_F(BookmarkTreeTest, AllSourcesAreFolders)
+TEST_F(BookmarkTreeTest, allSourcesAreFolders)
 {
     BookmarkTree table(services());
     show(table);
@@ -177,7 +177,7 @@ TEST_F(BookmarkTreeTest, AllSourcesAreFolders)
     EXPECT_EQ(table.rowCount(), 5);
 }
 
-TEST_F(BookmarkTreeTest, TheUsersOrderOfTheSourcesIsFollowed)
+TEST_F(BookmarkTreeTest, theUsersOrderOfTheSourcesIsFollowed)
 {
     BookmarkTree table(services());
     show(table);
@@ -185,7 +185,7 @@ TEST_F(BookmarkTreeTest, TheUsersOrderOfTheSourcesIsFollowed)
     EXPECT_EQ(titles(table), "Edge - Office Chrome - Personal Bar + Chrome - Work Bar +");
 }
 
-TEST_F(BookmarkTreeTest, WhatIsOpenStaysSoAfterAReload)
+TEST_F(BookmarkTreeTest, whatIsOpenStaysSoAfterAReload)
 {
     BookmarkTree table(services());
     show(table, {.sourceID = u"chrome/Default"_s});
@@ -205,7 +205,7 @@ TEST_F(BookmarkTreeTest, WhatIsOpenStaysSoAfterAReload)
     EXPECT_EQ(titles(table), "Bar +");
 }
 
-TEST_F(BookmarkTreeTest, AFolderThatWasClosedAroundTheCurrentRowStaysClosedAfterAReload)
+TEST_F(BookmarkTreeTest, aFolderThatWasClosedAroundTheCurrentRowStaysClosedAfterAReload)
 {
     BookmarkTree table(services());
     show(table, {.sourceID = u"chrome/Default"_s});
@@ -219,7 +219,7 @@ TEST_F(BookmarkTreeTest, AFolderThatWasClosedAroundTheCurrentRowStaysClosedAfter
     EXPECT_EQ(titles(table), "Bar Zebra");
 }
 
-TEST_F(BookmarkTreeTest, ReturnOpensTheSelectedLinksAlsoFromAFolder)
+TEST_F(BookmarkTreeTest, returnOpensTheSelectedLinksAlsoFromAFolder)
 {
     BookmarkTree table(services());
     show(table, {.sourceID = u"chrome/Default"_s});
@@ -230,7 +230,7 @@ TEST_F(BookmarkTreeTest, ReturnOpensTheSelectedLinksAlsoFromAFolder)
     EXPECT_EQ(titles(table), "Bar Zebra Food + Ant");
 }
 
-TEST_F(BookmarkTreeTest, FoldersAreSortedInThemselves)
+TEST_F(BookmarkTreeTest, foldersAreSortedInThemselves)
 {
     BookmarkTree table(services());
     show(table, {.sourceID = u"chrome/Default"_s});
@@ -240,7 +240,7 @@ TEST_F(BookmarkTreeTest, FoldersAreSortedInThemselves)
     EXPECT_EQ(titles(table), "Bar Ant Food Apple pie Deep Bread Zebra");
 }
 
-TEST_F(BookmarkTreeTest, ReturnOpensAFolderInPlaceAndALinkInItsBrowser)
+TEST_F(BookmarkTreeTest, returnOpensAFolderInPlaceAndALinkInItsBrowser)
 {
     BookmarkTree table(services());
     show(table, {.sourceID = u"chrome/Default"_s});
@@ -254,7 +254,7 @@ TEST_F(BookmarkTreeTest, ReturnOpensAFolderInPlaceAndALinkInItsBrowser)
               (QStringList{u"profile"_s, u"chrome"_s, u"Default"_s, u"https://food.example/pie"_s}));
 }
 
-TEST_F(BookmarkTreeTest, AFolderThatClosesDeselectsWhatItHides)
+TEST_F(BookmarkTreeTest, aFolderThatClosesDeselectsWhatItHides)
 {
     BookmarkTree table(services());
     show(table, {.sourceID = u"chrome/Default"_s});
@@ -266,7 +266,7 @@ TEST_F(BookmarkTreeTest, AFolderThatClosesDeselectsWhatItHides)
     EXPECT_EQ(selectedTitles(table), QStringList{u"Ant"_s});
 }
 
-TEST_F(BookmarkTreeTest, AFolderHasAMenuOfItsOwn)
+TEST_F(BookmarkTreeTest, aFolderHasAMenuOfItsOwn)
 {
     BookmarkTree table(services());
     show(table, {.sourceID = u"chrome/Default"_s});
@@ -287,7 +287,7 @@ TEST_F(BookmarkTreeTest, aFolderOfFirefoxIsEditedWithoutNamingIt)
                                                         u"chrome://browser/content/places/places.xhtml"_s}));
 }
 
-TEST_F(BookmarkTreeTest, ASearchChangesNothing)
+TEST_F(BookmarkTreeTest, aSearchChangesNothing)
 {
     BookmarkTree table(services());
     show(table, {.sourceID = u"chrome/Default"_s});
@@ -297,7 +297,7 @@ TEST_F(BookmarkTreeTest, ASearchChangesNothing)
     });
 }
 
-TEST_F(BookmarkTreeTest, ASourceWithoutBookmarksSaysSo)
+TEST_F(BookmarkTreeTest, aSourceWithoutBookmarksSaysSo)
 {
     BookmarkTree table(services());
     show(table, {.sourceID = u"edge/Default"_s});

@@ -23,12 +23,12 @@ const ColumnLayout arranged{.order = {u"source"_s, u"title"_s},
 
 } // namespace
 
-TEST(ColumnLayoutTest, NothingStoredIsTheDefault)
+TEST(ColumnLayoutTest, nothingStoredIsTheDefault)
 {
     EXPECT_EQ(ColumnLayout::load(MemoryUserDefaults(), key), ColumnLayout());
 }
 
-TEST(ColumnLayoutTest, WhatWasSavedIsLoaded)
+TEST(ColumnLayoutTest, whatWasSavedIsLoaded)
 {
     MemoryUserDefaults defaults;
     arranged.save(defaults, key);
@@ -36,13 +36,13 @@ TEST(ColumnLayoutTest, WhatWasSavedIsLoaded)
     EXPECT_EQ(ColumnLayout::load(defaults, u"columns.mostVisited"_s), ColumnLayout());
 }
 
-TEST(ColumnLayoutTest, ItIsStoredAsJson)
+TEST(ColumnLayoutTest, itIsStoredAsJson)
 {
     EXPECT_EQ(arranged.toJson(),
               R"({"hidden":["visits"],"order":["source","title"],"widths":{"source":80,"title":300}})");
 }
 
-TEST(ColumnLayoutTest, AStoredTextOfAnotherTypeIsTheDefault)
+TEST(ColumnLayoutTest, aStoredTextOfAnotherTypeIsTheDefault)
 {
     MemoryUserDefaults defaults;
     defaults.setBoolean(key, true);
@@ -53,7 +53,7 @@ class UnreadableColumnLayout : public ::testing::TestWithParam<const char *>
 {
 };
 
-TEST_P(UnreadableColumnLayout, IsTheDefault)
+TEST_P(UnreadableColumnLayout, isTheDefault)
 {
     MemoryUserDefaults defaults;
     defaults.setBytes(key, GetParam());
@@ -72,7 +72,7 @@ INSTANTIATE_TEST_SUITE_P(Layouts, UnreadableColumnLayout,
                                            R"({"order":[],"hidden":[],"widths":{"title":1.5}})",
                                            R"({"order":["title"],"hidden":[],"widths":{})"));
 
-TEST(ColumnLayoutTest, AWidthOfZeroIsNoWidth)
+TEST(ColumnLayoutTest, aWidthOfZeroIsNoWidth)
 {
     const auto layout = ColumnLayout::fromJson(R"({"order":[],"hidden":["a"],"widths":{"a":0,"b":70}})");
     ASSERT_TRUE(layout);
@@ -80,7 +80,7 @@ TEST(ColumnLayoutTest, AWidthOfZeroIsNoWidth)
     EXPECT_EQ(layout->widths, (QHash<QString, int>{{u"b"_s, 70}}));
 }
 
-TEST(ColumnLayoutTest, NoColumnIsWiderThanAnyScreen)
+TEST(ColumnLayoutTest, noColumnIsWiderThanAnyScreen)
 {
     const auto layout =
         ColumnLayout::fromJson(R"({"order":["a","a"],"hidden":[],"widths":{"a":2000000000}})");

@@ -51,7 +51,7 @@ protected:
 
 } // namespace
 
-TEST_F(HistoryTableTest, TheNewestPagesComeFirst)
+TEST_F(HistoryTableTest, theNewestPagesComeFirst)
 {
     HistoryTable table(services(), Mode::Recent);
     show(table);
@@ -65,7 +65,7 @@ TEST_F(HistoryTableTest, TheNewestPagesComeFirst)
     EXPECT_FALSE(table.isCapped());
 }
 
-TEST_F(HistoryTableTest, TheMostVisitedPagesComeFirstInTheOtherMode)
+TEST_F(HistoryTableTest, theMostVisitedPagesComeFirstInTheOtherMode)
 {
     HistoryTable table(services(), Mode::MostVisited);
     show(table);
@@ -73,7 +73,7 @@ TEST_F(HistoryTableTest, TheMostVisitedPagesComeFirstInTheOtherMode)
     EXPECT_EQ(table.view().accessibleName(), u"Most Visited");
 }
 
-TEST_F(HistoryTableTest, OneSourceIsShownAlone)
+TEST_F(HistoryTableTest, oneSourceIsShownAlone)
 {
     HistoryTable table(services(), Mode::Recent);
     show(table, {.sourceID = u"chrome/Profile 1"_s});
@@ -82,7 +82,7 @@ TEST_F(HistoryTableTest, OneSourceIsShownAlone)
     EXPECT_EQ(titles(table), "");
 }
 
-TEST_F(HistoryTableTest, NothingIsReadUntilTheTableIsSeen)
+TEST_F(HistoryTableTest, nothingIsReadUntilTheTableIsSeen)
 {
     recordReads();
     HistoryTable table(services(), Mode::Recent);
@@ -93,7 +93,7 @@ TEST_F(HistoryTableTest, NothingIsReadUntilTheTableIsSeen)
     EXPECT_EQ(takeReads(), QStringList{u"chrome/Profile 1"_s});
 }
 
-TEST_F(HistoryTableTest, AHiddenTableCatchesUpWhenItIsShown)
+TEST_F(HistoryTableTest, aHiddenTableCatchesUpWhenItIsShown)
 {
     HistoryTable table(services(), Mode::Recent);
     show(table);
@@ -104,7 +104,7 @@ TEST_F(HistoryTableTest, AHiddenTableCatchesUpWhenItIsShown)
     EXPECT_EQ(titles(table), "e1 new today yesterday monday old");
 }
 
-TEST_F(HistoryTableTest, AReloadShowsNewPages)
+TEST_F(HistoryTableTest, aReloadShowsNewPages)
 {
     HistoryTable table(services(), Mode::Recent);
     show(table);
@@ -114,7 +114,7 @@ TEST_F(HistoryTableTest, AReloadShowsNewPages)
     EXPECT_EQ(table.rowCount(), 7);
 }
 
-TEST_F(HistoryTableTest, TypedWordsAreSearchedForAfterAWait)
+TEST_F(HistoryTableTest, typedWordsAreSearchedForAfterAWait)
 {
     HistoryTable table(services(), Mode::Recent);
     show(table);
@@ -129,7 +129,7 @@ TEST_F(HistoryTableTest, TypedWordsAreSearchedForAfterAWait)
     EXPECT_EQ(takeReads().size(), 3);
 }
 
-TEST_F(HistoryTableTest, EachKeyStartsTheWaitAnew)
+TEST_F(HistoryTableTest, eachKeyStartsTheWaitAnew)
 {
     HistoryTable table(services(), Mode::Recent);
     show(table);
@@ -145,7 +145,7 @@ TEST_F(HistoryTableTest, EachKeyStartsTheWaitAnew)
     EXPECT_EQ(takeReads().size(), 3) << "one search of three sources";
 }
 
-TEST_F(HistoryTableTest, AnEmptiedFieldIsSearchedAtOnce)
+TEST_F(HistoryTableTest, anEmptiedFieldIsSearchedAtOnce)
 {
     HistoryTable table(services(), Mode::Recent);
     show(table);
@@ -154,7 +154,7 @@ TEST_F(HistoryTableTest, AnEmptiedFieldIsSearchedAtOnce)
     EXPECT_EQ(table.rowCount(), 6);
 }
 
-TEST_F(HistoryTableTest, BlanksAreNoSearch)
+TEST_F(HistoryTableTest, blanksAreNoSearch)
 {
     HistoryTable table(services(), Mode::Recent);
     show(table);
@@ -162,7 +162,7 @@ TEST_F(HistoryTableTest, BlanksAreNoSearch)
     EXPECT_EQ(table.rowCount(), 6);
 }
 
-TEST_F(HistoryTableTest, TheSameSearchRunsOnce)
+TEST_F(HistoryTableTest, theSameSearchRunsOnce)
 {
     HistoryTable table(services(), Mode::Recent);
     show(table);
@@ -176,7 +176,7 @@ TEST_F(HistoryTableTest, TheSameSearchRunsOnce)
     EXPECT_TRUE(takeReads().isEmpty());
 }
 
-TEST_F(HistoryTableTest, SortingAndGroupingSearchNothing)
+TEST_F(HistoryTableTest, sortingAndGroupingSearchNothing)
 {
     HistoryTable table(services(), Mode::Recent);
     show(table);
@@ -186,7 +186,7 @@ TEST_F(HistoryTableTest, SortingAndGroupingSearchNothing)
     EXPECT_TRUE(takeReads().isEmpty());
 }
 
-TEST_F(HistoryTableTest, ALateResultIsNotShown)
+TEST_F(HistoryTableTest, aLateResultIsNotShown)
 {
     HistoryTable table(services(), Mode::Recent);
     show(table);
@@ -203,7 +203,7 @@ TEST_F(HistoryTableTest, ALateResultIsNotShown)
     EXPECT_EQ(lists, (QStringList{u"e1"_s, u"work"_s}));
 }
 
-TEST_F(HistoryTableTest, ASiteIsShownAlone)
+TEST_F(HistoryTableTest, aSiteIsShownAlone)
 {
     HistoryTable table(services(), Mode::Recent);
     show(table);
@@ -211,7 +211,7 @@ TEST_F(HistoryTableTest, ASiteIsShownAlone)
     EXPECT_EQ(titles(table), "work");
 }
 
-TEST_F(HistoryTableTest, AFullSearchIsCapped)
+TEST_F(HistoryTableTest, aFullSearchIsCapped)
 {
     QList<sample::HistoryRow> rows;
     for (int i = 0; i < HistoryQuery::defaultLimit + 5; ++i)
@@ -230,7 +230,7 @@ TEST_F(HistoryTableTest, AFullSearchIsCapped)
     EXPECT_FALSE(table.isCapped());
 }
 
-TEST_F(HistoryTableTest, TheColumnClickedLastDecidesFirst)
+TEST_F(HistoryTableTest, theColumnClickedLastDecidesFirst)
 {
     HistoryTable table(services(), Mode::Recent);
     show(table);
@@ -250,7 +250,7 @@ TEST_F(HistoryTableTest, TheColumnClickedLastDecidesFirst)
     EXPECT_EQ(titles(table), "monday work today e1 yesterday old") << "the most first";
 }
 
-TEST_F(HistoryTableTest, TheMenuOfTheHeaderSortsToo)
+TEST_F(HistoryTableTest, theMenuOfTheHeaderSortsToo)
 {
     HistoryTable table(services(), Mode::Recent);
     show(table);
@@ -264,7 +264,7 @@ TEST_F(HistoryTableTest, TheMenuOfTheHeaderSortsToo)
     EXPECT_EQ(titles(table), "e1 today work yesterday monday old");
 }
 
-TEST_F(HistoryTableTest, DaysAreSections)
+TEST_F(HistoryTableTest, daysAreSections)
 {
     HistoryTable table(services(), Mode::Recent);
     show(table, {.grouping = Grouping::Day});
@@ -276,14 +276,14 @@ TEST_F(HistoryTableTest, DaysAreSections)
               "March 2026 old Earlier This Week monday Yesterday yesterday Today work today e1");
 }
 
-TEST_F(HistoryTableTest, SitesAreSections)
+TEST_F(HistoryTableTest, sitesAreSections)
 {
     HistoryTable table(services(), Mode::Recent);
     show(table, {.grouping = Grouping::Site});
     EXPECT_EQ(titles(table).substr(0, 24), "edge.example e1 monday.e");
 }
 
-TEST_F(HistoryTableTest, TheNextDayIsNoticedWhenTheWindowIsUsedAgain)
+TEST_F(HistoryTableTest, theNextDayIsNoticedWhenTheWindowIsUsedAgain)
 {
     HistoryTable table(services(), Mode::Recent);
     show(table, {.grouping = Grouping::Day});
@@ -296,7 +296,7 @@ TEST_F(HistoryTableTest, TheNextDayIsNoticedWhenTheWindowIsUsedAgain)
     EXPECT_EQ(titles(table).substr(0, 22), "Yesterday e1 today wor");
 }
 
-TEST_F(HistoryTableTest, TheNextDayIsNoticedWhenTheTableIsShownAgain)
+TEST_F(HistoryTableTest, theNextDayIsNoticedWhenTheTableIsShownAgain)
 {
     HistoryTable table(services(), Mode::Recent);
     show(table, {.grouping = Grouping::Day});
@@ -306,7 +306,7 @@ TEST_F(HistoryTableTest, TheNextDayIsNoticedWhenTheTableIsShownAgain)
     EXPECT_EQ(titles(table).substr(0, 22), "Yesterday e1 today wor");
 }
 
-TEST_F(HistoryTableTest, TheNextDayBeginsAtMidnight)
+TEST_F(HistoryTableTest, theNextDayBeginsAtMidnight)
 {
     HistoryTable table(services(), Mode::Recent);
     show(table, {.grouping = Grouping::Day});
@@ -320,7 +320,7 @@ TEST_F(HistoryTableTest, TheNextDayBeginsAtMidnight)
     EXPECT_EQ(titles(table).substr(0, 14), "Last Week e1 t") << "and at every midnight";
 }
 
-TEST_F(HistoryTableTest, NobodyIsWokenAtMidnightForATableThatIsNotSeen)
+TEST_F(HistoryTableTest, nobodyIsWokenAtMidnightForATableThatIsNotSeen)
 {
     HistoryTable table(services(), Mode::Recent);
     show(table, {.grouping = Grouping::Day});
@@ -330,7 +330,7 @@ TEST_F(HistoryTableTest, NobodyIsWokenAtMidnightForATableThatIsNotSeen)
     EXPECT_TRUE(takeReads().isEmpty());
 }
 
-TEST_F(HistoryTableTest, ASearchThatTakesLongIsSeenToRun)
+TEST_F(HistoryTableTest, aSearchThatTakesLongIsSeenToRun)
 {
     HistoryTable table(services(), Mode::Recent);
     show(table);
@@ -354,7 +354,7 @@ TEST_F(HistoryTableTest, ASearchThatTakesLongIsSeenToRun)
     EXPECT_FALSE(isShownToRun());
 }
 
-TEST_F(HistoryTableTest, AReloadThatTakesLongIsNotShown)
+TEST_F(HistoryTableTest, aReloadThatTakesLongIsNotShown)
 {
     Gate gate;
     HistoryTable table(services(), Mode::MostVisited);
@@ -370,7 +370,7 @@ TEST_F(HistoryTableTest, AReloadThatTakesLongIsNotShown)
     EXPECT_TRUE(waitUntil([&] { return !table.isBusy(); }));
 }
 
-TEST_F(HistoryTableTest, ASearchThatIsTakenBackNoLongerRuns)
+TEST_F(HistoryTableTest, aSearchThatIsTakenBackNoLongerRuns)
 {
     HistoryTable table(services(), Mode::Recent);
     show(table);
@@ -387,7 +387,7 @@ TEST_F(HistoryTableTest, ASearchThatIsTakenBackNoLongerRuns)
     EXPECT_TRUE(waitUntil([this] { return home.leftovers().isEmpty(); }));
 }
 
-TEST_F(HistoryTableTest, TheSnapshotsPagesAreShownUntilTheDatabasesAnswer)
+TEST_F(HistoryTableTest, theSnapshotsPagesAreShownUntilTheDatabasesAnswer)
 {
     HistoryTable table(services(), Mode::Recent);
     // Visited since the snapshot was read.
@@ -408,7 +408,7 @@ TEST_F(HistoryTableTest, TheSnapshotsPagesAreShownUntilTheDatabasesAnswer)
     EXPECT_EQ(lists.last(), u"e1 new today yesterday monday old");
 }
 
-TEST_F(HistoryTableTest, WhatOnlyStoodInForAnAnswerIsNoAnswer)
+TEST_F(HistoryTableTest, whatOnlyStoodInForAnAnswerIsNoAnswer)
 {
     Gate gate;
     HistoryTable table(services(), Mode::Recent);
@@ -426,7 +426,7 @@ TEST_F(HistoryTableTest, WhatOnlyStoodInForAnAnswerIsNoAnswer)
     EXPECT_TRUE(waitUntil([this] { return home.leftovers().isEmpty(); }));
 }
 
-TEST_F(HistoryTableTest, AStandInThatIsTakenBackBeforeItIsShownKeepsNothingBusy)
+TEST_F(HistoryTableTest, aStandInThatIsTakenBackBeforeItIsShownKeepsNothingBusy)
 {
     HistoryTable table(services(), Mode::Recent);
     show(table);
@@ -441,7 +441,7 @@ TEST_F(HistoryTableTest, AStandInThatIsTakenBackBeforeItIsShownKeepsNothingBusy)
     EXPECT_EQ(titles(table), "e1 today work yesterday monday old");
 }
 
-TEST_F(HistoryTableTest, AStandInDoesNotTakeThePlaceOfWhatWasFound)
+TEST_F(HistoryTableTest, aStandInDoesNotTakeThePlaceOfWhatWasFound)
 {
     HistoryTable table(services(), Mode::Recent);
     show(table);
@@ -457,7 +457,7 @@ TEST_F(HistoryTableTest, AStandInDoesNotTakeThePlaceOfWhatWasFound)
     EXPECT_EQ(titles(table), "today yesterday monday");
 }
 
-TEST_F(HistoryTableTest, AnEmptyListSaysWhy)
+TEST_F(HistoryTableTest, anEmptyListSaysWhy)
 {
     HistoryTable table(services(), Mode::Recent);
     show(table, {.sourceID = u"edge/Default"_s});

@@ -62,14 +62,14 @@ std::vector<std::string> titles(const LinkMenuSubject &subject, const QList<Kind
 
 } // namespace
 
-TEST(LinkMenuTest, OneRowOfEdgeNamesEdge)
+TEST(LinkMenuTest, oneRowOfEdgeNamesEdge)
 {
     EXPECT_THAT(titles(LinkMenuSubject::ofHistory({link(officeProfile)})),
                 ElementsAre("Show Edge History", "-", "Open in Edge", "Open in Safari", "Open in Chrome", "-",
                             "Copy URL", "-", "Show Only example.org"));
 }
 
-TEST(LinkMenuTest, ThreeRowsAreCounted)
+TEST(LinkMenuTest, threeRowsAreCounted)
 {
     EXPECT_THAT(
         titles(LinkMenuSubject::ofHistory({link(workProfile), link(homeProfile), link(officeProfile)})),
@@ -77,14 +77,14 @@ TEST(LinkMenuTest, ThreeRowsAreCounted)
                     "Copy 3 URLs", "-", "Show Only example.org"));
 }
 
-TEST(LinkMenuTest, SeveralRowsOfOneBrowserAreOfferedTheOthers)
+TEST(LinkMenuTest, severalRowsOfOneBrowserAreOfferedTheOthers)
 {
     EXPECT_THAT(titles(LinkMenuSubject::ofHistory({link(workProfile), link(homeProfile)})),
                 ElementsAre("Open in Original Browsers", "Open in Safari", "Open in Edge", "-", "Copy 2 URLs",
                             "-", "Show Only example.org"));
 }
 
-TEST(LinkMenuTest, OnlyInstalledBrowsersAreOfferedBesideTheOwnOne)
+TEST(LinkMenuTest, onlyInstalledBrowsersAreOfferedBesideTheOwnOne)
 {
     EXPECT_THAT(titles(LinkMenuSubject::ofHistory({link(workProfile)}), {Kind::Edge}),
                 ElementsAre("Show Chrome History", "-", "Open in Chrome", "Open in Edge", "-", "Copy URL",
@@ -94,14 +94,14 @@ TEST(LinkMenuTest, OnlyInstalledBrowsersAreOfferedBesideTheOwnOne)
                             "Show Only example.org"));
 }
 
-TEST(LinkMenuTest, AHistoryIsShownForRowsOfOneProfileOnly)
+TEST(LinkMenuTest, aHistoryIsShownForRowsOfOneProfileOnly)
 {
     EXPECT_EQ(LinkMenuSubject::ofHistory({link(workProfile), link(workProfile)}).historySource, workProfile);
     EXPECT_EQ(LinkMenuSubject::ofHistory({link(workProfile), link(homeProfile)}).historySource, std::nullopt);
     EXPECT_EQ(LinkMenuSubject::ofHistory({link(workProfile)}).editTarget, std::nullopt);
 }
 
-TEST(LinkMenuTest, RowsOfDifferentSitesAreNotNarrowedToOne)
+TEST(LinkMenuTest, rowsOfDifferentSitesAreNotNarrowedToOne)
 {
     EXPECT_THAT(titles(LinkMenuSubject::ofHistory(
                     {link(workProfile, u"a.example"_s), link(workProfile, u"b.example"_s)})),
@@ -109,13 +109,13 @@ TEST(LinkMenuTest, RowsOfDifferentSitesAreNotNarrowedToOne)
                             "Open in Edge", "-", "Copy 2 URLs"));
 }
 
-TEST(LinkMenuTest, ARowWithoutASiteIsNotNarrowedToIt)
+TEST(LinkMenuTest, aRowWithoutASiteIsNotNarrowedToIt)
 {
     EXPECT_THAT(titles(LinkMenuSubject::ofHistory({link(workProfile, {})}), {}),
                 ElementsAre("Show Chrome History", "-", "Open in Chrome", "-", "Copy URL"));
 }
 
-TEST(LinkMenuTest, BookmarksAreEditedInTheirFolder)
+TEST(LinkMenuTest, bookmarksAreEditedInTheirFolder)
 {
     const LinkMenuSubject subject =
         LinkMenuSubject::ofBookmarks({link(workProfile, u"example.org"_s, u"chrome/Work/7"_s)});
@@ -124,7 +124,7 @@ TEST(LinkMenuTest, BookmarksAreEditedInTheirFolder)
                                              "Open in Edge", "-", "Copy URL", "-", "Show Only example.org"));
 }
 
-TEST(LinkMenuTest, BookmarksOfDifferentFoldersAreEditedWithoutOne)
+TEST(LinkMenuTest, bookmarksOfDifferentFoldersAreEditedWithoutOne)
 {
     EXPECT_EQ(LinkMenuSubject::ofBookmarks(
                   {link(workProfile, {}, u"chrome/Work/7"_s), link(workProfile, {}, u"chrome/Work/8"_s)})
@@ -133,14 +133,14 @@ TEST(LinkMenuTest, BookmarksOfDifferentFoldersAreEditedWithoutOne)
     EXPECT_EQ(LinkMenuSubject::ofBookmarks({link(workProfile), link(homeProfile)}).editTarget, std::nullopt);
 }
 
-TEST(LinkMenuTest, AFolderIsOnlyEdited)
+TEST(LinkMenuTest, aFolderIsOnlyEdited)
 {
     const LinkMenuSubject subject = LinkMenuSubject::ofBookmarks({folder(officeProfile, u"edge/Office/3"_s)});
     EXPECT_EQ(subject.editTarget, (EditTarget{officeProfile, u"edge/Office/3"_s}));
     EXPECT_THAT(titles(subject), ElementsAre("Edit Edge Bookmarks"));
 }
 
-TEST(LinkMenuTest, TheFolderOfAWholeSourceIsNoneOfTheBrowsers)
+TEST(LinkMenuTest, theFolderOfAWholeSourceIsNoneOfTheBrowsers)
 {
     EXPECT_EQ(LinkMenuSubject::ofBookmarks({folder(workProfile, u"source/chrome/Work"_s)}).editTarget,
               (EditTarget{workProfile, {}}));
@@ -148,7 +148,7 @@ TEST(LinkMenuTest, TheFolderOfAWholeSourceIsNoneOfTheBrowsers)
               (EditTarget{workProfile, {}}));
 }
 
-TEST(LinkMenuTest, FoldersAmongLinksDoNotCount)
+TEST(LinkMenuTest, foldersAmongLinksDoNotCount)
 {
     const LinkMenuSubject subject =
         LinkMenuSubject::ofBookmarks({folder(workProfile, u"chrome/Work/3"_s), link(workProfile)});
@@ -156,13 +156,13 @@ TEST(LinkMenuTest, FoldersAmongLinksDoNotCount)
     EXPECT_EQ(subject.site, u"example.org"_s);
 }
 
-TEST(LinkMenuTest, NoRowsHaveNoMenu)
+TEST(LinkMenuTest, noRowsHaveNoMenu)
 {
     EXPECT_THAT(titles(LinkMenuSubject::ofHistory({})), IsEmpty());
     EXPECT_THAT(titles(LinkMenuSubject::ofBookmarks({})), IsEmpty());
 }
 
-TEST(LinkMenuTest, URLsAreCopiedLineByLine)
+TEST(LinkMenuTest, urlsAreCopiedLineByLine)
 {
     EXPECT_EQ(clipboardText({{u"https://a/"_s, workProfile}, {u"https://b/"_s, homeProfile}}),
               u"https://a/\nhttps://b/");

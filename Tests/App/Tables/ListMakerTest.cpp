@@ -84,7 +84,7 @@ protected:
 
 } // namespace
 
-TEST_F(ListMakerTest, AListIsNeededUntilItIsOnItsWay)
+TEST_F(ListMakerTest, aListIsNeededUntilItIsOnItsWay)
 {
     EXPECT_TRUE(maker.needs(key(u"a"_s)));
     make(key(u"a"_s), u"A"_s);
@@ -96,7 +96,7 @@ TEST_F(ListMakerTest, AListIsNeededUntilItIsOnItsWay)
     EXPECT_TRUE(maker.needs(key(u"b"_s)));
 }
 
-TEST_F(ListMakerTest, ANewerListSupersedesOneThatIsOnItsWay)
+TEST_F(ListMakerTest, aNewerListSupersedesOneThatIsOnItsWay)
 {
     make(key(u"a"_s), u"A"_s);
     make(key(u"b"_s), u"B"_s);
@@ -104,7 +104,7 @@ TEST_F(ListMakerTest, ANewerListSupersedesOneThatIsOnItsWay)
     EXPECT_EQ(delivered, "B ");
 }
 
-TEST_F(ListMakerTest, OfOtherRowsTheSameListIsMadeAnewAndCountsAsReloaded)
+TEST_F(ListMakerTest, ofOtherRowsTheSameListIsMadeAnewAndCountsAsReloaded)
 {
     make(key(u"a"_s), u"A"_s);
     steps.finish();
@@ -115,7 +115,7 @@ TEST_F(ListMakerTest, OfOtherRowsTheSameListIsMadeAnewAndCountsAsReloaded)
     EXPECT_EQ(delivered, "A B(reloaded) ");
 }
 
-TEST_F(ListMakerTest, ReturningToTheShownListDropsWhatIsOnItsWay)
+TEST_F(ListMakerTest, returningToTheShownListDropsWhatIsOnItsWay)
 {
     make(key(u"a"_s), u"A"_s);
     steps.finish();
@@ -125,7 +125,7 @@ TEST_F(ListMakerTest, ReturningToTheShownListDropsWhatIsOnItsWay)
     EXPECT_EQ(delivered, "A ");
 }
 
-TEST_F(ListMakerTest, AnotherGenerationIsAReload)
+TEST_F(ListMakerTest, anotherGenerationIsAReload)
 {
     make(key(u"a"_s, 1), u"A"_s);
     steps.finish();
@@ -136,7 +136,7 @@ TEST_F(ListMakerTest, AnotherGenerationIsAReload)
     EXPECT_EQ(delivered, "A B(reloaded) C ");
 }
 
-TEST_F(ListMakerTest, AnEqualListIsTheOneBefore)
+TEST_F(ListMakerTest, anEqualListIsTheOneBefore)
 {
     make(key(u"a"_s, 1), u"A"_s);
     steps.finish();
@@ -146,7 +146,7 @@ TEST_F(ListMakerTest, AnEqualListIsTheOneBefore)
     EXPECT_EQ(last, first);
 }
 
-TEST_F(ListMakerTest, WhatIsInvalidIsNeededAgain)
+TEST_F(ListMakerTest, whatIsInvalidIsNeededAgain)
 {
     make(key(u"a"_s), u"A"_s);
     steps.finish();
@@ -154,7 +154,7 @@ TEST_F(ListMakerTest, WhatIsInvalidIsNeededAgain)
     EXPECT_TRUE(maker.needs(key(u"a"_s)));
 }
 
-TEST(OrderAfterClickTest, TheColumnClickedLastDecidesFirst)
+TEST(OrderAfterClickTest, theColumnClickedLastDecidesFirst)
 {
     using Column = SortColumns<HistoryItem>::Column;
     using Order = QList<SortComparator<HistoryItem>>;

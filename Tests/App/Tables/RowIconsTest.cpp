@@ -30,14 +30,14 @@ protected:
 
 } // namespace
 
-TEST_F(RowIconsTest, ASiteWithoutAnIconGetsAGlobe)
+TEST_F(RowIconsTest, aSiteWithoutAnIconGetsAGlobe)
 {
     EXPECT_FALSE(icons.site(u"example.org"_s).isNull());
     EXPECT_TRUE(icons.siteIfKnown(u"example.org"_s).isNull());
     EXPECT_EQ(icons.site(u"example.org"_s).cacheKey(), icons.site(u"example.com"_s).cacheKey());
 }
 
-TEST_F(RowIconsTest, ASiteHasItsOwnIconAlsoInASelectedRow)
+TEST_F(RowIconsTest, aSiteHasItsOwnIconAlsoInASelectedRow)
 {
     addChromium();
     setChromeIcon(u"Default"_s, u"https://a1.example/"_s, png(32, Qt::green));
@@ -47,7 +47,7 @@ TEST_F(RowIconsTest, ASiteHasItsOwnIconAlsoInASelectedRow)
     EXPECT_EQ(icons.site(u"a1.example"_s).availableSizes().value(0), QSize(16, 16));
 }
 
-TEST_F(RowIconsTest, ANewSnapshotBringsNewIcons)
+TEST_F(RowIconsTest, aNewSnapshotBringsNewIcons)
 {
     addChromium();
     loadNow(*library);
@@ -58,7 +58,7 @@ TEST_F(RowIconsTest, ANewSnapshotBringsNewIcons)
     EXPECT_FALSE(icons.siteIfKnown(u"a1.example"_s).isNull());
 }
 
-TEST_F(RowIconsTest, ABrokenIconIsAGlobe)
+TEST_F(RowIconsTest, aBrokenIconIsAGlobe)
 {
     addChromium();
     setChromeIcon(u"Default"_s, u"https://a1.example/"_s, "no image");
@@ -66,7 +66,7 @@ TEST_F(RowIconsTest, ABrokenIconIsAGlobe)
     EXPECT_EQ(icons.site(u"a1.example"_s).cacheKey(), icons.site(u"b.example"_s).cacheKey());
 }
 
-TEST_F(RowIconsTest, AnInstalledBrowserHasItsIconAndAnotherASymbol)
+TEST_F(RowIconsTest, anInstalledBrowserHasItsIconAndAnotherASymbol)
 {
     workspace.icons.insert(u"chrome"_s, Qt::red);
     EXPECT_EQ(colour(icons.browser(Source::Kind::Chrome)), QColor(Qt::red));
@@ -75,7 +75,7 @@ TEST_F(RowIconsTest, AnInstalledBrowserHasItsIconAndAnotherASymbol)
     EXPECT_NE(colour(icons.browser(Source::Kind::Edge)), QColor(Qt::red));
 }
 
-TEST_F(RowIconsTest, EachIconIsMadeOnce)
+TEST_F(RowIconsTest, eachIconIsMadeOnce)
 {
     workspace.icons.insert(u"chrome"_s, Qt::red);
     icons.browser(Source::Kind::Chrome);

@@ -66,13 +66,13 @@ HistoryItem item(const QString &title, const QString &url)
 
 } // namespace
 
-TEST(RowTreeTest, IsEmptyAtFirst)
+TEST(RowTreeTest, isEmptyAtFirst)
 {
     EXPECT_EQ(text({}), u"");
     EXPECT_EQ(RowTree().linkCount(), 0);
 }
 
-TEST(RowTreeTest, RowsHaveTheirOrder)
+TEST(RowTreeTest, rowsHaveTheirOrder)
 {
     const RowTree tree =
         RowTree::ofRows<HistoryItem>({item(u"b"_s, u"https://b/"_s), item(u"a"_s, u"https://a/"_s)});
@@ -80,7 +80,7 @@ TEST(RowTreeTest, RowsHaveTheirOrder)
     EXPECT_EQ(tree.linkCount(), 2);
 }
 
-TEST(RowTreeTest, GroupsBecomeSections)
+TEST(RowTreeTest, groupsBecomeSections)
 {
     const QList<HistoryItem> items{item(u"1"_s, u"https://b.example/1"_s),
                                    item(u"2"_s, u"https://a.example/2"_s), item(u"3"_s, u"about:blank"_s),
@@ -93,14 +93,14 @@ TEST(RowTreeTest, GroupsBecomeSections)
     EXPECT_EQ(tree.linkCount(), 4);
 }
 
-TEST(RowTreeTest, BookmarksLieInTheirFolders)
+TEST(RowTreeTest, bookmarksLieInTheirFolders)
 {
     const RowTree tree = bookmarks(sample);
     EXPECT_EQ(text(tree), u"Bar(b Inner(d c) a) z Empty()");
     EXPECT_EQ(tree.linkCount(), 5);
 }
 
-TEST(RowTreeTest, ABookmarkKnowsItsFolderAndItsSite)
+TEST(RowTreeTest, aBookmarkKnowsItsFolderAndItsSite)
 {
     const RowTree tree = bookmarks({folder(u"Bar"_s, {mark(u"b"_s)})});
     EXPECT_EQ(tree.row(1).folderID, std::nullopt);
@@ -110,7 +110,7 @@ TEST(RowTreeTest, ABookmarkKnowsItsFolderAndItsSite)
     EXPECT_EQ(tree.node(2).depth, 1);
 }
 
-TEST(RowTreeTest, EachFolderIsSortedInItself)
+TEST(RowTreeTest, eachFolderIsSortedInItself)
 {
     using Column = SortColumns<BookmarkNode>::Column;
     EXPECT_EQ(text(bookmarks(sample, {{Column::Title, SortOrder::Forward}})),
@@ -119,14 +119,14 @@ TEST(RowTreeTest, EachFolderIsSortedInItself)
               u"z Empty() Bar(Inner(d c) b a)");
 }
 
-TEST(RowTreeTest, AStopLeavesNothing)
+TEST(RowTreeTest, aStopLeavesNothing)
 {
     const auto stop = std::make_unique<std::stop_source>();
     stop->request_stop();
     EXPECT_FALSE(RowTree::ofBookmarks(sample, {}, Collation(u"en_US"_s), stop->get_token()));
 }
 
-TEST(RowTreeTest, FoldersMayBeAsDeepAsTheyLike)
+TEST(RowTreeTest, foldersMayBeAsDeepAsTheyLike)
 {
     constexpr int depth = 50'000;
     BookmarkNode node = mark(u"deepest"_s);
@@ -138,7 +138,7 @@ TEST(RowTreeTest, FoldersMayBeAsDeepAsTheyLike)
     EXPECT_EQ(tree.linkCount(), 1);
 }
 
-TEST(RowTreeTest, EqualListsMakeEqualTrees)
+TEST(RowTreeTest, equalListsMakeEqualTrees)
 {
     EXPECT_EQ(bookmarks(sample), bookmarks(sample));
     EXPECT_FALSE(bookmarks(sample) == bookmarks(sample.first(2)));

@@ -75,7 +75,7 @@ const QStringList defaultColumns{u"Title"_s, u"Last Visited"_s, u"Visits"_s, u"S
 
 } // namespace
 
-TEST_F(TableHeaderTest, AtFirstTheTitleFillsTheWidth)
+TEST_F(TableHeaderTest, atFirstTheTitleFillsTheWidth)
 {
     EXPECT_EQ(shownColumns(), defaultColumns);
     EXPECT_EQ(header().length(), header().viewport()->width());
@@ -85,13 +85,13 @@ TEST_F(TableHeaderTest, AtFirstTheTitleFillsTheWidth)
     EXPECT_FALSE(home.defaults.contains(u"columns.history"_s)) << "nobody has arranged anything";
 }
 
-TEST_F(TableHeaderTest, TheTitleDoesNotVanishInANarrowWindow)
+TEST_F(TableHeaderTest, theTitleDoesNotVanishInANarrowWindow)
 {
     table->resize(200, 300);
     EXPECT_GT(header().sectionSize(0), 80);
 }
 
-TEST_F(TableHeaderTest, AResizedColumnKeepsItsWidth)
+TEST_F(TableHeaderTest, aResizedColumnKeepsItsWidth)
 {
     const int width = header().sectionSize(HistoryTable::Visits);
     const int edge = rightEdge(HistoryTable::Visits);
@@ -103,7 +103,7 @@ TEST_F(TableHeaderTest, AResizedColumnKeepsItsWidth)
     EXPECT_EQ(header().length(), header().viewport()->width());
 }
 
-TEST_F(TableHeaderTest, AResizedTitleKeepsItsWidth)
+TEST_F(TableHeaderTest, aResizedTitleKeepsItsWidth)
 {
     const int width = header().sectionSize(HistoryTable::Title);
     const int edge = rightEdge(HistoryTable::Title);
@@ -113,7 +113,7 @@ TEST_F(TableHeaderTest, AResizedTitleKeepsItsWidth)
     EXPECT_EQ(header().sectionSize(HistoryTable::Title), width - 50);
 }
 
-TEST_F(TableHeaderTest, AMovedColumnKeepsItsPlace)
+TEST_F(TableHeaderTest, aMovedColumnKeepsItsPlace)
 {
     const int from = header().sectionViewportPosition(HistoryTable::Source) + 40;
     drag(from, header().sectionViewportPosition(HistoryTable::LastVisited) + 10);
@@ -125,7 +125,7 @@ TEST_F(TableHeaderTest, AMovedColumnKeepsItsPlace)
     EXPECT_EQ(shownColumns(), moved);
 }
 
-TEST_F(TableHeaderTest, TheArrowKeysMoveAndResizeColumns)
+TEST_F(TableHeaderTest, theArrowKeysMoveAndResizeColumns)
 {
     const int width = header().sectionSize(HistoryTable::LastVisited);
     QTest::keyClick(&header(), Qt::Key_Left);
@@ -142,7 +142,7 @@ TEST_F(TableHeaderTest, TheArrowKeysMoveAndResizeColumns)
     EXPECT_GT(header().sectionSize(HistoryTable::LastVisited), width);
 }
 
-TEST_F(TableHeaderTest, TheArrowKeysPassHiddenColumns)
+TEST_F(TableHeaderTest, theArrowKeysPassHiddenColumns)
 {
     openMenu();
     choose(*table, u"columnMenu"_s, u"Visits"_s);
@@ -154,7 +154,7 @@ TEST_F(TableHeaderTest, TheArrowKeysPassHiddenColumns)
     EXPECT_EQ(header().sectionSize(HistoryTable::LastVisited), header().minimumSectionSize());
 }
 
-TEST_F(TableHeaderTest, AHiddenColumnStaysHidden)
+TEST_F(TableHeaderTest, aHiddenColumnStaysHidden)
 {
     openMenu();
     choose(*table, u"columnMenu"_s, u"Visits"_s);
@@ -168,7 +168,7 @@ TEST_F(TableHeaderTest, AHiddenColumnStaysHidden)
     EXPECT_EQ(shownColumns(), defaultColumns);
 }
 
-TEST_F(TableHeaderTest, HidingAColumnWithTheMouseChoosesNoWidth)
+TEST_F(TableHeaderTest, hidingAColumnWithTheMouseChoosesNoWidth)
 {
     // The menu takes the release of the button that opened it.
     QTest::mousePress(header().viewport(), Qt::RightButton, {}, {5, 5});
@@ -183,7 +183,7 @@ TEST_F(TableHeaderTest, HidingAColumnWithTheMouseChoosesNoWidth)
     EXPECT_EQ(shownColumns(), (QStringList{u"Title"_s, u"Last Visited"_s, u"Source"_s}));
 }
 
-TEST_F(TableHeaderTest, TheTitleCannotBeHidden)
+TEST_F(TableHeaderTest, theTitleCannotBeHidden)
 {
     openMenu();
     EXPECT_FALSE(menu(*table, u"columnMenu"_s)->actions().first()->isEnabled());
@@ -193,7 +193,7 @@ TEST_F(TableHeaderTest, TheTitleCannotBeHidden)
     EXPECT_EQ(shownColumns(), (QStringList{u"Title"_s, u"Last Visited"_s, u"Visits"_s}));
 }
 
-TEST_F(TableHeaderTest, EachTableHasItsOwnLayout)
+TEST_F(TableHeaderTest, eachTableHasItsOwnLayout)
 {
     openMenu();
     choose(*table, u"columnMenu"_s, u"Source"_s);
@@ -205,7 +205,7 @@ TEST_F(TableHeaderTest, EachTableHasItsOwnLayout)
     EXPECT_EQ(ColumnLayout::load(home.defaults, u"columns.history"_s).hidden, QSet{u"source"_s});
 }
 
-TEST_F(TableHeaderTest, ALayoutThatNoLongerDecodesIsTheDefault)
+TEST_F(TableHeaderTest, aLayoutThatNoLongerDecodesIsTheDefault)
 {
     home.defaults.setBytes(u"columns.history"_s, "{\"order\":");
     build();
@@ -213,7 +213,7 @@ TEST_F(TableHeaderTest, ALayoutThatNoLongerDecodesIsTheDefault)
     EXPECT_EQ(header().length(), header().viewport()->width());
 }
 
-TEST_F(TableHeaderTest, ColumnsThatALayoutDoesNotKnowStandBehindTheirNeighbours)
+TEST_F(TableHeaderTest, columnsThatALayoutDoesNotKnowStandBehindTheirNeighbours)
 {
     home.defaults.setBytes(u"columns.history"_s,
                            R"({"order":["source","gone","title"],"hidden":["gone"],"widths":{"gone":5}})");
@@ -221,7 +221,7 @@ TEST_F(TableHeaderTest, ColumnsThatALayoutDoesNotKnowStandBehindTheirNeighbours)
     EXPECT_EQ(shownColumns(), (QStringList{u"Source"_s, u"Title"_s, u"Last Visited"_s, u"Visits"_s}));
 }
 
-TEST_F(TableHeaderTest, TheDefaultColumnsComeBack)
+TEST_F(TableHeaderTest, theDefaultColumnsComeBack)
 {
     const int edge = rightEdge(HistoryTable::Title);
     drag(edge, edge - 50);
@@ -234,7 +234,7 @@ TEST_F(TableHeaderTest, TheDefaultColumnsComeBack)
     EXPECT_TRUE(ColumnLayout::load(home.defaults, u"columns.history"_s).widths.isEmpty());
 }
 
-TEST_F(TableHeaderTest, ARightClickOpensTheMenuToo)
+TEST_F(TableHeaderTest, aRightClickOpensTheMenuToo)
 {
     QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(5, 5), QPoint(5, 5));
     QCoreApplication::sendEvent(header().viewport(), &event);

@@ -57,7 +57,7 @@ protected:
 
 } // namespace
 
-TEST_F(TableModelTest, IsEmptyAtFirst)
+TEST_F(TableModelTest, isEmptyAtFirst)
 {
     EXPECT_EQ(model.rowCount(), 0);
     EXPECT_EQ(model.columnCount(), 4);
@@ -65,7 +65,7 @@ TEST_F(TableModelTest, IsEmptyAtFirst)
     EXPECT_EQ(model.headerData(4, Qt::Horizontal), QVariant());
 }
 
-TEST_F(TableModelTest, ARowHasItsTexts)
+TEST_F(TableModelTest, aRowHasItsTexts)
 {
     setRows({item(1, u"Page"_s, u"https://example.org/"_s)});
     EXPECT_EQ(cell(0, 0), u"Page"_s);
@@ -75,7 +75,7 @@ TEST_F(TableModelTest, ARowHasItsTexts)
     EXPECT_EQ(model.index(0, 0).flags(), Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren);
 }
 
-TEST_F(TableModelTest, AListReplacesTheOneBefore)
+TEST_F(TableModelTest, aListReplacesTheOneBefore)
 {
     setGroups({item(1, u"a"_s, u"https://a.example/"_s), item(2, u"b"_s, u"https://b.example/"_s)});
     setRows({item(3, u"c"_s, u"https://c.example/"_s)});
@@ -85,7 +85,7 @@ TEST_F(TableModelTest, AListReplacesTheOneBefore)
     EXPECT_EQ(model.rowCount(), 0);
 }
 
-TEST_F(TableModelTest, SectionsHaveRowsAndOnlyAHeading)
+TEST_F(TableModelTest, sectionsHaveRowsAndOnlyAHeading)
 {
     setGroups({item(1, u"a"_s, u"https://a.example/"_s), item(2, u"b"_s, u"https://b.example/"_s),
                item(3, u"c"_s, u"https://b.example/c"_s)});
@@ -101,7 +101,7 @@ TEST_F(TableModelTest, SectionsHaveRowsAndOnlyAHeading)
     EXPECT_EQ(cell(0, 0, Qt::AccessibleTextRole), u"a.example, 1 item"_s);
 }
 
-TEST_F(TableModelTest, ABookmarkWithoutANameShowsItsAddress)
+TEST_F(TableModelTest, aBookmarkWithoutANameShowsItsAddress)
 {
     BookmarkNode node;
     node.id = u"1"_s;
@@ -118,7 +118,7 @@ TEST_F(TableModelTest, ABookmarkWithoutANameShowsItsAddress)
     EXPECT_EQ(model.index(0, 0).flags(), Qt::ItemIsEnabled | Qt::ItemIsSelectable);
 }
 
-TEST_F(TableModelTest, TheToolTipShowsTheAddress)
+TEST_F(TableModelTest, theToolTipShowsTheAddress)
 {
     setRows({item(1, u"Page & more"_s, u"https://example.org/"_s), item(2, {}, u"https://b.example/"_s)});
     EXPECT_EQ(cell(0, 0, Qt::ToolTipRole),
@@ -127,7 +127,7 @@ TEST_F(TableModelTest, TheToolTipShowsTheAddress)
     EXPECT_EQ(cell(0, 1, Qt::ToolTipRole), u"Saturday, May 9, 2026 6:13 AM"_s);
 }
 
-TEST_F(TableModelTest, NoTextIsLongerThanAnybodyReads)
+TEST_F(TableModelTest, noTextIsLongerThanAnybodyReads)
 {
     const QString million(1'000'000, u'x');
     setRows({item(1, million, u"https://example.org/"_s % million)});
@@ -135,7 +135,7 @@ TEST_F(TableModelTest, NoTextIsLongerThanAnybodyReads)
         EXPECT_LT(cell(0, 0, role).toString().size(), 2500) << role;
 }
 
-TEST_F(TableModelTest, WithoutIconsThereAreNone)
+TEST_F(TableModelTest, withoutIconsThereAreNone)
 {
     setRows({item(1, u"Page"_s, u"https://example.org/"_s)});
     EXPECT_EQ(cell(0, 0, Qt::DecorationRole), QVariant());

@@ -70,7 +70,7 @@ protected:
 
 } // namespace
 
-TEST_F(TableViewTest, ADoubleClickOpensTheLinkWhereItCameFrom)
+TEST_F(TableViewTest, aDoubleClickOpensTheLinkWhereItCameFrom)
 {
     show(table);
     doubleClick(table, u"w"_s);
@@ -79,7 +79,7 @@ TEST_F(TableViewTest, ADoubleClickOpensTheLinkWhereItCameFrom)
               (QStringList{u"profile"_s, u"chrome"_s, u"Profile 1"_s, u"https://w.example/"_s}));
 }
 
-TEST_F(TableViewTest, ReturnOpensEveryRowOfTheSelection)
+TEST_F(TableViewTest, returnOpensEveryRowOfTheSelection)
 {
     show(table);
     click(table, u"a"_s);
@@ -90,14 +90,14 @@ TEST_F(TableViewTest, ReturnOpensEveryRowOfTheSelection)
     EXPECT_EQ(requested(1).last(), u"https://w.example/");
 }
 
-TEST_F(TableViewTest, ReturnWithoutASelectionOpensNothing)
+TEST_F(TableViewTest, returnWithoutASelectionOpensNothing)
 {
     show(table);
     press(table, Qt::Key_Return);
     EXPECT_TRUE(workspace.requests.isEmpty());
 }
 
-TEST_F(TableViewTest, TheSelectedRowsAreCopiedFromTopToBottom)
+TEST_F(TableViewTest, theSelectedRowsAreCopiedFromTopToBottom)
 {
     show(table);
     click(table, u"c"_s);
@@ -107,7 +107,7 @@ TEST_F(TableViewTest, TheSelectedRowsAreCopiedFromTopToBottom)
               u"https://a.example/\nhttps://b.example/\nhttps://c.example/");
 }
 
-TEST_F(TableViewTest, CopyingNothingLeavesTheClipboardAlone)
+TEST_F(TableViewTest, copyingNothingLeavesTheClipboardAlone)
 {
     show(table);
     QGuiApplication::clipboard()->setText(u"before"_s);
@@ -115,7 +115,7 @@ TEST_F(TableViewTest, CopyingNothingLeavesTheClipboardAlone)
     EXPECT_EQ(QGuiApplication::clipboard()->text(), u"before");
 }
 
-TEST_F(TableViewTest, ARightClickIsAboutTheClickedRow)
+TEST_F(TableViewTest, aRightClickIsAboutTheClickedRow)
 {
     workspace.icons.insert(u"edge"_s, Qt::blue);
     show(table);
@@ -128,7 +128,7 @@ TEST_F(TableViewTest, ARightClickIsAboutTheClickedRow)
     EXPECT_EQ(requested(0), (QStringList{u"open"_s, u"edge"_s, u"https://b.example/"_s}));
 }
 
-TEST_F(TableViewTest, ARightClickOnTheSelectionIsAboutAllOfIt)
+TEST_F(TableViewTest, aRightClickOnTheSelectionIsAboutAllOfIt)
 {
     show(table);
     click(table, u"a"_s);
@@ -140,7 +140,7 @@ TEST_F(TableViewTest, ARightClickOnTheSelectionIsAboutAllOfIt)
     EXPECT_EQ(QGuiApplication::clipboard()->text(), u"https://a.example/\nhttps://w.example/");
 }
 
-TEST_F(TableViewTest, TheMenuKeyOpensTheMenuOfTheSelection)
+TEST_F(TableViewTest, theMenuKeyOpensTheMenuOfTheSelection)
 {
     show(table);
     click(table, u"a"_s);
@@ -151,7 +151,7 @@ TEST_F(TableViewTest, TheMenuKeyOpensTheMenuOfTheSelection)
     EXPECT_EQ(sites.value(0).value(0), u"a.example"_s);
 }
 
-TEST_F(TableViewTest, TheHistoryPageOpensInItsProfile)
+TEST_F(TableViewTest, theHistoryPageOpensInItsProfile)
 {
     show(table);
     rightClick(table, u"w"_s);
@@ -189,7 +189,7 @@ TEST_F(TableViewTest, aLinkOpensInTheInstallationThatItCameFrom)
         << "the chosen browser itself decides which installation that is";
 }
 
-TEST_F(TableViewTest, ThereIsNoMenuForHeadingsAndEmptySpace)
+TEST_F(TableViewTest, thereIsNoMenuForHeadingsAndEmptySpace)
 {
     show(table, {.grouping = Grouping::Day});
     rightClick(table, u"Today"_s);
@@ -201,7 +201,7 @@ TEST_F(TableViewTest, ThereIsNoMenuForHeadingsAndEmptySpace)
     EXPECT_EQ(menu(table, u"linkMenu"_s), nullptr);
 }
 
-TEST_F(TableViewTest, AClickClosesASectionAndAnotherOpensIt)
+TEST_F(TableViewTest, aClickClosesASectionAndAnotherOpensIt)
 {
     show(table, {.grouping = Grouping::Day});
     click(table, u"Today"_s);
@@ -214,7 +214,7 @@ TEST_F(TableViewTest, AClickClosesASectionAndAnotherOpensIt)
     EXPECT_TRUE(workspace.requests.isEmpty());
 }
 
-TEST_F(TableViewTest, KeysCloseAndOpenSections)
+TEST_F(TableViewTest, keysCloseAndOpenSections)
 {
     show(table, {.grouping = Grouping::Day});
     press(table, Qt::Key_Home);
@@ -231,7 +231,7 @@ TEST_F(TableViewTest, KeysCloseAndOpenSections)
     EXPECT_EQ(selectedTitles(table), QStringList{u"e1"_s});
 }
 
-TEST_F(TableViewTest, AClosedSectionStaysClosedAfterAReload)
+TEST_F(TableViewTest, aClosedSectionStaysClosedAfterAReload)
 {
     show(table, {.grouping = Grouping::Day});
     click(table, u"Today"_s);
@@ -243,7 +243,7 @@ TEST_F(TableViewTest, AClosedSectionStaysClosedAfterAReload)
     EXPECT_EQ(titles(table), "Today e1 x a b c Yesterday w");
 }
 
-TEST_F(TableViewTest, SelectionAndCurrentRowStayAfterAReload)
+TEST_F(TableViewTest, selectionAndCurrentRowStayAfterAReload)
 {
     show(table);
     click(table, u"a"_s);
@@ -260,7 +260,7 @@ TEST_F(TableViewTest, SelectionAndCurrentRowStayAfterAReload)
     EXPECT_EQ(currentTitle(table), u"x");
 }
 
-TEST_F(TableViewTest, ARowThatIsGoneIsNotSelectedAnyMore)
+TEST_F(TableViewTest, aRowThatIsGoneIsNotSelectedAnyMore)
 {
     show(table);
     click(table, u"c"_s);
@@ -269,7 +269,7 @@ TEST_F(TableViewTest, ARowThatIsGoneIsNotSelectedAnyMore)
     EXPECT_TRUE(selectedTitles(table).isEmpty());
 }
 
-TEST_F(TableViewTest, TheRowsOnScreenStayWhereTheyAreAfterAReload)
+TEST_F(TableViewTest, theRowsOnScreenStayWhereTheyAreAfterAReload)
 {
     setManyPages(100, 10);
     show(table, {.sourceID = u"chrome/Default"_s});
@@ -284,7 +284,7 @@ TEST_F(TableViewTest, TheRowsOnScreenStayWhereTheyAreAfterAReload)
     EXPECT_EQ(table.view().visualRect(now).top(), offset);
 }
 
-TEST_F(TableViewTest, TheRowsOnScreenStayWhenTheTopmostIsGone)
+TEST_F(TableViewTest, theRowsOnScreenStayWhenTheTopmostIsGone)
 {
     setManyPages(200);
     show(table, {.sourceID = u"chrome/Default"_s});
@@ -299,7 +299,7 @@ TEST_F(TableViewTest, TheRowsOnScreenStayWhenTheTopmostIsGone)
     EXPECT_EQ(currentTitle(table), u"p0");
 }
 
-TEST_F(TableViewTest, TheRowsOnScreenStayWhenTheTopmostIsVisitedAgain)
+TEST_F(TableViewTest, theRowsOnScreenStayWhenTheTopmostIsVisitedAgain)
 {
     setManyPages(200);
     show(table, {.sourceID = u"chrome/Default"_s});
@@ -312,7 +312,7 @@ TEST_F(TableViewTest, TheRowsOnScreenStayWhenTheTopmostIsVisitedAgain)
     EXPECT_EQ(table.view().visualRect(find(table, stays)).top(), place);
 }
 
-TEST_F(TableViewTest, WhereNothingIsLeftOnScreenTheScrollBarStays)
+TEST_F(TableViewTest, whereNothingIsLeftOnScreenTheScrollBarStays)
 {
     setManyPages(200);
     show(table, {.sourceID = u"chrome/Default"_s});
@@ -322,7 +322,7 @@ TEST_F(TableViewTest, WhereNothingIsLeftOnScreenTheScrollBarStays)
     EXPECT_EQ(table.view().verticalScrollBar()->value(), value);
 }
 
-TEST_F(TableViewTest, WhatAClosedSectionHidesIsNotSelectedWhenTheSectionsComeBack)
+TEST_F(TableViewTest, whatAClosedSectionHidesIsNotSelectedWhenTheSectionsComeBack)
 {
     show(table, {.grouping = Grouping::Site});
     click(table, u"a.example"_s);
@@ -335,7 +335,7 @@ TEST_F(TableViewTest, WhatAClosedSectionHidesIsNotSelectedWhenTheSectionsComeBac
     EXPECT_EQ(currentTitle(table), u"a.example");
 }
 
-TEST_F(TableViewTest, ReturnOpensTheSelectionAlsoAfterAClickOnAHeading)
+TEST_F(TableViewTest, returnOpensTheSelectionAlsoAfterAClickOnAHeading)
 {
     show(table, {.grouping = Grouping::Day});
     click(table, u"w"_s);
@@ -345,7 +345,7 @@ TEST_F(TableViewTest, ReturnOpensTheSelectionAlsoAfterAClickOnAHeading)
     EXPECT_EQ(titles(table), "Today + Yesterday w");
 }
 
-TEST_F(TableViewTest, AtTheTopNewRowsComeIntoSight)
+TEST_F(TableViewTest, atTheTopNewRowsComeIntoSight)
 {
     setManyPages(100, 10);
     show(table, {.sourceID = u"chrome/Default"_s});
@@ -353,7 +353,7 @@ TEST_F(TableViewTest, AtTheTopNewRowsComeIntoSight)
     EXPECT_EQ(table.view().indexAt({0, 0}).data(), u"p0"_s);
 }
 
-TEST_F(TableViewTest, AnotherOrderBeginsAtTheTop)
+TEST_F(TableViewTest, anotherOrderBeginsAtTheTop)
 {
     setManyPages(100);
     show(table, {.sourceID = u"chrome/Default"_s});
@@ -362,14 +362,14 @@ TEST_F(TableViewTest, AnotherOrderBeginsAtTheTop)
     EXPECT_EQ(table.view().verticalScrollBar()->value(), 0);
 }
 
-TEST_F(TableViewTest, AllLinksOfAllSectionsAreSelectedWithoutTheirHeadings)
+TEST_F(TableViewTest, allLinksOfAllSectionsAreSelectedWithoutTheirHeadings)
 {
     show(table, {.grouping = Grouping::Day});
     press(table, Qt::Key_A, Qt::ControlModifier);
     EXPECT_EQ(selectedTitles(table), (QStringList{u"e1"_s, u"a"_s, u"b"_s, u"c"_s, u"w"_s}));
 }
 
-TEST_F(TableViewTest, ThousandsOfSectionsAreSelectedAtOnce)
+TEST_F(TableViewTest, thousandsOfSectionsAreSelectedAtOnce)
 {
     show(table);
     constexpr int count = 20'000;
@@ -392,14 +392,14 @@ TEST_F(TableViewTest, ThousandsOfSectionsAreSelectedAtOnce)
     EXPECT_LT(timer.elapsed(), 3000);
 }
 
-TEST_F(TableViewTest, EveryRowHasRoomForItsIcon)
+TEST_F(TableViewTest, everyRowHasRoomForItsIcon)
 {
     show(table, {.grouping = Grouping::Day});
     EXPECT_GT(table.view().visualRect(find(table, u"Today"_s)).height(), RowIcons::side);
     EXPECT_GT(table.view().visualRect(find(table, u"a"_s)).height(), RowIcons::side);
 }
 
-TEST_F(TableViewTest, OpeningEverythingBelowStopsBeforeTheStackEnds)
+TEST_F(TableViewTest, openingEverythingBelowStopsBeforeTheStackEnds)
 {
     show(table);
     BookmarkNode node;
@@ -421,7 +421,7 @@ TEST_F(TableViewTest, OpeningEverythingBelowStopsBeforeTheStackEnds)
     EXPECT_TRUE(table.view().isExpanded(inner));
 }
 
-TEST_F(TableViewTest, AReloadThatBringsNothingNewChangesNothing)
+TEST_F(TableViewTest, aReloadThatBringsNothingNewChangesNothing)
 {
     show(table);
     const QSignalSpy resets(table.view().model(), &QAbstractItemModel::modelReset);
@@ -429,7 +429,7 @@ TEST_F(TableViewTest, AReloadThatBringsNothingNewChangesNothing)
     EXPECT_EQ(resets.size(), 0);
 }
 
-TEST_F(TableViewTest, AMillionCharactersArePaintedLikeAnyTitle)
+TEST_F(TableViewTest, aMillionCharactersArePaintedLikeAnyTitle)
 {
     const QString million(1'000'000, u'x');
     setPages(u"Default"_s, {page(million, 1, 1, u"https://long.example/"_s % million)});
@@ -441,7 +441,7 @@ TEST_F(TableViewTest, AMillionCharactersArePaintedLikeAnyTitle)
     EXPECT_EQ(table.rowCount(), 1);
 }
 
-TEST_F(TableViewTest, TheLabelOfAnEmptyListIsSeen)
+TEST_F(TableViewTest, theLabelOfAnEmptyListIsSeen)
 {
     show(table, {.sourceID = u"chrome/Nobody"_s});
     const auto *label = table.findChild<QLabel *>(u"emptyText"_s);
@@ -452,7 +452,7 @@ TEST_F(TableViewTest, TheLabelOfAnEmptyListIsSeen)
     EXPECT_FALSE(label->isVisible());
 }
 
-TEST_F(TableViewTest, EveryPartHasAName)
+TEST_F(TableViewTest, everyPartHasAName)
 {
     show(table);
     EXPECT_EQ(table.view().objectName(), u"historyTable");

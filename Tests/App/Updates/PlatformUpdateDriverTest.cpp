@@ -36,13 +36,13 @@ protected:
     FakeUpdateUserInterface windows;
 };
 
-TEST_F(PlatformUpdateDriverTest, ABuildThatNobodyReleasedSaysSo)
+TEST_F(PlatformUpdateDriverTest, aBuildThatNobodyReleasedSaysSo)
 {
     EXPECT_EQ(errorOf({.name = u"Roamlet"_s, .version = u"1.0"_s, .feedURL = {}, .publicKey = {}}).code,
               UpdateError::Code::NotConfigured);
 }
 
-TEST_F(PlatformUpdateDriverTest, AFeedIsAskedForOverTheNetwork)
+TEST_F(PlatformUpdateDriverTest, aFeedIsAskedForOverTheNetwork)
 {
     // Nobody listens there.
     EXPECT_EQ(errorOf({.name = u"Roamlet"_s,

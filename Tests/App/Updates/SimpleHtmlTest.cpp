@@ -35,7 +35,7 @@ qsizetype depthOf(const QString &html)
     return result;
 }
 
-TEST(SimpleHtmlTest, WordsHeadingsListsAndEmphasisStay)
+TEST(SimpleHtmlTest, wordsHeadingsListsAndEmphasisStay)
 {
     for (const QString &html :
          {u"<h2>New &amp; nice</h2><p>It is <b>fast</b>, <em>really</em>.</p>"_s,
@@ -44,7 +44,7 @@ TEST(SimpleHtmlTest, WordsHeadingsListsAndEmphasisStay)
         EXPECT_EQ(simpleHtml(html), html);
 }
 
-TEST(SimpleHtmlTest, LinksLeadToWebPagesOnly)
+TEST(SimpleHtmlTest, linksLeadToWebPagesOnly)
 {
     EXPECT_EQ(simpleHtml(u"<A class=x HREF='https://a.example/?b&amp;c' onclick=x>d</A>"_s),
               u"<a href=\"https://a.example/?b&amp;c\">d</a>"_s);
@@ -56,7 +56,7 @@ TEST(SimpleHtmlTest, LinksLeadToWebPagesOnly)
         EXPECT_EQ(simpleHtml(u"<a href='%1'>d</a>"_s.arg(address)), u"<a>d</a>"_s);
 }
 
-TEST(SimpleHtmlTest, StylesScriptsAndPicturesGo)
+TEST(SimpleHtmlTest, stylesScriptsAndPicturesGo)
 {
     EXPECT_EQ(simpleHtml(u"<!DOCTYPE html><head><title>t</title><STYLE>p{color:red}</Style >"
                          "<script>if (a<b) x</script></head>"
@@ -65,14 +65,14 @@ TEST(SimpleHtmlTest, StylesScriptsAndPicturesGo)
               u"<p>a </p>"_s);
 }
 
-TEST(SimpleHtmlTest, ATableBecomesLines)
+TEST(SimpleHtmlTest, aTableBecomesLines)
 {
     EXPECT_EQ(simpleHtml(u"<table><tr><td colspan=20000>a</td><td>b</td></tr><tr><td>c</td></tr></table>"_s)
                   .simplified(),
               u"<br> a b<br> c"_s);
 }
 
-TEST(SimpleHtmlTest, BrokenMarkupIsMended)
+TEST(SimpleHtmlTest, brokenMarkupIsMended)
 {
     EXPECT_EQ(simpleHtml(u"<p><b>a</p>b</b></i>"_s), u"<p><b>a</b></p>b"_s);
     EXPECT_EQ(simpleHtml(u"<p>a"_s), u"<p>a</p>"_s);
@@ -82,7 +82,7 @@ TEST(SimpleHtmlTest, BrokenMarkupIsMended)
         EXPECT_GE(depthOf(simpleHtml(html)), 0);
 }
 
-TEST(SimpleHtmlTest, WhateverComesTheResultIsSmallAndFlat)
+TEST(SimpleHtmlTest, whateverComesTheResultIsSmallAndFlat)
 {
     for (const QString &html : {u"<table><tr><td>"_s, u"<ul><li>"_s, u"<b>a</b>b"_s, u"<p>a"_s, u"<div>"_s,
                                 u"<br>"_s, u"<x>"_s, u"< "_s, u"&lt;"_s, u"word "_s, u"<blockquote>a"_s,

@@ -16,7 +16,7 @@ namespace
 
 using namespace Qt::StringLiterals;
 
-TEST(UpdateErrorTextTest, EveryErrorHasASentenceOfItsOwn)
+TEST(UpdateErrorTextTest, everyErrorHasASentenceOfItsOwn)
 {
     QSet<QString> sentences;
     const int last = static_cast<int>(UpdateError::Code::NoInstaller);
@@ -28,7 +28,7 @@ TEST(UpdateErrorTextTest, EveryErrorHasASentenceOfItsOwn)
     EXPECT_EQ(sentences.size(), last + 1);
 }
 
-TEST(UpdateErrorTextTest, TheSystemsWordsStandBehindIt)
+TEST(UpdateErrorTextTest, theSystemsWordsStandBehindIt)
 {
     EXPECT_EQ(updateErrorText({UpdateError::Code::CannotWrite, u"No space left on device"_s}),
               u"The update cannot be saved. (No space left on device)"_s);

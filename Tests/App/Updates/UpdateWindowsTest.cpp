@@ -81,7 +81,7 @@ protected:
                         .isCritical = false};
 };
 
-TEST_F(UpdateWindowsTest, ACheckCanBeCancelled)
+TEST_F(UpdateWindowsTest, aCheckCanBeCancelled)
 {
     windows.showChecking(count());
     EXPECT_EQ(heading(), u"Checking for updates…"_s);
@@ -91,7 +91,7 @@ TEST_F(UpdateWindowsTest, ACheckCanBeCancelled)
     EXPECT_EQ(shown(), QStringList());
 }
 
-TEST_F(UpdateWindowsTest, ClosingTheCheckCancelsIt)
+TEST_F(UpdateWindowsTest, closingTheCheckCancelsIt)
 {
     windows.showChecking(count());
     window().close();
@@ -102,7 +102,7 @@ TEST_F(UpdateWindowsTest, ClosingTheCheckCancelsIt)
     EXPECT_EQ(shown(), QStringList());
 }
 
-TEST_F(UpdateWindowsTest, UpToDateSaysWhichVersionAndIsReadOnce)
+TEST_F(UpdateWindowsTest, upToDateSaysWhichVersionAndIsReadOnce)
 {
     windows.showUpToDate(count());
     EXPECT_EQ(heading(), u"Roamlet is up to date"_s);
@@ -114,7 +114,7 @@ TEST_F(UpdateWindowsTest, UpToDateSaysWhichVersionAndIsReadOnce)
     EXPECT_EQ(answers, 2);
 }
 
-TEST_F(UpdateWindowsTest, AnErrorSaysWhatWentWrong)
+TEST_F(UpdateWindowsTest, anErrorSaysWhatWentWrong)
 {
     const UpdateError error{.code = UpdateError::Code::WrongSignature, .detail = {}};
     windows.showError(error, count());
@@ -124,7 +124,7 @@ TEST_F(UpdateWindowsTest, AnErrorSaysWhatWentWrong)
     EXPECT_EQ(answers, 1);
 }
 
-TEST_F(UpdateWindowsTest, TheSystemsWordsAreCutAndNoMarkup)
+TEST_F(UpdateWindowsTest, theSystemsWordsAreCutAndNoMarkup)
 {
     windows.showError(
         {.code = UpdateError::Code::NetworkFailed, .detail = u"<b>\n" % QString(1'000'000, u'w')}, count());
@@ -134,7 +134,7 @@ TEST_F(UpdateWindowsTest, TheSystemsWordsAreCutAndNoMarkup)
     EXPECT_LT(window().width(), 1'200);
 }
 
-TEST_F(UpdateWindowsTest, AnUpdateShowsItsVersionItsSizeAndItsNotes)
+TEST_F(UpdateWindowsTest, anUpdateShowsItsVersionItsSizeAndItsNotes)
 {
     showUpdate(update);
     EXPECT_EQ(heading(), u"Roamlet 2.0 is available"_s);
@@ -144,7 +144,7 @@ TEST_F(UpdateWindowsTest, AnUpdateShowsItsVersionItsSizeAndItsNotes)
     EXPECT_EQ(notes().toPlainText(), u"Faster"_s);
 }
 
-TEST_F(UpdateWindowsTest, EachButtonIsItsChoice)
+TEST_F(UpdateWindowsTest, eachButtonIsItsChoice)
 {
     for (const QString &name : {u"updateSkip"_s, u"updateLater"_s, u"updateInstall"_s}) {
         showUpdate(update);
@@ -154,7 +154,7 @@ TEST_F(UpdateWindowsTest, EachButtonIsItsChoice)
     EXPECT_EQ(choices, (QList{Choice::Skip, Choice::Later, Choice::Install}));
 }
 
-TEST_F(UpdateWindowsTest, TheButtonsSayWhatTheyDo)
+TEST_F(UpdateWindowsTest, theButtonsSayWhatTheyDo)
 {
     showUpdate(update);
     EXPECT_EQ(button(u"updateSkip"_s)->text(), u"Skip This Version"_s);
@@ -165,7 +165,7 @@ TEST_F(UpdateWindowsTest, TheButtonsSayWhatTheyDo)
     EXPECT_FALSE(notes().accessibleName().isEmpty());
 }
 
-TEST_F(UpdateWindowsTest, ReturnInstallsAndClosingIsLater)
+TEST_F(UpdateWindowsTest, returnInstallsAndClosingIsLater)
 {
     showUpdate(update);
     QTest::keyClick(&window(), Qt::Key_Return);
@@ -177,7 +177,7 @@ TEST_F(UpdateWindowsTest, ReturnInstallsAndClosingIsLater)
     EXPECT_EQ(choices, (QList{Choice::Install, Choice::Later, Choice::Later}));
 }
 
-TEST_F(UpdateWindowsTest, AnImportantUpdateCannotBeSkipped)
+TEST_F(UpdateWindowsTest, anImportantUpdateCannotBeSkipped)
 {
     Update important = update;
     important.isCritical = true;
@@ -188,7 +188,7 @@ TEST_F(UpdateWindowsTest, AnImportantUpdateCannotBeSkipped)
     EXPECT_EQ(choices, QList{Choice::Later});
 }
 
-TEST_F(UpdateWindowsTest, NotesThatComeLaterAreAddedToTheirUpdateOnly)
+TEST_F(UpdateWindowsTest, notesThatComeLaterAreAddedToTheirUpdateOnly)
 {
     Update without = update;
     without.notes = {};
@@ -204,7 +204,7 @@ TEST_F(UpdateWindowsTest, NotesThatComeLaterAreAddedToTheirUpdateOnly)
     EXPECT_TRUE(notes().toPlainText().startsWith(u"New\nless"));
 }
 
-TEST_F(UpdateWindowsTest, PlainNotesStayAsTheyAre)
+TEST_F(UpdateWindowsTest, plainNotesStayAsTheyAre)
 {
     Update plain = update;
     plain.notes = ReleaseNotes{.format = ReleaseNotes::Format::Plain, .text = u"a <b>&amp;</b>\n# c"_s};
@@ -212,7 +212,7 @@ TEST_F(UpdateWindowsTest, PlainNotesStayAsTheyAre)
     EXPECT_EQ(notes().toPlainText(), plain.notes->text);
 }
 
-TEST_F(UpdateWindowsTest, NotesLoadNothing)
+TEST_F(UpdateWindowsTest, notesLoadNothing)
 {
     const QTemporaryDir folder;
     const QString picture = folder.filePath(u"picture.png"_s);
@@ -231,7 +231,7 @@ TEST_F(UpdateWindowsTest, NotesLoadNothing)
     EXPECT_EQ(notes().loadResource(QTextDocument::HtmlResource, QUrl::fromLocalFile(picture)), QVariant());
 }
 
-TEST_F(UpdateWindowsTest, NotesHaveTheColoursOfTheirSurroundings)
+TEST_F(UpdateWindowsTest, notesHaveTheColoursOfTheirSurroundings)
 {
     Update noted = update;
     noted.notes->text = u"<body bgcolor='#ffffff' text='#000000'><p style='color:#fefefe;background:#fdfdfd'>"
@@ -252,7 +252,7 @@ TEST_F(UpdateWindowsTest, NotesHaveTheColoursOfTheirSurroundings)
     EXPECT_EQ(notes().toPlainText(), u"one two three"_s);
 }
 
-TEST_F(UpdateWindowsTest, OnlyLinksToWebPagesLeadAnywhere)
+TEST_F(UpdateWindowsTest, onlyLinksToWebPagesLeadAnywhere)
 {
     showUpdate(update);
     for (const QString &link : {u"https://a.example/x y"_s, u"http://b.example/"_s, u"file:///etc/passwd"_s,
@@ -262,7 +262,7 @@ TEST_F(UpdateWindowsTest, OnlyLinksToWebPagesLeadAnywhere)
     EXPECT_EQ(notes().toPlainText(), u"Faster"_s) << "the notes stay";
 }
 
-TEST_F(UpdateWindowsTest, EndlessNotesAndVersionsAreCut)
+TEST_F(UpdateWindowsTest, endlessNotesAndVersionsAreCut)
 {
     Update endless = update;
     endless.displayVersion = QString(1'000'000, u'9');
@@ -273,7 +273,7 @@ TEST_F(UpdateWindowsTest, EndlessNotesAndVersionsAreCut)
     EXPECT_LT(window().width(), 1'500);
 }
 
-TEST_F(UpdateWindowsTest, MarkdownThatIsAllMarksIsShownAsItIs)
+TEST_F(UpdateWindowsTest, markdownThatIsAllMarksIsShownAsItIs)
 {
     Update marked = update;
     marked.notes = ReleaseNotes{.format = ReleaseNotes::Format::Markdown, .text = u"*a* "_s.repeated(100)};
@@ -286,7 +286,7 @@ TEST_F(UpdateWindowsTest, MarkdownThatIsAllMarksIsShownAsItIs)
     }
 }
 
-TEST_F(UpdateWindowsTest, ATableOfMarkdownIsNoTable)
+TEST_F(UpdateWindowsTest, aTableOfMarkdownIsNoTable)
 {
     Update marked = update;
     marked.notes = ReleaseNotes{.format = ReleaseNotes::Format::Markdown, .text = u"|a|b|\n|-|-|\n|1|2|\n"_s};
@@ -294,7 +294,7 @@ TEST_F(UpdateWindowsTest, ATableOfMarkdownIsNoTable)
     EXPECT_TRUE(notes().document()->rootFrame()->childFrames().isEmpty());
 }
 
-TEST_F(UpdateWindowsTest, ADownloadShowsHowFarItIs)
+TEST_F(UpdateWindowsTest, aDownloadShowsHowFarItIs)
 {
     windows.showDownload(update, count());
     EXPECT_EQ(heading(), u"Downloading the update…"_s);
@@ -314,7 +314,7 @@ TEST_F(UpdateWindowsTest, ADownloadShowsHowFarItIs)
     EXPECT_EQ(answers, 1);
 }
 
-TEST_F(UpdateWindowsTest, TheCheckOfTheDownloadCanBeCancelled)
+TEST_F(UpdateWindowsTest, theCheckOfTheDownloadCanBeCancelled)
 {
     windows.showDownload(update, count());
     windows.showVerifying();
@@ -324,7 +324,7 @@ TEST_F(UpdateWindowsTest, TheCheckOfTheDownloadCanBeCancelled)
     EXPECT_EQ(answers, 1);
 }
 
-TEST_F(UpdateWindowsTest, EachWindowTakesThePlaceOfTheOneBeforeUnanswered)
+TEST_F(UpdateWindowsTest, eachWindowTakesThePlaceOfTheOneBeforeUnanswered)
 {
     windows.showChecking(count());
     showUpdate(update);
@@ -340,7 +340,7 @@ TEST_F(UpdateWindowsTest, EachWindowTakesThePlaceOfTheOneBeforeUnanswered)
     windows.close();
 }
 
-TEST_F(UpdateWindowsTest, AnAnswerMayBringTheNextWindow)
+TEST_F(UpdateWindowsTest, anAnswerMayBringTheNextWindow)
 {
     windows.showUpdate(update, [this](Choice) { windows.showDownload(update, count()); });
     press(u"updateInstall"_s);
@@ -353,7 +353,7 @@ TEST_F(UpdateWindowsTest, AnAnswerMayBringTheNextWindow)
     EXPECT_EQ(shown(), QStringList());
 }
 
-TEST_F(UpdateWindowsTest, FocusBringsTheWindowBack)
+TEST_F(UpdateWindowsTest, focusBringsTheWindowBack)
 {
     windows.focus();
     showUpdate(update);
@@ -363,7 +363,7 @@ TEST_F(UpdateWindowsTest, FocusBringsTheWindowBack)
     EXPECT_TRUE(QTest::qWaitForWindowActive(&window()));
 }
 
-TEST_F(UpdateWindowsTest, WithoutAWindowProgressAndNotesDoNothing)
+TEST_F(UpdateWindowsTest, withoutAWindowProgressAndNotesDoNothing)
 {
     windows.setDownloadProgress(1, 2);
     windows.showVerifying();

@@ -38,7 +38,7 @@ protected:
     UpdateState scheduled;
 };
 
-TEST_F(UpdaterTest, ABuildWithAFeedIsUpdatedByItself)
+TEST_F(UpdaterTest, aBuildWithAFeedIsUpdatedByItself)
 {
     create();
     EXPECT_TRUE(updater->isAvailable());
@@ -46,20 +46,20 @@ TEST_F(UpdaterTest, ABuildWithAFeedIsUpdatedByItself)
     EXPECT_EQ(driver->scheduler, UpdateDriver::Scheduler::Started);
 }
 
-TEST_F(UpdaterTest, ABuildWithoutAFeedNeverStartsTheScheduler)
+TEST_F(UpdaterTest, aBuildWithoutAFeedNeverStartsTheScheduler)
 {
     create(QString());
     EXPECT_FALSE(updater->isAvailable());
     EXPECT_EQ(driver->scheduler, UpdateDriver::Scheduler::NotStarted) << "but the driver is there";
 }
 
-TEST_F(UpdaterTest, AnyTextIsAFeed)
+TEST_F(UpdaterTest, anyTextIsAFeed)
 {
     create(u" "_s);
     EXPECT_TRUE(updater->isAvailable());
 }
 
-TEST_F(UpdaterTest, TheOperationsAreTheDrivers)
+TEST_F(UpdaterTest, theOperationsAreTheDrivers)
 {
     create();
     updater->checkForUpdates();
@@ -72,7 +72,7 @@ TEST_F(UpdaterTest, TheOperationsAreTheDrivers)
     EXPECT_TRUE(updater->automaticallyChecksForUpdates()) << "nothing is remembered here";
 }
 
-TEST_F(UpdaterTest, RemindersAreTheApps)
+TEST_F(UpdaterTest, remindersAreTheApps)
 {
     create();
     EXPECT_TRUE(driver->delegate->supportsGentleScheduledUpdateReminders());
@@ -81,7 +81,7 @@ TEST_F(UpdaterTest, RemindersAreTheApps)
     EXPECT_EQ(changes->size(), 0);
 }
 
-TEST_F(UpdaterTest, AnUpdateThatTheDriverShowsDoesNotWait)
+TEST_F(UpdaterTest, anUpdateThatTheDriverShowsDoesNotWait)
 {
     create();
     driver->delegate->willHandleShowingUpdate(true, update, scheduled);
@@ -89,7 +89,7 @@ TEST_F(UpdaterTest, AnUpdateThatTheDriverShowsDoesNotWait)
     EXPECT_EQ(changes->size(), 0);
 }
 
-TEST_F(UpdaterTest, AnUpdateThatIsLeftToTheAppWaitsUntilTheUserSeesIt)
+TEST_F(UpdaterTest, anUpdateThatIsLeftToTheAppWaitsUntilTheUserSeesIt)
 {
     create();
     driver->delegate->willHandleShowingUpdate(false, update, scheduled);
@@ -101,7 +101,7 @@ TEST_F(UpdaterTest, AnUpdateThatIsLeftToTheAppWaitsUntilTheUserSeesIt)
     EXPECT_EQ(changes->at(1), QVariantList{false});
 }
 
-TEST_F(UpdaterTest, AnUpdateThatIsShownLaterDoesNotTakeTheWaitAway)
+TEST_F(UpdaterTest, anUpdateThatIsShownLaterDoesNotTakeTheWaitAway)
 {
     create();
     driver->delegate->willHandleShowingUpdate(false, update, scheduled);
@@ -109,7 +109,7 @@ TEST_F(UpdaterTest, AnUpdateThatIsShownLaterDoesNotTakeTheWaitAway)
     EXPECT_TRUE(updater->updateIsWaiting()) << "only the user's eyes do";
 }
 
-TEST_F(UpdaterTest, TheEndOfACheckEndsTheWait)
+TEST_F(UpdaterTest, theEndOfACheckEndsTheWait)
 {
     create();
     driver->delegate->willHandleShowingUpdate(false, update, scheduled);
@@ -118,7 +118,7 @@ TEST_F(UpdaterTest, TheEndOfACheckEndsTheWait)
     EXPECT_EQ(changes->size(), 2);
 }
 
-TEST_F(UpdaterTest, NobodyIsToldWhatTheyKnow)
+TEST_F(UpdaterTest, nobodyIsToldWhatTheyKnow)
 {
     create();
     driver->delegate->didReceiveUserAttention(update);
