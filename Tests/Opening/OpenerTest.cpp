@@ -9,6 +9,9 @@
 
 #include <gtest/gtest.h>
 
+#include <iterator>
+#include <utility>
+
 namespace roamlet::testing
 {
 namespace
@@ -118,13 +121,39 @@ TEST_F(OpenerTest, firefoxHasPagesOfItsOwn)
 
 TEST_F(OpenerTest, everyBrowserHasPagesOfItsOwn)
 {
-    for (const Browser &browser : Browser::all()) {
+    struct Pages {
+        QString browser;
+        QString history;
+        QString bookmarks;
+        QString folder;
+    };
+    const QString window = u"chrome://browser/content/places/places.xhtml"_s;
+    const QString view = u"about:firefoxview#history"_s;
+    const Pages all[] = {
+        {u"safari"_s, u"history://"_s, u"bookmarks://"_s, u"bookmarks://"_s},
+        {u"chrome"_s, u"chrome://history/"_s, u"chrome://bookmarks/"_s, u"chrome://bookmarks/?id=5"_s},
+        {u"edge"_s, u"edge://history/"_s, u"edge://favorites/"_s, u"edge://favorites/?id=5"_s},
+        {u"chromium"_s, u"chrome://history/"_s, u"chrome://bookmarks/"_s, u"chrome://bookmarks/?id=5"_s},
+        {u"brave"_s, u"brave://history/"_s, u"brave://bookmarks/"_s, u"brave://bookmarks/?id=5"_s},
+        {u"vivaldi"_s, u"vivaldi://history/"_s, u"vivaldi://bookmarks/"_s, u"vivaldi://bookmarks/"_s},
+        {u"opera"_s, u"opera://history/"_s, u"opera://bookmarks/"_s, u"opera://bookmarks/"_s},
+        {u"firefox"_s, view, window, window},
+        {u"librewolf"_s, view, window, window},
+        {u"waterfox"_s, view, window, window},
+        {u"floorp"_s, view, window, window},
+        {u"zen"_s, view, window, window},
+    };
+    ASSERT_EQ(Browser::all().size(), static_cast<qsizetype>(std::size(all)));
+    for (const auto &[name, history, bookmarks, folder] : all) {
         workspace.requests.clear();
-        opener.showHistory(profileOf(browser.kind, u"p"_s));
-        opener.editBookmarks(profileOf(browser.kind, u"p"_s), {});
-        ASSERT_EQ(workspace.requests.size(), 2) << browser.rawValue.toStdString();
-        EXPECT_TRUE(workspace.requests.at(0).last().contains(u"history"_s)) << browser.rawValue.toStdString();
-        EXPECT_NE(workspace.requests.at(1).last(), workspace.requests.at(0).last());
+        const Source source = profileOf(browserKind(name), u"p"_s);
+        opener.showHistory(source);
+        opener.editBookmarks(source, {});
+        opener.editBookmarks(source, u"%1/p/5"_s.arg(name));
+        QStringList pages;
+        for (const QStringList &request : std::as_const(workspace.requests))
+            pages.append(request.last());
+        EXPECT_EQ(pages, QStringList({history, bookmarks, folder})) << name.toStdString();
     }
 }
 
