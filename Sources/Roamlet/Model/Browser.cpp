@@ -79,6 +79,13 @@ Browser firstOfChromium(Browser browser, const QString &bundleID)
     return browser;
 }
 
+/// One whose application on a Mac is not called what people call the browser.
+Browser identifiedOnMac(Browser browser, const QString &bundleID)
+{
+    browser.bundleID = bundleID;
+    return browser;
+}
+
 Browser withPersonalProfiles(Browser browser)
 {
     browser.namesPersonalProfiles = true;
@@ -179,27 +186,29 @@ QList<Browser> table()
                    chromiumEntries,
                    chromiumClasses}}),
 
-        chromium(u"brave"_s, u"Brave"_s, u"brave://history/"_s, u"brave://bookmarks/"_s,
-                 {{{},
-                   {onMac(u"BraveSoftware/Brave-Browser"_s), inConfig(u"BraveSoftware/Brave-Browser"_s)},
-                   braveEntries,
-                   {u"brave-browser"_s}},
-                  {u"beta"_s,
-                   {inConfig(u"BraveSoftware/Brave-Browser-Beta"_s)},
-                   {u"brave-browser-beta"_s},
-                   {u"brave-browser-beta"_s}},
-                  {u"nightly"_s,
-                   {inConfig(u"BraveSoftware/Brave-Browser-Nightly"_s)},
-                   {u"brave-browser-nightly"_s},
-                   {u"brave-browser-nightly"_s}},
-                  {u"snap"_s,
-                   {atHome(u"snap/brave/current/.config/BraveSoftware/Brave-Browser"_s)},
-                   braveEntries,
-                   {u"brave-browser"_s}},
-                  {u"flatpak"_s,
-                   {inFlatpak(u"com.brave.Browser"_s, u"config/BraveSoftware/Brave-Browser"_s)},
-                   braveEntries,
-                   {u"brave-browser"_s}}}),
+        identifiedOnMac(
+            chromium(u"brave"_s, u"Brave"_s, u"brave://history/"_s, u"brave://bookmarks/"_s,
+                     {{{},
+                       {onMac(u"BraveSoftware/Brave-Browser"_s), inConfig(u"BraveSoftware/Brave-Browser"_s)},
+                       braveEntries,
+                       {u"brave-browser"_s}},
+                      {u"beta"_s,
+                       {inConfig(u"BraveSoftware/Brave-Browser-Beta"_s)},
+                       {u"brave-browser-beta"_s},
+                       {u"brave-browser-beta"_s}},
+                      {u"nightly"_s,
+                       {inConfig(u"BraveSoftware/Brave-Browser-Nightly"_s)},
+                       {u"brave-browser-nightly"_s},
+                       {u"brave-browser-nightly"_s}},
+                      {u"snap"_s,
+                       {atHome(u"snap/brave/current/.config/BraveSoftware/Brave-Browser"_s)},
+                       braveEntries,
+                       {u"brave-browser"_s}},
+                      {u"flatpak"_s,
+                       {inFlatpak(u"com.brave.Browser"_s, u"config/BraveSoftware/Brave-Browser"_s)},
+                       braveEntries,
+                       {u"brave-browser"_s}}}),
+            u"com.brave.Browser"_s),
 
         withoutFolders(chromium(
             u"vivaldi"_s, u"Vivaldi"_s, u"vivaldi://history/"_s, u"vivaldi://bookmarks/"_s,
@@ -270,6 +279,7 @@ const QList<Browser> &Browser::all()
     static const QList<Browser> browsers = [] {
         QList<Browser> rows = table();
         for (qsizetype i = 0; i < rows.size(); ++i)
+            // NOLINTNEXTLINE(clang-analyzer-optin.core.EnumCastOutOfRange): most kinds have no name
             rows[i].kind = static_cast<Source::Kind>(i);
         return rows;
     }();
@@ -297,6 +307,11 @@ QString Browser::historyFile(Family family)
         break;
     }
     return u"History"_s;
+}
+
+QString Browser::sideProfile(const QString &key)
+{
+    return key.section(u'/', 0, 0) == u"_side_profiles" ? key.section(u'/', 1, 1) : QString();
 }
 
 QString Browser::installationName(const QString &key)

@@ -51,7 +51,7 @@ struct Browser {
     QString rawValue;
     QString displayName;
     Family family = Family::Chromium;
-    /// What it is called on a Mac; empty where we do not know.
+    /// What it is called on a Mac; empty where we do not know, and the application has the display name.
     QString bundleID;
     /// The address of its page of the history.
     QString historyPage;
@@ -75,6 +75,9 @@ struct Browser {
     static QString profileList(Family family);
     /// The file in a profile's folder that holds its history.
     static QString historyFile(Family family);
+    /// The name of Opera's side profile that has this key, "_side_profiles/Work" or
+    /// "_side_profiles/Work/Default"; empty for any other profile.
+    static QString sideProfile(const QString &key);
     /// "Beta", "(Snap)", "Beta (Flatpak)": how an installation with this key is told apart.
     static QString installationName(const QString &key);
 };

@@ -4,7 +4,6 @@
 #include "Platform/Mac/MacWorkspace.h"
 
 #include "Model/Browser.h"
-#include "Platform/Mac/OpenCommands.h"
 
 namespace roamlet
 {
@@ -14,19 +13,31 @@ using namespace Qt::StringLiterals;
 void MacWorkspace::openInProfile(const QStringList &urls, const Source &source)
 {
     const Browser &browser = Browser::of(source.kind);
-    if (browser.family != Browser::Family::Chromium || !source.profile) {
+    if (browser.family == Browser::Family::Chromium && source.profile)
+        run(OpenCommands::inProfile(urls, browser, *source.profile));
+    else if (browser.bundleID.isEmpty())
+        run(OpenCommands::inApplication(urls, browser));
+    else
         open(urls, source.kind);
-        return;
-    }
-    const auto [program, arguments] = OpenCommands::inProfile(urls, browser.bundleID, *source.profile);
-    start(program, arguments);
 }
 
 void MacWorkspace::showPage(const QString &page, const Source &source)
 {
+    const Browser &browser = Browser::of(source.kind);
+    if (browser.family == Browser::Family::Firefox) {
+        // Windows of its own are no addresses, and it has an option for them.
+        const bool isWindow = page.startsWith(u"chrome:");
+        run(OpenCommands::withArguments(browser,
+                                        isWindow ? QStringList{u"--chrome"_s, page} : QStringList{page}));
+        return;
+    }
     openInProfile({u"about:blank"_s}, source);
-    const auto [program, arguments] = OpenCommands::showPage(Browser::of(source.kind).bundleID, page);
-    start(program, arguments);
+    run(OpenCommands::showPage(browser, page));
+}
+
+void MacWorkspace::run(const OpenCommands::Command &command)
+{
+    start(command.program, command.arguments);
 }
 
 } // namespace roamlet

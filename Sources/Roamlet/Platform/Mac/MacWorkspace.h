@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "Platform/Mac/OpenCommands.h"
 #include "Platform/Workspace.h"
 
 namespace roamlet
@@ -15,14 +16,17 @@ class MacWorkspace : public Workspace
 {
 public:
     /// One start of a command opens them all. A browser of another family opens them in the profile that it
-    /// chooses.
+    /// chooses. One whose identifier we do not know is told by its name.
     void openInProfile(const QStringList &urls, const Source &source) final;
-    /// A blank tab that is pointed at the page as soon as it shows.
+    /// A blank tab that is pointed at the page as soon as it shows; Firefox is started with the page.
     void showPage(const QString &page, const Source &source) final;
 
 protected:
     /// Starts a program and does not wait. The arguments reach it as they are; no shell sees them.
     virtual void start(const QString &program, const QStringList &arguments) = 0;
+
+private:
+    void run(const OpenCommands::Command &command);
 };
 
 } // namespace roamlet

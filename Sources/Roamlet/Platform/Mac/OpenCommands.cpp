@@ -3,29 +3,63 @@
 
 #include "Platform/Mac/OpenCommands.h"
 
+#include "Model/Browser.h"
+
 namespace roamlet::OpenCommands
 {
 
 using namespace Qt::StringLiterals;
 
-Command inProfile(const QStringList &urls, const QString &bundleID, const QString &profile)
+namespace
 {
-    const QStringList arguments{u"-n"_s, u"-b"_s, bundleID, u"--args"_s, u"--profile-directory=" % profile};
-    return {.program = u"/usr/bin/open"_s, .arguments = arguments + urls};
+
+/// How "open" is told which application it is to open: by its identifier where we know that.
+QStringList application(const Browser &browser)
+{
+    return browser.bundleID.isEmpty() ? QStringList{u"-a"_s, browser.displayName}
+                                      : QStringList{u"-b"_s, browser.bundleID};
 }
 
-Command showPage(const QString &bundleID, const QString &page)
+QStringList profileArguments(const QString &profile)
 {
-    return {.program = u"/usr/bin/osascript"_s, .arguments = {u"-e"_s, pageScript(bundleID, page)}};
+    if (const QString name = Browser::sideProfile(profile); !name.isEmpty())
+        return {u"--side-profile-name=" % name, u"--with-feature:side-profiles"_s};
+    // One in the data folder itself has no name.
+    return profile.isEmpty() ? QStringList() : QStringList{u"--profile-directory=" % profile};
 }
 
-QString pageScript(const QString &bundleID, const QString &page)
+} // namespace
+
+Command inApplication(const QStringList &urls, const Browser &browser)
 {
+    return {.program = u"/usr/bin/open"_s, .arguments = application(browser) + urls};
+}
+
+Command inProfile(const QStringList &urls, const Browser &browser, const QString &profile)
+{
+    return withArguments(browser, profileArguments(profile) + urls);
+}
+
+Command withArguments(const Browser &browser, const QStringList &arguments)
+{
+    return {.program = u"/usr/bin/open"_s,
+            .arguments = QStringList{u"-n"_s} + application(browser) + QStringList{u"--args"_s} + arguments};
+}
+
+Command showPage(const Browser &browser, const QString &page)
+{
+    return {.program = u"/usr/bin/osascript"_s, .arguments = {u"-e"_s, pageScript(browser, page)}};
+}
+
+QString pageScript(const Browser &browser, const QString &page)
+{
+    const QString name = browser.bundleID.isEmpty() ? QString(u'"' % browser.displayName % u'"')
+                                                    : QString(u"id \"" % browser.bundleID % u'"');
     return u"repeat 40 times\n"
            "    try\n"
-           "        tell application id \"" %
-           bundleID %
-           u"\"\n"
+           "        tell application " %
+           name %
+           u"\n"
            "            if (count of windows) > 0 and URL of active tab of front window is \"about:blank\" "
            "then\n"
            "                set URL of active tab of front window to \"" %
