@@ -142,18 +142,22 @@ TEST_F(OpenInFirefoxTest, aLinkOpensInItsProfileWhetherThatRunsOrRests)
     const QString privat = makeProfile(u"Privat"_s);
     const Source workSource = source(work);
     const QString toStart = addPage(u"/start"_s);
+    const QString besideStart = addPage(u"/beside-start"_s);
     const QString toHandOver = addPage(u"/further"_s);
+    const QString besideHandOver = addPage(u"/beside-further"_s);
     const QString toOther = addPage(u"/other"_s);
     const QString toSource = addPage(u"/source"_s);
     const QString toEnd = addPage(u"/end"_s);
     const FolderFingerprint resting(folder(privat));
 
-    opener->openLinks({{toStart, workSource}});
+    opener->openLinks({{toStart, workSource}, {besideStart, workSource}});
     ASSERT_TRUE(waitForVisit(work, toStart));
+    EXPECT_TRUE(waitForVisit(work, besideStart));
     EXPECT_EQ(lines(u"ends"_s), QStringList()) << "the browser that should run has ended";
 
-    opener->openLinks({{toHandOver, workSource}});
+    opener->openLinks({{toHandOver, workSource}, {besideHandOver, workSource}});
     ASSERT_TRUE(waitForVisit(work, toHandOver));
+    EXPECT_TRUE(waitForVisit(work, besideHandOver));
     ASSERT_TRUE(waitUntil([this] { return !lines(u"ends"_s).isEmpty(); }));
     EXPECT_EQ(lines(u"ends"_s), QStringList{u"0"_s});
     EXPECT_EQ(lines(u"sessions"_s).size(), 2);

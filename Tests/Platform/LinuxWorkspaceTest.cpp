@@ -128,6 +128,34 @@ TEST_F(LinuxWorkspaceTest, aProfileInTheDataFolderItselfIsNamedToNobody)
     EXPECT_EQ(started.at(1).arguments, QStringList{u"http://a/"_s});
 }
 
+TEST_F(LinuxWorkspaceTest, aSideProfileOfOperasIsStartedByItsName)
+{
+    desktop.addApplication(u"opera.desktop"_s, u"opera"_s);
+    keepDataIn(u".config/opera"_s);
+    sample::writeFile(home.path(u".config/opera/_side_profiles/My Work/History"_s), "");
+    sample::writeFile(home.path(u".config/opera/_side_profiles/Play/Default/History"_s), "");
+    windows->isSteerable = false;
+    workspace.openInProfile({u"http://a/"_s}, profileOf(browserKind(u"opera"), u"_side_profiles/My Work"_s));
+    workspace.showPage(u"opera://bookmarks/"_s,
+                       profileOf(browserKind(u"opera"), u"_side_profiles/Play/Default"_s));
+    const QList<FakeDesktop::Start> started = starts();
+    ASSERT_EQ(started.size(), 2);
+    EXPECT_EQ(started.at(0).arguments, QStringList({u"--side-profile-name=My Work"_s,
+                                                    u"--with-feature:side-profiles"_s, u"http://a/"_s}));
+    EXPECT_EQ(started.at(1).arguments, QStringList({u"--side-profile-name=Play"_s,
+                                                    u"--with-feature:side-profiles"_s, u"about:blank"_s}));
+}
+
+TEST_F(LinuxWorkspaceTest, aSideProfileOfOperasThatIsGoneDoesNotComeBack)
+{
+    desktop.addApplication(u"opera.desktop"_s, u"opera"_s);
+    keepDataIn(u".config/opera"_s);
+    const Source gone = profileOf(browserKind(u"opera"), u"_side_profiles/Work"_s);
+    workspace.openInProfile({u"http://a/"_s}, gone);
+    workspace.showPage(u"opera://bookmarks/"_s, gone);
+    EXPECT_TRUE(starts().isEmpty());
+}
+
 TEST_F(LinuxWorkspaceTest, noShellSeesTheArguments)
 {
     desktop.addApplication(u"google-chrome.desktop"_s, u"chrome"_s);
@@ -231,6 +259,31 @@ TEST_F(LinuxWorkspaceTest, aSettingMayNameTheDataOfAnotherBrowser)
     keepDataIn(u".config/chromium"_s);
     home.defaults.setString(u"dataRoot.chrome"_s, u"~/.config/chromium"_s);
     EXPECT_EQ(programForLink(Source::Kind::Chrome), u"chromium");
+}
+
+TEST_F(LinuxWorkspaceTest, aFolderThatASettingNamesOpensInTheInstallationOfItsKey)
+{
+    desktop.addApplication(u"google-chrome.desktop"_s, u"chrome"_s);
+    desktop.addApplication(u"firefox.desktop"_s, u"firefox"_s);
+    keepDataIn(u"mnt/x"_s);
+    keepFirefoxIn(u"mnt/y"_s, u"abc.default"_s);
+    home.defaults.setString(u"dataRoot.chrome@beta"_s, home.path(u"mnt/x"_s));
+    home.defaults.setString(u"dataRoot.firefox@snap"_s, home.path(u"mnt/y"_s));
+    const Source chrome = profileOf(Source::Kind::Chrome, u"Default"_s, u"beta"_s);
+    const Source firefox = profileOf(browserKind(u"firefox"), u"abc.default"_s, u"snap"_s);
+    workspace.openInProfile({u"http://a/"_s}, chrome);
+    workspace.openInProfile({u"http://a/"_s}, firefox);
+    EXPECT_TRUE(starts().isEmpty()) << "the package stands in for it";
+
+    desktop.addApplication(u"google-chrome-beta.desktop"_s, u"chrome-beta"_s);
+    desktop.addApplication(u"firefox_firefox.desktop"_s, u"snap/bin/firefox-snap"_s);
+    workspace.openInProfile({u"http://a/"_s}, chrome);
+    workspace.openInProfile({u"http://a/"_s}, firefox);
+    const QList<FakeDesktop::Start> started = starts();
+    ASSERT_EQ(started.size(), 2);
+    EXPECT_EQ(started.at(0).program, u"chrome-beta");
+    EXPECT_EQ(started.at(1).program, u"firefox-snap");
+    EXPECT_EQ(started.at(1).arguments.value(1), home.path(u"mnt/y/abc.default"_s));
 }
 
 TEST_F(LinuxWorkspaceTest, eachInstallationOpensItsOwnData)
@@ -410,7 +463,7 @@ TEST_F(LinuxWorkspaceTest, firefoxShowsItsPagesByItsOwnArguments)
     EXPECT_EQ(windows->looks, 0) << "nothing has to be typed";
 }
 
-TEST_F(LinuxWorkspaceTest, firefoxsFlatpakAndSnapAreStartedByTheirOwnCommands)
+TEST_F(LinuxWorkspaceTest, firefoxsFlatpakIsStartedByItsOwnCommand)
 {
     desktop.addEntry(u"org.mozilla.firefox.desktop"_s,
                      desktop.addProgram(u"flatpak"_s) %
@@ -422,6 +475,23 @@ TEST_F(LinuxWorkspaceTest, firefoxsFlatpakAndSnapAreStartedByTheirOwnCommands)
               QStringList({u"run"_s, u"--branch=stable"_s, u"--file-forwarding"_s, u"org.mozilla.firefox"_s,
                            u"--profile"_s,
                            home.path(u".var/app/org.mozilla.firefox/.mozilla/firefox/abc.default"_s),
+                           u"http://a/"_s}));
+}
+
+TEST_F(LinuxWorkspaceTest, firefoxsSnapIsStartedByItsOwnCommand)
+{
+    desktop.addApplication(u"firefox.desktop"_s, u"firefox"_s);
+    desktop.addEntry(u"firefox_firefox.desktop"_s,
+                     desktop.addProgram(u"env"_s) %
+                         u" BAMF_DESKTOP_FILE_HINT=/a/firefox_firefox.desktop /snap/bin/firefox %u");
+    keepFirefoxIn(u"snap/firefox/common/.mozilla/firefox"_s, u"abc.default"_s);
+    workspace.openInProfile({u"http://a/"_s},
+                            profileOf(browserKind(u"firefox"), u"abc.default"_s, u"snap"_s));
+    const FakeDesktop::Start start = onlyStart();
+    EXPECT_EQ(start.program, u"env");
+    EXPECT_EQ(start.arguments,
+              QStringList({u"BAMF_DESKTOP_FILE_HINT=/a/firefox_firefox.desktop"_s, u"/snap/bin/firefox"_s,
+                           u"--profile"_s, home.path(u"snap/firefox/common/.mozilla/firefox/abc.default"_s),
                            u"http://a/"_s}));
 }
 
@@ -509,6 +579,74 @@ TEST_F(LinuxWorkspaceTest, anApplicationThatTakesOneUrlIsStartedForEach)
     ASSERT_EQ(started.size(), 2);
     EXPECT_EQ(started.at(0).arguments, QStringList({u"http://a/"_s}));
     EXPECT_EQ(started.at(1).arguments, QStringList({u"http://b/"_s}));
+}
+
+TEST_F(LinuxWorkspaceTest, severalUrlsAreOneStartOfAFirefox)
+{
+    desktop.addEntry(u"firefox.desktop"_s, desktop.addProgram(u"firefox"_s) % u" --own-option %u");
+    desktop.addEntry(u"app.zen_browser.zen.desktop"_s,
+                     desktop.addProgram(u"flatpak"_s) %
+                         u" run --file-forwarding app.zen_browser.zen @@u %u @@");
+    for (const QStringView browser : {u"firefox", u"zen"})
+        workspace.open({u"http://a/"_s, u"http://b/?x='1'"_s, u"about:blank"_s}, browserKind(browser));
+    const QList<FakeDesktop::Start> started = starts();
+    ASSERT_EQ(started.size(), 2);
+    EXPECT_EQ(started.at(0).arguments,
+              QStringList({u"--own-option"_s, u"http://a/"_s, u"http://b/?x='1'"_s, u"about:blank"_s}));
+    EXPECT_EQ(started.at(1).arguments,
+              QStringList({u"run"_s, u"--file-forwarding"_s, u"app.zen_browser.zen"_s, u"http://a/"_s,
+                           u"http://b/?x='1'"_s, u"about:blank"_s}));
+}
+
+TEST_F(LinuxWorkspaceTest, aSingleUrlIsLeftToFirefoxsEntry)
+{
+    // Only there does a Flatpak let the browser see a file.
+    desktop.addEntry(u"org.mozilla.firefox.desktop"_s,
+                     desktop.addProgram(u"flatpak"_s) %
+                         u" run --file-forwarding org.mozilla.firefox @@u %u @@");
+    workspace.open({u"file:///tmp/a.html"_s}, browserKind(u"firefox"));
+    EXPECT_EQ(onlyStart().arguments, QStringList({u"run"_s, u"--file-forwarding"_s, u"org.mozilla.firefox"_s,
+                                                  u"@@u"_s, u"/tmp/a.html"_s, u"@@"_s}));
+}
+
+TEST_F(LinuxWorkspaceTest, moreUrlsThanAProgramTakesAreOpenedInSeveralStarts)
+{
+    desktop.addApplication(u"google-chrome.desktop"_s, u"chrome"_s);
+    desktop.addApplication(u"firefox.desktop"_s, u"firefox"_s);
+    keepFirefoxIn(u".mozilla/firefox"_s, u"abc.default"_s);
+    QStringList urls;
+    for (int i = 100; i < 320; ++i)
+        urls.append(u"http://a/%1"_s.arg(i) % QString(10'000, u'x'));
+    workspace.openInProfile(urls, profileOf(browserKind(u"firefox"), u"abc.default"_s));
+    workspace.open(urls, Source::Kind::Chrome);
+    const QList<FakeDesktop::Start> started = starts();
+    QStringList ofChrome;
+    QStringList ofFirefox;
+    for (const FakeDesktop::Start &start : started) {
+        if (start.program == u"chrome")
+            ofChrome += start.arguments;
+        else
+            ofFirefox += start.arguments.sliced(2);
+    }
+    EXPECT_EQ(ofChrome, urls);
+    EXPECT_EQ(ofFirefox, urls);
+    EXPECT_EQ(started.size(), 2 * 5) << "as few as will do";
+}
+
+TEST_F(LinuxWorkspaceTest, aUrlThatNoProgramTakesKeepsNoOtherFromOpening)
+{
+    desktop.addApplication(u"google-chrome.desktop"_s, u"chrome"_s);
+    desktop.addApplication(u"firefox.desktop"_s, u"firefox"_s);
+    keepFirefoxIn(u".mozilla/firefox"_s, u"abc.default"_s);
+    const QString tooLong = u"http://a/"_s % QString(200'000, u'x');
+    const QStringList urls{u"http://b/"_s, tooLong, u"http://c/"_s};
+    workspace.openInProfile(urls, profileOf(browserKind(u"firefox"), u"abc.default"_s));
+    workspace.open(urls, Source::Kind::Chrome);
+    workspace.open({tooLong}, Source::Kind::Chrome);
+    const QList<FakeDesktop::Start> started = starts();
+    ASSERT_EQ(started.size(), 2);
+    EXPECT_EQ(started.at(0).arguments, QStringList({u"http://b/"_s, u"http://c/"_s}));
+    EXPECT_EQ(started.at(1).arguments.sliced(2), QStringList({u"http://b/"_s, u"http://c/"_s}));
 }
 
 TEST_F(LinuxWorkspaceTest, safariIsNeverHereAndItsLinksOpenInThePreferredBrowser)
@@ -629,6 +767,195 @@ TEST_F(LinuxWorkspaceTest, whereNoWindowCanBeSteeredTheAddressGoesToTheClipboard
     home.clock.advance(10s);
     EXPECT_EQ(windows->looks, 0);
 }
+
+/// An installation of a browser: where its data lies, its entry, and the classes of its windows where its
+/// pages are typed into one.
+struct Installed {
+    QString browser;
+    QString key;
+    QString data;
+    QString entry;
+    QStringList windowClasses;
+};
+
+class BrowserEntryTest : public LinuxWorkspaceTest, public ::testing::WithParamInterface<Installed>
+{
+};
+
+TEST_P(BrowserEntryTest, everyBrowserIsOpenedByItsEntry)
+{
+    const auto &[browser, key, data, entry, windowClasses] = GetParam();
+    QString command = desktop.addProgram(entry);
+    if (key.endsWith(u"flatpak"))
+        command = desktop.addProgram(u"flatpak"_s) % u" run " % entry;
+    else if (key == u"snap")
+        command = desktop.addProgram(u"snap/bin/"_s % entry);
+    desktop.addEntry(entry % u".desktop", command % u" %U");
+    keepDataIn(data);
+    keepFirefoxIn(data, u"Default"_s);
+    const Source source = profileOf(browserKind(browser), u"Default"_s, key);
+
+    EXPECT_EQ(workspace.installedBrowsers(), QList{source.kind});
+    workspace.openInProfile({u"http://a/"_s}, source);
+    const FakeDesktop::Start start = onlyStart();
+    EXPECT_EQ(key.endsWith(u"flatpak") ? start.arguments.value(1) : start.program, entry);
+    EXPECT_EQ(start.arguments.last(), u"http://a/");
+    workspace.showPage(u"about:a"_s, source);
+    EXPECT_EQ(starts().size(), 2);
+    EXPECT_EQ(windows->askedClasses, windowClasses);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Chromiums, BrowserEntryTest,
+    ::testing::Values(
+        Installed{u"chrome"_s, {}, u".config/google-chrome"_s, u"google-chrome"_s, {u"google-chrome"_s}},
+        Installed{u"chrome"_s,
+                  u"beta"_s,
+                  u".config/google-chrome-beta"_s,
+                  u"google-chrome-beta"_s,
+                  {u"google-chrome-beta"_s}},
+        Installed{u"chrome"_s,
+                  u"dev"_s,
+                  u".config/google-chrome-unstable"_s,
+                  u"google-chrome-unstable"_s,
+                  {u"google-chrome-unstable"_s}},
+        Installed{u"chrome"_s,
+                  u"flatpak"_s,
+                  u".var/app/com.google.Chrome/config/google-chrome"_s,
+                  u"com.google.Chrome"_s,
+                  {u"google-chrome"_s}},
+        Installed{u"chrome"_s,
+                  u"dev-flatpak"_s,
+                  u".var/app/com.google.ChromeDev/config/google-chrome-unstable"_s,
+                  u"com.google.ChromeDev"_s,
+                  {u"google-chrome-unstable"_s}},
+        Installed{u"edge"_s, {}, u".config/microsoft-edge"_s, u"microsoft-edge"_s, {u"microsoft-edge"_s}},
+        Installed{u"edge"_s,
+                  u"beta"_s,
+                  u".config/microsoft-edge-beta"_s,
+                  u"microsoft-edge-beta"_s,
+                  {u"microsoft-edge-beta"_s}},
+        Installed{u"edge"_s,
+                  u"dev"_s,
+                  u".config/microsoft-edge-dev"_s,
+                  u"microsoft-edge-dev"_s,
+                  {u"microsoft-edge-dev"_s}},
+        Installed{u"edge"_s,
+                  u"flatpak"_s,
+                  u".var/app/com.microsoft.Edge/config/microsoft-edge"_s,
+                  u"com.microsoft.Edge"_s,
+                  {u"microsoft-edge"_s}},
+        Installed{u"edge"_s,
+                  u"beta-flatpak"_s,
+                  u".var/app/com.microsoft.Edge/config/microsoft-edge-beta"_s,
+                  u"com.microsoft.Edge"_s,
+                  {u"microsoft-edge-beta"_s}},
+        Installed{
+            u"chromium"_s, {}, u".config/chromium"_s, u"chromium"_s, {u"chromium"_s, u"chromium-browser"_s}},
+        Installed{u"chromium"_s,
+                  {},
+                  u".config/chromium"_s,
+                  u"chromium-browser"_s,
+                  {u"chromium"_s, u"chromium-browser"_s}},
+        Installed{u"chromium"_s,
+                  u"snap"_s,
+                  u"snap/chromium/common/chromium"_s,
+                  u"chromium_chromium"_s,
+                  {u"chromium"_s, u"chromium-browser"_s}},
+        Installed{u"chromium"_s,
+                  u"flatpak"_s,
+                  u".var/app/org.chromium.Chromium/config/chromium"_s,
+                  u"org.chromium.Chromium"_s,
+                  {u"chromium"_s, u"chromium-browser"_s}},
+        Installed{u"chromium"_s,
+                  u"flatpak"_s,
+                  u".var/app/io.github.ungoogled_software.ungoogled_chromium/config/chromium"_s,
+                  u"io.github.ungoogled_software.ungoogled_chromium"_s,
+                  {u"chromium"_s, u"chromium-browser"_s}},
+        Installed{u"brave"_s,
+                  {},
+                  u".config/BraveSoftware/Brave-Browser"_s,
+                  u"brave-browser"_s,
+                  {u"brave-browser"_s}},
+        Installed{u"brave"_s,
+                  u"beta"_s,
+                  u".config/BraveSoftware/Brave-Browser-Beta"_s,
+                  u"brave-browser-beta"_s,
+                  {u"brave-browser-beta"_s}},
+        Installed{u"brave"_s,
+                  u"nightly"_s,
+                  u".config/BraveSoftware/Brave-Browser-Nightly"_s,
+                  u"brave-browser-nightly"_s,
+                  {u"brave-browser-nightly"_s}},
+        Installed{u"brave"_s,
+                  u"snap"_s,
+                  u"snap/brave/current/.config/BraveSoftware/Brave-Browser"_s,
+                  u"brave_brave"_s,
+                  {u"brave-browser"_s}},
+        Installed{u"brave"_s,
+                  u"flatpak"_s,
+                  u".var/app/com.brave.Browser/config/BraveSoftware/Brave-Browser"_s,
+                  u"com.brave.Browser"_s,
+                  {u"brave-browser"_s}},
+        Installed{u"vivaldi"_s, {}, u".config/vivaldi"_s, u"vivaldi-stable"_s, {u"vivaldi-stable"_s}},
+        Installed{u"vivaldi"_s,
+                  u"nightly"_s,
+                  u".config/vivaldi-snapshot"_s,
+                  u"vivaldi-snapshot"_s,
+                  {u"vivaldi-snapshot"_s}},
+        Installed{u"vivaldi"_s,
+                  u"snap"_s,
+                  u"snap/vivaldi/current/.config/vivaldi"_s,
+                  u"vivaldi_vivaldi-stable"_s,
+                  {u"vivaldi-stable"_s}},
+        Installed{u"vivaldi"_s,
+                  u"flatpak"_s,
+                  u".var/app/com.vivaldi.Vivaldi/config/vivaldi"_s,
+                  u"com.vivaldi.Vivaldi"_s,
+                  {u"vivaldi-stable"_s}},
+        Installed{u"opera"_s, {}, u".config/opera"_s, u"opera"_s, {u"Opera"_s}},
+        Installed{u"opera"_s, u"beta"_s, u".config/opera-beta"_s, u"opera-beta"_s, {u"Opera beta"_s}},
+        Installed{
+            u"opera"_s, u"dev"_s, u".config/opera-developer"_s, u"opera-developer"_s, {u"Opera developer"_s}},
+        Installed{
+            u"opera"_s, u"snap"_s, u"snap/opera/current/.config/opera"_s, u"opera_opera"_s, {u"Opera"_s}},
+        Installed{u"opera"_s,
+                  u"flatpak"_s,
+                  u".var/app/com.opera.Opera/config/opera"_s,
+                  u"com.opera.Opera"_s,
+                  {u"Opera"_s}}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Firefoxes, BrowserEntryTest,
+    ::testing::Values(
+        Installed{u"firefox"_s, {}, u".config/mozilla/firefox"_s, u"firefox"_s, {}},
+        Installed{u"firefox"_s, {}, u".mozilla/firefox"_s, u"firefox-esr"_s, {}},
+        Installed{u"firefox"_s,
+                  u"flatpak"_s,
+                  u".var/app/org.mozilla.firefox/config/mozilla/firefox"_s,
+                  u"org.mozilla.firefox"_s,
+                  {}},
+        Installed{
+            u"firefox"_s, u"snap"_s, u"snap/firefox/common/.mozilla/firefox"_s, u"firefox_firefox"_s, {}},
+        Installed{u"librewolf"_s, {}, u".librewolf"_s, u"librewolf"_s, {}},
+        Installed{u"librewolf"_s,
+                  u"flatpak"_s,
+                  u".var/app/io.gitlab.librewolf-community/.librewolf"_s,
+                  u"io.gitlab.librewolf-community"_s,
+                  {}},
+        Installed{u"waterfox"_s, {}, u".waterfox"_s, u"waterfox"_s, {}},
+        Installed{u"waterfox"_s,
+                  u"flatpak"_s,
+                  u".var/app/net.waterfox.waterfox/.waterfox"_s,
+                  u"net.waterfox.waterfox"_s,
+                  {}},
+        Installed{u"floorp"_s, {}, u".floorp"_s, u"floorp"_s, {}},
+        Installed{
+            u"floorp"_s, u"flatpak"_s, u".var/app/one.ablaze.floorp/.floorp"_s, u"one.ablaze.floorp"_s, {}},
+        Installed{u"zen"_s, {}, u".config/zen"_s, u"zen"_s, {}},
+        Installed{u"zen"_s, {}, u".zen"_s, u"zen-browser"_s, {}},
+        Installed{
+            u"zen"_s, u"flatpak"_s, u".var/app/app.zen_browser.zen/.zen"_s, u"app.zen_browser.zen"_s, {}}));
 
 TEST(LinuxWorkspaceEnvironmentTest, noWindowIsSteeredInAWaylandSession)
 {

@@ -42,9 +42,12 @@ QStringList chromiumCommand(const BrowserInstallation &installation, const QStri
                             const QStringList &urls)
 {
     QStringList command = installation.entry.command;
-    // One in the data folder itself has no name; the browser finds it when it is told nothing.
-    if (!profile.isEmpty()) {
-        // Without the second one a profile that was deleted would come back, empty.
+    if (const QString name = Browser::sideProfile(profile); !name.isEmpty()) {
+        // To Opera this is a data folder of its own, and not a profile of the first one.
+        command << u"--side-profile-name=" % name << u"--with-feature:side-profiles"_s;
+    } else if (!profile.isEmpty()) {
+        // One in the data folder itself has no name; the browser finds it when it is told nothing. Without
+        // the second argument a profile that was deleted would come back, empty.
         command << u"--profile-directory=" % profile << u"--ignore-profile-directory-if-not-exists"_s;
     }
     return command + urls;
@@ -138,7 +141,14 @@ void LinuxWorkspace::open(const QStringList &urls, Source::Kind browser)
         if (!links.isEmpty())
             launchPreferred(u"https"_s, links);
     } else if (const auto installation = installationOf(browser)) {
-        launch(installation->entry, urls);
+        const bool isFirefox = Browser::of(browser).family == Family::Firefox;
+        for (const QStringList &some : DetachedProcess::portions(urls)) {
+            // Its entry takes one address at a time, and while it starts it refuses further starts.
+            if (isFirefox && some.size() > 1)
+                start(installation->entry.command + some);
+            else
+                launch(installation->entry, some);
+        }
     }
 }
 
@@ -151,12 +161,14 @@ void LinuxWorkspace::openInProfile(const QStringList &urls, const Source &source
 {
     const auto folders = BrowserFolders::of(m_folders, m_files);
     const auto installation = BrowserInstallation::ofSource(source, folders, m_dataFolders, m_files);
-    if (!installation)
+    if (!installation || isGone(source, folders))
         return;
-    if (Browser::of(source.kind).family == Family::Firefox)
-        startFirefox(*installation, folders.profile(source, m_files), urls);
-    else
-        start(chromiumCommand(*installation, source.profile.value_or(QString()), urls));
+    for (const QStringList &some : DetachedProcess::portions(urls)) {
+        if (Browser::of(source.kind).family == Family::Firefox)
+            start(firefoxCommand(*installation, folders.profile(source, m_files), some));
+        else
+            start(chromiumCommand(*installation, source.profile.value_or(QString()), some));
+    }
 }
 
 void LinuxWorkspace::showPage(const QString &page, const Source &source)
@@ -165,13 +177,13 @@ void LinuxWorkspace::showPage(const QString &page, const Source &source)
     const auto installation = source.profile
                                   ? BrowserInstallation::ofSource(source, folders, m_dataFolders, m_files)
                                   : BrowserInstallation::any(source.kind, folders, m_dataFolders);
-    if (!installation)
+    if (!installation || isGone(source, folders))
         return;
     if (Browser::of(source.kind).family == Family::Firefox) {
         // Windows of its own are no addresses, and it has an option for them.
         const bool isWindow = page.startsWith(u"chrome:");
-        startFirefox(*installation, folders.profile(source, m_files),
-                     isWindow ? QStringList{u"--chrome"_s, page} : QStringList{page});
+        start(firefoxCommand(*installation, folders.profile(source, m_files),
+                             isWindow ? QStringList{u"--chrome"_s, page} : QStringList{page}));
         return;
     }
     const QStringList blank{u"about:blank"_s};
@@ -195,12 +207,13 @@ std::optional<BrowserInstallation> LinuxWorkspace::installationOf(Source::Kind b
     return BrowserInstallation::any(browser, BrowserFolders::of(m_folders, m_files), m_dataFolders);
 }
 
-void LinuxWorkspace::startFirefox(const BrowserInstallation &installation, const QString &profileFolder,
-                                  const QStringList &arguments)
+bool LinuxWorkspace::isGone(const Source &source, const BrowserFolders &folders) const
 {
-    // For a folder that is gone it would wait with a dialog for ever.
-    if (m_files.exists(profileFolder % u"/places.sqlite"))
-        start(firefoxCommand(installation, profileFolder, arguments));
+    // Firefox would wait with a dialog for ever, and Opera make the profile anew, empty.
+    const QString folder = folders.profile(source, m_files);
+    if (Browser::of(source.kind).family == Family::Firefox)
+        return !m_files.exists(folder % u"/places.sqlite");
+    return !Browser::sideProfile(source.profile.value_or(QString())).isEmpty() && !m_files.exists(folder);
 }
 
 void LinuxWorkspace::start(const QStringList &command)

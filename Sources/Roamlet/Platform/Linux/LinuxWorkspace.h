@@ -22,6 +22,7 @@ namespace roamlet
 class Clock;
 class Files;
 class Folders;
+struct BrowserFolders;
 
 /// The applications of a freedesktop.org desktop, found by their desktop entries. A source opens in the very
 /// installation whose data is read, which may be a Flatpak or a snap. Safari is never here, and its links
@@ -58,8 +59,8 @@ public:
 
 private:
     std::optional<BrowserInstallation> installationOf(Source::Kind browser) const;
-    void startFirefox(const BrowserInstallation &installation, const QString &profileFolder,
-                      const QStringList &arguments);
+    /// Whether the profile has a folder that the browser would be told and that is not there.
+    bool isGone(const Source &source, const BrowserFolders &folders) const;
     void start(const QStringList &command);
     void launch(const DesktopEntry &entry, const QStringList &urls);
     void launchPreferred(const QString &scheme, const QStringList &urls);

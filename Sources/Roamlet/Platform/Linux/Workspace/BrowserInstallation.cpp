@@ -59,11 +59,17 @@ DesktopEntry::Packaging packagingOf(const Browser::Installation &installation)
     return DesktopEntry::Packaging::Native;
 }
 
-/// All that a source's data leaves to choose from.
+/// All that a source's data and its installation's key leave to choose from.
 QList<Browser::Installation> candidates(const Source &source, const BrowserFolders &folders)
 {
-    const auto installation = installationOfData(folders.roots(source).value(0));
-    return installation ? QList{*installation} : Browser::of(source.kind).installations;
+    if (const auto installation = installationOfData(folders.roots(source).value(0)))
+        return {*installation};
+    QList<Browser::Installation> installations = Browser::of(source.kind).installations;
+    // Without a key the data may be anybody's, such as those of a home folder that came from a Mac.
+    if (!source.installation.isEmpty())
+        installations.removeIf(
+            [&source](const Browser::Installation &each) { return each.key != source.installation; });
+    return installations;
 }
 
 /// The folder of the Firefox that used the profile last; empty when that is not known. An older one would

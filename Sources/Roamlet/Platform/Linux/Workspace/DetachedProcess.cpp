@@ -31,6 +31,30 @@ bool start(const QStringList &command)
                          nullptr) != FALSE;
 }
 
+QList<QStringList> portions(const QStringList &arguments)
+{
+    // The system's limits: 128 KiB for one, and for all of them with the environment a quarter of the stack,
+    // usually 2 MiB. Whatever stands between us and the browser may add to them.
+    constexpr qsizetype longestArgument = qsizetype{128} * 1024;
+    constexpr qsizetype longestList = 4 * longestArgument;
+    QList<QStringList> lists;
+    qsizetype room = 0;
+    for (const QString &argument : arguments) {
+        const qsizetype length = argument.toLocal8Bit().size() + 1;
+        if (length > longestArgument)
+            continue;
+        // Its place in the list of arguments counts, too.
+        const qsizetype size = length + static_cast<qsizetype>(sizeof(char *));
+        if (size > room) {
+            lists.append(QStringList());
+            room = longestList;
+        }
+        lists.last().append(argument);
+        room -= size;
+    }
+    return lists;
+}
+
 void prepareChild(void * /*unused*/)
 {
     // A session of its own: what is typed into our terminal is not meant for it.

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QList>
 #include <QStringList>
 
 /// Programs that are started and then left alone.
@@ -12,6 +13,9 @@ namespace roamlet::DetachedProcess
 /// Starts a program with its arguments. No shell sees them, nobody waits for it, it goes on when this process
 /// ends, and it leaves no zombie. False when it could not be started.
 bool start(const QStringList &command);
+/// The arguments in as few lists as will do, each short enough for one start. What is longer than any program
+/// could be given is left out, as all that is beside it would be refused, too.
+QList<QStringList> portions(const QStringList &arguments);
 /// Runs in a new process before it becomes another program, and undoes what this program has changed for
 /// itself: the signals that it blocks or ignores, and its terminal. Makes system calls only.
 void prepareChild(void *unused);
