@@ -29,7 +29,7 @@ protected:
     }
 };
 
-TEST_F(AppImageTest, TheProgramInsideIsTheAppImage)
+TEST_F(AppImageTest, theProgramInsideIsTheAppImage)
 {
     qputenv("APPDIR", QCoreApplication::applicationDirPath().toUtf8());
     EXPECT_EQ(ownAppImage(), u"/home/anna/Some.AppImage"_s);
@@ -37,7 +37,7 @@ TEST_F(AppImageTest, TheProgramInsideIsTheAppImage)
     EXPECT_EQ(UpdateInstaller::Environment::ofThisProcess().appImage, u"/home/anna/Some.AppImage"_s);
 }
 
-TEST_F(AppImageTest, AProgramThatAnotherAppImageStartedIsNone)
+TEST_F(AppImageTest, aProgramThatAnotherAppImageStartedIsNone)
 {
     const QTemporaryDir other;
     for (const QByteArray &content : {QByteArray(), QByteArray("/missing"), other.path().toUtf8(),
@@ -49,7 +49,7 @@ TEST_F(AppImageTest, AProgramThatAnotherAppImageStartedIsNone)
     }
 }
 
-TEST_F(AppImageTest, WithoutTheVariableItIsNone)
+TEST_F(AppImageTest, withoutTheVariableItIsNone)
 {
     qputenv("APPDIR", QCoreApplication::applicationDirPath().toUtf8());
     qunsetenv("APPIMAGE");

@@ -49,12 +49,12 @@ protected:
     QTemporaryDir folder;
 };
 
-TEST_F(AutostartLoginServiceTest, NothingIsRegisteredAtFirst)
+TEST_F(AutostartLoginServiceTest, nothingIsRegisteredAtFirst)
 {
     EXPECT_EQ(service().status(), Status::NotRegistered);
 }
 
-TEST_F(AutostartLoginServiceTest, RegisteringWritesAnEntryThatStartsTheProgramWithTheMarker)
+TEST_F(AutostartLoginServiceTest, registeringWritesAnEntryThatStartsTheProgramWithTheMarker)
 {
     ASSERT_TRUE(service().registerProgram());
     EXPECT_EQ(service().status(), Status::Enabled);
@@ -63,7 +63,7 @@ TEST_F(AutostartLoginServiceTest, RegisteringWritesAnEntryThatStartsTheProgramWi
         << qPrintable(entry());
 }
 
-TEST_F(AutostartLoginServiceTest, UnregisteringRemovesTheEntry)
+TEST_F(AutostartLoginServiceTest, unregisteringRemovesTheEntry)
 {
     ASSERT_TRUE(service().registerProgram());
     ASSERT_TRUE(service().unregisterProgram());
@@ -72,7 +72,7 @@ TEST_F(AutostartLoginServiceTest, UnregisteringRemovesTheEntry)
     EXPECT_TRUE(service().unregisterProgram()) << "what is not there is off the list";
 }
 
-TEST_F(AutostartLoginServiceTest, WhatTheDesktopSwitchedOffRequiresApprovalAndStaysOff)
+TEST_F(AutostartLoginServiceTest, whatTheDesktopSwitchedOffRequiresApprovalAndStaysOff)
 {
     for (const char *line : {"Hidden=true", "X-GNOME-Autostart-enabled=false", "Hidden = true"}) {
         writeEntry("[Desktop Entry]\nType=Application\nName=Roamlet\nExec=/usr/bin/roamlet\n" +
@@ -87,7 +87,7 @@ TEST_F(AutostartLoginServiceTest, WhatTheDesktopSwitchedOffRequiresApprovalAndSt
     }
 }
 
-TEST_F(AutostartLoginServiceTest, OnlyTheMainGroupCounts)
+TEST_F(AutostartLoginServiceTest, onlyTheMainGroupCounts)
 {
     writeEntry("[Desktop Entry]\nExec=/usr/bin/roamlet\n[Desktop Action x]\nHidden=true\n");
     EXPECT_EQ(service().status(), Status::Enabled);
@@ -95,7 +95,7 @@ TEST_F(AutostartLoginServiceTest, OnlyTheMainGroupCounts)
     EXPECT_EQ(service().status(), Status::NotRegistered);
 }
 
-TEST_F(AutostartLoginServiceTest, AnEntryThatOnlySwitchesOffIsLeftAlone)
+TEST_F(AutostartLoginServiceTest, anEntryThatOnlySwitchesOffIsLeftAlone)
 {
     writeEntry("[Desktop Entry]\nHidden=true\n");
     EXPECT_EQ(service().status(), Status::RequiresApproval);
@@ -103,7 +103,7 @@ TEST_F(AutostartLoginServiceTest, AnEntryThatOnlySwitchesOffIsLeftAlone)
     EXPECT_EQ(entry(), u"[Desktop Entry]\nHidden=true\n"_s);
 }
 
-TEST_F(AutostartLoginServiceTest, AnEntryWithoutACommandIsNoRegistration)
+TEST_F(AutostartLoginServiceTest, anEntryWithoutACommandIsNoRegistration)
 {
     for (const QByteArray &content :
          {QByteArray(), QByteArray("[Desktop Entry]\nExec=\n"), QByteArray("\0\xff", 2),
@@ -115,7 +115,7 @@ TEST_F(AutostartLoginServiceTest, AnEntryWithoutACommandIsNoRegistration)
     }
 }
 
-TEST_F(AutostartLoginServiceTest, AFolderThatCannotBeMadeIsAnErrorInTheSystemsWords)
+TEST_F(AutostartLoginServiceTest, aFolderThatCannotBeMadeIsAnErrorInTheSystemsWords)
 {
     QFile file(folder.filePath(u"config"_s));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
@@ -126,7 +126,7 @@ TEST_F(AutostartLoginServiceTest, AFolderThatCannotBeMadeIsAnErrorInTheSystemsWo
     EXPECT_EQ(service().status(), Status::NotRegistered);
 }
 
-TEST_F(AutostartLoginServiceTest, AFolderWithoutPermissionIsAnErrorInTheSystemsWords)
+TEST_F(AutostartLoginServiceTest, aFolderWithoutPermissionIsAnErrorInTheSystemsWords)
 {
     const QString autostart = folder.filePath(u"config/autostart"_s);
     ASSERT_TRUE(QDir().mkpath(autostart));
@@ -145,7 +145,7 @@ TEST_F(AutostartLoginServiceTest, AFolderWithoutPermissionIsAnErrorInTheSystemsW
     QFile::setPermissions(autostart, QFile::Permissions(0x7055));
 }
 
-TEST_F(AutostartLoginServiceTest, TheEntryIsValid)
+TEST_F(AutostartLoginServiceTest, theEntryIsValid)
 {
     const QString validator = QStandardPaths::findExecutable(u"desktop-file-validate"_s);
     if (validator.isEmpty())
@@ -161,7 +161,7 @@ TEST_F(AutostartLoginServiceTest, TheEntryIsValid)
     }
 }
 
-TEST_F(AutostartLoginServiceTest, APathIsQuotedAsDesktopEntriesWantIt)
+TEST_F(AutostartLoginServiceTest, aPathIsQuotedAsDesktopEntriesWantIt)
 {
     ASSERT_TRUE(service(u"/a b/\"c\"/$d/`e`/\\f/100%"_s).registerProgram());
     // The quotes want one backslash before these, and the file doubles each.
@@ -169,7 +169,7 @@ TEST_F(AutostartLoginServiceTest, APathIsQuotedAsDesktopEntriesWantIt)
         << qPrintable(entry());
 }
 
-TEST_F(AutostartLoginServiceTest, AnEntryWhoseProgramIsGoneIsNoRegistration)
+TEST_F(AutostartLoginServiceTest, anEntryWhoseProgramIsGoneIsNoRegistration)
 {
     const QString odd = folder.filePath(u"My \"apps\" $1 `2` 100% \\x.AppImage"_s);
     QFile program(odd);
@@ -189,7 +189,7 @@ TEST_F(AutostartLoginServiceTest, AnEntryWhoseProgramIsGoneIsNoRegistration)
     EXPECT_EQ(service().status(), Status::NotRegistered);
 }
 
-TEST_F(AutostartLoginServiceTest, APathThatNoEntryCanNameIsAnError)
+TEST_F(AutostartLoginServiceTest, aPathThatNoEntryCanNameIsAnError)
 {
     for (const QString &program :
          {u"/opt/a\nExec=b/roamlet"_s, u"/opt/a\tb/roamlet"_s, u"/opt/a\rb/roamlet"_s, u"/opt/\u0001"_s}) {
@@ -201,7 +201,7 @@ TEST_F(AutostartLoginServiceTest, APathThatNoEntryCanNameIsAnError)
     }
 }
 
-TEST_F(AutostartLoginServiceTest, OnlyAProgramBesideTheEntryThatTheDesktopFindsIsAnInstalledCopy)
+TEST_F(AutostartLoginServiceTest, onlyAProgramBesideTheEntryThatTheDesktopFindsIsAnInstalledCopy)
 {
     const auto touch = [this](const QString &path) {
         QDir().mkpath(QFileInfo(folder.filePath(path)).path());

@@ -68,13 +68,13 @@ protected:
     QStringList names;
 };
 
-TEST_F(DBusRunningInstanceTest, TheFirstOneRuns)
+TEST_F(DBusRunningInstanceTest, theFirstOneRuns)
 {
     DBusRunningInstance first(connection(u"first"_s));
     EXPECT_EQ(first.claim(Wish::ComeForward, [] {}), Claim::First);
 }
 
-TEST_F(DBusRunningInstanceTest, ALaterStartActivatesTheFirstAndHandsOver)
+TEST_F(DBusRunningInstanceTest, aLaterStartActivatesTheFirstAndHandsOver)
 {
     int activations = 0;
     DBusRunningInstance first(connection(u"first"_s));
@@ -85,7 +85,7 @@ TEST_F(DBusRunningInstanceTest, ALaterStartActivatesTheFirstAndHandsOver)
     EXPECT_EQ(activations, 2);
 }
 
-TEST_F(DBusRunningInstanceTest, AStartThatNobodyWaitsForDisturbsNobody)
+TEST_F(DBusRunningInstanceTest, aStartThatNobodyWaitsForDisturbsNobody)
 {
     int activations = 0;
     DBusRunningInstance first(connection(u"first"_s));
@@ -96,7 +96,7 @@ TEST_F(DBusRunningInstanceTest, AStartThatNobodyWaitsForDisturbsNobody)
     EXPECT_EQ(activations, 1);
 }
 
-TEST_F(DBusRunningInstanceTest, TheNameIsFreeAgainWhenTheFirstHasEnded)
+TEST_F(DBusRunningInstanceTest, theNameIsFreeAgainWhenTheFirstHasEnded)
 {
     {
         DBusRunningInstance first(connection(u"first"_s));
@@ -106,7 +106,7 @@ TEST_F(DBusRunningInstanceTest, TheNameIsFreeAgainWhenTheFirstHasEnded)
     EXPECT_EQ(second.claim(Wish::ComeForward, [] {}), Claim::First);
 }
 
-TEST_F(DBusRunningInstanceTest, TheDesktopCanActivateIt)
+TEST_F(DBusRunningInstanceTest, theDesktopCanActivateIt)
 {
     int activations = 0;
     DBusRunningInstance first(connection(u"first"_s));
@@ -119,7 +119,7 @@ TEST_F(DBusRunningInstanceTest, TheDesktopCanActivateIt)
     EXPECT_TRUE(waitUntil([&activations] { return activations == 1; }));
 }
 
-TEST_F(DBusRunningInstanceTest, AFirstOneThatIsStuckDoesNotKeepTheSecondForever)
+TEST_F(DBusRunningInstanceTest, aFirstOneThatIsStuckDoesNotKeepTheSecondForever)
 {
     const QDBusConnection stuck = connection(u"stuck"_s);
     // The name is taken, but nothing stands behind it.
@@ -145,7 +145,7 @@ private:
     QString m_connection;
 };
 
-TEST_F(DBusRunningInstanceTest, AStartThatMeetsTheEndOfTheFirstTakesItsPlace)
+TEST_F(DBusRunningInstanceTest, aStartThatMeetsTheEndOfTheFirstTakesItsPlace)
 {
     EndingOwner owner(u"first"_s);
     {
@@ -156,7 +156,7 @@ TEST_F(DBusRunningInstanceTest, AStartThatMeetsTheEndOfTheFirstTakesItsPlace)
     EXPECT_EQ(claimElsewhere(u"second"_s), Claim::First);
 }
 
-TEST_F(DBusRunningInstanceTest, AProgramThatIsEndingLeavesThePlaceToTheNext)
+TEST_F(DBusRunningInstanceTest, aProgramThatIsEndingLeavesThePlaceToTheNext)
 {
     int activations = 0;
     DBusRunningInstance first(connection(u"first"_s));
@@ -166,7 +166,7 @@ TEST_F(DBusRunningInstanceTest, AProgramThatIsEndingLeavesThePlaceToTheNext)
     EXPECT_EQ(activations, 0);
 }
 
-TEST(DBusRunningInstanceWithoutABusTest, TheProgramRunsAlone)
+TEST(DBusRunningInstanceWithoutABusTest, theProgramRunsAlone)
 {
     DBusRunningInstance instance(QDBusConnection::connectToBus(u"unix:path=/nonexistent/bus"_s, u"no bus"_s));
     EXPECT_EQ(instance.claim(Wish::ComeForward, [] {}), Claim::Alone);

@@ -14,7 +14,7 @@ namespace
 
 using namespace Qt::StringLiterals;
 
-TEST(FileOpeningTest, AFileIsOpenedByTheApplicationForItsType)
+TEST(FileOpeningTest, aFileIsOpenedByTheApplicationForItsType)
 {
     const FakeDesktop desktop;
     EXPECT_TRUE(openFile(u"/home/anna/100% new/Roamlet.deb"_s, u"x-scheme-handler/settings"_s));
@@ -23,7 +23,7 @@ TEST(FileOpeningTest, AFileIsOpenedByTheApplicationForItsType)
     EXPECT_EQ(start.arguments, QStringList({u"--own-option"_s, u"/home/anna/100% new/Roamlet.deb"_s}));
 }
 
-TEST(FileOpeningTest, AFileThatNoApplicationTakesIsNotOpened)
+TEST(FileOpeningTest, aFileThatNoApplicationTakesIsNotOpened)
 {
     const FakeDesktop desktop;
     EXPECT_FALSE(openFile(u"/home/anna/Roamlet.deb"_s, u"application/vnd.debian.binary-package"_s));

@@ -42,7 +42,7 @@ protected:
     int tabs = 0;
 };
 
-TEST_F(PageSteeringTest, TheAddressIsTypedIntoTheBlankTab)
+TEST_F(PageSteeringTest, theAddressIsTypedIntoTheBlankTab)
 {
     show(u"chrome://history/"_s);
     EXPECT_EQ(tabs, 1);
@@ -61,7 +61,7 @@ TEST_F(PageSteeringTest, TheAddressIsTypedIntoTheBlankTab)
     EXPECT_EQ(clock.waiting(), 0U);
 }
 
-TEST_F(PageSteeringTest, KeysThatGotLostAreTypedAgain)
+TEST_F(PageSteeringTest, keysThatGotLostAreTypedAgain)
 {
     windows.takesAddresses = false;
     showBlankTab();
@@ -74,7 +74,7 @@ TEST_F(PageSteeringTest, KeysThatGotLostAreTypedAgain)
     EXPECT_EQ(windows.window->title, u"A page");
 }
 
-TEST_F(PageSteeringTest, ABrowserThatTakesNoAddressIsLeftAloneSoon)
+TEST_F(PageSteeringTest, aBrowserThatTakesNoAddressIsLeftAloneSoon)
 {
     windows.takesAddresses = false;
     showBlankTab();
@@ -84,7 +84,7 @@ TEST_F(PageSteeringTest, ABrowserThatTakesNoAddressIsLeftAloneSoon)
     EXPECT_EQ(clock.waiting(), 0U);
 }
 
-TEST_F(PageSteeringTest, GivesUpQuietlyAfterFortyLooks)
+TEST_F(PageSteeringTest, givesUpQuietlyAfterFortyLooks)
 {
     windows.window = {.id = 7, .title = u"Example - Chromium"_s, .isActive = true};
     show(u"chrome://history/"_s);
@@ -99,7 +99,7 @@ TEST_F(PageSteeringTest, GivesUpQuietlyAfterFortyLooks)
     EXPECT_EQ(clock.waiting(), 0U);
 }
 
-TEST_F(PageSteeringTest, TheLastLookStillCounts)
+TEST_F(PageSteeringTest, theLastLookStillCounts)
 {
     show(u"chrome://history/"_s);
     clock.advance(3800ms);
@@ -110,7 +110,7 @@ TEST_F(PageSteeringTest, TheLastLookStillCounts)
     EXPECT_EQ(windows.keys, keysFor(u"chrome://history/"_s));
 }
 
-TEST_F(PageSteeringTest, ABrowserWithoutAWindowIsWaitedFor)
+TEST_F(PageSteeringTest, aBrowserWithoutAWindowIsWaitedFor)
 {
     show(u"chrome://history/"_s);
     clock.advance(2s);
@@ -120,7 +120,7 @@ TEST_F(PageSteeringTest, ABrowserWithoutAWindowIsWaitedFor)
     EXPECT_EQ(windows.keys, keysFor(u"chrome://history/"_s));
 }
 
-TEST_F(PageSteeringTest, AWindowInTheBackgroundIsBroughtForwardOnce)
+TEST_F(PageSteeringTest, aWindowInTheBackgroundIsBroughtForwardOnce)
 {
     showBlankTab(false);
     windows.letsActivate = false;
@@ -129,7 +129,7 @@ TEST_F(PageSteeringTest, AWindowInTheBackgroundIsBroughtForwardOnce)
     EXPECT_EQ(windows.keys, QStringList({u"(activate 7)"_s})) << "nothing is typed into what is not active";
 }
 
-TEST_F(PageSteeringTest, AWindowThatWasBroughtForwardIsSteered)
+TEST_F(PageSteeringTest, aWindowThatWasBroughtForwardIsSteered)
 {
     showBlankTab(false);
     show(u"chrome://history/"_s);
@@ -137,7 +137,7 @@ TEST_F(PageSteeringTest, AWindowThatWasBroughtForwardIsSteered)
     EXPECT_EQ(windows.keys, QStringList(u"(activate 7)"_s) + keysFor(u"chrome://history/"_s));
 }
 
-TEST_F(PageSteeringTest, NothingIsTypedWhenTheUserTurnsElsewhere)
+TEST_F(PageSteeringTest, nothingIsTypedWhenTheUserTurnsElsewhere)
 {
     showBlankTab();
     windows.onPress = [this] { windows.window->title = u"Mail - Chromium"_s; };
@@ -146,7 +146,7 @@ TEST_F(PageSteeringTest, NothingIsTypedWhenTheUserTurnsElsewhere)
     EXPECT_EQ(windows.keys, QStringList({u"7: <ctrl+l>"_s}));
 }
 
-TEST_F(PageSteeringTest, AnotherBlankWindowIsStartedWithAnew)
+TEST_F(PageSteeringTest, anotherBlankWindowIsStartedWithAnew)
 {
     showBlankTab();
     show(u"chrome://history/"_s);
@@ -158,7 +158,7 @@ TEST_F(PageSteeringTest, AnotherBlankWindowIsStartedWithAnew)
     EXPECT_EQ(windows.keys.value(3), u"8: chrome://history/");
 }
 
-TEST_F(PageSteeringTest, KeysThatTheUserHoldsAreWaitedOut)
+TEST_F(PageSteeringTest, keysThatTheUserHoldsAreWaitedOut)
 {
     showBlankTab();
     windows.isShiftHeld = true;
@@ -175,7 +175,7 @@ TEST_F(PageSteeringTest, KeysThatTheUserHoldsAreWaitedOut)
     EXPECT_EQ(windows.keys, QStringList(u"7: <ctrl+l>"_s) + keysFor(u"chrome://history/"_s));
 }
 
-TEST_F(PageSteeringTest, PagesAreShownOneAfterTheOther)
+TEST_F(PageSteeringTest, pagesAreShownOneAfterTheOther)
 {
     show(u"chrome://history/"_s);
     show(u"chrome://bookmarks/"_s);
@@ -191,7 +191,7 @@ TEST_F(PageSteeringTest, PagesAreShownOneAfterTheOther)
     EXPECT_EQ(clock.waiting(), 0U);
 }
 
-TEST_F(PageSteeringTest, APageThatFailsDoesNotKeepTheNextOne)
+TEST_F(PageSteeringTest, aPageThatFailsDoesNotKeepTheNextOne)
 {
     show(u"chrome://history/"_s);
     show(u"chrome://bookmarks/"_s);
@@ -202,7 +202,7 @@ TEST_F(PageSteeringTest, APageThatFailsDoesNotKeepTheNextOne)
     EXPECT_EQ(windows.keys, keysFor(u"chrome://bookmarks/"_s));
 }
 
-TEST_F(PageSteeringTest, ABlankTabIsKnownByTheBeginningOfTheTitle)
+TEST_F(PageSteeringTest, aBlankTabIsKnownByTheBeginningOfTheTitle)
 {
     struct Case {
         QString title;
@@ -227,7 +227,7 @@ TEST_F(PageSteeringTest, ABlankTabIsKnownByTheBeginningOfTheTitle)
     }
 }
 
-TEST(PageSteeringEndTest, NothingHappensOnceItIsGone)
+TEST(PageSteeringEndTest, nothingHappensOnceItIsGone)
 {
     FakeBrowserWindows windows;
     FakeClock clock;

@@ -38,7 +38,7 @@ PasteNotice::Words wording(const QString &page)
     return {.title = u"Paste it"_s, .text = page % u" is on the clipboard"};
 }
 
-TEST(PasteNoticeTest, TheAddressIsOnTheClipboardAndTheDesktopSaysSo)
+TEST(PasteNoticeTest, theAddressIsOnTheClipboardAndTheDesktopSaysSo)
 {
     if (!SessionBus::isAvailable())
         GTEST_SKIP() << "dbus-daemon is not installed";
@@ -69,7 +69,7 @@ TEST(PasteNoticeTest, TheAddressIsOnTheClipboardAndTheDesktopSaysSo)
     QDBusConnection::disconnectFromBus(u"giver of notices"_s);
 }
 
-TEST(PasteNoticeTest, WithoutASessionBusTheAddressIsOnTheClipboard)
+TEST(PasteNoticeTest, withoutASessionBusTheAddressIsOnTheClipboard)
 {
     QString clipboard;
     PasteNotice notice(

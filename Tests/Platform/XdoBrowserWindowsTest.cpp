@@ -12,7 +12,7 @@ namespace
 
 using namespace Qt::StringLiterals;
 
-TEST(XdoBrowserWindowsTest, WithoutADisplayThereIsNothingToSteer)
+TEST(XdoBrowserWindowsTest, withoutADisplayThereIsNothingToSteer)
 {
     for (const QByteArray &display : {QByteArray(), QByteArray(":nonsense")}) {
         XdoBrowserWindows windows(display);

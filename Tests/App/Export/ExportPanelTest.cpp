@@ -486,7 +486,7 @@ TEST_F(ExportPanelTest, onAFullDiskTheOldFileStaysAndSoDoesTheSheet)
     EXPECT_EQ(savedNames(), QStringList{u"file"_s});
 }
 
-TEST_F(ExportPanelTest, FoldersThatAreTooDeepAreToldAndNoFileIsMade)
+TEST_F(ExportPanelTest, foldersThatAreTooDeepAreToldAndNoFileIsMade)
 {
     change([this] { sample::writeDeepBookmarks(chromeFile(u"Profile 1/Bookmarks"_s), 10'000); });
     loadNow(library);

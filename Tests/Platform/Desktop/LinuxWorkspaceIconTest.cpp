@@ -65,7 +65,7 @@ protected:
     LinuxWorkspace workspace;
 };
 
-TEST_F(LinuxWorkspaceIconTest, AnIconOfTheThemeHasThePointsAskedForInTheDevicesPixels)
+TEST_F(LinuxWorkspaceIconTest, anIconOfTheThemeHasThePointsAskedForInTheDevicesPixels)
 {
     addImage(u"icons/hicolor/16x16/apps/theme-browser.png"_s, {16, 16}, Qt::red);
     addImage(u"icons/hicolor/48x48/apps/theme-browser.png"_s, {48, 48}, Qt::blue);
@@ -84,7 +84,7 @@ TEST_F(LinuxWorkspaceIconTest, AnIconOfTheThemeHasThePointsAskedForInTheDevicesP
     EXPECT_EQ(workspace.icon(Source::Kind::Chrome, 16, 1.5).value_or(QImage()).size(), QSize(24, 24));
 }
 
-TEST_F(LinuxWorkspaceIconTest, AnIconMayBeAFile)
+TEST_F(LinuxWorkspaceIconTest, anIconMayBeAFile)
 {
     const QString path = addImage(u"logo.png"_s, {128, 128}, Qt::green);
     addBrowser(u"Icon=" % path % u'\n');
@@ -93,7 +93,7 @@ TEST_F(LinuxWorkspaceIconTest, AnIconMayBeAFile)
     EXPECT_EQ(icon.pixelColor(0, 0), QColor(Qt::green));
 }
 
-TEST_F(LinuxWorkspaceIconTest, AnIconThatIsNoSquareKeepsItsShape)
+TEST_F(LinuxWorkspaceIconTest, anIconThatIsNoSquareKeepsItsShape)
 {
     const QString path = addImage(u"wide.png"_s, {64, 32}, Qt::green);
     addBrowser(u"Icon=" % path % u'\n');
@@ -104,7 +104,7 @@ TEST_F(LinuxWorkspaceIconTest, AnIconThatIsNoSquareKeepsItsShape)
     EXPECT_EQ(icon.pixelColor(8, 14).alpha(), 0);
 }
 
-TEST_F(LinuxWorkspaceIconTest, ASmallIconIsEnlarged)
+TEST_F(LinuxWorkspaceIconTest, aSmallIconIsEnlarged)
 {
     const QString path = addImage(u"tiny.png"_s, {8, 8}, Qt::green);
     addBrowser(u"Icon=" % path % u'\n');
@@ -113,7 +113,7 @@ TEST_F(LinuxWorkspaceIconTest, ASmallIconIsEnlarged)
     EXPECT_EQ(icon.pixelColor(31, 31), QColor(Qt::green));
 }
 
-TEST_F(LinuxWorkspaceIconTest, WhatHasNoPictureHasNoIcon)
+TEST_F(LinuxWorkspaceIconTest, whatHasNoPictureHasNoIcon)
 {
     EXPECT_EQ(workspace.icon(Source::Kind::Chrome, 16, 1), std::nullopt) << "not installed";
     addBrowser(QString());

@@ -15,7 +15,7 @@ namespace
 using namespace Qt::StringLiterals;
 using OpenCommands::Command;
 
-TEST(OpenCommandsTest, AProfileIsOneArgumentAndSoIsEachUrl)
+TEST(OpenCommandsTest, aProfileIsOneArgumentAndSoIsEachUrl)
 {
     const QStringList urls{u"https://example.com/?a=1 2"_s, u"about:blank"_s};
     EXPECT_EQ(OpenCommands::inProfile(urls, Browser::of(Source::Kind::Chrome), u"Profile 1"_s),
@@ -25,7 +25,7 @@ TEST(OpenCommandsTest, AProfileIsOneArgumentAndSoIsEachUrl)
                                      u"about:blank"_s}}));
 }
 
-TEST(OpenCommandsTest, NothingIsQuoted)
+TEST(OpenCommandsTest, nothingIsQuoted)
 {
     EXPECT_EQ(
         OpenCommands::inProfile({u"http://a/'\"$(x)"_s}, Browser::of(Source::Kind::Edge), u"Jo's \"$1\""_s)
@@ -34,7 +34,7 @@ TEST(OpenCommandsTest, NothingIsQuoted)
                      u"--profile-directory=Jo's \"$1\""_s, u"http://a/'\"$(x)"_s}));
 }
 
-TEST(OpenCommandsTest, TheScriptIsKnownToTheByte)
+TEST(OpenCommandsTest, theScriptIsKnownToTheByte)
 {
     const QString script = u"repeat 40 times\n"
                            "    try\n"
@@ -55,7 +55,7 @@ TEST(OpenCommandsTest, TheScriptIsKnownToTheByte)
               (Command{.program = u"/usr/bin/osascript"_s, .arguments = {u"-e"_s, script}}));
 }
 
-TEST(OpenCommandsTest, TheScriptHasElevenLinesAndNoneAfterTheLast)
+TEST(OpenCommandsTest, theScriptHasElevenLinesAndNoneAfterTheLast)
 {
     const QStringList lines =
         OpenCommands::pageScript(Browser::of(Source::Kind::Edge), u"edge://history/"_s).split(u'\n');

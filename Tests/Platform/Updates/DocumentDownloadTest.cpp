@@ -39,7 +39,7 @@ protected:
     std::optional<std::expected<DocumentDownload::Document, UpdateError>> result;
 };
 
-TEST_F(DocumentDownloadTest, ADocumentArrivesAsItIs)
+TEST_F(DocumentDownloadTest, aDocumentArrivesAsItIs)
 {
     const QByteArray body("\0\xff\r\n binary", 11);
     server.add(u"/x"_s, {.body = body, .headers = "Content-Type: text/plain\r\n"});
@@ -49,7 +49,7 @@ TEST_F(DocumentDownloadTest, ADocumentArrivesAsItIs)
     EXPECT_EQ((*result)->head.contentType, u"text/plain"_s);
 }
 
-TEST_F(DocumentDownloadTest, ADocumentOfTheGreatestLengthArrives)
+TEST_F(DocumentDownloadTest, aDocumentOfTheGreatestLengthArrives)
 {
     server.add(u"/x"_s, {.body = QByteArray(1000, 'x'), .repetitions = 1000});
     fetch(u"/x"_s);
@@ -57,13 +57,13 @@ TEST_F(DocumentDownloadTest, ADocumentOfTheGreatestLengthArrives)
     EXPECT_EQ((*result)->content.size(), longest);
 }
 
-TEST_F(DocumentDownloadTest, AnErrorIsHandedOn)
+TEST_F(DocumentDownloadTest, anErrorIsHandedOn)
 {
     fetch(u"/missing"_s);
     EXPECT_EQ(result->error(), (UpdateError{Code::ServerRefused, u"404"_s}));
 }
 
-TEST_F(DocumentDownloadTest, AHundredMegabytesEndBeforeTheyAreFetched)
+TEST_F(DocumentDownloadTest, aHundredMegabytesEndBeforeTheyAreFetched)
 {
     constexpr qint64 megabyte = 1'000'000;
     const QByteArray body(megabyte, 'x');
@@ -76,7 +76,7 @@ TEST_F(DocumentDownloadTest, AHundredMegabytesEndBeforeTheyAreFetched)
     }
 }
 
-TEST_F(DocumentDownloadTest, AServerThatDripsIsGivenUp)
+TEST_F(DocumentDownloadTest, aServerThatDripsIsGivenUp)
 {
     server.add(u"/x"_s, {.body = "x", .claimedLength = 10, .end = HttpServer::End::Hang});
     start(u"/x"_s);

@@ -40,7 +40,7 @@ void expectMalformed(const QByteArray &bytes)
     EXPECT_FALSE(result.error().detail.isEmpty());
 }
 
-TEST(FeedTest, AnItemIsReadWithEverythingItHas)
+TEST(FeedTest, anItemIsReadWithEverythingItHas)
 {
     const FeedItem read = item("<sparkle:shortVersionString>2.0 Spring</sparkle:shortVersionString>"
                                "<sparkle:minimumSystemVersion>5.10</sparkle:minimumSystemVersion>"
@@ -64,7 +64,7 @@ TEST(FeedTest, AnItemIsReadWithEverythingItHas)
                                                         .system = u"linux-arm64"_s}}));
 }
 
-TEST(FeedTest, ItemsKeepTheOrderOfTheFeed)
+TEST(FeedTest, itemsKeepTheOrderOfTheFeed)
 {
     const QList<FeedItem> all =
         items(feedText(itemText("1.0", {}) + itemText("3.0", {}) + itemText("2.0", {})));
@@ -74,7 +74,7 @@ TEST(FeedTest, ItemsKeepTheOrderOfTheFeed)
     EXPECT_EQ(all[2].version, u"2.0"_s);
 }
 
-TEST(FeedTest, OlderFeedsHaveTheVersionsInTheEnclosure)
+TEST(FeedTest, olderFeedsHaveTheVersionsInTheEnclosure)
 {
     const QList<FeedItem> all =
         items(feedText("<item><enclosure url=\"https://example.org/Roamlet.deb\" sparkle:version=\"205\""
@@ -84,7 +84,7 @@ TEST(FeedTest, OlderFeedsHaveTheVersionsInTheEnclosure)
     EXPECT_EQ(all[0].displayVersion, u"2.0.5"_s);
 }
 
-TEST(FeedTest, WithoutAVersionForPeopleTheOtherOneIsShown)
+TEST(FeedTest, withoutAVersionForPeopleTheOtherOneIsShown)
 {
     EXPECT_EQ(item({}).displayVersion, u"2.0"_s);
     EXPECT_EQ(
@@ -93,7 +93,7 @@ TEST(FeedTest, WithoutAVersionForPeopleTheOtherOneIsShown)
         u"2.0"_s);
 }
 
-TEST(FeedTest, AnItemWhoseVersionIsNoVersionIsLeftOut)
+TEST(FeedTest, anItemWhoseVersionIsNoVersionIsLeftOut)
 {
     const QList<FeedItem> all =
         items(feedText(itemText("", {}) + itemText("latest", {}) + itemText("v3", {}) +
@@ -102,7 +102,7 @@ TEST(FeedTest, AnItemWhoseVersionIsNoVersionIsLeftOut)
     EXPECT_EQ(all[0].version, u"2.0"_s);
 }
 
-TEST(FeedTest, AddressesMayBeRelativeToTheFeed)
+TEST(FeedTest, addressesMayBeRelativeToTheFeed)
 {
     const FeedItem read = item("<enclosure url=\"../files/Roamlet 2.deb\"/>"
                                "<sparkle:releaseNotesLink> /notes.html </sparkle:releaseNotesLink>");
@@ -110,14 +110,14 @@ TEST(FeedTest, AddressesMayBeRelativeToTheFeed)
     EXPECT_EQ(read.notesAddress, QUrl(u"https://updates.example.org/notes.html"_s));
 }
 
-TEST(FeedTest, AnAddressThatDoesNotParseIsNone)
+TEST(FeedTest, anAddressThatDoesNotParseIsNone)
 {
     for (const QByteArray text : {"https://exa mple.org:port/x.deb", "https://[::1/x.deb", "", "http://%zz/"})
         EXPECT_FALSE(item("<enclosure url=\"" + text + "\"/>").packages.value(0).address.isValid())
             << text.constData();
 }
 
-TEST(FeedTest, ALengthThatIsNoLengthIsNone)
+TEST(FeedTest, aLengthThatIsNoLengthIsNone)
 {
     for (const QByteArray text : {"", "abc", "-5", "0", "1e9", "99999999999999999999999"})
         EXPECT_EQ(item("<enclosure url=\"x.deb\" length=\"" + text + "\"/>").packages.value(0).length,
@@ -125,13 +125,13 @@ TEST(FeedTest, ALengthThatIsNoLengthIsNone)
             << text.constData();
 }
 
-TEST(FeedTest, TheEnclosuresOfDeltasAreNoPackages)
+TEST(FeedTest, theEnclosuresOfDeltasAreNoPackages)
 {
     EXPECT_TRUE(item("<sparkle:deltas><enclosure url=\"x.deb\" sparkle:deltaFrom=\"1.0\"/></sparkle:deltas>")
                     .packages.isEmpty());
 }
 
-TEST(FeedTest, ElementsOfOtherNamespacesAreNotOurs)
+TEST(FeedTest, elementsOfOtherNamespacesAreNotOurs)
 {
     const FeedItem read = item("<x:version xmlns:x=\"urn:x\">9</x:version><version>9</version>"
                                "<x:enclosure xmlns:x=\"urn:x\" url=\"x.deb\"/>");
@@ -139,7 +139,7 @@ TEST(FeedTest, ElementsOfOtherNamespacesAreNotOurs)
     EXPECT_TRUE(read.packages.isEmpty());
 }
 
-TEST(FeedTest, NotesSayWhatTheyAreWrittenIn)
+TEST(FeedTest, notesSayWhatTheyAreWrittenIn)
 {
     EXPECT_EQ(item("<description sparkle:format=\"markdown\"># New</description>").notes,
               (ReleaseNotes{ReleaseNotes::Format::Markdown, u"# New"_s}));
@@ -148,7 +148,7 @@ TEST(FeedTest, NotesSayWhatTheyAreWrittenIn)
     EXPECT_EQ(item("<description>  </description>").notes, std::nullopt);
 }
 
-TEST(FeedTest, NotesForEverybodyComeBeforeThoseInOneLanguage)
+TEST(FeedTest, notesForEverybodyComeBeforeThoseInOneLanguage)
 {
     EXPECT_EQ(item("<sparkle:releaseNotesLink xml:lang=\"de\">de.html</sparkle:releaseNotesLink>"
                    "<sparkle:releaseNotesLink>all.html</sparkle:releaseNotesLink>"
@@ -160,20 +160,20 @@ TEST(FeedTest, NotesForEverybodyComeBeforeThoseInOneLanguage)
               u"de.html"_s);
 }
 
-TEST(FeedTest, ACriticalUpdateMayBeATag)
+TEST(FeedTest, aCriticalUpdateMayBeATag)
 {
     EXPECT_EQ(item({}).criticalBefore, std::nullopt);
     EXPECT_EQ(item("<sparkle:criticalUpdate/>").criticalBefore, QString());
     EXPECT_EQ(item("<sparkle:tags><sparkle:criticalUpdate/></sparkle:tags>").criticalBefore, QString());
 }
 
-TEST(FeedTest, AFeedWithoutItemsIsAFeed)
+TEST(FeedTest, aFeedWithoutItemsIsAFeed)
 {
     EXPECT_TRUE(items(feedText({})).isEmpty());
     EXPECT_TRUE(items("<rss/>").isEmpty());
 }
 
-TEST(FeedTest, WhatIsNoFeedIsAnErrorWithAReason)
+TEST(FeedTest, whatIsNoFeedIsAnErrorWithAReason)
 {
     for (const QByteArray &bytes :
          {QByteArray(), QByteArray("\0\0\0", 3), QByteArray("not xml"), QByteArray("<html><body/></html>"),
@@ -183,14 +183,14 @@ TEST(FeedTest, WhatIsNoFeedIsAnErrorWithAReason)
         expectMalformed(bytes);
 }
 
-TEST(FeedTest, AFeedThatIsCutAnywhereIsAnError)
+TEST(FeedTest, aFeedThatIsCutAnywhereIsAnError)
 {
     const QByteArray whole = feedText(itemText("2.0", "<enclosure url=\"x.deb\" length=\"1\"/>")).trimmed();
     for (qsizetype length = 0; length < whole.size(); ++length)
         expectMalformed(whole.first(length));
 }
 
-TEST(FeedTest, EntitiesDoNotExpand)
+TEST(FeedTest, entitiesDoNotExpand)
 {
     QByteArray bomb = "<!DOCTYPE rss [<!ENTITY a0 \"ha\">";
     for (int i = 1; i < 30; ++i) {
@@ -203,7 +203,7 @@ TEST(FeedTest, EntitiesDoNotExpand)
     expectMalformed("<!DOCTYPE rss [<!ENTITY x SYSTEM \"file:///etc/passwd\">]><rss>&x;</rss>");
 }
 
-TEST(FeedTest, DeepNestingIsRefusedWhereverItIs)
+TEST(FeedTest, deepNestingIsRefusedWhereverItIs)
 {
     const auto nested = [](qsizetype depth) -> QByteArray {
         return QByteArray("<a>").repeated(depth) + QByteArray("</a>").repeated(depth);
@@ -219,7 +219,7 @@ TEST(FeedTest, DeepNestingIsRefusedWhereverItIs)
     expectMalformed(feedText(itemText(nested(100'000), {})));
 }
 
-TEST(FeedTest, WhatIsNoElementIsNotNested)
+TEST(FeedTest, whatIsNoElementIsNotNested)
 {
     const QByteArray tags = QByteArray("<a>").repeated(1'000);
     EXPECT_EQ(item("<!-- " + tags + " --><description><![CDATA[" + tags + "]]></description>").notes,
@@ -227,7 +227,7 @@ TEST(FeedTest, WhatIsNoElementIsNotNested)
     EXPECT_EQ(item(QByteArray("<a b='/>'/><c d=\"'>\"></c>").repeated(1'000)).version, u"2.0"_s);
 }
 
-TEST(FeedTest, WhatWouldTakeLongToReadIsRefused)
+TEST(FeedTest, whatWouldTakeLongToReadIsRefused)
 {
     const auto many = [](qsizetype count, const QByteArray &before) -> QByteArray {
         QByteArray result;
@@ -244,7 +244,7 @@ TEST(FeedTest, WhatWouldTakeLongToReadIsRefused)
     expectMalformed(feedText(itemText("2.0", QByteArray(Feed::longest, ' '))));
 }
 
-TEST(FeedTest, AFeedMayBeInEitherEncodingOfXml)
+TEST(FeedTest, aFeedMayBeInEitherEncodingOfXml)
 {
     const QString text = QString::fromUtf8(feedText(itemText("2.0", "<description>é€𝄞</description>")));
     for (const auto encoding :

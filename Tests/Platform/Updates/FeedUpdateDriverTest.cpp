@@ -13,7 +13,7 @@ using namespace std::chrono_literals;
 using Code = UpdateError::Code;
 using Choice = UpdateUserInterface::Choice;
 
-TEST_F(FeedUpdateDriverTest, WhoeverAsksSeesTheUpdate)
+TEST_F(FeedUpdateDriverTest, whoeverAsksSeesTheUpdate)
 {
     open();
     check(u"attention 2.0"_s);
@@ -25,7 +25,7 @@ TEST_F(FeedUpdateDriverTest, WhoeverAsksSeesTheUpdate)
     EXPECT_EQ(events.mid(4), (QStringList{u"close"_s, u"finish"_s}));
 }
 
-TEST_F(FeedUpdateDriverTest, WithoutThePartThatFetchesUpdatesWhoeverAsksHearsOfIt)
+TEST_F(FeedUpdateDriverTest, withoutThePartThatFetchesUpdatesWhoeverAsksHearsOfIt)
 {
     makeSession = [](const auto & /*setup*/, auto /*origin*/, const auto & /*handlers*/) {
         return std::unexpected(UpdateError{UpdateError::Code::NotConfigured, u"no such file"_s});
@@ -46,7 +46,7 @@ TEST_F(FeedUpdateDriverTest, WithoutThePartThatFetchesUpdatesWhoeverAsksHearsOfI
     EXPECT_GT(events.size(), known) << "it is tried again";
 }
 
-TEST_F(FeedUpdateDriverTest, WhoeverAsksHearsThatThereIsNothing)
+TEST_F(FeedUpdateDriverTest, whoeverAsksHearsThatThereIsNothing)
 {
     for (const QByteArray version : {"1.0", "0.9", "latest"}) {
         offer(version);
@@ -58,7 +58,7 @@ TEST_F(FeedUpdateDriverTest, WhoeverAsksHearsThatThereIsNothing)
     }
 }
 
-TEST_F(FeedUpdateDriverTest, ACheckCanBeCancelled)
+TEST_F(FeedUpdateDriverTest, aCheckCanBeCancelled)
 {
     server.add(u"/feed.xml"_s, {.claimedLength = 100, .end = HttpServer::End::Hang});
     open();
@@ -73,7 +73,7 @@ TEST_F(FeedUpdateDriverTest, ACheckCanBeCancelled)
     check(u"attention 2.0"_s);
 }
 
-TEST_F(FeedUpdateDriverTest, APackageIsDownloadedCheckedAndHandedToTheDesktop)
+TEST_F(FeedUpdateDriverTest, aPackageIsDownloadedCheckedAndHandedToTheDesktop)
 {
     open();
     check(u"attention 2.0"_s);
@@ -88,7 +88,7 @@ TEST_F(FeedUpdateDriverTest, APackageIsDownloadedCheckedAndHandedToTheDesktop)
     EXPECT_EQ(windows.progress.last().second, package.size());
 }
 
-TEST_F(FeedUpdateDriverTest, AnAppImageIsReplacedAndRestarted)
+TEST_F(FeedUpdateDriverTest, anAppImageIsReplacedAndRestarted)
 {
     appImage = folder.filePath(u"Roamlet.AppImage"_s);
     write(appImage, "old program");
@@ -102,7 +102,7 @@ TEST_F(FeedUpdateDriverTest, AnAppImageIsReplacedAndRestarted)
     EXPECT_EQ(contentOf(appImage), package);
 }
 
-TEST_F(FeedUpdateDriverTest, ADownloadCanBeCancelled)
+TEST_F(FeedUpdateDriverTest, aDownloadCanBeCancelled)
 {
     server.add(u"/Roamlet.deb"_s,
                {.body = package.first(1000), .claimedLength = package.size(), .end = HttpServer::End::Hang});
@@ -116,7 +116,7 @@ TEST_F(FeedUpdateDriverTest, ADownloadCanBeCancelled)
     EXPECT_TRUE(QDir(folder.filePath(u"packages"_s)).isEmpty());
 }
 
-TEST_F(FeedUpdateDriverTest, AWrongSignatureIsAClearErrorAndNothingIsOfferedToBeInstalled)
+TEST_F(FeedUpdateDriverTest, aWrongSignatureIsAClearErrorAndNothingIsOfferedToBeInstalled)
 {
     server.add(u"/Roamlet.deb"_s, {.body = QByteArray(package.size(), 'x')});
     open();
@@ -130,7 +130,7 @@ TEST_F(FeedUpdateDriverTest, AWrongSignatureIsAClearErrorAndNothingIsOfferedToBe
     EXPECT_TRUE(events.filter(u"start"_s).isEmpty());
 }
 
-TEST_F(FeedUpdateDriverTest, AWrongLengthIsAClearError)
+TEST_F(FeedUpdateDriverTest, aWrongLengthIsAClearError)
 {
     server.add(u"/Roamlet.deb"_s, {.body = package + "x"});
     open();
@@ -141,7 +141,7 @@ TEST_F(FeedUpdateDriverTest, AWrongLengthIsAClearError)
     EXPECT_TRUE(QDir(folder.filePath(u"packages"_s)).isEmpty());
 }
 
-TEST_F(FeedUpdateDriverTest, APackageWithoutEncryptionIsRefused)
+TEST_F(FeedUpdateDriverTest, aPackageWithoutEncryptionIsRefused)
 {
     server.add(u"/feed.xml"_s,
                {.body = feedText(itemText("2.0", "<enclosure url=\"http://example.org/Roamlet.deb\" sparkle:"
@@ -154,7 +154,7 @@ TEST_F(FeedUpdateDriverTest, APackageWithoutEncryptionIsRefused)
     EXPECT_EQ(windows.error.code, Code::InsecureAddress);
 }
 
-TEST_F(FeedUpdateDriverTest, ADesktopWithoutAnInstallerIsAClearError)
+TEST_F(FeedUpdateDriverTest, aDesktopWithoutAnInstallerIsAClearError)
 {
     hasInstaller = false;
     open();
@@ -164,7 +164,7 @@ TEST_F(FeedUpdateDriverTest, ADesktopWithoutAnInstallerIsAClearError)
     EXPECT_EQ(windows.error, (UpdateError{Code::NoInstaller, folder.filePath(u"packages/Roamlet.deb"_s)}));
 }
 
-TEST_F(FeedUpdateDriverTest, WhatWasInstalledWhileTheProgramRunsIsNotOfferedAgain)
+TEST_F(FeedUpdateDriverTest, whatWasInstalledWhileTheProgramRunsIsNotOfferedAgain)
 {
     const auto installNext = [this] {
         const QString next = folder.filePath(u"next"_s);
@@ -191,7 +191,7 @@ TEST_F(FeedUpdateDriverTest, WhatWasInstalledWhileTheProgramRunsIsNotOfferedAgai
     check(u"up to date"_s);
 }
 
-TEST_F(FeedUpdateDriverTest, AFolderWithoutPermissionIsAClearError)
+TEST_F(FeedUpdateDriverTest, aFolderWithoutPermissionIsAClearError)
 {
     write(folder.filePath(u"packages"_s), "a file in the way");
     open();
@@ -202,7 +202,7 @@ TEST_F(FeedUpdateDriverTest, AFolderWithoutPermissionIsAClearError)
     EXPECT_EQ(server.requests(u"/Roamlet.deb"_s), 0);
 }
 
-TEST_F(FeedUpdateDriverTest, AFeedThatIsNoneIsAClearError)
+TEST_F(FeedUpdateDriverTest, aFeedThatIsNoneIsAClearError)
 {
     open();
     server.add(u"/feed.xml"_s, {});
@@ -221,7 +221,7 @@ TEST_F(FeedUpdateDriverTest, AFeedThatIsNoneIsAClearError)
     EXPECT_FALSE(defaults.contains(u"SULastCheckTime"_s)) << "nothing was learned";
 }
 
-TEST_F(FeedUpdateDriverTest, AFeedThatIsTooSlowIsAClearError)
+TEST_F(FeedUpdateDriverTest, aFeedThatIsTooSlowIsAClearError)
 {
     server.add(u"/feed.xml"_s, {.body = "<rss", .claimedLength = 100, .end = HttpServer::End::Hang});
     open(UpdateDriver::Scheduler::NotStarted);
@@ -231,7 +231,7 @@ TEST_F(FeedUpdateDriverTest, AFeedThatIsTooSlowIsAClearError)
     EXPECT_EQ(windows.error, (UpdateError{Code::TimedOut, {}}));
 }
 
-TEST_F(FeedUpdateDriverTest, AFeedWithoutEncryptionIsNotAsked)
+TEST_F(FeedUpdateDriverTest, aFeedWithoutEncryptionIsNotAsked)
 {
     options.loopback = HttpOptions::Loopback::Refused;
     open();
@@ -239,7 +239,7 @@ TEST_F(FeedUpdateDriverTest, AFeedWithoutEncryptionIsNotAsked)
     EXPECT_EQ(feedRequests(), 0);
 }
 
-TEST_F(FeedUpdateDriverTest, ABuildWithoutAFeedOrAKeyChecksNothing)
+TEST_F(FeedUpdateDriverTest, aBuildWithoutAFeedOrAKeyChecksNothing)
 {
     for (const QString &key : {QString(), u"no key"_s, u"AAAA"_s}) {
         publicKey = key;
@@ -256,7 +256,7 @@ TEST_F(FeedUpdateDriverTest, ABuildWithoutAFeedOrAKeyChecksNothing)
     EXPECT_EQ(feedRequests(), 0);
 }
 
-TEST_F(FeedUpdateDriverTest, NotesFromTheFeedAreThereAtOnce)
+TEST_F(FeedUpdateDriverTest, notesFromTheFeedAreThereAtOnce)
 {
     offer("2.0",
           "<description>New</description><sparkle:releaseNotesLink>notes.html</sparkle:releaseNotesLink>");
@@ -266,7 +266,7 @@ TEST_F(FeedUpdateDriverTest, NotesFromTheFeedAreThereAtOnce)
     EXPECT_EQ(server.requests(u"/notes.html"_s), 0);
 }
 
-TEST_F(FeedUpdateDriverTest, NotesThatAreElsewhereAreFetched)
+TEST_F(FeedUpdateDriverTest, notesThatAreElsewhereAreFetched)
 {
     server.add(u"/notes"_s, {.body = "Ne\xc3\xbc", .headers = "Content-Type: text/plain; charset=utf-8\r\n"});
     offer("2.0", "<sparkle:releaseNotesLink>notes</sparkle:releaseNotesLink>");
@@ -277,7 +277,7 @@ TEST_F(FeedUpdateDriverTest, NotesThatAreElsewhereAreFetched)
     EXPECT_EQ(events.last(), u"finish"_s);
 }
 
-TEST_F(FeedUpdateDriverTest, AnUpdateIsAsGoodWithoutItsNotes)
+TEST_F(FeedUpdateDriverTest, anUpdateIsAsGoodWithoutItsNotes)
 {
     offer("2.0", "<sparkle:releaseNotesLink>http://example.org/notes.html</sparkle:releaseNotesLink>");
     open();
@@ -287,7 +287,7 @@ TEST_F(FeedUpdateDriverTest, AnUpdateIsAsGoodWithoutItsNotes)
     EXPECT_EQ(opened, package);
 }
 
-TEST_F(FeedUpdateDriverTest, AnswersThatComeTooLateDoNoHarm)
+TEST_F(FeedUpdateDriverTest, answersThatComeTooLateDoNoHarm)
 {
     open();
     check(u"attention 2.0"_s);
@@ -303,7 +303,7 @@ TEST_F(FeedUpdateDriverTest, AnswersThatComeTooLateDoNoHarm)
     EXPECT_EQ(events, before);
 }
 
-TEST_F(FeedUpdateDriverTest, AProgramThatEndsInTheMiddleLeavesNothing)
+TEST_F(FeedUpdateDriverTest, aProgramThatEndsInTheMiddleLeavesNothing)
 {
     server.add(u"/Roamlet.deb"_s,
                {.body = package.first(1000), .claimedLength = package.size(), .end = HttpServer::End::Hang});
@@ -315,7 +315,7 @@ TEST_F(FeedUpdateDriverTest, AProgramThatEndsInTheMiddleLeavesNothing)
     EXPECT_TRUE(QDir(folder.filePath(u"packages"_s)).isEmpty());
 }
 
-TEST_F(FeedUpdateDriverTest, WhatAProgramThatWasKilledHasLeftIsClearedAway)
+TEST_F(FeedUpdateDriverTest, whatAProgramThatWasKilledHasLeftIsClearedAway)
 {
     open();
     EXPECT_FALSE(QFile::exists(folder.filePath(u"packages"_s))) << "nothing was there, so nothing is made";

@@ -63,7 +63,7 @@ protected:
     int finishes = 0;
 };
 
-TEST_F(HttpTransferTest, AnAnswerArrivesWithItsHead)
+TEST_F(HttpTransferTest, anAnswerArrivesWithItsHead)
 {
     server.add(u"/x"_s, {.body = "content", .headers = "Content-Type: Text/HTML; charset=utf-8\r\n"});
     EXPECT_EQ(fetch(u"/x"_s), std::nullopt);
@@ -74,7 +74,7 @@ TEST_F(HttpTransferTest, AnAnswerArrivesWithItsHead)
     EXPECT_EQ(head.address, server.address(u"/x"_s));
 }
 
-TEST_F(HttpTransferTest, ARequestTellsNoMoreThanTheProgram)
+TEST_F(HttpTransferTest, aRequestTellsNoMoreThanTheProgram)
 {
     server.add(u"/x"_s, {.body = "content", .headers = "Set-Cookie: id=1\r\n"});
     EXPECT_EQ(fetch(u"/x"_s), std::nullopt);
@@ -85,7 +85,7 @@ TEST_F(HttpTransferTest, ARequestTellsNoMoreThanTheProgram)
     EXPECT_THAT(server.lastRequest().toStdString(), ::testing::Not(::testing::HasSubstr("ookie")));
 }
 
-TEST_F(HttpTransferTest, AnEmptyAnswerIsAnAnswer)
+TEST_F(HttpTransferTest, anEmptyAnswerIsAnAnswer)
 {
     server.add(u"/x"_s, {});
     EXPECT_EQ(fetch(u"/x"_s), std::nullopt);
@@ -93,7 +93,7 @@ TEST_F(HttpTransferTest, AnEmptyAnswerIsAnAnswer)
     EXPECT_EQ(begins, 1);
 }
 
-TEST_F(HttpTransferTest, AStatusThatIsNoSuccessIsAnError)
+TEST_F(HttpTransferTest, aStatusThatIsNoSuccessIsAnError)
 {
     for (const QByteArray status : {"404 Not Found", "500 Oops", "503 Later", "204 No Content", "206 Partial",
                                     "401 Unauthorized", "304 Not Modified"}) {
@@ -106,7 +106,7 @@ TEST_F(HttpTransferTest, AStatusThatIsNoSuccessIsAnError)
     }
 }
 
-TEST_F(HttpTransferTest, NobodyListeningIsAnErrorInTheSystemsWords)
+TEST_F(HttpTransferTest, nobodyListeningIsAnErrorInTheSystemsWords)
 {
     QTcpServer closed;
     closed.listen(QHostAddress::LocalHost);
@@ -118,7 +118,7 @@ TEST_F(HttpTransferTest, NobodyListeningIsAnErrorInTheSystemsWords)
     EXPECT_FALSE(result->detail.isEmpty());
 }
 
-TEST_F(HttpTransferTest, AnAnswerThatStopsTooEarlyIsAnError)
+TEST_F(HttpTransferTest, anAnswerThatStopsTooEarlyIsAnError)
 {
     server.add(u"/x"_s, {.body = "half", .claimedLength = 8});
     const auto result = fetch(u"/x"_s);
@@ -126,7 +126,7 @@ TEST_F(HttpTransferTest, AnAnswerThatStopsTooEarlyIsAnError)
     EXPECT_EQ(result->code, Code::NetworkFailed);
 }
 
-TEST_F(HttpTransferTest, OnlyEncryptedAddressesAreFetched)
+TEST_F(HttpTransferTest, onlyEncryptedAddressesAreFetched)
 {
     HttpOptions strict;
     EXPECT_TRUE(isAllowed(QUrl(u"https://example.org/feed.xml"_s), strict.loopback));
@@ -143,7 +143,7 @@ TEST_F(HttpTransferTest, OnlyEncryptedAddressesAreFetched)
     EXPECT_EQ(server.requests(u"/x"_s), 0);
 }
 
-TEST_F(HttpTransferTest, ARedirectIsFollowed)
+TEST_F(HttpTransferTest, aRedirectIsFollowed)
 {
     server.redirect(u"/old"_s, u"/new"_s);
     server.add(u"/new"_s, {.body = "content"});
@@ -152,7 +152,7 @@ TEST_F(HttpTransferTest, ARedirectIsFollowed)
     EXPECT_EQ(head.address, server.address(u"/new"_s));
 }
 
-TEST_F(HttpTransferTest, ARedirectInCirclesEnds)
+TEST_F(HttpTransferTest, aRedirectInCirclesEnds)
 {
     server.redirect(u"/a"_s, u"/b"_s);
     server.redirect(u"/b"_s, u"/a"_s);
@@ -160,7 +160,7 @@ TEST_F(HttpTransferTest, ARedirectInCirclesEnds)
     EXPECT_LT(server.requests(u"/a"_s) + server.requests(u"/b"_s), 10);
 }
 
-TEST_F(HttpTransferTest, ARedirectToAnAddressWithoutEncryptionIsRefused)
+TEST_F(HttpTransferTest, aRedirectToAnAddressWithoutEncryptionIsRefused)
 {
     for (const QString &target :
          {u"http://updates.example.org/feed.xml"_s, u"ftp://127.0.0.1/x"_s, u"file:///etc/passwd"_s}) {
@@ -171,7 +171,7 @@ TEST_F(HttpTransferTest, ARedirectToAnAddressWithoutEncryptionIsRefused)
     }
 }
 
-TEST_F(HttpTransferTest, AServerThatNeverAnswersTimesOut)
+TEST_F(HttpTransferTest, aServerThatNeverAnswersTimesOut)
 {
     server.add(u"/x"_s, {.claimedLength = 10, .end = HttpServer::End::Hang});
     start(server.address(u"/x"_s));
@@ -183,7 +183,7 @@ TEST_F(HttpTransferTest, AServerThatNeverAnswersTimesOut)
     EXPECT_EQ(error, (UpdateError{Code::TimedOut, {}}));
 }
 
-TEST_F(HttpTransferTest, AServerThatFallsSilentTimesOut)
+TEST_F(HttpTransferTest, aServerThatFallsSilentTimesOut)
 {
     server.add(u"/x"_s, {.body = "a little", .claimedLength = 100, .end = HttpServer::End::Hang});
     start(server.address(u"/x"_s));
@@ -194,7 +194,7 @@ TEST_F(HttpTransferTest, AServerThatFallsSilentTimesOut)
     EXPECT_EQ(error, (UpdateError{Code::TimedOut, {}}));
 }
 
-TEST_F(HttpTransferTest, WithALimitDripsDoNotKeepItAlive)
+TEST_F(HttpTransferTest, withALimitDripsDoNotKeepItAlive)
 {
     server.add(u"/x"_s, {.body = "a little", .claimedLength = 100, .end = HttpServer::End::Hang});
     start(server.address(u"/x"_s), 20s);
@@ -203,7 +203,7 @@ TEST_F(HttpTransferTest, WithALimitDripsDoNotKeepItAlive)
     EXPECT_EQ(error, (UpdateError{Code::TimedOut, {}}));
 }
 
-TEST_F(HttpTransferTest, WhoeverDoesNotLikeTheHeadEndsIt)
+TEST_F(HttpTransferTest, whoeverDoesNotLikeTheHeadEndsIt)
 {
     server.add(u"/x"_s, {.body = "content"});
     refusal = UpdateError{Code::FeedTooLarge, {}};
@@ -211,7 +211,7 @@ TEST_F(HttpTransferTest, WhoeverDoesNotLikeTheHeadEndsIt)
     EXPECT_EQ(received, "");
 }
 
-TEST_F(HttpTransferTest, ATransferThatIsDestroyedSaysNothingMore)
+TEST_F(HttpTransferTest, aTransferThatIsDestroyedSaysNothingMore)
 {
     server.add(u"/x"_s, {.body = "content"});
     start(server.address(u"/x"_s));

@@ -83,7 +83,7 @@ protected:
     std::unique_ptr<HttpServer> secureServer;
 };
 
-TEST_F(HttpsTest, AServerThatIsVouchedForIsHeard)
+TEST_F(HttpsTest, aServerThatIsVouchedForIsHeard)
 {
     trustTheServer();
     const auto document = fetch(u"/feed.xml"_s);
@@ -91,7 +91,7 @@ TEST_F(HttpsTest, AServerThatIsVouchedForIsHeard)
     EXPECT_EQ(document->content, "content");
 }
 
-TEST_F(HttpsTest, AServerThatNobodyVouchesForIsNotHeard)
+TEST_F(HttpsTest, aServerThatNobodyVouchesForIsNotHeard)
 {
     const auto document = fetch(u"/feed.xml"_s);
     ASSERT_FALSE(document);
@@ -100,7 +100,7 @@ TEST_F(HttpsTest, AServerThatNobodyVouchesForIsNotHeard)
     EXPECT_EQ(secureServer->requests(u"/feed.xml"_s), 0);
 }
 
-TEST_F(HttpsTest, ARedirectToAnAddressWithoutEncryptionIsRefused)
+TEST_F(HttpsTest, aRedirectToAnAddressWithoutEncryptionIsRefused)
 {
     trustTheServer();
     server.add(u"/feed.xml"_s, {.body = "forged"});

@@ -87,7 +87,7 @@ protected:
     std::function<void()> beforeCheck = [] {};
 };
 
-TEST_F(PackageDownloadTest, ARightPackageGetsItsName)
+TEST_F(PackageDownloadTest, aRightPackageGetsItsName)
 {
     EXPECT_EQ(fetch(), std::nullopt);
     EXPECT_EQ(contentOf(target), content);
@@ -97,7 +97,7 @@ TEST_F(PackageDownloadTest, ARightPackageGetsItsName)
               QFile::Permissions());
 }
 
-TEST_F(PackageDownloadTest, ProgressGrowsUpToTheWholePackage)
+TEST_F(PackageDownloadTest, progressGrowsUpToTheWholePackage)
 {
     EXPECT_EQ(fetch(), std::nullopt);
     ASSERT_FALSE(progress.isEmpty());
@@ -106,7 +106,7 @@ TEST_F(PackageDownloadTest, ProgressGrowsUpToTheWholePackage)
     EXPECT_EQ(lastTotal, content.size());
 }
 
-TEST_F(PackageDownloadTest, WithoutALengthInTheFeedTheSignatureDecides)
+TEST_F(PackageDownloadTest, withoutALengthInTheFeedTheSignatureDecides)
 {
     package.length = {};
     EXPECT_EQ(fetch(), std::nullopt);
@@ -117,7 +117,7 @@ TEST_F(PackageDownloadTest, WithoutALengthInTheFeedTheSignatureDecides)
     EXPECT_EQ(contentOf(target), content);
 }
 
-TEST_F(PackageDownloadTest, AWrongSignatureIsRefusedAndThePackageDeleted)
+TEST_F(PackageDownloadTest, aWrongSignatureIsRefusedAndThePackageDeleted)
 {
     package.signature = signer.signature("another package");
     EXPECT_EQ(fetch(), (UpdateError{Code::WrongSignature, {}}));
@@ -125,7 +125,7 @@ TEST_F(PackageDownloadTest, AWrongSignatureIsRefusedAndThePackageDeleted)
     EXPECT_EQ(fetch(), (UpdateError{Code::WrongSignature, {}}));
 }
 
-TEST_F(PackageDownloadTest, OneChangedByteIsRefused)
+TEST_F(PackageDownloadTest, oneChangedByteIsRefused)
 {
     QByteArray changed = content;
     changed[content.size() - 1] = '!';
@@ -133,7 +133,7 @@ TEST_F(PackageDownloadTest, OneChangedByteIsRefused)
     EXPECT_EQ(fetch(), (UpdateError{Code::WrongSignature, {}}));
 }
 
-TEST_F(PackageDownloadTest, APackageWithoutASignatureIsNotEvenFetched)
+TEST_F(PackageDownloadTest, aPackageWithoutASignatureIsNotEvenFetched)
 {
     for (const QByteArray &signature : {QByteArray(), QByteArray("no signature"), QByteArray("AAAA")}) {
         package.signature = signature;
@@ -142,7 +142,7 @@ TEST_F(PackageDownloadTest, APackageWithoutASignatureIsNotEvenFetched)
     EXPECT_EQ(server.requests(u"/x.deb"_s), 0);
 }
 
-TEST_F(PackageDownloadTest, AWrongLengthIsRefused)
+TEST_F(PackageDownloadTest, aWrongLengthIsRefused)
 {
     package.length = content.size() + 1;
     EXPECT_EQ(fetch(), (UpdateError{Code::WrongLength, {}}));
@@ -157,7 +157,7 @@ TEST_F(PackageDownloadTest, AWrongLengthIsRefused)
     EXPECT_EQ(verifications, 0);
 }
 
-TEST_F(PackageDownloadTest, ATruncatedPackageIsRefused)
+TEST_F(PackageDownloadTest, aTruncatedPackageIsRefused)
 {
     server.add(u"/x.deb"_s, {.body = content.first(1000), .claimedLength = content.size()});
     EXPECT_EQ(fetch()->code, Code::NetworkFailed) << "whatever the length";
@@ -165,7 +165,7 @@ TEST_F(PackageDownloadTest, ATruncatedPackageIsRefused)
     EXPECT_EQ(fetch(), (UpdateError{Code::WrongLength, {}}));
 }
 
-TEST_F(PackageDownloadTest, APackageWithoutAnEndIsStopped)
+TEST_F(PackageDownloadTest, aPackageWithoutAnEndIsStopped)
 {
     const QByteArray megabyte(1'000'000, 'x');
     server.add(u"/x.deb"_s, {.body = megabyte, .claimedLength = -1, .repetitions = 1'000'000});
@@ -173,7 +173,7 @@ TEST_F(PackageDownloadTest, APackageWithoutAnEndIsStopped)
     EXPECT_LT(server.sent(), 30 * megabyte.size());
 }
 
-TEST_F(PackageDownloadTest, APackageOfAnAbsurdSizeIsNotFetched)
+TEST_F(PackageDownloadTest, aPackageOfAnAbsurdSizeIsNotFetched)
 {
     package.length = qint64{1} << 40U;
     EXPECT_EQ(fetch(), (UpdateError{Code::PackageTooLarge, {}}));
@@ -185,7 +185,7 @@ TEST_F(PackageDownloadTest, APackageOfAnAbsurdSizeIsNotFetched)
     EXPECT_EQ(fetch(), (UpdateError{Code::PackageTooLarge, {}}));
 }
 
-TEST_F(PackageDownloadTest, AServerThatFallsSilentTimesOut)
+TEST_F(PackageDownloadTest, aServerThatFallsSilentTimesOut)
 {
     server.add(u"/x.deb"_s,
                {.body = content.first(1000), .claimedLength = content.size(), .end = HttpServer::End::Hang});
@@ -197,7 +197,7 @@ TEST_F(PackageDownloadTest, AServerThatFallsSilentTimesOut)
     EXPECT_EQ(names(), QStringList());
 }
 
-TEST_F(PackageDownloadTest, ADownloadThatIsCancelledLeavesNothing)
+TEST_F(PackageDownloadTest, aDownloadThatIsCancelledLeavesNothing)
 {
     server.add(u"/x.deb"_s,
                {.body = content.first(1000), .claimedLength = content.size(), .end = HttpServer::End::Hang});
@@ -209,7 +209,7 @@ TEST_F(PackageDownloadTest, ADownloadThatIsCancelledLeavesNothing)
     EXPECT_FALSE(result);
 }
 
-TEST_F(PackageDownloadTest, ACheckThatIsCancelledLeavesNothing)
+TEST_F(PackageDownloadTest, aCheckThatIsCancelledLeavesNothing)
 {
     start();
     ASSERT_TRUE(settle([this] { return verifications == 1; }));
@@ -220,7 +220,7 @@ TEST_F(PackageDownloadTest, ACheckThatIsCancelledLeavesNothing)
     EXPECT_EQ(names(), QStringList());
 }
 
-TEST_F(PackageDownloadTest, ACheckThatIsCancelledIsNotWaitedFor)
+TEST_F(PackageDownloadTest, aCheckThatIsCancelledIsNotWaitedFor)
 {
     // A pipe in the package's place holds the check up for as long as nobody opens its other end.
     const QString pipe = folder.filePath(u"pipe"_s);
@@ -247,7 +247,7 @@ TEST_F(PackageDownloadTest, ACheckThatIsCancelledIsNotWaitedFor)
     EXPECT_FALSE(result);
 }
 
-TEST_F(PackageDownloadTest, AFolderThatIsNoneIsAnErrorInTheSystemsWords)
+TEST_F(PackageDownloadTest, aFolderThatIsNoneIsAnErrorInTheSystemsWords)
 {
     target = folder.filePath(u"missing/Roamlet.deb"_s);
     const auto error = fetch();
@@ -257,7 +257,7 @@ TEST_F(PackageDownloadTest, AFolderThatIsNoneIsAnErrorInTheSystemsWords)
     EXPECT_EQ(server.requests(u"/x.deb"_s), 0) << "it shows before anything is fetched";
 }
 
-TEST_F(PackageDownloadTest, AFullDiskIsAnErrorInTheSystemsWords)
+TEST_F(PackageDownloadTest, aFullDiskIsAnErrorInTheSystemsWords)
 {
     const FileSizeLimit limit(100'000);
     const auto error = fetch();
@@ -266,7 +266,7 @@ TEST_F(PackageDownloadTest, AFullDiskIsAnErrorInTheSystemsWords)
     EXPECT_FALSE(error->detail.isEmpty());
 }
 
-TEST_F(PackageDownloadTest, WhatAnEarlierDownloadLeftIsReplaced)
+TEST_F(PackageDownloadTest, whatAnEarlierDownloadLeftIsReplaced)
 {
     write(target, "an earlier version");
     write(target % u".part", "half of an earlier version");
@@ -275,7 +275,7 @@ TEST_F(PackageDownloadTest, WhatAnEarlierDownloadLeftIsReplaced)
     EXPECT_EQ(names(), QStringList{u"Roamlet.deb"_s});
 }
 
-TEST_F(PackageDownloadTest, ALinkThatSomebodyLaidIsNotFollowed)
+TEST_F(PackageDownloadTest, aLinkThatSomebodyLaidIsNotFollowed)
 {
     const QString precious = folder.filePath(u"precious"_s);
     write(precious, "precious");

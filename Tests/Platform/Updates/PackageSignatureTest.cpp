@@ -22,7 +22,7 @@ bool isValid(const QByteArray &content, const QByteArray &signature, const QByte
            PackageSignature::isValid(content, *decodedSignature, *decodedKey);
 }
 
-TEST(PackageSignatureTest, TheStandardsOwnExampleIsValid)
+TEST(PackageSignatureTest, theStandardsOwnExampleIsValid)
 {
     // The third test vector of RFC 8032, section 7.1.
     const QByteArray key =
@@ -35,7 +35,7 @@ TEST(PackageSignatureTest, TheStandardsOwnExampleIsValid)
     EXPECT_FALSE(isValid(QByteArray::fromHex("af83"), signature, key));
 }
 
-TEST(PackageSignatureTest, OnlyTheSignedContentIsValid)
+TEST(PackageSignatureTest, onlyTheSignedContentIsValid)
 {
     const PackageSigner signer;
     const QByteArray content(100'000, 'x');
@@ -49,19 +49,19 @@ TEST(PackageSignatureTest, OnlyTheSignedContentIsValid)
     EXPECT_FALSE(isValid({}, signature, signer.publicKey()));
 }
 
-TEST(PackageSignatureTest, NobodyElsesSignatureIsValid)
+TEST(PackageSignatureTest, nobodyElsesSignatureIsValid)
 {
     const PackageSigner other(2);
     EXPECT_FALSE(isValid("content", other.signature("content"), PackageSigner().publicKey()));
 }
 
-TEST(PackageSignatureTest, EmptyContentCanBeSigned)
+TEST(PackageSignatureTest, emptyContentCanBeSigned)
 {
     const PackageSigner signer;
     EXPECT_TRUE(isValid({}, signer.signature({}), signer.publicKey()));
 }
 
-TEST(PackageSignatureTest, WhatIsNoKeyOrSignatureIsNone)
+TEST(PackageSignatureTest, whatIsNoKeyOrSignatureIsNone)
 {
     const QByteArray key = PackageSigner().publicKey();
     const QByteArray signature = PackageSigner().signature("content");

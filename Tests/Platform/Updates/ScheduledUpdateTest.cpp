@@ -18,7 +18,7 @@ class ScheduledUpdateTest : public FeedUpdateDriverTest
 {
 };
 
-TEST_F(ScheduledUpdateTest, AScheduledUpdateBeforeTheUsersEyesIsShownAtOnce)
+TEST_F(ScheduledUpdateTest, aScheduledUpdateBeforeTheUsersEyesIsShownAtOnce)
 {
     open();
     waitForTheFirstCheck(u"attention 2.0"_s);
@@ -30,7 +30,7 @@ TEST_F(ScheduledUpdateTest, AScheduledUpdateBeforeTheUsersEyesIsShownAtOnce)
     passADay(u"attention 2.0"_s);
 }
 
-TEST_F(ScheduledUpdateTest, AScheduledUpdateBehindOtherWindowsWaitsForTheUser)
+TEST_F(ScheduledUpdateTest, aScheduledUpdateBehindOtherWindowsWaitsForTheUser)
 {
     isInFront = false;
     open();
@@ -50,7 +50,7 @@ TEST_F(ScheduledUpdateTest, AScheduledUpdateBehindOtherWindowsWaitsForTheUser)
     waitForTheFirstCheck(u"leaves 2.0 by schedule"_s);
 }
 
-TEST_F(ScheduledUpdateTest, AnAppWithoutRemindersGetsItsUpdatesShown)
+TEST_F(ScheduledUpdateTest, anAppWithoutRemindersGetsItsUpdatesShown)
 {
     isInFront = false;
     delegate.isGentle = false;
@@ -61,7 +61,7 @@ TEST_F(ScheduledUpdateTest, AnAppWithoutRemindersGetsItsUpdatesShown)
     EXPECT_EQ(events.mid(2), (QStringList{u"attention 2.0"_s, u"close"_s, u"finish"_s}));
 }
 
-TEST_F(ScheduledUpdateTest, AScheduledCheckThatFindsNothingIsSilent)
+TEST_F(ScheduledUpdateTest, aScheduledCheckThatFindsNothingIsSilent)
 {
     offer("1.0");
     open();
@@ -69,7 +69,7 @@ TEST_F(ScheduledUpdateTest, AScheduledCheckThatFindsNothingIsSilent)
     EXPECT_EQ(events, QStringList{u"finish"_s});
 }
 
-TEST_F(ScheduledUpdateTest, AScheduledCheckThatFailsIsSilentAndTriedAgain)
+TEST_F(ScheduledUpdateTest, aScheduledCheckThatFailsIsSilentAndTriedAgain)
 {
     server.add(u"/feed.xml"_s, {.body = "later", .status = "503 Later"});
     open();
@@ -84,7 +84,7 @@ TEST_F(ScheduledUpdateTest, AScheduledCheckThatFailsIsSilentAndTriedAgain)
     EXPECT_EQ(feedRequests(), 2);
 }
 
-TEST_F(ScheduledUpdateTest, WhoeverAsksDuringAScheduledCheckSeesItsEnd)
+TEST_F(ScheduledUpdateTest, whoeverAsksDuringAScheduledCheckSeesItsEnd)
 {
     server.add(u"/feed.xml"_s, {.claimedLength = 10, .end = HttpServer::End::Hang});
     isInFront = false;
@@ -99,7 +99,7 @@ TEST_F(ScheduledUpdateTest, WhoeverAsksDuringAScheduledCheckSeesItsEnd)
     EXPECT_EQ(events, (QStringList{u"checking"_s, u"error"_s, u"close"_s, u"finish"_s}));
 }
 
-TEST_F(ScheduledUpdateTest, ASkippedVersionIsNotMentionedAgainUntilTheUserAsks)
+TEST_F(ScheduledUpdateTest, aSkippedVersionIsNotMentionedAgainUntilTheUserAsks)
 {
     open();
     waitForTheFirstCheck(u"attention 2.0"_s);
@@ -118,7 +118,7 @@ TEST_F(ScheduledUpdateTest, ASkippedVersionIsNotMentionedAgainUntilTheUserAsks)
     passADay(u"attention 2.1"_s);
 }
 
-TEST_F(ScheduledUpdateTest, ACriticalUpdateIsMentionedThoughItWasSkipped)
+TEST_F(ScheduledUpdateTest, aCriticalUpdateIsMentionedThoughItWasSkipped)
 {
     defaults.setString(u"SUSkippedVersion"_s, u"2.0"_s);
     offer("2.0", "<sparkle:criticalUpdate/>");
@@ -127,7 +127,7 @@ TEST_F(ScheduledUpdateTest, ACriticalUpdateIsMentionedThoughItWasSkipped)
     EXPECT_TRUE(windows.update.isCritical);
 }
 
-TEST_F(ScheduledUpdateTest, TheUsersSwitchIsTheDriversOwn)
+TEST_F(ScheduledUpdateTest, theUsersSwitchIsTheDriversOwn)
 {
     open();
     EXPECT_TRUE(driver->automaticallyChecksForUpdates());
@@ -139,7 +139,7 @@ TEST_F(ScheduledUpdateTest, TheUsersSwitchIsTheDriversOwn)
     check(u"attention 2.0"_s);
 }
 
-TEST_F(ScheduledUpdateTest, WithoutASchedulerNothingIsCheckedByItself)
+TEST_F(ScheduledUpdateTest, withoutASchedulerNothingIsCheckedByItself)
 {
     open(UpdateDriver::Scheduler::NotStarted);
     clock.advance(1000h);

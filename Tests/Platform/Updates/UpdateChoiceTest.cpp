@@ -44,25 +44,25 @@ protected:
                     .architecture = u"x86_64"_s};
 };
 
-TEST_F(UpdateChoiceTest, TheNewestReleaseIsTakenWhereverItStands)
+TEST_F(UpdateChoiceTest, theNewestReleaseIsTakenWhereverItStands)
 {
     EXPECT_EQ(best({item(u"1.1"_s), item(u"1.10"_s), item(u"1.9"_s)}), u"1.10"_s);
 }
 
-TEST_F(UpdateChoiceTest, NothingIsOfferedThatIsNotNewer)
+TEST_F(UpdateChoiceTest, nothingIsOfferedThatIsNotNewer)
 {
     EXPECT_EQ(best({}), QString());
     EXPECT_EQ(best({item(u"1.0"_s), item(u"1.0.0"_s), item(u"0.9"_s), item(u"1.0b7"_s)}), QString());
 }
 
-TEST_F(UpdateChoiceTest, ReleasesOnChannelsAreLeftOut)
+TEST_F(UpdateChoiceTest, releasesOnChannelsAreLeftOut)
 {
     FeedItem beta = item(u"3.0"_s);
     beta.channel = u"beta"_s;
     EXPECT_EQ(best({beta, item(u"2.0"_s)}), u"2.0"_s);
 }
 
-TEST_F(UpdateChoiceTest, ASystemThatIsTooOldOrTooNewIsLeftAlone)
+TEST_F(UpdateChoiceTest, aSystemThatIsTooOldOrTooNewIsLeftAlone)
 {
     FeedItem tooNew = item(u"3.0"_s);
     tooNew.minimumSystemVersion = u"6.2"_s;
@@ -74,7 +74,7 @@ TEST_F(UpdateChoiceTest, ASystemThatIsTooOldOrTooNewIsLeftAlone)
     EXPECT_EQ(best({tooNew, tooOld, right}), u"2.0"_s);
 }
 
-TEST_F(UpdateChoiceTest, OnlyPackagesForThisSystemFit)
+TEST_F(UpdateChoiceTest, onlyPackagesForThisSystemFit)
 {
     EXPECT_EQ(best({item(u"2.0"_s, {package(u"roamlet.dmg"_s)})}), QString());
     EXPECT_EQ(best({item(u"2.0"_s, {package(u"roamlet.deb"_s, u"macos"_s)})}), QString());
@@ -86,13 +86,13 @@ TEST_F(UpdateChoiceTest, OnlyPackagesForThisSystemFit)
     EXPECT_EQ(best({item(u"2.0"_s, {package(u"roamlet.deb"_s, u"linux-aarch64"_s)})}), u"2.0"_s);
 }
 
-TEST_F(UpdateChoiceTest, AReleaseWithoutAPackageThatFitsDoesNotHideAnOlderOne)
+TEST_F(UpdateChoiceTest, aReleaseWithoutAPackageThatFitsDoesNotHideAnOlderOne)
 {
     EXPECT_EQ(best({item(u"2.0"_s), item(u"3.0"_s, {package(u"roamlet.dmg"_s)}), item(u"4.0"_s, {})}),
               u"2.0"_s);
 }
 
-TEST_F(UpdateChoiceTest, ThePackageIsOfTheKindThatTheProgramIs)
+TEST_F(UpdateChoiceTest, thePackageIsOfTheKindThatTheProgramIs)
 {
     const QList<FeedItem> items{item(u"2.0"_s, {package(u"Roamlet.AppImage"_s), deb()})};
     EXPECT_EQ(UpdateChoice::best(items, host)->package.address.fileName(), u"roamlet.deb"_s);
@@ -100,12 +100,12 @@ TEST_F(UpdateChoiceTest, ThePackageIsOfTheKindThatTheProgramIs)
     EXPECT_EQ(UpdateChoice::best(items, host)->package.address.fileName(), u"Roamlet.AppImage"_s);
 }
 
-TEST_F(UpdateChoiceTest, AnAddressThatIsNoneFitsNobody)
+TEST_F(UpdateChoiceTest, anAddressThatIsNoneFitsNobody)
 {
     EXPECT_EQ(best({item(u"2.0"_s, {FeedItem::Package()})}), QString());
 }
 
-TEST_F(UpdateChoiceTest, AReleaseIsCriticalForThoseWhoAreOldEnough)
+TEST_F(UpdateChoiceTest, aReleaseIsCriticalForThoseWhoAreOldEnough)
 {
     const auto isCritical = [this](const std::optional<QString> &before) {
         FeedItem release = item(u"2.0"_s);
@@ -119,7 +119,7 @@ TEST_F(UpdateChoiceTest, AReleaseIsCriticalForThoseWhoAreOldEnough)
     EXPECT_TRUE(isCritical(QString(u"0" % u".1"_s.repeated(1'000)))) << "that is no version";
 }
 
-TEST_F(UpdateChoiceTest, ALimitThatIsNoVersionFitsNobody)
+TEST_F(UpdateChoiceTest, aLimitThatIsNoVersionFitsNobody)
 {
     for (const QString &limit : {u"old"_s, u"9"_s.repeated(1'000), QString(u"1" % u".1"_s.repeated(1'000))}) {
         FeedItem release = item(u"2.0"_s);
@@ -131,7 +131,7 @@ TEST_F(UpdateChoiceTest, ALimitThatIsNoVersionFitsNobody)
     }
 }
 
-TEST_F(UpdateChoiceTest, WhatIsToldAboutItComesFromTheFeed)
+TEST_F(UpdateChoiceTest, whatIsToldAboutItComesFromTheFeed)
 {
     FeedItem release = item(u"205"_s);
     release.displayVersion = u"2.0.5"_s;
@@ -144,7 +144,7 @@ TEST_F(UpdateChoiceTest, WhatIsToldAboutItComesFromTheFeed)
                                                                      .isCritical = true}));
 }
 
-TEST_F(UpdateChoiceTest, ThisMachineHasAVersionToCompareWith)
+TEST_F(UpdateChoiceTest, thisMachineHasAVersionToCompareWith)
 {
     const UpdateHost here = UpdateHost::ofThisProcess(u"1.0"_s);
     EXPECT_EQ(here.version, u"1.0"_s);

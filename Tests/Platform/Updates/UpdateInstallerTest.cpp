@@ -57,7 +57,7 @@ protected:
     QStringList restarted;
 };
 
-TEST_F(UpdateInstallerTest, APackageIsHandedToTheDesktop)
+TEST_F(UpdateInstallerTest, aPackageIsHandedToTheDesktop)
 {
     const auto path = installer().packagePath();
     ASSERT_TRUE(path);
@@ -69,7 +69,7 @@ TEST_F(UpdateInstallerTest, APackageIsHandedToTheDesktop)
     EXPECT_EQ(contentOf(*path), "package") << "the desktop reads it when it gets to it";
 }
 
-TEST_F(UpdateInstallerTest, APackageIsKeptForADayAndThenRemoved)
+TEST_F(UpdateInstallerTest, aPackageIsKeptForADayAndThenRemoved)
 {
     const QString path = installer().packagePath().value();
     write(path, "package");
@@ -89,7 +89,7 @@ TEST_F(UpdateInstallerTest, APackageIsKeptForADayAndThenRemoved)
     installer().removeLeftovers(now + 24h);
 }
 
-TEST_F(UpdateInstallerTest, OnlyTheUserEntersTheFolderOfPackages)
+TEST_F(UpdateInstallerTest, onlyTheUserEntersTheFolderOfPackages)
 {
     const QString packages = folder.filePath(u"cache/Roamlet/Updates"_s);
     ASSERT_TRUE(QDir().mkpath(packages));
@@ -98,7 +98,7 @@ TEST_F(UpdateInstallerTest, OnlyTheUserEntersTheFolderOfPackages)
     EXPECT_EQ(modeOf(packages), 0700U);
 }
 
-TEST_F(UpdateInstallerTest, AProgramIsReplacedOnceItsNameIsAnotherFiles)
+TEST_F(UpdateInstallerTest, aProgramIsReplacedOnceItsNameIsAnotherFiles)
 {
     const QString program = folder.filePath(u"roamlet"_s);
     const QString next = folder.filePath(u"roamlet.dpkg-new"_s);
@@ -114,14 +114,14 @@ TEST_F(UpdateInstallerTest, AProgramIsReplacedOnceItsNameIsAnotherFiles)
     EXPECT_FALSE(running.isProgramReplaced()) << "nothing is there to be started";
 }
 
-TEST_F(UpdateInstallerTest, ADesktopWithoutAnInstallerIsAnErrorThatTellsWhereThePackageIs)
+TEST_F(UpdateInstallerTest, aDesktopWithoutAnInstallerIsAnErrorThatTellsWhereThePackageIs)
 {
     hasInstaller = false;
     const QString path = installer().packagePath().value();
     EXPECT_EQ(installer().install(), (UpdateError{Code::NoInstaller, path}));
 }
 
-TEST_F(UpdateInstallerTest, AFolderThatCannotBeMadeIsAnErrorInTheSystemsWords)
+TEST_F(UpdateInstallerTest, aFolderThatCannotBeMadeIsAnErrorInTheSystemsWords)
 {
     write(folder.filePath(u"cache"_s), "a file");
     const auto path = installer().packagePath();
@@ -131,7 +131,7 @@ TEST_F(UpdateInstallerTest, AFolderThatCannotBeMadeIsAnErrorInTheSystemsWords)
     EXPECT_EQ(installer().install(), path.error());
 }
 
-TEST_F(UpdateInstallerTest, AnAppImageIsReplacedInItsPlaceAndRestarted)
+TEST_F(UpdateInstallerTest, anAppImageIsReplacedInItsPlaceAndRestarted)
 {
     makeAppImage(0750);
     const auto path = installer().packagePath();
@@ -147,7 +147,7 @@ TEST_F(UpdateInstallerTest, AnAppImageIsReplacedInItsPlaceAndRestarted)
     EXPECT_EQ(opened, QStringList());
 }
 
-TEST_F(UpdateInstallerTest, ANewAppImageCanBeStartedByItsOwner)
+TEST_F(UpdateInstallerTest, aNewAppImageCanBeStartedByItsOwner)
 {
     makeAppImage(0644);
     write(*installer().packagePath(), "new program");
@@ -155,7 +155,7 @@ TEST_F(UpdateInstallerTest, ANewAppImageCanBeStartedByItsOwner)
     EXPECT_EQ(modeOf(appImage), 0744U);
 }
 
-TEST_F(UpdateInstallerTest, TheProgramThatRunsKeepsItsOldFile)
+TEST_F(UpdateInstallerTest, theProgramThatRunsKeepsItsOldFile)
 {
     makeAppImage(0755);
     QFile running(appImage);
@@ -165,7 +165,7 @@ TEST_F(UpdateInstallerTest, TheProgramThatRunsKeepsItsOldFile)
     EXPECT_EQ(running.readAll(), "old program");
 }
 
-TEST_F(UpdateInstallerTest, ALinkStaysALink)
+TEST_F(UpdateInstallerTest, aLinkStaysALink)
 {
     makeAppImage(0755);
     const QString real = appImage;
@@ -179,7 +179,7 @@ TEST_F(UpdateInstallerTest, ALinkStaysALink)
     EXPECT_EQ(restarted, QStringList{appImage});
 }
 
-TEST_F(UpdateInstallerTest, AnAppImageThatWentAwayIsNotReplaced)
+TEST_F(UpdateInstallerTest, anAppImageThatWentAwayIsNotReplaced)
 {
     appImage = folder.filePath(u"gone.AppImage"_s);
     EXPECT_EQ(installer().packagePath().error().code, Code::CannotInstall);
@@ -188,7 +188,7 @@ TEST_F(UpdateInstallerTest, AnAppImageThatWentAwayIsNotReplaced)
     EXPECT_EQ(restarted, QStringList());
 }
 
-TEST_F(UpdateInstallerTest, AReadOnlyFolderIsAnErrorAndTheOldProgramStays)
+TEST_F(UpdateInstallerTest, aReadOnlyFolderIsAnErrorAndTheOldProgramStays)
 {
     makeAppImage(0755);
     write(*installer().packagePath(), "new program");
@@ -207,7 +207,7 @@ TEST_F(UpdateInstallerTest, AReadOnlyFolderIsAnErrorAndTheOldProgramStays)
     EXPECT_EQ(restarted, QStringList());
 }
 
-TEST_F(UpdateInstallerTest, ThisProcessKeepsPackagesAmongItsCaches)
+TEST_F(UpdateInstallerTest, thisProcessKeepsPackagesAmongItsCaches)
 {
     const QByteArray before = qgetenv("XDG_CACHE_HOME");
     qputenv("XDG_CACHE_HOME", "/home/anna/cache");

@@ -65,7 +65,7 @@ protected:
     int checks = 0;
 };
 
-TEST_F(UpdateScheduleTest, TheFirstCheckIsSoonAndThenDaily)
+TEST_F(UpdateScheduleTest, theFirstCheckIsSoonAndThenDaily)
 {
     restart();
     EXPECT_EQ(checksWithin(59s), 0);
@@ -75,7 +75,7 @@ TEST_F(UpdateScheduleTest, TheFirstCheckIsSoonAndThenDaily)
     EXPECT_EQ(checksWithin(240h), 10);
 }
 
-TEST_F(UpdateScheduleTest, OneTimerRunsUntilTheNextCheck)
+TEST_F(UpdateScheduleTest, oneTimerRunsUntilTheNextCheck)
 {
     restart();
     EXPECT_EQ(clock.timer.waiting(), 1U);
@@ -83,7 +83,7 @@ TEST_F(UpdateScheduleTest, OneTimerRunsUntilTheNextCheck)
     EXPECT_EQ(clock.timer.waiting(), 1U);
 }
 
-TEST_F(UpdateScheduleTest, ItIsADayAlsoOverRestarts)
+TEST_F(UpdateScheduleTest, itIsADayAlsoOverRestarts)
 {
     restart();
     EXPECT_EQ(checksWithin(1min), 1);
@@ -96,7 +96,7 @@ TEST_F(UpdateScheduleTest, ItIsADayAlsoOverRestarts)
     EXPECT_EQ(defaults.string(u"SULastCheckTime"_s), u"2026-05-10T06:14:20.000Z"_s);
 }
 
-TEST_F(UpdateScheduleTest, AfterALongBreakItChecksSoonAfterTheStart)
+TEST_F(UpdateScheduleTest, afterALongBreakItChecksSoonAfterTheStart)
 {
     restart();
     EXPECT_EQ(checksWithin(1min), 1);
@@ -106,7 +106,7 @@ TEST_F(UpdateScheduleTest, AfterALongBreakItChecksSoonAfterTheStart)
     EXPECT_EQ(checksWithin(1min), 1);
 }
 
-TEST_F(UpdateScheduleTest, NothingIsPlannedBeforeTheStart)
+TEST_F(UpdateScheduleTest, nothingIsPlannedBeforeTheStart)
 {
     schedule = std::make_unique<UpdateSchedule>(clock, defaults, [this] { ++checks; });
     schedule->setAutomatic(true);
@@ -114,7 +114,7 @@ TEST_F(UpdateScheduleTest, NothingIsPlannedBeforeTheStart)
     EXPECT_EQ(checksWithin(1000h), 0);
 }
 
-TEST_F(UpdateScheduleTest, TheUsersSwitchIsStoredAndHoldsAtOnce)
+TEST_F(UpdateScheduleTest, theUsersSwitchIsStoredAndHoldsAtOnce)
 {
     restart();
     EXPECT_TRUE(schedule->isAutomatic()) << "until the user says otherwise";
@@ -130,7 +130,7 @@ TEST_F(UpdateScheduleTest, TheUsersSwitchIsStoredAndHoldsAtOnce)
     EXPECT_EQ(checksWithin(24h), 1);
 }
 
-TEST_F(UpdateScheduleTest, AfterFailuresItTriesAgainSoonerButLessAndLessOften)
+TEST_F(UpdateScheduleTest, afterFailuresItTriesAgainSoonerButLessAndLessOften)
 {
     succeeds = false;
     restart();
@@ -147,14 +147,14 @@ TEST_F(UpdateScheduleTest, AfterFailuresItTriesAgainSoonerButLessAndLessOften)
     EXPECT_EQ(checksWithin(1h), 1) << "it begins with an hour again";
 }
 
-TEST_F(UpdateScheduleTest, AfterManyFailuresNothingOverflows)
+TEST_F(UpdateScheduleTest, afterManyFailuresNothingOverflows)
 {
     succeeds = false;
     restart();
     EXPECT_EQ(checksWithin(24h * 200), 204) << "six on the first two days";
 }
 
-TEST_F(UpdateScheduleTest, ACalendarThatIsSetBackDoesNotStopChecks)
+TEST_F(UpdateScheduleTest, aCalendarThatIsSetBackDoesNotStopChecks)
 {
     restart();
     EXPECT_EQ(checksWithin(1min), 1);
@@ -172,7 +172,7 @@ TEST_F(UpdateScheduleTest, ACalendarThatIsSetBackDoesNotStopChecks)
     EXPECT_EQ(found, 1);
 }
 
-TEST_F(UpdateScheduleTest, ACalendarThatIsSetForwardMeansOneCheck)
+TEST_F(UpdateScheduleTest, aCalendarThatIsSetForwardMeansOneCheck)
 {
     restart();
     EXPECT_EQ(checksWithin(1min), 1);
@@ -181,7 +181,7 @@ TEST_F(UpdateScheduleTest, ACalendarThatIsSetForwardMeansOneCheck)
     EXPECT_EQ(checksWithin(24h), 1);
 }
 
-TEST_F(UpdateScheduleTest, TheHoursInWhichTheMachineSleepsCountAsWell)
+TEST_F(UpdateScheduleTest, theHoursInWhichTheMachineSleepsCountAsWell)
 {
     restart();
     EXPECT_EQ(checksWithin(1min), 1);
@@ -197,7 +197,7 @@ TEST_F(UpdateScheduleTest, TheHoursInWhichTheMachineSleepsCountAsWell)
     EXPECT_EQ(checksWithin(1h), 1);
 }
 
-TEST_F(UpdateScheduleTest, AStoredTimeThatIsNoneCountsAsNever)
+TEST_F(UpdateScheduleTest, aStoredTimeThatIsNoneCountsAsNever)
 {
     for (const QString &text : {QString(), u"yesterday"_s, u"2026-13-45T99:00:00Z"_s}) {
         defaults.setString(u"SULastCheckTime"_s, text);
@@ -209,7 +209,7 @@ TEST_F(UpdateScheduleTest, AStoredTimeThatIsNoneCountsAsNever)
     EXPECT_EQ(checksWithin(1min), 1);
 }
 
-TEST_F(UpdateScheduleTest, AStoredTimeOfAnotherAgeIsOneLikeAnyOther)
+TEST_F(UpdateScheduleTest, aStoredTimeOfAnotherAgeIsOneLikeAnyOther)
 {
     // A time too far ahead for the system's clock must not come round to one that is long ago.
     defaults.setString(u"SULastCheckTime"_s, u"2610-01-01T00:00:00.000Z"_s);
@@ -221,7 +221,7 @@ TEST_F(UpdateScheduleTest, AStoredTimeOfAnotherAgeIsOneLikeAnyOther)
     EXPECT_EQ(checksWithin(1min), 1);
 }
 
-TEST_F(UpdateScheduleTest, ACheckThatTheUserAskedForCountsAsWell)
+TEST_F(UpdateScheduleTest, aCheckThatTheUserAskedForCountsAsWell)
 {
     restart();
     EXPECT_EQ(checksWithin(1min), 1);

@@ -30,14 +30,14 @@ void expectEqual(const QString &left, const QString &right)
     EXPECT_EQ(Versions::compare(right, left), std::weak_ordering::equivalent) << qPrintable(left);
 }
 
-TEST(VersionsTest, NumbersAreComparedOneByOne)
+TEST(VersionsTest, numbersAreComparedOneByOne)
 {
     expectAscending({u"0.0.1"_s, u"0.1"_s, u"0.1.2"_s, u"1.0"_s, u"1.1"_s, u"1.9"_s, u"1.10"_s, u"2"_s});
     expectAscending({u"201210251627"_s, u"201211051041"_s});
     expectAscending({u"1.1.1.1818"_s, u"2.0.0.2429"_s, u"2.0.0.2430"_s});
 }
 
-TEST(VersionsTest, MissingNumbersAreZero)
+TEST(VersionsTest, missingNumbersAreZero)
 {
     expectEqual(u"1.0"_s, u"1.0.0"_s);
     expectEqual(u"1"_s, u"1.0.0.0"_s);
@@ -46,7 +46,7 @@ TEST(VersionsTest, MissingNumbersAreZero)
     expectEqual(u"01.002"_s, u"1.2"_s);
 }
 
-TEST(VersionsTest, WordsMakeAVersionOlder)
+TEST(VersionsTest, wordsMakeAVersionOlder)
 {
     expectAscending({u"0.9"_s, u"1.0a1"_s, u"1.0b"_s, u"1.0b1"_s, u"1.0b9"_s, u"1.0b10"_s, u"1.0rc"_s,
                      u"1.0"_s, u"1.0.1b1"_s, u"1.0.1"_s});
@@ -54,7 +54,7 @@ TEST(VersionsTest, WordsMakeAVersionOlder)
     expectAscending({u"latest"_s, u"0.1"_s});
 }
 
-TEST(VersionsTest, BuildNumbersInBracketsCount)
+TEST(VersionsTest, buildNumbersInBracketsCount)
 {
     expectAscending(
         {u"1.0b1 (1234)"_s, u"1.0 (1234)"_s, u"1.0 (1235)"_s, u"1.0.1b5 (1234)"_s, u"1.0.1b6 (1234)"_s});
@@ -62,14 +62,14 @@ TEST(VersionsTest, BuildNumbersInBracketsCount)
     expectAscending({u"1.0"_s, u"1.0 (1)"_s});
 }
 
-TEST(VersionsTest, WhatFollowsAHyphenDoesNotCount)
+TEST(VersionsTest, whatFollowsAHyphenDoesNotCount)
 {
     expectEqual(u"1.5.5-335d3e2"_s, u"1.5.5-a655360"_s);
     expectEqual(u"1.5-335d3e2"_s, u"1.5.0"_s);
     expectAscending({u"1.5.5-335d3e2"_s, u"1.5.6-b252311"_s});
 }
 
-TEST(VersionsTest, NumbersOfAnyLengthAreCompared)
+TEST(VersionsTest, numbersOfAnyLengthAreCompared)
 {
     const QString long1 = QString(1000, u'9');
     const QString long2 = u"1"_s % QString(1000, u'0');
@@ -77,7 +77,7 @@ TEST(VersionsTest, NumbersOfAnyLengthAreCompared)
         {u"9223372036854775807"_s, u"9223372036854775808"_s, u"18446744073709551616"_s, long1, long2});
 }
 
-TEST(VersionsTest, WhateverIsComparedHasTwoSides)
+TEST(VersionsTest, whateverIsComparedHasTwoSides)
 {
     const QStringList texts{QString(),
                             u"..."_s,
@@ -100,7 +100,7 @@ TEST(VersionsTest, WhateverIsComparedHasTwoSides)
     expectEqual(u"1."_s, u"1.0"_s);
 }
 
-TEST(VersionsTest, AVersionBeginsWithANumber)
+TEST(VersionsTest, aVersionBeginsWithANumber)
 {
     for (const QString &version : {u"1"_s, u"0.1.0"_s, u"1.0b1 (5)"_s, u"20260101"_s})
         EXPECT_TRUE(Versions::isVersion(version)) << qPrintable(version);

@@ -261,9 +261,10 @@ TEST_F(ChromiumFamily, anOldOperaHasItsProfileInTheDataFolderItself)
     const QString root = u".config/opera"_s;
     change([&] {
         sample::writeLocalState(home.path(root % u"/Local State"), {});
-        sample::writeHistory(
-            home.path(root % u"/History"),
-            {.written = {{.url = u"https://a.example/"_s, .title = u"A"_s, .lastVisitTime = 1'000'000}}});
+        sample::writeHistory(home.path(root % u"/History"),
+                             {sample::HistoryRow{.url = u"https://a.example/"_s,
+                                                 .title = u"A"_s,
+                                                 .lastVisitTime = 1'000'000}});
         sample::writeHistory(home.path(root % u"/_side_profiles/Work/History"), {});
         sample::writeHistory(home.path(root % u"/_side_profiles/Home/Default/History"), {});
         sample::writeFile(home.path(root % u"/_side_profiles/.DS_Store"), "no profile");
