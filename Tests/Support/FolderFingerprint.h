@@ -3,12 +3,12 @@
 
 #pragma once
 
-#include <QByteArray>
 #include <QString>
 
 #include <cstdint>
 #include <iosfwd>
 #include <map>
+#include <optional>
 #include <string>
 
 namespace roamlet::testing
@@ -29,7 +29,7 @@ public:
         std::int64_t modified = 0;
         /// SHA-256 of a file's bytes or of a link's target; empty for everything else and for what cannot be
         /// read.
-        QByteArray digest;
+        std::optional<size_t> hash;
 
         bool operator==(const Entry &) const = default;
     };
