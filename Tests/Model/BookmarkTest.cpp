@@ -235,6 +235,26 @@ TEST(BookmarkNode, aBookmarkInEachOfManyFoldersNeedsNoMoreThanItsShare)
     EXPECT_EQ(bookmarks.at(1).folder, u"folder 199999 › folder 199998");
     EXPECT_TRUE(bookmarks.last().folder.startsWith(u"folder 199999 › folder 199998 › "));
     EXPECT_TRUE(bookmarks.last().folder.endsWith(u"folder 1 › folder 0"));
+
+    // The trees of a source share what there is.
+    const QList<Bookmark> ofMany = BookmarkNode::flattened(QList<BookmarkNode>(3, node));
+    ASSERT_EQ(ofMany.size(), 3 * (depth + 1));
+    EXPECT_EQ(ofMany.first().folder, bookmarks.first().folder);
+    characters = 0;
+    for (const Bookmark &bookmark : ofMany)
+        characters += bookmark.folder.size() + bookmark.searchKey.size();
+    EXPECT_LT(characters, 450'000'000);
+}
+
+TEST(BookmarkNode, aShortenedPathHoldsWholeCharacters)
+{
+    BookmarkNode node = leaf(u"leaf"_s, u"Leaf"_s, u"https://example.org/"_s);
+    node = folder(u"inner"_s, u"😀"_s.repeated(20'000'000), {node});
+    for (const QString &title : {u""_s, u"x"_s}) {
+        const QString path = folder(u"outer"_s, title, {node}).flattened().value(0).folder;
+        EXPECT_LT(path.size(), 300);
+        EXPECT_TRUE(path.isValidUtf16());
+    }
 }
 
 TEST(BookmarkNode, lettingGoOfATreeLeavesThePartsThatSomebodyElseHolds)

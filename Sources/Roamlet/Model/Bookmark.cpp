@@ -33,8 +33,8 @@ void forEachNode(const BookmarkNode &root, Visit visit)
     }
 }
 
-/// The paths of one tree's bookmarks, which repeat themselves level by level. Those of any tree that a person
-/// made stand in full; of a file that nests bookmarks by the thousand they would fill the memory.
+/// The paths of bookmarks, which repeat themselves level by level. Those of any tree that a person made stand
+/// in full; of a file that nests bookmarks by the thousand they would fill the memory.
 class Paths
 {
 public:
@@ -45,7 +45,13 @@ public:
         m_characters += path.size();
         if (m_characters < mostCharacters || path.size() <= 3 * keptAtEachEnd)
             return path;
-        return path.first(keptAtEachEnd) % u" … " % path.last(keptAtEachEnd);
+        QStringView begin = QStringView(path).first(keptAtEachEnd);
+        QStringView end = QStringView(path).last(keptAtEachEnd);
+        if (begin.back().isHighSurrogate())
+            begin.chop(1);
+        if (end.front().isLowSurrogate())
+            end = end.sliced(1);
+        return begin % u" … " % end;
     }
 
 private:
@@ -64,6 +70,48 @@ Bookmark bookmark(const BookmarkNode &leaf, const QString &folder, const std::op
             .source = leaf.source,
             .searchKey = lowerCased(leaf.title % u'\n' % url % u'\n' % folder),
             .site = Site::name(url).value_or(QString())};
+}
+
+/// Appends the bookmarks at and below a node, which lies in the folder of this path and id.
+void flatten(const BookmarkNode &root, const QStringList &path, const std::optional<QString> &folderID,
+             Paths &paths, QList<Bookmark> &result)
+{
+    struct Level {
+        const BookmarkNode *folder;
+        qsizetype next;
+        qsizetype outerPathLength;
+    };
+    const QString separator = u" › "_s;
+    // The joined path grows and shrinks with the walk; joining the titles anew for each bookmark would not
+    // scale.
+    QString joined = path.join(separator);
+    bool hasOuterTitle = !path.isEmpty();
+    if (!root.isFolder()) {
+        result.append(bookmark(root, joined, folderID));
+        return;
+    }
+    std::vector<Level> open;
+    const auto enter = [&](const BookmarkNode &folder) {
+        open.push_back({&folder, 0, joined.size()});
+        if (hasOuterTitle)
+            joined += separator;
+        joined += folder.title;
+        hasOuterTitle = true;
+    };
+    enter(root);
+    while (!open.empty()) {
+        Level &level = open.back();
+        if (level.next == level.folder->children->size()) {
+            joined.truncate(level.outerPathLength);
+            open.pop_back();
+            continue;
+        }
+        const BookmarkNode &child = level.folder->children->at(level.next++);
+        if (child.isFolder())
+            enter(child);
+        else
+            result.append(bookmark(child, paths(joined), level.folder->id));
+    }
 }
 
 } // namespace
@@ -108,43 +156,18 @@ qint64 BookmarkNode::folderCount() const
 
 QList<Bookmark> BookmarkNode::flattened(const QStringList &path, const std::optional<QString> &folderID) const
 {
-    struct Level {
-        const BookmarkNode *folder;
-        qsizetype next;
-        qsizetype outerPathLength;
-    };
-    QList<Bookmark> result;
-    const QString separator = u" › "_s;
-    // The joined path grows and shrinks with the walk; joining the titles anew for each bookmark would not
-    // scale.
-    QString joined = path.join(separator);
-    bool hasOuterTitle = !path.isEmpty();
-    if (!isFolder())
-        return {bookmark(*this, joined, folderID)};
-
     Paths paths;
-    std::vector<Level> open;
-    const auto enter = [&](const BookmarkNode &folder) {
-        open.push_back({&folder, 0, joined.size()});
-        if (hasOuterTitle)
-            joined += separator;
-        joined += folder.title;
-        hasOuterTitle = true;
-    };
-    enter(*this);
-    while (!open.empty()) {
-        Level &level = open.back();
-        if (level.next == level.folder->children->size()) {
-            joined.truncate(level.outerPathLength);
-            open.pop_back();
-            continue;
-        }
-        const BookmarkNode &child = level.folder->children->at(level.next++);
-        if (child.isFolder())
-            enter(child);
-        else
-            result.append(bookmark(child, paths(joined), level.folder->id));
-    }
+    QList<Bookmark> result;
+    flatten(*this, path, folderID, paths, result);
+    return result;
+}
+
+QList<Bookmark> BookmarkNode::flattened(const QList<BookmarkNode> &roots)
+{
+    Paths paths;
+    QList<Bookmark> result;
+    for (const BookmarkNode &root : roots)
+        flatten(root, {}, {}, paths, result);
     return result;
 }
 

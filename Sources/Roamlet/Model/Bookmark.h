@@ -22,7 +22,7 @@ struct Bookmark {
     QString title;
     QString url;
     /// The titles of the enclosing folders, outermost first, joined by " › ". The middle of long ones is left
-    /// out where all those of a tree would not fit into the memory.
+    /// out where all those of a source would not fit into the memory.
     QString folder;
     /// The id of the folder that directly encloses it.
     std::optional<QString> folderID;
@@ -72,6 +72,8 @@ public:
     /// The bookmarks at and below this node in tree order. `path` and `folderID` describe what encloses it.
     QList<Bookmark> flattened(const QStringList &path = {},
                               const std::optional<QString> &folderID = {}) const;
+    /// The bookmarks of a whole source, tree by tree.
+    static QList<Bookmark> flattened(const QList<BookmarkNode> &roots);
 };
 
 size_t qHash(const Bookmark &bookmark, size_t seed = 0);

@@ -139,7 +139,7 @@ TEST_F(DiagnosticsExportTest, ofADamagedFileBesideAGoodOneIsTheGoodOneAndSaysWha
     sample::writeFile(account, "[1, 2");
     EXPECT_EQ(outputOf(arguments), whole);
     EXPECT_THAT(console.errors.toStdString(),
-                StartsWith("roamlet: Couldn't read " + account.toStdString() + ": "));
+                StartsWith("roamlet: Chrome - Personal: Couldn't read " + account.toStdString() + ": "));
     EXPECT_EQ(console.errors.count('\n'), 1);
 
     const QString local = home.chrome(u"Default/Bookmarks"_s);
@@ -147,7 +147,7 @@ TEST_F(DiagnosticsExportTest, ofADamagedFileBesideAGoodOneIsTheGoodOneAndSaysWha
     console.errors.clear();
     EXPECT_EQ(outputOf(arguments), emptyMarkdown);
     EXPECT_THAT(console.errors.toStdString(),
-                StartsWith("roamlet: Couldn't read " + local.toStdString() + ": "));
+                StartsWith("roamlet: Chrome - Personal: Couldn't read " + local.toStdString() + ": "));
     EXPECT_EQ(console.errors.count('\n'), 2) << "each file is named";
 }
 

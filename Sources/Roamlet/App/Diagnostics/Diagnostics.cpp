@@ -202,7 +202,7 @@ std::expected<QList<BookmarkNode>, QString> Job::bookmarks(const QString &source
     }
     const auto trees = BrowserReader::bookmarks(*source, m_context);
     for (const ReadError &error : trees ? trees->problems : trees.error())
-        complain(error.errorDescription());
+        complain(source->label() % u": " % error.errorDescription());
     if (trees && trees->areEncrypted)
         complain(Source::displayName(source->kind) % u" keeps the bookmarks of " % source->label() %
                  u" encrypted. Only it can export them.");
@@ -227,10 +227,8 @@ int Job::exportBookmarks(const std::optional<QString> &formatName, const std::op
     }
     // Every bookmark of the flat list names all folders around it, which takes far more room than the tree.
     QList<Bookmark> flat;
-    if (*format == BookmarkExport::Format::Csv) {
-        for (const BookmarkNode &root : roots)
-            flat += root.flattened();
-    }
+    if (*format == BookmarkExport::Format::Csv)
+        flat = BookmarkNode::flattened(roots);
     return write(BookmarkExport::render(*format, roots, flat));
 }
 
