@@ -230,6 +230,45 @@ TEST_F(BrowserWatcherTest, aProfileThatIsListedUnderAnotherNameThanItsFoldersIsR
     EXPECT_EQ(reports, QList<QSet<QString>>({{u"firefox/./a"_s, QString(u"firefox/" % root % u"/b")}}));
 }
 
+TEST_F(BrowserWatcherTest, aProfileThatTwoInstallationsListIsReportedForBoth)
+{
+    const QString root = home.path(u".mozilla/firefox"_s);
+    change([&] {
+        sample::writeFile(root % u"/profiles.ini", "");
+        sample::writeFile(root % u"/a/places.sqlite", "x");
+        sample::writeFile(home.path(u".librewolf/profiles.ini"_s), "");
+    });
+    QList<QSet<QString>> reports;
+    BrowserWatcher watcher(home.platform(),
+                           [&reports](const QSet<QString> &report) { reports.append(report); });
+    watcher.setProfiles({profileOf(browserKind(u"firefox"), u"a"_s),
+                         profileOf(browserKind(u"librewolf"), root % u"/a"),
+                         profileOf(browserKind(u"waterfox"), root % u"/a")});
+    home.fileEvents.report({root % u"/a/places.sqlite"});
+    EXPECT_EQ(reports, QList<QSet<QString>>({{u"firefox/a"_s, QString(u"librewolf/" % root % u"/a"),
+                                              QString(u"waterfox/" % root % u"/a")}}));
+}
+
+TEST_F(BrowserWatcherTest, onlyProfilesElsewhereThatAreNewToItAreFollowedAnew)
+{
+    const QString first = home.path(u"elsewhere/first"_s);
+    const QString second = home.path(u"elsewhere/second"_s);
+    change([&] {
+        sample::writeFile(home.path(u".mozilla/firefox/profiles.ini"_s), "");
+        sample::writeFile(first % u"/places.sqlite", "x");
+        sample::writeFile(second % u"/places.sqlite", "x");
+    });
+    BrowserWatcher watcher(home.platform(), [](const QSet<QString> &) {});
+    Source firstProfile = profileOf(browserKind(u"firefox"), first);
+    const Source secondProfile = profileOf(browserKind(u"firefox"), second);
+    EXPECT_EQ(watcher.setProfiles({firstProfile, Source::safari()}), QSet<QString>{firstProfile.id()});
+    firstProfile.name = u"renamed"_s;
+    EXPECT_EQ(watcher.setProfiles({firstProfile}), QSet<QString>());
+    EXPECT_EQ(watcher.setProfiles({firstProfile, secondProfile}), QSet<QString>{secondProfile.id()});
+    EXPECT_EQ(watcher.setProfiles({}), QSet<QString>());
+    EXPECT_EQ(watcher.setProfiles({firstProfile}), QSet<QString>{firstProfile.id()});
+}
+
 TEST_F(BrowserWatcherTest, profilesMayBeSetWhileOneOfThemIsReported)
 {
     const QString places = home.path(u"elsewhere/profile/places.sqlite"_s);

@@ -86,10 +86,10 @@ std::unique_ptr<FileEvents::Stream> BrowserWatcher::open(const QStringList &fold
     return m_platform.fileEvents.open(folders, [this](const QStringList &paths) { handle(paths); });
 }
 
-void BrowserWatcher::setProfiles(const QList<Source> &profiles)
+QSet<QString> BrowserWatcher::setProfiles(const QList<Source> &profiles)
 {
     const BrowserFolders folders = BrowserFolders::of(m_platform.folders, m_platform.files);
-    QHash<QString, Source> elsewhere;
+    QMultiHash<QString, Source> elsewhere;
     for (const Source &source : profiles) {
         const QStringList roots = folders.roots(source);
         const QString folder = folders.profile(source, m_platform.files);
@@ -98,10 +98,27 @@ void BrowserWatcher::setProfiles(const QList<Source> &profiles)
         if (!roots.isEmpty() && !isKnownByPlace)
             elsewhere.insert(folder, source);
     }
-    if (elsewhere == m_profilesElsewhere)
-        return;
     m_profilesElsewhere = elsewhere;
-    m_streamElsewhere = elsewhere.isEmpty() ? nullptr : open(elsewhere.keys());
+    const QStringList wanted = elsewhere.uniqueKeys();
+    if (wanted.isEmpty()) {
+        m_foldersElsewhere.clear();
+        m_streamsElsewhere.clear();
+    }
+    const QSet<QString> added = QSet<QString>(wanted.cbegin(), wanted.cend()) - m_foldersElsewhere;
+    if (added.isEmpty())
+        return {};
+    auto stream = open(added.values());
+    // Where the system has no more watches to give, it is asked again the next time.
+    if (!stream)
+        return {};
+    m_streamsElsewhere.push_back(std::move(stream));
+    m_foldersElsewhere.unite(added);
+    QSet<QString> ids;
+    for (const QString &folder : added) {
+        for (const Source &source : elsewhere.values(folder))
+            ids.insert(source.id());
+    }
+    return ids;
 }
 
 void BrowserWatcher::handle(const QStringList &paths)
@@ -115,16 +132,22 @@ void BrowserWatcher::handle(const QStringList &paths)
             continue;
         if (!folders)
             folders = BrowserFolders::of(m_platform.folders, m_platform.files);
-        std::optional<QString> id = sourceID(path, *folders);
-        const auto profile = m_profilesElsewhere.constFind(folder.toString());
-        if (profile != m_profilesElsewhere.cend() && BrowserReader::isRead(name, profile->kind))
-            id = profile->id();
-        if (!id)
+        QSet<QString> ids;
+        if (const std::optional<QString> id = sourceID(path, *folders))
+            ids.insert(*id);
+        for (const Source &profile : m_profilesElsewhere.values(folder.toString())) {
+            if (!BrowserReader::isRead(name, profile.kind))
+                continue;
+            // Its list writes the folder in another way than its place does.
+            ids.remove(idOf(profile.kind, split(folder).name, profile.installation));
+            ids.insert(profile.id());
+        }
+        if (ids.isEmpty())
             continue;
         const QString stamp = m_platform.files.fileStamp(path);
         const auto previous = m_stamps.constFind(path);
         if (previous == m_stamps.cend() || *previous != stamp)
-            changed.insert(*id);
+            changed.unite(ids);
         m_stamps.insert(path, stamp);
     }
     if (!changed.isEmpty())

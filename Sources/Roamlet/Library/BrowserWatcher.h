@@ -15,6 +15,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <vector>
 
 namespace roamlet
 {
@@ -35,8 +36,9 @@ public:
     bool isWatching() const { return m_stream != nullptr; }
 
     /// Also follows profiles that lie elsewhere than right below their browser's data folder. Called whenever
-    /// the profiles may have changed, also by `onChange`.
-    void setProfiles(const QList<Source> &profiles);
+    /// the profiles may have changed, also by `onChange`. Returns the ids of those that were not followed
+    /// before: what changed since they were read is not known.
+    QSet<QString> setProfiles(const QList<Source> &profiles);
 
     /// The id of the source that owns the file at `path`, or nothing when it is no file that is read. Every
     /// folder right below a data folder may be a profile's.
@@ -50,11 +52,13 @@ private:
     Handler m_onChange;
     /// The last stamp seen of each file.
     QHash<QString, QString> m_stamps;
-    /// The profiles that lie elsewhere, by folder.
-    QHash<QString, Source> m_profilesElsewhere;
+    /// The profiles that lie elsewhere, by folder. Two installations may list the same one.
+    QMultiHash<QString, Source> m_profilesElsewhere;
     std::unique_ptr<FileEvents::Stream> m_stream;
-    /// Reports from the profiles that lie elsewhere; null while there are none.
-    std::unique_ptr<FileEvents::Stream> m_streamElsewhere;
+    /// The folders of profiles that lie elsewhere, and what reports from them: a stream for those that came
+    /// together, as what one has gathered would be lost with it.
+    QSet<QString> m_foldersElsewhere;
+    std::vector<std::unique_ptr<FileEvents::Stream>> m_streamsElsewhere;
 };
 
 } // namespace roamlet

@@ -6,6 +6,7 @@
 #include "Library/FaviconImage.h"
 #include "Platform/Clock.h"
 #include "Platform/Files.h"
+#include "Platform/Folders.h"
 #include "Platform/UserDefaults.h"
 #include "Readers/Files/SQLiteSnapshot.h"
 
@@ -46,8 +47,7 @@ void Library::start()
 {
     m_tasks.run(
         this,
-        [files = &m_platform.files,
-         temporary = readContext(m_platform).folders.temporary](const std::stop_token &) {
+        [files = &m_platform.files, temporary = m_platform.folders.temporary()](const std::stop_token &) {
             SQLiteSnapshot::removeLeftovers(*files, temporary);
             return true;
         },
@@ -102,11 +102,14 @@ void Library::readNext()
 void Library::publish(Snapshot snapshot)
 {
     m_snapshot = std::move(snapshot);
-    if (m_watcher)
-        m_watcher->setProfiles(m_snapshot.browserProfiles);
     m_faviconImages.clear();
     ++m_generation;
     Q_EMIT snapshotChanged();
+    if (!m_watcher)
+        return;
+    // Nobody has told what happened between their reading and now.
+    if (const QSet<QString> ids = m_watcher->setProfiles(m_snapshot.browserProfiles); !ids.isEmpty())
+        filesChanged(ids);
 }
 
 void Library::setEnabled(bool isEnabled, const Source &source)
