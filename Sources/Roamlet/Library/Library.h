@@ -122,9 +122,10 @@ public:
     QList<HistoryItem> recentHistory(const std::optional<QString> &sourceID) const;
 
     /// Every profile of every browser, in the order of the browsers: Safari's (the known ones where given),
-    /// then Chrome's, Edge's and so on. A machine without any Safari data has no Safari profile.
+    /// then Chrome's, Edge's and so on. A machine without any Safari data has no Safari profile. Of a list
+    /// that cannot be read now, the profiles among `known` stay.
     static QList<Source> allProfiles(const std::optional<QList<Source>> &knownSafari,
-                                     const ReadContext &context);
+                                     const ReadContext &context, const QList<Source> &known = {});
     /// Reads the enabled profiles in parallel, as many at a time as there are cores. Never fails: what cannot
     /// be read becomes a problem text.
     static Snapshot readAll(const ReadRequest &request, const ReadContext &context, const Clock &clock);

@@ -33,12 +33,12 @@ bool hasSource(const QList<Source> &sources, const QString &id)
     return std::ranges::find(sources, id, &Source::id) != sources.end();
 }
 
-/// Whether the source is there under the same label: another installation of its browser that comes or goes
-/// changes how every row of it is called.
+/// Whether the source is there under the same label, which every row of it carries: the user may rename a
+/// profile, and another installation of its browser may come or go.
 bool isUnchanged(const Source &source, const QList<Source> &sources)
 {
     return std::ranges::any_of(sources, [&source](const Source &each) {
-        return each.id() == source.id() && each.namesInstallation == source.namesInstallation;
+        return each.id() == source.id() && each.label() == source.label();
     });
 }
 
@@ -188,8 +188,7 @@ Library::Snapshot assemble(const QList<Source> &profiles, const QList<Source> &e
         const Source &source = enabled[static_cast<qsizetype>(i)];
         const QString id = source.id();
         Read &read = reads[i];
-        for (const BookmarkNode &root : std::as_const(read.bookmarks.roots))
-            snapshot.bookmarks += root.flattened();
+        snapshot.bookmarks += BookmarkNode::flattened(read.bookmarks.roots);
         snapshot.bookmarkTrees.insert(id, read.bookmarks.roots);
         if (read.bookmarks.areEncrypted)
             snapshot.encryptedBookmarks.insert(id);
@@ -212,21 +211,22 @@ Library::Snapshot assemble(const QList<Source> &profiles, const QList<Source> &e
 } // namespace
 
 QList<Source> Library::allProfiles(const std::optional<QList<Source>> &knownSafari,
-                                   const ReadContext &context)
+                                   const ReadContext &context, const QList<Source> &known)
 {
     QList<Source> result;
     for (const Browser &browser : Browser::all()) {
         if (knownSafari && browser.family == Browser::Family::Safari)
             result += *knownSafari;
         else
-            result += BrowserReader::profiles(browser.kind, context);
+            result += BrowserReader::profiles(browser.kind, context, known);
     }
     return result;
 }
 
 Library::Snapshot Library::readAll(const ReadRequest &request, const ReadContext &context, const Clock &clock)
 {
-    const QList<Source> profiles = allProfiles(knownSafariProfiles(request), context);
+    const QList<Source> profiles =
+        allProfiles(knownSafariProfiles(request), context, request.previous.browserProfiles);
     QList<Source> enabled = profiles;
     enabled.removeIf([&request](const Source &source) { return request.disabled.contains(source.id()); });
 

@@ -21,7 +21,7 @@ namespace
 
 /// What a family of browsers answers.
 struct FamilyReader {
-    QList<Source> (*profiles)(Source::Kind browser, const ReadContext &context);
+    QList<Source> (*profiles)(Source::Kind browser, const ReadContext &context, const QList<Source> &known);
     QString (*historyFile)(const Source &source, const ReadContext &context);
     decltype(&SafariReader::history) history;
     decltype(&SafariReader::bookmarks) bookmarks;
@@ -29,21 +29,37 @@ struct FamilyReader {
     QStringList (*readFiles)();
 };
 
-QList<Source> safariProfiles(Source::Kind /*browser*/, const ReadContext &context)
+QList<Source> safariProfiles(Source::Kind /*browser*/, const ReadContext &context,
+                             const QList<Source> & /*known*/)
 {
     return context.folders.hasSafari ? SafariReader::profiles(context) : QList<Source>();
 }
 
-/// The profiles of every installation that has some.
-template<QList<Source> (*profilesIn)(const BrowserFolders::Installation &, const ReadContext &)>
-QList<Source> installedProfiles(Source::Kind browser, const ReadContext &context)
+/// What `read` finds in every installation that has profiles.
+template<typename Read>
+QList<Source> installedProfiles(Source::Kind browser, const ReadContext &context, Read read)
 {
     QList<Source> result;
     for (const BrowserFolders::Installation &installation : context.folders.installations) {
         if (installation.browser == browser && installation.hasProfiles)
-            result += profilesIn(installation, context);
+            result += read(installation);
     }
     return result;
+}
+
+QList<Source> chromiumProfiles(Source::Kind browser, const ReadContext &context,
+                               const QList<Source> & /*known*/)
+{
+    return installedProfiles(browser, context, [&context](const BrowserFolders::Installation &installation) {
+        return ChromiumReader::profiles(installation, context);
+    });
+}
+
+QList<Source> firefoxProfiles(Source::Kind browser, const ReadContext &context, const QList<Source> &known)
+{
+    return installedProfiles(browser, context, [&](const BrowserFolders::Installation &installation) {
+        return FirefoxProfiles::read(installation, context, known);
+    });
 }
 
 Content safariContent(const Source &source, const ReadContext &context)
@@ -80,18 +96,12 @@ const FamilyReader &readerOf(Source::Kind browser)
     static constexpr FamilyReader safari{safariProfiles,        SafariReader::historyFile,
                                          SafariReader::history, SafariReader::bookmarks,
                                          safariContent,         SafariReader::readFiles};
-    static constexpr FamilyReader chromium{installedProfiles<ChromiumReader::profiles>,
-                                           ChromiumReader::historyFile,
-                                           ChromiumReader::history,
-                                           ChromiumReader::bookmarks,
-                                           chromiumContent,
-                                           ChromiumReader::readFiles};
-    static constexpr FamilyReader firefox{installedProfiles<FirefoxProfiles::read>,
-                                          FirefoxReader::historyFile,
-                                          FirefoxReader::history,
-                                          FirefoxReader::bookmarks,
-                                          firefoxContent,
-                                          FirefoxReader::readFiles};
+    static constexpr FamilyReader chromium{chromiumProfiles,        ChromiumReader::historyFile,
+                                           ChromiumReader::history, ChromiumReader::bookmarks,
+                                           chromiumContent,         ChromiumReader::readFiles};
+    static constexpr FamilyReader firefox{firefoxProfiles,        FirefoxReader::historyFile,
+                                          FirefoxReader::history, FirefoxReader::bookmarks,
+                                          firefoxContent,         FirefoxReader::readFiles};
     switch (Browser::of(browser).family) {
     case Browser::Family::Safari:
         return safari;
@@ -105,9 +115,9 @@ const FamilyReader &readerOf(Source::Kind browser)
 
 } // namespace
 
-QList<Source> profiles(Source::Kind browser, const ReadContext &context)
+QList<Source> profiles(Source::Kind browser, const ReadContext &context, const QList<Source> &known)
 {
-    return readerOf(browser).profiles(browser, context);
+    return readerOf(browser).profiles(browser, context, known);
 }
 
 QString historyFile(const Source &source, const ReadContext &context)

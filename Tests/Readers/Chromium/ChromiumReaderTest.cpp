@@ -126,6 +126,15 @@ TEST_F(ChromiumProfiles, aProfileWithoutItsFolderIsLeftOut)
     EXPECT_EQ(folders(), QStringList{u"Default"_s});
 }
 
+TEST_F(ChromiumProfiles, onlyDefaultComesFirstAlsoBeforeAProfileWithoutAName)
+{
+    writeChrome({{u"Default"_s, named(u"A"_s)}, {u"Another"_s, named(u"B"_s)}});
+    sample::writeLocalState(
+        chromeFile(u"Local State"_s, {}),
+        {{u""_s, named(u"C"_s)}, {u"Another"_s, named(u"B"_s)}, {u"Default"_s, named(u"A"_s)}});
+    EXPECT_EQ(folders(), (QStringList{u"Default"_s, u""_s, u"Another"_s}));
+}
+
 TEST_F(ChromiumProfiles, aNameThatNoFileCanHaveIsLeftOut)
 {
     writeChrome({{u"Default"_s, named(u"A"_s)}});

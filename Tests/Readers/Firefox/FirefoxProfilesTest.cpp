@@ -257,18 +257,36 @@ TEST_F(FirefoxProfilesTest, aGroupThatCannotBeReadHarmsNoneButLetsNoneComeFirst)
     });
 }
 
-TEST_F(FirefoxProfilesTest, aGroupThatCannotBeReadKeepsItsMembersUnderTheNamesOfTheirFolders)
+TEST_F(FirefoxProfilesTest, aGroupThatCannotBeReadKeepsTheMembersThatAreKnown)
 {
-    write({{.name = u"A"_s, .path = u"./a"_s, .storeID = u"1234abcd"_s}});
-    makeProfile(u"b.Menu"_s);
-    makeProfile(u"Profiles/c.Mac"_s);
-    change([&] { sample::makeFolder(home.path(oldFolder % u"empty")); });
-    writeGroup({{.path = u"b.Menu"_s, .name = u"Made in the menu"_s},
-                {.path = u"Profiles/c.Mac"_s, .name = u"From a Mac"_s}});
-    EXPECT_EQ(keys(), (QStringList{u"./a"_s, u"Profiles/c.Mac"_s, u"b.Menu"_s}));
-    change([&] { sample::writeFile(home.path(oldFolder % u"Profile Groups/1234abcd.sqlite"), "torn"); });
-    EXPECT_EQ(keys(), (QStringList{u"./a"_s, u"b.Menu"_s, u"Profiles/c.Mac"_s}));
-    EXPECT_EQ(names(), (QStringList{u"A"_s, u"b.Menu"_s, u"c.Mac"_s}));
+    write({{.name = u"A"_s, .path = u"a"_s, .storeID = u"1234abcd"_s}});
+    const QString absolute = home.path(u"elsewhere"_s);
+    makeProfile(u"b"_s);
+    makeProfile(u"c"_s);
+    makeProfile(u"not listed"_s);
+    makeProfile(absolute);
+    writeGroup({{.path = u"b"_s, .name = u"Made in the menu"_s},
+                {.path = u"c"_s, .name = u"Soon gone"_s},
+                {.path = absolute, .name = u"Elsewhere"_s}});
+    const QList<Source> known = profiles();
+    ASSERT_EQ(known.size(), 4);
+    change([&] {
+        QFile::remove(home.path(oldFolder % u"c/places.sqlite"));
+        sample::writeFile(home.path(oldFolder % u"Profile Groups/1234abcd.sqlite"), "torn");
+    });
+    const Source::Kind firefox = *Source::kindFromRawValue(u"firefox");
+    QList<Source> kept;
+    for (const Source &source : known) {
+        if (source.profile != u"c")
+            kept.append(source);
+    }
+    EXPECT_EQ(BrowserReader::profiles(firefox, context(), known), kept);
+    EXPECT_EQ(names(), QStringList{u"A"_s}) << "who knows nothing has what is listed";
+    // Those of another browser or installation say nothing of this one.
+    QList<Source> strange = known;
+    for (Source &source : strange)
+        source.installation = u"snap"_s;
+    EXPECT_EQ(BrowserReader::profiles(firefox, context(), strange).size(), 1);
 }
 
 TEST_F(FirefoxProfilesTest, aGroupIsReadWhereTheListCannotBe)

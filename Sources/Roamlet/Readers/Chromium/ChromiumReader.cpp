@@ -278,13 +278,14 @@ QList<Source> profiles(const BrowserFolders::Installation &installation, const R
 {
     const QString root = installation.roots.value(0);
     QList<Source> result = listedProfiles(installation, root, context);
-    if (Browser::of(installation.browser).hasOperaLayout)
+    const bool isOpera = Browser::of(installation.browser).hasOperaLayout;
+    if (isOpera)
         result += operaProfiles(installation, root, context);
     if (result.size() < 2)
         return result;
     const Collation collation(context.locale);
-    const auto isFirst = [](const Source &source) {
-        return source.profile == defaultFolder || source.profile == u"";
+    const auto isFirst = [isOpera](const Source &source) {
+        return source.profile == defaultFolder || (isOpera && source.profile == u"");
     };
     std::ranges::stable_sort(result, [&](const Source &left, const Source &right) {
         if (isFirst(left) || isFirst(right))

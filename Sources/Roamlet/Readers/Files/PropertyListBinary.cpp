@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
-#include "Readers/Files/PropertyListTree.h"
 #include "Model/Utf8.h"
+#include "Readers/Files/PropertyListTree.h"
 
 #include <QStringDecoder>
 

@@ -3,11 +3,11 @@
 
 #include "Readers/Files/SQLiteSnapshot.h"
 
+#include "Model/Utf8.h"
 #include "Platform/Files.h"
 #include "Platform/Processes.h"
 #include "Readers/Files/ConfinedFiles.h"
 #include "Readers/Files/LiteralLike.h"
-#include "Model/Utf8.h"
 #include "Readers/ReadContext.h"
 
 #include <QFile>

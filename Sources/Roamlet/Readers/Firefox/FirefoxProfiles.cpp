@@ -5,11 +5,11 @@
 
 #include "Model/Browser.h"
 #include "Model/Collation.h"
+#include "Model/Utf8.h"
 #include "Platform/BrowserFolders.h"
 #include "Platform/Files.h"
 #include "Readers/Files/Ini.h"
 #include "Readers/Files/SQLiteSnapshot.h"
-#include "Model/Utf8.h"
 
 #include <QSet>
 
@@ -117,17 +117,6 @@ std::optional<QList<Member>> groupMembers(const QString &database, const ReadCon
     return run ? std::optional(result) : std::nullopt;
 }
 
-/// The folders that could be profiles, where Firefox makes them.
-QStringList profileFolders(const QString &root, const Files &files)
-{
-    QStringList result;
-    for (const QString &parent : {u""_s, u"Profiles/"_s}) {
-        for (const QString &name : files.names(root % u'/' % parent))
-            result.append(parent % name);
-    }
-    return result;
-}
-
 /// The databases of the groups of profiles in a data folder.
 QStringList groupDatabases(const QString &root, const Files &files)
 {
@@ -144,8 +133,9 @@ QStringList groupDatabases(const QString &root, const Files &files)
 class Finder
 {
 public:
-    Finder(const BrowserFolders::Installation &installation, const ReadContext &context)
-        : m_installation(installation), m_context(context), m_collation(context.locale)
+    Finder(const BrowserFolders::Installation &installation, const ReadContext &context,
+           const QList<Source> &known)
+        : m_installation(installation), m_context(context), m_known(known), m_collation(context.locale)
     {
     }
 
@@ -164,6 +154,7 @@ private:
 
     const BrowserFolders::Installation &m_installation;
     const ReadContext &m_context;
+    const QList<Source> &m_known;
     Collation m_collation;
     QSet<QString> m_keys;
     QSet<QString> m_folders;
@@ -188,10 +179,10 @@ QList<Source> Finder::profilesIn(const QString &root)
         if (section.isUsable())
             add(utf8Text(section.path), utf8Text(section.name), root, found);
     }
-    // A profile must not go because its group's database could not be copied or is damaged.
-    if (!areMembersKnown) {
-        for (const QString &folder : profileFolders(root, *m_context.files))
-            add(folder, {}, root, found);
+    // A profile must not go because its group's database could not be copied this time.
+    for (const Source &source : areMembersKnown ? QList<Source>() : m_known) {
+        if (source.kind == m_installation.browser && source.installation == m_installation.key)
+            add(*source.profile, source.name, root, found);
     }
 
     // Of a group, the profile that was started last is the one that starts by itself: a list must not change
@@ -241,9 +232,10 @@ void Finder::add(const QString &key, const QString &name, const QString &root, s
 
 } // namespace
 
-QList<Source> read(const BrowserFolders::Installation &installation, const ReadContext &context)
+QList<Source> read(const BrowserFolders::Installation &installation, const ReadContext &context,
+                   const QList<Source> &known)
 {
-    Finder finder(installation, context);
+    Finder finder(installation, context, known);
     QList<Source> result;
     for (const QString &root : installation.roots)
         result += finder.profilesIn(root);

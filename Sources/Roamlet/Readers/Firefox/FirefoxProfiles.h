@@ -14,7 +14,8 @@ namespace roamlet::FirefoxProfiles
 {
 
 /// The profiles of one installation, data folder by data folder: the one that starts by itself first, the
-/// others by name.
-QList<Source> read(const BrowserFolders::Installation &installation, const ReadContext &context);
+/// others by name. Where the database of a group cannot be read now, its members are those of `known`.
+QList<Source> read(const BrowserFolders::Installation &installation, const ReadContext &context,
+                   const QList<Source> &known);
 
 } // namespace roamlet::FirefoxProfiles
