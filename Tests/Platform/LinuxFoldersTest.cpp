@@ -153,7 +153,7 @@ TEST(LinuxFoldersEnvironment, comesFromTheVariables)
     const QTemporaryDir folder;
     const Variable home("HOME", QFile::encodeName(folder.path()));
     const Variable temporary("TMPDIR", QFile::encodeName(folder.filePath(u"tmp"_s)));
-    const Variable config("XDG_CONFIG_HOME", QByteArray("/etc/elsewhere"));
+    const Variable config("XDG_CONFIG_HOME", QByteArray("/etc//elsewhere/"));
     const auto environment = LinuxFolders::Environment::ofThisProcess();
     EXPECT_EQ(environment.home, folder.path());
     EXPECT_EQ(environment.temporary, folder.filePath(u"tmp"_s)) << "also while it is missing";

@@ -522,6 +522,15 @@ TEST_F(LinuxWorkspaceTest, dataFromAMacIsOpenedByTheBrowserThatIsHere)
     EXPECT_EQ(starts().value(0).program, u"chrome");
 }
 
+TEST_F(LinuxWorkspaceTest, dataFromAMacThatLiesAsItDoesHereIsOpenedByTheBrowserThatIsHere)
+{
+    keepDataIn(u"Library/Application Support/BraveSoftware/Brave-Browser"_s);
+    desktop.addEntry(u"com.brave.Browser.desktop"_s,
+                     desktop.addProgram(u"flatpak"_s) %
+                         u" run --command=brave --file-forwarding com.brave.Browser @@u %U @@");
+    EXPECT_EQ(programForLink(browserKind(u"brave")), u"flatpak");
+}
+
 TEST_F(LinuxWorkspaceTest, anEntryThatCannotBeStartedIsNoApplication)
 {
     desktop.addEntry(u"google-chrome.desktop"_s, {});

@@ -40,7 +40,7 @@ QString configHome()
 {
     // A relative path in this variable is invalid and to be ignored.
     const QString path = qEnvironmentVariable("XDG_CONFIG_HOME");
-    return QDir::isAbsolutePath(path) ? path : QString(homeFolder() % u"/.config");
+    return QDir::isAbsolutePath(path) ? QDir::cleanPath(path) : QString(homeFolder() % u"/.config");
 }
 
 } // namespace roamlet

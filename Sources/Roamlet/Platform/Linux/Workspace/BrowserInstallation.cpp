@@ -30,9 +30,14 @@ std::optional<Browser::Installation> installationOfData(const QString &root)
     for (const Browser &browser : Browser::all()) {
         for (const Browser::Installation &installation : browser.installations) {
             for (const auto &[base, path] : installation.places) {
+                const bool isOnMac = base == Browser::Place::Base::MacSupport;
+                const QString end = isOnMac ? QString(u"/Application Support/" % path) : QString(u'/' % path);
+                if (!root.endsWith(end))
+                    continue;
+                if (isOnMac)
+                    return {};
                 // The folder of one may end like that of another: ".../config/google-chrome".
-                if (base != Browser::Place::Base::MacSupport && path.size() > longest &&
-                    root.endsWith(QString(u'/' % path))) {
+                if (path.size() > longest) {
                     best = installation;
                     longest = path.size();
                     // Two applications may share a key; the folder of a sandbox is named by its own.
