@@ -10,6 +10,7 @@
 #include "Readers/BrowserReader.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 namespace roamlet
@@ -57,21 +58,13 @@ QString idOf(Source::Kind kind, QStringView profile, const QString &installation
         .id();
 }
 
-/// Whether any browser has a file of this name that is read. Browsers of one family have the same ones.
+/// Whether any browser has a file of this name that is read.
 bool isReadAnywhere(QStringView name)
 {
-    static const QList<Source::Kind> oneOfEachFamily = [] {
-        QList<Source::Kind> kinds;
-        for (const Browser &browser : Browser::all()) {
-            if (std::ranges::none_of(kinds, [&browser](Source::Kind kind) {
-                    return Browser::of(kind).family == browser.family;
-                }))
-                kinds.append(browser.kind);
-        }
-        return kinds;
-    }();
-    return std::ranges::any_of(oneOfEachFamily,
-                               [name](Source::Kind kind) { return BrowserReader::isRead(name, kind); });
+    using enum Browser::Family;
+    return std::ranges::any_of(std::array{Safari, Chromium, Firefox}, [name](Browser::Family family) {
+        return BrowserReader::isRead(name, family);
+    });
 }
 
 } // namespace
@@ -136,7 +129,7 @@ void BrowserWatcher::handle(const QStringList &paths)
         if (const std::optional<QString> id = sourceID(path, *folders))
             ids.insert(*id);
         for (const Source &profile : m_profilesElsewhere.values(folder.toString())) {
-            if (!BrowserReader::isRead(name, profile.kind))
+            if (!BrowserReader::isRead(name, Browser::of(profile.kind).family))
                 continue;
             // Its list writes the folder in another way than its place does.
             ids.remove(idOf(profile.kind, split(folder).name, profile.installation));
@@ -158,7 +151,7 @@ std::optional<QString> BrowserWatcher::sourceID(const QString &path, const Brows
 {
     const auto [folder, name] = split(path);
     const auto [parent, profile] = split(folder);
-    if (BrowserReader::isRead(name, Source::Kind::Safari)) {
+    if (BrowserReader::isRead(name, Browser::Family::Safari)) {
         if (folder == folders.safari)
             return Source::safari().id();
         if (parent == folders.safariProfiles())
@@ -167,7 +160,7 @@ std::optional<QString> BrowserWatcher::sourceID(const QString &path, const Brows
     for (const BrowserFolders::Installation &installation : folders.installations) {
         const bool isHere = std::ranges::any_of(
             installation.roots, [parent = parent](const QString &root) { return parent == root; });
-        if (isHere && BrowserReader::isRead(name, installation.browser))
+        if (isHere && BrowserReader::isRead(name, Browser::of(installation.browser).family))
             return idOf(installation.browser, profile, installation.key);
     }
     return {};

@@ -71,15 +71,13 @@ Browser firefox(const QString &rawValue, const QString &displayName, const QStri
     return browser;
 }
 
-/// A browser that was here before any other of its family.
-Browser firstOfChromium(Browser browser, const QString &bundleID)
+Browser listingEphemeralProfiles(Browser browser)
 {
-    browser.bundleID = bundleID;
     browser.listsEphemeralProfiles = true;
     return browser;
 }
 
-/// One whose application on a Mac is not called what people call the browser.
+/// One whose application is known to a Mac by this identifier.
 Browser identifiedOnMac(Browser browser, const QString &bundleID)
 {
     browser.bundleID = bundleID;
@@ -130,31 +128,32 @@ QList<Browser> table()
          .folderQuery = {},
          .installations = {{{}, {atHome(u"Library/Safari"_s)}, {}, {}}}},
 
-        firstOfChromium(chromium(u"chrome"_s, u"Chrome"_s, u"chrome://history/"_s, u"chrome://bookmarks/"_s,
-                                 {{{},
-                                   {onMac(u"Google/Chrome"_s), inConfig(u"google-chrome"_s)},
-                                   chromeEntries,
-                                   {u"google-chrome"_s}},
-                                  {u"beta"_s,
-                                   {inConfig(u"google-chrome-beta"_s)},
-                                   {u"google-chrome-beta"_s},
-                                   {u"google-chrome-beta"_s}},
-                                  {u"dev"_s,
-                                   {inConfig(u"google-chrome-unstable"_s)},
-                                   {u"google-chrome-unstable"_s},
-                                   {u"google-chrome-unstable"_s}},
-                                  {u"flatpak"_s,
-                                   {inFlatpak(u"com.google.Chrome"_s, u"config/google-chrome"_s)},
-                                   chromeEntries,
-                                   {u"google-chrome"_s}},
-                                  {u"dev-flatpak"_s,
-                                   {inFlatpak(u"com.google.ChromeDev"_s, u"config/google-chrome-unstable"_s)},
-                                   {u"com.google.ChromeDev"_s},
-                                   {u"google-chrome-unstable"_s}}}),
-                        u"com.google.Chrome"_s),
+        listingEphemeralProfiles(identifiedOnMac(
+            chromium(u"chrome"_s, u"Chrome"_s, u"chrome://history/"_s, u"chrome://bookmarks/"_s,
+                     {{{},
+                       {onMac(u"Google/Chrome"_s), inConfig(u"google-chrome"_s)},
+                       chromeEntries,
+                       {u"google-chrome"_s}},
+                      {u"beta"_s,
+                       {inConfig(u"google-chrome-beta"_s)},
+                       {u"google-chrome-beta"_s},
+                       {u"google-chrome-beta"_s}},
+                      {u"dev"_s,
+                       {inConfig(u"google-chrome-unstable"_s)},
+                       {u"google-chrome-unstable"_s},
+                       {u"google-chrome-unstable"_s}},
+                      {u"flatpak"_s,
+                       {inFlatpak(u"com.google.Chrome"_s, u"config/google-chrome"_s)},
+                       chromeEntries,
+                       {u"google-chrome"_s}},
+                      {u"dev-flatpak"_s,
+                       {inFlatpak(u"com.google.ChromeDev"_s, u"config/google-chrome-unstable"_s)},
+                       {u"com.google.ChromeDev"_s},
+                       {u"google-chrome-unstable"_s}}}),
+            u"com.google.Chrome"_s)),
 
-        withPersonalProfiles(
-            firstOfChromium(chromium(u"edge"_s, u"Edge"_s, u"edge://history/"_s, u"edge://favorites/"_s,
+        withPersonalProfiles(listingEphemeralProfiles(
+            identifiedOnMac(chromium(u"edge"_s, u"Edge"_s, u"edge://history/"_s, u"edge://favorites/"_s,
                                      {{{},
                                        {onMac(u"Microsoft Edge"_s), inConfig(u"microsoft-edge"_s)},
                                        edgeEntries,
@@ -175,7 +174,7 @@ QList<Browser> table()
                                        {inFlatpak(u"com.microsoft.Edge"_s, u"config/microsoft-edge-beta"_s)},
                                        {u"com.microsoft.Edge"_s},
                                        {u"microsoft-edge-beta"_s}}}),
-                            u"com.microsoft.edgemac"_s)),
+                            u"com.microsoft.edgemac"_s))),
 
         chromium(u"chromium"_s, u"Chromium"_s, u"chrome://history/"_s, u"chrome://bookmarks/"_s,
                  {{{}, {onMac(u"Chromium"_s), inConfig(u"chromium"_s)}, chromiumEntries, chromiumClasses},

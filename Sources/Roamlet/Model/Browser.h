@@ -44,6 +44,7 @@ struct Browser {
         /// The classes of its windows, where the desktop entry names none.
         QStringList windowClasses;
 
+        /// What its key says.
         Packaging packaging() const;
     };
 
@@ -55,9 +56,9 @@ struct Browser {
     QString bundleID;
     /// The address of its page of the history.
     QString historyPage;
-    /// The address of its bookmark manager,
+    /// The address of its bookmark manager.
     QString bookmarksPage;
-    /// and what follows there before a folder's number; empty where no folder can be shown.
+    /// What follows in that address before a folder's number; empty where no folder can be shown.
     QString folderQuery;
     QList<Installation> installations;
     /// Whether profiles of guests, and those that go when they are closed, are listed, too.
@@ -70,6 +71,7 @@ struct Browser {
 
     /// Every browser, in the order in which they are listed.
     static const QList<Browser> &all();
+    /// The row of a kind, which must be one of the table's.
     static const Browser &of(Source::Kind kind);
     /// The file in a data folder that lists the profiles. A folder without it has none.
     static QString profileList(Family family);

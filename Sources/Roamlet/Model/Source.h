@@ -16,7 +16,8 @@ namespace roamlet
 
 /// One browser profile that can be read.
 struct Source {
-    /// Which browser: a row of the table of browsers. Only those that code has to name have a name here.
+    /// Which browser: a row of the table of browsers. Only the first ones have names here; all others are
+    /// found by what they are called.
     enum class Kind : std::uint8_t { Safari, Chrome, Edge };
 
     /// Which part of Safari's single bookmark file belongs to a source.

@@ -41,6 +41,7 @@ struct BrowserFolders {
     /// Of all browsers but Safari, in the order in which they are listed.
     QList<Installation> installations;
 
+    /// Those that there are now: looks at every place of every browser.
     static BrowserFolders of(const Folders &folders, const Files &files);
 
     /// The folders of Safari's named profiles, each named by the profile's identifier.

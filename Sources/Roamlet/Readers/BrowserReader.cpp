@@ -3,7 +3,6 @@
 
 #include "Readers/BrowserReader.h"
 
-#include "Model/Browser.h"
 #include "Readers/Chromium/ChromiumReader.h"
 #include "Readers/FaviconReader.h"
 #include "Readers/Firefox/FirefoxProfiles.h"
@@ -91,7 +90,7 @@ Content firefoxContent(const Source &source, const ReadContext &context)
             .favicons = FaviconReader::firefox(source, context)};
 }
 
-const FamilyReader &readerOf(Source::Kind browser)
+const FamilyReader &readerOf(Browser::Family family)
 {
     static constexpr FamilyReader safari{safariProfiles,        SafariReader::historyFile,
                                          SafariReader::history, SafariReader::bookmarks,
@@ -102,7 +101,7 @@ const FamilyReader &readerOf(Source::Kind browser)
     static constexpr FamilyReader firefox{firefoxProfiles,        FirefoxReader::historyFile,
                                           FirefoxReader::history, FirefoxReader::bookmarks,
                                           firefoxContent,         FirefoxReader::readFiles};
-    switch (Browser::of(browser).family) {
+    switch (family) {
     case Browser::Family::Safari:
         return safari;
     case Browser::Family::Firefox:
@@ -111,6 +110,11 @@ const FamilyReader &readerOf(Source::Kind browser)
         break;
     }
     return chromium;
+}
+
+const FamilyReader &readerOf(Source::Kind browser)
+{
+    return readerOf(Browser::of(browser).family);
 }
 
 } // namespace
@@ -141,9 +145,9 @@ Content content(const Source &source, const ReadContext &context)
     return readerOf(source.kind).content(source, context);
 }
 
-bool isRead(QStringView fileName, Source::Kind browser)
+bool isRead(QStringView fileName, Browser::Family family)
 {
-    const QStringList names = readerOf(browser).readFiles();
+    const QStringList names = readerOf(family).readFiles();
     return std::ranges::any_of(names, [fileName](const QString &name) { return name == fileName; });
 }
 

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "Model/Browser.h"
 #include "Model/Favicon.h"
 #include "Model/HistoryQuery.h"
 #include "Model/ReadError.h"
@@ -43,6 +44,6 @@ std::expected<BookmarkTrees, ReadErrors> bookmarks(const Source &source, const R
 /// All parts of a source; a file that holds several of them is copied once.
 Content content(const Source &source, const ReadContext &context);
 /// Whether a change of the file of this name in a profile's folder is a change of what is read there.
-bool isRead(QStringView fileName, Source::Kind browser);
+bool isRead(QStringView fileName, Browser::Family family);
 
 } // namespace roamlet::BrowserReader

@@ -237,12 +237,12 @@ TEST_F(FirefoxHistory, eachPartOfALoadIsReadOrNotOnItsOwn)
 
 TEST_F(FirefoxHistory, onlyItsDatabaseAndTheLogOfItAreWatched)
 {
-    const Source::Kind kind = firefox().kind;
+    constexpr auto family = Browser::Family::Firefox;
     for (const QString &name : {u"places.sqlite"_s, u"places.sqlite-wal"_s})
-        EXPECT_TRUE(BrowserReader::isRead(name, kind)) << name.toStdString();
+        EXPECT_TRUE(BrowserReader::isRead(name, family)) << name.toStdString();
     for (const QString &name :
          {u"favicons.sqlite"_s, u"favicons.sqlite-wal"_s, u"places.sqlite-shm"_s, u"History"_s})
-        EXPECT_FALSE(BrowserReader::isRead(name, kind)) << name.toStdString();
+        EXPECT_FALSE(BrowserReader::isRead(name, family)) << name.toStdString();
 }
 
 } // namespace roamlet::testing

@@ -27,6 +27,7 @@ public:
     QString text() const;
 
 Q_SIGNALS:
+    /// The button was pressed.
     void actionRequested();
 
 protected:

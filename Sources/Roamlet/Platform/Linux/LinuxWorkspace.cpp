@@ -212,7 +212,7 @@ bool LinuxWorkspace::isGone(const Source &source, const BrowserFolders &folders)
     // Firefox would wait with a dialog for ever, and Opera make the profile anew, empty.
     const QString folder = folders.profile(source, m_files);
     if (Browser::of(source.kind).family == Family::Firefox)
-        return !m_files.exists(folder % u"/places.sqlite");
+        return !m_files.exists(folder % u'/' % Browser::historyFile(Family::Firefox));
     return !Browser::sideProfile(source.profile.value_or(QString())).isEmpty() && !m_files.exists(folder);
 }
 

@@ -6,7 +6,7 @@
 #include "Model/Browser.h"
 #include "Model/Collation.h"
 #include "Platform/Files.h"
-#include "Readers/BookmarkTree.h"
+#include "Readers/BookmarkTreeBuilder.h"
 #include "Readers/Files/Json.h"
 #include "Readers/Files/SQLiteSnapshot.h"
 #include "Readers/HistoryRows.h"

@@ -56,6 +56,7 @@ public:
     /// than any bookmark, or unfolding to many times the size of the file.
     static std::expected<PropertyList, QString> parse(QByteArrayView bytes);
 
+    /// The value that holds all others, as long as this list is there.
     PropertyListValue root() const;
 
 private:

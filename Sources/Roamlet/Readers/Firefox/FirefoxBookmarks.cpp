@@ -3,7 +3,7 @@
 
 #include "Readers/Firefox/FirefoxBookmarks.h"
 
-#include "Readers/BookmarkTree.h"
+#include "Readers/BookmarkTreeBuilder.h"
 #include "Readers/Files/SQLiteSnapshot.h"
 #include "Readers/Firefox/FirefoxTime.h"
 

@@ -5,7 +5,7 @@
 
 #include "Model/Browser.h"
 #include "Platform/Files.h"
-#include "Readers/BookmarkTree.h"
+#include "Readers/BookmarkTreeBuilder.h"
 #include "Readers/Files/PropertyList.h"
 #include "Readers/Files/SQLiteSnapshot.h"
 #include "Readers/HistoryRows.h"

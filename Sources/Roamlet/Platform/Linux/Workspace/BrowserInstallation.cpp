@@ -51,19 +51,6 @@ std::optional<Browser::Installation> installationOfData(const QString &root)
     return best;
 }
 
-DesktopEntry::Packaging packagingOf(const Browser::Installation &installation)
-{
-    switch (installation.packaging()) {
-    case Browser::Installation::Packaging::Flatpak:
-        return DesktopEntry::Packaging::Flatpak;
-    case Browser::Installation::Packaging::Snap:
-        return DesktopEntry::Packaging::Snap;
-    case Browser::Installation::Packaging::Native:
-        break;
-    }
-    return DesktopEntry::Packaging::Native;
-}
-
 /// All that a source's data and its installation's key leave to choose from.
 QList<Browser::Installation> candidates(const Source &source, const BrowserFolders &folders)
 {
@@ -102,7 +89,7 @@ std::optional<BrowserInstallation> find(const QList<Browser::Installation> &inst
     for (const Browser::Installation &installation : installations) {
         for (const QString &name : installation.desktopEntries) {
             for (const DesktopEntry &entry : DesktopEntry::named(name % u".desktop", dataFolders)) {
-                if (entry.packaging() != packagingOf(installation))
+                if (entry.packaging() != installation.packaging())
                     continue;
                 // One of the user's own stands before the system's of that name.
                 if (!isWanted(entry))

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "Model/Browser.h"
+
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -12,8 +14,7 @@ namespace roamlet
 
 /// An application, as its desktop entry describes it.
 struct DesktopEntry {
-    /// How the application came here; each way keeps its data in a place of its own.
-    enum class Packaging { Native, Flatpak, Snap };
+    using Packaging = Browser::Installation::Packaging;
 
     QString path;        ///< the entry's file
     QStringList command; ///< the program and its arguments, without the places for files and URLs
