@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
+#include "Library/LibraryReading.h"
 #include "SampleHome/PlainFiles.h"
 #include "Support/LibraryHome.h"
 
@@ -184,7 +185,7 @@ TEST_F(BrowserFamiliesTest, browsersFollowEachOtherInTheirOrder)
         });
     }
     QStringList ids;
-    for (const Source &source : Library::allProfiles({}, home.context()))
+    for (const Source &source : LibraryReading::allProfiles({}, home.context()))
         ids.append(source.id());
     EXPECT_EQ(ids, (QStringList{u"safari"_s, u"chrome/Default"_s, u"chrome/Profile 1"_s,
                                 u"chrome@beta/Default"_s, u"edge/Default"_s, u"chromium/Default"_s,
@@ -200,8 +201,9 @@ TEST_F(BrowserFamiliesTest, rowsGetANewLabelWhenAnotherInstallationComes)
     addFirefox();
     loadNow(library, QSet<QString>{u"firefox/abc.default"_s});
     const QList<Source> sources = library.snapshot().sources;
-    for (const HistoryResults &rows : {HistoryResults{.items = library.snapshot().history},
-                                       Library::latestHistory(sources, library.snapshot(), home.context())}) {
+    for (const HistoryResults &rows :
+         {HistoryResults{.items = library.snapshot().history},
+          LibraryReading::latestHistory(sources, library.snapshot(), home.context())}) {
         const auto row = std::ranges::find_if(rows.items, [](const HistoryItem &item) {
             return item.source.id() == u"firefox@flatpak/abc.default";
         });

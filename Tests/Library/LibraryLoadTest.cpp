@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
+#include "Library/LibraryReading.h"
 #include "Support/LibraryHome.h"
 #include "Support/Waiting.h"
 
@@ -265,15 +266,15 @@ TEST_F(LibraryLoadTest, aPartialLoadDropsWhatIsGone)
 TEST_F(LibraryLoadTest, aProfileThatWasSwitchedOffBeforeIsNewToAPartialPass)
 {
     addChromium();
-    const ReadContext context = Library::readContext(home.platform());
+    const ReadContext context = LibraryReading::readContext(home.platform());
     const QSet<QString> edge{u"edge/Default"_s};
     const Library::Snapshot without =
-        Library::readAll({.disabled = edge, .only = {}, .previous = {}}, context, home.clock);
+        LibraryReading::readAll({.disabled = edge, .only = {}, .previous = {}}, context, home.clock);
     ASSERT_EQ(titles(without.history), (QStringList{u"a1"_s, u"a2"_s, u"b1"_s}));
     recordReads();
-    const Library::Snapshot with =
-        Library::readAll({.disabled = {}, .only = QSet<QString>{u"chrome/Default"_s}, .previous = without},
-                         context, home.clock);
+    const Library::Snapshot with = LibraryReading::readAll(
+        {.disabled = {}, .only = QSet<QString>{u"chrome/Default"_s}, .previous = without}, context,
+        home.clock);
     EXPECT_EQ(takeReads(), (QStringList{u"chrome/Default"_s, u"edge/Default"_s}));
     EXPECT_EQ(titles(with.history), (QStringList{u"a1"_s, u"a2"_s, u"b1"_s, u"e1"_s}));
 }

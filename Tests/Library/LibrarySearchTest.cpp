@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
+#include "Library/LibraryReading.h"
 #include "Support/LibraryHome.h"
 #include "Support/Waiting.h"
 
@@ -22,9 +23,9 @@ class LibrarySearchTest : public LibraryHome
 protected:
     HistoryResults search(const QString &text, const std::optional<QString> &site = {})
     {
-        const ReadContext context = Library::readContext(home.platform());
-        return Library::history(HistoryQuery::matching(text, site, HistoryQuery::Order::Latest),
-                                Library::allProfiles({}, context), context);
+        const ReadContext context = LibraryReading::readContext(home.platform());
+        return LibraryReading::history(HistoryQuery::matching(text, site, HistoryQuery::Order::Latest),
+                                       LibraryReading::allProfiles({}, context), context);
     }
 
     static HistoryQuery mostVisited()
@@ -72,8 +73,9 @@ protected:
 TEST_F(LibrarySearchTest, noSourcesGiveNothing)
 {
     const ReadContext context = home.context();
-    EXPECT_EQ(Library::history(HistoryQuery::matching(u"x"_s, {}, HistoryQuery::Order::Latest), {}, context),
-              HistoryResults());
+    EXPECT_EQ(
+        LibraryReading::history(HistoryQuery::matching(u"x"_s, {}, HistoryQuery::Order::Latest), {}, context),
+        HistoryResults());
 }
 
 TEST_F(LibrarySearchTest, everySourceIsSearchedAndSafariToo)
@@ -154,11 +156,11 @@ TEST_F(LibrarySearchTest, sourcesThatFailAreReportedInTheirOrderOnTheCallersThre
     QStringList problems;
     const auto caller = std::this_thread::get_id();
     const HistoryResults results =
-        Library::history(HistoryQuery::recent(), Library::allProfiles({}, context), context,
-                         [&](const Source &source, const ReadError &error) {
-                             EXPECT_EQ(std::this_thread::get_id(), caller);
-                             problems.append(source.id() % u' ' % error.path());
-                         });
+        LibraryReading::history(HistoryQuery::recent(), LibraryReading::allProfiles({}, context), context,
+                                [&](const Source &source, const ReadError &error) {
+                                    EXPECT_EQ(std::this_thread::get_id(), caller);
+                                    problems.append(source.id() % u' ' % error.path());
+                                });
     EXPECT_EQ(titles(results.items), QStringList{u"b1"_s});
     EXPECT_EQ(problems, (QStringList{u"chrome/Default " % chromeFile(u"Default/History"_s),
                                      u"edge/Default " % edgeFile(u"Default/History"_s)}));

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "DiagnosticsTest.h"
-#include "Library/Library.h"
+#include "Library/LibraryReading.h"
 #include "SampleHome/PlainFiles.h"
 
 #include <QRegularExpression>
@@ -86,9 +86,9 @@ TEST_F(DiagnosticsSearchTest, searchKeepsPagesOfTheSameTimeAsTheirSourceDelivere
     QStringList found = rowsOf({u"--search"_s, u"s.example"_s});
     ASSERT_EQ(found.size(), 50);
     const auto delivered =
-        Library::history(HistoryQuery::matching(u"s.example"_s, {}, HistoryQuery::Order::Latest),
-                         Library::allProfiles({}, Library::readContext(home.platform())),
-                         Library::readContext(home.platform()));
+        LibraryReading::history(HistoryQuery::matching(u"s.example"_s, {}, HistoryQuery::Order::Latest),
+                                LibraryReading::allProfiles({}, LibraryReading::readContext(home.platform())),
+                                LibraryReading::readContext(home.platform()));
     for (qsizetype i = 0; i < found.size(); ++i)
         EXPECT_TRUE(found[i].endsWith(delivered.items[i].url));
 }

@@ -7,7 +7,8 @@
 #include "App/Diagnostics/TextLayout.h"
 #include "Export/BookmarkExport.h"
 #include "Library/BrowserWatcher.h"
-#include "Library/Library.h"
+#include "Library/LibraryReading.h"
+#include "Library/ProfileChoice.h"
 #include "Platform/Clock.h"
 #include "Platform/Console.h"
 #include "Platform/Folders.h"
@@ -67,7 +68,10 @@ class Job
 {
 public:
     Job(const Platform &platform, Console &console, const std::stop_token &stop)
-        : m_platform(platform), m_console(console), m_stop(stop), m_context(Library::readContext(platform))
+        : m_platform(platform),
+          m_console(console),
+          m_stop(stop),
+          m_context(LibraryReading::readContext(platform))
     {
         m_context.stop = stop;
     }
@@ -81,21 +85,18 @@ public:
 private:
     QList<Source> enabledSources() const
     {
-        const QSet<QString> disabled = Library::storedDisabledProfiles(m_platform.defaults);
-        QList<Source> sources = Library::allProfiles({}, m_context);
-        sources.removeIf([&disabled](const Source &source) { return disabled.contains(source.id()); });
-        return sources;
+        return ProfileChoice(m_platform.defaults).enabled(LibraryReading::allProfiles({}, m_context));
     }
 
     /// The rows of these sources. The error stream tells which of them could not be read.
     HistoryResults history(const HistoryQuery &query, const QList<Source> &sources)
     {
-        return Library::history(query, sources, m_context,
-                                [this](const Source &source, const ReadError &error) {
-                                    // Whoever has ended the run knows why nothing more was read.
-                                    if (!m_stop.stop_requested())
-                                        complain(source.label() % u": " % error.errorDescription());
-                                });
+        return LibraryReading::history(query, sources, m_context,
+                                       [this](const Source &source, const ReadError &error) {
+                                           // Whoever has ended the run knows why nothing more was read.
+                                           if (!m_stop.stop_requested())
+                                               complain(source.label() % u": " % error.errorDescription());
+                                       });
     }
     /// The bookmarks of one source, or why there is no such source. What cannot be read is complained of.
     std::expected<QList<BookmarkNode>, QString> bookmarks(const QString &sourceID);
@@ -132,9 +133,9 @@ int Job::write(const QString &output)
 int Job::summary()
 {
     const Stopwatch stopwatch;
-    const QSet<QString> disabled = Library::storedDisabledProfiles(m_platform.defaults);
-    const Library::Snapshot snapshot =
-        Library::readAll({.disabled = disabled, .only = {}, .previous = {}}, m_context, m_platform.clock);
+    const QSet<QString> disabled = ProfileChoice(m_platform.defaults).disabled();
+    const Snapshot snapshot = LibraryReading::readAll({.disabled = disabled, .only = {}, .previous = {}},
+                                                      m_context, m_platform.clock);
 
     QHash<QString, qint64> rows;
     QHash<QString, PointInTime> latest;
@@ -191,7 +192,7 @@ std::expected<QList<BookmarkNode>, QString> Job::bookmarks(const QString &source
     const QList<Source> sources = enabledSources();
     const auto source = std::ranges::find(sources, sourceID, &Source::id);
     if (source == sources.end()) {
-        const bool isDisabled = Library::storedDisabledProfiles(m_platform.defaults).contains(sourceID);
+        const bool isDisabled = ProfileChoice(m_platform.defaults).disabled().contains(sourceID);
         if (isDisabled)
             return std::unexpected(sourceID % u" is turned off in Settings.");
         QStringList ids;
@@ -280,9 +281,9 @@ int Job::search(const HistoryQuery &query)
 
 QList<Source> Job::profilesNow() const
 {
-    ReadContext context = Library::readContext(m_platform);
+    ReadContext context = LibraryReading::readContext(m_platform);
     context.stop = m_stop;
-    return Library::allProfiles({}, context);
+    return LibraryReading::allProfiles({}, context);
 }
 
 QStringList Job::labels(const QSet<QString> &sourceIDs, const QList<Source> &profiles) const

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
+#include "Library/ProfileChoice.h"
+
 #include "Platform/Linux/SettingsUserDefaults.h"
 #include "SampleHome/PlainFiles.h"
 #include "Support/LibraryHome.h"
@@ -15,14 +17,14 @@ namespace
 
 using namespace Qt::StringLiterals;
 
-using LibrarySettingsTest = LibraryHome;
+using ProfileChoiceTest = LibraryHome;
 
 QStringList order(const Library &library)
 {
     return ids(library.ordered(library.snapshot().browserProfiles));
 }
 
-TEST_F(LibrarySettingsTest, aProfileThatIsSwitchedOffIsFoundButNotRead)
+TEST_F(ProfileChoiceTest, aProfileThatIsSwitchedOffIsFoundButNotRead)
 {
     addChromium();
     home.defaults.setStringList(u"disabledProfiles"_s, {u"chrome/Profile 1"_s});
@@ -33,7 +35,7 @@ TEST_F(LibrarySettingsTest, aProfileThatIsSwitchedOffIsFoundButNotRead)
     EXPECT_FALSE(titles(library.snapshot().history).contains(u"b1"_s));
 }
 
-TEST_F(LibrarySettingsTest, switchingStoresTheIdsSortedAndReloads)
+TEST_F(ProfileChoiceTest, switchingStoresTheIdsSortedAndReloads)
 {
     addChromium();
     Library library(home.platform());
@@ -53,7 +55,7 @@ TEST_F(LibrarySettingsTest, switchingStoresTheIdsSortedAndReloads)
     EXPECT_EQ(library.snapshot().sources.size(), 2);
 }
 
-TEST_F(LibrarySettingsTest, theOlderListOfChromeProfilesCountsUntilTheNextChange)
+TEST_F(ProfileChoiceTest, theOlderListOfChromeProfilesCountsUntilTheNextChange)
 {
     addChromium();
     home.defaults.setStringList(u"disabledChromeProfiles"_s, {u"Profile 1"_s});
@@ -68,7 +70,7 @@ TEST_F(LibrarySettingsTest, theOlderListOfChromeProfilesCountsUntilTheNextChange
     EXPECT_FALSE(home.defaults.contains(u"disabledChromeProfiles"_s));
 }
 
-TEST_F(LibrarySettingsTest, choicesSurviveInARealFile)
+TEST_F(ProfileChoiceTest, choicesSurviveInARealFile)
 {
     addChromium();
     const QString file = home.temporary() % u"/settings/Roamlet.conf";
@@ -87,7 +89,7 @@ TEST_F(LibrarySettingsTest, choicesSurviveInARealFile)
     EXPECT_EQ(order(library), (QStringList{u"edge/Default"_s, u"chrome/Default"_s, u"chrome/Profile 1"_s}));
 }
 
-TEST_F(LibrarySettingsTest, anInstallationIsSwitchedOffAloneInARealFileToo)
+TEST_F(ProfileChoiceTest, anInstallationIsSwitchedOffAloneInARealFileToo)
 {
     addChromium();
     addChromeBeta();
@@ -115,7 +117,7 @@ TEST_F(LibrarySettingsTest, anInstallationIsSwitchedOffAloneInARealFileToo)
                                            u"edge/Default"_s, u"firefox/abc.default"_s}));
 }
 
-TEST_F(LibrarySettingsTest, theOlderListOfChromeProfilesMeansNoOtherInstallation)
+TEST_F(ProfileChoiceTest, theOlderListOfChromeProfilesMeansNoOtherInstallation)
 {
     addChromium();
     addChromeBeta();
@@ -126,7 +128,7 @@ TEST_F(LibrarySettingsTest, theOlderListOfChromeProfilesMeansNoOtherInstallation
               (QStringList{u"chrome/Profile 1"_s, u"chrome@beta/Default"_s, u"edge/Default"_s}));
 }
 
-TEST_F(LibrarySettingsTest, theLastProfileThatIsSwitchedOnAgainIsOnInARealFileToo)
+TEST_F(ProfileChoiceTest, theLastProfileThatIsSwitchedOnAgainIsOnInARealFileToo)
 {
     addChromium();
     const QString file = home.temporary() % u"/settings/Roamlet.conf";
@@ -142,7 +144,7 @@ TEST_F(LibrarySettingsTest, theLastProfileThatIsSwitchedOnAgainIsOnInARealFileTo
     EXPECT_TRUE(library.disabledProfiles().isEmpty());
 }
 
-TEST_F(LibrarySettingsTest, aFileWrittenByHandCounts)
+TEST_F(ProfileChoiceTest, aFileWrittenByHandCounts)
 {
     addChromium();
     const QString file = home.temporary() % u"/settings/Roamlet.conf";
@@ -159,7 +161,7 @@ TEST_F(LibrarySettingsTest, aFileWrittenByHandCounts)
     EXPECT_EQ(order(library), (QStringList{u"edge/Default"_s, u"chrome/Profile 1"_s, u"chrome/Default"_s}));
 }
 
-TEST_F(LibrarySettingsTest, switchingOnAProfileOfTheOlderListEndsThatList)
+TEST_F(ProfileChoiceTest, switchingOnAProfileOfTheOlderListEndsThatList)
 {
     addChromium();
     home.defaults.setStringList(u"disabledChromeProfiles"_s, {u"Profile 1"_s});
@@ -175,7 +177,7 @@ TEST_F(LibrarySettingsTest, switchingOnAProfileOfTheOlderListEndsThatList)
     EXPECT_EQ(library.snapshot().sources.size(), 3);
 }
 
-TEST_F(LibrarySettingsTest, switchingDuringALoadIsSeenByItsNextPass)
+TEST_F(ProfileChoiceTest, switchingDuringALoadIsSeenByItsNextPass)
 {
     addChromium();
     Library library(home.platform());
@@ -192,7 +194,7 @@ TEST_F(LibrarySettingsTest, switchingDuringALoadIsSeenByItsNextPass)
     EXPECT_EQ(ids(library.snapshot().sources), (QStringList{u"chrome/Profile 1"_s, u"edge/Default"_s}));
 }
 
-TEST_F(LibrarySettingsTest, settingsAreReadWhenTheLibraryIsMade)
+TEST_F(ProfileChoiceTest, settingsAreReadWhenTheLibraryIsMade)
 {
     addChromium();
     Library library(home.platform());
@@ -203,7 +205,7 @@ TEST_F(LibrarySettingsTest, settingsAreReadWhenTheLibraryIsMade)
     EXPECT_EQ(order(library).first(), u"chrome/Default"_s);
 }
 
-TEST_F(LibrarySettingsTest, aMoveForgetsProfilesThatAreGoneAndKeepsTheOnesThatAreOff)
+TEST_F(ProfileChoiceTest, aMoveForgetsProfilesThatAreGoneAndKeepsTheOnesThatAreOff)
 {
     addChromium();
     home.defaults.setStringList(u"sourceOrder"_s, {u"gone"_s, u"edge/Default"_s});
@@ -219,7 +221,7 @@ TEST_F(LibrarySettingsTest, aMoveForgetsProfilesThatAreGoneAndKeepsTheOnesThatAr
     EXPECT_EQ(library.source(u"chrome/Default"_s), std::nullopt) << "it is off";
 }
 
-TEST_F(LibrarySettingsTest, profilesMoveAsRowsOfAListDo)
+TEST_F(ProfileChoiceTest, profilesMoveAsRowsOfAListDo)
 {
     addChromium();
     addSafari();
@@ -250,7 +252,7 @@ TEST_F(LibrarySettingsTest, profilesMoveAsRowsOfAListDo)
     }
 }
 
-TEST_F(LibrarySettingsTest, sourcesThatTheOrderDoesNotKnowFollowInTheirOwnOrder)
+TEST_F(ProfileChoiceTest, sourcesThatTheOrderDoesNotKnowFollowInTheirOwnOrder)
 {
     addChromium();
     addSafari();
@@ -264,7 +266,7 @@ TEST_F(LibrarySettingsTest, sourcesThatTheOrderDoesNotKnowFollowInTheirOwnOrder)
     EXPECT_EQ(library.source({}), std::nullopt);
 }
 
-TEST_F(LibrarySettingsTest, allBookmarksAreOneFolderForEachSourceInTheUsersOrder)
+TEST_F(ProfileChoiceTest, allBookmarksAreOneFolderForEachSourceInTheUsersOrder)
 {
     addChromium();
     addSafari();
@@ -284,7 +286,7 @@ TEST_F(LibrarySettingsTest, allBookmarksAreOneFolderForEachSourceInTheUsersOrder
     EXPECT_EQ(ids(library.snapshot().sources).first(), u"safari"_s) << "the snapshot has its own order";
 }
 
-TEST_F(LibrarySettingsTest, allBookmarksLeaveOutProfilesThatAreOff)
+TEST_F(ProfileChoiceTest, allBookmarksLeaveOutProfilesThatAreOff)
 {
     addChromium();
     home.defaults.setStringList(u"disabledProfiles"_s, {u"chrome/Default"_s});
@@ -295,81 +297,6 @@ TEST_F(LibrarySettingsTest, allBookmarksLeaveOutProfilesThatAreOff)
     ASSERT_EQ(all.size(), 2);
     EXPECT_EQ(all[0].id, u"source/chrome/Profile 1"_s);
     EXPECT_TRUE(library.bookmarkTree(u"chrome/Default"_s).isEmpty());
-}
-
-TEST_F(LibrarySettingsTest, theMenuShowsTheTenPagesVisitedLast)
-{
-    addChromium();
-    QStringList many;
-    for (int i = 0; i < 12; ++i)
-        many.append(u"page%1"_s.arg(i));
-    setChromeHistory(u"Default"_s, many, newest + 60);
-    Library library(home.platform());
-    loadNow(library);
-    QStringList expected{u"b1"_s};
-    for (int i = 0; i < 9; ++i)
-        expected.append(u"page%1"_s.arg(i));
-    EXPECT_EQ(titles(library.menuRecent()), expected);
-    EXPECT_EQ(library.menuUpdated(), library.lastLoaded());
-}
-
-TEST_F(LibrarySettingsTest, pagesOfTheSameTimeStayInTheSnapshotsOrder)
-{
-    addChromium();
-    setChromeHistory(u"Default"_s, {u"first"_s});
-    setChromeHistory(u"Profile 1"_s, {u"second"_s});
-    Library library(home.platform());
-    loadNow(library);
-    EXPECT_EQ(titles(library.menuRecent()), (QStringList{u"e1"_s, u"first"_s, u"second"_s}));
-}
-
-TEST_F(LibrarySettingsTest, anOpenMenuDoesNotChangeUntilItIsClosed)
-{
-    addChromium();
-    Library library(home.platform());
-    loadNow(library);
-    const QStringList before = titles(library.menuRecent());
-    const std::optional<PointInTime> updated = library.menuUpdated();
-    library.setMenuOpen(true);
-    setChromeHistory(u"Default"_s, {u"newest"_s}, newest + 1000);
-    home.clock.advance(std::chrono::seconds(60));
-    loadNow(library);
-    EXPECT_EQ(titles(library.menuRecent()), before);
-    EXPECT_EQ(library.menuUpdated(), updated);
-    library.setMenuOpen(false);
-    EXPECT_EQ(library.menuRecent().first().title, u"newest"_s);
-    EXPECT_EQ(library.menuUpdated(), library.lastLoaded());
-    EXPECT_NE(library.menuUpdated(), updated);
-}
-
-TEST_F(LibrarySettingsTest, aMenuThatClosesBeforeTheFirstLoadIsEmpty)
-{
-    addChromium();
-    Library library(home.platform());
-    const QSignalSpy changes(&library, &Library::menuRecentChanged);
-    library.setMenuOpen(true);
-    EXPECT_EQ(changes.count(), 0);
-    library.setMenuOpen(false);
-    EXPECT_TRUE(library.menuRecent().isEmpty());
-    EXPECT_EQ(library.menuUpdated(), std::nullopt);
-}
-
-TEST_F(LibrarySettingsTest, aMenuThatClosesDuringALoadShowsTheLastSnapshot)
-{
-    addChromium();
-    Library library(home.platform());
-    loadNow(library);
-    library.setMenuOpen(true);
-    setChromeHistory(u"Default"_s, {u"newest"_s}, newest + 1000);
-    Gate gate;
-    recordReads(&gate);
-    library.load({});
-    gate.awaitReader();
-    library.setMenuOpen(false);
-    EXPECT_EQ(library.menuRecent().first().title, u"b1"_s);
-    gate.open();
-    ASSERT_TRUE(waitUntil([&library] { return !library.isLoading(); }));
-    EXPECT_EQ(library.menuRecent().first().title, u"newest"_s);
 }
 
 } // namespace
