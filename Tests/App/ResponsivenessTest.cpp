@@ -3,6 +3,7 @@
 
 #include "App/DesktopFakes.h"
 #include "Lists/SortedRows.h"
+#include "Platform/UserLocale.h"
 #include "SampleHome/SampleHome.h"
 #include "Support/StallMeter.h"
 #include "Support/TestHome.h"
@@ -173,7 +174,7 @@ TEST_F(ResponsivenessTest, aListOfTenThousandRowsIsSortedAndPainted)
     QTreeView &view = *shownList(app);
 
     const auto beforeSort = std::chrono::steady_clock::now();
-    const Collation collation(QLocale::system().collation().name());
+    const Collation collation(UserLocale::collation());
     const auto sorted = sortedRows(rows, {{SortColumns<HistoryItem>::Column::Title, SortOrder::Forward}},
                                    collation, std::stop_token());
     const auto sort = std::chrono::steady_clock::now() - beforeSort;

@@ -34,7 +34,7 @@ namespace
 class SlowClock final : public Clock
 {
 public:
-    std::chrono::system_clock::time_point now() const override { return m_clock.now(); }
+    PointInTime now() const override { return m_clock.now(); }
     void sleep(Duration duration, const std::stop_token &stop) const override
     {
         m_clock.sleep(duration, stop);

@@ -235,15 +235,15 @@ TEST(CalendarMath, momentsThatNoCalendarKnowsAreTakenToTheNearestThatItDoes)
 {
     CalendarMath math(calendarOf(u"Europe/Berlin"_s));
     constexpr double infinity = std::numeric_limits<double>::infinity();
-    const PointInTime earliest = CalendarMath::countable(pointInTime(-infinity));
-    EXPECT_EQ(CalendarMath::countable(pointInTime(std::numeric_limits<double>::quiet_NaN())), earliest);
-    EXPECT_EQ(CalendarMath::countable(pointInTime(-1e300)), earliest);
-    EXPECT_GT(CalendarMath::countable(pointInTime(1e300)), at(u"9999-12-31T23:59:59Z"_s));
-    EXPECT_EQ(CalendarMath::countable(pointInTime(1.5)), pointInTime(1.5));
+    const PointInTime earliest = countable(pointInTime(-infinity));
+    EXPECT_EQ(countable(pointInTime(std::numeric_limits<double>::quiet_NaN())), earliest);
+    EXPECT_EQ(countable(pointInTime(-1e300)), earliest);
+    EXPECT_GT(countable(pointInTime(1e300)), at(u"9999-12-31T23:59:59Z"_s));
+    EXPECT_EQ(countable(pointInTime(1.5)), pointInTime(1.5));
     for (const double seconds : {-infinity, infinity, -1e300, 1e300, -1e13, 1e13}) {
         const PointInTime time = pointInTime(seconds);
-        EXPECT_LE(math.startOfMonth(time), CalendarMath::countable(time)) << seconds;
-        EXPECT_GT(math.startOfNextMonth(math.startOfMonth(time)), CalendarMath::countable(time)) << seconds;
+        EXPECT_LE(math.startOfMonth(time), countable(time)) << seconds;
+        EXPECT_GT(math.startOfNextMonth(math.startOfMonth(time)), countable(time)) << seconds;
         EXPECT_FALSE(math.monthTitle(time).isEmpty()) << seconds;
     }
 }

@@ -30,10 +30,13 @@ const std::stop_token never;
 
 TEST(SystemClock, tellsTheTime)
 {
-    const auto before = std::chrono::system_clock::now();
-    const auto now = SystemClock().now();
+    const auto system = [] {
+        return std::chrono::time_point_cast<PointInTime::duration>(std::chrono::system_clock::now());
+    };
+    const PointInTime before = system();
+    const PointInTime now = SystemClock().now();
     EXPECT_LE(before, now);
-    EXPECT_LE(now, std::chrono::system_clock::now());
+    EXPECT_LE(now, system());
 }
 
 TEST(SystemClock, keepsNoTimerForAContextThatIsGone)

@@ -9,10 +9,10 @@
 namespace roamlet::testing
 {
 
-std::chrono::system_clock::time_point FakeClock::now() const
+PointInTime FakeClock::now() const
 {
     // 2026-05-09 06:13:20 UTC
-    return std::chrono::system_clock::time_point(std::chrono::seconds(1'778'307'200)) + m_elapsed + m_asleep;
+    return pointInTime(1'778'307'200) + m_elapsed + m_asleep;
 }
 
 void FakeClock::sleep(Duration duration, const std::stop_token & /*stop*/) const

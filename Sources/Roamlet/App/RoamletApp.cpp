@@ -22,6 +22,7 @@
 #include "Platform/Linux/LinuxWorkspace.h"
 #include "Platform/Linux/StopSignals.h"
 #include "Platform/Processes.h"
+#include "Platform/UserLocale.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -74,20 +75,19 @@ RoamletApp::RoamletApp(const Services &services)
     : m_services(services),
       m_delegate(services.platform.defaults, services.activation, services.hasTray),
       m_opener(services.workspace),
-      m_mainWindow(
-          {.content = {.library = m_services.library,
-                       .defaults = services.platform.defaults,
-                       .clock = services.platform.clock,
-                       .folders = services.platform.folders,
-                       .opener = m_opener,
-                       .workspace = services.workspace,
-                       .collation = std::make_shared<const Collation>(QLocale::system().collation().name()),
-                       .calendar = UserCalendar::ofSystem},
-           .delegate = m_delegate,
-           .activation = services.activation,
-           .savePanel = services.savePanel,
-           .alert = services.alert,
-           .updater = services.updater}),
+      m_mainWindow({.content = {.library = m_services.library,
+                                .defaults = services.platform.defaults,
+                                .clock = services.platform.clock,
+                                .folders = services.platform.folders,
+                                .opener = m_opener,
+                                .workspace = services.workspace,
+                                .collation = std::make_shared<const Collation>(UserLocale::collation()),
+                                .calendar = UserLocale::calendar},
+                    .delegate = m_delegate,
+                    .activation = services.activation,
+                    .savePanel = services.savePanel,
+                    .alert = services.alert,
+                    .updater = services.updater}),
       m_menu({.library = m_services.library,
               .opener = m_opener,
               .activation = services.activation,
@@ -206,9 +206,7 @@ int RoamletApp::runUntilTheEnd(int argc, char **argv, const std::stop_token &sto
     QApplication::setApplicationVersion(u"" ROAMLET_VERSION ""_s);
     QApplication::setDesktopFileName(u"org.roamlet.Roamlet"_s);
     QApplication::setQuitOnLastWindowClosed(false);
-    // Without a language, numbers have no groups and times no short form; the texts are English anyway.
-    if (QLocale().language() == QLocale::C)
-        QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+    QLocale::setDefault(UserLocale::formats());
     const std::stop_callback end(stop, [] {
         QMetaObject::invokeMethod(QCoreApplication::instance(), [] { quit(); }, Qt::QueuedConnection);
     });

@@ -63,7 +63,7 @@ void Library::load(const std::optional<QSet<QString>> &only)
 void Library::readNext()
 {
     if (!m_pendingAll && m_pendingIDs.isEmpty()) {
-        m_lastLoaded = std::chrono::time_point_cast<PointInTime::duration>(m_platform.clock.now());
+        m_lastLoaded = m_platform.clock.now();
         m_isLoading = false;
         Q_EMIT lastLoadedChanged();
         Q_EMIT isLoadingChanged();

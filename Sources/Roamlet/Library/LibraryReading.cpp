@@ -6,9 +6,8 @@
 #include "Library/Parallel.h"
 #include "Library/SourceRead.h"
 #include "Model/Browser.h"
+#include "Platform/UserLocale.h"
 #include "Readers/BrowserReader.h"
-
-#include <QLocale>
 
 #include <algorithm>
 #include <atomic>
@@ -89,7 +88,7 @@ ReadContext readContext(const Platform &platform)
 {
     return {.folders = BrowserFolders::of(platform.folders, platform.files),
             .files = &platform.files,
-            .locale = QLocale::system().collation().name(),
+            .locale = UserLocale::collation(),
             .stop = {}};
 }
 

@@ -22,9 +22,6 @@ namespace roamlet
 namespace
 {
 
-/// Far enough for every date that a browser can have stored, and near enough for every calendar.
-constexpr double farthestSeconds = 1e12;
-
 /// No clock on earth is farther from UTC.
 constexpr double farthestOffset = 26.0 * 3600;
 
@@ -123,13 +120,6 @@ struct CalendarMath::Native {
 CalendarMath::CalendarMath(const UserCalendar &calendar) : m_native(std::make_unique<Native>(calendar)) {}
 
 CalendarMath::~CalendarMath() = default;
-
-PointInTime CalendarMath::countable(PointInTime time)
-{
-    const double seconds = secondsSince1970(time);
-    return pointInTime(std::isnan(seconds) ? -farthestSeconds
-                                           : std::clamp(seconds, -farthestSeconds, farthestSeconds));
-}
 
 PointInTime CalendarMath::startOfDay(PointInTime time)
 {

@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "Lists/UserCalendar.h"
 #include "Model/PointInTime.h"
+#include "Model/UserCalendar.h"
 
 #include <QString>
 
@@ -22,9 +22,6 @@ public:
     ~CalendarMath();
     CalendarMath(const CalendarMath &) = delete;
     CalendarMath &operator=(const CalendarMath &) = delete;
-
-    /// `time`, or the nearest moment that calendars count when browsers have stored nonsense.
-    static PointInTime countable(PointInTime time);
 
     /// The first moment of the day that contains `time`. It is not always midnight: where clocks are put
     /// forward at midnight, the day begins at one.

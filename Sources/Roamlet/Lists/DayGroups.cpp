@@ -46,7 +46,7 @@ public:
             if (time >= m_sections[section].date)
                 return section;
         }
-        const PointInTime counted = CalendarMath::countable(time);
+        const PointInTime counted = countable(time);
         if (!m_lastMonth.contains(counted))
             m_lastMonth = monthOf(counted);
         return m_lastMonth.section;

@@ -4,9 +4,9 @@
 #pragma once
 
 #include "Lists/RowGroup.h"
-#include "Lists/UserCalendar.h"
 #include "Model/HistoryItem.h"
 #include "Model/PointInTime.h"
+#include "Model/UserCalendar.h"
 
 #include <QList>
 

@@ -3,7 +3,11 @@
 
 #pragma once
 
+#include <QtGlobal>
+
+#include <algorithm>
 #include <chrono>
+#include <cmath>
 
 namespace roamlet
 {
@@ -22,6 +26,23 @@ constexpr PointInTime pointInTime(double seconds)
 constexpr double secondsSince1970(PointInTime time)
 {
     return time.time_since_epoch().count();
+}
+
+/// `time`, or the nearest moment that every calendar counts. Browsers' files hold any number, also ones that
+/// are no date at all; what is none of either side counts as the earliest.
+inline PointInTime countable(PointInTime time)
+{
+    // Far enough for every date that a browser can have stored.
+    constexpr double farthest = 1e12;
+    const double seconds = secondsSince1970(time);
+    return pointInTime(std::isnan(seconds) ? -farthest : std::clamp(seconds, -farthest, farthest));
+}
+
+/// The whole milliseconds since 1970-01-01 00:00:00 UTC of the countable time, as Qt's dates want them. The
+/// last moment of a day is not rounded into the next one.
+inline qint64 millisecondsSince1970(PointInTime time)
+{
+    return static_cast<qint64>(std::floor(secondsSince1970(countable(time)) * 1000));
 }
 
 } // namespace roamlet

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "Model/PointInTime.h"
+
 #include <chrono>
 #include <functional>
 #include <stop_token>
@@ -23,7 +25,7 @@ public:
     Clock &operator=(const Clock &) = delete;
     virtual ~Clock() = default;
 
-    virtual std::chrono::system_clock::time_point now() const = 0;
+    virtual PointInTime now() const = 0;
     /// Blocks the calling thread for `duration` or until `stop` is requested. Any thread.
     virtual void sleep(Duration duration, const std::stop_token &stop) const = 0;
     /// Calls `action` once on the thread of `context` after `duration`, unless `context` is gone by then.

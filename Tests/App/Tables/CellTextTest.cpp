@@ -3,7 +3,7 @@
 
 #include "App/Tables/CellText.h"
 
-#include "Lists/UserCalendar.h"
+#include "Model/UserCalendar.h"
 
 #include <gtest/gtest.h>
 

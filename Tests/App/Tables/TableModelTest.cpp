@@ -4,7 +4,7 @@
 #include "App/Tables/TableModel.h"
 
 #include "Lists/SiteGroups.h"
-#include "Lists/UserCalendar.h"
+#include "Model/UserCalendar.h"
 
 #include <QAbstractItemModelTester>
 

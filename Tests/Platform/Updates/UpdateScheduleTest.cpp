@@ -22,7 +22,7 @@ using namespace std::chrono_literals;
 class ResettableClock final : public Clock
 {
 public:
-    std::chrono::system_clock::time_point now() const override { return timer.now() + shift; }
+    PointInTime now() const override { return timer.now() + shift; }
     void sleep(Duration duration, const std::stop_token &stop) const override { timer.sleep(duration, stop); }
     void after(Duration duration, QObject *context, std::function<void()> action) const override
     {

@@ -21,7 +21,6 @@
 
 #include <algorithm>
 #include <chrono>
-#include <cmath>
 
 namespace roamlet::Diagnostics
 {
@@ -41,12 +40,9 @@ constexpr double defaultWatchSeconds = 60;
 
 QString localTime(PointInTime time)
 {
-    constexpr double farthestSeconds = 1e12;
-    const double seconds = secondsSince1970(time);
-    if (!std::isfinite(seconds) || std::abs(seconds) > farthestSeconds)
+    if (countable(time) != time)
         return u"unknown time"_s;
-    const auto milliseconds = static_cast<qint64>(std::floor(seconds * 1000));
-    return QDateTime::fromMSecsSinceEpoch(milliseconds).toString(u"yyyy-MM-dd HH:mm"_s);
+    return QDateTime::fromMSecsSinceEpoch(millisecondsSince1970(time)).toString(u"yyyy-MM-dd HH:mm"_s);
 }
 
 class Stopwatch
@@ -311,11 +307,11 @@ int Job::watch(const std::optional<QString> &duration)
     int status = success;
     QEventLoop loop;
     BrowserWatcher watcher(m_platform, [&](const QSet<QString> &sourceIDs) {
-        const PointInTime now = std::chrono::time_point_cast<PointInTime::duration>(m_platform.clock.now());
         const QList<Source> profiles = profilesNow();
         // One that lies elsewhere may be new, too.
         watcher.setProfiles(profiles);
-        status = print({localTime(now) % u"  " % labels(sourceIDs, profiles).join(u", "_s)});
+        status =
+            print({localTime(m_platform.clock.now()) % u"  " % labels(sourceIDs, profiles).join(u", "_s)});
         if (!m_canWrite)
             loop.quit();
     });

@@ -12,7 +12,6 @@
 #include <QDateTime>
 #include <QKeyEvent>
 
-#include <cmath>
 #include <utility>
 
 namespace roamlet
@@ -125,8 +124,7 @@ void MenuBarMenu::fill()
     const std::optional<PointInTime> updated = library.menuUpdated();
     m_updated->setVisible(updated.has_value());
     if (updated) {
-        const auto seconds = static_cast<qint64>(std::floor(secondsSince1970(*updated)));
-        const QTime time = QDateTime::fromSecsSinceEpoch(seconds).time();
+        const QTime time = QDateTime::fromMSecsSinceEpoch(millisecondsSince1970(*updated)).time();
         m_updated->setText(tr("Updated at %1").arg(locale().toString(time, QLocale::ShortFormat)));
     }
 

@@ -3,12 +3,9 @@
 
 #include "App/Tables/CellText.h"
 
-#include "Lists/UserCalendar.h"
+#include "Model/UserCalendar.h"
 
 #include <QDateTime>
-
-#include <algorithm>
-#include <cmath>
 
 namespace roamlet
 {
@@ -111,10 +108,7 @@ PointInTime LocalText::tomorrow() const
 
 QDateTime LocalText::local(PointInTime time) const
 {
-    // Foreign files hold any number, also ones that are no date at all.
-    constexpr double farthest = 1e14;
-    const double milliseconds = std::clamp(secondsSince1970(time) * 1000, -farthest, farthest);
-    return QDateTime::fromMSecsSinceEpoch(static_cast<qint64>(std::floor(milliseconds)), m_zone);
+    return QDateTime::fromMSecsSinceEpoch(millisecondsSince1970(time), m_zone);
 }
 
 } // namespace roamlet

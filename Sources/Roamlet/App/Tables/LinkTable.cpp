@@ -159,7 +159,7 @@ void LinkTable::changeEvent(QEvent *event)
 
 LocalText LinkTable::localText() const
 {
-    const auto now = std::chrono::time_point_cast<PointInTime::duration>(m_services.clock.now());
+    const auto now = m_services.clock.now();
     return {m_services.calendar(), now};
 }
 

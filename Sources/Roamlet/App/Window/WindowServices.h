@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "Lists/UserCalendar.h"
 #include "Model/Collation.h"
+#include "Model/UserCalendar.h"
 
 #include <functional>
 #include <memory>

@@ -11,9 +11,9 @@
 namespace roamlet
 {
 
-std::chrono::system_clock::time_point SystemClock::now() const
+PointInTime SystemClock::now() const
 {
-    return std::chrono::system_clock::now();
+    return std::chrono::time_point_cast<PointInTime::duration>(std::chrono::system_clock::now());
 }
 
 void SystemClock::sleep(Duration duration, const std::stop_token &stop) const

@@ -12,7 +12,7 @@ namespace roamlet
 class SystemClock final : public Clock
 {
 public:
-    std::chrono::system_clock::time_point now() const override;
+    PointInTime now() const override;
     void sleep(Duration duration, const std::stop_token &stop) const override;
     void after(Duration duration, QObject *context, std::function<void()> action) const override;
 };

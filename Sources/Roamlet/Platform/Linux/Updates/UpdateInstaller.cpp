@@ -78,7 +78,7 @@ std::expected<QString, UpdateError> UpdateInstaller::packagePath() const
     return target();
 }
 
-void UpdateInstaller::removeLeftovers(std::chrono::system_clock::time_point now) const
+void UpdateInstaller::removeLeftovers(PointInTime now) const
 {
     const auto path = target();
     if (!path)
@@ -87,9 +87,8 @@ void UpdateInstaller::removeLeftovers(std::chrono::system_clock::time_point now)
     // The user may still be asked by the installer whether they want it.
     constexpr std::chrono::hours patience = 24h;
     const QDateTime written = QFileInfo(*path).lastModified();
-    const auto age = std::chrono::duration_cast<std::chrono::milliseconds>(now.time_since_epoch()) -
-                     std::chrono::milliseconds(written.toMSecsSinceEpoch());
-    if (written.isValid() && age >= patience)
+    if (written.isValid() &&
+        now - pointInTime(static_cast<double>(written.toMSecsSinceEpoch()) / 1000) >= patience)
         QFile::remove(*path);
 }
 

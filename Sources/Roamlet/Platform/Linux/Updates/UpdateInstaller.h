@@ -3,11 +3,11 @@
 
 #pragma once
 
+#include "Model/PointInTime.h"
 #include "Platform/Update.h"
 
 #include <QString>
 
-#include <chrono>
 #include <cstdint>
 #include <expected>
 #include <functional>
@@ -47,7 +47,7 @@ public:
     bool isProgramReplaced() const;
     /// Removes what a download of an earlier run has left unfinished, and a package that the desktop's
     /// installer was handed so long before `now` that it has no more use for it.
-    void removeLeftovers(std::chrono::system_clock::time_point now) const;
+    void removeLeftovers(PointInTime now) const;
     /// Hands the package to the desktop's installer, or replaces the AppImage by it and restarts. Nothing
     /// when that went well.
     std::optional<UpdateError> install();

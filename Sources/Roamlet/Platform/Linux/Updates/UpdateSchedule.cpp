@@ -86,7 +86,7 @@ void UpdateSchedule::plan()
     waitFor(wait, m_clock.now() + wait);
 }
 
-void UpdateSchedule::waitFor(Clock::Duration wait, std::chrono::system_clock::time_point end)
+void UpdateSchedule::waitFor(Clock::Duration wait, PointInTime end)
 {
     const Clock::Duration step = std::min(wait, longestStep);
     m_clock.after(step, m_timer.get(), [this, rest = wait - step, end] {

@@ -43,11 +43,11 @@ public:
 private:
     void plan();
     /// A check is due when the wait is over, or when the calendar has come to its end.
-    void waitFor(Clock::Duration wait, std::chrono::system_clock::time_point end);
+    void waitFor(Clock::Duration wait, PointInTime end);
     Clock::Duration timeUntilNextCheck();
-    /// No finer than what is stored: the system's own unit ends some centuries from now.
+    /// No finer than what is stored, so that the two can be compared.
     using Time = std::chrono::sys_time<Clock::Duration>;
-    Time now() const { return std::chrono::time_point_cast<Clock::Duration>(m_clock.now()); }
+    Time now() const { return std::chrono::round<Clock::Duration>(m_clock.now()); }
     std::optional<Time> lastCheck() const;
     void setLastCheck(Time time);
 

@@ -1,26 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
-#include "Lists/UserCalendar.h"
+#include "Model/UserCalendar.h"
 
 #include <QLocale>
-#include <QTimeZone>
 
 namespace roamlet
 {
 
 using namespace Qt::StringLiterals;
-
-namespace
-{
-
-/// $TZ may also be the path of a zone's file, as the C library takes it.
-QString systemTimeZone()
-{
-    return QString::fromLatin1(QTimeZone::systemTimeZoneId()).section(u"/zoneinfo/"_s, -1);
-}
-
-} // namespace
 
 QString UserCalendar::localeOf(const QString &posixName)
 {
@@ -46,17 +34,6 @@ QString UserCalendar::localeOf(const QString &posixName)
     if (language == QLocale::C)
         return region.isEmpty() ? u"en_001"_s : QString(u"en" % region);
     return QLocale::languageToCode(language) % script % region;
-}
-
-UserCalendar UserCalendar::ofSystem()
-{
-    const QString timeZone = systemTimeZone();
-    for (const char *variable : {"LC_ALL", "LC_TIME", "LANG"}) {
-        const QString name = qEnvironmentVariable(variable);
-        if (!name.isEmpty())
-            return {.timeZone = timeZone, .locale = localeOf(name)};
-    }
-    return {.timeZone = timeZone, .locale = localeOf({})};
 }
 
 } // namespace roamlet

@@ -24,8 +24,6 @@ struct UserCalendar {
 
     bool operator==(const UserCalendar &) const = default;
 
-    /// What the user's session says now; a journey changes the time zone. On the main thread.
-    static UserCalendar ofSystem();
     /// A POSIX locale such as "de_DE.UTF-8@euro" as "de_DE". Without a language that Qt knows it is English.
     static QString localeOf(const QString &posixName);
 };
