@@ -3,8 +3,8 @@
 
 #include "Lists/Refine.h"
 
-#include "Library/BackgroundTasks.h"
 #include "Lists/ListRows.h"
+#include "Platform/BackgroundTasks.h"
 #include "Support/FakeClock.h"
 
 #include <QObject>

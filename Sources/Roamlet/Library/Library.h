@@ -3,13 +3,13 @@
 
 #pragma once
 
-#include "Library/BackgroundTasks.h"
 #include "Library/BrowserWatcher.h"
 #include "Library/ProfileChoice.h"
 #include "Library/RecentPages.h"
 #include "Library/SiteIcons.h"
 #include "Library/Snapshot.h"
 #include "Model/HistoryQuery.h"
+#include "Platform/BackgroundTasks.h"
 #include "Platform/Platform.h"
 
 #include <QImage>

@@ -37,26 +37,27 @@ protected:
     void start()
     {
         result.reset();
-        download = std::make_unique<PackageDownload>(
-            network, clock, options, package, *PackageSignature::decodedKey(signer.publicKey()), target,
-            PackageDownload::Handlers{
-                .progress =
-                    [this](qint64 received, std::optional<qint64> total) {
-                        progress.append(received);
-                        lastTotal = total;
-                    },
-                .verifying =
-                    [this] {
-                        ++verifications;
-                        EXPECT_FALSE(QFile::exists(target)) << "nothing has this name before it is checked";
-                        beforeCheck();
-                    },
-                .finish =
-                    [this](const std::optional<UpdateError> &error) {
-                        result = Result{error};
-                        download.reset();
-                    },
-            });
+        const PackageDownload::Handlers handlers{
+            .progress =
+                [this](qint64 received, std::optional<qint64> total) {
+                    progress.append(received);
+                    lastTotal = total;
+                },
+            .verifying =
+                [this] {
+                    ++verifications;
+                    EXPECT_FALSE(QFile::exists(target)) << "nothing has this name before it is checked";
+                    beforeCheck();
+                },
+            .finish =
+                [this](const std::optional<UpdateError> &error) {
+                    result = Result{error};
+                    download.reset();
+                },
+        };
+        download = std::make_unique<PackageDownload>(network, clock, checks, options, package,
+                                                     *PackageSignature::decodedKey(signer.publicKey()),
+                                                     target, handlers);
     }
 
     /// The error that fetching ends in, or nothing. After an error there is nothing left.
@@ -79,6 +80,7 @@ protected:
     QByteArray content = QByteArray("package ").repeated(200'000);
     PackageDownload::Package package;
     QString target = folder.filePath(u"Roamlet.deb"_s);
+    BackgroundTasks checks;
     std::unique_ptr<PackageDownload> download;
     std::optional<Result> result;
     QList<qint64> progress;

@@ -5,7 +5,7 @@
 
 #include "App/Export/ExportRequest.h"
 #include "Export/BookmarkExport.h"
-#include "Library/BackgroundTasks.h"
+#include "Platform/BackgroundTasks.h"
 
 #include <QDialog>
 #include <QList>

@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "Library/BackgroundTasks.h"
 #include "Lists/Refine.h"
+#include "Platform/BackgroundTasks.h"
 
 #include <QObject>
 

@@ -54,6 +54,7 @@ void FeedUpdateDriver::begin(UpdateSession::Origin origin)
     auto session = m_services.makeSession(
         UpdateSession::Setup{
             .clock = m_services.clock,
+            .checks = m_checks,
             .userInterface = m_services.userInterface,
             .delegate = *m_delegate,
             .installer = m_installer,

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "Platform/BackgroundTasks.h"
 #include "Platform/Linux/Updates/UpdateInstaller.h"
 #include "Platform/Linux/Updates/UpdateSchedule.h"
 #include "Platform/Linux/Updates/UpdateSession.h"
@@ -59,6 +60,7 @@ private:
     UpdateInstaller m_installer;
     UpdateSchedule m_schedule;
     UpdateDriverDelegate *m_delegate = nullptr;
+    BackgroundTasks m_checks;
     std::unique_ptr<UpdateSession> m_session;
 };
 

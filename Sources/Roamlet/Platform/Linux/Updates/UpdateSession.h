@@ -17,6 +17,7 @@
 namespace roamlet
 {
 
+class BackgroundTasks;
 class UpdateDriverDelegate;
 class UpdateUserInterface;
 
@@ -27,6 +28,8 @@ public:
     enum class Origin { User, Schedule };
     struct Setup {
         const Clock &clock;
+        /// Where packages are checked; it outlives the session, which does not wait for a check.
+        BackgroundTasks &checks;
         UpdateUserInterface &userInterface;
         UpdateDriverDelegate &delegate;
         UpdateInstaller &installer;

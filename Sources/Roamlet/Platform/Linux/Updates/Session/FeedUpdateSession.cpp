@@ -208,7 +208,7 @@ void FeedUpdateSession::download()
     m_setup.userInterface.showDownload(m_choice->update(), inThisStep([this] { finish(); }));
     const FeedItem::Package &package = m_choice->package;
     m_package = std::make_unique<PackageDownload>(
-        m_network, m_setup.clock, m_setup.http,
+        m_network, m_setup.clock, m_setup.checks, m_setup.http,
         PackageDownload::Package{
             .address = package.address, .length = package.length, .signature = package.signature},
         m_publicKey, *path,

@@ -7,14 +7,9 @@
 #include "Platform/Linux/Updates/Session/PackageSignature.h"
 #include "Platform/Linux/Updates/UnfinishedPackage.h"
 
-#include <QCoreApplication>
-#include <QEvent>
-
 #include <unistd.h>
 
 #include <cstdio>
-#include <mutex>
-#include <thread>
 #include <utility>
 
 namespace roamlet
@@ -56,19 +51,11 @@ std::optional<UpdateError> check(const QString &path, qint64 length, const QByte
 
 } // namespace
 
-/// A check in a thread of its own. Who cancels the download does not wait for it: it goes on to its end, and
-/// nobody hears of it.
-struct PackageDownload::Check {
-    std::mutex mutex;
-    /// Who waits for the verdict, if anybody does.
-    PackageDownload *download = nullptr;
-    std::optional<UpdateError> verdict;
-};
-
-PackageDownload::PackageDownload(QNetworkAccessManager &network, const Clock &clock,
+PackageDownload::PackageDownload(QNetworkAccessManager &network, const Clock &clock, BackgroundTasks &checks,
                                  const HttpOptions &options, Package package, const QByteArray &key,
                                  const QString &target, Handlers handlers)
-    : m_package(std::move(package)),
+    : m_checks(checks),
+      m_package(std::move(package)),
       m_key(key),
       m_target(target),
       m_handlers(std::move(handlers)),
@@ -95,10 +82,6 @@ PackageDownload::PackageDownload(QNetworkAccessManager &network, const Clock &cl
 
 PackageDownload::~PackageDownload()
 {
-    if (m_check) {
-        const std::scoped_lock lock(m_check->mutex);
-        m_check->download = nullptr;
-    }
     // After a success it has another name by now.
     if (m_file.isOpen())
         m_file.remove();
@@ -152,22 +135,11 @@ void PackageDownload::verify()
     }
     m_handlers.verifying();
     // Hashing a large package takes longer than a window may stand still.
-    m_check = std::make_shared<Check>();
-    m_check->download = this;
-    std::thread([shared = m_check, path = m_file.fileName(), length = m_received, signature = m_signature,
-                 key = m_key] {
-        const std::optional<UpdateError> verdict = check(path, length, signature, key);
-        const std::scoped_lock lock(shared->mutex);
-        if (shared->download == nullptr)
-            return;
-        shared->verdict = verdict;
-        QCoreApplication::postEvent(shared->download, new QEvent(QEvent::User));
-    }).detach();
-}
-
-void PackageDownload::customEvent(QEvent * /*event*/)
-{
-    finish(std::exchange(m_check, nullptr)->verdict);
+    m_checks.run(
+        this,
+        [path = m_file.fileName(), length = m_received, signature = m_signature,
+         key = m_key](const std::stop_token &) { return check(path, length, signature, key); },
+        [this](const std::optional<UpdateError> &verdict) { finish(verdict); });
 }
 
 void PackageDownload::finish(const std::optional<UpdateError> &error)

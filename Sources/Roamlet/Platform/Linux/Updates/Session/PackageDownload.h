@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "Platform/BackgroundTasks.h"
 #include "Platform/Linux/Updates/Session/HttpTransfer.h"
 
 #include <QFile>
@@ -35,18 +36,15 @@ public:
         std::function<void(const std::optional<UpdateError> &)> finish;
     };
 
-    /// `key` is the decoded public key; `target` the path of the file, in a folder that exists.
-    PackageDownload(QNetworkAccessManager &network, const Clock &clock, const HttpOptions &options,
-                    Package package, const QByteArray &key, const QString &target, Handlers handlers);
+    /// `key` is the decoded public key; `target` the path of the file, in a folder that exists. The package
+    /// is checked among `checks`, so that who cancels a download does not wait for its check: that goes on to
+    /// its end, and nobody hears of it.
+    PackageDownload(QNetworkAccessManager &network, const Clock &clock, BackgroundTasks &checks,
+                    const HttpOptions &options, Package package, const QByteArray &key, const QString &target,
+                    Handlers handlers);
     ~PackageDownload() override;
 
-protected:
-    /// The check has ended.
-    void customEvent(QEvent *event) override;
-
 private:
-    struct Check;
-
     std::optional<UpdateError> prepare();
     std::optional<UpdateError> begin(const HttpTransfer::Head &head);
     std::optional<UpdateError> receive(const QByteArray &piece);
@@ -54,6 +52,7 @@ private:
     void finish(const std::optional<UpdateError> &error);
     UpdateError writeError() const;
 
+    BackgroundTasks &m_checks;
     Package m_package;
     QByteArray m_key;
     QByteArray m_signature;
@@ -63,7 +62,6 @@ private:
     std::optional<qint64> m_total;
     qint64 m_received = 0;
     std::unique_ptr<HttpTransfer> m_transfer;
-    std::shared_ptr<Check> m_check;
 };
 
 } // namespace roamlet

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
-#include "Library/BackgroundTasks.h"
+#include "Platform/BackgroundTasks.h"
 
 namespace roamlet
 {
