@@ -318,6 +318,59 @@ TEST(HistoryQuery, wordsAndSiteMustBothMatch)
         << "the alternatives of the site stay together";
 }
 
+TEST(HistoryQuery, longerWordsAndMoreOfThemFindNothingNew)
+{
+    const auto isWithin = [](const QString &narrow, const QString &wide) {
+        return HistoryQuery::matching(narrow, {}, latest)
+            .isWithin(HistoryQuery::matching(wide, {}, mostVisited));
+    };
+    EXPECT_TRUE(isWithin(u"apple"_s, u"app"_s));
+    EXPECT_TRUE(isWithin(u"apple"_s, u"PP"_s));
+    EXPECT_TRUE(isWithin(u"apple pear"_s, u"ear app"_s));
+    EXPECT_TRUE(isWithin(u"apple"_s, u"ap le"_s));
+    EXPECT_TRUE(isWithin(u"a"_s, u""_s));
+    EXPECT_TRUE(isWithin(u"ΟΔΟΣΤΡΩΤΉΡΑΣ"_s, u"ΟΔΟΣ"_s)) << "a final sigma has become another one";
+    EXPECT_FALSE(isWithin(u"app"_s, u"apple"_s));
+    EXPECT_FALSE(isWithin(u"apple"_s, u"app pear"_s));
+    EXPECT_FALSE(isWithin(u""_s, u"a"_s));
+    EXPECT_FALSE(isWithin(u"é"_s, u"e"_s));
+    // Half a letter is no part of it.
+    const HistoryQuery half{.words = {u"😀"_s.first(1)}, .site = {}};
+    EXPECT_FALSE((HistoryQuery{.words = {u"😀"_s}, .site = {}}.isWithin(half)));
+}
+
+TEST(HistoryQuery, aSearchOfOneSiteIsWithinTheSameAndThatOfAll)
+{
+    const HistoryQuery everywhere = HistoryQuery::matching(u"a"_s, {}, latest);
+    const HistoryQuery site = HistoryQuery::matching(u"a"_s, u"x.org"_s, latest);
+    const HistoryQuery other = HistoryQuery::matching(u"a"_s, u"y.x.org"_s, latest);
+    EXPECT_TRUE(site.isWithin(everywhere));
+    EXPECT_TRUE(site.isWithin(site));
+    EXPECT_FALSE(everywhere.isWithin(site));
+    EXPECT_FALSE(other.isWithin(site));
+}
+
+TEST(HistoryQuery, theWordsStandWhereTheSearchFindsThem)
+{
+    const auto places = [](const QString &typed, const QString &text) {
+        QStringList pieces;
+        for (const TextPlace &place : HistoryQuery::matching(typed, {}, latest).placesIn(text))
+            pieces.append(QString::number(place.start) % u' ' % text.sliced(place.start, place.length));
+        return pieces.join(u"; "_s).toStdString();
+    };
+    EXPECT_EQ(places(u"cat"_s, u"Concat a CAT, cats"_s), "3 cat; 9 CAT; 14 cat");
+    EXPECT_EQ(places(u"cat dog"_s, u"dog cat"_s), "0 dog; 4 cat");
+    EXPECT_EQ(places(u"abc bcd e"_s, u"xabcdex"_s), "1 abcde") << "what overlaps or touches is one";
+    EXPECT_EQ(places(u"abcd b"_s, u"abcd"_s), "0 abcd");
+    EXPECT_EQ(places(u"aa"_s, u"aaaa"_s), "0 aaaa");
+    EXPECT_EQ(places(u"é"_s, u"É é"_s), "2 é") << "the case of other letters counts";
+    EXPECT_EQ(places(u"ΟΔΟΣ"_s, u"οδοσ οδος"_s), "0 οδοσ; 5 οδος");
+    EXPECT_EQ(places(u"x"_s, u"😀x"_s), "2 x");
+    EXPECT_EQ(places(u"%"_s, u"100%"_s), "3 %");
+    EXPECT_EQ(places(u"a"_s, u""_s), "");
+    EXPECT_EQ(places(u""_s, u"a"_s), "");
+}
+
 TEST(HistoryQuery, equalityAndHashCoverEveryField)
 {
     const HistoryQuery original{.words = {u"a"_s, u"b"_s}, .site = u"x"_s, .order = latest, .limit = 10};

@@ -5,6 +5,8 @@
 
 #include "Model/LowerCase.h"
 
+#include <algorithm>
+
 namespace roamlet
 {
 
@@ -20,6 +22,25 @@ const QString likeClause = u"LIKE ? ESCAPE '\\'"_s;
 QString escaped(QString text)
 {
     return text.replace(u"\\"_s, u"\\\\"_s).replace(u"%"_s, u"\\%"_s).replace(u"_"_s, u"\\_"_s);
+}
+
+/// The text as LIKE compares it, to which the case of ASCII letters alone is nothing.
+QString withPlainCase(QString text)
+{
+    for (QChar &character : text) {
+        if (character >= u'A' && character <= u'Z')
+            character = QChar(static_cast<char16_t>(character.unicode() | 0x20));
+    }
+    return text;
+}
+
+/// Adds a place that begins nowhere before the last one, and makes one of those that touch.
+void appendPlace(QList<TextPlace> &places, TextPlace place)
+{
+    if (places.isEmpty() || place.start > places.last().end())
+        places.append(place);
+    else
+        places.last().length = std::max(places.last().end(), place.end()) - places.last().start;
 }
 
 /// A URL matches a site when its host is the site or "www." and the site, followed by a path or a port. Rows
@@ -57,13 +78,50 @@ QString HistoryQuery::conditions(const QString &text, const QString &url) const
     return result;
 }
 
+QString HistoryQuery::pattern(const QString &text)
+{
+    return u'%' % escaped(text) % u'%';
+}
+
 QStringList HistoryQuery::patterns() const
 {
     QStringList result;
     result.reserve(words.size() + 4);
     for (const QString &word : words)
-        result.append(u'%' % escaped(withPlainSigmas(word)) % u'%');
+        result.append(pattern(withPlainSigmas(word)));
     return result + sitePatterns(site);
+}
+
+bool HistoryQuery::isWithin(const HistoryQuery &wider) const
+{
+    if (wider.site && wider.site != site)
+        return false;
+    // As bytes, in which a letter of two units is never found by its half.
+    const auto bytes = [](const QString &word) { return withPlainSigmas(withPlainCase(word)).toUtf8(); };
+    return std::ranges::all_of(wider.words, [&](const QString &part) {
+        return std::ranges::any_of(words,
+                                   [&](const QString &word) { return bytes(word).contains(bytes(part)); });
+    });
+}
+
+QList<TextPlace> HistoryQuery::placesIn(const QString &text) const
+{
+    QList<TextPlace> places;
+    const QString folded = withPlainCase(text);
+    for (const QString &word : words) {
+        const QString wanted = withPlainSigmas(withPlainCase(word));
+        const QString searched = hasSigma(word) ? withPlainSigmas(folded) : folded;
+        QList<TextPlace> ofWord;
+        for (qsizetype place = searched.indexOf(wanted); place >= 0 && !wanted.isEmpty();
+             place = searched.indexOf(wanted, place + 1))
+            appendPlace(ofWord, {.start = place, .length = wanted.size()});
+        places += ofWord;
+    }
+    std::ranges::sort(places, {}, &TextPlace::start);
+    QList<TextPlace> result;
+    for (const TextPlace &place : places)
+        appendPlace(result, place);
+    return result;
 }
 
 size_t qHash(const HistoryQuery &query, size_t seed)

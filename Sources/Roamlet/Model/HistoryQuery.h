@@ -14,6 +14,15 @@
 namespace roamlet
 {
 
+/// A piece of a text, counted in its UTF-16 units.
+struct TextPlace {
+    qsizetype start = 0;
+    qsizetype length = 0;
+
+    qsizetype end() const { return start + length; }
+    bool operator==(const TextPlace &) const = default;
+};
+
 /// What is asked of a browser's history, independent of the browser: words, a site, an order and a limit.
 struct HistoryQuery {
     enum class Order {
@@ -45,6 +54,13 @@ struct HistoryQuery {
     QString conditions(const QString &text, const QString &url) const;
     /// The values to bind to the placeholders of conditions(), in their order.
     QStringList patterns() const;
+    /// The LIKE pattern, with a backslash as the escape, of what holds this text.
+    static QString pattern(const QString &text);
+
+    /// Whether every row that this query matches is one that `wider` matches, too, whatever their limits.
+    bool isWithin(const HistoryQuery &wider) const;
+    /// Where the words stand in a title or an address, in order; pieces that touch are one.
+    QList<TextPlace> placesIn(const QString &text) const;
 };
 
 /// What a search across sources returns.
