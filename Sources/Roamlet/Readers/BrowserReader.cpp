@@ -23,6 +23,7 @@ struct FamilyReader {
     QList<Source> (*profiles)(Source::Kind browser, const ReadContext &context, const QList<Source> &known);
     QString (*historyFile)(const Source &source, const ReadContext &context);
     decltype(&SafariReader::history) history;
+    decltype(&SafariReader::historyText) historyText;
     decltype(&SafariReader::bookmarks) bookmarks;
     Content (*content)(const Source &source, const ReadContext &context);
     QStringList (*readFiles)();
@@ -92,15 +93,18 @@ Content firefoxContent(const Source &source, const ReadContext &context)
 
 const FamilyReader &readerOf(Browser::Family family)
 {
-    static constexpr FamilyReader safari{safariProfiles,        SafariReader::historyFile,
-                                         SafariReader::history, SafariReader::bookmarks,
-                                         safariContent,         SafariReader::readFiles};
-    static constexpr FamilyReader chromium{chromiumProfiles,        ChromiumReader::historyFile,
-                                           ChromiumReader::history, ChromiumReader::bookmarks,
-                                           chromiumContent,         ChromiumReader::readFiles};
-    static constexpr FamilyReader firefox{firefoxProfiles,        FirefoxReader::historyFile,
-                                          FirefoxReader::history, FirefoxReader::bookmarks,
-                                          firefoxContent,         FirefoxReader::readFiles};
+    static constexpr FamilyReader safari{safariProfiles,          SafariReader::historyFile,
+                                         SafariReader::history,   SafariReader::historyText,
+                                         SafariReader::bookmarks, safariContent,
+                                         SafariReader::readFiles};
+    static constexpr FamilyReader chromium{chromiumProfiles,          ChromiumReader::historyFile,
+                                           ChromiumReader::history,   ChromiumReader::historyText,
+                                           ChromiumReader::bookmarks, chromiumContent,
+                                           ChromiumReader::readFiles};
+    static constexpr FamilyReader firefox{firefoxProfiles,          FirefoxReader::historyFile,
+                                          FirefoxReader::history,   FirefoxReader::historyText,
+                                          FirefoxReader::bookmarks, firefoxContent,
+                                          FirefoxReader::readFiles};
     switch (family) {
     case Browser::Family::Safari:
         return safari;
@@ -133,6 +137,12 @@ std::expected<QList<HistoryItem>, ReadError> history(const Source &source, const
                                                      const ReadContext &context)
 {
     return readerOf(source.kind).history(source, query, context);
+}
+
+std::expected<std::shared_ptr<const HistoryText>, ReadError>
+historyText(const Source &source, const ReadContext &context, size_t mostBytes)
+{
+    return readerOf(source.kind).historyText(source, context, mostBytes);
 }
 
 std::expected<BookmarkTrees, ReadErrors> bookmarks(const Source &source, const ReadContext &context)

@@ -15,6 +15,14 @@
 #include <QString>
 
 #include <expected>
+#include <memory>
+
+namespace roamlet
+{
+
+class HistoryText;
+
+} // namespace roamlet
 
 /// The one door to the browsers' files: whoever reads a source asks here, and the browser's family answers.
 /// Holds nothing and writes nothing; any thread.
@@ -39,6 +47,12 @@ QString historyFile(const Source &source, const ReadContext &context);
 /// The rows that match, in the query's order and at most as many as it says. Empty when there is no history.
 std::expected<QList<HistoryItem>, ReadError> history(const Source &source, const HistoryQuery &query,
                                                      const ReadContext &context);
+/// All rows of a source that a search could find, in memory; it answers as history() does as long as the
+/// files stay as they are. While it is read, it takes two or three times what it takes then. Nothing (no
+/// error) when it would take more than `mostBytes` or there is no memory, or when the database holds values
+/// that only it can put in order: then history() is to be asked.
+std::expected<std::shared_ptr<const HistoryText>, ReadError>
+historyText(const Source &source, const ReadContext &context, size_t mostBytes);
 /// The trees of a source's bookmarks.
 std::expected<BookmarkTrees, ReadErrors> bookmarks(const Source &source, const ReadContext &context);
 /// All parts of a source; a file that holds several of them is copied once.

@@ -6,12 +6,15 @@
 #include "Model/HistoryQuery.h"
 #include "Model/ReadError.h"
 #include "Readers/Files/SQLiteSnapshot.h"
+#include "Readers/HistoryText.h"
 
 #include <QList>
 #include <QString>
 
 #include <expected>
+#include <memory>
 #include <optional>
+#include <stop_token>
 
 namespace roamlet
 {
@@ -25,5 +28,21 @@ using LastVisit = std::optional<PointInTime> (*)(const SQLiteSnapshot::Row &row,
 std::expected<QList<HistoryItem>, ReadError> historyRows(const SQLiteSnapshot &database,
                                                          const QString &statement, const HistoryQuery &query,
                                                          const Source &source, LastVisit lastVisit);
+
+/// How a family's history is searched, beyond the words.
+struct HistoryRules {
+    LastVisit lastVisit;
+    HistoryText::Builder::Ties ties = HistoryText::Builder::Ties::FirstRead;
+    HistoryText::Builder::Pages pages = HistoryText::Builder::Pages::OneRow;
+    /// Whether words find a page whose title is NULL.
+    bool findsUntitled = true;
+};
+
+/// A history's text, or nothing (no error) where it does not fit into `mostBytes`, there is no memory, or a
+/// value is of a kind that only the database can put in order. `statement` gives the columns of historyRows()
+/// for every row that a search could find, in the order of their numbers. Any thread.
+std::expected<std::shared_ptr<const HistoryText>, ReadError>
+historyText(const SQLiteSnapshot &database, const QString &statement, const Source &source,
+            const HistoryRules &rules, size_t mostBytes, const std::stop_token &stop);
 
 } // namespace roamlet

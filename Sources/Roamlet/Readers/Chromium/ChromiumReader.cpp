@@ -43,6 +43,11 @@ std::optional<PointInTime> pointInTimeOf(std::int64_t microseconds)
     return pointInTime((static_cast<double>(microseconds) / microsecondsPerSecond) - secondsBefore1970);
 }
 
+std::optional<PointInTime> lastVisit(const SQLiteSnapshot::Row &row, int column)
+{
+    return pointInTimeOf(row.integer(column));
+}
+
 std::optional<QString> displayName(const Json::Value &info, const Browser &browser)
 {
     constexpr std::int64_t personalAccount = 1;
@@ -110,10 +115,13 @@ std::optional<BookmarkNode> nodeWithoutChildren(const Json::Value &entry, const 
     return node;
 }
 
+/// Every row that is shown.
+const QString rowsStatement =
+    u"SELECT id, url, title, last_visit_time, visit_count FROM urls\nWHERE hidden = 0"_s;
+
 QString historyStatement(const HistoryQuery &query)
 {
-    return u"SELECT id, url, title, last_visit_time, visit_count FROM urls\nWHERE hidden = 0" %
-           query.conditions(u"(url || ' ' || title)"_s, u"url"_s) % u"\nORDER BY " %
+    return rowsStatement % query.conditions(u"(url || ' ' || title)"_s, u"url"_s) % u"\nORDER BY " %
            (query.order == HistoryQuery::Order::MostVisited ? u"visit_count DESC, "_s : QString()) %
            u"last_visit_time DESC\nLIMIT " % QString::number(query.limit);
 }
@@ -314,9 +322,28 @@ std::expected<QList<HistoryItem>, ReadError> history(const Source &source, const
     const auto snapshot = SQLiteSnapshot::copying(file, context);
     if (!snapshot)
         return std::unexpected(snapshot.error());
-    return historyRows(
-        *snapshot, historyStatement(query), query, source,
-        [](const SQLiteSnapshot::Row &row, int column) { return pointInTimeOf(row.integer(column)); });
+    return historyIn(*snapshot, source, query);
+}
+
+std::expected<QList<HistoryItem>, ReadError> historyIn(const SQLiteSnapshot &copy, const Source &source,
+                                                       const HistoryQuery &query)
+{
+    return historyRows(copy, historyStatement(query), query, source, lastVisit);
+}
+
+std::expected<std::shared_ptr<const HistoryText>, ReadError>
+historyText(const Source &source, const ReadContext &context, size_t mostBytes)
+{
+    // What joins an address with a NULL is NULL, and no word is in that.
+    static constexpr HistoryRules rules{.lastVisit = lastVisit, .findsUntitled = false};
+    const QString file = historyFile(source, context);
+    if (!context.files->exists(file))
+        return HistoryText::empty(source);
+    const auto snapshot = SQLiteSnapshot::copying(file, context);
+    if (!snapshot)
+        return std::unexpected(snapshot.error());
+    return roamlet::historyText(*snapshot, rowsStatement % u"\nORDER BY id", source, rules, mostBytes,
+                                context.stop);
 }
 
 std::expected<BookmarkTrees, ReadErrors> bookmarks(const Source &source, const ReadContext &context)

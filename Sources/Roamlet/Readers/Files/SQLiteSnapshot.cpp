@@ -85,6 +85,31 @@ double SQLiteSnapshot::Row::real(int column) const
     return sqlite3_column_double(m_statement, column);
 }
 
+SQLiteSnapshot::Row::Kind SQLiteSnapshot::Row::kind(int column) const
+{
+    switch (sqlite3_column_type(m_statement, column)) {
+    case SQLITE_INTEGER:
+        return Kind::Integer;
+    case SQLITE_FLOAT:
+        return Kind::Real;
+    case SQLITE_TEXT:
+        return Kind::Text;
+    case SQLITE_BLOB:
+        return Kind::Blob;
+    default:
+        return Kind::Null;
+    }
+}
+
+std::optional<std::string_view> SQLiteSnapshot::Row::utf8(int column) const
+{
+    const unsigned char *text = sqlite3_column_text(m_statement, column);
+    if (text == nullptr)
+        return {};
+    return std::string_view(reinterpret_cast<const char *>(text),
+                            static_cast<size_t>(sqlite3_column_bytes(m_statement, column)));
+}
+
 std::optional<QString> SQLiteSnapshot::Row::text(int column) const
 {
     const unsigned char *text = sqlite3_column_text(m_statement, column);

@@ -14,6 +14,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <string_view>
 
 struct sqlite3_stmt;
 
@@ -33,10 +34,16 @@ public:
     class Row
     {
     public:
+        enum class Kind { Integer, Real, Text, Blob, Null };
+
         explicit Row(sqlite3_stmt *statement) : m_statement(statement) {}
 
         std::int64_t integer(int column) const;
         double real(int column) const;
+        /// How the value is stored, as it is before it is asked for in another form.
+        Kind kind(int column) const;
+        /// The bytes of the text, which the statement owns; nothing for NULL.
+        std::optional<std::string_view> utf8(int column) const;
         /// The text up to a NUL, broken UTF-8 replaced; nothing for NULL.
         std::optional<QString> text(int column) const;
         /// Bytes that the statement owns; null for NULL and for an empty value.

@@ -26,21 +26,21 @@ QString placesFile()
     return Browser::historyFile(Browser::Family::Firefox);
 }
 
+/// Every row that is shown.
+const QString rowsStatement = u"SELECT id, url, title, last_visit_date, visit_count FROM moz_places\n"
+                              "WHERE hidden = 0 AND last_visit_date IS NOT NULL"_s;
+
 QString historyStatement(const HistoryQuery &query)
 {
-    return u"SELECT id, url, title, last_visit_date, visit_count FROM moz_places\n"
-           "WHERE hidden = 0 AND last_visit_date IS NOT NULL" %
-           query.conditions(u"(url || ' ' || coalesce(title, ''))"_s, u"url"_s) % u"\nORDER BY " %
+    return rowsStatement % query.conditions(u"(url || ' ' || coalesce(title, ''))"_s, u"url"_s) %
+           u"\nORDER BY " %
            (query.order == HistoryQuery::Order::MostVisited ? u"visit_count DESC, "_s : QString()) %
            u"last_visit_date DESC\nLIMIT " % QString::number(query.limit);
 }
 
-std::expected<QList<HistoryItem>, ReadError> historyIn(const SQLiteSnapshot &places, const Source &source,
-                                                       const HistoryQuery &query)
+std::optional<PointInTime> lastVisit(const SQLiteSnapshot::Row &row, int column)
 {
-    return historyRows(
-        places, historyStatement(query), query, source,
-        [](const SQLiteSnapshot::Row &row, int column) { return firefoxTime(row.integer(column)); });
+    return firefoxTime(row.integer(column));
 }
 
 std::expected<BookmarkTrees, ReadErrors> treesOf(std::expected<QList<BookmarkNode>, ReadError> roots)
@@ -75,6 +75,25 @@ std::expected<QList<HistoryItem>, ReadError> history(const Source &source, const
 {
     return fromPlaces<QList<HistoryItem>>(
         source, context, [&](const SQLiteSnapshot &places) { return historyIn(places, source, query); });
+}
+
+std::expected<QList<HistoryItem>, ReadError> historyIn(const SQLiteSnapshot &copy, const Source &source,
+                                                       const HistoryQuery &query)
+{
+    return historyRows(copy, historyStatement(query), query, source, lastVisit);
+}
+
+std::expected<std::shared_ptr<const HistoryText>, ReadError>
+historyText(const Source &source, const ReadContext &context, size_t mostBytes)
+{
+    // Its indexes are gone through from their ends.
+    static constexpr HistoryRules rules{.lastVisit = lastVisit, .ties = HistoryText::Builder::Ties::LastRead};
+    if (!context.files->exists(historyFile(source, context)))
+        return HistoryText::empty(source);
+    return fromPlaces<std::shared_ptr<const HistoryText>>(source, context, [&](const SQLiteSnapshot &places) {
+        return roamlet::historyText(places, rowsStatement % u"\nORDER BY id", source, rules, mostBytes,
+                                    context.stop);
+    });
 }
 
 std::expected<BookmarkTrees, ReadErrors> bookmarks(const Source &source, const ReadContext &context)

@@ -14,6 +14,15 @@
 #include <QStringList>
 
 #include <expected>
+#include <memory>
+
+namespace roamlet
+{
+
+class HistoryText;
+class SQLiteSnapshot;
+
+} // namespace roamlet
 
 /// Reads the browsers of Firefox's family, which keep the same files. Holds nothing and writes nothing; any
 /// thread.
@@ -25,6 +34,12 @@ QString historyFile(const Source &source, const ReadContext &context);
 /// The rows that match, in the query's order and at most as many as it says. Empty when there is no history.
 std::expected<QList<HistoryItem>, ReadError> history(const Source &source, const HistoryQuery &query,
                                                      const ReadContext &context);
+/// The rows that match in a private copy of that database.
+std::expected<QList<HistoryItem>, ReadError> historyIn(const SQLiteSnapshot &copy, const Source &source,
+                                                       const HistoryQuery &query);
+/// All rows that a search could find; see BrowserReader::historyText.
+std::expected<std::shared_ptr<const HistoryText>, ReadError>
+historyText(const Source &source, const ReadContext &context, size_t mostBytes);
 /// One tree for each of the browser's root folders that holds a bookmark, the bookmarks bar first.
 std::expected<BookmarkTrees, ReadErrors> bookmarks(const Source &source, const ReadContext &context);
 

@@ -53,6 +53,11 @@ Source::SafariBookmarks bookmarkSelection(QByteArrayView extraAttributes)
     return Source::Folder{*folder};
 }
 
+std::optional<PointInTime> lastVisit(const SQLiteSnapshot::Row &row, int column)
+{
+    return pointInTime(row.real(column) + secondsUntil2001);
+}
+
 QString historyStatement(const HistoryQuery &query)
 {
     return u"SELECT i.id, i.url, v.title, max(v.visit_time), i.visit_count\n"
@@ -213,10 +218,31 @@ std::expected<QList<HistoryItem>, ReadError> history(const Source &source, const
     const auto snapshot = SQLiteSnapshot::copying(file, context);
     if (!snapshot)
         return std::unexpected(snapshot.error());
-    return historyRows(*snapshot, historyStatement(query), query, source,
-                       [](const SQLiteSnapshot::Row &row, int column) {
-                           return std::optional(pointInTime(row.real(column) + secondsUntil2001));
-                       });
+    return historyIn(*snapshot, source, query);
+}
+
+std::expected<QList<HistoryItem>, ReadError> historyIn(const SQLiteSnapshot &copy, const Source &source,
+                                                       const HistoryQuery &query)
+{
+    return historyRows(copy, historyStatement(query), query, source, lastVisit);
+}
+
+std::expected<std::shared_ptr<const HistoryText>, ReadError>
+historyText(const Source &source, const ReadContext &context, size_t mostBytes)
+{
+    // Words are looked for in every visit. The join is crossed so that the visits of a page come together.
+    static constexpr HistoryRules rules{.lastVisit = lastVisit,
+                                        .pages = HistoryText::Builder::Pages::SeveralRows};
+    const QString statement = u"SELECT i.id, i.url, v.title, v.visit_time, i.visit_count\n"
+                              "FROM history_items i CROSS JOIN history_visits v ON v.history_item = i.id\n"
+                              "ORDER BY i.id"_s;
+    const QString file = historyFile(source, context);
+    if (source.profile && !context.files->exists(file))
+        return HistoryText::empty(source);
+    const auto snapshot = SQLiteSnapshot::copying(file, context);
+    if (!snapshot)
+        return std::unexpected(snapshot.error());
+    return roamlet::historyText(*snapshot, statement, source, rules, mostBytes, context.stop);
 }
 
 std::expected<BookmarkTrees, ReadErrors> bookmarks(const Source &source, const ReadContext &context)

@@ -14,6 +14,15 @@
 #include <QStringList>
 
 #include <expected>
+#include <memory>
+
+namespace roamlet
+{
+
+class HistoryText;
+class SQLiteSnapshot;
+
+} // namespace roamlet
 
 /// Reads Safari. Holds nothing and writes nothing; any thread.
 namespace roamlet::SafariReader
@@ -28,6 +37,12 @@ QString historyFile(const Source &source, const ReadContext &context);
 /// it says. A named profile without history is empty; the default one must have a history.
 std::expected<QList<HistoryItem>, ReadError> history(const Source &source, const HistoryQuery &query,
                                                      const ReadContext &context);
+/// The rows that match in a private copy of that database.
+std::expected<QList<HistoryItem>, ReadError> historyIn(const SQLiteSnapshot &copy, const Source &source,
+                                                       const HistoryQuery &query);
+/// All rows that a search could find; see BrowserReader::historyText.
+std::expected<std::shared_ptr<const HistoryText>, ReadError>
+historyText(const Source &source, const ReadContext &context, size_t mostBytes);
 /// The part of Safari's one bookmark file that belongs to `source`. The Reading List is never in it.
 std::expected<BookmarkTrees, ReadErrors> bookmarks(const Source &source, const ReadContext &context);
 

@@ -1,0 +1,296 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "Readers/HistoryText.h"
+
+#include "Model/LowerCase.h"
+#include "Model/Utf8.h"
+#include "Readers/Files/FoldedNeedle.h"
+
+#include <QByteArray>
+#include <QSet>
+
+#include <sqlite3.h>
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+#include <tuple>
+#include <utility>
+
+namespace roamlet
+{
+
+namespace
+{
+
+/// Far below what SQLite takes: 50,000 bytes in a pattern, 1,000 terms in a condition.
+constexpr qsizetype longestPattern = 10'000;
+constexpr qsizetype mostWords = 500;
+
+constexpr char likeEscape = '\\';
+
+std::string withPlainSigmaBytes(std::string text)
+{
+    constexpr std::string_view finalSigma = "\xCF\x82";
+    for (size_t place = text.find(finalSigma); place != std::string::npos;
+         place = text.find(finalSigma, place))
+        text[place + 1] = '\x83';
+    return text;
+}
+
+} // namespace
+
+/// A text that is looked for: as LIKE has it, and as it is found quickly.
+struct HistoryText::Literal {
+    FoldedNeedle needle;
+    QByteArray pattern;
+    Part part = Part::All;
+    FoldedNeedle::Sigmas sigmas = FoldedNeedle::Sigmas::Apart;
+
+    /// Nothing for a pattern that is left to the database.
+    static std::optional<Literal> of(const QString &pattern, Part part,
+                                     FoldedNeedle::Sigmas sigmas = FoldedNeedle::Sigmas::Apart)
+    {
+        const QByteArray bytes = pattern.toUtf8();
+        auto needle = FoldedNeedle::ofPattern(bytes.toStdString(), likeEscape, sigmas);
+        if (!needle || bytes.size() > longestPattern)
+            return {};
+        return Literal{.needle = std::move(*needle), .pattern = bytes, .part = part, .sigmas = sigmas};
+    }
+};
+
+std::optional<std::vector<HistoryText::Literal>> HistoryText::wordsOf(const HistoryQuery &query)
+{
+    const QStringList patterns = query.patterns();
+    if (patterns.size() > mostWords)
+        return {};
+    std::vector<Literal> result;
+    for (qsizetype i = 0; i < patterns.size(); ++i) {
+        const bool isWord = i < query.words.size();
+        const auto sigmas =
+            isWord && hasSigma(query.words[i]) ? FoldedNeedle::Sigmas::AsOne : FoldedNeedle::Sigmas::Apart;
+        std::optional<Literal> literal = Literal::of(patterns[i], isWord ? Part::All : Part::Url, sigmas);
+        if (!literal)
+            return {};
+        result.push_back(std::move(*literal));
+    }
+    return result;
+}
+
+std::optional<HistoryText::Answer> HistoryText::search(const HistoryQuery &query,
+                                                       const RowNumbers *among) const
+{
+    std::optional<RowNumbers> rows = find(query, among);
+    if (!rows)
+        return {};
+    return Answer{.results = results(query, *rows), .rows = std::move(*rows)};
+}
+
+std::optional<HistoryText::RowNumbers> HistoryText::find(const HistoryQuery &query,
+                                                         const RowNumbers *among) const
+{
+    std::optional<std::vector<Literal>> words = wordsOf(query);
+    if (!words)
+        return {};
+    // A page of the site has one of these in its address.
+    const std::vector<Literal> sitePatterns(words->begin() + query.words.size(), words->end());
+    words->erase(words->begin() + query.words.size(), words->end());
+    if (query.site && !query.site->isEmpty()) {
+        std::optional<Literal> site = Literal::of(HistoryQuery::pattern(*query.site), Part::Url);
+        if (!site)
+            return {};
+        words->push_back(std::move(*site));
+    }
+
+    RowNumbers rows;
+    if (words->empty()) {
+        if (among != nullptr) {
+            rows = *among;
+        } else {
+            rows.reserve(m_rows.size());
+            for (RowNumber row = 0; row < rowCount(); ++row)
+                rows.push_back(row);
+        }
+    } else {
+        // What the newest rows have seldom, all have seldom.
+        constexpr RowNumber sampleSize = 2000;
+        std::vector<std::tuple<size_t, qsizetype, const Literal *>> byRarity;
+        for (const Literal &word : *words) {
+            const size_t found =
+                words->size() == 1 ? 0 : findAll(word, std::min(sampleSize, rowCount())).size();
+            byRarity.emplace_back(found, -static_cast<qsizetype>(word.needle.size()), &word);
+        }
+        std::ranges::sort(byRarity);
+        const Literal &rarest = *std::get<const Literal *>(byRarity.front());
+        rows = among != nullptr ? findAmong(rarest, *among) : findAll(rarest, rowCount());
+        for (size_t i = 1; i < byRarity.size(); ++i)
+            rows = findAmong(*std::get<const Literal *>(byRarity[i]), rows);
+    }
+    if (!sitePatterns.empty()) {
+        std::erase_if(rows, [&](RowNumber row) {
+            return std::ranges::none_of(sitePatterns,
+                                        [&](const Literal &pattern) { return isFoundIn(row, pattern); });
+        });
+    }
+    return rows;
+}
+
+HistoryText::RowNumbers HistoryText::findAll(const Literal &literal, RowNumber end) const
+{
+    RowNumbers found;
+    const size_t textEnd = m_starts[end];
+    RowNumber row = 0;
+    size_t place = literal.needle.find(text(), 0, textEnd);
+    while (place != FoldedNeedle::nowhere) {
+        row = rowAt(place, row);
+        if (isHit(place, row, literal))
+            found.push_back(row);
+        ++row;
+        place = literal.needle.find(text(), m_starts[row], textEnd);
+    }
+    if (literal.needle.isAscii() || m_broken.empty())
+        return found;
+    std::erase_if(found, [this](RowNumber candidate) { return isBroken(candidate); });
+    const auto regular = static_cast<std::ptrdiff_t>(found.size());
+    for (const RowNumber broken : m_broken) {
+        if (broken < end && isLike(broken, literal))
+            found.push_back(broken);
+    }
+    std::ranges::inplace_merge(found, found.begin() + regular);
+    return found;
+}
+
+HistoryText::RowNumbers HistoryText::findAmong(const Literal &literal, const RowNumbers &among) const
+{
+    RowNumbers found;
+    // Where most rows are left, going through all is quicker than from one to the next.
+    constexpr size_t few = 8;
+    if (among.size() > m_rows.size() / few) {
+        const RowNumbers all = findAll(literal, rowCount());
+        std::ranges::set_intersection(all, among, std::back_inserter(found));
+    } else {
+        std::ranges::copy_if(among, std::back_inserter(found),
+                             [&](RowNumber row) { return isFoundIn(row, literal); });
+    }
+    return found;
+}
+
+bool HistoryText::isFoundIn(RowNumber row, const Literal &literal) const
+{
+    if (!literal.needle.isAscii() && isBroken(row))
+        return isLike(row, literal);
+    const size_t end = literal.part == Part::Url ? urlEnd(row) : m_starts[row + 1];
+    const size_t place = literal.needle.find(text(), m_starts[row], end);
+    return place != FoldedNeedle::nowhere && isHit(place, row, literal);
+}
+
+/// As the database itself would compare.
+bool HistoryText::isLike(RowNumber row, const Literal &literal) const
+{
+    const char *start = m_text.get() + m_starts[row];
+    std::string text;
+    if (literal.part == Part::Url)
+        text.assign(start, m_urlSizes[row]);
+    else if (searched(row) == HistoryTextRow::Searched::Nothing)
+        return false;
+    else
+        text = start;
+    if (literal.sigmas == FoldedNeedle::Sigmas::AsOne)
+        text = withPlainSigmaBytes(std::move(text));
+    return sqlite3_strlike(literal.pattern.constData(), text.c_str(), likeEscape) == 0;
+}
+
+/// Whether the first place in a row where the bytes are is one that is searched.
+bool HistoryText::isHit(size_t place, RowNumber row, const Literal &literal) const
+{
+    const size_t end = urlEnd(row);
+    if (literal.part == Part::All && searched(row) != HistoryTextRow::Searched::Url)
+        return searched(row) == HistoryTextRow::Searched::All;
+    return place + literal.needle.size() <= end;
+}
+
+bool HistoryText::isBroken(RowNumber row) const
+{
+    return std::ranges::binary_search(m_broken, row);
+}
+
+/// The row to which a place belongs, which is `from` or, often, one soon after it.
+HistoryText::RowNumber HistoryText::rowAt(size_t place, RowNumber from) const
+{
+    size_t low = from;
+    size_t step = 1;
+    while (low + step < m_rows.size() && m_starts[low + step] <= place) {
+        low += step;
+        step *= 2;
+    }
+    const size_t high = std::min(low + step, m_rows.size());
+    const auto begin = m_starts.begin();
+    const auto next = std::upper_bound(begin + static_cast<std::ptrdiff_t>(low),
+                                       begin + static_cast<std::ptrdiff_t>(high), place);
+    return static_cast<RowNumber>(next - begin - 1);
+}
+
+HistoryResults HistoryText::results(const HistoryQuery &query, const RowNumbers &rows) const
+{
+    // The newest row of a page that matches stands for it.
+    QSet<qint64> sharedPages;
+    const auto isRepeated = [&](RowNumber row) {
+        if (m_areOfSharedPage.empty() || !m_areOfSharedPage[row])
+            return false;
+        const qsizetype known = sharedPages.size();
+        sharedPages.insert(m_rows[row].id);
+        return sharedPages.size() == known;
+    };
+    const size_t limit =
+        query.limit < 0 ? rows.size() : std::min(rows.size(), static_cast<size_t>(query.limit));
+    RowNumbers chosen;
+    if (query.order == HistoryQuery::Order::Latest) {
+        for (size_t i = 0; i < rows.size() && chosen.size() < limit; ++i) {
+            if (!isRepeated(rows[i]))
+                chosen.push_back(rows[i]);
+        }
+    } else {
+        std::ranges::remove_copy_if(rows, std::back_inserter(chosen), isRepeated);
+        const auto middle = chosen.begin() + static_cast<std::ptrdiff_t>(std::min(limit, chosen.size()));
+        std::ranges::partial_sort(chosen, middle, [this](RowNumber left, RowNumber right) {
+            const qint64 leftCount = m_rows[left].visitCount;
+            const qint64 rightCount = m_rows[right].visitCount;
+            return leftCount != rightCount ? leftCount > rightCount : left < right;
+        });
+        chosen.erase(middle, chosen.end());
+    }
+    HistoryResults results;
+    results.items.reserve(static_cast<qsizetype>(chosen.size()));
+    for (const RowNumber row : chosen) {
+        if (!std::isnan(m_rows[row].lastVisit))
+            results.items.append(item(row));
+    }
+    results.isCapped = query.isSearch() && results.items.size() >= query.limit;
+    return results;
+}
+
+HistoryItem HistoryText::item(RowNumber row) const
+{
+    const auto piece = [this](size_t start, size_t end) {
+        return utf8Text({m_text.get() + start, static_cast<qsizetype>(end - start)});
+    };
+    const Row &facts = m_rows[row];
+    return HistoryItem::ofRow(facts.id, piece(urlEnd(row) + 1, m_starts[row + 1] - 1),
+                              piece(m_starts[row], urlEnd(row)), pointInTime(facts.lastVisit),
+                              facts.visitCount, m_source);
+}
+
+std::shared_ptr<const HistoryText> HistoryText::empty(const Source &source)
+{
+    return Builder(source, Builder::Ties::FirstRead, Builder::Pages::OneRow, 0).finish({});
+}
+
+size_t HistoryText::byteCount() const
+{
+    return m_starts.back() + m_starts.capacity() * sizeof(m_starts.front()) +
+           m_urlSizes.capacity() * sizeof(std::uint32_t) + m_rows.capacity() * sizeof(Row) +
+           m_broken.capacity() * sizeof(RowNumber) + m_areOfSharedPage.capacity() / 8;
+}
+
+} // namespace roamlet

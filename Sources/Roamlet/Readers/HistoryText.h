@@ -1,0 +1,163 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "Model/HistoryQuery.h"
+#include "Model/Source.h"
+
+#include <cstdint>
+#include <memory>
+#include <memory_resource>
+#include <optional>
+#include <stop_token>
+#include <string_view>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+namespace roamlet
+{
+
+/// One row as the text of a history is made of it; the texts end before their first NUL.
+struct HistoryTextRow {
+    /// What words are looked for in. The value stands between the address and the title: a NUL ends a text,
+    /// and the last byte is in none that a search looks for.
+    enum class Searched : char {
+        All = ' ',        ///< the address, a blank and the title
+        Url = '\0',       ///< the address alone
+        Nothing = '\xFF', ///< nothing: no word finds the row
+    };
+
+    qint64 id = 0;
+    std::string_view url = "";
+    std::string_view title = "";
+    Searched searched = Searched::All;
+    /// What the latest rows are sorted by, the largest first.
+    qint64 order = 0;
+    /// Nothing for "never": such a row takes a place among those that are found and is not shown.
+    std::optional<PointInTime> lastVisit = std::nullopt;
+    qint64 visitCount = 0;
+};
+
+/// All that a search of one source's history could find, as one text in memory, newest row first. It answers
+/// as the database does from which it was read. Never changes; any thread may ask, several at a time.
+class HistoryText
+{
+public:
+    using RowNumber = std::uint32_t;
+    /// Ascending, so the newest rows are first.
+    using RowNumbers = std::vector<RowNumber>;
+
+    struct Answer {
+        /// The rows in the query's order and at most as many as it says.
+        HistoryResults results;
+        /// All rows that match, for a later query that is within this one.
+        RowNumbers rows;
+    };
+
+    class Builder;
+
+    /// The answer to a query, or nothing where only the database can give it: for a NUL and for more or
+    /// longer words than anybody types, some of which are an error. When the query is within an earlier one
+    /// (see HistoryQuery::isWithin), only the rows `among` that one found are looked at.
+    std::optional<Answer> search(const HistoryQuery &query, const RowNumbers *among = nullptr) const;
+
+    /// The text of a source that has no history.
+    static std::shared_ptr<const HistoryText> empty(const Source &source);
+
+    RowNumber rowCount() const { return static_cast<RowNumber>(m_rows.size()); }
+    /// The memory that it takes.
+    size_t byteCount() const;
+
+private:
+    struct Row {
+        qint64 id = 0;
+        /// Seconds since 1970; NaN for "never".
+        double lastVisit = 0;
+        qint64 visitCount = 0;
+    };
+    enum class Part { All, Url };
+    struct Literal;
+
+    explicit HistoryText(Source source) : m_source(std::move(source)) {}
+
+    static std::optional<std::vector<Literal>> wordsOf(const HistoryQuery &query);
+    std::optional<RowNumbers> find(const HistoryQuery &query, const RowNumbers *among) const;
+    RowNumbers findAll(const Literal &literal, RowNumber end) const;
+    RowNumbers findAmong(const Literal &literal, const RowNumbers &among) const;
+    HistoryResults results(const HistoryQuery &query, const RowNumbers &rows) const;
+    HistoryItem item(RowNumber row) const;
+
+    bool isFoundIn(RowNumber row, const Literal &literal) const;
+    bool isLike(RowNumber row, const Literal &literal) const;
+    bool isHit(size_t place, RowNumber row, const Literal &literal) const;
+    bool isBroken(RowNumber row) const;
+    RowNumber rowAt(size_t place, RowNumber from) const;
+    HistoryTextRow::Searched searched(RowNumber row) const
+    {
+        return static_cast<HistoryTextRow::Searched>(m_text[urlEnd(row)]);
+    }
+    size_t urlEnd(RowNumber row) const { return m_starts[row] + m_urlSizes[row]; }
+    std::string_view text() const { return {m_text.get(), m_starts.back()}; }
+
+    Source m_source;
+    /// Of each row the address, a separator, the title and a NUL, as they stand in the database.
+    std::unique_ptr<char[]> m_text;
+    /// Where each row begins, and after them the end of the last one.
+    std::vector<std::uint32_t> m_starts;
+    std::vector<std::uint32_t> m_urlSizes;
+    std::vector<Row> m_rows;
+    /// The rows in which a letter beyond ASCII may be spelt in other bytes than those that are looked for.
+    RowNumbers m_broken;
+    /// Whether a row is one of several of its page; empty when no page has several.
+    std::vector<bool> m_areOfSharedPage;
+};
+
+/// Takes the rows and makes a text of them. Until that is done, they take two or three times the memory.
+class HistoryText::Builder
+{
+public:
+    enum class Ties {
+        FirstRead, ///< rows of the same time come in the order in which they are added
+        LastRead,  ///< in the opposite order
+    };
+    enum class Pages {
+        OneRow,     ///< each row is another page
+        SeveralRows ///< a page has a row for each of its titles, one after the other; the newest one is found
+    };
+
+    Builder(Source source, Ties ties, Pages pages, size_t mostBytes);
+
+    /// Throws std::bad_alloc when the text would take more than the most bytes, or there are no more to be
+    /// had.
+    void add(const HistoryTextRow &row);
+    /// The text, or nothing when a stop was requested. Throws std::bad_alloc as well.
+    std::shared_ptr<const HistoryText> finish(const std::stop_token &stop);
+
+private:
+    struct Entry {
+        qint64 order = 0;
+        Row row;
+        const char *text = nullptr;
+        std::uint32_t urlSize = 0;
+        std::uint32_t size = 0;
+        std::uint32_t number = 0;
+        bool isOfSharedPage = false;
+        bool isBroken = false;
+    };
+
+    Entry *sameTitle(const HistoryTextRow &row);
+
+    std::shared_ptr<HistoryText> m_made;
+    Ties m_ties;
+    Pages m_pages;
+    size_t m_bytesLeft;
+    size_t m_textSize = 0;
+    std::pmr::monotonic_buffer_resource m_texts;
+    std::vector<Entry> m_entries;
+    /// The rows of the page that was added last, by their titles.
+    std::unordered_map<std::string_view, size_t> m_titles;
+};
+
+} // namespace roamlet
