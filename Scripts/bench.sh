@@ -218,5 +218,14 @@ for group in GroupByDay GroupBySite; do
     "$(listed "$group/100000/5000")" "$(listed CopyRows/100000/5000)" 5
 done
 
+medians BenchmarkHistoryText >"$work/text"
+texted() { awk -v name="$1" '$1 == name { print $2 }' "$work/text"; }
+row "a word in the text of 1,000,000 rows (ms)" "one memchr over as many bytes" \
+  "$(texted SearchForNothing)" "$(texted OnePassOfMemchr)" 3
+row "a letter in the text of 1,000,000 rows (ms)" "a search of the database" \
+  "$(texted SearchForALetter)" "$(texted SearchOfTheDatabase)" 0.1
+row "reading the text of 1,000,000 rows (ms)" "a search of the database" \
+  "$(texted BuildFromTheDatabase)" "$(texted SearchOfTheDatabase)" 5
+
 printf '\n%-52s | %-40s | %9s | %9s | %5s | %5s |\n' "job" "against" "ours" "theirs" "ratio" "most"
 printf '%s\n' "${rows[@]}"
