@@ -76,7 +76,7 @@ bool isTooDeep(Format format, const QList<BookmarkNode> &tree)
             continue;
         }
         // A folder takes three lines and the deepest format four blanks for each level.
-        blanks += 3 * 4 * static_cast<qint64>(open.size());
+        blanks += qint64{3} * 4 * static_cast<qint64>(open.size());
         if (blanks > mostBlanks)
             return true;
         const BookmarkNode &node = level.nodes->at(level.next++);

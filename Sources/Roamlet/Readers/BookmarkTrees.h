@@ -18,6 +18,8 @@ using ReadErrors = QList<ReadError>;
 struct BookmarkTrees {
     QList<BookmarkNode> roots;
     /// Why a part of them is missing, for each file that could not be read beside others that could.
+    // The compiler wants it from whoever names only some of the members.
+    // NOLINTNEXTLINE(readability-redundant-member-init)
     ReadErrors problems = {};
     /// Whether the browser keeps the bookmarks of this profile in encrypted form only.
     bool areEncrypted = false;

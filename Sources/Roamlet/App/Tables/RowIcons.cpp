@@ -51,7 +51,8 @@ const QIcon &RowIcons::browser(Source::Kind kind)
     if (icon == m_browsers.cend()) {
         const std::optional<QImage> image = m_opener.icon(kind, m_ratio);
         const bool isSafari = Browser::of(kind).family == Browser::Family::Safari;
-        icon = m_browsers.insert(kind, image ? iconOf(*image) : isSafari ? symbolIcon(u"safari"_s) : m_globe);
+        const QIcon symbol = isSafari ? symbolIcon(u"safari"_s) : m_globe;
+        icon = m_browsers.insert(kind, image ? iconOf(*image) : symbol);
     }
     return *icon;
 }
