@@ -146,7 +146,7 @@ void HistoryTable::makeList()
         return;
     }
     const HistoryResults &results = m_standIn ? *m_standIn : m_found->results;
-    const auto now = std::chrono::time_point_cast<PointInTime::duration>(services().clock.now());
+    const PointInTime now = services().clock.now();
     // The databases have searched already; what is left is sorting.
     maker().make(
         key(), results.items, {},
