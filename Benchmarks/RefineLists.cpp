@@ -22,9 +22,6 @@ namespace
 using namespace roamlet;
 using namespace Qt::StringLiterals;
 
-using Comparator = SortComparator<HistoryItem>;
-using Column = Comparator::Column;
-
 /// A fixed moment: 2026-05-09 06:13:20 UTC.
 constexpr PointInTime now = pointInTime(1'778'307'200);
 
@@ -62,12 +59,12 @@ QList<HistoryItem> history(qsizetype count, int siteCount)
 /// Every row has them, so that the whole list is left to be sorted.
 const QStringList words{u"example"_s, u"articles"_s};
 
-const QList<Comparator> byVisitsAndTitle{{Column::VisitCount, SortOrder::Reverse},
-                                         {Column::Title, SortOrder::Forward}};
-const QList<Comparator> byTitleAndDate{{Column::Title, SortOrder::Forward},
-                                       {Column::LastVisit, SortOrder::Reverse}};
-const QList<Comparator> byVisitsAndDate{{Column::VisitCount, SortOrder::Reverse},
-                                        {Column::LastVisit, SortOrder::Reverse}};
+const QList<SortComparator> byVisitsAndTitle{{SortColumn::Visits, SortOrder::Reverse},
+                                             {SortColumn::Title, SortOrder::Forward}};
+const QList<SortComparator> byTitleAndDate{{SortColumn::Title, SortOrder::Forward},
+                                           {SortColumn::Date, SortOrder::Reverse}};
+const QList<SortComparator> byVisitsAndDate{{SortColumn::Visits, SortOrder::Reverse},
+                                            {SortColumn::Date, SortOrder::Reverse}};
 
 /// The same by hand: pick the rows, then let them be compared in pairs.
 template<typename Less>
@@ -85,12 +82,12 @@ void sortByHand(benchmark::State &state, Less less)
     }
 }
 
-void refineBy(benchmark::State &state, const QList<Comparator> &order)
+void refineBy(benchmark::State &state, const QList<SortComparator> &order)
 {
     const QList<HistoryItem> rows = history(state.range(0), 5000);
     const Collation collation(u"en_US"_s);
     for ([[maybe_unused]] auto iteration : state) {
-        const auto result = refinedRows(rows, words, order, &HistoryItem::searchKey, collation);
+        const auto result = refine(rows, words.join(u' '), order, &HistoryItem::searchKey, collation);
         benchmark::DoNotOptimize(result->constData());
     }
 }

@@ -175,8 +175,8 @@ TEST_F(ResponsivenessTest, aListOfTenThousandRowsIsSortedAndPainted)
 
     const auto beforeSort = std::chrono::steady_clock::now();
     const Collation collation(UserLocale::collation());
-    const auto sorted = sortedRows(rows, {{SortColumns<HistoryItem>::Column::Title, SortOrder::Forward}},
-                                   collation, std::stop_token());
+    const auto sorted =
+        sortedRows(rows, {{SortColumn::Title, SortOrder::Forward}}, collation, std::stop_token());
     const auto sort = std::chrono::steady_clock::now() - beforeSort;
 
     FirstRowWatch watch(view);

@@ -48,6 +48,7 @@ Readers Platform kept
 Readers Library broken
 Readers Platform/Linux broken
 Library Readers kept
+Library Lists kept
 Library Export broken
 Library App broken
 Lists Model kept

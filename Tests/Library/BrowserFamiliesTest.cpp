@@ -200,10 +200,8 @@ TEST_F(BrowserFamiliesTest, rowsGetANewLabelWhenAnotherInstallationComes)
     EXPECT_EQ(library.snapshot().history.value(0).source.label(), u"Firefox - default");
     addFirefox();
     loadNow(library, QSet<QString>{u"firefox/abc.default"_s});
-    const QList<Source> sources = library.snapshot().sources;
-    for (const HistoryResults &rows :
-         {HistoryResults{.items = library.snapshot().history},
-          LibraryReading::latestHistory(sources, library.snapshot(), home.context())}) {
+    for (const HistoryResults &rows : {HistoryResults{.items = library.snapshot().history},
+                                       library.queryHistory(HistoryQuery::recent(), {}).run({})}) {
         const auto row = std::ranges::find_if(rows.items, [](const HistoryItem &item) {
             return item.source.id() == u"firefox@flatpak/abc.default";
         });

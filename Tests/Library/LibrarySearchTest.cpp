@@ -5,11 +5,9 @@
 #include "Support/LibraryHome.h"
 #include "Support/Waiting.h"
 
-#include <QCoreApplication>
 #include <QFile>
 
-#include <memory>
-#include <semaphore>
+#include <stop_token>
 
 namespace roamlet::testing
 {
@@ -34,18 +32,10 @@ protected:
     }
 
     /// What the Library answers about the source, or about all of them.
-    static HistoryResults ask(Library &library, const std::optional<QString> &id,
+    static HistoryResults ask(const Library &library, const std::optional<QString> &id,
                               const HistoryQuery &query = HistoryQuery::recent())
     {
-        QObject context;
-        std::optional<HistoryResults> results;
-        library.queryHistory(query, id, &context, [&results](const HistoryResults &delivered) {
-            EXPECT_FALSE(results) << "once";
-            results = delivered;
-        });
-        EXPECT_FALSE(results) << "never before the call has returned";
-        EXPECT_TRUE(waitUntil([&results] { return results.has_value(); }));
-        return results.value_or(HistoryResults());
+        return library.queryHistory(query, id).run({});
     }
 
     static QStringList sortedTitles(const HistoryResults &results)
@@ -240,7 +230,8 @@ TEST_F(LibrarySearchTest, theLatestRowsOfUnchangedFilesAreNotReadAgain)
     loadNow(library);
     recordReads();
     const QList<HistoryItem> &known = library.snapshot().history;
-    EXPECT_TRUE(ask(library, {}).items.isSharedWith(known)) << "nor do they take memory of their own";
+    EXPECT_TRUE(library.queryHistory(HistoryQuery::recent(), {}).known()->items.isSharedWith(known))
+        << "nor do they take memory of their own";
     EXPECT_EQ(titles(ask(library, u"chrome/Default"_s).items), (QStringList{u"a1"_s, u"a2"_s}));
     EXPECT_FALSE(ask(library, {}).isCapped);
     EXPECT_EQ(takeReads(), QStringList());
@@ -334,42 +325,40 @@ TEST_F(LibrarySearchTest, aSearchDoesNotWaitForALoad)
     ASSERT_TRUE(waitUntil([&library] { return !library.isLoading(); }));
 }
 
-TEST_F(LibrarySearchTest, aSearchThatIsDroppedDeliversNothing)
+TEST_F(LibrarySearchTest, aQuestionIsToTheLibraryAsItWasWhenItWasAsked)
 {
     addChromium();
     Library library(home.platform());
     loadNow(library);
-    QObject context;
-    int deliveries = 0;
-    const auto count = [&deliveries](const HistoryResults &) { ++deliveries; };
-    Gate gate;
-    recordReads(&gate);
-    std::stop_source dropped = library.queryHistory(mostVisited(), {}, &context, count);
-    gate.awaitReader();
-    dropped.request_stop();
-    auto shortLived = std::make_unique<QObject>();
-    library.queryHistory(mostVisited(), {}, shortLived.get(), count);
-    shortLived.reset();
-    gate.open();
-    EXPECT_EQ(ask(library, {}).items.size(), 4);
-    ASSERT_TRUE(waitUntil([this] { return home.leftovers().isEmpty(); }));
-    QCoreApplication::processEvents();
-    EXPECT_EQ(deliveries, 0);
+    const HistorySearch search = library.queryHistory(mostVisited(), {});
+    library.setEnabled(false, *library.source(u"edge/Default"_s));
+    ASSERT_TRUE(waitUntil([&library] { return !library.isLoading(); }));
+    EXPECT_EQ(sortedTitles(search.run({})), (QStringList{u"a1"_s, u"a2"_s, u"b1"_s, u"e1"_s}));
 }
 
-TEST_F(LibrarySearchTest, aLibraryThatGoesDuringASearchLeavesNothing)
+TEST_F(LibrarySearchTest, onlyTheLatestRowsOfUnchangedFilesAreKnown)
 {
     addChromium();
-    std::counting_semaphore<> copies(0);
-    QObject context;
-    {
-        Library library(home.platform());
-        loadNow(library);
-        home.files.afterCopy = [&copies](const QString &) { copies.release(); };
-        library.queryHistory(mostVisited(), {}, &context, [](const HistoryResults &) { FAIL(); });
-        copies.acquire();
-    }
-    QCoreApplication::processEvents();
+    Library library(home.platform());
+    loadNow(library);
+    EXPECT_FALSE(library.queryHistory(mostVisited(), {}).known());
+    EXPECT_FALSE(library.queryHistory(mostVisited(), {}).standIn());
+    setChromeHistory(u"Profile 1"_s, {u"since then"_s});
+    const HistorySearch all = library.queryHistory(HistoryQuery::recent(), {});
+    EXPECT_FALSE(all.known());
+    EXPECT_EQ(titles(all.standIn()->items), (QStringList{u"a1"_s, u"a2"_s, u"b1"_s, u"e1"_s}));
+    const HistorySearch one = library.queryHistory(HistoryQuery::recent(), u"edge/Default"_s);
+    EXPECT_EQ(titles(one.known()->items), QStringList{u"e1"_s});
+}
+
+TEST_F(LibrarySearchTest, aSearchThatIsStoppedEnds)
+{
+    addChromium();
+    Library library(home.platform());
+    loadNow(library);
+    std::stop_source stop;
+    stop.request_stop();
+    EXPECT_TRUE(library.queryHistory(mostVisited(), {}).run(stop.get_token()).items.isEmpty());
     EXPECT_TRUE(home.leftovers().isEmpty());
 }
 

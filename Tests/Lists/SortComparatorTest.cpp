@@ -14,8 +14,6 @@ namespace roamlet::testing
 
 using namespace Qt::StringLiterals;
 
-using History = SortComparator<HistoryItem>;
-
 TEST(OptionalDateComparator, anAbsentDateIsLaterThanEveryDate)
 {
     const OptionalDateComparator forward{SortOrder::Forward};
@@ -76,28 +74,46 @@ TEST(SortRank, hasTheOrderOfTheNumbers)
         EXPECT_LT(sortRank(ascending[i - 1]), sortRank(ascending[i])) << i;
 }
 
+TEST(SortComparator, theColumnClickedLastDecidesFirst)
+{
+    using Order = QList<SortComparator>;
+    const Order byTitle = orderAfterClick({}, SortColumn::Title);
+    EXPECT_EQ(byTitle, (Order{{SortColumn::Title, SortOrder::Forward}}));
+    const Order byVisits = orderAfterClick(byTitle, SortColumn::Visits);
+    EXPECT_EQ(byVisits,
+              (Order{{SortColumn::Visits, SortOrder::Reverse}, {SortColumn::Title, SortOrder::Forward}}))
+        << "the most first";
+    const Order reversed = orderAfterClick(byVisits, SortColumn::Visits);
+    EXPECT_EQ(reversed,
+              (Order{{SortColumn::Visits, SortOrder::Forward}, {SortColumn::Title, SortOrder::Forward}}));
+    EXPECT_EQ(orderAfterClick(reversed, SortColumn::Title),
+              (Order{{SortColumn::Title, SortOrder::Forward}, {SortColumn::Visits, SortOrder::Forward}}));
+    EXPECT_EQ(orderAfterClick({}, SortColumn::Date), (Order{{SortColumn::Date, SortOrder::Reverse}}))
+        << "the newest first";
+    for (const SortColumn column : {SortColumn::Folder, SortColumn::Source})
+        EXPECT_EQ(orderAfterClick({}, column), (Order{{column, SortOrder::Forward}}));
+}
+
 TEST(SortComparator, isEqualForTheSameColumnAndDirection)
 {
-    const History comparator{History::Column::Title, SortOrder::Forward};
-    EXPECT_EQ(comparator, (History{History::Column::Title, SortOrder::Forward}));
-    EXPECT_NE(comparator, (History{History::Column::Title, SortOrder::Reverse}));
-    EXPECT_NE(comparator, (History{History::Column::Source, SortOrder::Forward}));
-    EXPECT_EQ(qHash(comparator), qHash(History{History::Column::Title, SortOrder::Forward}));
-    EXPECT_NE(qHash(comparator), qHash(History{History::Column::Title, SortOrder::Reverse}));
+    const SortComparator comparator{SortColumn::Title, SortOrder::Forward};
+    EXPECT_EQ(comparator, (SortComparator{SortColumn::Title, SortOrder::Forward}));
+    EXPECT_NE(comparator, (SortComparator{SortColumn::Title, SortOrder::Reverse}));
+    EXPECT_NE(comparator, (SortComparator{SortColumn::Source, SortOrder::Forward}));
+    EXPECT_EQ(qHash(comparator), qHash(SortComparator{SortColumn::Title, SortOrder::Forward}));
+    EXPECT_NE(qHash(comparator), qHash(SortComparator{SortColumn::Title, SortOrder::Reverse}));
 }
 
 TEST(NewestFirst, isFalseOnlyWithTheOldestVisitsOnTop)
 {
-    EXPECT_FALSE(newestFirst({{History::Column::LastVisit, SortOrder::Forward}}));
-    EXPECT_FALSE(newestFirst(
-        {{History::Column::LastVisit, SortOrder::Forward}, {History::Column::Title, SortOrder::Reverse}}));
-    EXPECT_TRUE(newestFirst({{History::Column::LastVisit, SortOrder::Reverse}}));
+    EXPECT_FALSE(newestFirst({{SortColumn::Date, SortOrder::Forward}}));
+    EXPECT_FALSE(
+        newestFirst({{SortColumn::Date, SortOrder::Forward}, {SortColumn::Title, SortOrder::Reverse}}));
+    EXPECT_TRUE(newestFirst({{SortColumn::Date, SortOrder::Reverse}}));
     EXPECT_TRUE(newestFirst({}));
-    for (const History::Column column :
-         {History::Column::Title, History::Column::VisitCount, History::Column::Source}) {
+    for (const SortColumn column : {SortColumn::Title, SortColumn::Visits, SortColumn::Source}) {
         EXPECT_TRUE(newestFirst({{column, SortOrder::Forward}}));
-        EXPECT_TRUE(
-            newestFirst({{column, SortOrder::Forward}, {History::Column::LastVisit, SortOrder::Forward}}))
+        EXPECT_TRUE(newestFirst({{column, SortOrder::Forward}, {SortColumn::Date, SortOrder::Forward}}))
             << "the first comparator decides";
     }
 }

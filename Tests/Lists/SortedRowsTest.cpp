@@ -16,14 +16,11 @@ namespace roamlet::testing
 
 using namespace Qt::StringLiterals;
 
-using History = SortComparator<HistoryItem>;
-using Bookmarks = SortComparator<Bookmark>;
-
 namespace
 {
 
 template<typename Row>
-std::string sortedTitles(const QList<Row> &rows, const QList<SortComparator<Row>> &order,
+std::string sortedTitles(const QList<Row> &rows, const QList<SortComparator> &order,
                          const QString &locale = u"en_US"_s)
 {
     return titles(*sortedRows(rows, order, Collation(locale)));
@@ -36,14 +33,14 @@ TEST(SortedRows, eachColumnOfHistoryHasItsOrder)
     const QList<HistoryItem> rows{visited(u"b9"_s, pointInTime(3), 10, chrome(u"Work 2"_s)),
                                   visited(u"B10"_s, pointInTime(1), -1, chrome(u"work 10"_s)),
                                   visited(u"a"_s, pointInTime(2), 9, Source::safari())};
-    EXPECT_EQ(sortedTitles(rows, {{History::Column::Title, SortOrder::Forward}}), "a b9 B10");
-    EXPECT_EQ(sortedTitles(rows, {{History::Column::Title, SortOrder::Reverse}}), "B10 b9 a");
-    EXPECT_EQ(sortedTitles(rows, {{History::Column::LastVisit, SortOrder::Forward}}), "B10 a b9");
-    EXPECT_EQ(sortedTitles(rows, {{History::Column::LastVisit, SortOrder::Reverse}}), "b9 a B10");
-    EXPECT_EQ(sortedTitles(rows, {{History::Column::VisitCount, SortOrder::Forward}}), "B10 a b9");
-    EXPECT_EQ(sortedTitles(rows, {{History::Column::VisitCount, SortOrder::Reverse}}), "b9 a B10");
-    EXPECT_EQ(sortedTitles(rows, {{History::Column::Source, SortOrder::Forward}}), "b9 B10 a");
-    EXPECT_EQ(sortedTitles(rows, {{History::Column::Source, SortOrder::Reverse}}), "a B10 b9");
+    EXPECT_EQ(sortedTitles(rows, {{SortColumn::Title, SortOrder::Forward}}), "a b9 B10");
+    EXPECT_EQ(sortedTitles(rows, {{SortColumn::Title, SortOrder::Reverse}}), "B10 b9 a");
+    EXPECT_EQ(sortedTitles(rows, {{SortColumn::Date, SortOrder::Forward}}), "B10 a b9");
+    EXPECT_EQ(sortedTitles(rows, {{SortColumn::Date, SortOrder::Reverse}}), "b9 a B10");
+    EXPECT_EQ(sortedTitles(rows, {{SortColumn::Visits, SortOrder::Forward}}), "B10 a b9");
+    EXPECT_EQ(sortedTitles(rows, {{SortColumn::Visits, SortOrder::Reverse}}), "b9 a B10");
+    EXPECT_EQ(sortedTitles(rows, {{SortColumn::Source, SortOrder::Forward}}), "b9 B10 a");
+    EXPECT_EQ(sortedTitles(rows, {{SortColumn::Source, SortOrder::Reverse}}), "a B10 b9");
 }
 
 TEST(SortedRows, eachColumnOfBookmarksHasItsOrder)
@@ -52,11 +49,11 @@ TEST(SortedRows, eachColumnOfBookmarksHasItsOrder)
     safari.source = Source::safari();
     const QList<Bookmark> rows{safari, bookmark(u"a"_s, pointInTime(1), {u"B"_s}),
                                bookmark(u"b"_s, {}, {u"a 2"_s})};
-    EXPECT_EQ(sortedTitles(rows, {{Bookmarks::Column::Title, SortOrder::Forward}}), "a b c");
-    EXPECT_EQ(sortedTitles(rows, {{Bookmarks::Column::Folder, SortOrder::Forward}}), "c b a");
-    EXPECT_EQ(sortedTitles(rows, {{Bookmarks::Column::Folder, SortOrder::Reverse}}), "a b c");
-    EXPECT_EQ(sortedTitles(rows, {{Bookmarks::Column::DateAdded, SortOrder::Forward}}), "a c b");
-    EXPECT_EQ(sortedTitles(rows, {{Bookmarks::Column::Source, SortOrder::Forward}}), "a b c");
+    EXPECT_EQ(sortedTitles(rows, {{SortColumn::Title, SortOrder::Forward}}), "a b c");
+    EXPECT_EQ(sortedTitles(rows, {{SortColumn::Folder, SortOrder::Forward}}), "c b a");
+    EXPECT_EQ(sortedTitles(rows, {{SortColumn::Folder, SortOrder::Reverse}}), "a b c");
+    EXPECT_EQ(sortedTitles(rows, {{SortColumn::Date, SortOrder::Forward}}), "a c b");
+    EXPECT_EQ(sortedTitles(rows, {{SortColumn::Source, SortOrder::Forward}}), "a b c");
 }
 
 TEST(SortedRows, nodesOfATreeSortByTitleAndDate)
@@ -68,35 +65,32 @@ TEST(SortedRows, nodesOfATreeSortByTitleAndDate)
     leaf.title = u"a"_s;
     leaf.dateAdded = pointInTime(1);
     const QList<BookmarkNode> nodes{folder, leaf};
-    using Nodes = SortComparator<BookmarkNode>;
-    EXPECT_EQ(sortedTitles(nodes, {{Nodes::Column::Title, SortOrder::Forward}}), "a b");
-    EXPECT_EQ(sortedTitles(nodes, {{Nodes::Column::Title, SortOrder::Reverse}}), "b a");
-    EXPECT_EQ(sortedTitles(nodes, {{Nodes::Column::DateAdded, SortOrder::Forward}}), "a b");
-    EXPECT_EQ(sortedTitles(nodes, {{Nodes::Column::DateAdded, SortOrder::Reverse}}), "b a");
+    EXPECT_EQ(sortedTitles(nodes, {{SortColumn::Title, SortOrder::Forward}}), "a b");
+    EXPECT_EQ(sortedTitles(nodes, {{SortColumn::Title, SortOrder::Reverse}}), "b a");
+    EXPECT_EQ(sortedTitles(nodes, {{SortColumn::Date, SortOrder::Forward}}), "a b");
+    EXPECT_EQ(sortedTitles(nodes, {{SortColumn::Date, SortOrder::Reverse}}), "b a");
 }
 
 TEST(SortedRows, bookmarksWithoutADateAreLastWithTheOldestFirstAndFirstWithTheNewest)
 {
     const QList<Bookmark> rows{bookmark(u"none1"_s), bookmark(u"new"_s, pointInTime(2)), bookmark(u"none2"_s),
                                bookmark(u"old"_s, pointInTime(-1))};
-    EXPECT_EQ(sortedTitles(rows, {{Bookmarks::Column::DateAdded, SortOrder::Forward}}),
-              "old new none1 none2");
-    EXPECT_EQ(sortedTitles(rows, {{Bookmarks::Column::DateAdded, SortOrder::Reverse}}),
-              "none1 none2 new old");
+    EXPECT_EQ(sortedTitles(rows, {{SortColumn::Date, SortOrder::Forward}}), "old new none1 none2");
+    EXPECT_EQ(sortedTitles(rows, {{SortColumn::Date, SortOrder::Reverse}}), "none1 none2 new old");
 }
 
 TEST(SortedRows, theFirstComparatorDecidesAndTheNextBreaksTies)
 {
     const QList<HistoryItem> rows{visited(u"b"_s, pointInTime(1), 2), visited(u"a"_s, pointInTime(2), 1),
                                   visited(u"c"_s, pointInTime(3), 2), visited(u"d"_s, pointInTime(4), 1)};
-    EXPECT_EQ(sortedTitles(rows, {{History::Column::VisitCount, SortOrder::Reverse},
-                                  {History::Column::Title, SortOrder::Forward}}),
+    EXPECT_EQ(sortedTitles(
+                  rows, {{SortColumn::Visits, SortOrder::Reverse}, {SortColumn::Title, SortOrder::Forward}}),
               "b c a d");
-    EXPECT_EQ(sortedTitles(rows, {{History::Column::VisitCount, SortOrder::Forward},
-                                  {History::Column::LastVisit, SortOrder::Reverse}}),
+    EXPECT_EQ(sortedTitles(
+                  rows, {{SortColumn::Visits, SortOrder::Forward}, {SortColumn::Date, SortOrder::Reverse}}),
               "d a c b");
-    EXPECT_EQ(sortedTitles(rows, {{History::Column::Title, SortOrder::Reverse},
-                                  {History::Column::VisitCount, SortOrder::Forward}}),
+    EXPECT_EQ(sortedTitles(
+                  rows, {{SortColumn::Title, SortOrder::Reverse}, {SortColumn::Visits, SortOrder::Forward}}),
               "d c b a");
 }
 
@@ -110,11 +104,9 @@ TEST(SortedRows, equalRowsKeepTheirOrderInBothDirections)
     }
     const Collation collation(u"en_US"_s);
     for (const SortOrder direction : {SortOrder::Forward, SortOrder::Reverse}) {
-        for (const History::Column column :
-             {History::Column::Title, History::Column::LastVisit, History::Column::Source})
+        for (const SortColumn column : {SortColumn::Title, SortColumn::Date, SortColumn::Source})
             EXPECT_EQ(*sortedRows(rows, {{column, direction}}, collation), rows);
-        const QList<HistoryItem> sorted =
-            *sortedRows(rows, {{History::Column::VisitCount, direction}}, collation);
+        const QList<HistoryItem> sorted = *sortedRows(rows, {{SortColumn::Visits, direction}}, collation);
         for (qsizetype i = 1; i < sorted.size(); ++i) {
             if (sorted[i - 1].visitCount == sorted[i].visitCount) {
                 EXPECT_LT(sorted[i - 1].id.toInt(), sorted[i].id.toInt());
@@ -127,14 +119,14 @@ TEST(SortedRows, withoutAnOrderRowsStayAsTheyAre)
 {
     const QList<HistoryItem> rows{visited(u"b"_s, pointInTime(1)), visited(u"a"_s, pointInTime(2))};
     EXPECT_EQ(sortedTitles(rows, {}), "b a");
-    EXPECT_EQ(sortedTitles(QList<HistoryItem>(), {{History::Column::Title, SortOrder::Forward}}), "");
+    EXPECT_EQ(sortedTitles(QList<HistoryItem>(), {{SortColumn::Title, SortOrder::Forward}}), "");
 }
 
 TEST(SortedRows, doNotTouchTheListThatTheyCameFrom)
 {
     const QList<HistoryItem> rows{visited(u"b"_s, pointInTime(1)), visited(u"a"_s, pointInTime(2))};
     const QList<HistoryItem> before{visited(u"b"_s, pointInTime(1)), visited(u"a"_s, pointInTime(2))};
-    EXPECT_EQ(sortedTitles(rows, {{History::Column::Title, SortOrder::Forward}}), "a b");
+    EXPECT_EQ(sortedTitles(rows, {{SortColumn::Title, SortOrder::Forward}}), "a b");
     EXPECT_EQ(rows, before);
 }
 
@@ -163,10 +155,9 @@ TEST(SortedRows, haveTheOrderOfComparingThemInPairs)
                 return left.lastVisit < right.lastVisit;
             return collation.compare(left.title, right.title) > 0;
         });
-        EXPECT_EQ(*sortedRows(rows,
-                              {{History::Column::LastVisit, SortOrder::Forward},
-                               {History::Column::Title, SortOrder::Reverse}},
-                              collation),
+        EXPECT_EQ(*sortedRows(
+                      rows, {{SortColumn::Date, SortOrder::Forward}, {SortColumn::Title, SortOrder::Reverse}},
+                      collation),
                   expected)
             << qPrintable(locale);
     }
@@ -179,7 +170,7 @@ TEST(SortedRows, takeTitlesOfAnyLength)
                                   visited(same + u"10"_s, pointInTime(3)),
                                   visited(same + u"1"_s, pointInTime(4))};
     const QList<HistoryItem> sorted =
-        *sortedRows(rows, {{History::Column::Title, SortOrder::Forward}}, Collation(u"en_US"_s));
+        *sortedRows(rows, {{SortColumn::Title, SortOrder::Forward}}, Collation(u"en_US"_s));
     EXPECT_EQ(sorted, (QList<HistoryItem>{rows[1], rows[3], rows[0], rows[2]}));
 }
 
@@ -188,7 +179,7 @@ TEST(SortedRows, areNothingOnceAStopIsRequested)
     const auto source = std::make_unique<std::stop_source>();
     source->request_stop();
     const QList<HistoryItem> rows{visited(u"b"_s, pointInTime(1))};
-    EXPECT_FALSE(sortedRows(rows, {{History::Column::Title, SortOrder::Forward}}, Collation(u"en_US"_s),
+    EXPECT_FALSE(sortedRows(rows, {{SortColumn::Title, SortOrder::Forward}}, Collation(u"en_US"_s),
                             source->get_token()));
 }
 

@@ -141,23 +141,12 @@ void Library::filesChanged(const QSet<QString> &sourceIDs)
     });
 }
 
-std::stop_source Library::queryHistory(const HistoryQuery &query, const std::optional<QString> &sourceID,
-                                       QObject *context, std::function<void(HistoryResults)> deliver)
+HistorySearch Library::queryHistory(const HistoryQuery &query, const std::optional<QString> &sourceID) const
 {
     QList<Source> sources = ordered(m_snapshot.sources);
     if (sourceID)
         sources.removeIf([&sourceID](const Source &source) { return source.id() != *sourceID; });
-    return m_tasks.run(
-        context,
-        [query, sources, snapshot = m_snapshot,
-         reading = LibraryReading::readContext(m_platform)](const std::stop_token &stop) {
-            ReadContext stoppable = reading;
-            stoppable.stop = stop;
-            return query == HistoryQuery::recent()
-                       ? LibraryReading::latestHistory(sources, snapshot, stoppable)
-                       : LibraryReading::history(query, sources, stoppable);
-        },
-        std::move(deliver));
+    return {query, sources, m_snapshot, LibraryReading::readContext(m_platform)};
 }
 
 std::optional<Source> Library::source(const std::optional<QString> &id) const
@@ -182,14 +171,6 @@ QList<BookmarkNode> Library::bookmarkTree(const std::optional<QString> &sourceID
         folder.children = m_snapshot.bookmarkTrees.value(source.id());
         result.append(std::move(folder));
     }
-    return result;
-}
-
-QList<HistoryItem> Library::recentHistory(const std::optional<QString> &sourceID) const
-{
-    QList<HistoryItem> result = m_snapshot.history;
-    if (sourceID)
-        result.removeIf([&sourceID](const HistoryItem &item) { return item.source.id() != *sourceID; });
     return result;
 }
 

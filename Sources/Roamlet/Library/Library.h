@@ -4,6 +4,7 @@
 #pragma once
 
 #include "Library/BrowserWatcher.h"
+#include "Library/HistorySearch.h"
 #include "Library/ProfileChoice.h"
 #include "Library/RecentPages.h"
 #include "Library/SiteIcons.h"
@@ -17,10 +18,8 @@
 #include <QObject>
 #include <QSet>
 
-#include <functional>
 #include <memory>
 #include <optional>
-#include <stop_token>
 
 namespace roamlet
 {
@@ -49,11 +48,9 @@ public:
     void moveProfiles(const QSet<qsizetype> &offsets, qsizetype destination);
     /// A menu opened or closed on screen: the recent list does not change under the pointer.
     void setMenuOpen(bool isOpen);
-    /// Runs a query against the source with this id, or against all, away from the main thread, and hands the
-    /// results to `deliver` on the main thread, unless `context` is gone by then. Requesting a stop drops the
-    /// search. The latest rows come from the snapshot where its files have not changed since.
-    std::stop_source queryHistory(const HistoryQuery &query, const std::optional<QString> &sourceID,
-                                  QObject *context, std::function<void(HistoryResults)> deliver);
+    /// A question to the source with this id, or to all in the user's order, which is to be answered away
+    /// from the main thread.
+    HistorySearch queryHistory(const HistoryQuery &query, const std::optional<QString> &sourceID) const;
 
     const Snapshot &snapshot() const { return m_snapshot; }
     bool isLoading() const { return m_isLoading; }
@@ -77,8 +74,6 @@ public:
     /// The icon of a site, decoded at most once for each snapshot; nothing where there is none or it is
     /// broken.
     std::optional<QImage> favicon(const QString &site) { return m_icons.image(site); }
-    /// The latest pages of the source with this id, or of all, as the snapshot holds them.
-    QList<HistoryItem> recentHistory(const std::optional<QString> &sourceID) const;
 
 Q_SIGNALS:
     /// A new snapshot stands, under a new generation.

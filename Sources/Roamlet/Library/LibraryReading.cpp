@@ -154,24 +154,4 @@ HistoryResults history(const HistoryQuery &query, const QList<Source> &sources, 
     return merged;
 }
 
-HistoryResults latestHistory(const QList<Source> &sources, const Snapshot &snapshot,
-                             const ReadContext &context)
-{
-    QSet<QString> unchanged;
-    QList<Source> changed;
-    for (const Source &source : sources) {
-        const QString id = source.id();
-        const auto state = snapshot.historyStates.constFind(id);
-        if (state != snapshot.historyStates.cend() && *state == SourceRead::stateOfHistory(source, context))
-            unchanged.insert(id);
-        else
-            changed.append(source);
-    }
-    HistoryResults results = history(HistoryQuery::recent(), changed, context);
-    QList<HistoryItem> known = snapshot.history;
-    known.removeIf([&unchanged](const HistoryItem &item) { return !unchanged.contains(item.source.id()); });
-    results.items = known + results.items;
-    return results;
-}
-
 } // namespace roamlet::LibraryReading

@@ -48,9 +48,5 @@ Snapshot readAll(const Request &request, const ReadContext &context, const Clock
 /// order of `sources`.
 HistoryResults history(const HistoryQuery &query, const QList<Source> &sources, const ReadContext &context,
                        const ProblemHandler &report = {});
-/// The latest rows of these sources: those of `snapshot` where its files have not changed since, and what the
-/// databases hold for all others.
-HistoryResults latestHistory(const QList<Source> &sources, const Snapshot &snapshot,
-                             const ReadContext &context);
 
 } // namespace roamlet::LibraryReading

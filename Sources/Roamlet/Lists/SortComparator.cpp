@@ -33,6 +33,12 @@ quint64 dateAdded(const Row &row)
     return sortRank(row.dateAdded);
 }
 
+template<typename Row>
+quint64 nothing(const Row & /*row*/)
+{
+    return 0;
+}
+
 } // namespace
 
 quint64 sortRank(qint64 number)
@@ -57,48 +63,74 @@ std::weak_ordering OptionalDateComparator::compare(std::optional<PointInTime> le
                                        : sortRank(right) <=> sortRank(left);
 }
 
-SortField<HistoryItem> SortColumns<HistoryItem>::field(Column column)
+template<>
+SortField<HistoryItem> sortField(SortColumn column)
 {
     switch (column) {
-    case Column::Title:
-        break;
-    case Column::LastVisit:
+    case SortColumn::Title:
+        return title<HistoryItem>;
+    case SortColumn::Date:
         return [](const HistoryItem &item) { return sortRank(item.lastVisit); };
-    case Column::VisitCount:
+    case SortColumn::Visits:
         return [](const HistoryItem &item) { return sortRank(item.visitCount); };
-    case Column::Source:
+    case SortColumn::Source:
         return sourceLabel<HistoryItem>;
+    case SortColumn::Folder:
+        break;
     }
-    return title<HistoryItem>;
+    return nothing<HistoryItem>;
 }
 
-SortField<Bookmark> SortColumns<Bookmark>::field(Column column)
+template<>
+SortField<Bookmark> sortField(SortColumn column)
 {
     switch (column) {
-    case Column::Title:
-        break;
-    case Column::Folder:
-        return [](const Bookmark &bookmark, QString & /*made*/) { return QStringView(bookmark.folder); };
-    case Column::DateAdded:
+    case SortColumn::Title:
+        return title<Bookmark>;
+    case SortColumn::Date:
         return dateAdded<Bookmark>;
-    case Column::Source:
+    case SortColumn::Folder:
+        return [](const Bookmark &bookmark, QString & /*made*/) { return QStringView(bookmark.folder); };
+    case SortColumn::Source:
         return sourceLabel<Bookmark>;
+    case SortColumn::Visits:
+        break;
     }
-    return title<Bookmark>;
+    return nothing<Bookmark>;
 }
 
-SortField<BookmarkNode> SortColumns<BookmarkNode>::field(Column column)
+template<>
+SortField<BookmarkNode> sortField(SortColumn column)
 {
-    if (column == Column::DateAdded)
+    if (column == SortColumn::Title)
+        return title<BookmarkNode>;
+    if (column == SortColumn::Date)
         return dateAdded<BookmarkNode>;
-    return title<BookmarkNode>;
+    return nothing<BookmarkNode>;
 }
 
-bool newestFirst(const QList<SortComparator<HistoryItem>> &order)
+size_t qHash(const SortComparator &comparator, size_t seed)
 {
-    const SortComparator<HistoryItem> oldestFirst{SortColumns<HistoryItem>::Column::LastVisit,
-                                                  SortOrder::Forward};
-    return order.isEmpty() || order.first() != oldestFirst;
+    return qHashMulti(seed, static_cast<int>(comparator.column), static_cast<int>(comparator.order));
+}
+
+QList<SortComparator> orderAfterClick(QList<SortComparator> order, SortColumn column)
+{
+    if (!order.isEmpty() && order.first().column == column) {
+        SortOrder &direction = order.first().order;
+        direction = direction == SortOrder::Forward ? SortOrder::Reverse : SortOrder::Forward;
+        return order;
+    }
+    order.removeIf([column](const SortComparator &comparator) { return comparator.column == column; });
+    // The newest and the most first, and names from A to Z.
+    const bool isNumber = column == SortColumn::Date || column == SortColumn::Visits;
+    order.prepend({column, isNumber ? SortOrder::Reverse : SortOrder::Forward});
+    return order;
+}
+
+bool newestFirst(const QList<SortComparator> &order)
+{
+    return order.isEmpty() || order.first() != SortComparator{SortColumn::Date, SortOrder::Forward};
 }
 
 } // namespace roamlet

@@ -43,47 +43,41 @@ using SortText = QStringView (*)(const Row &row, QString &made);
 template<typename Row>
 using SortField = std::variant<SortRank<Row>, SortText<Row>>;
 
-/// The columns by which rows of a type can be sorted.
+/// What a column of a list shows, and by what it sorts the list.
+enum class SortColumn {
+    Title,
+    Date,   ///< the last visit, or when a bookmark was added
+    Visits, ///< of a page
+    Folder, ///< of a bookmark
+    Source
+};
+
+/// What a column gives of a row. By a column that its rows do not have, a list is not sorted.
 template<typename Row>
-struct SortColumns;
-
+SortField<Row> sortField(SortColumn column);
 template<>
-struct SortColumns<HistoryItem> {
-    enum class Column { Title, LastVisit, VisitCount, Source };
-    static SortField<HistoryItem> field(Column column);
-};
-
+SortField<HistoryItem> sortField(SortColumn column);
 template<>
-struct SortColumns<Bookmark> {
-    enum class Column { Title, Folder, DateAdded, Source };
-    static SortField<Bookmark> field(Column column);
-};
-
+SortField<Bookmark> sortField(SortColumn column);
 template<>
-struct SortColumns<BookmarkNode> {
-    enum class Column { Title, DateAdded };
-    static SortField<BookmarkNode> field(Column column);
-};
+SortField<BookmarkNode> sortField(SortColumn column);
 
 /// A column and a direction. A plain value, so that a list can tell whether it is still sorted as asked.
-template<typename Row>
 struct SortComparator {
-    using Column = typename SortColumns<Row>::Column;
-
-    Column column{};
+    SortColumn column{};
     SortOrder order = SortOrder::Forward;
 
     bool operator==(const SortComparator &) const = default;
 };
 
-template<typename Row>
-size_t qHash(const SortComparator<Row> &comparator, size_t seed = 0)
-{
-    return qHashMulti(seed, static_cast<int>(comparator.column), static_cast<int>(comparator.order));
-}
+size_t qHash(const SortComparator &comparator, size_t seed = 0);
+
+/// `order` after a click on `column`: that column decides first, in the direction that people look for, or in
+/// the other one if it did so already. The columns clicked before still decide between what is equal.
+QList<SortComparator> orderAfterClick(QList<SortComparator> order, SortColumn column);
 
 /// Whether sections by day begin with the newest. Only a list with the oldest visits first has them the other
 /// way round; in any other order the newest are what people look for.
-bool newestFirst(const QList<SortComparator<HistoryItem>> &order);
+bool newestFirst(const QList<SortComparator> &order);
 
 } // namespace roamlet

@@ -51,7 +51,7 @@ std::optional<std::vector<qsizetype>> sortedRowNumbers(qsizetype count, const st
 
 /// `rows` in the order of `order`; see above.
 template<typename Row>
-std::optional<QList<Row>> sortedRows(QList<Row> rows, const QList<SortComparator<Row>> &order,
+std::optional<QList<Row>> sortedRows(QList<Row> rows, const QList<SortComparator> &order,
                                      const Collation &collation, const std::stop_token &stop = {})
 {
     if (order.isEmpty())
@@ -61,8 +61,8 @@ std::optional<QList<Row>> sortedRows(QList<Row> rows, const QList<SortComparator
     Row *unsorted = rows.data();
 
     std::vector<SortLevel> levels;
-    for (const SortComparator<Row> &comparator : order)
-        levels.push_back({comparator.order, sortValue(SortColumns<Row>::field(comparator.column), unsorted)});
+    for (const SortComparator &comparator : order)
+        levels.push_back({comparator.order, sortValue(sortField<Row>(comparator.column), unsorted)});
     const std::optional numbers = sortedRowNumbers(rows.size(), levels, collation, stop);
     if (!numbers)
         return {};

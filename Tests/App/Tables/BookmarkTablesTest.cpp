@@ -56,7 +56,7 @@ protected:
     {
         awaitList(table, [&] {
             table.setInputs(inputs);
-            home.clock.advance(refineDelay);
+            home.clock.advance(ListLoader::refineDelay);
         });
     }
 };
@@ -99,7 +99,7 @@ TEST_F(BookmarkTableTest, typedWordsAreSearchedForAfterAShorterWait)
     show(table);
     expectNoList(table, [&] {
         table.setInputs({.search = u" FOOD   bre"_s});
-        home.clock.advance(refineDelay - 1ms);
+        home.clock.advance(ListLoader::refineDelay - 1ms);
     });
     awaitList(table, [&] { home.clock.advance(1ms); });
     EXPECT_EQ(titles(table), "Bread");
@@ -112,9 +112,9 @@ TEST_F(BookmarkTableTest, onlyTheLastOfQuickKeysMakesAList)
     const QSignalSpy lists(&table, &LinkTable::rowCountChanged);
     for (const QString &typed : {u"a"_s, u"an"_s, u"ant"_s}) {
         table.setInputs({.search = typed});
-        home.clock.advance(refineDelay - 1ms);
+        home.clock.advance(ListLoader::refineDelay - 1ms);
     }
-    awaitList(table, [&] { home.clock.advance(refineDelay); });
+    awaitList(table, [&] { home.clock.advance(ListLoader::refineDelay); });
     EXPECT_EQ(titles(table), "Ant");
     EXPECT_EQ(lists.size(), 1);
 }

@@ -44,7 +44,7 @@ protected:
     {
         awaitList(table, [&] {
             table.setInputs({.search = text});
-            home.clock.advance(HistoryTable::searchDelay);
+            home.clock.advance(ListLoader::searchDelay);
         });
     }
 };
@@ -121,7 +121,7 @@ TEST_F(HistoryTableTest, typedWordsAreSearchedForAfterAWait)
     recordReads();
     expectNoList(table, [&] {
         table.setInputs({.search = u"day"_s});
-        home.clock.advance(HistoryTable::searchDelay - 1ms);
+        home.clock.advance(ListLoader::searchDelay - 1ms);
     });
     EXPECT_TRUE(takeReads().isEmpty());
     awaitList(table, [&] { home.clock.advance(1ms); });
@@ -137,7 +137,7 @@ TEST_F(HistoryTableTest, eachKeyStartsTheWaitAnew)
     expectNoList(table, [&] {
         for (const QString &typed : {u"m"_s, u"mo"_s, u"mon"_s}) {
             table.setInputs({.search = typed});
-            home.clock.advance(HistoryTable::searchDelay - 1ms);
+            home.clock.advance(ListLoader::searchDelay - 1ms);
         }
     });
     awaitList(table, [&] { home.clock.advance(1ms); });
@@ -341,7 +341,7 @@ TEST_F(HistoryTableTest, aSearchThatTakesLongIsSeenToRun)
     Gate gate;
     recordReads(&gate);
     table.setInputs({.search = u"day"_s});
-    home.clock.advance(HistoryTable::searchDelay);
+    home.clock.advance(ListLoader::searchDelay);
     gate.awaitReader();
     EXPECT_TRUE(table.isBusy());
     home.clock.advance(299ms);
@@ -377,7 +377,7 @@ TEST_F(HistoryTableTest, aSearchThatIsTakenBackNoLongerRuns)
     Gate gate;
     recordReads(&gate);
     table.setInputs({.search = u"day"_s});
-    home.clock.advance(HistoryTable::searchDelay);
+    home.clock.advance(ListLoader::searchDelay);
     gate.awaitReader();
     table.setInputs({});
     home.clock.advance(1s);
@@ -399,7 +399,7 @@ TEST_F(HistoryTableTest, theSnapshotsPagesAreShownUntilTheDatabasesAnswer)
                      [&] { lists.append(QString::fromStdString(titles(table))); });
     table.resize(900, 400);
     table.show();
-    gate.awaitReader();
+    EXPECT_TRUE(waitUntil([&] { return gate.readerHasCome(); }));
     EXPECT_TRUE(waitUntil([&] { return !lists.isEmpty(); }));
     EXPECT_EQ(lists, QStringList{u"e1 today work yesterday monday old"_s});
     EXPECT_TRUE(table.isBusy());
@@ -464,7 +464,7 @@ TEST_F(HistoryTableTest, anEmptyListSaysWhy)
     EXPECT_EQ(table.view().emptyText(), u"");
     awaitList(table, [&] {
         table.setInputs({.search = u"no & such"_s});
-        home.clock.advance(HistoryTable::searchDelay);
+        home.clock.advance(ListLoader::searchDelay);
     });
     EXPECT_EQ(table.view().emptyText(), u"Nothing found for “no & such”");
     awaitList(table, [&] { table.setInputs({.site = u"nowhere.example"_s}); });

@@ -3,14 +3,13 @@
 
 #pragma once
 
-#include "App/Tables/SortedTable.h"
-#include "Model/Bookmark.h"
+#include "App/Tables/LinkTable.h"
 
 namespace roamlet
 {
 
 /// The flat table of bookmarks, for when they are searched, narrowed to a site or grouped by it.
-class BookmarkTable final : public SortedTable<Bookmark>
+class BookmarkTable final : public LinkTable
 {
     Q_OBJECT
 
@@ -20,12 +19,7 @@ public:
     explicit BookmarkTable(const WindowServices &services, QWidget *parent = nullptr);
 
 protected:
-    void refresh() override;
     LinkMenuSubject menuSubject(const QList<TableRow> &rows) const override;
-
-private:
-    /// The bookmarks of the source and the site that are asked for.
-    QList<Bookmark> bookmarks() const;
 };
 
 } // namespace roamlet

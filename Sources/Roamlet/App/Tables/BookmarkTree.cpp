@@ -3,6 +3,8 @@
 
 #include "App/Tables/BookmarkTree.h"
 
+#include "Library/Library.h"
+
 namespace roamlet
 {
 
@@ -10,8 +12,6 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-
-static_assert(static_cast<int>(SortColumns<BookmarkNode>::Column::DateAdded) == BookmarkTree::Added);
 
 QList<TableColumn> treeColumns()
 {
@@ -22,50 +22,19 @@ QList<TableColumn> treeColumns()
 } // namespace
 
 BookmarkTree::BookmarkTree(const WindowServices &services, QWidget *parent)
-    : SortedTable(services,
-                  {.objectName = u"bookmarkTree"_s,
-                   .accessibleName = u"Bookmarks"_s,
-                   .layoutKey = u"columns.bookmarkTree"_s,
-                   .shape = TableView::Shape::Tree,
-                   .columns = treeColumns(),
-                   .nothingText = u"No bookmarks yet"_s},
-                  {}, parent)
+    : LinkTable(services,
+                {.mode = ListWish::Mode::BookmarkTree,
+                 .objectName = u"bookmarkTree"_s,
+                 .accessibleName = u"Bookmarks"_s,
+                 .layoutKey = u"columns.bookmarkTree"_s,
+                 .shape = TableView::Shape::Tree,
+                 .columns = treeColumns(),
+                 .order = {},
+                 .nothingText = u"No bookmarks yet"_s},
+                parent)
 {
     // The folders of all sources stand in the user's order, of which the snapshot says nothing.
-    connect(&services.library, &Library::sourceOrderChanged, this, [this] {
-        invalidate();
-        refreshIfVisible();
-    });
-}
-
-RefineKey<BookmarkNode> BookmarkTree::treeKey() const
-{
-    // Nothing is searched for here, so nothing has to be made anew when the search changes.
-    RefineKey<BookmarkNode> result = key();
-    result.search.clear();
-    result.site.reset();
-    result.grouping = Grouping::None;
-    return result;
-}
-
-void BookmarkTree::refresh()
-{
-    if (services().library.generation() == 0)
-        return;
-    const RefineKey<BookmarkNode> asked = treeKey();
-    if (!maker().needs(asked)) {
-        if (maker().shown() == asked)
-            showWhyItIsEmpty();
-        return;
-    }
-    showThatItWorks();
-    maker().make(
-        asked,
-        [nodes = services().library.bookmarkTree(asked.sourceID), order = asked.order,
-         collation = services().collation](const std::stop_token &stop) {
-            return RowTree::ofBookmarks(nodes, order, *collation, stop);
-        },
-        [this](const SharedRowTree &tree, ListChange change) { deliver(tree, change); });
+    connect(&services.library, &Library::sourceOrderChanged, this, &BookmarkTree::remake);
 }
 
 LinkMenuSubject BookmarkTree::menuSubject(const QList<TableRow> &rows) const

@@ -3,14 +3,13 @@
 
 #pragma once
 
-#include "App/Tables/SortedTable.h"
-#include "Model/Bookmark.h"
+#include "App/Tables/LinkTable.h"
 
 namespace roamlet
 {
 
 /// The bookmarks in their folders, which open and close. Of its inputs only the source counts.
-class BookmarkTree final : public SortedTable<BookmarkNode>
+class BookmarkTree final : public LinkTable
 {
     Q_OBJECT
 
@@ -20,11 +19,7 @@ public:
     explicit BookmarkTree(const WindowServices &services, QWidget *parent = nullptr);
 
 protected:
-    void refresh() override;
     LinkMenuSubject menuSubject(const QList<TableRow> &rows) const override;
-
-private:
-    RefineKey<BookmarkNode> treeKey() const;
 };
 
 } // namespace roamlet

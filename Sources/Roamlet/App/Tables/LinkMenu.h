@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "App/Tables/TableRow.h"
+#include "Lists/TableRow.h"
 #include "Model/Source.h"
 #include "Opening/Opener.h"
 

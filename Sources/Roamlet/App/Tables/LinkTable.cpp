@@ -35,11 +35,14 @@ constexpr std::chrono::milliseconds busyPatience{300};
 LinkTable::LinkTable(const WindowServices &services, const Kind &kind, QWidget *parent)
     : QWidget(parent),
       m_services(services),
+      m_mode(kind.mode),
       m_layoutKey(kind.layoutKey),
       m_nothingText(kind.nothingText),
+      m_defaultOrder(kind.order),
       m_model(kind.columns, localText()),
       m_view(*new TableView(m_model, kind.shape, this)),
-      m_icons(services.library, services.opener, m_view)
+      m_icons(services.library, services.opener, m_view),
+      m_loader(services.library, services.clock, services.collation, services.calendar)
 {
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -50,12 +53,15 @@ LinkTable::LinkTable(const WindowServices &services, const Kind &kind, QWidget *
     m_view.setAccessibleName(kind.accessibleName);
     m_model.setIcons(&m_icons);
     m_view.tableHeader().setColumnLayout(ColumnLayout::load(services.defaults, m_layoutKey));
+    setOrder(m_defaultOrder);
     showWhyItIsEmpty();
 
     connect(&services.library, &Library::snapshotChanged, this, [this] {
         m_icons.clear();
-        refreshIfVisible();
+        refresh();
     });
+    connect(&m_loader, &ListLoader::listLoaded, this, &LinkTable::showList);
+    connect(&m_loader, &ListLoader::progressChanged, this, &LinkTable::showProgress);
     connect(&m_view, &TableView::openRequested, this, &LinkTable::openSelection);
     connect(&m_view, &TableView::copyRequested, this, &LinkTable::copySelection);
     connect(&m_view, &TableView::linkMenuRequested, this, &LinkTable::showLinkMenu);
@@ -77,13 +83,56 @@ void LinkTable::setInputs(const TableInputs &inputs)
     if (inputs == m_inputs)
         return;
     m_inputs = inputs;
-    refreshIfVisible();
+    refresh();
 }
 
-void LinkTable::refreshIfVisible()
+void LinkTable::refresh()
 {
-    if (isVisible())
-        refresh();
+    // Before the first load there is nothing to search in.
+    if (!isVisible() || m_services.library.generation() == 0)
+        return;
+    m_loader.load(wish());
+    showProgress();
+}
+
+ListWish LinkTable::wish() const
+{
+    ListWish result{.mode = m_mode,
+                    .sourceID = m_inputs.sourceID,
+                    .order = m_order,
+                    .generation = m_services.library.generation()};
+    // Nothing is searched for in folders, so nothing has to be made anew when the search changes.
+    if (m_mode == ListWish::Mode::BookmarkTree)
+        return result;
+    result.search = m_inputs.search;
+    result.site = m_inputs.site;
+    result.grouping = m_inputs.grouping;
+    return result;
+}
+
+void LinkTable::remake()
+{
+    m_loader.outdate();
+    refresh();
+}
+
+void LinkTable::sortBy(int column)
+{
+    setOrder(orderAfterClick(m_order, m_model.columns()[column].content));
+    refresh();
+}
+
+void LinkTable::setOrder(const QList<SortComparator> &order)
+{
+    m_order = order;
+    if (order.isEmpty()) {
+        m_view.tableHeader().setSortIndicator(-1, Qt::AscendingOrder);
+        return;
+    }
+    const auto column = std::ranges::find(m_model.columns(), order.first().column, &TableColumn::content);
+    m_view.tableHeader().setSortIndicator(static_cast<int>(column - m_model.columns().begin()),
+                                          order.first().order == SortOrder::Forward ? Qt::AscendingOrder
+                                                                                    : Qt::DescendingOrder);
 }
 
 void LinkTable::awaitMidnight()
@@ -94,18 +143,28 @@ void LinkTable::awaitMidnight()
                            [this] { catchUp(); });
 }
 
-void LinkTable::setBusy(bool isBusy, bool isAskedFor)
+bool LinkTable::isBusy() const
 {
-    if (isBusy == m_isBusy)
-        return;
-    m_isBusy = isBusy;
-    m_busyWait.reset();
-    if (!isBusy) {
+    const auto progress = m_loader.progress();
+    return progress == ListLoader::Progress::Working || progress == ListLoader::Progress::Reloading;
+}
+
+void LinkTable::showProgress()
+{
+    using Progress = ListLoader::Progress;
+    const Progress progress = m_loader.progress();
+    if (progress == Progress::Done)
+        showWhyItIsEmpty();
+    else
+        m_view.setEmptyText(isSearchText(m_inputs.search) ? u"Searching…"_s : u"Reading…"_s);
+    // What a reload brings may take its time: a list is there.
+    if (progress != Progress::Working) {
+        m_busyWait.reset();
         if (m_busyBar != nullptr)
             m_busyBar->hide();
         return;
     }
-    if (!isAskedFor)
+    if (m_busyWait)
         return;
     m_busyWait = std::make_unique<QObject>();
     m_services.clock.after(busyPatience, m_busyWait.get(), [this] {
@@ -128,7 +187,7 @@ void LinkTable::catchUp()
     awaitMidnight();
     // A list that was left alone over night still says "Today" about yesterday.
     if (localText().today() != m_model.localText().today())
-        invalidate();
+        m_loader.outdate();
     refresh();
 }
 
@@ -163,17 +222,14 @@ LocalText LinkTable::localText() const
     return {m_services.calendar(), now};
 }
 
-void LinkTable::showList(const SharedRowTree &tree, TableView::Scrolling scrolling)
+void LinkTable::showList(const ShownList &list)
 {
+    noteList(list);
     m_model.setLocalText(localText());
-    m_view.showTree(tree, scrolling);
-    showWhyItIsEmpty();
+    m_view.showTree(list.tree, list.change == ListChange::Reloaded ? TableView::Scrolling::Stay
+                                                                   : TableView::Scrolling::ToTop);
+    showProgress();
     Q_EMIT rowCountChanged(rowCount());
-}
-
-void LinkTable::showThatItWorks()
-{
-    m_view.setEmptyText(refineText(m_inputs.search).isEmpty() ? u"Reading…"_s : u"Searching…"_s);
 }
 
 void LinkTable::showWhyItIsEmpty()
@@ -192,17 +248,11 @@ QString LinkTable::emptyText() const
         return u"All profiles are switched off in the settings."_s;
     if (m_inputs.sourceID && library.snapshot().problems.contains(*m_inputs.sourceID))
         return CellText::oneLine(library.snapshot().problems.value(*m_inputs.sourceID));
-    const QString searched = m_inputs.search.trimmed();
     const QString where = m_inputs.site ? QString(u" on " % CellText::oneLine(*m_inputs.site)) : QString();
-    if (!searched.isEmpty())
-        return u"Nothing found for “"_s % CellText::oneLine(searched, CellText::longestMenuText) % u"”" %
-               where;
+    if (isSearchText(m_inputs.search))
+        return u"Nothing found for “"_s %
+               CellText::oneLine(m_inputs.search.trimmed(), CellText::longestMenuText) % u"”" % where;
     return m_inputs.site ? QString(u"Nothing found" % where) : m_nothingText;
-}
-
-void LinkTable::showSortIndicator(int column, Qt::SortOrder order)
-{
-    m_view.tableHeader().setSortIndicator(column, order);
 }
 
 QList<Opener::Link> LinkTable::selectedLinks() const
@@ -279,8 +329,8 @@ void LinkTable::showColumnMenu(const QPoint &place)
     menu->setObjectName(u"columnMenu"_s);
     menu->setAccessibleName(u"Columns"_s);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    for (int column = 0; column < columns().size(); ++column) {
-        QAction *action = menu->addAction(columns()[column].title);
+    for (int column = 0; column < m_model.columns().size(); ++column) {
+        QAction *action = menu->addAction(m_model.columns()[column].title);
         action->setCheckable(true);
         action->setChecked(!header.isSectionHidden(column));
         action->setEnabled(column != TableHeader::titleColumn);
@@ -289,9 +339,12 @@ void LinkTable::showColumnMenu(const QPoint &place)
     }
     menu->addSeparator();
     QMenu *orders = menu->addMenu(u"Sort By"_s);
-    for (int column = 0; column < columns().size(); ++column)
-        orders->addAction(columns()[column].title, this, [this, column] { sortBy(column); });
-    menu->addAction(u"Default Order"_s, this, [this] { sortByDefault(); });
+    for (int column = 0; column < m_model.columns().size(); ++column)
+        orders->addAction(m_model.columns()[column].title, this, [this, column] { sortBy(column); });
+    menu->addAction(u"Default Order"_s, this, [this] {
+        setOrder(m_defaultOrder);
+        refresh();
+    });
     menu->addSeparator();
     menu->addAction(u"Default Columns"_s, this, [this, &header] {
         header.setColumnLayout({});

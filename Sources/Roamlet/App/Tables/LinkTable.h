@@ -8,7 +8,9 @@
 #include "App/Tables/TableModel.h"
 #include "App/Tables/TableView.h"
 #include "App/Window/WindowServices.h"
+#include "Library/ListLoader.h"
 #include "Lists/Grouping.h"
+#include "Lists/ListWish.h"
 
 #include <QString>
 #include <QWidget>
@@ -53,7 +55,7 @@ public:
     qsizetype rowCount() const { return m_model.tree()->linkCount(); }
     TableView &view() const { return m_view; }
     /// Whether an answer to what was asked is still on its way.
-    bool isBusy() const { return m_isBusy; }
+    bool isBusy() const;
 
     /// Opens the selected links in the browsers that they came from.
     void openSelection();
@@ -69,6 +71,7 @@ Q_SIGNALS:
 protected:
     /// What one table is and the others are not.
     struct Kind {
+        ListWish::Mode mode;
         /// The view's name in the program,
         QString objectName;
         /// and to those who cannot see it.
@@ -77,34 +80,21 @@ protected:
         QString layoutKey;
         TableView::Shape shape;
         QList<TableColumn> columns;
+        /// The order in which the list comes at first.
+        QList<SortComparator> order;
         /// Said when there is nothing to show, and nothing was searched for.
         QString nothingText;
     };
 
     LinkTable(const WindowServices &services, const Kind &kind, QWidget *parent);
 
-    /// Sees to it that what is shown is what is asked for. Only called while the table is visible.
-    virtual void refresh() = 0;
-    /// The same list has to be made again.
-    virtual void invalidate() = 0;
-    /// The user wants this column to decide first, or the other way round if it already does.
-    virtual void sortBy(int column) = 0;
-    /// The user wants the order back in which the list came at first.
-    virtual void sortByDefault() = 0;
     virtual LinkMenuSubject menuSubject(const QList<TableRow> &rows) const = 0;
+    /// A list is shown next.
+    virtual void noteList(const ShownList & /*list*/) {}
 
-    void refreshIfVisible();
-    /// Says that the list is on its way, where an empty one is shown.
-    void showThatItWorks();
-    /// Says why there is nothing to see, where that is so.
-    void showWhyItIsEmpty();
-    /// Work that takes longer than a moment is shown, if somebody asked for it.
-    void setBusy(bool isBusy, bool isAskedFor = true);
-    void showList(const SharedRowTree &tree, TableView::Scrolling scrolling);
-    /// `column` is -1 for none.
-    void showSortIndicator(int column, Qt::SortOrder order);
+    /// The same list has to be made again.
+    void remake();
     const WindowServices &services() const { return m_services; }
-    const QList<TableColumn> &columns() const { return m_model.columns(); }
 
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
@@ -112,6 +102,16 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    /// Sees to it that what is shown is what is asked for, unless nobody looks.
+    void refresh();
+    ListWish wish() const;
+    void showList(const ShownList &list);
+    /// The user wants this column to decide first, or the other way round if it already does.
+    void sortBy(int column);
+    void setOrder(const QList<SortComparator> &order);
+    /// Says why there is nothing to see, where that is so.
+    void showWhyItIsEmpty();
+    void showProgress();
     /// Comes back to a list after a while in which it was not looked at.
     void catchUp();
     /// Does it again when the next day begins.
@@ -126,18 +126,21 @@ private:
     void saveColumnLayout();
 
     WindowServices m_services;
+    ListWish::Mode m_mode;
     QString m_layoutKey;
     QString m_nothingText;
     TableInputs m_inputs;
+    QList<SortComparator> m_defaultOrder;
+    QList<SortComparator> m_order;
     TableModel m_model;
     TableView &m_view;
     RowIcons m_icons;
     /// Lives until midnight, or until nobody looks any more.
     std::unique_ptr<QObject> m_midnight;
-    bool m_isBusy = false;
     BusyBar *m_busyBar = nullptr;
     /// Lives as long as work that is not shown yet.
     std::unique_ptr<QObject> m_busyWait;
+    ListLoader m_loader;
 };
 
 } // namespace roamlet

@@ -4,7 +4,8 @@
 #pragma once
 
 #include "App/Tables/CellText.h"
-#include "App/Tables/RowTree.h"
+#include "Lists/RowTree.h"
+#include "Lists/SortComparator.h"
 
 #include <QAbstractItemModel>
 #include <QList>
@@ -17,7 +18,7 @@ class RowIcons;
 
 /// One column of a table.
 struct TableColumn {
-    enum class Content { Title, Date, Visits, Folder, Source };
+    using Content = SortColumn;
 
     /// Under which its place and width are stored.
     QString identifier;

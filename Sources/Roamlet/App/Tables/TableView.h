@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "App/Tables/RowTree.h"
+#include "Lists/RowTree.h"
 
 #include <QSet>
 #include <QString>

@@ -11,6 +11,7 @@
 #include "App/Window/Sidebar.h"
 #include "App/Window/SiteFilterBar.h"
 #include "Library/Library.h"
+#include "Lists/Refine.h"
 #include "Model/Browser.h"
 #include "Platform/Folders.h"
 #include "Platform/UserDefaults.h"
@@ -376,7 +377,7 @@ QWidget *ContentView::shownList()
         return historyTable(m_mostVisited, HistoryTable::Mode::MostVisited);
     if (const std::optional<Source> source = encryptedSource())
         return encryptedBookmarks(*source);
-    const bool isTree = m_list.search.trimmed().isEmpty() && !m_list.site &&
+    const bool isTree = !isSearchText(m_list.search) && !m_list.site &&
                         m_groupings.value(GroupedList::Bookmarks) != Grouping::Site;
     if (isTree)
         return bookmarkTable(m_tree);

@@ -4,6 +4,7 @@
 #include "App/Window/PaneText.h"
 
 #include "App/Tables/CellText.h"
+#include "Lists/Refine.h"
 
 #include <algorithm>
 
@@ -17,7 +18,7 @@ namespace
 
 bool isSearch(const ListState &list)
 {
-    return list.site || !list.search.trimmed().isEmpty();
+    return list.site || isSearchText(list.search);
 }
 
 /// Of what the rows are a part, or nothing when they are all there is.

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
-#include "App/Tables/TableRow.h"
+#include "Lists/TableRow.h"
 
 #include "Model/Site.h"
 

@@ -3,9 +3,9 @@
 
 #pragma once
 
-#include "App/Tables/TableRow.h"
 #include "Lists/RowGroup.h"
 #include "Lists/SortComparator.h"
+#include "Lists/TableRow.h"
 #include "Model/Collation.h"
 
 #include <QList>
@@ -74,8 +74,8 @@ public:
     /// Folders and bookmarks as they lie in each other, each folder's content in the order of `order`.
     /// Nothing when `stop` is requested on the way.
     static std::optional<RowTree> ofBookmarks(const QList<BookmarkNode> &nodes,
-                                              const QList<SortComparator<BookmarkNode>> &order,
-                                              const Collation &collation, const std::stop_token &stop = {});
+                                              const QList<SortComparator> &order, const Collation &collation,
+                                              const std::stop_token &stop = {});
 
     bool operator==(const RowTree &) const = default;
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
-#include "Lists/ListKeys.h"
+#include "Lists/ListWish.h"
 
 #include <gtest/gtest.h>
 
@@ -13,26 +13,24 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-using History = SortComparator<HistoryItem>;
-
 // Made anew each time, so that nothing is compared with a copy of itself.
 SearchKey someSearch()
 {
     return {.sourceID = u"safari"_s, .search = u"Words "_s, .site = u"example.org"_s, .generation = 3};
 }
 
-RefineKey<HistoryItem> someList()
+RefineKey someList()
 {
     return {.sourceID = u"safari"_s,
             .search = u"Words "_s,
             .site = u"example.org"_s,
             .grouping = Grouping::Day,
-            .order = {{History::Column::LastVisit, SortOrder::Reverse}},
+            .order = {{SortColumn::Date, SortOrder::Reverse}},
             .generation = 3};
 }
 
 const SearchKey knownSearch = someSearch();
-const RefineKey<HistoryItem> knownList = someList();
+const RefineKey knownList = someList();
 
 /// Whether `key` differs after `change`, in itself and in its hash.
 template<typename Key, typename Change>
@@ -75,44 +73,50 @@ TEST(RefineKey, isEqualWhenAllOfItIs)
     EXPECT_EQ(someList(), knownList);
     EXPECT_EQ(qHash(someList()), qHash(knownList));
     expectToTellSearchesApart(knownList);
-    using Key = RefineKey<HistoryItem>;
-    EXPECT_TRUE(tellsApart(knownList, [](Key &changed) { changed.grouping = Grouping::Site; }));
-    EXPECT_TRUE(tellsApart(knownList, [](Key &changed) { changed.order.clear(); }));
+    EXPECT_TRUE(tellsApart(knownList, [](RefineKey &changed) { changed.grouping = Grouping::Site; }));
+    EXPECT_TRUE(tellsApart(knownList, [](RefineKey &changed) { changed.order.clear(); }));
     EXPECT_TRUE(
-        tellsApart(knownList, [](Key &changed) { changed.order.first().order = SortOrder::Forward; }));
-    EXPECT_TRUE(tellsApart(knownList, [](Key &changed) { changed.order.append({History::Column::Title}); }));
-}
-
-TEST(RefineKey, changesWithTheSortColumnWhereTheSearchDoesNot)
-{
-    RefineKey<HistoryItem> sorted = knownList;
-    sorted.order = {{History::Column::Title, SortOrder::Forward}};
-    const auto searchOf = [](const RefineKey<HistoryItem> &key) {
-        return SearchKey{key.sourceID, key.search, key.site, key.generation};
-    };
-    EXPECT_EQ(searchOf(sorted), searchOf(knownList)) << "no new search of the databases";
-    EXPECT_NE(sorted, knownList) << "but a new list";
+        tellsApart(knownList, [](RefineKey &changed) { changed.order.first().order = SortOrder::Forward; }));
+    EXPECT_TRUE(tellsApart(knownList, [](RefineKey &changed) { changed.order.append({SortColumn::Title}); }));
 }
 
 TEST(RefineKey, changesTogetherWithTheSearchWhenTheLibraryIsReloaded)
 {
     EXPECT_TRUE(tellsApart(knownSearch, [](SearchKey &changed) { changed.generation = 4; }));
-    EXPECT_TRUE(tellsApart(knownList, [](RefineKey<HistoryItem> &changed) { changed.generation = 4; }));
+    EXPECT_TRUE(tellsApart(knownList, [](RefineKey &changed) { changed.generation = 4; }));
 }
 
-TEST(RefineKey, isMadeForBookmarksToo)
+TEST(ListWish, isSearchedForAnewOnlyWhereItsRowsMayBeOthers)
 {
-    using Key = RefineKey<Bookmark>;
-    using Comparator = SortComparator<Bookmark>;
-    const auto sortedByTitle = [] {
-        Key key;
-        key.order = {{Comparator::Column::Title, SortOrder::Forward}};
-        return key;
-    };
-    const Key byTitle = sortedByTitle();
-    EXPECT_EQ(byTitle, sortedByTitle());
-    EXPECT_TRUE(
-        tellsApart(byTitle, [](Key &changed) { changed.order.first().column = Comparator::Column::Folder; }));
+    const ListWish known{.mode = ListWish::Mode::Recent,
+                         .sourceID = u"safari"_s,
+                         .search = u"Words "_s,
+                         .site = u"example.org"_s,
+                         .grouping = Grouping::Day,
+                         .order = {{SortColumn::Date, SortOrder::Reverse}},
+                         .generation = 3};
+    EXPECT_EQ(known.searchKey(), someSearch());
+    EXPECT_EQ(known.refineKey(), someList());
+    ListWish sorted = known;
+    sorted.order = {{SortColumn::Title, SortOrder::Forward}};
+    ListWish grouped = known;
+    grouped.grouping = Grouping::Site;
+    for (const ListWish &wish : {sorted, grouped}) {
+        EXPECT_EQ(wish.searchKey(), known.searchKey()) << "no new search of the databases";
+        EXPECT_NE(wish.refineKey(), known.refineKey()) << "but a new list";
+    }
+    ListWish reloaded = known;
+    reloaded.generation = 4;
+    EXPECT_NE(reloaded.searchKey(), known.searchKey());
+    EXPECT_NE(reloaded.refineKey(), known.refineKey());
+}
+
+TEST(ListWish, isOfHistoryOrOfBookmarks)
+{
+    EXPECT_TRUE(ListWish{.mode = ListWish::Mode::Recent}.isOfHistory());
+    EXPECT_TRUE(ListWish{.mode = ListWish::Mode::MostVisited}.isOfHistory());
+    EXPECT_FALSE(ListWish{.mode = ListWish::Mode::Bookmarks}.isOfHistory());
+    EXPECT_FALSE(ListWish{.mode = ListWish::Mode::BookmarkTree}.isOfHistory());
 }
 
 } // namespace roamlet::testing

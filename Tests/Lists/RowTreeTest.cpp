@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
-#include "App/Tables/RowTree.h"
+#include "Lists/RowTree.h"
 
 #include "Lists/SiteGroups.h"
 
@@ -54,7 +54,7 @@ const QList<BookmarkNode> sample{
     folder(u"Bar"_s, {mark(u"b"_s), folder(u"Inner"_s, {mark(u"d"_s), mark(u"c"_s)}), mark(u"a"_s)}),
     mark(u"z"_s), folder(u"Empty"_s, {})};
 
-RowTree bookmarks(const QList<BookmarkNode> &nodes, const QList<SortComparator<BookmarkNode>> &order = {})
+RowTree bookmarks(const QList<BookmarkNode> &nodes, const QList<SortComparator> &order = {})
 {
     return RowTree::ofBookmarks(nodes, order, Collation(u"en_US"_s)).value_or(RowTree());
 }
@@ -112,10 +112,9 @@ TEST(RowTreeTest, aBookmarkKnowsItsFolderAndItsSite)
 
 TEST(RowTreeTest, eachFolderIsSortedInItself)
 {
-    using Column = SortColumns<BookmarkNode>::Column;
-    EXPECT_EQ(text(bookmarks(sample, {{Column::Title, SortOrder::Forward}})),
+    EXPECT_EQ(text(bookmarks(sample, {{SortColumn::Title, SortOrder::Forward}})),
               u"Bar(a b Inner(c d)) Empty() z");
-    EXPECT_EQ(text(bookmarks(sample, {{Column::Title, SortOrder::Reverse}})),
+    EXPECT_EQ(text(bookmarks(sample, {{SortColumn::Title, SortOrder::Reverse}})),
               u"z Empty() Bar(Inner(d c) b a)");
 }
 

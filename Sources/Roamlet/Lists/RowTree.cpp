@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
-#include "App/Tables/RowTree.h"
+#include "Lists/RowTree.h"
 
 #include "Lists/SortedRows.h"
 
@@ -13,8 +13,8 @@ namespace roamlet
 RowTree::RowTree() : m_nodes(1) {}
 
 std::optional<RowTree> RowTree::ofBookmarks(const QList<BookmarkNode> &nodes,
-                                            const QList<SortComparator<BookmarkNode>> &order,
-                                            const Collation &collation, const std::stop_token &stop)
+                                            const QList<SortComparator> &order, const Collation &collation,
+                                            const std::stop_token &stop)
 {
     RowTree tree;
     // The folders whose content is still missing, in the order of their nodes. Foreign trees may be deep, so
