@@ -180,11 +180,15 @@ TEST_F(WholeStoryTest, onceAllWindowsAreClosedItLetsGoOfWhatOnlyTheyNeed)
         });
         QApplication::exec();
     };
+    app->library().setSearching(true);
+    ASSERT_TRUE(eventually([this] { return app->library().isReadyForSearch(); }));
     app->settingsWindow().open();
     close(window);
     home.clock.advance(std::chrono::seconds(1));
     EXPECT_NE(window.windowHandle(), nullptr) << "a window is left";
+    EXPECT_TRUE(app->library().isReadyForSearch());
     close(app->settingsWindow());
+    EXPECT_FALSE(app->library().isReadyForSearch()) << "nobody sees what is searched for";
     EXPECT_NE(window.windowHandle(), nullptr) << "it may come back at once";
     home.clock.advance(std::chrono::seconds(1));
     EXPECT_EQ(window.windowHandle(), nullptr);

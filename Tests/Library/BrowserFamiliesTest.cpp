@@ -201,7 +201,7 @@ TEST_F(BrowserFamiliesTest, rowsGetANewLabelWhenAnotherInstallationComes)
     addFirefox();
     loadNow(library, QSet<QString>{u"firefox/abc.default"_s});
     for (const HistoryResults &rows : {HistoryResults{.items = library.snapshot().history},
-                                       library.queryHistory(HistoryQuery::recent(), {}).run({})}) {
+                                       library.queryHistory(HistoryQuery::recent(), {}).run({}).results}) {
         const auto row = std::ranges::find_if(rows.items, [](const HistoryItem &item) {
             return item.source.id() == u"firefox@flatpak/abc.default";
         });

@@ -35,7 +35,7 @@ protected:
     static HistoryResults ask(const Library &library, const std::optional<QString> &id,
                               const HistoryQuery &query = HistoryQuery::recent())
     {
-        return library.queryHistory(query, id).run({});
+        return library.queryHistory(query, id).run({}).results;
     }
 
     static QStringList sortedTitles(const HistoryResults &results)
@@ -230,7 +230,7 @@ TEST_F(LibrarySearchTest, theLatestRowsOfUnchangedFilesAreNotReadAgain)
     loadNow(library);
     recordReads();
     const QList<HistoryItem> &known = library.snapshot().history;
-    EXPECT_TRUE(library.queryHistory(HistoryQuery::recent(), {}).known()->items.isSharedWith(known))
+    EXPECT_TRUE(library.queryHistory(HistoryQuery::recent(), {}).known()->results.items.isSharedWith(known))
         << "nor do they take memory of their own";
     EXPECT_EQ(titles(ask(library, u"chrome/Default"_s).items), (QStringList{u"a1"_s, u"a2"_s}));
     EXPECT_FALSE(ask(library, {}).isCapped);
@@ -333,7 +333,7 @@ TEST_F(LibrarySearchTest, aQuestionIsToTheLibraryAsItWasWhenItWasAsked)
     const HistorySearch search = library.queryHistory(mostVisited(), {});
     library.setEnabled(false, *library.source(u"edge/Default"_s));
     ASSERT_TRUE(waitUntil([&library] { return !library.isLoading(); }));
-    EXPECT_EQ(sortedTitles(search.run({})), (QStringList{u"a1"_s, u"a2"_s, u"b1"_s, u"e1"_s}));
+    EXPECT_EQ(sortedTitles(search.run({}).results), (QStringList{u"a1"_s, u"a2"_s, u"b1"_s, u"e1"_s}));
 }
 
 TEST_F(LibrarySearchTest, onlyTheLatestRowsOfUnchangedFilesAreKnown)
@@ -348,7 +348,7 @@ TEST_F(LibrarySearchTest, onlyTheLatestRowsOfUnchangedFilesAreKnown)
     EXPECT_FALSE(all.known());
     EXPECT_EQ(titles(all.standIn()->items), (QStringList{u"a1"_s, u"a2"_s, u"b1"_s, u"e1"_s}));
     const HistorySearch one = library.queryHistory(HistoryQuery::recent(), u"edge/Default"_s);
-    EXPECT_EQ(titles(one.known()->items), QStringList{u"e1"_s});
+    EXPECT_EQ(titles(one.known()->results.items), QStringList{u"e1"_s});
 }
 
 TEST_F(LibrarySearchTest, aSearchThatIsStoppedEnds)
@@ -358,7 +358,7 @@ TEST_F(LibrarySearchTest, aSearchThatIsStoppedEnds)
     loadNow(library);
     std::stop_source stop;
     stop.request_stop();
-    EXPECT_TRUE(library.queryHistory(mostVisited(), {}).run(stop.get_token()).items.isEmpty());
+    EXPECT_TRUE(library.queryHistory(mostVisited(), {}).run(stop.get_token()).results.items.isEmpty());
     EXPECT_TRUE(home.leftovers().isEmpty());
 }
 

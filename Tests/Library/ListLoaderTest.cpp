@@ -86,6 +86,20 @@ protected:
         EXPECT_TRUE(waitUntil([this] { return loader->progress() == Progress::Done; }));
     }
 
+    /// Reads all histories into memory.
+    void readIntoMemory()
+    {
+        library.expectSearch();
+        EXPECT_TRUE(waitUntil([this] {
+            const HistoryQuery query = HistoryQuery::matching(u"x"_s, {}, HistoryQuery::Order::Latest);
+            return library.queryHistory(query, {}).known().has_value();
+        }));
+    }
+    void awaitLists(std::size_t count)
+    {
+        EXPECT_TRUE(waitUntil([&] { return lists.size() >= count; }));
+    }
+
     Library library{home.platform()};
     std::unique_ptr<ListLoader> loader;
     std::vector<std::string> lists;
@@ -318,6 +332,91 @@ TEST_F(ListLoaderTest, aWishMayComeWhileAListIsShown)
     home.clock.advance(250ms);
     finish();
     EXPECT_THAT(lists, ElementsAre("a1 a2 b1 e1", "a1"));
+}
+
+TEST_F(ListLoaderTest, withTheHistoriesInMemoryEachLetterHasItsList)
+{
+    readIntoMemory();
+    recordReads();
+    for (const QString &typed : {u"a"_s, u"a1"_s, u"a1."_s})
+        loader->load(wish(typed));
+    awaitLists(1);
+    EXPECT_THAT(lists, ElementsAre("a1")) << "of letters at once the last one";
+    loader->load(wish(u"a"_s));
+    awaitLists(2);
+    loader->load(wish(u"a2"_s));
+    awaitLists(3);
+    EXPECT_THAT(lists, ElementsAre("a1", "a1 a2 b1 e1", "a2"));
+    EXPECT_THAT(progress, IsEmpty()) << "there was nothing to wait for";
+    home.clock.advance(1s);
+    EXPECT_EQ(loader->progress(), Progress::Done);
+    EXPECT_TRUE(takeReads().isEmpty());
+}
+
+TEST_F(ListLoaderTest, theMostVisitedPagesComeFromMemoryToo)
+{
+    readIntoMemory();
+    recordReads();
+    ListWish most = wish({}, Mode::MostVisited);
+    EXPECT_THAT(listsOf(most), ElementsAre("a1 a2 b1 e1"));
+    EXPECT_TRUE(takeReads().isEmpty());
+}
+
+TEST_F(ListLoaderTest, whereMemoryIsOldTheDatabasesAreAskedAfterTheWait)
+{
+    readIntoMemory();
+    setChromeHistory(u"Profile 1"_s, {u"new"_s});
+    recordReads();
+    loader->load(wish(u"example"_s));
+    ASSERT_TRUE(waitUntil([this] { return loader->progress() == Progress::Waiting; }));
+    EXPECT_THAT(lists, IsEmpty());
+    home.clock.advance(250ms);
+    finish();
+    EXPECT_THAT(lists, ElementsAre("a1 a2 e1 new"));
+    ASSERT_TRUE(waitUntil([this] {
+        const HistoryQuery query = HistoryQuery::matching(u"x"_s, {}, HistoryQuery::Order::Latest);
+        return library.queryHistory(query, {}).known().has_value();
+    })) << "memory was told";
+    EXPECT_THAT(takeReads(), ::testing::Each(u"chrome/Profile 1"_s));
+    loader->load(wish(u"new"_s));
+    awaitLists(2);
+    EXPECT_EQ(lists.back(), "new") << "the next letter does not wait";
+}
+
+TEST_F(ListLoaderTest, theWaitMayEndBeforeMemoryHasAnswered)
+{
+    readIntoMemory();
+    setChromeHistory(u"Profile 1"_s, {u"new"_s});
+    loader->load(wish(u"example"_s));
+    home.clock.advance(250ms);
+    finish();
+    EXPECT_THAT(lists, ElementsAre("a1 a2 e1 new"));
+}
+
+TEST_F(ListLoaderTest, sortingWhileMemoryIsAskedIsDoneWithItsAnswer)
+{
+    readIntoMemory();
+    recordReads();
+    loader->load(wish(u"example"_s));
+    ListWish sorted = wish(u"example"_s);
+    sorted.order = {{SortColumn::Title, SortOrder::Reverse}};
+    loader->load(sorted);
+    awaitLists(1);
+    EXPECT_THAT(lists, ElementsAre("e1 b1 a2 a1"));
+    home.clock.advance(1s);
+    finish();
+    EXPECT_EQ(lists.size(), 1U);
+    EXPECT_TRUE(takeReads().isEmpty());
+}
+
+TEST_F(ListLoaderTest, bookmarksWaitAlsoWithHistoriesInMemory)
+{
+    readIntoMemory();
+    loader->load(wish(u"mark"_s, Mode::Bookmarks));
+    EXPECT_EQ(loader->progress(), Progress::Waiting);
+    home.clock.advance(150ms);
+    finish();
+    EXPECT_THAT(lists, ElementsAre("Mark"));
 }
 
 TEST_F(ListLoaderTest, nothingComesOnceTheLoaderIsGone)

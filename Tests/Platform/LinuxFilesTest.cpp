@@ -10,12 +10,14 @@
 
 #include <fcntl.h>
 #include <sys/socket.h>
+#include <sys/stat.h>
 #include <sys/un.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <limits>
 #include <stop_token>
 
 namespace roamlet::testing
@@ -109,6 +111,22 @@ TEST_F(LinuxFilesTest, theStampTellsTheSizeAndTheTimeToTheNanosecond)
     sample::writeFile(one, "1234");
     setTimes(one, time, time);
     EXPECT_NE(files.fileStamp(one), stamp);
+}
+
+TEST_F(LinuxFilesTest, changesThatFollowEachOtherAtOnceHaveStampsOfTheirOwn)
+{
+    const QString one = file(u"one"_s, "0");
+    QString before = files.fileStamp(one);
+    for (int i = 1; i < 50; ++i) {
+        file(u"one"_s, QByteArray::number(i % 10));
+        const QString after = files.fileStamp(one);
+        EXPECT_NE(after, before) << "of the same size, and within a tick of the file system's clock";
+        before = after;
+    }
+    const timespec ahead{.tv_sec = std::numeric_limits<std::int32_t>::max(), .tv_nsec = 0};
+    const std::array<timespec, 2> times{ahead, ahead};
+    ASSERT_EQ(::utimensat(AT_FDCWD, qPrintable(one), times.data(), 0), 0);
+    EXPECT_EQ(files.fileStamp(one), files.fileStamp(one)) << "nobody waits for a clock that is wrong";
 }
 
 TEST_F(LinuxFilesTest, theStampIsEmptyWithoutAttributes)

@@ -121,7 +121,10 @@ RoamletApp::RoamletApp(const Services &services)
                 quit();
         },
         Qt::QueuedConnection);
-    QObject::connect(qApp, &QGuiApplication::lastWindowClosed, &m_mainWindow, [this] { rest(); });
+    QObject::connect(qApp, &QGuiApplication::lastWindowClosed, &m_mainWindow, [this] {
+        m_services.library.endSearch();
+        rest();
+    });
     QObject::connect(&m_services.library, &Library::lastLoadedChanged, &m_mainWindow, [this] { rest(); });
     QObject::connect(&m_mainWindow, &MainWindow::settingsRequested, &m_mainWindow,
                      [this] { settingsWindow().open(); });

@@ -8,25 +8,37 @@
 
 #include <QSet>
 
+#include <vector>
+
 namespace roamlet
 {
 
-std::optional<HistoryResults> HistorySearch::known() const
+namespace
 {
-    Remembered answer = remembered();
-    return answer.others.isEmpty() ? std::optional(std::move(answer.results)) : std::nullopt;
+
+/// Of more rows than one in so many nothing is gained by looking at these alone, and they take memory.
+constexpr HistoryText::RowNumber narrowEnough = 8;
+
+} // namespace
+
+std::optional<HistorySearch::Answer> HistorySearch::known() const
+{
+    Remembered memory = remembered();
+    return memory.others.isEmpty() ? std::optional(std::move(memory.answer)) : std::nullopt;
 }
 
-HistoryResults HistorySearch::run(const std::stop_token &stop) const
+HistorySearch::Answer HistorySearch::run(const std::stop_token &stop) const
 {
-    Remembered answer = remembered();
-    if (answer.others.isEmpty())
-        return answer.results;
+    Remembered memory = remembered();
+    if (memory.others.isEmpty())
+        return memory.answer;
     ReadContext context = m_context;
     context.stop = stop;
-    HistoryResults read = LibraryReading::history(m_query, answer.others, context);
-    read.items = answer.results.items + read.items;
-    return read;
+    const HistoryResults read = LibraryReading::history(m_query, memory.others, context);
+    HistoryResults &all = memory.answer.results;
+    all.items += read.items;
+    all.isCapped = all.isCapped || read.isCapped;
+    return memory.answer;
 }
 
 std::optional<HistoryResults> HistorySearch::standIn() const
@@ -36,17 +48,57 @@ std::optional<HistoryResults> HistorySearch::standIn() const
 
 HistorySearch::Remembered HistorySearch::remembered() const
 {
-    if (!isForLatest())
-        return {.results = {}, .others = m_sources};
+    return isForLatest() ? latestRows() : foundInTexts();
+}
+
+HistorySearch::Remembered HistorySearch::latestRows() const
+{
+    Remembered result;
     QList<Source> unchanged;
-    QList<Source> others;
     for (const Source &source : m_sources) {
         const auto state = m_snapshot.historyStates.constFind(source.id());
         const bool isUnchanged = state != m_snapshot.historyStates.cend() &&
                                  *state == SourceRead::stateOfHistory(source, m_context);
-        (isUnchanged ? unchanged : others).append(source);
+        (isUnchanged ? unchanged : result.others).append(source);
     }
-    return {.results = snapshotRows(unchanged), .others = others};
+    result.answer.results = snapshotRows(unchanged);
+    return result;
+}
+
+HistorySearch::Remembered HistorySearch::foundInTexts() const
+{
+    Remembered result;
+    auto findings = std::make_shared<SearchFindings>();
+    findings->query = m_query;
+    const bool isWithinEarlier = m_earlier && m_query.isWithin(m_earlier->query);
+    std::vector<QList<HistoryItem>> parts;
+    for (const Source &source : m_sources) {
+        const QString id = source.id();
+        const auto known = m_texts.constFind(id);
+        if (known == m_texts.cend() || !known->text ||
+            known->state != SourceRead::stateOfHistory(source, m_context)) {
+            result.others.append(source);
+            continue;
+        }
+        const HistoryText::RowNumbers *among = nullptr;
+        if (isWithinEarlier) {
+            const auto earlier = m_earlier->texts.constFind(id);
+            if (earlier != m_earlier->texts.cend() && earlier->text.lock() == known->text)
+                among = &earlier->rows;
+        }
+        std::optional<HistoryText::Answer> found = known->text->search(m_query, among);
+        if (!found) {
+            result.others.append(source);
+            continue;
+        }
+        parts.push_back(std::move(found->results.items));
+        if (found->rows.size() <= known->text->rowCount() / narrowEnough)
+            findings->texts.insert(id, {known->text, std::move(found->rows)});
+    }
+    result.answer.results = LibraryReading::merged(m_query, std::move(parts));
+    if (!findings->texts.isEmpty())
+        result.answer.findings = std::move(findings);
+    return result;
 }
 
 HistoryResults HistorySearch::snapshotRows(const QList<Source> &sources) const

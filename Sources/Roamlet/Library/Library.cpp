@@ -26,7 +26,11 @@ constexpr std::chrono::seconds reloadDelay{5};
 } // namespace
 
 Library::Library(const Platform &platform, QObject *parent)
-    : QObject(parent), m_platform(platform), m_icons(platform.files), m_choice(platform.defaults)
+    : QObject(parent),
+      m_platform(platform),
+      m_icons(platform.files),
+      m_choice(platform.defaults),
+      m_searchCache(platform)
 {
 }
 
@@ -146,7 +150,17 @@ HistorySearch Library::queryHistory(const HistoryQuery &query, const std::option
     QList<Source> sources = ordered(m_snapshot.sources);
     if (sourceID)
         sources.removeIf([&sourceID](const Source &source) { return source.id() != *sourceID; });
-    return {query, sources, m_snapshot, LibraryReading::readContext(m_platform)};
+    return {query, sources, m_snapshot, m_searchCache.texts(), LibraryReading::readContext(m_platform)};
+}
+
+void Library::expectSearch()
+{
+    m_searchCache.expectSearch(ordered(m_snapshot.sources));
+}
+
+void Library::setSearching(bool isSearching)
+{
+    m_searchCache.setSearching(isSearching, ordered(m_snapshot.sources));
 }
 
 std::optional<Source> Library::source(const std::optional<QString> &id) const

@@ -7,6 +7,7 @@
 #include "Library/HistorySearch.h"
 #include "Library/ProfileChoice.h"
 #include "Library/RecentPages.h"
+#include "Library/SearchCache.h"
 #include "Library/SiteIcons.h"
 #include "Library/Snapshot.h"
 #include "Model/HistoryQuery.h"
@@ -51,6 +52,15 @@ public:
     /// A question to the source with this id, or to all in the user's order, which is to be answered away
     /// from the main thread.
     HistorySearch queryHistory(const HistoryQuery &query, const std::optional<QString> &sourceID) const;
+
+    /// Somebody may search soon: what it takes to answer at once is read into memory and kept for a minute.
+    void expectSearch();
+    /// Somebody searches, or does so no longer: it is kept until a minute after that.
+    void setSearching(bool isSearching);
+    /// Nobody looks any more: it is let go.
+    void endSearch() { m_searchCache.clear(); }
+    /// Whether histories are in memory, so that the answer to a search may be.
+    bool isReadyForSearch() const { return !m_searchCache.texts().isEmpty(); }
 
     const Snapshot &snapshot() const { return m_snapshot; }
     bool isLoading() const { return m_isLoading; }
@@ -101,6 +111,7 @@ private:
     RecentPages m_recent;
     SiteIcons m_icons;
     ProfileChoice m_choice;
+    SearchCache m_searchCache;
     std::unique_ptr<BrowserWatcher> m_watcher;
     BackgroundTasks m_tasks;
 };

@@ -139,19 +139,24 @@ HistoryResults history(const HistoryQuery &query, const QList<Source> &sources, 
         results[finished.fetch_add(1)] = std::move(rows).value_or(QList<HistoryItem>());
     });
 
-    HistoryResults merged;
-    for (QList<HistoryItem> &rows : results) {
-        merged.isCapped = merged.isCapped || (query.isSearch() && rows.size() >= query.limit);
-        merged.items += std::move(rows);
-    }
     for (size_t i = 0; report && i < problems.size(); ++i) {
         if (problems[i])
             report(sources.at(static_cast<qsizetype>(i)), *problems[i]);
     }
-    // The SQL also matched the site's text further on in the URL.
+    return merged(query, std::move(results));
+}
+
+HistoryResults merged(const HistoryQuery &query, std::vector<QList<HistoryItem>> parts)
+{
+    HistoryResults results;
+    for (QList<HistoryItem> &rows : parts) {
+        results.isCapped = results.isCapped || (query.isSearch() && rows.size() >= query.limit);
+        results.items += std::move(rows);
+    }
+    // The site's text was also found further on in the URL.
     if (query.site)
-        merged.items.removeIf([&query](const HistoryItem &item) { return item.site != *query.site; });
-    return merged;
+        results.items.removeIf([&query](const HistoryItem &item) { return item.site != *query.site; });
+    return results;
 }
 
 } // namespace roamlet::LibraryReading

@@ -15,6 +15,7 @@
 
 #include <functional>
 #include <optional>
+#include <vector>
 
 /// Reads all browsers, several at a time. Holds no state: any thread, with windows or without.
 namespace roamlet::LibraryReading
@@ -48,5 +49,7 @@ Snapshot readAll(const Request &request, const ReadContext &context, const Clock
 /// order of `sources`.
 HistoryResults history(const HistoryQuery &query, const QList<Source> &sources, const ReadContext &context,
                        const ProblemHandler &report = {});
+/// The answers of several sources, each in the query's order, as one.
+HistoryResults merged(const HistoryQuery &query, std::vector<QList<HistoryItem>> parts);
 
 } // namespace roamlet::LibraryReading

@@ -22,15 +22,16 @@ struct ListLoader::Job {
     QList<Bookmark> bookmarks;
     QList<BookmarkNode> bookmarkTree;
     /// or of a history: what was found already, or else what is to be found.
-    std::optional<HistoryResults> found;
+    std::optional<HistorySearch::Answer> found;
     std::optional<HistorySearch> search;
     Effort effort = Effort::Databases;
 };
 
 struct ListLoader::Made {
     ListWish wish;
-    /// What a history's databases have for the wish; absent where they still have to be asked.
-    std::optional<HistoryResults> results;
+    Effort effort = Effort::Databases;
+    /// What a history has for the wish; absent where its databases still have to be asked.
+    std::optional<HistorySearch::Answer> answer;
     /// Absent where there is nothing to show yet.
     SharedRowTree tree;
 };
@@ -84,9 +85,13 @@ void ListLoader::load(const ListWish &wish)
 
 void ListLoader::await(std::chrono::milliseconds delay)
 {
-    setProgress(Progress::Waiting);
     m_wait = std::make_unique<QObject>();
     m_clock.after(delay, m_wait.get(), [this] { begin(); });
+    // Nobody has to wait where no file is read: most letters are answered before the next one is typed.
+    if (m_wish->isOfHistory() && m_library.isReadyForSearch())
+        make(Effort::Memory);
+    else
+        setProgress(Progress::Waiting);
 }
 
 void ListLoader::begin()
@@ -109,12 +114,14 @@ void ListLoader::make(Effort effort)
     case ListWish::Mode::Recent:
     case ListWish::Mode::MostVisited:
         if (hasRows(wish)) {
-            job.found = m_found->results;
+            job.found = m_found->answer;
         } else {
             const auto order = wish.mode == ListWish::Mode::Recent ? HistoryQuery::Order::Latest
                                                                    : HistoryQuery::Order::MostVisited;
             job.search =
                 m_library.queryHistory(HistoryQuery::matching(wish.search, wish.site, order), wish.sourceID);
+            if (m_found)
+                job.search->narrow(m_found->answer.findings);
         }
         break;
     case ListWish::Mode::Bookmarks:
@@ -124,6 +131,7 @@ void ListLoader::make(Effort effort)
         job.bookmarkTree = m_library.bookmarkTree(wish.sourceID);
         break;
     }
+    m_task.request_stop();
     m_task = m_tasks.run(
         this, [job = std::move(job)](const std::stop_token &stop) { return made(job, stop); },
         [this](const Made &made) { take(made); });
@@ -131,7 +139,7 @@ void ListLoader::make(Effort effort)
 
 ListLoader::Made ListLoader::made(const Job &job, const std::stop_token &stop)
 {
-    Made made{.wish = job.wish, .results = job.found, .tree = {}};
+    Made made{.wish = job.wish, .effort = job.effort, .answer = job.found, .tree = {}};
     std::optional<RowTree> tree;
     if (job.wish.mode == ListWish::Mode::BookmarkTree) {
         tree = RowTree::ofBookmarks(job.bookmarkTree, job.wish.order, *job.setting.collation, stop);
@@ -140,14 +148,15 @@ ListLoader::Made ListLoader::made(const Job &job, const std::stop_token &stop)
     } else {
         std::optional<HistoryResults> standIn;
         if (job.search) {
-            made.results = job.search->known();
-            if (!made.results && job.effort == Effort::Snapshot)
+            made.answer = job.search->known();
+            if (!made.answer && job.effort == Effort::Snapshot)
                 standIn = job.search->standIn();
-            if (!made.results && !standIn)
-                made.results = job.search->run(stop);
+            if (!made.answer && !standIn && job.effort != Effort::Memory)
+                made.answer = job.search->run(stop);
         }
-        tree =
-            ListTree::ofHistory((made.results ? *made.results : *standIn).items, job.wish, job.setting, stop);
+        if (made.answer || standIn)
+            tree = ListTree::ofHistory((standIn ? *standIn : made.answer->results).items, job.wish,
+                                       job.setting, stop);
     }
     if (tree)
         made.tree = *tree == *job.shown ? job.shown : std::make_shared<RowTree>(std::move(*tree));
@@ -156,24 +165,30 @@ ListLoader::Made ListLoader::made(const Job &job, const std::stop_token &stop)
 
 void ListLoader::take(const Made &made)
 {
-    if (made.results)
-        m_found = {made.wish.searchKey(), *made.results};
+    if (made.answer) {
+        m_found = {made.wish.searchKey(), *made.answer};
+        m_wait.reset();
+    }
     std::optional<ShownList> list;
     // Or else it was asked to be sorted or cut in another way while the rows were on their way.
     const bool isWished = made.wish == m_wish;
     if (isWished && made.tree) {
         list = {.tree = made.tree,
-                .isCapped = made.results && made.results->isCapped,
+                .isCapped = made.answer && made.answer->results.isCapped,
                 .change = isReload(made.wish) ? ListChange::Reloaded : ListChange::Asked};
         m_shown = made.wish.refineKey();
         m_tree = made.tree;
         m_isOutdated = false;
     }
-    if (!hasRows(made.wish) || !isWished) {
-        make(Effort::Databases);
-    } else {
+    if (hasRows(made.wish) && isWished) {
         m_wish.reset();
         setProgress(Progress::Done);
+    } else if (made.effort == Effort::Memory && !made.answer) {
+        // What memory has is old, or not yet all there is.
+        m_library.expectSearch();
+        setProgress(Progress::Waiting);
+    } else {
+        make(Effort::Databases);
     }
     // Whoever hears of it may wish for the next one.
     if (list)

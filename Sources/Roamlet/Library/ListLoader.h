@@ -76,10 +76,11 @@ Q_SIGNALS:
 private:
     struct Found {
         SearchKey key;
-        HistoryResults results;
+        HistorySearch::Answer answer;
     };
     /// How the rows of a history are come by.
     enum class Effort {
+        Memory,   ///< only memory is asked
         Snapshot, ///< where memory does not have them, the snapshot's rows are shown first
         Databases ///< where memory does not have them, the databases are asked
     };

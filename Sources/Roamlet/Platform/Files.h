@@ -39,7 +39,8 @@ public:
     /// Whether anything stands at `path`, also when it may not be looked into.
     virtual bool exists(const QString &path) const = 0;
     /// The file's size and its modification time to the nanosecond, or an empty text when its attributes
-    /// cannot be read. Two equal stamps mean an unchanged file.
+    /// cannot be read. Two equal stamps mean an unchanged file; of one that was written to a moment ago it
+    /// takes some milliseconds until a stamp can say so.
     virtual QString fileStamp(const QString &path) const = 0;
     /// The whole file.
     virtual std::expected<QByteArray, std::error_code> read(const QString &path) const = 0;

@@ -414,6 +414,61 @@ TEST_F(ContentViewTest, theKeyboardGoesFromTheSearchToTheListAndBack)
     EXPECT_TRUE(QApplication::focusWidget()->isVisible());
 }
 
+TEST_F(ContentViewTest, nothingIsReadIntoMemoryBeforeAnybodySearches)
+{
+    addChromium();
+    loadNow(*library);
+    const auto content = makeContent();
+    content->activateWindow();
+    content->setPane(MostVisitedPane());
+    expectSubtitle(*content, u"4 items"_s);
+    EXPECT_FALSE(part<QLineEdit>(*content, u"searchField"_s)->hasFocus());
+    EXPECT_FALSE(library->isReadyForSearch());
+}
+
+TEST_F(ContentViewTest, whoComesToTheSearchFieldFindsEachLetterAnsweredAtOnce)
+{
+    addChromium();
+    loadNow(*library);
+    const auto content = makeContent();
+    expectSubtitle(*content, u"4 items"_s);
+    content->activateWindow();
+    content->startSearch();
+    ASSERT_TRUE(waitUntil([&] {
+        return library->queryHistory(HistoryQuery::matching(u"x"_s, {}, HistoryQuery::Order::Latest), {})
+            .known()
+            .has_value();
+    }));
+    recordReads();
+    auto *field = part<QLineEdit>(*content, u"searchField"_s);
+    for (const auto &[letter, count] : {std::pair{u"a"_s, u"4 items"_s}, {u"1"_s, u"1 item"_s}}) {
+        QTest::keyClicks(field, letter);
+        // The clock stands still.
+        EXPECT_TRUE(waitUntil([&, shown = count] { return subtitle(*content) == shown; }))
+            << qPrintable(subtitle(*content));
+    }
+    EXPECT_TRUE(takeReads().isEmpty());
+    field->clear();
+    home.clock.advance(std::chrono::seconds(59));
+    EXPECT_TRUE(library->isReadyForSearch());
+    home.clock.advance(std::chrono::seconds(1));
+    EXPECT_FALSE(library->isReadyForSearch());
+}
+
+TEST_F(ContentViewTest, theFirstLetterBringsTheHistoriesIntoMemoryAndTheyStay)
+{
+    addChromium();
+    loadNow(*library);
+    const auto content = makeContent();
+    auto *field = part<QLineEdit>(*content, u"searchField"_s);
+    field->setText(u" "_s);
+    EXPECT_FALSE(library->isReadyForSearch());
+    field->setText(u"a"_s);
+    EXPECT_TRUE(waitUntil([&] { return library->isReadyForSearch(); }));
+    home.clock.advance(std::chrono::hours(1));
+    EXPECT_TRUE(library->isReadyForSearch());
+}
+
 TEST_F(ContentViewTest, everyControlHasAName)
 {
     addChromium();

@@ -89,8 +89,10 @@ ContentView::ContentView(const WindowServices &services, QWidget *parent)
     connect(m_sidebar, &Sidebar::exportRequested, this, [this](const std::optional<QString> &sourceID) {
         Q_EMIT exportRequested({.sourceID = sourceID});
     });
+    connect(m_header, &DetailHeader::searchExpected, &services.library, &Library::expectSearch);
     connect(m_header, &DetailHeader::searchChanged, this, [this](const QString &text) {
         m_list.search = text;
+        m_services.library.setSearching(isSearchText(text));
         updateList();
         updateTitle();
     });

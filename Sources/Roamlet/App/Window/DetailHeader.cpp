@@ -144,6 +144,8 @@ void DetailHeader::setCanExport(bool canExport)
 
 bool DetailHeader::eventFilter(QObject *watched, QEvent *event)
 {
+    if (watched == m_search && event->type() == QEvent::FocusIn)
+        Q_EMIT searchExpected();
     if (watched != m_search || event->type() != QEvent::KeyPress)
         return QWidget::eventFilter(watched, event);
     switch (static_cast<QKeyEvent *>(event)->key()) {

@@ -40,6 +40,8 @@ public:
     QMenu *groupingMenu() const { return m_groupingMenu; }
 
 Q_SIGNALS:
+    /// The search field has got the focus.
+    void searchExpected();
     void searchChanged(const QString &text);
     void groupingChosen(roamlet::Grouping grouping);
     void reloadRequested();

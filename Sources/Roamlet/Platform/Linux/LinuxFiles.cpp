@@ -15,7 +15,10 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <chrono>
+#include <ctime>
 #include <filesystem>
+#include <thread>
 #include <vector>
 
 namespace roamlet
@@ -132,6 +135,18 @@ Copied copyContent(int source, int target, const std::stop_token &stop)
     return interrupted();
 }
 
+/// Whether a file that was written to at this time would bear the same time if it were written to now: the
+/// clock of the file systems moves on every few milliseconds only. A time that lies far ahead is no such
+/// case.
+bool isOfThisTick(const timespec &modified)
+{
+    timespec now = {};
+    ::clock_gettime(CLOCK_REALTIME_COARSE, &now);
+    const auto ahead = std::chrono::seconds(modified.tv_sec - now.tv_sec) +
+                       std::chrono::nanoseconds(modified.tv_nsec - now.tv_nsec);
+    return ahead >= std::chrono::nanoseconds(0) && ahead < std::chrono::milliseconds(20);
+}
+
 } // namespace
 
 bool LinuxFiles::exists(const QString &path) const
@@ -144,9 +159,15 @@ bool LinuxFiles::exists(const QString &path) const
 
 QString LinuxFiles::fileStamp(const QString &path) const
 {
+    const QByteArray name = QFile::encodeName(path);
     struct stat attributes = {};
-    if (::stat(QFile::encodeName(path).constData(), &attributes) != 0)
+    if (::stat(name.constData(), &attributes) != 0)
         return {};
+    for (int looks = 0; looks < 20 && isOfThisTick(attributes.st_mtim); ++looks) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        if (::stat(name.constData(), &attributes) != 0)
+            return {};
+    }
     return QString::number(attributes.st_size) % u' ' % QString::number(attributes.st_mtim.tv_sec) % u'.' %
            QString::number(attributes.st_mtim.tv_nsec).rightJustified(9, u'0');
 }
