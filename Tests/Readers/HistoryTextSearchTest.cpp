@@ -4,7 +4,9 @@
 #include "Readers/HistoryTextTest.h"
 #include "SampleHome/SampleText.h"
 
+#include <algorithm>
 #include <stop_token>
+#include <utility>
 
 namespace roamlet::testing
 {
@@ -46,6 +48,52 @@ TEST(HistoryTextSearchTest, whatOnlyTheDatabaseAnswersIsLeftToIt)
     EXPECT_FALSE(text->search(site));
 }
 
+TEST(HistoryTextSearchTest, asManyAsAreWantedAreTheFirstOfAll)
+{
+    auto builder = builderOf();
+    sample::Random random(7);
+    constexpr qint64 count = 30'000;
+    for (qint64 i = 0; i < count; ++i) {
+        const QByteArray url = "https://" + QByteArray(random.below(50) == 0 ? "rare" : "often") + ".test/" +
+                               QByteArray::number(i);
+        const QByteArray title = random.below(300) == 0 ? "needle \xC3\x89\xFF"
+                                 : random.below(3) == 0 ? "hay \xC3\x89"
+                                                        : "hay";
+        builder.add({.id = i,
+                     .url = std::string_view(url.constData(), static_cast<size_t>(url.size())),
+                     .title = std::string_view(title.constData(), static_cast<size_t>(title.size())),
+                     .order = -i,
+                     .lastVisit = random.below(9) == 0 ? std::nullopt : std::optional(pointInTime(1.0))});
+    }
+    const auto text = builder.finish({});
+    for (const QStringList &words : {QStringList{u"hay"_s},
+                                     {u"needle"_s},
+                                     {u"hay"_s, u"rare"_s},
+                                     {u"É"_s},
+                                     {u"needle"_s, u"often"_s, u"1"_s},
+                                     {u"nowhere"_s},
+                                     {}}) {
+        for (const std::optional<QString> &site : {std::optional<QString>(), std::optional(u"rare.test"_s)}) {
+            HistoryQuery query = wordsQuery(words, HistoryQuery::Order::Latest, -1);
+            query.site = site;
+            const auto all = text->search(query);
+            ASSERT_TRUE(all && all->hasAllRows);
+            for (const qint64 limit : {0, 1, 10, 500, 1000, 29'999, 30'000, 40'000}) {
+                query.limit = limit;
+                const auto some = text->search(query);
+                const auto wanted = std::min(static_cast<size_t>(limit), all->rows.size());
+                ASSERT_GE(some->rows.size(), wanted);
+                EXPECT_TRUE(std::equal(some->rows.begin(), some->rows.end(), all->rows.begin()));
+                if (some->hasAllRows || std::cmp_greater(limit, all->rows.size())) {
+                    EXPECT_EQ(some->rows.size(), all->rows.size()) << limit;
+                }
+                EXPECT_EQ(some->results.items, all->results.items.first(some->results.items.size()));
+                EXPECT_LE(some->results.items.size(), limit);
+            }
+        }
+    }
+}
+
 TEST(HistoryTextSearchTest, aMillionEmptyRowsAreSearched)
 {
     auto builder = builderOf();
@@ -58,7 +106,11 @@ TEST(HistoryTextSearchTest, aMillionEmptyRowsAreSearched)
     ASSERT_TRUE(answer);
     EXPECT_EQ(answer->rows, HistoryText::RowNumbers{1'000'000});
     EXPECT_EQ(text->search(wordsQuery({u"y"_s}))->rows.size(), 0U);
-    EXPECT_EQ(text->search(wordsQuery({u" "_s}))->rows.size(), 1'000'001U);
+    const auto blanks = text->search(wordsQuery({u" "_s}));
+    EXPECT_EQ(blanks->results.items.size(), 1000);
+    EXPECT_TRUE(blanks->results.isCapped);
+    EXPECT_FALSE(blanks->hasAllRows) << "nobody needs to see them all";
+    EXPECT_EQ(text->search(wordsQuery({u" "_s}, HistoryQuery::Order::Latest, -1))->rows.size(), 1'000'001U);
     const auto most = text->search(listing(HistoryQuery::Order::MostVisited, 2));
     ASSERT_EQ(most->results.items.size(), 2);
     EXPECT_EQ(most->results.items[0].id, u"safari/999998"_s);

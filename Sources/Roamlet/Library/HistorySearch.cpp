@@ -92,7 +92,7 @@ HistorySearch::Remembered HistorySearch::foundInTexts() const
             continue;
         }
         parts.push_back(std::move(found->results.items));
-        if (found->rows.size() <= known->text->rowCount() / narrowEnough)
+        if (found->hasAllRows && found->rows.size() <= known->text->rowCount() / narrowEnough)
             findings->texts.insert(id, {known->text, std::move(found->rows)});
     }
     result.answer.results = LibraryReading::merged(m_query, std::move(parts));

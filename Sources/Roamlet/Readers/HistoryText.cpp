@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 #include <string>
 #include <tuple>
 #include <utility>
@@ -60,6 +61,12 @@ struct HistoryText::Literal {
     }
 };
 
+/// What a row has to hold: all words, and one of the addresses of the site, if there are any.
+struct HistoryText::Condition {
+    std::vector<Literal> words;
+    std::vector<Literal> site;
+};
+
 std::optional<std::vector<HistoryText::Literal>> HistoryText::wordsOf(const HistoryQuery &query)
 {
     const QStringList patterns = query.patterns();
@@ -81,20 +88,31 @@ std::optional<std::vector<HistoryText::Literal>> HistoryText::wordsOf(const Hist
 std::optional<HistoryText::Answer> HistoryText::search(const HistoryQuery &query,
                                                        const RowNumbers *among) const
 {
-    std::optional<RowNumbers> rows = find(query, among);
-    if (!rows)
+    const std::optional<Condition> condition = conditionOf(query);
+    if (!condition)
         return {};
-    return Answer{.results = results(query, *rows), .rows = std::move(*rows)};
+    Answer answer;
+    if (among != nullptr) {
+        answer.rows = *among;
+        for (const Literal &word : condition->words)
+            answer.rows = findAmong(word, answer.rows, {0, rowCount()});
+        std::erase_if(answer.rows, [&](RowNumber row) { return !isOfSite(row, *condition); });
+    } else {
+        answer.hasAllRows = findInSlices(query, *condition, answer.rows);
+    }
+    answer.results = results(query, answer.rows);
+    return answer;
 }
 
-std::optional<HistoryText::RowNumbers> HistoryText::find(const HistoryQuery &query,
-                                                         const RowNumbers *among) const
+/// The words, those first that the fewest rows have, and the site.
+std::optional<HistoryText::Condition> HistoryText::conditionOf(const HistoryQuery &query) const
 {
     std::optional<std::vector<Literal>> words = wordsOf(query);
     if (!words)
         return {};
+    Condition condition;
     // A page of the site has one of these in its address.
-    const std::vector<Literal> sitePatterns(words->begin() + query.words.size(), words->end());
+    condition.site.assign(words->begin() + query.words.size(), words->end());
     words->erase(words->begin() + query.words.size(), words->end());
     if (query.site && !query.site->isEmpty()) {
         std::optional<Literal> site = Literal::of(HistoryQuery::pattern(*query.site), Part::Url);
@@ -102,46 +120,60 @@ std::optional<HistoryText::RowNumbers> HistoryText::find(const HistoryQuery &que
             return {};
         words->push_back(std::move(*site));
     }
-
-    RowNumbers rows;
-    if (words->empty()) {
-        if (among != nullptr) {
-            rows = *among;
-        } else {
-            rows.reserve(m_rows.size());
-            for (RowNumber row = 0; row < rowCount(); ++row)
-                rows.push_back(row);
-        }
-    } else {
-        // What the newest rows have seldom, all have seldom.
-        constexpr RowNumber sampleSize = 2000;
-        std::vector<std::tuple<size_t, qsizetype, const Literal *>> byRarity;
-        for (const Literal &word : *words) {
-            const size_t found =
-                words->size() == 1 ? 0 : findAll(word, std::min(sampleSize, rowCount())).size();
-            byRarity.emplace_back(found, -static_cast<qsizetype>(word.needle.size()), &word);
-        }
-        std::ranges::sort(byRarity);
-        const Literal &rarest = *std::get<const Literal *>(byRarity.front());
-        rows = among != nullptr ? findAmong(rarest, *among) : findAll(rarest, rowCount());
-        for (size_t i = 1; i < byRarity.size(); ++i)
-            rows = findAmong(*std::get<const Literal *>(byRarity[i]), rows);
+    // What the newest rows have seldom, all have seldom.
+    constexpr RowNumber sampleSize = 2000;
+    std::vector<std::tuple<size_t, qsizetype, const Literal *>> byRarity;
+    for (const Literal &word : *words) {
+        const size_t found =
+            words->size() == 1 ? 0 : findAll(word, {0, std::min(sampleSize, rowCount())}).size();
+        byRarity.emplace_back(found, -static_cast<qsizetype>(word.needle.size()), &word);
     }
-    if (!sitePatterns.empty()) {
-        std::erase_if(rows, [&](RowNumber row) {
-            return std::ranges::none_of(sitePatterns,
-                                        [&](const Literal &pattern) { return isFoundIn(row, pattern); });
-        });
-    }
-    return rows;
+    std::ranges::sort(byRarity);
+    for (const auto &[found, size, word] : byRarity)
+        condition.words.push_back(*word);
+    return condition;
 }
 
-HistoryText::RowNumbers HistoryText::findAll(const Literal &literal, RowNumber end) const
+/// Appends the rows that match, the newest first, and stops where there are as many as the query wants: of a
+/// letter that all rows have, nobody needs to see all of them. Returns whether it has all.
+bool HistoryText::findInSlices(const HistoryQuery &query, const Condition &condition, RowNumbers &rows) const
+{
+    const bool wantsAll = query.order == HistoryQuery::Order::MostVisited || query.limit < 0;
+    // Several rows of one page are only one that is shown.
+    qint64 pages = 0;
+    RowNumber size = wantsAll ? rowCount() : 4096;
+    for (RowNumber begin = 0; begin < rowCount();) {
+        const Slice slice{begin, begin + std::min(size, rowCount() - begin)};
+        RowNumbers found;
+        if (condition.words.empty()) {
+            found.resize(slice.end - slice.begin);
+            std::iota(found.begin(), found.end(), slice.begin);
+        } else {
+            found = findAll(condition.words.front(), slice);
+            for (size_t i = 1; i < condition.words.size(); ++i)
+                found = findAmong(condition.words[i], found, slice);
+        }
+        std::erase_if(found, [&](RowNumber row) { return !isOfSite(row, condition); });
+        pages += std::ranges::count_if(
+            found, [this](RowNumber row) { return m_areOfSharedPage.empty() || !m_areOfSharedPage[row]; });
+        if (rows.empty())
+            rows = std::move(found);
+        else
+            rows.insert(rows.end(), found.begin(), found.end());
+        begin = slice.end;
+        size = std::min(size, rowCount() / 2) * 2;
+        if (!wantsAll && pages >= query.limit)
+            return begin == rowCount();
+    }
+    return true;
+}
+
+HistoryText::RowNumbers HistoryText::findAll(const Literal &literal, Slice slice) const
 {
     RowNumbers found;
-    const size_t textEnd = m_starts[end];
-    RowNumber row = 0;
-    size_t place = literal.needle.find(text(), 0, textEnd);
+    const size_t textEnd = m_starts[slice.end];
+    RowNumber row = slice.begin;
+    size_t place = literal.needle.find(text(), m_starts[row], textEnd);
     while (place != FoldedNeedle::nowhere) {
         row = rowAt(place, row);
         if (isHit(place, row, literal))
@@ -153,27 +185,37 @@ HistoryText::RowNumbers HistoryText::findAll(const Literal &literal, RowNumber e
         return found;
     std::erase_if(found, [this](RowNumber candidate) { return isBroken(candidate); });
     const auto regular = static_cast<std::ptrdiff_t>(found.size());
-    for (const RowNumber broken : m_broken) {
-        if (broken < end && isLike(broken, literal))
-            found.push_back(broken);
+    for (auto broken = std::ranges::lower_bound(m_broken, slice.begin);
+         broken != m_broken.end() && *broken < slice.end; ++broken) {
+        if (isLike(*broken, literal))
+            found.push_back(*broken);
     }
     std::ranges::inplace_merge(found, found.begin() + regular);
     return found;
 }
 
-HistoryText::RowNumbers HistoryText::findAmong(const Literal &literal, const RowNumbers &among) const
+/// Of the rows `among`, which lie in the slice, those that hold the literal.
+HistoryText::RowNumbers HistoryText::findAmong(const Literal &literal, const RowNumbers &among,
+                                               Slice slice) const
 {
     RowNumbers found;
     // Where most rows are left, going through all is quicker than from one to the next.
     constexpr size_t few = 8;
-    if (among.size() > m_rows.size() / few) {
-        const RowNumbers all = findAll(literal, rowCount());
+    if (among.size() > (slice.end - slice.begin) / few) {
+        const RowNumbers all = findAll(literal, slice);
         std::ranges::set_intersection(all, among, std::back_inserter(found));
     } else {
         std::ranges::copy_if(among, std::back_inserter(found),
                              [&](RowNumber row) { return isFoundIn(row, literal); });
     }
     return found;
+}
+
+bool HistoryText::isOfSite(RowNumber row, const Condition &condition) const
+{
+    return condition.site.empty() || std::ranges::any_of(condition.site, [&](const Literal &pattern) {
+               return isFoundIn(row, pattern);
+           });
 }
 
 bool HistoryText::isFoundIn(RowNumber row, const Literal &literal) const
@@ -188,7 +230,7 @@ bool HistoryText::isFoundIn(RowNumber row, const Literal &literal) const
 /// As the database itself would compare.
 bool HistoryText::isLike(RowNumber row, const Literal &literal) const
 {
-    const char *start = m_text.get() + m_starts[row];
+    const char *start = m_text.data() + m_starts[row];
     std::string text;
     if (literal.part == Part::Url)
         text.assign(start, m_urlSizes[row]);
@@ -251,14 +293,17 @@ HistoryResults HistoryText::results(const HistoryQuery &query, const RowNumbers 
                 chosen.push_back(rows[i]);
         }
     } else {
-        std::ranges::remove_copy_if(rows, std::back_inserter(chosen), isRepeated);
-        const auto middle = chosen.begin() + static_cast<std::ptrdiff_t>(std::min(limit, chosen.size()));
-        std::ranges::partial_sort(chosen, middle, [this](RowNumber left, RowNumber right) {
+        const auto isBefore = [this](RowNumber left, RowNumber right) {
             const qint64 leftCount = m_rows[left].visitCount;
             const qint64 rightCount = m_rows[right].visitCount;
             return leftCount != rightCount ? leftCount > rightCount : left < right;
-        });
-        chosen.erase(middle, chosen.end());
+        };
+        RowNumbers once;
+        if (!m_areOfSharedPage.empty())
+            std::ranges::remove_copy_if(rows, std::back_inserter(once), isRepeated);
+        const RowNumbers &all = m_areOfSharedPage.empty() ? rows : once;
+        chosen.resize(std::min(limit, all.size()));
+        std::ranges::partial_sort_copy(all, chosen, isBefore);
     }
     HistoryResults results;
     results.items.reserve(static_cast<qsizetype>(chosen.size()));
@@ -273,7 +318,7 @@ HistoryResults HistoryText::results(const HistoryQuery &query, const RowNumbers 
 HistoryItem HistoryText::item(RowNumber row) const
 {
     const auto piece = [this](size_t start, size_t end) {
-        return utf8Text({m_text.get() + start, static_cast<qsizetype>(end - start)});
+        return utf8Text({m_text.data() + start, static_cast<qsizetype>(end - start)});
     };
     const Row &facts = m_rows[row];
     return HistoryItem::ofRow(facts.id, piece(urlEnd(row) + 1, m_starts[row + 1] - 1),

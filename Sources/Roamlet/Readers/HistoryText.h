@@ -5,6 +5,7 @@
 
 #include "Model/HistoryQuery.h"
 #include "Model/Source.h"
+#include "Platform/LargeMemory.h"
 
 #include <cstdint>
 #include <memory>
@@ -52,22 +53,26 @@ public:
     struct Answer {
         /// The rows in the query's order and at most as many as it says.
         HistoryResults results;
-        /// All rows that match, for a later query that is within this one.
+        /// The rows that match, for a later query that is within this one,
         RowNumbers rows;
+        /// if these are all.
+        bool hasAllRows = true;
     };
 
     class Builder;
 
     /// The answer to a query, or nothing where only the database can give it: for a NUL and for more or
     /// longer words than anybody types, some of which are an error. When the query is within an earlier one
-    /// (see HistoryQuery::isWithin), only the rows `among` that one found are looked at.
+    /// (see HistoryQuery::isWithin), only the rows `among` that one found, all of them, are looked at.
     std::optional<Answer> search(const HistoryQuery &query, const RowNumbers *among = nullptr) const;
 
     /// The text of a source that has no history.
     static std::shared_ptr<const HistoryText> empty(const Source &source);
 
     RowNumber rowCount() const { return static_cast<RowNumber>(m_rows.size()); }
-    /// The memory that it takes.
+    /// The bytes of its addresses and titles,
+    size_t textSize() const { return m_text.size(); }
+    /// and the memory that it takes.
     size_t byteCount() const;
 
 private:
@@ -79,13 +84,21 @@ private:
     };
     enum class Part { All, Url };
     struct Literal;
+    struct Condition;
+    /// From one row to before another.
+    struct Slice {
+        RowNumber begin = 0;
+        RowNumber end = 0;
+    };
 
     explicit HistoryText(Source source) : m_source(std::move(source)) {}
 
     static std::optional<std::vector<Literal>> wordsOf(const HistoryQuery &query);
-    std::optional<RowNumbers> find(const HistoryQuery &query, const RowNumbers *among) const;
-    RowNumbers findAll(const Literal &literal, RowNumber end) const;
-    RowNumbers findAmong(const Literal &literal, const RowNumbers &among) const;
+    std::optional<Condition> conditionOf(const HistoryQuery &query) const;
+    bool findInSlices(const HistoryQuery &query, const Condition &condition, RowNumbers &rows) const;
+    RowNumbers findAll(const Literal &literal, Slice slice) const;
+    RowNumbers findAmong(const Literal &literal, const RowNumbers &among, Slice slice) const;
+    bool isOfSite(RowNumber row, const Condition &condition) const;
     HistoryResults results(const HistoryQuery &query, const RowNumbers &rows) const;
     HistoryItem item(RowNumber row) const;
 
@@ -99,15 +112,15 @@ private:
         return static_cast<HistoryTextRow::Searched>(m_text[urlEnd(row)]);
     }
     size_t urlEnd(RowNumber row) const { return m_starts[row] + m_urlSizes[row]; }
-    std::string_view text() const { return {m_text.get(), m_starts.back()}; }
+    std::string_view text() const { return {m_text.data(), m_text.size()}; }
 
     Source m_source;
     /// Of each row the address, a separator, the title and a NUL, as they stand in the database.
-    std::unique_ptr<char[]> m_text;
+    std::pmr::vector<char> m_text{&largeMemory()};
     /// Where each row begins, and after them the end of the last one.
-    std::vector<std::uint32_t> m_starts;
-    std::vector<std::uint32_t> m_urlSizes;
-    std::vector<Row> m_rows;
+    std::pmr::vector<std::uint32_t> m_starts{&largeMemory()};
+    std::pmr::vector<std::uint32_t> m_urlSizes{&largeMemory()};
+    std::pmr::vector<Row> m_rows{&largeMemory()};
     /// The rows in which a letter beyond ASCII may be spelt in other bytes than those that are looked for.
     RowNumbers m_broken;
     /// Whether a row is one of several of its page; empty when no page has several.
@@ -136,26 +149,33 @@ public:
     std::shared_ptr<const HistoryText> finish(const std::stop_token &stop);
 
 private:
+    /// A row and its text, which stands behind it.
     struct Entry {
-        qint64 order = 0;
         Row row;
-        const char *text = nullptr;
         std::uint32_t urlSize = 0;
         std::uint32_t size = 0;
         std::uint32_t number = 0;
         bool isOfSharedPage = false;
         bool isBroken = false;
+
+        char *text() { return reinterpret_cast<char *>(this + 1); }
+        const char *text() const { return reinterpret_cast<const char *>(this + 1); }
+    };
+    /// What is sorted.
+    struct Place {
+        qint64 order = 0;
+        Entry *entry = nullptr;
     };
 
-    Entry *sameTitle(const HistoryTextRow &row);
+    Place *sameTitle(const HistoryTextRow &row);
 
     std::shared_ptr<HistoryText> m_made;
     Ties m_ties;
     Pages m_pages;
     size_t m_bytesLeft;
     size_t m_textSize = 0;
-    std::pmr::monotonic_buffer_resource m_texts;
-    std::vector<Entry> m_entries;
+    std::pmr::monotonic_buffer_resource m_entries{&largeMemory()};
+    std::pmr::vector<Place> m_places{&largeMemory()};
     /// The rows of the page that was added last, by their titles.
     std::unordered_map<std::string_view, size_t> m_titles;
 };

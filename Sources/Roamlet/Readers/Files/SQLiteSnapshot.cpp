@@ -198,9 +198,10 @@ public:
     std::expected<void, QString> open(const QString &path)
     {
         prepareLibrary();
-        // Read-write, so that SQLite can replay the copied logs into the copy.
+        // Read-write, so that SQLite can replay the copied logs into the copy. Each connection has one thread:
+        // a lock for each value of each row would be for nothing.
         const int result = sqlite3_open_v2(QFile::encodeName(path).constData(), &m_handle,
-                                           SQLITE_OPEN_READWRITE, ConfinedFiles::name());
+                                           SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, ConfinedFiles::name());
         if (result != SQLITE_OK)
             return std::unexpected(m_handle != nullptr ? messageOf(m_handle) : u"open failed"_s);
         // The file is a stranger's: its schema may hold data and nothing that runs.
