@@ -132,6 +132,30 @@ TEST_F(HistorySearchTest, aFileThatHasChangedIsAskedItself)
         << "others are as they were";
 }
 
+TEST_F(HistorySearchTest, theCapIsSeenWhoeverOfBothAnswersIt)
+{
+    addChromium();
+    for (const QString &full : {u"Default"_s, u"Profile 1"_s}) {
+        setRows(u"Default"_s, 999, u"https://w.example/"_s);
+        setRows(u"Profile 1"_s, 999, u"https://w.example/"_s);
+        setRows(full, 1000, u"https://w.example/"_s);
+        loadNow(library);
+        fill();
+        EXPECT_EQ(library.queryHistory(query(u"word"_s), {}).known()->results.items.size(), 1999);
+        EXPECT_TRUE(library.queryHistory(query(u"word"_s), {}).known()->results.isCapped);
+        // The same rows, of which only the text of the other source is known now.
+        setRows(u"Default"_s, full == u"Default" ? 1000 : 999, u"https://w.example/"_s);
+        const HistorySearch search = library.queryHistory(query(u"word"_s), {});
+        EXPECT_FALSE(search.known());
+        EXPECT_EQ(search.run({}).results.items.size(), 1999);
+        EXPECT_TRUE(search.run({}).results.isCapped);
+    }
+    setRows(u"Default"_s, 999, u"https://w.example/"_s);
+    setRows(u"Profile 1"_s, 999, u"https://w.example/"_s);
+    fill();
+    EXPECT_FALSE(library.queryHistory(query(u"word"_s), {}).known()->results.isCapped);
+}
+
 TEST_F(HistorySearchTest, whatOnlyADatabaseKnowsItIsAsked)
 {
     addChromium();
@@ -239,7 +263,7 @@ TEST_F(HistorySearchTest, whatIsWrittenDuringASearchHidesNothingThatWasThereBefo
             sqlite3 *database = nullptr;
             ASSERT_EQ(sqlite3_open(qPrintable(chromeFile(u"Default/History"_s)), &database), SQLITE_OK);
             sqlite3_exec(database, "PRAGMA synchronous = OFF", nullptr, nullptr, nullptr);
-            for (int seen = 0; !stop.stop_requested(); ++seen) {
+            for (int seen = 0; !stop.stop_requested(); seen = turn) {
                 turn.wait(seen);
                 // No more than a copy is made again for.
                 for (int commits = turn % 3; commits > 0; --commits) {

@@ -195,6 +195,23 @@ TEST_F(SearchCacheTest, goingDuringTheBuildingLeavesNothing)
     EXPECT_TRUE(home.leftovers().isEmpty());
 }
 
+TEST_F(SearchCacheTest, nothingIsRenewedForNobody)
+{
+    cache.renew(sources);
+    EXPECT_FALSE(cache.isBuilding());
+    fill();
+    cache.clear();
+    cache.renew(sources);
+    EXPECT_FALSE(cache.isBuilding());
+    cache.setSearching(true, sources);
+    finish();
+    setChromeHistory(u"Profile 1"_s, {u"new"_s});
+    cache.renew(sources);
+    EXPECT_TRUE(cache.isBuilding());
+    finish();
+    EXPECT_EQ(ready().size(), 3);
+}
+
 TEST_F(SearchCacheTest, sourcesThatAreGoneLoseTheirTexts)
 {
     fill();
@@ -226,8 +243,14 @@ TEST_F(SearchCacheTest, theFirstSourcesHaveTextsAsFarAsTheMemoryAllows)
 TEST_F(SearchCacheTest, theLimitIsASetting)
 {
     setLimit(u"0"_s);
+    recordReads();
     fill();
     EXPECT_THAT(ready(), IsEmpty());
+    EXPECT_FALSE(cache.hasTexts());
+    EXPECT_TRUE(takeReads().isEmpty()) << "nothing is read for nothing";
+    setLimit(u"256"_s);
+    fill();
+    EXPECT_EQ(ready().size(), 3) << "there is room now";
     cache.clear();
     for (const QString &setting : {u""_s, u"lots"_s, u"1.5"_s, u"99999999999999999999"_s}) {
         setLimit(setting);
@@ -249,16 +272,20 @@ TEST_F(SearchCacheTest, whatCannotBeReadIsTriedAgainTheNextTime)
     fail(chromeFile(u"Default/History"_s), std::errc::io_error);
     fill();
     EXPECT_THAT(ready(), UnorderedElementsAre(u"chrome/Profile 1"_s, u"edge/Default"_s));
-    home.files.failure = {};
+    recordReads();
+    cache.renew(sources);
+    finish();
+    EXPECT_TRUE(takeReads().isEmpty()) << "not for each letter";
     fill();
+    EXPECT_EQ(takeReads(), QStringList{u"chrome/Default"_s});
     EXPECT_EQ(ready().size(), 3);
 }
 
 TEST_F(SearchCacheTest, aSourceThatVanishesWhileItIsReadHasNothing)
 {
     home.files.afterCopy = [this](const QString &path) {
-        if (path.endsWith(u"Default/History"))
-            QFile::remove(edgeFile(u"Default/History"_s));
+        if (path == edgeFile(u"Default/History"_s))
+            QFile::remove(path);
     };
     change([this] { fill(); });
     home.files.afterCopy = {};

@@ -113,20 +113,21 @@ TEST_F(LinuxFilesTest, theStampTellsTheSizeAndTheTimeToTheNanosecond)
     EXPECT_NE(files.fileStamp(one), stamp);
 }
 
-TEST_F(LinuxFilesTest, changesThatFollowEachOtherAtOnceHaveStampsOfTheirOwn)
+TEST_F(LinuxFilesTest, changesThatFollowEachOtherAtOnceHaveLastingStampsOfTheirOwn)
 {
     const QString one = file(u"one"_s, "0");
-    QString before = files.fileStamp(one);
+    QString before = files.lastingStamp(one);
     for (int i = 1; i < 50; ++i) {
         file(u"one"_s, QByteArray::number(i % 10));
-        const QString after = files.fileStamp(one);
+        const QString after = files.lastingStamp(one);
         EXPECT_NE(after, before) << "of the same size, and within a tick of the file system's clock";
         before = after;
     }
     const timespec ahead{.tv_sec = std::numeric_limits<std::int32_t>::max(), .tv_nsec = 0};
     const std::array<timespec, 2> times{ahead, ahead};
     ASSERT_EQ(::utimensat(AT_FDCWD, qPrintable(one), times.data(), 0), 0);
-    EXPECT_EQ(files.fileStamp(one), files.fileStamp(one)) << "nobody waits for a clock that is wrong";
+    EXPECT_EQ(files.lastingStamp(one), files.fileStamp(one)) << "of a clock that is wrong";
+    EXPECT_EQ(files.lastingStamp(path(u"missing"_s)), u""_s);
 }
 
 TEST_F(LinuxFilesTest, theStampIsEmptyWithoutAttributes)

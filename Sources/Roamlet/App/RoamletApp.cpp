@@ -179,7 +179,6 @@ void RoamletApp::reopen()
 
 int RoamletApp::run(int argc, char **argv)
 {
-    Processes::shareMemoryAmongThreads();
     std::optional<QString> successor;
     int status = 0;
     {

@@ -8,6 +8,7 @@
 
 #include <QSet>
 
+#include <new>
 #include <vector>
 
 namespace roamlet
@@ -16,8 +17,20 @@ namespace roamlet
 namespace
 {
 
-/// Of more rows than one in so many nothing is gained by looking at these alone, and they take memory.
-constexpr HistoryText::RowNumber narrowEnough = 8;
+/// What was found is kept for a longer word where it is no more than one row in so many: looking at more rows
+/// one by one is no quicker than looking through all, and their numbers take memory.
+constexpr HistoryText::RowNumber narrowEnough = 64;
+
+/// Nothing where only the database can answer.
+std::optional<HistoryText::Answer> searched(const HistoryText &text, const HistoryQuery &query,
+                                            const HistoryText::RowNumbers *among)
+{
+    try {
+        return text.search(query, among);
+    } catch (const std::bad_alloc &) {
+        return {};
+    }
+}
 
 } // namespace
 
@@ -74,26 +87,26 @@ HistorySearch::Remembered HistorySearch::foundInTexts() const
     std::vector<QList<HistoryItem>> parts;
     for (const Source &source : m_sources) {
         const QString id = source.id();
-        const auto known = m_texts.constFind(id);
-        if (known == m_texts.cend() || !known->text ||
-            known->state != SourceRead::stateOfHistory(source, m_context)) {
+        const auto held = m_texts.constFind(id);
+        if (held == m_texts.cend() || !held->text ||
+            held->state != SourceRead::stateOfHistory(source, m_context)) {
             result.others.append(source);
             continue;
         }
         const HistoryText::RowNumbers *among = nullptr;
         if (isWithinEarlier) {
             const auto earlier = m_earlier->texts.constFind(id);
-            if (earlier != m_earlier->texts.cend() && earlier->text.lock() == known->text)
+            if (earlier != m_earlier->texts.cend() && earlier->text.lock() == held->text)
                 among = &earlier->rows;
         }
-        std::optional<HistoryText::Answer> found = known->text->search(m_query, among);
+        std::optional<HistoryText::Answer> found = searched(*held->text, m_query, among);
         if (!found) {
             result.others.append(source);
             continue;
         }
         parts.push_back(std::move(found->results.items));
-        if (found->hasAllRows && found->rows.size() <= known->text->rowCount() / narrowEnough)
-            findings->texts.insert(id, {known->text, std::move(found->rows)});
+        if (found->hasAllRows && found->rows.size() <= held->text->rowCount() / narrowEnough)
+            findings->texts.insert(id, {held->text, std::move(found->rows)});
     }
     result.answer.results = LibraryReading::merged(m_query, std::move(parts));
     if (!findings->texts.isEmpty())

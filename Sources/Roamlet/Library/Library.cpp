@@ -163,6 +163,11 @@ void Library::setSearching(bool isSearching)
     m_searchCache.setSearching(isSearching, ordered(m_snapshot.sources));
 }
 
+void Library::renewSearch()
+{
+    m_searchCache.renew(ordered(m_snapshot.sources));
+}
+
 std::optional<Source> Library::source(const std::optional<QString> &id) const
 {
     if (!id)

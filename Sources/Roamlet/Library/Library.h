@@ -59,8 +59,10 @@ public:
     void setSearching(bool isSearching);
     /// Nobody looks any more: it is let go.
     void endSearch() { m_searchCache.clear(); }
+    /// What is in memory is old, or not all there is.
+    void renewSearch();
     /// Whether histories are in memory, so that the answer to a search may be.
-    bool isReadyForSearch() const { return !m_searchCache.texts().isEmpty(); }
+    bool isReadyForSearch() const { return m_searchCache.hasTexts(); }
 
     const Snapshot &snapshot() const { return m_snapshot; }
     bool isLoading() const { return m_isLoading; }

@@ -27,9 +27,10 @@ struct ListLoader::Job {
     Effort effort = Effort::Databases;
 };
 
-struct ListLoader::Made {
+struct ListLoader::Result {
     ListWish wish;
     Effort effort = Effort::Databases;
+    PointInTime now;
     /// What a history has for the wish; absent where its databases still have to be asked.
     std::optional<HistorySearch::Answer> answer;
     /// Absent where there is nothing to show yet.
@@ -63,12 +64,14 @@ void ListLoader::load(const ListWish &wish)
 {
     if (m_wish == wish)
         return;
-    // The rows are on their way: only what is made of them is another thing now.
+    // The rows are on their way: they are only to be sorted or cut in another way.
     if (m_wish && !hasRows(wish) && m_wish->searchKey() == wish.searchKey()) {
         m_wish = wish;
+        if (m_isStandIn)
+            startJob(Effort::Snapshot);
         return;
     }
-    cancel();
+    drop();
     if (!m_isOutdated && m_shown == wish.refineKey() && hasRows(wish)) {
         setProgress(Progress::Done);
         return;
@@ -76,33 +79,41 @@ void ListLoader::load(const ListWish &wish)
     m_wish = wish;
     const bool isTyped = isSearchText(wish.search);
     if (isTyped && !wish.isOfHistory())
-        await(refineDelay);
+        makeLater(refineDelay);
     else if (isTyped && !hasRows(wish))
-        await(searchDelay);
+        makeLater(searchDelay);
     else
-        begin();
+        makeNow();
 }
 
-void ListLoader::await(std::chrono::milliseconds delay)
+void ListLoader::makeLater(std::chrono::milliseconds delay)
 {
     m_wait = std::make_unique<QObject>();
-    m_clock.after(delay, m_wait.get(), [this] { begin(); });
-    // Nobody has to wait where no file is read: most letters are answered before the next one is typed.
-    if (m_wish->isOfHistory() && m_library.isReadyForSearch())
-        make(Effort::Memory);
-    else
+    m_clock.after(delay, m_wait.get(), [this] { makeNow(); });
+    if (!m_wish->isOfHistory()) {
         setProgress(Progress::Waiting);
+        return;
+    }
+    // Nobody has to wait where no file is read: most letters are answered before the next one is typed.
+    if (m_library.isReadyForSearch()) {
+        startJob(Effort::Memory);
+        setProgress(Progress::Looking);
+    } else {
+        m_library.renewSearch();
+        setProgress(Progress::Waiting);
+    }
 }
 
-void ListLoader::begin()
+void ListLoader::makeNow()
 {
     // What a reload brings may take its time: a list is there.
     const bool isReloaded = isReload(*m_wish);
+    const bool mayStandIn = !isReloaded && !isSearchText(m_wish->search);
+    startJob(mayStandIn ? Effort::Snapshot : Effort::Databases);
     setProgress(isReloaded ? Progress::Reloading : Progress::Working);
-    make(isReloaded ? Effort::Databases : Effort::Snapshot);
 }
 
-void ListLoader::make(Effort effort)
+void ListLoader::startJob(Effort effort)
 {
     const ListWish &wish = *m_wish;
     Job job;
@@ -133,13 +144,14 @@ void ListLoader::make(Effort effort)
     }
     m_task.request_stop();
     m_task = m_tasks.run(
-        this, [job = std::move(job)](const std::stop_token &stop) { return made(job, stop); },
-        [this](const Made &made) { take(made); });
+        this, [job = std::move(job)](const std::stop_token &stop) { return resultOf(job, stop); },
+        [this](const Result &result) { take(result); });
 }
 
-ListLoader::Made ListLoader::made(const Job &job, const std::stop_token &stop)
+ListLoader::Result ListLoader::resultOf(const Job &job, const std::stop_token &stop)
 {
-    Made made{.wish = job.wish, .effort = job.effort, .answer = job.found, .tree = {}};
+    Result result{
+        .wish = job.wish, .effort = job.effort, .now = job.setting.now, .answer = job.found, .tree = {}};
     std::optional<RowTree> tree;
     if (job.wish.mode == ListWish::Mode::BookmarkTree) {
         tree = RowTree::ofBookmarks(job.bookmarkTree, job.wish.order, *job.setting.collation, stop);
@@ -148,51 +160,63 @@ ListLoader::Made ListLoader::made(const Job &job, const std::stop_token &stop)
     } else {
         std::optional<HistoryResults> standIn;
         if (job.search) {
-            made.answer = job.search->known();
-            if (!made.answer && job.effort == Effort::Snapshot)
+            if (job.effort != Effort::Databases)
+                result.answer = job.search->known();
+            if (!result.answer && job.effort == Effort::Snapshot)
                 standIn = job.search->standIn();
-            if (!made.answer && !standIn && job.effort != Effort::Memory)
-                made.answer = job.search->run(stop);
+            if (!result.answer && !standIn && job.effort != Effort::Memory)
+                result.answer = job.search->run(stop);
         }
-        if (made.answer || standIn)
-            tree = ListTree::ofHistory((standIn ? *standIn : made.answer->results).items, job.wish,
+        if (result.answer || standIn)
+            tree = ListTree::ofHistory((standIn ? *standIn : result.answer->results).items, job.wish,
                                        job.setting, stop);
     }
     if (tree)
-        made.tree = *tree == *job.shown ? job.shown : std::make_shared<RowTree>(std::move(*tree));
-    return made;
+        result.tree = *tree == *job.shown ? job.shown : std::make_shared<RowTree>(std::move(*tree));
+    return result;
 }
 
-void ListLoader::take(const Made &made)
+void ListLoader::take(const Result &result)
 {
-    if (made.answer) {
-        m_found = {made.wish.searchKey(), *made.answer};
+    if (result.answer) {
+        m_found = {result.wish.searchKey(), *result.answer};
         m_wait.reset();
     }
     std::optional<ShownList> list;
     // Or else it was asked to be sorted or cut in another way while the rows were on their way.
-    const bool isWished = made.wish == m_wish;
-    if (isWished && made.tree) {
-        list = {.tree = made.tree,
-                .isCapped = made.answer && made.answer->results.isCapped,
-                .change = isReload(made.wish) ? ListChange::Reloaded : ListChange::Asked};
-        m_shown = made.wish.refineKey();
-        m_tree = made.tree;
+    const bool isWished = result.wish == m_wish;
+    if (isWished && result.tree) {
+        list = {.tree = result.tree,
+                .isCapped = result.answer && result.answer->results.isCapped,
+                .change = isReload(result.wish) ? ListChange::Reloaded : ListChange::Asked,
+                .now = result.now};
+        m_shown = result.wish.refineKey();
+        m_tree = result.tree;
+        m_isStandIn = !hasRows(result.wish);
         m_isOutdated = false;
     }
-    if (hasRows(made.wish) && isWished) {
+    Progress progress = m_progress;
+    if (hasRows(result.wish) && isWished) {
         m_wish.reset();
-        setProgress(Progress::Done);
-    } else if (made.effort == Effort::Memory && !made.answer) {
-        // What memory has is old, or not yet all there is.
-        m_library.expectSearch();
-        setProgress(Progress::Waiting);
+        progress = Progress::Done;
+    } else if (result.effort == Effort::Memory && !result.answer) {
+        m_library.renewSearch();
+        progress = Progress::Waiting;
     } else {
-        make(Effort::Databases);
+        startJob(isWished ? Effort::Databases : result.effort);
     }
     // Whoever hears of it may wish for the next one.
+    const bool isChanged = std::exchange(m_progress, progress) != progress;
     if (list)
         Q_EMIT listLoaded(*list);
+    if (isChanged)
+        Q_EMIT progressChanged();
+}
+
+void ListLoader::cancel()
+{
+    drop();
+    setProgress(Progress::Done);
 }
 
 void ListLoader::outdate()
@@ -201,9 +225,10 @@ void ListLoader::outdate()
     m_isOutdated = true;
 }
 
-void ListLoader::cancel()
+void ListLoader::drop()
 {
     m_wish.reset();
+    m_isStandIn = false;
     m_wait.reset();
     m_task.request_stop();
     m_task = {};

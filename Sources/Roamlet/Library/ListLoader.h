@@ -37,6 +37,8 @@ struct ShownList {
     /// Whether a search stopped at its limit, so that there may be more.
     bool isCapped = false;
     ListChange change = ListChange::Asked;
+    /// What time it was for whoever cut it into days.
+    PointInTime now;
 };
 
 /// The one way to a list: takes what is wished for and delivers what a table shows, made away from the main
@@ -47,13 +49,15 @@ class ListLoader final : public QObject
     Q_OBJECT
 
 public:
-    /// How long a typed text has to stand before the databases are searched for it,
+    /// How long a typed text has to stand before the databases are searched for it.
     static constexpr std::chrono::milliseconds searchDelay{250};
-    /// and before bookmarks are.
+    /// How long it has to stand before bookmarks are.
     static constexpr std::chrono::milliseconds refineDelay{150};
 
+    /// What becomes of a wish.
     enum class Progress {
-        Done,     ///< what was wished for is there, or will be in a moment
+        Done,     ///< its list is shown
+        Looking,  ///< memory may have it: it is shown in a moment, or more has to be done
         Waiting,  ///< for the user to stop typing
         Working,  ///< on something that the user asked for
         Reloading ///< on what the browsers' files hold now
@@ -65,7 +69,10 @@ public:
 
     /// Sees to it that the list of this wish is shown.
     void load(const ListWish &wish);
-    /// The same list is wanted again: what it is made of has changed, or the day.
+    /// What is on its way is not wanted any more.
+    void cancel();
+    /// The shown list has to be made again although the same is wished for, because its order of folders or
+    /// the day is another one.
     void outdate();
     Progress progress() const { return m_progress; }
 
@@ -85,20 +92,20 @@ private:
         Databases ///< where memory does not have them, the databases are asked
     };
     struct Job;
-    struct Made;
+    struct Result;
 
-    static Made made(const Job &job, const std::stop_token &stop);
+    static Result resultOf(const Job &job, const std::stop_token &stop);
 
     /// Whether nothing has to be searched for: the rows of bookmarks are always there.
     bool hasRows(const ListWish &wish) const;
     /// Whether the list differs from the shown one in what the browsers' files hold, and in nothing else.
     bool isReload(const ListWish &wish) const;
-    /// Begins once the user has stopped typing.
-    void await(std::chrono::milliseconds delay);
-    void begin();
-    void make(Effort effort);
-    void take(const Made &made);
-    void cancel();
+    /// Makes the list once the user has stopped typing.
+    void makeLater(std::chrono::milliseconds delay);
+    void makeNow();
+    void startJob(Effort effort);
+    void take(const Result &result);
+    void drop();
     void setProgress(Progress progress);
 
     Library &m_library;
@@ -114,10 +121,12 @@ private:
     Progress m_progress = Progress::Done;
     /// The last search that ended.
     std::optional<Found> m_found;
-    /// What is shown,
+    /// What is shown.
     std::optional<RefineKey> m_shown;
     SharedRowTree m_tree = std::make_shared<RowTree>();
-    /// and whether it has to be made again all the same.
+    /// Whether it shows the snapshot's rows while the databases are asked for m_wish.
+    bool m_isStandIn = false;
+    /// Whether what is shown has to be made again all the same.
     bool m_isOutdated = false;
     BackgroundTasks m_tasks;
 };

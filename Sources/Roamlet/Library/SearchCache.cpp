@@ -23,13 +23,15 @@ namespace
 
 constexpr size_t mebibyte = size_t{1} << 20;
 
-/// Those whose texts are missing or made of what the files no longer hold.
-QList<Source> outdated(QList<Source> sources, const QHash<QString, QString> &states,
+/// Those whose texts are missing, made of what the files no longer hold, or refused for want of room that
+/// there is now.
+QList<Source> outdated(QList<Source> sources, const SearchTexts &texts, size_t bytesLeft,
                        const ReadContext &context)
 {
     sources.removeIf([&](const Source &source) {
-        const auto state = states.constFind(source.id());
-        return state != states.cend() && *state == SourceRead::stateOfHistory(source, context);
+        const auto known = texts.constFind(source.id());
+        return known != texts.cend() && known->state == SourceRead::stateOfHistory(source, context) &&
+               (known->text || bytesLeft <= known->refusedBytes);
     });
     return sources;
 }
@@ -37,10 +39,18 @@ QList<Source> outdated(QList<Source> sources, const QHash<QString, QString> &sta
 SearchText build(const Source &source, size_t mostBytes, const ReadContext &context)
 {
     // Taken before the files are read: whatever happens to them since makes it another one.
-    const QString state = SourceRead::stateOfHistory(source, context);
+    SearchText result{.text = {}, .state = SourceRead::stateOfHistory(source, context)};
+    if (mostBytes == 0) {
+        result.refusedBytes = 0;
+        return result;
+    }
     auto text = BrowserReader::historyText(source, context, mostBytes);
-    // What could not be read may be readable the next time.
-    return text ? SearchText{std::move(*text), state} : SearchText{};
+    // What cannot be read is read again when its files are others, or the next search is expected.
+    if (text) {
+        result.text = std::move(*text);
+        result.refusedBytes = mostBytes;
+    }
+    return result;
 }
 
 } // namespace
@@ -49,10 +59,10 @@ void SearchCache::expectSearch(const QList<Source> &sources)
 {
     if (!m_isSearching)
         releaseLater();
-    if (m_isBuilding)
-        m_next = sources;
-    else
-        check(sources);
+    m_texts.removeIf([](SearchTexts::iterator known) {
+        return !known->text && known->refusedBytes == std::numeric_limits<size_t>::max();
+    });
+    renew(sources);
 }
 
 void SearchCache::setSearching(bool isSearching, const QList<Source> &sources)
@@ -67,6 +77,22 @@ void SearchCache::setSearching(bool isSearching, const QList<Source> &sources)
         releaseLater();
 }
 
+void SearchCache::renew(const QList<Source> &sources)
+{
+    // A late answer may come when all was let go already.
+    if (!m_isSearching && !m_release)
+        return;
+    if (m_isBuilding)
+        m_next = sources;
+    else
+        check(sources);
+}
+
+bool SearchCache::hasTexts() const
+{
+    return std::ranges::any_of(m_texts, [](const SearchText &known) { return known.text != nullptr; });
+}
+
 void SearchCache::check(const QList<Source> &sources)
 {
     m_isBuilding = true;
@@ -74,14 +100,10 @@ void SearchCache::check(const QList<Source> &sources)
     for (const Source &source : sources)
         ids.insert(source.id());
     m_texts.removeIf([&ids](SearchTexts::iterator text) { return !ids.contains(text.key()); });
-    QHash<QString, QString> states;
-    for (auto text = m_texts.cbegin(); text != m_texts.cend(); ++text)
-        states.insert(text.key(), text->state);
     m_task = m_tasks.run(
         &m_context,
-        [sources, states, context = LibraryReading::readContext(m_platform)](const std::stop_token &) {
-            return outdated(sources, states, context);
-        },
+        [sources, texts = m_texts, left = bytesLeft(), context = LibraryReading::readContext(m_platform)](
+            const std::stop_token &) { return outdated(sources, texts, left, context); },
         [this](const QList<Source> &found) {
             // They make room before the new ones come.
             for (const Source &source : found)
@@ -138,6 +160,7 @@ void SearchCache::clear()
     m_isSearching = false;
     m_waiting.clear();
     m_next.reset();
+    m_release.reset();
     if (m_texts.isEmpty())
         return;
     m_texts.clear();

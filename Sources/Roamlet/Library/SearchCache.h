@@ -6,7 +6,6 @@
 #include "Library/SearchTexts.h"
 #include "Platform/BackgroundTasks.h"
 #include "Platform/Platform.h"
-#include "Readers/ReadContext.h"
 
 #include <QList>
 #include <QObject>
@@ -34,15 +33,19 @@ public:
     explicit SearchCache(const Platform &platform) : m_platform(platform) {}
 
     /// Somebody may search these sources soon. Builds the texts that are missing or no longer what the files
-    /// hold, in this order and as far as the limit allows.
+    /// hold, in this order and as far as the limit allows, and keeps them for a while.
     void expectSearch(const QList<Source> &sources);
     /// Somebody searches these sources, or does so no longer.
     void setSearching(bool isSearching, const QList<Source> &sources);
+    /// A search has found texts missing or old. They are built if somebody still searches.
+    void renew(const QList<Source> &sources);
     /// Lets go of everything at once.
     void clear();
 
     /// What there is now.
     const SearchTexts &texts() const { return m_texts; }
+    /// Whether there is a text at all.
+    bool hasTexts() const;
     /// Whether there will be more in a while.
     bool isBuilding() const { return m_isBuilding; }
 
@@ -51,13 +54,14 @@ private:
     void check(const QList<Source> &sources);
     void buildNext();
     void releaseLater();
+    /// How much memory there is for further texts.
     size_t bytesLeft() const;
 
     Platform m_platform;
     SearchTexts m_texts;
-    /// Those whose texts are to be built,
+    /// Those whose texts are to be built.
     QList<Source> m_waiting;
-    /// and those that are to be looked at after that.
+    /// Those that are to be looked at once these are built.
     std::optional<QList<Source>> m_next;
     bool m_isSearching = false;
     bool m_isBuilding = false;

@@ -9,6 +9,8 @@
 #include <QHash>
 #include <QString>
 
+#include <cstddef>
+#include <limits>
 #include <memory>
 
 namespace roamlet
@@ -20,6 +22,8 @@ struct SearchText {
     std::shared_ptr<const HistoryText> text;
     /// What it was read from, and in what state that was; see SourceRead::stateOfHistory.
     QString state;
+    /// Where there is no text: with more bytes than these there may be one.
+    size_t refusedBytes = std::numeric_limits<size_t>::max();
 };
 
 /// By source id.

@@ -3,8 +3,6 @@
 
 #include "Lists/ListWish.h"
 
-#include "Lists/Refine.h"
-
 namespace roamlet
 {
 

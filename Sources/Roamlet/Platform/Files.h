@@ -39,9 +39,11 @@ public:
     /// Whether anything stands at `path`, also when it may not be looked into.
     virtual bool exists(const QString &path) const = 0;
     /// The file's size and its modification time to the nanosecond, or an empty text when its attributes
-    /// cannot be read. Two equal stamps mean an unchanged file; of one that was written to a moment ago it
-    /// takes some milliseconds until a stamp can say so.
+    /// cannot be read. Of a file that is written to twice within a few milliseconds both may be the same.
     virtual QString fileStamp(const QString &path) const = 0;
+    /// The same, of which two equal ones mean an unchanged file. Where the file was written to just now, it
+    /// takes a few milliseconds until that can be said; not on the main thread.
+    virtual QString lastingStamp(const QString &path) const = 0;
     /// The whole file.
     virtual std::expected<QByteArray, std::error_code> read(const QString &path) const = 0;
     /// Copies the bytes of `source` into a new file that only the user can read. A copy that fails, or that

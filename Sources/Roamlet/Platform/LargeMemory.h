@@ -8,9 +8,9 @@
 namespace roamlet
 {
 
-/// Memory for blocks of many MiB that are written from one end to the other: in pages as large as the system
-/// has, because getting a million small ones takes longer than filling them, and given back as soon as it is
-/// freed. Smaller blocks come from where all others do. Any thread.
+/// Memory for texts of many MiB, which grow to that from small blocks. What is freed goes back to the system
+/// at once, except for small blocks, and large ones come in large pages where there are any: getting many
+/// small pages takes longer than filling them. Any thread.
 std::pmr::memory_resource &largeMemory();
 
 } // namespace roamlet

@@ -13,9 +13,6 @@ namespace roamlet::Processes
 std::int32_t ownID();
 /// Whether a process with this id exists, whoever it belongs to.
 bool exists(std::int32_t id);
-/// All threads take their memory from the same place from now on, so that giveBackMemory() reaches all of it:
-/// of what each thread has to itself, the largest part would be kept. Before any other thread begins.
-void shareMemoryAmongThreads();
 /// Gives the memory that this process no longer uses back to the system. Takes a few milliseconds.
 void giveBackMemory();
 

@@ -61,6 +61,10 @@ public:
 
     class Builder;
 
+    HistoryText(const HistoryText &) = delete;
+    HistoryText &operator=(const HistoryText &) = delete;
+    ~HistoryText() = default;
+
     /// The answer to a query, or nothing where only the database can give it: for a NUL and for more or
     /// longer words than anybody types, some of which are an error. When the query is within an earlier one
     /// (see HistoryQuery::isWithin), only the rows `among` that one found, all of them, are looked at.

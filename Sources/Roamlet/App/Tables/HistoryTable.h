@@ -8,7 +8,7 @@
 namespace roamlet
 {
 
-/// The table of the pages that were visited, last or most often. It searches the browsers' databases.
+/// The table of the pages that were visited, last or most often.
 class HistoryTable final : public LinkTable
 {
     Q_OBJECT

@@ -155,7 +155,8 @@ void LinkTable::showProgress()
     const Progress progress = m_loader.progress();
     if (progress == Progress::Done)
         showWhyItIsEmpty();
-    else
+    // Until memory has been looked through, nothing else can be said than before.
+    else if (progress != Progress::Looking)
         m_view.setEmptyText(isSearchText(m_inputs.search) ? u"Searching…"_s : u"Reading…"_s);
     // What a reload brings may take its time: a list is there.
     if (progress != Progress::Working) {
@@ -201,6 +202,7 @@ void LinkTable::hideEvent(QHideEvent *event)
 {
     QWidget::hideEvent(event);
     m_midnight.reset();
+    m_loader.cancel();
 }
 
 void LinkTable::resizeEvent(QResizeEvent *event)
@@ -225,7 +227,7 @@ LocalText LinkTable::localText() const
 void LinkTable::showList(const ShownList &list)
 {
     noteList(list);
-    m_model.setLocalText(localText());
+    m_model.setLocalText({m_services.calendar(), list.now});
     m_view.showTree(list.tree, list.change == ListChange::Reloaded ? TableView::Scrolling::Stay
                                                                    : TableView::Scrolling::ToTop);
     showProgress();

@@ -94,7 +94,6 @@ protected:
 
     /// The same list has to be made again.
     void remake();
-    const WindowServices &services() const { return m_services; }
 
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;

@@ -135,6 +135,12 @@ Copied copyContent(int source, int target, const std::stop_token &stop)
     return interrupted();
 }
 
+QString stampOf(const struct stat &attributes)
+{
+    return QString::number(attributes.st_size) % u' ' % QString::number(attributes.st_mtim.tv_sec) % u'.' %
+           QString::number(attributes.st_mtim.tv_nsec).rightJustified(9, u'0');
+}
+
 /// Whether a file that was written to at this time would bear the same time if it were written to now: the
 /// clock of the file systems moves on every few milliseconds only. A time that lies far ahead is no such
 /// case.
@@ -142,6 +148,9 @@ bool isOfThisTick(const timespec &modified)
 {
     timespec now = {};
     ::clock_gettime(CLOCK_REALTIME_COARSE, &now);
+    // Any number may stand there.
+    if (modified.tv_sec < now.tv_sec || modified.tv_sec > now.tv_sec + 1)
+        return false;
     const auto ahead = std::chrono::seconds(modified.tv_sec - now.tv_sec) +
                        std::chrono::nanoseconds(modified.tv_nsec - now.tv_nsec);
     return ahead >= std::chrono::nanoseconds(0) && ahead < std::chrono::milliseconds(20);
@@ -159,17 +168,22 @@ bool LinuxFiles::exists(const QString &path) const
 
 QString LinuxFiles::fileStamp(const QString &path) const
 {
+    struct stat attributes = {};
+    return ::stat(QFile::encodeName(path).constData(), &attributes) == 0 ? stampOf(attributes) : QString();
+}
+
+QString LinuxFiles::lastingStamp(const QString &path) const
+{
     const QByteArray name = QFile::encodeName(path);
     struct stat attributes = {};
-    if (::stat(name.constData(), &attributes) != 0)
-        return {};
-    for (int looks = 0; looks < 20 && isOfThisTick(attributes.st_mtim); ++looks) {
-        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    for (int looks = 0; looks < 20; ++looks) {
         if (::stat(name.constData(), &attributes) != 0)
             return {};
+        if (!isOfThisTick(attributes.st_mtim))
+            break;
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
     }
-    return QString::number(attributes.st_size) % u' ' % QString::number(attributes.st_mtim.tv_sec) % u'.' %
-           QString::number(attributes.st_mtim.tv_nsec).rightJustified(9, u'0');
+    return stampOf(attributes);
 }
 
 std::expected<QByteArray, std::error_code> LinuxFiles::read(const QString &path) const

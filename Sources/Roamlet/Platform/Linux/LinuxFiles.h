@@ -14,6 +14,7 @@ class LinuxFiles : public Files
 public:
     bool exists(const QString &path) const override;
     QString fileStamp(const QString &path) const override;
+    QString lastingStamp(const QString &path) const override;
     std::expected<QByteArray, std::error_code> read(const QString &path) const override;
     std::expected<void, CopyError> copy(const QString &source, const QString &target,
                                         const std::stop_token &stop) const override;

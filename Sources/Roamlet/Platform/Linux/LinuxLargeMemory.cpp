@@ -14,7 +14,11 @@ namespace roamlet
 namespace
 {
 
-/// The size of the large pages of most machines.
+/// From here on a block is worth a call of the system. What a thread frees of smaller ones the C library
+/// keeps, and of blocks that grow up to the size of a large page that would be some MiB.
+constexpr std::size_t smallest = std::size_t{128} << 10;
+
+/// Most machines have pages of this size beside the small ones.
 constexpr std::size_t largePage = std::size_t{2} << 20;
 
 class LargePages final : public std::pmr::memory_resource
@@ -22,19 +26,20 @@ class LargePages final : public std::pmr::memory_resource
 private:
     void *do_allocate(std::size_t size, std::size_t alignment) override
     {
-        if (size < largePage)
+        if (size < smallest)
             return std::pmr::new_delete_resource()->allocate(size, alignment);
         void *memory = ::mmap(nullptr, size, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
         if (memory == MAP_FAILED)
             throw std::bad_alloc();
         // Only a wish: without large pages it takes longer.
-        ::madvise(memory, size, MADV_HUGEPAGE);
+        if (size >= largePage)
+            ::madvise(memory, size, MADV_HUGEPAGE);
         return memory;
     }
 
     void do_deallocate(void *memory, std::size_t size, std::size_t alignment) override
     {
-        if (size < largePage)
+        if (size < smallest)
             std::pmr::new_delete_resource()->deallocate(memory, size, alignment);
         else
             ::munmap(memory, size);

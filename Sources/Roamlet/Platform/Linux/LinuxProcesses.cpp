@@ -22,11 +22,6 @@ bool exists(std::int32_t id)
     return kill(id, 0) == 0 || errno == EPERM;
 }
 
-void shareMemoryAmongThreads()
-{
-    mallopt(M_ARENA_MAX, 1);
-}
-
 void giveBackMemory()
 {
     malloc_trim(0);

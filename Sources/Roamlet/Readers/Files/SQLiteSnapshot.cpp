@@ -198,10 +198,11 @@ public:
     std::expected<void, QString> open(const QString &path)
     {
         prepareLibrary();
-        // Read-write, so that SQLite can replay the copied logs into the copy. Each connection has one thread:
-        // a lock for each value of each row would be for nothing.
-        const int result = sqlite3_open_v2(QFile::encodeName(path).constData(), &m_handle,
-                                           SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, ConfinedFiles::name());
+        // Read-write, so that SQLite can replay the copied logs into the copy. Each connection has one
+        // thread: a lock for each value of each row would be for nothing.
+        const int result =
+            sqlite3_open_v2(QFile::encodeName(path).constData(), &m_handle,
+                            SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, ConfinedFiles::name());
         if (result != SQLITE_OK)
             return std::unexpected(m_handle != nullptr ? messageOf(m_handle) : u"open failed"_s);
         // The file is a stranger's: its schema may hold data and nothing that runs.
@@ -311,8 +312,8 @@ QString SQLiteSnapshot::folder() const
 QString SQLiteSnapshot::stamp(const Files &files, const QString &database)
 {
     // The "-shm" file says nothing about the content.
-    return files.fileStamp(database) % u'|' % files.fileStamp(database % u"-wal") % u'|' %
-           files.fileStamp(database % u"-journal");
+    return files.lastingStamp(database) % u'|' % files.lastingStamp(database % u"-wal") % u'|' %
+           files.lastingStamp(database % u"-journal");
 }
 
 void SQLiteSnapshot::removeLeftovers(const Files &files, const QString &temporaryFolder)
