@@ -3,6 +3,7 @@
 
 #include "Library/SearchCache.h"
 
+#include "Library/HistorySearch.h"
 #include "Library/LibraryReading.h"
 #include "Support/LibraryHome.h"
 #include "Support/Waiting.h"
@@ -298,9 +299,10 @@ TEST_F(SearchCacheTest, threeHundredSourcesAreReadOneAfterTheOther)
 {
     change([this] {
         for (int i = 0; i < 300; ++i) {
-            sample::writeHistory(
-                chromeFile(u"Profile %1/History"_s.arg(i + 10)),
-                {sample::HistoryRow{.url = u"https://%1.example/"_s.arg(i), .title = QString::number(i)}});
+            sample::writeHistory(chromeFile(u"Profile %1/History"_s.arg(i + 10)),
+                                 {sample::HistoryRow{.url = u"https://%1.example/"_s.arg(i),
+                                                     .title = QString::number(i),
+                                                     .lastVisitTime = sample::chromiumTime(newest)}});
         }
     });
     sources.clear();
@@ -312,6 +314,10 @@ TEST_F(SearchCacheTest, threeHundredSourcesAreReadOneAfterTheOther)
     cache.expectSearch(sources);
     EXPECT_TRUE(waitUntil([this] { return !cache.isBuilding(); }, 60s));
     EXPECT_EQ(ready().size(), 300);
+    const HistorySearch search(HistoryQuery::matching(u"example"_s, {}, HistoryQuery::Order::Latest), sources,
+                               {}, cache.texts(), home.context());
+    ASSERT_TRUE(search.known());
+    EXPECT_EQ(search.known()->results.items.size(), 300);
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "SampleHome/SampleText.h"
 
 #include <algorithm>
+#include <new>
 #include <stop_token>
 #include <utility>
 
@@ -92,6 +93,24 @@ TEST(HistoryTextSearchTest, asManyAsAreWantedAreTheFirstOfAll)
             }
         }
     }
+}
+
+TEST(HistoryTextSearchTest, aRowOfAHundredMegabytesIsSearched)
+{
+    constexpr size_t size = 100'000'000;
+    const std::string title = std::string(size, 'x') + " needle";
+    auto builder = builderOf();
+    builder.add(
+        {.id = 1, .url = "https://a.test/", .title = "small", .order = 2, .lastVisit = pointInTime(1)});
+    builder.add({.id = 2, .url = "https://b.test/", .title = title, .order = 1, .lastVisit = pointInTime(1)});
+    const auto text = builder.finish({});
+    EXPECT_EQ(text->search(wordsQuery({u"needles"_s}))->rows.size(), 0U);
+    EXPECT_EQ(found(*text, wordsQuery({u"small"_s})), QStringList{u"small"_s});
+    const auto answer = text->search(wordsQuery({u"needle"_s, u"b.test"_s}));
+    ASSERT_EQ(answer->results.items.size(), 1);
+    EXPECT_EQ(answer->results.items.first().title.size(), static_cast<qsizetype>(title.size()));
+    auto small = builderOf(size);
+    EXPECT_THROW(small.add({.id = 1, .title = title}), std::bad_alloc);
 }
 
 TEST(HistoryTextSearchTest, aMillionEmptyRowsAreSearched)
