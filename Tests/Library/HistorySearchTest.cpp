@@ -57,19 +57,6 @@ protected:
         std::ranges::stable_sort(results.items, {}, [](const HistoryItem &item) { return item.source.id(); });
         return results;
     }
-    /// So many pages of a Chrome profile, the newest one first: `url` and a number, all with the same title.
-    void setRows(const QString &profile, qsizetype count, const QString &url)
-    {
-        change([&] {
-            sample::writeHistory(chromeFile(profile % u"/History"),
-                                 sample::Rows<sample::HistoryRow>::generated(count, [url](qsizetype i) {
-                                     return sample::HistoryRow{.url = url % QString::number(i),
-                                                               .title = u"word"_s,
-                                                               .lastVisitTime =
-                                                                   sample::chromiumTime(newest - i)};
-                                 }));
-        });
-    }
 
     Library library{home.platform()};
 };
@@ -94,7 +81,7 @@ TEST_F(HistorySearchTest, memoryAnswersAndNoDatabaseIsAsked)
 TEST_F(HistorySearchTest, capAndSiteAreThoseOfTheDatabases)
 {
     addChromium();
-    setRows(u"Default"_s, 1200, u"https://w.example/"_s);
+    setChromePages(u"Default"_s, 1200, u"https://w.example/"_s);
     change([this] {
         sample::writeHistory(chromeFile(u"Profile 1/History"_s),
                              sample::Rows<sample::HistoryRow>::generated(1000, [](qsizetype i) {
@@ -136,22 +123,22 @@ TEST_F(HistorySearchTest, theCapIsSeenWhoeverOfBothAnswersIt)
 {
     addChromium();
     for (const QString &full : {u"Default"_s, u"Profile 1"_s}) {
-        setRows(u"Default"_s, 999, u"https://w.example/"_s);
-        setRows(u"Profile 1"_s, 999, u"https://w.example/"_s);
-        setRows(full, 1000, u"https://w.example/"_s);
+        setChromePages(u"Default"_s, 999, u"https://w.example/"_s);
+        setChromePages(u"Profile 1"_s, 999, u"https://w.example/"_s);
+        setChromePages(full, 1000, u"https://w.example/"_s);
         loadNow(library);
         fill();
         EXPECT_EQ(library.queryHistory(query(u"word"_s), {}).known()->results.items.size(), 1999);
         EXPECT_TRUE(library.queryHistory(query(u"word"_s), {}).known()->results.isCapped);
         // The same rows, of which only the text of the other source is known now.
-        setRows(u"Default"_s, full == u"Default" ? 1000 : 999, u"https://w.example/"_s);
+        setChromePages(u"Default"_s, full == u"Default" ? 1000 : 999, u"https://w.example/"_s);
         const HistorySearch search = library.queryHistory(query(u"word"_s), {});
         EXPECT_FALSE(search.known());
         EXPECT_EQ(search.run({}).results.items.size(), 1999);
         EXPECT_TRUE(search.run({}).results.isCapped);
     }
-    setRows(u"Default"_s, 999, u"https://w.example/"_s);
-    setRows(u"Profile 1"_s, 999, u"https://w.example/"_s);
+    setChromePages(u"Default"_s, 999, u"https://w.example/"_s);
+    setChromePages(u"Profile 1"_s, 999, u"https://w.example/"_s);
     fill();
     EXPECT_FALSE(library.queryHistory(query(u"word"_s), {}).known()->results.isCapped);
 }
@@ -169,7 +156,7 @@ TEST_F(HistorySearchTest, whatOnlyADatabaseKnowsItIsAsked)
 TEST_F(HistorySearchTest, aLongerWordIsLookedForInWhatTheShorterOneFound)
 {
     addChromium();
-    setRows(u"Default"_s, 900, u"https://w.example/"_s);
+    setChromePages(u"Default"_s, 900, u"https://w.example/"_s);
     loadNow(library);
     fill();
     const auto wide = library.queryHistory(query(u"example/89"_s), {}).known();
@@ -193,11 +180,11 @@ TEST_F(HistorySearchTest, aLongerWordIsLookedForInWhatTheShorterOneFound)
 TEST_F(HistorySearchTest, whatWasFoundInAnOlderTextIsNoHelp)
 {
     addChromium();
-    setRows(u"Default"_s, 100, u"https://w.example/"_s);
+    setChromePages(u"Default"_s, 100, u"https://w.example/"_s);
     loadNow(library);
     fill();
     const auto earlier = library.queryHistory(query(u"example/9"_s), {}).known();
-    setRows(u"Default"_s, 1000, u"https://w.example/"_s);
+    setChromePages(u"Default"_s, 1000, u"https://w.example/"_s);
     fill();
     HistorySearch search = library.queryHistory(query(u"example/99"_s), {});
     search.narrow(earlier->findings);
@@ -252,7 +239,7 @@ TEST_F(HistorySearchTest, whateverHappensToTheFilesTheAnswerIsTheDatabases)
 TEST_F(HistorySearchTest, whatIsWrittenDuringASearchHidesNothingThatWasThereBefore)
 {
     addChromium();
-    setRows(u"Default"_s, 50, u"https://w.example/"_s);
+    setChromePages(u"Default"_s, 50, u"https://w.example/"_s);
     loadNow(library);
     HistoryQuery all = query(u"written"_s);
     all.limit = -1;

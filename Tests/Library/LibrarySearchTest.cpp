@@ -44,20 +44,6 @@ protected:
         result.sort();
         return result;
     }
-
-    /// So many pages of a Chrome profile, the newest one first: `url` and a number, all with the same title.
-    void setRows(const QString &profile, qsizetype count, const QString &url)
-    {
-        change([&] {
-            sample::writeHistory(chromeFile(profile % u"/History"),
-                                 sample::Rows<sample::HistoryRow>::generated(count, [url](qsizetype i) {
-                                     return sample::HistoryRow{.url = url % QString::number(i),
-                                                               .title = u"word"_s,
-                                                               .lastVisitTime =
-                                                                   sample::chromiumTime(newest - i)};
-                                 }));
-        });
-    }
 };
 
 TEST_F(LibrarySearchTest, noSourcesGiveNothing)
@@ -80,8 +66,8 @@ TEST_F(LibrarySearchTest, everySourceIsSearchedAndSafariToo)
 TEST_F(LibrarySearchTest, twoFullSourcesGiveTwoThousandRowsAndAreCapped)
 {
     addChromium();
-    setRows(u"Default"_s, 1200, u"https://w.example/"_s);
-    setRows(u"Profile 1"_s, 1000, u"https://w.example/"_s);
+    setChromePages(u"Default"_s, 1200, u"https://w.example/"_s);
+    setChromePages(u"Profile 1"_s, 1000, u"https://w.example/"_s);
     const HistoryResults results = search(u"word"_s);
     EXPECT_EQ(results.items.size(), 2000);
     EXPECT_TRUE(results.isCapped);
@@ -90,16 +76,16 @@ TEST_F(LibrarySearchTest, twoFullSourcesGiveTwoThousandRowsAndAreCapped)
 TEST_F(LibrarySearchTest, oneRowLessIsNotCapped)
 {
     addChromium();
-    setRows(u"Default"_s, 999, u"https://w.example/"_s);
+    setChromePages(u"Default"_s, 999, u"https://w.example/"_s);
     EXPECT_FALSE(search(u"word"_s).isCapped);
-    setRows(u"Default"_s, 1000, u"https://w.example/"_s);
+    setChromePages(u"Default"_s, 1000, u"https://w.example/"_s);
     EXPECT_TRUE(search(u"word"_s).isCapped);
 }
 
 TEST_F(LibrarySearchTest, thePlainListingIsNeverCapped)
 {
     addChromium();
-    setRows(u"Default"_s, 1500, u"https://w.example/"_s);
+    setChromePages(u"Default"_s, 1500, u"https://w.example/"_s);
     const HistoryResults results = search({});
     EXPECT_FALSE(results.isCapped);
     EXPECT_EQ(results.items.size(), 1000 + 2);
@@ -165,20 +151,20 @@ TEST_F(LibrarySearchTest, aWordThatIsTooLongForTheDatabaseFindsNothing)
 TEST_F(LibrarySearchTest, aSiteOfWhichThereAreFewerRowsIsNotCapped)
 {
     addChromium();
-    setRows(u"Default"_s, 999, u"https://site.example/"_s);
+    setChromePages(u"Default"_s, 999, u"https://site.example/"_s);
     const HistoryResults results = search({}, u"site.example"_s);
     EXPECT_EQ(results.items.size(), 999);
     EXPECT_FALSE(results.isCapped);
     EXPECT_EQ(search({}, u"ite.example"_s), HistoryResults()) << "the end of a site is another site";
-    setRows(u"Default"_s, 1000, u"https://site.example/"_s);
+    setChromePages(u"Default"_s, 1000, u"https://site.example/"_s);
     EXPECT_TRUE(search({}, u"site.example"_s).isCapped);
 }
 
 TEST_F(LibrarySearchTest, rowsComeSourceBySourceInTheOrderOfTheirQuery)
 {
     addChromium();
-    setRows(u"Default"_s, 50, u"https://d.example/"_s);
-    setRows(u"Profile 1"_s, 50, u"https://p.example/"_s);
+    setChromePages(u"Default"_s, 50, u"https://d.example/"_s);
+    setChromePages(u"Profile 1"_s, 50, u"https://p.example/"_s);
     const HistoryResults results = search(u"word"_s);
     ASSERT_EQ(results.items.size(), 100);
     for (qsizetype i = 1; i < 100; ++i) {

@@ -140,6 +140,18 @@ void LibraryHome::setChromeHistory(const QString &profile, const QStringList &pa
     change([&] { sample::writeHistory(chromeFile(profile % u"/History"), rows); });
 }
 
+void LibraryHome::setChromePages(const QString &profile, qsizetype count, const QString &url)
+{
+    change([&] {
+        sample::writeHistory(chromeFile(profile % u"/History"),
+                             sample::Rows<sample::HistoryRow>::generated(count, [url](qsizetype i) {
+                                 return sample::HistoryRow{.url = url % QString::number(i),
+                                                           .title = u"word"_s,
+                                                           .lastVisitTime = sample::chromiumTime(newest - i)};
+                             }));
+    });
+}
+
 void LibraryHome::setChromeIcon(const QString &profile, const QString &pageUrl, const QByteArray &image)
 {
     change([&] {

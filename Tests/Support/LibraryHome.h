@@ -80,6 +80,8 @@ protected:
     void addSafariProfile();
     /// Replaces the history of a Chrome profile by pages with these titles, the first one newest.
     void setChromeHistory(const QString &profile, const QStringList &titles, qint64 newestVisit = newest);
+    /// So many pages of a Chrome profile, the newest one first: `url` and a number, all titled "word".
+    void setChromePages(const QString &profile, qsizetype count, const QString &url);
     void setChromeIcon(const QString &profile, const QString &pageUrl, const QByteArray &image);
 
     QString chromeFile(const QString &file) const
