@@ -486,7 +486,6 @@ TEST_F(ListLoaderTest, aReloadDuringASearchSupersedesIt)
     loader->load(wish(u"example"_s));
     home.clock.advance(250ms);
     gate.awaitReader();
-    home.files.failure = {};
     setChromeHistory(u"Profile 1"_s, {u"new"_s});
     loadNow(library);
     loader->load(wish(u"example"_s));
