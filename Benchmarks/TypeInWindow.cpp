@@ -26,6 +26,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
+#include <fstream>
 #include <limits>
 #include <optional>
 #include <string>
@@ -50,13 +51,11 @@ double milliseconds(const QElapsedTimer &timer)
 
 double residentMegabytes()
 {
-    std::FILE *status = std::fopen("/proc/self/statm", "re");
-    long size = 0;
-    long resident = 0;
-    if (status == nullptr || std::fscanf(status, "%ld %ld", &size, &resident) != 2)
-        return 0;
-    static_cast<void>(std::fclose(status));
-    return static_cast<double>(resident * sysconf(_SC_PAGESIZE)) / (1 << 20);
+    std::ifstream status("/proc/self/statm");
+    double size = 0;
+    double resident = 0;
+    status >> size >> resident;
+    return resident * static_cast<double>(sysconf(_SC_PAGESIZE)) / (1 << 20);
 }
 
 void print(const char *name, double value)

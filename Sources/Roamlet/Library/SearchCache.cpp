@@ -130,8 +130,8 @@ void SearchCache::buildNext()
             stoppable.stop = stop;
             return build(source, mostBytes, stoppable);
         },
-        [this, id = source.id()](SearchText text) {
-            m_texts.insert(id, std::move(text));
+        [this, id = source.id()](const SearchText &text) {
+            m_texts.insert(id, text);
             buildNext();
         });
 }

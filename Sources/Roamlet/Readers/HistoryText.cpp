@@ -14,7 +14,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numeric>
+#include <ranges>
 #include <string>
 #include <tuple>
 #include <utility>
@@ -146,8 +146,7 @@ bool HistoryText::findInSlices(const HistoryQuery &query, const Condition &condi
         const Slice slice{begin, begin + std::min(size, rowCount() - begin)};
         RowNumbers found;
         if (condition.words.empty()) {
-            found.resize(slice.end - slice.begin);
-            std::iota(found.begin(), found.end(), slice.begin);
+            std::ranges::copy(std::views::iota(slice.begin, slice.end), std::back_inserter(found));
         } else {
             found = findAll(condition.words.front(), slice);
             for (size_t i = 1; i < condition.words.size(); ++i)

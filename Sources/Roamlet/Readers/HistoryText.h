@@ -31,8 +31,11 @@ struct HistoryTextRow {
     };
 
     qint64 id = 0;
+    // The compiler wants them from whoever names only some of the members.
+    // NOLINTBEGIN(readability-redundant-string-init)
     std::string_view url = "";
     std::string_view title = "";
+    // NOLINTEND(readability-redundant-string-init)
     Searched searched = Searched::All;
     /// What the latest rows are sorted by, the largest first.
     qint64 order = 0;
