@@ -82,17 +82,7 @@ TEST_F(HistorySearchTest, capAndSiteAreThoseOfTheDatabases)
 {
     addChromium();
     setChromePages(u"Default"_s, 1200, u"https://w.example/"_s);
-    change([this] {
-        sample::writeHistory(chromeFile(u"Profile 1/History"_s),
-                             sample::Rows<sample::HistoryRow>::generated(1000, [](qsizetype i) {
-                                 const QString url =
-                                     i < 10 ? u"https://www.site.example/%1"_s.arg(i)
-                                            : u"https://other.example/?u=https://site.example/%1"_s.arg(i);
-                                 return sample::HistoryRow{.url = url,
-                                                           .title = u"t"_s,
-                                                           .lastVisitTime = sample::chromiumTime(newest - i)};
-                             }));
-    });
+    setChromePagesAroundASite(u"Profile 1"_s);
     loadNow(library);
     fill();
     const auto words = library.queryHistory(query(u"word"_s), {}).known();

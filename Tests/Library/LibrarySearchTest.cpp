@@ -94,17 +94,7 @@ TEST_F(LibrarySearchTest, thePlainListingIsNeverCapped)
 TEST_F(LibrarySearchTest, aSiteIsComparedExactlyAfterTheCap)
 {
     addChromium();
-    change([this] {
-        sample::writeHistory(chromeFile(u"Default/History"_s),
-                             sample::Rows<sample::HistoryRow>::generated(1000, [](qsizetype i) {
-                                 const QString url =
-                                     i < 10 ? u"https://www.site.example/%1"_s.arg(i)
-                                            : u"https://other.example/?u=https://site.example/%1"_s.arg(i);
-                                 return sample::HistoryRow{.url = url,
-                                                           .title = u"t"_s,
-                                                           .lastVisitTime = sample::chromiumTime(newest - i)};
-                             }));
-    });
+    setChromePagesAroundASite(u"Default"_s);
     const HistoryResults results = search({}, u"site.example"_s);
     EXPECT_EQ(results.items.size(), 10);
     EXPECT_TRUE(results.isCapped);

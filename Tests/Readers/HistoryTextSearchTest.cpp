@@ -95,6 +95,29 @@ TEST(HistoryTextSearchTest, asManyAsAreWantedAreTheFirstOfAll)
     }
 }
 
+TEST(HistoryTextSearchTest, asManyPagesAsAreWantedAreFoundWhereEachHasSeveralRows)
+{
+    HistoryText::Builder builder(Source::safari(), HistoryText::Builder::Ties::FirstRead,
+                                 HistoryText::Builder::Pages::SeveralRows, plenty);
+    constexpr qint64 pages = 6000;
+    for (qint64 page = 0; page < pages; ++page) {
+        for (const std::string_view title : {"word one", "word two", "other"})
+            builder.add({.id = page,
+                         .url = "https://a.test/",
+                         .title = title,
+                         .order = -page,
+                         .lastVisit = pointInTime(1)});
+    }
+    const auto text = builder.finish({});
+    const auto all = text->search(wordsQuery({u"word"_s}, HistoryQuery::Order::Latest, -1));
+    ASSERT_EQ(all->results.items.size(), pages) << "each once";
+    for (const qint64 limit : {1, 1000, 5999, 6000}) {
+        const auto some = text->search(wordsQuery({u"word"_s}, HistoryQuery::Order::Latest, limit));
+        EXPECT_EQ(some->results.items, all->results.items.first(limit));
+        EXPECT_TRUE(some->results.isCapped);
+    }
+}
+
 TEST(HistoryTextSearchTest, aRowOfAHundredMegabytesIsSearched)
 {
     constexpr size_t size = 100'000'000;

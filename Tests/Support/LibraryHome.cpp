@@ -152,6 +152,21 @@ void LibraryHome::setChromePages(const QString &profile, qsizetype count, const 
     });
 }
 
+void LibraryHome::setChromePagesAroundASite(const QString &profile)
+{
+    change([&] {
+        sample::writeHistory(chromeFile(profile % u"/History"),
+                             sample::Rows<sample::HistoryRow>::generated(1000, [](qsizetype i) {
+                                 const QString url =
+                                     i < 10 ? u"https://www.site.example/%1"_s.arg(i)
+                                            : u"https://other.example/?u=https://site.example/%1"_s.arg(i);
+                                 return sample::HistoryRow{.url = url,
+                                                           .title = u"t"_s,
+                                                           .lastVisitTime = sample::chromiumTime(newest - i)};
+                             }));
+    });
+}
+
 void LibraryHome::setChromeIcon(const QString &profile, const QString &pageUrl, const QByteArray &image)
 {
     change([&] {

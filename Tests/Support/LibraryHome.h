@@ -82,6 +82,9 @@ protected:
     void setChromeHistory(const QString &profile, const QStringList &titles, qint64 newestVisit = newest);
     /// So many pages of a Chrome profile, the newest one first: `url` and a number, all titled "word".
     void setChromePages(const QString &profile, qsizetype count, const QString &url);
+    /// A thousand pages of a Chrome profile, of which ten are on "site.example" and the others only name it
+    /// in their addresses.
+    void setChromePagesAroundASite(const QString &profile);
     void setChromeIcon(const QString &profile, const QString &pageUrl, const QByteArray &image);
 
     QString chromeFile(const QString &file) const
