@@ -3,10 +3,9 @@
 
 // How long does a search of a million rows in memory take, and what does it cost to get them there?
 
-#include "Readers/HistoryText.h"
-
 #include "Platform/Linux/LinuxFiles.h"
 #include "Readers/BrowserReader.h"
+#include "Readers/HistoryTextBuilder.h"
 #include "Readers/ReadContext.h"
 #include "SampleHome/ChromiumFiles.h"
 
@@ -46,19 +45,26 @@ std::pair<std::string, std::string> page(std::mt19937 &random)
 const HistoryText &history()
 {
     static const std::shared_ptr<const HistoryText> text = [] {
-        std::mt19937 random(42);
         HistoryText::Builder builder(Source::safari(), HistoryText::Builder::Ties::FirstRead,
                                      HistoryText::Builder::Pages::OneRow, mostBytes);
-        for (qsizetype i = 0; i < rowCount; ++i) {
-            const auto [url, title] = page(random);
-            builder.add({.id = i,
-                         .url = url,
-                         .title = title,
-                         .order = i,
-                         .lastVisit = pointInTime(static_cast<double>(i)),
-                         .visitCount = static_cast<qint64>(random() % 50)});
-        }
-        return builder.finish({});
+        const auto handOver = [](auto take) {
+            std::mt19937 random(42);
+            for (qsizetype i = 0; i < rowCount; ++i) {
+                const auto [url, title] = page(random);
+                take({.id = i,
+                      .url = url,
+                      .title = title,
+                      .order = i,
+                      .lastVisit = pointInTime(static_cast<double>(i)),
+                      .visitCount = static_cast<qint64>(random() % 50)});
+            }
+        };
+        HistoryText::Builder::Part &part = builder.part(0);
+        handOver([&part](const HistoryTextRow &row) { part.measure(row); });
+        part.sort();
+        builder.arrange();
+        handOver([&part](const HistoryTextRow &row) { part.put(row); });
+        return builder.finish();
     }();
     return *text;
 }

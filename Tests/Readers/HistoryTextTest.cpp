@@ -482,8 +482,9 @@ TEST_F(ReaderTest, aTextWhoseReadIsStoppedOnTheWayIsNone)
             stop.request_stop();
         return std::optional(pointInTime(1));
     }};
-    const auto text = historyText(*copy, u"SELECT id, url, title, last_visit_time, visit_count FROM urls"_s,
-                                  chrome(), rules, plenty, stopped.stop);
+    const auto text = historyText(
+        *copy, {.rows = u"SELECT id, url, title, last_visit_time, visit_count FROM urls"_s, .order = {}},
+        chrome(), rules, plenty, stopped.stop);
     EXPECT_FALSE(text);
     EXPECT_LT(rowsRead, rowCount);
 }

@@ -58,6 +58,10 @@ Snapshot assemble(const QList<Source> &profiles, const QList<Source> &enabled, s
     Snapshot snapshot;
     snapshot.sources = enabled;
     snapshot.browserProfiles = profiles;
+    qsizetype rows = 0;
+    for (const SourceRead &read : reads)
+        rows += read.history.size();
+    snapshot.history.reserve(rows);
     for (size_t i = 0; i < reads.size(); ++i) {
         const Source &source = enabled[static_cast<qsizetype>(i)];
         const QString id = source.id();

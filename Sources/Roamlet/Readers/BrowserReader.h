@@ -48,7 +48,7 @@ QString historyFile(const Source &source, const ReadContext &context);
 std::expected<QList<HistoryItem>, ReadError> history(const Source &source, const HistoryQuery &query,
                                                      const ReadContext &context);
 /// All rows of a source that a search could find, in memory; it answers as history() does as long as the
-/// files stay as they are. While it is read, it takes two or three times what it takes then. Nothing (no
+/// files stay as they are. While it is read, it takes about a fifth more than it takes then. Nothing (no
 /// error) when it would take more than `mostBytes` or there is no memory, or when the database holds values
 /// that only it can put in order: then history() is to be asked.
 std::expected<std::shared_ptr<const HistoryText>, ReadError>

@@ -6,7 +6,7 @@
 #include "Model/HistoryQuery.h"
 #include "Model/ReadError.h"
 #include "Readers/Files/SQLiteSnapshot.h"
-#include "Readers/HistoryText.h"
+#include "Readers/HistoryTextBuilder.h"
 
 #include <QList>
 #include <QString>
@@ -22,12 +22,23 @@ namespace roamlet
 /// The point in time that this column of a history's row holds, or nothing for "never".
 using LastVisit = std::optional<PointInTime> (*)(const SQLiteSnapshot::Row &row, int column);
 
+/// Gives a row's number, address, title, last visit and number of visits.
+struct HistoryStatement {
+    /// Up to the last of its conditions,
+    QString rows;
+    /// and what follows them.
+    QString order;
+    /// The table that it goes through from one end to the other, rows of the same time in the order of their
+    /// numbers; empty where it does not. Such rows are read in parts and put in order here.
+    QString table = QString();
+};
+
 /// The rows of a browser's history that `statement` finds, in its order; rows without a visit are left out.
-/// The statement gives a row's number, address, title, last visit and number of visits, and takes the
-/// patterns of `query`. Any thread.
+/// It takes the patterns of `query`. Any thread.
 std::expected<QList<HistoryItem>, ReadError> historyRows(const SQLiteSnapshot &database,
-                                                         const QString &statement, const HistoryQuery &query,
-                                                         const Source &source, LastVisit lastVisit);
+                                                         const HistoryStatement &statement,
+                                                         const HistoryQuery &query, const Source &source,
+                                                         LastVisit lastVisit);
 
 /// How a family's history is searched, beyond the words.
 struct HistoryRules {
@@ -39,10 +50,10 @@ struct HistoryRules {
 };
 
 /// A history's text, or nothing (no error) where it does not fit into `mostBytes`, there is no memory, or a
-/// value is of a kind that only the database can put in order. `statement` gives the columns of historyRows()
-/// for every row that a search could find, in the order of their numbers. Any thread.
+/// value is of a kind that only the database can put in order. `statement` gives every row that a search
+/// could find, in the order of their numbers. Any thread.
 std::expected<std::shared_ptr<const HistoryText>, ReadError>
-historyText(const SQLiteSnapshot &database, const QString &statement, const Source &source,
+historyText(const SQLiteSnapshot &database, const HistoryStatement &statement, const Source &source,
             const HistoryRules &rules, size_t mostBytes, const std::stop_token &stop);
 
 } // namespace roamlet

@@ -325,11 +325,6 @@ HistoryItem HistoryText::item(RowNumber row) const
                               facts.visitCount, m_source);
 }
 
-std::shared_ptr<const HistoryText> HistoryText::empty(const Source &source)
-{
-    return Builder(source, Builder::Ties::FirstRead, Builder::Pages::OneRow, 0).finish({});
-}
-
 size_t HistoryText::byteCount() const
 {
     return m_starts.back() + m_starts.capacity() * sizeof(m_starts.front()) +

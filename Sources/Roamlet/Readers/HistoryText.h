@@ -9,11 +9,9 @@
 
 #include <cstdint>
 #include <memory>
-#include <memory_resource>
 #include <optional>
 #include <stop_token>
 #include <string_view>
-#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -84,10 +82,10 @@ public:
 
 private:
     struct Row {
-        qint64 id = 0;
+        qint64 id;
         /// Seconds since 1970; NaN for "never".
-        double lastVisit = 0;
-        qint64 visitCount = 0;
+        double lastVisit;
+        qint64 visitCount;
     };
     enum class Part { All, Url };
     struct Literal;
@@ -123,68 +121,15 @@ private:
 
     Source m_source;
     /// Of each row the address, a separator, the title and a NUL, as they stand in the database.
-    std::pmr::vector<char> m_text{&largeMemory()};
+    LargeVector<char> m_text{&largeMemory()};
     /// Where each row begins, and after them the end of the last one.
-    std::pmr::vector<std::uint32_t> m_starts{&largeMemory()};
-    std::pmr::vector<std::uint32_t> m_urlSizes{&largeMemory()};
-    std::pmr::vector<Row> m_rows{&largeMemory()};
+    LargeVector<std::uint32_t> m_starts{&largeMemory()};
+    LargeVector<std::uint32_t> m_urlSizes{&largeMemory()};
+    LargeVector<Row> m_rows{&largeMemory()};
     /// The rows in which a letter beyond ASCII may be spelt in other bytes than those that are looked for.
     RowNumbers m_broken;
     /// Whether a row is one of several of its page; empty when no page has several.
     std::vector<bool> m_areOfSharedPage;
-};
-
-/// Takes the rows and makes a text of them. Until that is done, they take two or three times the memory.
-class HistoryText::Builder
-{
-public:
-    enum class Ties {
-        FirstRead, ///< rows of the same time come in the order in which they are added
-        LastRead,  ///< in the opposite order
-    };
-    enum class Pages {
-        OneRow,     ///< each row is another page
-        SeveralRows ///< a page has a row for each of its titles, one after the other; the newest one is found
-    };
-
-    Builder(Source source, Ties ties, Pages pages, size_t mostBytes);
-
-    /// Throws std::bad_alloc when the text would take more than the most bytes, or there are no more to be
-    /// had.
-    void add(const HistoryTextRow &row);
-    /// The text, or nothing when a stop was requested. Throws std::bad_alloc as well.
-    std::shared_ptr<const HistoryText> finish(const std::stop_token &stop);
-
-private:
-    /// A row and its text, which stands behind it.
-    struct Entry {
-        Row row;
-        std::uint32_t urlSize = 0;
-        std::uint32_t size = 0;
-        std::uint32_t number = 0;
-        bool isOfSharedPage = false;
-        bool isBroken = false;
-
-        char *text() { return reinterpret_cast<char *>(this + 1); }
-        const char *text() const { return reinterpret_cast<const char *>(this + 1); }
-    };
-    /// What is sorted.
-    struct Place {
-        qint64 order = 0;
-        Entry *entry = nullptr;
-    };
-
-    Place *sameTitle(const HistoryTextRow &row);
-
-    std::shared_ptr<HistoryText> m_made;
-    Ties m_ties;
-    Pages m_pages;
-    size_t m_bytesLeft;
-    size_t m_textSize = 0;
-    std::pmr::monotonic_buffer_resource m_entries{&largeMemory()};
-    std::pmr::vector<Place> m_places{&largeMemory()};
-    /// The rows of the page that was added last, by their titles.
-    std::unordered_map<std::string_view, size_t> m_titles;
 };
 
 } // namespace roamlet

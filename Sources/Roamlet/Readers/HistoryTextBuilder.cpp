@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
-#include "Readers/HistoryText.h"
+#include "Readers/HistoryTextBuilder.h"
 
 #include <QByteArrayView>
 
@@ -24,105 +24,173 @@ bool hasAmbiguousLetters(std::string_view text)
            text.find("\xEF\xBF") != std::string_view::npos;
 }
 
+/// What the numbers of its places can say.
+constexpr size_t longestText = std::numeric_limits<std::uint32_t>::max();
+
+/// With the separator and the NUL.
+size_t sizeOf(const HistoryTextRow &row)
+{
+    return row.url.size() + row.title.size() + 2;
+}
+
 } // namespace
 
-HistoryText::Builder::Builder(Source source, Ties ties, Pages pages, size_t mostBytes)
-    : m_made(new HistoryText(std::move(source))), m_ties(ties), m_pages(pages), m_bytesLeft(mostBytes)
+void HistoryText::Builder::Part::measure(const HistoryTextRow &row)
 {
+    if (m_builder->m_pages == Pages::SeveralRows)
+        measureShare(row);
+    else
+        addPlace(row);
 }
 
-/// The row of the same page that can be found by the same words, if there is one.
-HistoryText::Builder::Place *HistoryText::Builder::sameTitle(const HistoryTextRow &row)
+/// Finds out whether the row is the first of its page that is found by its words.
+void HistoryText::Builder::Part::measureShare(const HistoryTextRow &row)
 {
-    if (m_places.empty() || m_places.back().entry->row.id != row.id) {
+    if (m_shares.empty() || m_page != row.id)
         m_titles.clear();
-        return nullptr;
-    }
-    const auto found = m_titles.find(row.title);
-    return found == m_titles.end() ? nullptr : &m_places[found->second];
-}
-
-void HistoryText::Builder::add(const HistoryTextRow &row)
-{
-    const Row facts{.id = row.id,
-                    .lastVisit = row.lastVisit ? secondsSince1970(*row.lastVisit)
-                                               : std::numeric_limits<double>::quiet_NaN(),
-                    .visitCount = row.visitCount};
-    bool isOfSharedPage = false;
-    if (m_pages == Pages::SeveralRows) {
-        if (Place *same = sameTitle(row)) {
-            if (row.order > same->order) {
-                same->order = row.order;
-                same->entry->row = facts;
-            }
-            return;
+    m_page = row.id;
+    const auto [same, isNew] = m_titles.try_emplace(std::string(row.title), m_shares.size());
+    if (!isNew) {
+        Share &newest = m_shares[same->second];
+        Place &place = m_places[newest.number];
+        const bool isNewest = row.order > place.order;
+        m_shares.push_back({.number = newest.number, .isNewest = isNewest});
+        if (isNewest) {
+            place.order = row.order;
+            m_shares[same->second].isNewest = false;
+            same->second = m_shares.size() - 1;
         }
-        isOfSharedPage = !m_titles.empty();
-        if (isOfSharedPage)
-            m_places.back().entry->isOfSharedPage = true;
+        return;
     }
-
-    const bool isBroken = hasAmbiguousLetters(row.url) || hasAmbiguousLetters(row.title);
-    // With room for the bit of a shared page.
-    const size_t perRow = sizeof(Row) + 2 * sizeof(std::uint32_t) + (isBroken ? sizeof(RowNumber) : 0) + 1;
-    const size_t size = row.url.size() + row.title.size() + 2;
-    const bool isAddressable = m_textSize + size <= std::numeric_limits<std::uint32_t>::max();
-    if (size + perRow > m_bytesLeft || !isAddressable)
-        throw std::bad_alloc();
-    m_bytesLeft -= size + perRow;
-    m_textSize += size;
-    auto *entry = new (m_entries.allocate(sizeof(Entry) + size, alignof(Entry)))
-        Entry{.row = facts,
-              .urlSize = static_cast<std::uint32_t>(row.url.size()),
-              .size = static_cast<std::uint32_t>(size),
-              .number = static_cast<std::uint32_t>(m_places.size()),
-              .isOfSharedPage = isOfSharedPage,
-              .isBroken = isBroken};
-    char *end = std::ranges::copy(row.url, entry->text()).out;
-    *end++ = static_cast<char>(row.searched);
-    char *title = end;
-    end = std::ranges::copy(row.title, title).out;
-    *end = '\0';
-    if (m_pages == Pages::SeveralRows)
-        m_titles.emplace(std::string_view(title, row.title.size()), m_places.size());
-    m_places.push_back({.order = row.order, .entry = entry});
+    const bool isOfSharedPage = m_titles.size() > 1;
+    if (isOfSharedPage)
+        m_areOfSharedPage.back() = true;
+    m_areOfSharedPage.push_back(isOfSharedPage);
+    m_shares.push_back({.number = static_cast<std::uint32_t>(m_places.size()), .isNewest = true});
+    addPlace(row);
 }
 
-std::shared_ptr<const HistoryText> HistoryText::Builder::finish(const std::stop_token &stop)
+void HistoryText::Builder::Part::addPlace(const HistoryTextRow &row)
 {
-    std::ranges::sort(m_places, [this](const Place &left, const Place &right) {
+    // With room for the bit of a shared page.
+    constexpr size_t perRow = sizeof(Row) + 2 * sizeof(std::uint32_t) + 1;
+    const size_t size = sizeOf(row);
+    if (size + perRow > m_builder->m_mostBytes - m_byteCount || size > longestText - m_textSize)
+        throw std::bad_alloc();
+    m_byteCount += size + perRow;
+    m_textSize += size;
+    m_places.push_back({.order = row.order,
+                        .number = static_cast<std::uint32_t>(m_places.size()),
+                        .size = static_cast<std::uint32_t>(size)});
+}
+
+void HistoryText::Builder::Part::sort()
+{
+    const auto isBefore = [ties = m_builder->m_ties](const Place &left, const Place &right) {
         if (left.order != right.order)
             return left.order > right.order;
-        return m_ties == Ties::FirstRead ? left.entry->number < right.entry->number
-                                         : left.entry->number > right.entry->number;
-    });
-    HistoryText &made = *m_made;
-    made.m_text.reserve(m_textSize + 1);
-    made.m_starts.reserve(m_places.size() + 1);
-    made.m_urlSizes.reserve(m_places.size());
-    made.m_rows.reserve(m_places.size());
-    for (size_t row = 0; row < m_places.size(); ++row) {
-        constexpr size_t rowsPerCheck = 4096;
-        if (row % rowsPerCheck == 0 && stop.stop_requested())
-            return nullptr;
-        // They lie all over the memory: without this, each would be waited for.
-        constexpr size_t rowsAhead = 16;
-        if (row + rowsAhead < m_places.size())
-            __builtin_prefetch(m_places[row + rowsAhead].entry);
-        const Entry &each = *m_places[row].entry;
-        if (each.isBroken)
-            made.m_broken.push_back(made.rowCount());
-        if (each.isOfSharedPage) {
-            made.m_areOfSharedPage.resize(m_places.size());
-            made.m_areOfSharedPage[made.rowCount()] = true;
-        }
-        made.m_starts.push_back(static_cast<std::uint32_t>(made.m_text.size()));
-        made.m_text.insert(made.m_text.end(), each.text(), each.text() + each.size);
-        made.m_urlSizes.push_back(each.urlSize);
-        made.m_rows.push_back(each.row);
+        return ties == Ties::FirstRead ? left.number < right.number : left.number > right.number;
+    };
+    std::ranges::sort(m_places, isBefore);
+}
+
+void HistoryText::Builder::Part::put(const HistoryTextRow &row)
+{
+    const size_t index = m_putCount++;
+    if (index >= measuredCount())
+        return;
+    const bool isShared = !m_shares.empty();
+    if (isShared && !m_shares[index].isNewest)
+        return;
+    HistoryText &made = *m_builder->m_made;
+    const RowNumber place = m_rowNumbers[isShared ? m_shares[index].number : index];
+    m_isAsMeasured = m_isAsMeasured && sizeOf(row) == made.m_starts[place + 1] - made.m_starts[place];
+    if (!m_isAsMeasured)
+        return;
+    char *end = made.m_text.data() + made.m_starts[place];
+    end = std::ranges::copy(row.url, end).out;
+    *end++ = static_cast<char>(row.searched);
+    end = std::ranges::copy(row.title, end).out;
+    *end = '\0';
+    made.m_urlSizes[place] = static_cast<std::uint32_t>(row.url.size());
+    made.m_rows[place] = {.id = row.id,
+                          .lastVisit = row.lastVisit ? secondsSince1970(*row.lastVisit)
+                                                     : std::numeric_limits<double>::quiet_NaN(),
+                          .visitCount = row.visitCount};
+    if (hasAmbiguousLetters(row.url) || hasAmbiguousLetters(row.title))
+        m_broken.push_back(place);
+}
+
+std::shared_ptr<const HistoryText> HistoryText::empty(const Source &source)
+{
+    Builder builder(source, Builder::Ties::FirstRead, Builder::Pages::OneRow, 1024);
+    builder.arrange();
+    return builder.finish();
+}
+
+HistoryText::Builder::Builder(Source source, Ties ties, Pages pages, size_t mostBytes)
+    : m_made(new HistoryText(std::move(source))), m_ties(ties), m_pages(pages), m_mostBytes(mostBytes)
+{
+    for (Part &part : m_parts)
+        part.m_builder = this;
+}
+
+void HistoryText::Builder::arrange()
+{
+    size_t rows = 0;
+    size_t text = 0;
+    size_t bytes = 0;
+    for (const Part &part : m_parts) {
+        rows += part.m_places.size();
+        text += part.m_textSize;
+        bytes += part.m_byteCount;
     }
-    made.m_starts.push_back(static_cast<std::uint32_t>(m_textSize));
-    made.m_broken.shrink_to_fit();
+    if (bytes > m_mostBytes || text > longestText)
+        throw std::bad_alloc();
+    HistoryText &made = *m_made;
+    made.m_text.resize(text);
+    made.m_starts.resize(rows + 1);
+    made.m_urlSizes.resize(rows);
+    made.m_rows.resize(rows);
+    for (Part &part : m_parts)
+        part.m_rowNumbers.resize(part.m_places.size());
+    if (m_pages == Pages::SeveralRows)
+        made.m_areOfSharedPage.resize(rows);
+
+    std::array<size_t, partCount> taken{};
+    std::uint32_t start = 0;
+    const auto &[first, second] = m_parts;
+    for (RowNumber row = 0; row < rows; ++row) {
+        made.m_starts[row] = start;
+        bool isOfSecond = taken[0] == first.m_places.size();
+        if (!isOfSecond && taken[1] < second.m_places.size()) {
+            const qint64 ofFirst = first.m_places[taken[0]].order;
+            const qint64 ofSecond = second.m_places[taken[1]].order;
+            isOfSecond = m_ties == Ties::FirstRead ? ofSecond > ofFirst : ofSecond >= ofFirst;
+        }
+        Part &part = m_parts[isOfSecond ? 1 : 0];
+        const Part::Place &place = part.m_places[taken[isOfSecond ? 1 : 0]++];
+        part.m_rowNumbers[place.number] = row;
+        start += place.size;
+        if (m_pages == Pages::SeveralRows)
+            made.m_areOfSharedPage[row] = part.m_areOfSharedPage[place.number];
+    }
+    made.m_starts[rows] = start;
+}
+
+std::shared_ptr<const HistoryText> HistoryText::Builder::finish()
+{
+    for (const Part &part : m_parts) {
+        if (!part.m_isAsMeasured || part.m_putCount != part.measuredCount())
+            return nullptr;
+        m_made->m_broken.insert(m_made->m_broken.end(), part.m_broken.begin(), part.m_broken.end());
+    }
+    std::ranges::sort(m_made->m_broken);
+    m_made->m_broken.shrink_to_fit();
+    if (std::ranges::find(m_made->m_areOfSharedPage, true) == m_made->m_areOfSharedPage.end())
+        m_made->m_areOfSharedPage = {};
+    if (m_made->byteCount() > m_mostBytes)
+        throw std::bad_alloc();
     return std::move(m_made);
 }
 

@@ -119,11 +119,13 @@ std::optional<BookmarkNode> nodeWithoutChildren(const Json::Value &entry, const 
 const QString rowsStatement =
     u"SELECT id, url, title, last_visit_time, visit_count FROM urls\nWHERE hidden = 0"_s;
 
-QString historyStatement(const HistoryQuery &query)
+HistoryStatement historyStatement(const HistoryQuery &query)
 {
-    return rowsStatement % query.conditions(u"(url || ' ' || title)"_s, u"url"_s) % u"\nORDER BY " %
-           (query.order == HistoryQuery::Order::MostVisited ? u"visit_count DESC, "_s : QString()) %
-           u"last_visit_time DESC\nLIMIT " % QString::number(query.limit);
+    return {.rows = rowsStatement % query.conditions(u"(url || ' ' || title)"_s, u"url"_s),
+            .order = u"\nORDER BY " %
+                     (query.order == HistoryQuery::Order::MostVisited ? u"visit_count DESC, "_s : QString()) %
+                     u"last_visit_time DESC\nLIMIT " % QString::number(query.limit),
+            .table = u"urls"_s};
 }
 
 const QString defaultFolder = u"Default"_s;
@@ -342,8 +344,9 @@ historyText(const Source &source, const ReadContext &context, size_t mostBytes)
     const auto snapshot = SQLiteSnapshot::copying(file, context);
     if (!snapshot)
         return std::unexpected(snapshot.error());
-    return roamlet::historyText(*snapshot, rowsStatement % u"\nORDER BY id", source, rules, mostBytes,
-                                context.stop);
+    return roamlet::historyText(*snapshot,
+                                {.rows = rowsStatement, .order = u"\nORDER BY id"_s, .table = u"urls"_s},
+                                source, rules, mostBytes, context.stop);
 }
 
 std::expected<BookmarkTrees, ReadErrors> bookmarks(const Source &source, const ReadContext &context)

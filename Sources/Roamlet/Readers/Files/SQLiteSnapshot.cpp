@@ -139,6 +139,7 @@ public:
     Copy &operator=(const Copy &) = delete;
     ~Copy() { m_files.removeFolder(m_folder); }
 
+    QString source() const { return m_source; }
     QString folder() const { return m_folder; }
     QString path() const { return m_folder % u'/' % QFileInfo(m_source).fileName(); }
 
@@ -218,6 +219,7 @@ public:
     }
 
     sqlite3 *handle() const { return m_handle; }
+    const std::stop_token &stop() const { return m_stop; }
 
     /// Gives the next statement as many steps as any honest file of this size could need. A damaged file can
     /// lead SQLite through the same pages again and again.
@@ -228,6 +230,18 @@ public:
         // Asking for the size takes steps as well.
         m_checksLeft = always / stepsPerCheck;
         m_checksLeft = (always + perByte * size()) / stepsPerCheck * (1 + parameters);
+    }
+
+    /// The bytes of the database with its logs, or 0 when it is none.
+    std::int64_t size() const
+    {
+        const auto number = [this](const char *pragma) -> std::int64_t {
+            sqlite3_stmt *prepared = nullptr;
+            sqlite3_prepare_v2(m_handle, pragma, -1, &prepared, nullptr);
+            const Statement statement(prepared);
+            return statement && sqlite3_step(prepared) == SQLITE_ROW ? sqlite3_column_int64(prepared, 0) : 0;
+        };
+        return number("PRAGMA page_count") * number("PRAGMA page_size");
     }
 
 private:
@@ -246,24 +260,12 @@ private:
         return self->m_stop.stop_requested() || --self->m_checksLeft < 0 ? 1 : 0;
     }
 
-    /// The bytes of the database with its logs, or 0 when it is none.
-    std::int64_t size() const
-    {
-        const auto number = [this](const char *pragma) -> std::int64_t {
-            sqlite3_stmt *prepared = nullptr;
-            sqlite3_prepare_v2(m_handle, pragma, -1, &prepared, nullptr);
-            const Statement statement(prepared);
-            return statement && sqlite3_step(prepared) == SQLITE_ROW ? sqlite3_column_int64(prepared, 0) : 0;
-        };
-        return number("PRAGMA page_count") * number("PRAGMA page_size");
-    }
-
     sqlite3 *m_handle = nullptr;
     std::stop_token m_stop;
     std::int64_t m_checksLeft = 0;
 };
 
-SQLiteSnapshot::SQLiteSnapshot(std::unique_ptr<Copy> copy, std::unique_ptr<Connection> connection)
+SQLiteSnapshot::SQLiteSnapshot(std::shared_ptr<Copy> copy, std::unique_ptr<Connection> connection)
     : m_copy(std::move(copy)), m_connection(std::move(connection))
 {
 }
@@ -275,13 +277,24 @@ SQLiteSnapshot::~SQLiteSnapshot() = default;
 std::expected<SQLiteSnapshot, ReadError> SQLiteSnapshot::copying(const QString &source,
                                                                  const ReadContext &context)
 {
-    auto copy = std::make_unique<Copy>(*context.files, context.folders.temporary, source);
+    auto copy = std::make_shared<Copy>(*context.files, context.folders.temporary, source);
     if (const auto made = copy->make(context.stop); !made)
         return std::unexpected(made.error());
-    auto connection = std::make_unique<Connection>(context.stop);
+    return opening(std::move(copy), context.stop);
+}
+
+std::expected<SQLiteSnapshot, ReadError> SQLiteSnapshot::opening(std::shared_ptr<Copy> copy,
+                                                                 std::stop_token stop)
+{
+    auto connection = std::make_unique<Connection>(std::move(stop));
     if (const auto opened = connection->open(copy->path()); !opened)
-        return std::unexpected(ReadError::unreadable(source, opened.error()));
+        return std::unexpected(ReadError::unreadable(copy->source(), opened.error()));
     return SQLiteSnapshot(std::move(copy), std::move(connection));
+}
+
+std::expected<SQLiteSnapshot, ReadError> SQLiteSnapshot::secondReader() const
+{
+    return opening(m_copy, m_connection->stop());
 }
 
 std::expected<void, ReadError> SQLiteSnapshot::query(const QString &sql, const QStringList &parameters,
@@ -307,6 +320,12 @@ std::expected<void, ReadError> SQLiteSnapshot::query(const QString &sql, const Q
 QString SQLiteSnapshot::folder() const
 {
     return m_copy->folder();
+}
+
+std::int64_t SQLiteSnapshot::size() const
+{
+    m_connection->allowStepsFor(0);
+    return m_connection->size();
 }
 
 QString SQLiteSnapshot::stamp(const Files &files, const QString &database)

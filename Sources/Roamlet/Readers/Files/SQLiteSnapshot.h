@@ -14,6 +14,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <stop_token>
 #include <string_view>
 
 struct sqlite3_stmt;
@@ -67,8 +68,13 @@ public:
     /// to be discarded.
     std::expected<void, ReadError> query(const QString &sql, const QStringList &parameters,
                                          const RowHandler &handleRow) const;
+    /// Another reader of the same copy, for another thread. Its changes are not replayed again: this one has
+    /// to have run a statement.
+    std::expected<SQLiteSnapshot, ReadError> secondReader() const;
     /// The private folder that holds the copy.
     QString folder() const;
+    /// The bytes of the database with its logs, or 0 when it is none.
+    std::int64_t size() const;
 
     /// The state of a live database and its logs: equal while nobody has written to them.
     static QString stamp(const Files &files, const QString &database);
@@ -81,10 +87,12 @@ private:
     class Copy;
     class Connection;
 
-    SQLiteSnapshot(std::unique_ptr<Copy> copy, std::unique_ptr<Connection> connection);
+    SQLiteSnapshot(std::shared_ptr<Copy> copy, std::unique_ptr<Connection> connection);
 
-    // The connection goes first: its files are removed after it is closed.
-    std::unique_ptr<Copy> m_copy;
+    static std::expected<SQLiteSnapshot, ReadError> opening(std::shared_ptr<Copy> copy, std::stop_token stop);
+
+    // The connection goes first: its files are removed after it is closed, and after that of a second reader.
+    std::shared_ptr<Copy> m_copy;
     std::unique_ptr<Connection> m_connection;
 };
 

@@ -30,12 +30,12 @@ QString placesFile()
 const QString rowsStatement = u"SELECT id, url, title, last_visit_date, visit_count FROM moz_places\n"
                               "WHERE hidden = 0 AND last_visit_date IS NOT NULL"_s;
 
-QString historyStatement(const HistoryQuery &query)
+HistoryStatement historyStatement(const HistoryQuery &query)
 {
-    return rowsStatement % query.conditions(u"(url || ' ' || coalesce(title, ''))"_s, u"url"_s) %
-           u"\nORDER BY " %
-           (query.order == HistoryQuery::Order::MostVisited ? u"visit_count DESC, "_s : QString()) %
-           u"last_visit_date DESC\nLIMIT " % QString::number(query.limit);
+    return {.rows = rowsStatement % query.conditions(u"(url || ' ' || coalesce(title, ''))"_s, u"url"_s),
+            .order = u"\nORDER BY " %
+                     (query.order == HistoryQuery::Order::MostVisited ? u"visit_count DESC, "_s : QString()) %
+                     u"last_visit_date DESC\nLIMIT " % QString::number(query.limit)};
 }
 
 std::optional<PointInTime> lastVisit(const SQLiteSnapshot::Row &row, int column)
@@ -91,8 +91,9 @@ historyText(const Source &source, const ReadContext &context, size_t mostBytes)
     if (!context.files->exists(historyFile(source, context)))
         return HistoryText::empty(source);
     return fromPlaces<std::shared_ptr<const HistoryText>>(source, context, [&](const SQLiteSnapshot &places) {
-        return roamlet::historyText(places, rowsStatement % u"\nORDER BY id", source, rules, mostBytes,
-                                    context.stop);
+        return roamlet::historyText(
+            places, {.rows = rowsStatement, .order = u"\nORDER BY id"_s, .table = u"moz_places"_s}, source,
+            rules, mostBytes, context.stop);
     });
 }
 

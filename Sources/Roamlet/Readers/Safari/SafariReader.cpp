@@ -58,14 +58,14 @@ std::optional<PointInTime> lastVisit(const SQLiteSnapshot::Row &row, int column)
     return pointInTime(row.real(column) + secondsUntil2001);
 }
 
-QString historyStatement(const HistoryQuery &query)
+HistoryStatement historyStatement(const HistoryQuery &query)
 {
-    return u"SELECT i.id, i.url, v.title, max(v.visit_time), i.visit_count\n"
-           "FROM history_items i JOIN history_visits v ON v.history_item = i.id\nWHERE 1" %
-           query.conditions(u"(i.url || ' ' || ifnull(v.title, ''))"_s, u"i.url"_s) %
-           u"\nGROUP BY i.id\nORDER BY " %
-           (query.order == HistoryQuery::Order::MostVisited ? u"5 DESC, "_s : QString()) % u"4 DESC\nLIMIT " %
-           QString::number(query.limit);
+    return {.rows = u"SELECT i.id, i.url, v.title, max(v.visit_time), i.visit_count\n"
+                    "FROM history_items i JOIN history_visits v ON v.history_item = i.id\nWHERE 1" %
+                    query.conditions(u"(i.url || ' ' || ifnull(v.title, ''))"_s, u"i.url"_s),
+            .order = u"\nGROUP BY i.id\nORDER BY " %
+                     (query.order == HistoryQuery::Order::MostVisited ? u"5 DESC, "_s : QString()) %
+                     u"4 DESC\nLIMIT " % QString::number(query.limit)};
 }
 
 std::optional<QString> serverID(PropertyListValue entry)
@@ -233,9 +233,10 @@ historyText(const Source &source, const ReadContext &context, size_t mostBytes)
     // Words are looked for in every visit. The join is crossed so that the visits of a page come together.
     static constexpr HistoryRules rules{.lastVisit = lastVisit,
                                         .pages = HistoryText::Builder::Pages::SeveralRows};
-    const QString statement = u"SELECT i.id, i.url, v.title, v.visit_time, i.visit_count\n"
-                              "FROM history_items i CROSS JOIN history_visits v ON v.history_item = i.id\n"
-                              "ORDER BY i.id"_s;
+    const HistoryStatement statement{
+        .rows = u"SELECT i.id, i.url, v.title, v.visit_time, i.visit_count\n"
+                "FROM history_items i CROSS JOIN history_visits v ON v.history_item = i.id"_s,
+        .order = u"\nORDER BY i.id"_s};
     const QString file = historyFile(source, context);
     if (source.profile && !context.files->exists(file))
         return HistoryText::empty(source);

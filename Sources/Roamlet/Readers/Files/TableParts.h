@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "Model/ReadError.h"
+
+#include <QString>
+
+#include <cstddef>
+#include <expected>
+#include <functional>
+
+namespace roamlet
+{
+
+class SQLiteSnapshot;
+
+/// A large table is read in parts, at the same time: going through a million rows keeps a core busy for a
+/// quarter of a second while the others have nothing to do.
+namespace TableParts
+{
+
+constexpr std::size_t most = 2;
+
+/// Reads one part: its number, the reader that its thread has for itself, and the SQL condition that the rows
+/// of this part meet, which is empty or begins with " AND ".
+using Read = std::function<std::expected<void, ReadError>(std::size_t part, const SQLiteSnapshot &database,
+                                                          const QString &condition)>;
+
+/// Calls `read` for each part of the table, for all at the same time, and returns when all have ended: the
+/// first part's error, if there is one. Earlier parts have the smaller row numbers. A small table, one
+/// whose rows have no numbers, and one without a name is one part.
+std::expected<void, ReadError> forEach(const SQLiteSnapshot &database, const QString &table,
+                                       const Read &read);
+
+} // namespace TableParts
+
+} // namespace roamlet
