@@ -13,7 +13,7 @@ optional_test=(chromium firefox-esr openssl xvfb openbox at-spi2-core)
 lint=(git clang-format-19 clang-tidy-19)
 packaging=(dpkg-dev file)
 pictures=(xvfb openbox trayer xdotool imagemagick dbus-daemon procps qt6-gtk-platformtheme fonts-dejavu fonts-noto-cjk)
-bench=(libbenchmark-dev hyperfine sqlite3 time xvfb trayer xdotool)
+bench=(libbenchmark-dev hyperfine sqlite3 time xvfb trayer xdotool dbus-daemon fonts-noto-core fonts-noto-cjk)
 
 is_installed() { [ "$(dpkg-query -W -f '${db:Status-Status}' "$1" 2>/dev/null)" = installed ]; }
 

@@ -21,9 +21,10 @@ if(CMAKE_UNITY_BUILD)
   target_compile_options(roamlet_common INTERFACE -Wno-subobject-linkage)
 endif()
 
-# Version 12 of the compiler takes moved variants inside the standard library's sorting for values that were never set.
+# Version 12 of the compiler takes moved variants inside the standard library's sorting for values that were never set,
+# and the adding of two strings for one that may overlap itself.
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-  target_compile_options(roamlet_common INTERFACE -Wno-maybe-uninitialized)
+  target_compile_options(roamlet_common INTERFACE -Wno-maybe-uninitialized -Wno-restrict)
 endif()
 
 # Libraries that a run does not reach are not loaded: a diagnostic run must start as fast as a plain Qt Core program.
