@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Installs what is missing for each of the purposes named: build, samples, test, lint, bench, pictures, packaging.
+# Installs what is missing for each of the purposes named: build, samples, test, lint, bench, fonts, pictures, packaging.
 set -euo pipefail
 
 build=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-svg-dev libsqlite3-dev libicu-dev libsodium-dev nlohmann-json3-dev
@@ -13,7 +13,8 @@ optional_test=(chromium firefox-esr openssl xvfb openbox at-spi2-core)
 lint=(git clang-format-19 clang-tidy-19)
 packaging=(dpkg-dev file)
 pictures=(xvfb openbox trayer xdotool imagemagick dbus-daemon procps qt6-gtk-platformtheme fonts-dejavu fonts-noto-cjk)
-bench=(libbenchmark-dev hyperfine sqlite3 time xvfb trayer xdotool dbus-daemon fonts-noto-core fonts-noto-cjk)
+bench=(libbenchmark-dev hyperfine sqlite3 time xvfb trayer xdotool dbus-daemon)
+fonts=(fonts-noto-core fonts-noto-cjk)
 
 is_installed() { [ "$(dpkg-query -W -f '${db:Status-Status}' "$1" 2>/dev/null)" = installed ]; }
 
@@ -38,7 +39,7 @@ install_missing() {
 
 for purpose in "$@"; do
   case "$purpose" in
-    build | samples | test | lint | bench | pictures | packaging)
+    build | samples | test | lint | bench | fonts | pictures | packaging)
       declare -n packages="$purpose"
       install_missing "${packages[@]}"
       ;;

@@ -53,14 +53,14 @@ protected:
     template<typename Widget>
     Widget &part(RoamletApp &app, const QString &name) const
     {
-        return *app.mainWindow().findChild<Widget *>(name);
+        return *app.mainWindow()->findChild<Widget *>(name);
     }
     /// The list in front.
     QTreeView *shownList(RoamletApp &app) const
     {
         for (const QString &name :
              {u"historyTable"_s, u"mostVisitedTable"_s, u"bookmarkTable"_s, u"bookmarkTree"_s}) {
-            auto *view = app.mainWindow().findChild<QTreeView *>(name);
+            auto *view = app.mainWindow()->findChild<QTreeView *>(name);
             if (view != nullptr && view->isVisible())
                 return view;
         }

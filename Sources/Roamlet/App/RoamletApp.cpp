@@ -28,7 +28,9 @@
 #include <QClipboard>
 #include <QDBusConnection>
 #include <QFile>
+#include <QFontDatabase>
 #include <QLocale>
+#include <QPixmapCache>
 
 #include <unistd.h>
 
@@ -63,6 +65,16 @@ void quit()
     QCoreApplication::exit();
 }
 
+/// Lets go of what Qt keeps for the next drawing. Where the pages' titles are of many scripts, their fonts
+/// take more than the rows.
+void forgetPicturesAndFonts()
+{
+    QPixmapCache::clear();
+    // Its fonts Qt forgets only when one of the program's own goes; what is no font is enough.
+    QFontDatabase::addApplicationFontFromData("no font");
+    QFontDatabase::removeAllApplicationFonts();
+}
+
 bool hasVisibleWindow()
 {
     const QWidgetList windows = openWindows();
@@ -75,30 +87,18 @@ RoamletApp::RoamletApp(const Services &services)
     : m_services(services),
       m_delegate(services.platform.defaults, services.activation, services.hasTray),
       m_opener(services.workspace),
-      m_mainWindow({.content = {.library = m_services.library,
-                                .defaults = services.platform.defaults,
-                                .clock = services.platform.clock,
-                                .folders = services.platform.folders,
-                                .opener = m_opener,
-                                .workspace = services.workspace,
-                                .collation = std::make_shared<const Collation>(UserLocale::collation()),
-                                .calendar = UserLocale::calendar},
-                    .delegate = m_delegate,
-                    .activation = services.activation,
-                    .savePanel = services.savePanel,
-                    .alert = services.alert,
-                    .updater = services.updater}),
+      m_collation(std::make_shared<const Collation>(UserLocale::collation())),
       m_menu({.library = m_services.library,
               .opener = m_opener,
               .activation = services.activation,
-              .openMainWindow = [this] { m_mainWindow.open(); },
+              .openMainWindow = [this] { openMainWindow(); },
               .openSettings = [this] { settingsWindow().open(); },
               .checkForUpdates = [this] { m_services.updater.checkForUpdates(); },
               .quit = quit}),
       m_icon({.library = m_services.library,
               .delegate = m_delegate,
               .activation = services.activation,
-              .openMainWindow = [this] { m_mainWindow.open(); }},
+              .openMainWindow = [this] { openMainWindow(); }},
              m_menu)
 {
     m_menu.setUpdateIsWaiting(services.updater.updateIsWaiting());
@@ -106,7 +106,7 @@ RoamletApp::RoamletApp(const Services &services)
                      &MenuBarMenu::setUpdateIsWaiting);
     // Without a tray nobody sees the menu that tells of an update, so it is shown as soon as the user is
     // here.
-    QObject::connect(qApp, &QGuiApplication::applicationStateChanged, &m_mainWindow,
+    QObject::connect(qApp, &QGuiApplication::applicationStateChanged, &m_context,
                      [this](Qt::ApplicationState state) {
                          if (state == Qt::ApplicationActive && !m_services.hasTray() &&
                              m_services.updater.updateIsWaiting())
@@ -115,22 +115,55 @@ RoamletApp::RoamletApp(const Services &services)
     // Without a tray there is no way back to a program without windows. Where one window takes the place of
     // another, there is none for a moment, so this looks once that has passed.
     QObject::connect(
-        qApp, &QGuiApplication::lastWindowClosed, &m_mainWindow,
+        qApp, &QGuiApplication::lastWindowClosed, &m_context,
         [this] {
             if (!m_services.hasTray() && openWindows().isEmpty())
                 quit();
         },
         Qt::QueuedConnection);
-    QObject::connect(qApp, &QGuiApplication::lastWindowClosed, &m_mainWindow, [this] {
+    QObject::connect(qApp, &QGuiApplication::lastWindowClosed, &m_context, [this] {
         m_services.library.endSearch();
         rest();
     });
-    QObject::connect(&m_services.library, &Library::lastLoadedChanged, &m_mainWindow, [this] { rest(); });
-    QObject::connect(&m_mainWindow, &MainWindow::settingsRequested, &m_mainWindow,
-                     [this] { settingsWindow().open(); });
+    QObject::connect(&m_services.library, &Library::lastLoadedChanged, &m_context, [this] { rest(); });
 }
 
 RoamletApp::~RoamletApp() = default;
+
+void RoamletApp::openMainWindow()
+{
+    dropClosedWindow();
+    if (!m_mainWindow) {
+        m_mainWindow = std::make_unique<MainWindow>(
+            MainWindow::Services{.content = {.library = m_services.library,
+                                             .defaults = m_services.platform.defaults,
+                                             .clock = m_services.platform.clock,
+                                             .folders = m_services.platform.folders,
+                                             .opener = m_opener,
+                                             .workspace = m_services.workspace,
+                                             .collation = m_collation,
+                                             .calendar = UserLocale::calendar},
+                                 .delegate = m_delegate,
+                                 .activation = m_services.activation,
+                                 .savePanel = m_services.savePanel,
+                                 .alert = m_services.alert,
+                                 .updater = m_services.updater,
+                                 .quit = quit});
+        QObject::connect(m_mainWindow.get(), &MainWindow::settingsRequested, &m_context,
+                         [this] { settingsWindow().open(); });
+        QObject::connect(
+            m_mainWindow.get(), &MainWindow::closed, &m_context, [this] { dropClosedWindow(); },
+            Qt::QueuedConnection);
+    }
+    m_mainWindow->open();
+}
+
+void RoamletApp::dropClosedWindow()
+{
+    // Whoever asks may have been called by it.
+    if (m_mainWindow && !m_mainWindow->isVisible())
+        m_mainWindow.release()->deleteLater();
+}
 
 SettingsWindow &RoamletApp::settingsWindow()
 {
@@ -150,10 +183,10 @@ void RoamletApp::rest()
     constexpr std::chrono::seconds untilAllIsPutAway{1};
     if (!openWindows().isEmpty())
         return;
-    m_services.platform.clock.after(untilAllIsPutAway, &m_mainWindow, [this] {
+    m_services.platform.clock.after(untilAllIsPutAway, &m_context, [this] {
         if (!openWindows().isEmpty())
             return;
-        m_mainWindow.putAway();
+        forgetPicturesAndFonts();
         Processes::giveBackMemory();
     });
 }
@@ -166,7 +199,7 @@ void RoamletApp::start(bool isLaunchedAtLogin)
     m_icon.appear();
     // What somebody waits for is the window; whatever else is drawn comes after it.
     constexpr std::chrono::milliseconds untilTheWindowIsThere{150};
-    m_services.platform.clock.after(untilTheWindowIsThere, &m_mainWindow, [this] {
+    m_services.platform.clock.after(untilTheWindowIsThere, &m_context, [this] {
         m_icon.show();
         QApplication::setWindowIcon(applicationIcon());
     });
@@ -261,7 +294,8 @@ int RoamletApp::runUntilTheEnd(int argc, char **argv, const std::stop_token &sto
     running = nullptr;
     // Putting everything away takes a while, in which nobody would answer a later start.
     instance.release();
-    app.mainWindow().close();
+    if (MainWindow *window = app.mainWindow())
+        window->close();
     return status;
 }
 

@@ -53,7 +53,10 @@ public:
     void reopen();
 
     Library &library() { return m_services.library; }
-    MainWindow &mainWindow() { return m_mainWindow; }
+    /// The main window, or nothing while there is none.
+    MainWindow *mainWindow() { return m_mainWindow.get(); }
+    /// Brings it forward, or makes one.
+    void openMainWindow();
     /// Made when it is asked for first.
     SettingsWindow &settingsWindow();
     MenuBarMenu &menu() { return m_menu; }
@@ -70,13 +73,18 @@ private:
     static int runUntilTheEnd(int argc, char **argv, const std::stop_token &stop,
                               std::optional<QString> &successor);
 
+    void dropClosedWindow();
     /// Keeps no more memory than the tray needs, once nobody looks.
     void rest();
 
     Services m_services;
     AppDelegate m_delegate;
     Opener m_opener;
-    MainWindow m_mainWindow;
+    std::shared_ptr<const Collation> m_collation;
+    /// Its connections and timers end with the program.
+    QObject m_context;
+    /// Each opening makes a new one.
+    std::unique_ptr<MainWindow> m_mainWindow;
     std::unique_ptr<SettingsWindow> m_settingsWindow;
     MenuBarMenu m_menu;
     MenuBarIcon m_icon;

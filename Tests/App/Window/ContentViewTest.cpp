@@ -279,12 +279,12 @@ TEST_F(ContentViewTest, theTabKeyGoesFromAboveWhicheverStripCameFirst)
         ASSERT_TRUE(isShown(*content, u"fullDiskAccessBanner"_s));
         QStringList names;
         for (const QWidget *next = part<QLineEdit>(*content, u"searchField"_s)->nextInFocusChain();
-             names.size() < 4; next = next->nextInFocusChain()) {
+             names.size() < 5; next = next->nextInFocusChain()) {
             if ((next->focusPolicy() & Qt::TabFocus) != 0 && next->isVisible() &&
                 next->focusProxy() == nullptr)
                 names.append(next->objectName());
         }
-        EXPECT_EQ(names, (QStringList{u"openSettingsButton"_s, u"bannerReloadButton"_s,
+        EXPECT_EQ(names, (QStringList{u"menuButton"_s, u"openSettingsButton"_s, u"bannerReloadButton"_s,
                                       u"showAllSitesButton"_s, u"historyTable"_s}))
             << isSiteFirst;
     }

@@ -18,8 +18,10 @@
 #include <QAction>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QSet>
 #include <QTest>
 #include <QTreeView>
 
@@ -29,6 +31,26 @@ namespace roamlet::testing
 using namespace Qt::StringLiterals;
 
 using Policy = ActivationPolicy::Policy;
+
+namespace
+{
+
+/// What a menu and the menus in it offer, without lines.
+QList<QAction *> commandsIn(const QWidget &menu)
+{
+    QList<QAction *> result;
+    for (QAction *action : menu.actions()) {
+        if (action->isSeparator() || !action->isVisible())
+            continue;
+        if (action->menu() != nullptr && action->menu()->objectName() != u"groupingMenu")
+            result += commandsIn(*action->menu());
+        else
+            result.append(action);
+    }
+    return result;
+}
+
+} // namespace
 
 class MainWindowTest : public WindowTest
 {
@@ -40,7 +62,8 @@ protected:
                                                                  .activation = activation,
                                                                  .savePanel = savePanel,
                                                                  .alert = alert,
-                                                                 .updater = updater});
+                                                                 .updater = updater,
+                                                                 .quit = [this] { ++quits; }});
     }
 
     /// Counts how often a window was drawn.
@@ -70,6 +93,7 @@ protected:
     FakeSavePanel savePanel;
     FakeAlert alert;
     Updater updater{BundleInformation(), std::make_unique<FakeUpdateDriver>()};
+    int quits = 0;
 };
 
 TEST_F(MainWindowTest, openingItIsAnAppearanceAndClosingItADisappearance)
@@ -109,10 +133,6 @@ TEST_F(MainWindowTest, itsFirstPictureHasTheFirstRows)
     const auto *table = part<QTreeView>(*window, u"historyTable"_s);
     ASSERT_TRUE(waitUntil([&drawings] { return drawings.count() > 0; }));
     EXPECT_GT(table->model()->rowCount(), 0);
-    window->close();
-    const int before = drawings.count();
-    window->open();
-    EXPECT_GT(drawings.count(), before) << "only the very first one waits";
 }
 
 TEST_F(MainWindowTest, itsFirstPictureDoesNotWaitForLong)
@@ -125,36 +145,73 @@ TEST_F(MainWindowTest, itsFirstPictureDoesNotWaitForLong)
     EXPECT_GT(drawings.count(), 0);
 }
 
-TEST_F(MainWindowTest, oncePutAwayItComesBackAsItWas)
+TEST_F(MainWindowTest, theNextWindowIsMaximisedAgainAndKnowsItsOtherSize)
 {
-    addChromium();
+    {
+        const auto window = makeWindow();
+        window->open();
+        window->resize(900, 555);
+        window->showMaximized();
+        window->close();
+    }
     const auto window = makeWindow();
-    window->open();
-    loadNow(*library);
-    auto *table = part<QTreeView>(*window, u"historyTable"_s);
-    ASSERT_TRUE(waitUntil([table] { return table->model()->rowCount() > 0; }));
-    window->resize(900, 555);
-    table->setCurrentIndex(table->model()->index(1, 0));
-    window->putAway();
-    EXPECT_NE(window->windowHandle(), nullptr) << "not while it is seen";
-    window->close();
-    window->putAway();
-    EXPECT_EQ(window->windowHandle(), nullptr);
-    Drawings drawings(*window);
-    window->open();
-    EXPECT_TRUE(window->isVisible());
-    EXPECT_EQ(window->size(), QSize(900, 555));
-    EXPECT_TRUE(table->selectionModel()->isRowSelected(1));
-    EXPECT_GT(drawings.count(), 0);
-    window->close();
-    window->putAway();
-    window->showMaximized();
-    window->close();
-    window->putAway();
     window->open();
     EXPECT_TRUE(window->isMaximized());
     window->showNormal();
     EXPECT_EQ(window->size(), QSize(900, 555));
+}
+
+TEST_F(MainWindowTest, theMenuBarIsHiddenUntilItIsAskedForAndThenStays)
+{
+    {
+        const auto window = makeWindow();
+        window->open();
+        ASSERT_EQ(window->menuWidget(), nullptr);
+        window->activateWindow();
+        ASSERT_TRUE(waitUntil([&window] { return window->isActiveWindow(); }));
+        QTest::keyClick(window.get(), Qt::Key_M, Qt::ControlModifier);
+        ASSERT_NE(window->menuWidget(), nullptr);
+        EXPECT_TRUE(window->menuWidget()->isVisible());
+        QTest::keyClick(window.get(), Qt::Key_M, Qt::ControlModifier);
+        EXPECT_FALSE(window->menuWidget()->isVisible());
+        QTest::keyClick(window.get(), Qt::Key_M, Qt::ControlModifier);
+    }
+    const auto window = makeWindow();
+    window->open();
+    ASSERT_NE(window->menuWidget(), nullptr);
+    EXPECT_TRUE(window->menuWidget()->isVisible());
+    EXPECT_TRUE(window->findChild<QAction *>(u"menuBarCommand"_s)->isChecked());
+}
+
+TEST_F(MainWindowTest, theHeadersMenuHoldsWhatTheMenuBarHolds)
+{
+    home.defaults.setBoolean(u"window.main.menuBar"_s, true);
+    const auto window = makeWindow();
+    window->open();
+    const QList<QAction *> inBar = commandsIn(*window->menuBar());
+    const QList<QAction *> inMenu = commandsIn(*window->findChild<QMenu *>(u"mainMenu"_s));
+    EXPECT_EQ(inBar.size(), 11);
+    EXPECT_EQ(QSet<QAction *>(inMenu.begin(), inMenu.end()), QSet<QAction *>(inBar.begin(), inBar.end()));
+    EXPECT_EQ(inMenu.size(), inBar.size());
+    QStringList texts;
+    for (const QAction *command : inMenu)
+        texts.append(command->text() + u' ' + command->shortcut().toString());
+    EXPECT_EQ(texts, (QStringList{u"Export Bookmarks… "_s, u"Find Ctrl+F"_s, u"Reload Ctrl+R"_s,
+                                  u"Group By "_s, u"Settings… Ctrl+,"_s, u"Wider Sidebar "_s,
+                                  u"Narrower Sidebar "_s, u"Menu Bar Ctrl+M"_s, u"About Roamlet "_s,
+                                  u"Close Window "_s + QKeySequence(QKeySequence::Close).toString(),
+                                  u"Quit Roamlet Ctrl+Q"_s}));
+}
+
+TEST_F(MainWindowTest, quittingDoesNotAskTheWindowsFirst)
+{
+    const auto window = makeWindow();
+    window->open();
+    window->activateWindow();
+    ASSERT_TRUE(waitUntil([&window] { return window->isActiveWindow(); }));
+    QTest::keyClick(window.get(), Qt::Key_Q, Qt::ControlModifier);
+    EXPECT_EQ(quits, 1);
+    EXPECT_TRUE(window->isVisible());
 }
 
 TEST_F(MainWindowTest, itIsNeverSmallerThanItsContentNeeds)

@@ -20,6 +20,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QStackedWidget>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -143,7 +144,7 @@ void ContentView::showAccessBanner()
             m_services.workspace.openSystemURL(
                 u"x-apple.systempreferences:com.apple.preference.security?Privacy_AllFiles"_s);
         });
-        insert(m_accessBanner, m_header, m_header->searchField());
+        insert(m_accessBanner, m_header, m_header->menuButton());
     }
     m_accessBanner->show();
 }
@@ -156,7 +157,7 @@ void ContentView::showSiteBar(const QString &site)
         if (m_accessBanner != nullptr)
             insert(m_siteBar, m_accessBanner, m_accessBanner->findChildren<QPushButton *>().last());
         else
-            insert(m_siteBar, m_header, m_header->searchField());
+            insert(m_siteBar, m_header, m_header->menuButton());
     }
     m_siteBar->setSite(site, m_services.library.favicon(site));
     m_siteBar->show();
@@ -301,6 +302,11 @@ std::optional<ExportAction> ContentView::exportAction()
 QMenu *ContentView::groupingMenu() const
 {
     return m_header->groupingMenu();
+}
+
+QMenu *ContentView::mainMenu() const
+{
+    return m_header->mainMenu();
 }
 
 QString ContentView::title() const

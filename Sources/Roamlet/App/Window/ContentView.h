@@ -51,6 +51,8 @@ public:
     /// What the menu's export begins with; nothing while there is no bookmark.
     std::optional<ExportAction> exportAction();
     QMenu *groupingMenu() const;
+    /// The menu behind the last button of the header; whoever knows the commands fills it.
+    QMenu *mainMenu() const;
     /// The list's name, as it stands in the title.
     QString title() const;
 

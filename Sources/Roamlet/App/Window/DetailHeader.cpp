@@ -30,7 +30,9 @@ DetailHeader::DetailHeader(QWidget *parent)
       m_groupings(new QActionGroup(this)),
       m_reload(new ReloadButton(this)),
       m_export(new QToolButton(this)),
-      m_search(new QLineEdit(this))
+      m_search(new QLineEdit(this)),
+      m_menuButton(new QToolButton(this)),
+      m_mainMenu(new QMenu(this))
 {
     m_title->setObjectName(u"listTitle"_s);
     QFont titleFont = m_title->font();
@@ -58,6 +60,15 @@ DetailHeader::DetailHeader(QWidget *parent)
     m_export->setToolTip(u"Export Bookmarks"_s);
     m_export->setIcon(symbolIcon(u"square.and.arrow.up"_s));
 
+    m_mainMenu->setObjectName(u"mainMenu"_s);
+    m_menuButton->setObjectName(u"menuButton"_s);
+    m_menuButton->setText(u"Menu"_s);
+    m_menuButton->setAccessibleName(u"Menu"_s);
+    m_menuButton->setToolTip(u"Menu"_s);
+    m_menuButton->setIcon(symbolIcon(u"line.3.horizontal"_s));
+    m_menuButton->setPopupMode(QToolButton::InstantPopup);
+    m_menuButton->setMenu(m_mainMenu);
+
     m_search->setObjectName(u"searchField"_s);
     m_search->setPlaceholderText(u"Title or URL"_s);
     m_search->setAccessibleName(u"Search"_s);
@@ -77,7 +88,7 @@ DetailHeader::DetailHeader(QWidget *parent)
     m_search->setMaximumWidth(260);
     m_search->installEventFilter(this);
 
-    for (QToolButton *button : {m_groupBy, static_cast<QToolButton *>(m_reload), m_export}) {
+    for (QToolButton *button : {m_groupBy, static_cast<QToolButton *>(m_reload), m_export, m_menuButton}) {
         button->setIconSize(QSize(16, 16));
         button->setFocusPolicy(Qt::TabFocus);
         button->setMinimumHeight(m_search->sizeHint().height());
@@ -96,6 +107,7 @@ DetailHeader::DetailHeader(QWidget *parent)
     row->addWidget(m_reload);
     row->addWidget(m_export);
     row->addWidget(m_search, 1);
+    row->addWidget(m_menuButton);
 
     connect(m_groupings, &QActionGroup::triggered, this, [this](const QAction *action) {
         Q_EMIT groupingChosen(static_cast<Grouping>(action->data().toInt()));

@@ -38,6 +38,10 @@ public:
     QLineEdit *searchField() const { return m_search; }
     /// What the "Group By" button opens; menus elsewhere may show it as well.
     QMenu *groupingMenu() const { return m_groupingMenu; }
+    /// The last that the Tab key comes to.
+    QToolButton *menuButton() const { return m_menuButton; }
+    /// What it opens.
+    QMenu *mainMenu() const { return m_mainMenu; }
 
 Q_SIGNALS:
     /// The search field has got the focus.
@@ -61,6 +65,8 @@ private:
     ReloadButton *m_reload;
     QToolButton *m_export;
     QLineEdit *m_search;
+    QToolButton *m_menuButton;
+    QMenu *m_mainMenu;
 };
 
 } // namespace roamlet

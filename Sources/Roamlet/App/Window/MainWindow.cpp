@@ -7,12 +7,13 @@
 #include "App/Updates/Updater.h"
 #include "App/Window/ContentView.h"
 #include "App/Window/OpenWindows.h"
+#include "App/Window/WindowCommands.h"
 #include "Library/Library.h"
 #include "Platform/ActivationPolicy.h"
 #include "Platform/Clock.h"
 #include "Platform/UserDefaults.h"
 
-#include <QApplication>
+#include <QAction>
 #include <QCloseEvent>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -27,6 +28,7 @@ namespace
 
 const QString placeKey = u"window.main"_s;
 const QString columnsKey = u"window.main.columns"_s;
+const QString menuBarKey = u"window.main.menuBar"_s;
 constexpr QSize smallest{820, 480};
 constexpr QSize usual{1100, 700};
 /// Nobody notices so short a time.
@@ -35,7 +37,9 @@ constexpr std::chrono::milliseconds longestHold{50};
 } // namespace
 
 MainWindow::MainWindow(const Services &services)
-    : m_services(services), m_content(new ContentView(services.content, this))
+    : m_services(services),
+      m_content(new ContentView(services.content, this)),
+      m_commands(new WindowCommands(*this, *m_content->groupingMenu()))
 {
     setObjectName(u"main"_s);
     setCentralWidget(m_content);
@@ -44,15 +48,14 @@ MainWindow::MainWindow(const Services &services)
     connect(m_content, &ContentView::titleChanged, this, &QWidget::setWindowTitle);
     connect(m_content, &ContentView::exportRequested, this, &MainWindow::showExportSheet);
     connect(m_content, &ContentView::exportActionChanged, this, &MainWindow::updateExportCommand);
-    buildMenus();
+    setUpCommands();
     restorePlace();
 }
 
 void MainWindow::open()
 {
-    if (!m_wasOpened)
+    if (!testAttribute(Qt::WA_WState_Created))
         holdFirstPicture();
-    m_wasOpened = true;
     // Only that: what was maximised before shall be so again.
     setWindowState(windowState() & ~Qt::WindowMinimized);
     show();
@@ -73,79 +76,61 @@ void MainWindow::holdFirstPicture()
     m_services.content.clock.after(longestHold, hold, release);
 }
 
-void MainWindow::putAway()
+void MainWindow::setUpCommands()
 {
-    if (isVisible() || windowHandle() == nullptr)
-        return;
-    // With the window goes the picture of its content, which takes more than anything else.
-    destroy();
-    // The next window knows nothing of what the window manager had made of this one.
-    setWindowState(Qt::WindowNoState);
-    restorePlace();
-}
-
-void MainWindow::buildMenus()
-{
-    QMenu *file = menuBar()->addMenu(u"&File"_s);
-    m_exportCommand = file->addAction(u"Export Bookmarks…"_s, this, [this] {
+    using ID = WindowCommands::ID;
+    m_commands->onTriggered(ID::ExportBookmarks, [this] {
         if (const std::optional<ExportAction> action = m_content->exportAction())
             action->open({.sourceID = action->sourceID});
     });
-    m_exportCommand->setObjectName(u"exportCommand"_s);
-    file->addSeparator();
-    file->addAction(u"Close Window"_s, QKeySequence::Close, this, &QWidget::close);
-    QAction *quit =
-        file->addAction(u"Quit Roamlet"_s, QKeySequence(Qt::CTRL | Qt::Key_Q), qApp, &QApplication::quit);
-    quit->setMenuRole(QAction::QuitRole);
-
-    QMenu *edit = menuBar()->addMenu(u"&Edit"_s);
-    QAction *find = edit->addAction(u"Find"_s, QKeySequence::Find, m_content, &ContentView::startSearch);
-    find->setObjectName(u"findCommand"_s);
-    edit->addSeparator();
-    QAction *settings = edit->addAction(u"Settings…"_s, QKeySequence(Qt::CTRL | Qt::Key_Comma), this,
-                                        &MainWindow::settingsRequested);
-    settings->setObjectName(u"settingsCommand"_s);
-    settings->setMenuRole(QAction::PreferencesRole);
-
-    QMenu *view = menuBar()->addMenu(u"&View"_s);
-    m_reloadCommand =
-        view->addAction(u"Reload"_s, QKeySequence(Qt::CTRL | Qt::Key_R), m_content, &ContentView::reload);
-    m_reloadCommand->setObjectName(u"reloadCommand"_s);
-    Library *library = &m_services.content.library;
-    const auto updateReload = [this, library] { m_reloadCommand->setEnabled(!library->isLoading()); };
+    m_commands->onTriggered(ID::CloseWindow, [this] { close(); });
+    m_commands->onTriggered(ID::Quit, m_services.quit);
+    m_commands->onTriggered(ID::Find, [this] { m_content->startSearch(); });
+    m_commands->onTriggered(ID::Settings, [this] { Q_EMIT settingsRequested(); });
+    m_commands->onTriggered(ID::Reload, [this] { m_content->reload(); });
+    QAction &reload = m_commands->action(ID::Reload);
+    const Library *library = &m_services.content.library;
+    const auto updateReload = [&reload, library] { reload.setEnabled(!library->isLoading()); };
     connect(library, &Library::isLoadingChanged, this, updateReload);
     updateReload();
-    view->addMenu(m_content->groupingMenu());
-    view->addSeparator();
     constexpr int step = 30;
-    QAction *widen = view->addAction(u"Wider Sidebar"_s, this, [this] { m_content->widenSidebar(step); });
-    widen->setObjectName(u"widerSidebarCommand"_s);
-    QAction *narrow =
-        view->addAction(u"Narrower Sidebar"_s, this, [this] { m_content->widenSidebar(-step); });
-    narrow->setObjectName(u"narrowerSidebarCommand"_s);
-
-    QMenu *help = menuBar()->addMenu(u"&Help"_s);
+    m_commands->onTriggered(ID::WiderSidebar, [this] { m_content->widenSidebar(step); });
+    m_commands->onTriggered(ID::NarrowerSidebar, [this] { m_content->widenSidebar(-step); });
+    m_commands->onTriggered(ID::MenuBar, [this] {
+        const bool isShown = m_commands->action(ID::MenuBar).isChecked();
+        m_services.content.defaults.setBoolean(menuBarKey, isShown);
+        showMenuBar(isShown);
+    });
     if (m_services.updater.isAvailable()) {
-        QAction *check = help->addAction(u"Check for Updates…"_s, this, [this] {
+        m_commands->onTriggered(ID::CheckForUpdates, [this] {
             m_services.activation.bringToFront();
             m_services.updater.checkForUpdates();
         });
-        check->setObjectName(u"checkForUpdatesCommand"_s);
-        check->setMenuRole(QAction::ApplicationSpecificRole);
     }
-    QAction *about = help->addAction(u"About Roamlet"_s, this, [this] {
+    m_commands->onTriggered(ID::About, [this] {
         QMessageBox::about(this, u"About Roamlet"_s,
                            u"<h3>Roamlet " ROAMLET_VERSION
                            "</h3><p>Your history and bookmarks from every browser, in one window. Roamlet "
                            "never writes to the browsers’ files.</p>"_s);
     });
-    about->setMenuRole(QAction::AboutRole);
+    m_commands->fill(*m_content->mainMenu());
+    showMenuBar(m_services.content.defaults.boolean(menuBarKey).value_or(false));
     updateExportCommand();
+}
+
+void MainWindow::showMenuBar(bool isShown)
+{
+    m_commands->action(WindowCommands::ID::MenuBar).setChecked(isShown);
+    // Making one takes a tenth of the program's start, and most people never see it.
+    if (isShown && menuWidget() == nullptr)
+        m_commands->fill(*menuBar());
+    if (menuWidget() != nullptr)
+        menuWidget()->setVisible(isShown);
 }
 
 void MainWindow::updateExportCommand()
 {
-    m_exportCommand->setEnabled(m_content->exportAction().has_value());
+    m_commands->action(WindowCommands::ID::ExportBookmarks).setEnabled(m_content->exportAction().has_value());
 }
 
 void MainWindow::showExportSheet(const ExportRequest &request)
@@ -186,6 +171,8 @@ void MainWindow::closeEvent(QCloseEvent *event)
 {
     storePlace();
     QMainWindow::closeEvent(event);
+    if (event->isAccepted())
+        Q_EMIT closed();
 }
 
 void MainWindow::restorePlace()

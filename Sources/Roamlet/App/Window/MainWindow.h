@@ -9,6 +9,8 @@
 #include <QMainWindow>
 #include <QPointer>
 
+#include <functional>
+
 namespace roamlet
 {
 
@@ -18,8 +20,10 @@ class AppDelegate;
 class ContentView;
 class SavePanel;
 class Updater;
+class WindowCommands;
 
-/// The main window: the content, the menus above it, and the place on the screen that it had last time.
+/// The main window: the content, its commands, and the place on the screen that the last one had. One that
+/// was closed is not opened again; the next one is new.
 class MainWindow final : public QMainWindow
 {
     Q_OBJECT
@@ -32,6 +36,8 @@ public:
         SavePanel &savePanel;
         Alert &alert;
         Updater &updater;
+        /// Ends the program.
+        std::function<void()> quit;
     };
 
     explicit MainWindow(const Services &services);
@@ -39,11 +45,11 @@ public:
     ContentView *content() const { return m_content; }
     /// Opens it or brings it forward.
     void open();
-    /// Lets go of what is only needed while it is seen, if nobody sees it. It opens again as it was.
-    void putAway();
 
 Q_SIGNALS:
     void settingsRequested();
+    /// It is closed in a moment.
+    void closed();
 
 protected:
     void showEvent(QShowEvent *event) override;
@@ -54,7 +60,8 @@ private:
     /// The first picture of the window waits a moment for the first rows: they are on their way, and drawing
     /// an empty list before them would only make them later.
     void holdFirstPicture();
-    void buildMenus();
+    void setUpCommands();
+    void showMenuBar(bool isShown);
     void updateExportCommand();
     void showExportSheet(const ExportRequest &request);
     void restorePlace();
@@ -62,10 +69,8 @@ private:
 
     Services m_services;
     ContentView *m_content;
-    QAction *m_exportCommand = nullptr;
-    QAction *m_reloadCommand = nullptr;
+    WindowCommands *m_commands;
     QPointer<ExportPanel> m_sheet;
-    bool m_wasOpened = false;
 };
 
 } // namespace roamlet
