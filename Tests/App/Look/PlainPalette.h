@@ -15,6 +15,7 @@ inline QPalette paletteOf(Qt::GlobalColor ground, Qt::GlobalColor text)
     palette.setColor(QPalette::Window, ground);
     palette.setColor(QPalette::Base, ground);
     palette.setColor(QPalette::WindowText, text);
+    palette.setColor(QPalette::Text, text);
     return palette;
 }
 

@@ -3,6 +3,7 @@
 
 #include "App/Look/Switch.h"
 
+#include "App/Look/Look.h"
 #include "App/Look/PlainPalette.h"
 #include "App/Look/SwitchRow.h"
 
@@ -26,7 +27,7 @@ QImage picture(const SwitchLook &look, const QPalette &palette)
     QImage image(36, 20, QImage::Format_ARGB32_Premultiplied);
     image.fill(palette.color(QPalette::Window));
     QPainter painter(&image);
-    look.paint(painter, QRectF(image.rect()), palette);
+    look.paint(painter, QRectF(image.rect()), Look(palette, QFont()));
     return image;
 }
 
@@ -77,13 +78,13 @@ TEST(SwitchTest, everyStateLooksDifferentInEveryTheme)
 TEST(SwitchTest, theKnobOfASwitchThatIsOnLiesWhereLinesEnd)
 {
     const QPalette palette = paletteOf(Qt::white, Qt::black);
-    const QColor accent = palette.color(QPalette::Active, QPalette::Highlight);
+    const QColor on = Look(palette, QFont()).on;
     const QImage leftToRight = picture({.isOn = true}, palette);
-    EXPECT_EQ(leftToRight.pixelColor(8, 10), accent);
-    EXPECT_NE(leftToRight.pixelColor(27, 10), accent);
+    EXPECT_EQ(leftToRight.pixelColor(8, 10), on);
+    EXPECT_NE(leftToRight.pixelColor(27, 10), on);
     const QImage rightToLeft = picture({.isOn = true, .direction = Qt::RightToLeft}, palette);
-    EXPECT_NE(rightToLeft.pixelColor(8, 10), accent);
-    EXPECT_EQ(rightToLeft.pixelColor(27, 10), accent);
+    EXPECT_NE(rightToLeft.pixelColor(8, 10), on);
+    EXPECT_EQ(rightToLeft.pixelColor(27, 10), on);
 }
 
 TEST(SwitchTest, aClickOnTheLineTurnsItAndADragAwayDoesNot)

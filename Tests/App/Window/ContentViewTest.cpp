@@ -3,6 +3,8 @@
 
 #include "App/Window/ContentView.h"
 
+#include "App/Look/Contrast.h"
+#include "App/Look/PlainPalette.h"
 #include "App/Window/ReloadButton.h"
 #include "App/Window/Sidebar.h"
 #include "App/Window/WindowTest.h"
@@ -77,6 +79,22 @@ protected:
         })) << qPrintable(subtitle(content));
     }
 };
+
+TEST_F(ContentViewTest, quietTextsAreReadableInAThemeThatHidesThem)
+{
+    const auto content = makeContent();
+    for (const auto &[ground, text] : {std::pair(Qt::white, Qt::black), std::pair(Qt::black, Qt::white)}) {
+        QPalette palette = paletteOf(ground, text);
+        palette.setColor(QPalette::PlaceholderText, ground);
+        content->setPalette(palette);
+        const auto color = [&](const QString &name, QPalette::ColorRole role) {
+            return part<QWidget>(*content, name)->palette().color(role);
+        };
+        EXPECT_GE(contrastRatio(color(u"listSubtitle"_s, QPalette::WindowText), ground), 4.5);
+        EXPECT_GE(contrastRatio(color(u"searchField"_s, QPalette::PlaceholderText), ground), 4.5);
+        EXPECT_GE(contrastRatio(color(u"emptyText"_s, QPalette::WindowText), ground), 4.5);
+    }
+}
 
 TEST_F(ContentViewTest, saysThatItReadsUntilTheFirstLoadHasEnded)
 {

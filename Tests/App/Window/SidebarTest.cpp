@@ -3,6 +3,7 @@
 
 #include "App/Window/Sidebar.h"
 
+#include "App/Look/Look.h"
 #include "App/Window/SidebarModel.h"
 #include "Support/LibraryHome.h"
 #include "Support/Waiting.h"
@@ -150,7 +151,7 @@ TEST_F(SidebarTest, homeAndEndGoToTheOutermostRows)
     EXPECT_EQ(sidebar.pane(), Pane(BookmarksPane{u"edge/Default"_s}));
 }
 
-TEST_F(SidebarTest, theSelectionIsQuieterWhileTheKeyboardIsElsewhere)
+TEST_F(SidebarTest, theSelectionTellsWhetherTheKeyboardIsInIt)
 {
     QWidget window;
     QWidget other(&window);
@@ -166,10 +167,12 @@ TEST_F(SidebarTest, theSelectionIsQuieterWhileTheKeyboardIsElsewhere)
         return sidebar.viewport()->grab().toImage().pixelColor(row.right() - 16, row.center().y());
     };
     sidebar.setFocus();
-    EXPECT_EQ(ground(), sidebar.palette().color(QPalette::Highlight));
+    const QColor selected = Look::of(sidebar).sidebar.selected.base;
+    const QImage withFocus = sidebar.viewport()->grab().toImage();
+    EXPECT_EQ(ground(), selected);
     other.setFocus();
-    EXPECT_NE(ground(), sidebar.palette().color(QPalette::Highlight));
-    EXPECT_NE(ground(), sidebar.palette().color(QPalette::Window)) << "it is still seen";
+    EXPECT_NE(sidebar.viewport()->grab().toImage(), withFocus);
+    EXPECT_EQ(ground(), selected) << "it is still seen";
 }
 
 TEST_F(SidebarTest, aClickSelectsARowAndAHeadingDoesNothing)

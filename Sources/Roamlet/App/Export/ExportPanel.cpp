@@ -5,6 +5,7 @@
 
 #include "App/Export/Alert.h"
 #include "App/Export/SavePanel.h"
+#include "App/Look/Look.h"
 #include "App/Look/NoteLabel.h"
 #include "App/Tables/CellText.h"
 #include "Library/Library.h"
@@ -117,6 +118,7 @@ ExportPanel::ExportPanel(const ExportRequest &request, const Services &services,
     m_sources->setAccessibleName(tr("From"));
     m_sources->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     m_sources->setPlaceholderText(tr("No bookmarks"));
+    updateColors();
     auto *from = new QLabel(tr("From:"));
     from->setBuddy(m_sources);
     auto *fromRow = new QHBoxLayout;
@@ -164,6 +166,18 @@ ExportPanel::ExportPanel(const ExportRequest &request, const Services &services,
     connect(m_export, &QPushButton::clicked, this, &ExportPanel::askWhereToSave);
     // On some desktops Return opens the list of sources while that has the keyboard.
     m_export->setFocus();
+}
+
+void ExportPanel::updateColors()
+{
+    setPaletteColor(*m_sources, QPalette::PlaceholderText, Look::of(*this).button.quiet);
+}
+
+void ExportPanel::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::PaletteChange)
+        updateColors();
+    QDialog::changeEvent(event);
 }
 
 void ExportPanel::buildFormats(QVBoxLayout *layout)

@@ -49,6 +49,7 @@ public:
     void reject() override;
 
 protected:
+    void changeEvent(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
@@ -60,6 +61,7 @@ private:
         std::optional<QString> sourceID;
     };
 
+    void updateColors();
     void buildFormats(QVBoxLayout *layout);
     void fillSources();
     /// What is stored, or HTML.

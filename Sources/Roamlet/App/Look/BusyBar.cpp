@@ -3,6 +3,8 @@
 
 #include "App/Look/BusyBar.h"
 
+#include "App/Look/Look.h"
+
 #include <QPainter>
 
 namespace roamlet
@@ -40,9 +42,10 @@ void BusyBar::paintEvent(QPaintEvent * /*event*/)
     constexpr int share = 4;
     const int runner = width() / share;
     const int place = qRound(m_running.currentValue().toReal() * (width() - runner));
+    const Look look = Look::of(*this);
     QPainter painter(this);
-    painter.fillRect(rect(), palette().color(QPalette::Mid));
-    painter.fillRect(QRect(place, 0, runner, height()), palette().color(QPalette::Highlight));
+    painter.fillRect(rect(), look.list.hairline);
+    painter.fillRect(QRect(place, 0, runner, height()), look.accent);
 }
 
 } // namespace roamlet

@@ -3,24 +3,13 @@
 
 #include "App/Look/NoteLabel.h"
 
-#include "App/Look/MixedColor.h"
+#include "App/Look/Look.h"
 
 #include <QEvent>
 #include <QGuiApplication>
 
 namespace roamlet
 {
-
-namespace
-{
-
-/// Both are readable on their background, with a contrast of more than 4.5 to 1.
-constexpr QRgb redOnLight = 0xffb3261e;
-constexpr QRgb redOnDark = 0xffff8a80;
-
-constexpr float quietness = 0.32F;
-
-} // namespace
 
 NoteLabel::NoteLabel(QWidget *parent) : QLabel(parent)
 {
@@ -49,20 +38,9 @@ bool NoteLabel::event(QEvent *event)
 void NoteLabel::updateColor()
 {
     // Not from this label's own palette, which holds the last mixture.
-    const QPalette around =
-        parentWidget() != nullptr ? parentWidget()->palette() : QGuiApplication::palette();
-    const QColor background = around.color(QPalette::Active, QPalette::Window);
-    const bool isDark = background.lightnessF() < 0.5F;
-    const QColor color =
-        m_tone == Tone::Problem
-            ? QColor::fromRgba(isDark ? redOnDark : redOnLight)
-            : mixedColor(around.color(QPalette::Active, QPalette::WindowText), background, quietness);
-    if (palette().color(QPalette::Active, QPalette::WindowText) == color)
-        return;
-    QPalette own = palette();
-    own.setColor(QPalette::Active, QPalette::WindowText, color);
-    own.setColor(QPalette::Inactive, QPalette::WindowText, color);
-    setPalette(own);
+    const Look look =
+        parentWidget() != nullptr ? Look::of(*parentWidget()) : Look(QGuiApplication::palette(), font());
+    setPaletteColor(*this, QPalette::WindowText, m_tone == Tone::Problem ? look.problem : look.page.quiet);
 }
 
 } // namespace roamlet

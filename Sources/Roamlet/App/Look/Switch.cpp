@@ -3,30 +3,24 @@
 
 #include "App/Look/Switch.h"
 
-#include "App/Look/MixedColor.h"
+#include "App/Look/Look.h"
 
 #include <QPainter>
 
 namespace roamlet
 {
 
-void SwitchLook::paint(QPainter &painter, const QRectF &rect, const QPalette &palette) const
+void SwitchLook::paint(QPainter &painter, const QRectF &rect, const Look &look) const
 {
-    const QColor ground = palette.color(QPalette::Active, QPalette::Window);
-    const QColor text = palette.color(QPalette::Active, QPalette::WindowText);
-    const QColor accent = palette.color(QPalette::Active, QPalette::Highlight);
-    const bool isDark = ground.lightnessF() < 0.5F;
-
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     if (!isEnabled)
-        painter.setOpacity(0.45);
+        painter.setOpacity(0.5);
     constexpr qreal ringWidth = 2;
     const QRectF track = rect.adjusted(ringWidth, ringWidth, -ringWidth, -ringWidth);
     const qreal radius = track.height() / 2;
-    // A track that is off has an edge, so that it is seen on any ground.
-    painter.setPen(isOn ? QPen(Qt::NoPen) : QPen(mixedColor(ground, text, 0.45F), 1));
-    painter.setBrush(isOn ? accent : mixedColor(ground, text, 0.25F));
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(isOn ? look.on : look.edge);
     painter.drawRoundedRect(track, radius, radius);
 
     constexpr qreal gap = 2;
@@ -36,17 +30,13 @@ void SwitchLook::paint(QPainter &painter, const QRectF &rect, const QPalette &pa
         knob.moveRight(track.right() - gap);
     else
         knob.moveLeft(track.left() + gap);
-    painter.setPen(Qt::NoPen);
-    if (isOn)
-        painter.setBrush(palette.color(QPalette::Active, QPalette::HighlightedText));
-    else
-        painter.setBrush(isDark ? text : palette.color(QPalette::Active, QPalette::Base));
+    painter.setBrush(Qt::white);
     painter.drawEllipse(knob);
 
     if (hasFocus) {
         // Apart from the track, or the ring of a switch that is on could not be seen.
         painter.setBrush(Qt::NoBrush);
-        painter.setPen(QPen(mixedColor(accent, text, 0.25F), 1.2));
+        painter.setPen(QPen(look.accent, 1.2));
         const QRectF ring = rect.adjusted(0.6, 0.6, -0.6, -0.6);
         painter.drawRoundedRect(ring, ring.height() / 2, ring.height() / 2);
     }
@@ -76,7 +66,7 @@ void Switch::paintEvent(QPaintEvent * /*event*/)
     QPainter painter(this);
     SwitchLook{
         .isOn = isChecked(), .isEnabled = isEnabled(), .hasFocus = hasFocus(), .direction = layoutDirection()}
-        .paint(painter, QRectF(rect()), palette());
+        .paint(painter, QRectF(rect()), Look::of(*this));
 }
 
 } // namespace roamlet

@@ -10,6 +10,8 @@ class QPainter;
 namespace roamlet
 {
 
+struct Look;
+
 /// What a switch looks like: a knob that lies at one end of its track.
 struct SwitchLook {
     bool isOn = false;
@@ -17,8 +19,8 @@ struct SwitchLook {
     bool hasFocus = false;
     Qt::LayoutDirection direction = Qt::LeftToRight;
 
-    /// Fills the rectangle, with the colours of the palette.
-    void paint(QPainter &painter, const QRectF &rect, const QPalette &palette) const;
+    /// Fills the rectangle.
+    void paint(QPainter &painter, const QRectF &rect, const Look &look) const;
     /// The size beside a text of this font.
     static QSize size(const QFontMetrics &metrics);
 };

@@ -3,14 +3,14 @@
 
 #include "App/Settings/ProfileDelegate.h"
 
-#include "App/Look/MixedColor.h"
+#include "App/Look/Look.h"
 #include "App/Look/Switch.h"
 #include "App/Look/Symbol.h"
 
-#include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QStyle>
 
 namespace roamlet
 {
@@ -30,49 +30,39 @@ void ProfileDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
 {
     QStyleOptionViewItem item = option;
     initStyleOption(&item, index);
-    const QStyle *style = item.widget != nullptr ? item.widget->style() : QApplication::style();
-    style->drawPrimitive(QStyle::PE_PanelItemViewItem, &item, painter, item.widget);
-
+    const Look look = Look::of(*item.widget);
     const bool isSelected = item.state.testFlag(QStyle::State_Selected);
-    const QPalette::ColorGroup group =
-        item.state.testFlag(QStyle::State_Active) ? QPalette::Active : QPalette::Inactive;
-    const QColor ground = item.palette.color(group, isSelected ? QPalette::Highlight : QPalette::Base);
-    const QColor text = item.palette.color(group, isSelected ? QPalette::HighlightedText : QPalette::Text);
+    const Ground &selected = item.widget->isActiveWindow() ? look.list.selected : look.list.selectedInactive;
+    const Ground &row = isSelected ? selected : look.list;
+    item.palette.setColor(QPalette::Highlight, row.base);
+    const QStyle *style = item.widget->style();
+    style->drawPrimitive(QStyle::PE_PanelItemViewItem, &item, painter, item.widget);
 
     const QRect inner = item.rect.adjusted(margin, 0, -margin, 0);
     const QRect handle = QStyle::alignedRect(item.direction, Qt::AlignLeft | Qt::AlignVCenter,
                                              QSize(handleSide, handleSide), inner);
-    symbolIcon(u"line.3.horizontal"_s, mixedColor(ground, text, 0.5F)).paint(painter, handle);
+    symbolIcon(u"line.3.horizontal"_s, row.quiet).paint(painter, handle);
 
     const QRect control = switchRect(item);
     const int indent = handleSide + margin;
     const QRect name =
         QStyle::visualRect(item.direction, inner, inner.adjusted(indent, 0, -control.width() - margin, 0));
-    painter->setPen(text);
+    painter->setPen(row.ink);
     painter->setFont(item.font);
     const Qt::Alignment alignment = QStyle::visualAlignment(item.direction, Qt::AlignLeft | Qt::AlignVCenter);
     painter->drawText(name, static_cast<int>(alignment.toInt()),
                       item.fontMetrics.elidedText(item.text, Qt::ElideRight, name.width()));
 
-    QPalette around = item.palette;
-    if (isSelected) {
-        // On the selection the accent colour could not be seen: the text's colour takes its place.
-        around.setColor(QPalette::Active, QPalette::Window, ground);
-        around.setColor(QPalette::Active, QPalette::WindowText, text);
-        around.setColor(QPalette::Active, QPalette::Highlight, text);
-        around.setColor(QPalette::Active, QPalette::HighlightedText, ground);
-        around.setColor(QPalette::Active, QPalette::Base, text);
-    }
     SwitchLook{.isOn = item.checkState == Qt::Checked,
                .isEnabled = index.flags().testFlag(Qt::ItemIsUserCheckable),
                .hasFocus = false,
                .direction = item.direction}
-        .paint(*painter, QRectF(control), around);
+        .paint(*painter, QRectF(control), look);
 
     if (item.state.testFlag(QStyle::State_HasFocus)) {
         QStyleOptionFocusRect focus;
         focus.QStyleOption::operator=(item);
-        focus.backgroundColor = ground;
+        focus.backgroundColor = row.base;
         style->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, painter, item.widget);
     }
 }

@@ -3,6 +3,7 @@
 
 #include "App/Settings/ProfileList.h"
 
+#include "App/Look/Look.h"
 #include "App/Settings/ProfileDelegate.h"
 
 #include <QApplication>
@@ -130,14 +131,14 @@ void ProfileList::paintEvent(QPaintEvent *event)
     QListView::paintEvent(event);
     QPainter painter(viewport());
     if (model() != nullptr && model()->rowCount() == 0) {
-        painter.setPen(palette().color(QPalette::PlaceholderText));
+        painter.setPen(Look::of(*this).list.quiet);
         painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap, m_placeholderText);
     }
     if (m_target >= 0) {
         const bool isLast = m_target == model()->rowCount();
         const QRect row = visualRect(model()->index(isLast ? m_target - 1 : m_target, 0));
         const int y = isLast ? row.bottom() : qMax(row.top() - 1, 0);
-        painter.fillRect(QRect(row.left(), y, row.width(), 2), palette().color(QPalette::Highlight));
+        painter.fillRect(QRect(row.left(), y, row.width(), 2), Look::of(*this).accent);
     }
 }
 

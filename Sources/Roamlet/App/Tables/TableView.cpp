@@ -3,6 +3,7 @@
 
 #include "App/Tables/TableView.h"
 
+#include "App/Look/Look.h"
 #include "App/Tables/RowIcons.h"
 #include "App/Tables/RowSelectionModel.h"
 #include "App/Tables/TableHeader.h"
@@ -85,7 +86,7 @@ TableView::TableView(TableModel &model, Shape shape, QWidget *parent)
     m_emptyLabel.setTextFormat(Qt::PlainText);
     m_emptyLabel.setWordWrap(true);
     m_emptyLabel.setAttribute(Qt::WA_TransparentForMouseEvents);
-    m_emptyLabel.setForegroundRole(QPalette::PlaceholderText);
+    updateColors();
 
     connect(this, &QTreeView::expanded, this, [this](const QModelIndex &index) { noteToggled(index, true); });
     connect(this, &QTreeView::collapsed, this, [this](const QModelIndex &index) {
@@ -344,6 +345,18 @@ void TableView::contextMenuEvent(QContextMenuEvent *event)
     }
     scrollTo(index);
     Q_EMIT linkMenuRequested(viewport()->mapToGlobal(visualRect(index).center()));
+}
+
+void TableView::updateColors()
+{
+    setPaletteColor(m_emptyLabel, QPalette::WindowText, Look::of(*this).list.quiet);
+}
+
+void TableView::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::PaletteChange)
+        updateColors();
+    QTreeView::changeEvent(event);
 }
 
 void TableView::resizeEvent(QResizeEvent *event)

@@ -59,8 +59,10 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private:
+    void updateColors();
     void openFoldersAndSections();
     bool isOpen(const RowTree::Node &node) const;
     bool isKind(const QModelIndex &index, TableRow::Kind kind) const;

@@ -4,6 +4,7 @@
 #include "App/Window/DetailHeader.h"
 
 #include "App/Look/ElidedLabel.h"
+#include "App/Look/Look.h"
 #include "App/Look/Symbol.h"
 #include "App/Window/PaneText.h"
 #include "App/Window/ReloadButton.h"
@@ -31,6 +32,8 @@ DetailHeader::DetailHeader(QWidget *parent)
       m_reload(new ReloadButton(this)),
       m_export(new QToolButton(this)),
       m_search(new QLineEdit(this)),
+      m_magnifier(m_search->addAction(QIcon(), QLineEdit::LeadingPosition)),
+      m_clear(m_search->addAction(QIcon(), QLineEdit::TrailingPosition)),
       m_menuButton(new QToolButton(this)),
       m_mainMenu(new QMenu(this))
 {
@@ -43,7 +46,6 @@ DetailHeader::DetailHeader(QWidget *parent)
     QFont subtitleFont = m_subtitle->font();
     subtitleFont.setPointSizeF(subtitleFont.pointSizeF() * 0.9);
     m_subtitle->setFont(subtitleFont);
-    m_subtitle->setForegroundRole(QPalette::PlaceholderText);
 
     m_groupingMenu->setObjectName(u"groupingMenu"_s);
     m_groupBy->setObjectName(u"groupByButton"_s);
@@ -74,19 +76,17 @@ DetailHeader::DetailHeader(QWidget *parent)
     m_search->setAccessibleName(u"Search"_s);
     // A screen reader finds both buttons, so they have texts. Qt's own clear button looks for its icon
     // through the whole theme before the window can show.
-    const QColor faint = palette().color(QPalette::PlaceholderText);
-    m_search->addAction(symbolIcon(u"magnifyingglass"_s, faint), QLineEdit::LeadingPosition)
-        ->setText(u"Search"_s);
-    QAction *clear = m_search->addAction(symbolIcon(u"xmark.circle"_s, faint), QLineEdit::TrailingPosition);
-    clear->setObjectName(u"clearSearch"_s);
-    clear->setText(u"Clear Search"_s);
-    clear->setVisible(false);
-    connect(clear, &QAction::triggered, m_search, &QLineEdit::clear);
-    connect(m_search, &QLineEdit::textChanged, clear,
-            [clear](const QString &text) { clear->setVisible(!text.isEmpty()); });
+    m_magnifier->setText(u"Search"_s);
+    m_clear->setObjectName(u"clearSearch"_s);
+    m_clear->setText(u"Clear Search"_s);
+    m_clear->setVisible(false);
+    connect(m_clear, &QAction::triggered, m_search, &QLineEdit::clear);
+    connect(m_search, &QLineEdit::textChanged, m_clear,
+            [this](const QString &text) { m_clear->setVisible(!text.isEmpty()); });
     m_search->setMinimumWidth(180);
     m_search->setMaximumWidth(260);
     m_search->installEventFilter(this);
+    updateColors();
 
     for (QToolButton *button : {m_groupBy, static_cast<QToolButton *>(m_reload), m_export, m_menuButton}) {
         button->setIconSize(QSize(16, 16));
@@ -152,6 +152,22 @@ bool DetailHeader::isReloading() const
 void DetailHeader::setCanExport(bool canExport)
 {
     m_export->setEnabled(canExport);
+}
+
+void DetailHeader::updateColors()
+{
+    const Look look = Look::of(*this);
+    setPaletteColor(*m_subtitle, QPalette::WindowText, look.page.quiet);
+    setPaletteColor(*m_search, QPalette::PlaceholderText, look.field.quiet);
+    m_magnifier->setIcon(symbolIcon(u"magnifyingglass"_s, look.field.quiet));
+    m_clear->setIcon(symbolIcon(u"xmark.circle"_s, look.field.quiet));
+}
+
+void DetailHeader::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::PaletteChange)
+        updateColors();
+    QWidget::changeEvent(event);
 }
 
 bool DetailHeader::eventFilter(QObject *watched, QEvent *event)

@@ -9,6 +9,7 @@
 
 #include <optional>
 
+class QAction;
 class QActionGroup;
 class QLineEdit;
 class QMenu;
@@ -54,9 +55,12 @@ Q_SIGNALS:
     void listRequested();
 
 protected:
+    void changeEvent(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void updateColors();
+
     ElidedLabel *m_title;
     ElidedLabel *m_subtitle;
     QToolButton *m_groupBy;
@@ -65,6 +69,8 @@ private:
     ReloadButton *m_reload;
     QToolButton *m_export;
     QLineEdit *m_search;
+    QAction *m_magnifier;
+    QAction *m_clear;
     QToolButton *m_menuButton;
     QMenu *m_mainMenu;
 };

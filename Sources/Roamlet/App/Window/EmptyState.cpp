@@ -3,6 +3,7 @@
 
 #include "App/Window/EmptyState.h"
 
+#include "App/Look/Look.h"
 #include "App/Look/Symbol.h"
 
 #include <QEvent>
@@ -66,8 +67,8 @@ void EmptyState::changeEvent(QEvent *event)
 void EmptyState::drawSymbol()
 {
     constexpr int side = 48;
-    m_icon->setPixmap(symbolIcon(m_symbol, palette().color(QPalette::PlaceholderText))
-                          .pixmap(QSize(side, side), devicePixelRatioF()));
+    m_icon->setPixmap(
+        symbolIcon(m_symbol, Look::of(*this).page.quiet).pixmap(QSize(side, side), devicePixelRatioF()));
 }
 
 void EmptyState::setText(const QString &text)

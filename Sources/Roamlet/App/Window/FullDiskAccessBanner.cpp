@@ -3,8 +3,10 @@
 
 #include "App/Window/FullDiskAccessBanner.h"
 
+#include "App/Look/Look.h"
 #include "App/Look/Symbol.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -15,13 +17,11 @@ namespace roamlet
 
 using namespace Qt::StringLiterals;
 
-FullDiskAccessBanner::FullDiskAccessBanner(QWidget *parent) : Strip(Tone::Warning, parent)
+FullDiskAccessBanner::FullDiskAccessBanner(QWidget *parent)
+    : Strip(Tone::Warning, parent), m_lock(new QLabel(this))
 {
     setObjectName(u"fullDiskAccessBanner"_s);
-    constexpr int iconSide = 20;
-    auto *lock = new QLabel(this);
-    lock->setPixmap(
-        symbolIcon(u"lock.fill"_s, warningColor()).pixmap(QSize(iconSide, iconSide), devicePixelRatioF()));
+    drawLock();
 
     auto *heading = new QLabel(u"Roamlet can't read Safari yet"_s, this);
     heading->setObjectName(u"fullDiskAccessHeading"_s);
@@ -47,10 +47,24 @@ FullDiskAccessBanner::FullDiskAccessBanner(QWidget *parent) : Strip(Tone::Warnin
     connect(settings, &QPushButton::clicked, this, &FullDiskAccessBanner::openSettingsRequested);
     connect(reload, &QPushButton::clicked, this, &FullDiskAccessBanner::reloadRequested);
 
-    row()->addWidget(lock);
+    row()->addWidget(m_lock);
     row()->addLayout(words, 1);
     row()->addWidget(settings);
     row()->addWidget(reload);
+}
+
+void FullDiskAccessBanner::drawLock()
+{
+    constexpr int iconSide = 20;
+    m_lock->setPixmap(symbolIcon(u"lock.fill"_s, Look::of(*this).warningMark)
+                          .pixmap(QSize(iconSide, iconSide), devicePixelRatioF()));
+}
+
+void FullDiskAccessBanner::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::PaletteChange)
+        drawLock();
+    Strip::changeEvent(event);
 }
 
 } // namespace roamlet

@@ -5,6 +5,8 @@
 
 #include "App/Window/Strip.h"
 
+class QLabel;
+
 namespace roamlet
 {
 
@@ -19,6 +21,14 @@ public:
 Q_SIGNALS:
     void openSettingsRequested();
     void reloadRequested();
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    void drawLock();
+
+    QLabel *m_lock;
 };
 
 } // namespace roamlet

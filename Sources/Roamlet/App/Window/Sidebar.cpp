@@ -3,7 +3,7 @@
 
 #include "App/Window/Sidebar.h"
 
-#include "App/Look/MixedColor.h"
+#include "App/Look/Look.h"
 #include "App/Window/PaneText.h"
 #include "App/Window/SidebarModel.h"
 #include "Library/Library.h"
@@ -58,7 +58,7 @@ private:
         font.setBold(true);
         font.setPointSizeF(font.pointSizeF() * 0.9);
         painter->setFont(font);
-        painter->setPen(option.palette.color(QPalette::Active, QPalette::PlaceholderText));
+        painter->setPen(Look::of(*option.widget).sidebar.quiet);
         const QRect place = option.rect.adjusted(margin + padding, 0, -margin, -4);
         painter->drawText(place, Qt::AlignLeft | Qt::AlignBottom,
                           QFontMetrics(font).elidedText(text, Qt::ElideRight, place.width()));
@@ -69,26 +69,32 @@ private:
     {
         const bool isSelected = option.state.testFlag(QStyle::State_Selected);
         const bool hasFocus = isSelected && option.state.testFlag(QStyle::State_HasFocus);
-        const QPalette::ColorGroup group =
-            option.state.testFlag(QStyle::State_Active) ? QPalette::Active : QPalette::Inactive;
-        const QColor window = option.palette.color(group, QPalette::Window);
-        const QColor accent = option.palette.color(group, QPalette::Highlight);
-        const QColor ink = option.palette.color(group, QPalette::WindowText);
+        const Look look = Look::of(*option.widget);
+        const RowGround &sidebar = look.sidebar;
+        // Not State_Active, which a view only sets while it has the keyboard.
+        const Ground &selected =
+            option.widget->isActiveWindow() ? sidebar.selected : sidebar.selectedInactive;
+        const QColor ink = isSelected ? selected.ink : sidebar.ink;
         const QRect body = option.rect.adjusted(margin, 1, -margin, -1);
         painter->setPen(Qt::NoPen);
         painter->setBrush(Qt::NoBrush);
-        // The full accent colour tells that the arrow keys move this selection and no other.
         if (isSelected)
-            painter->setBrush(hasFocus ? accent : mixedColor(window, accent, 0.3F));
+            painter->setBrush(selected.base);
         else if (option.state.testFlag(QStyle::State_MouseOver))
-            painter->setBrush(mixedColor(window, ink, 0.06F));
+            painter->setBrush(sidebar.hover);
         painter->drawRoundedRect(body, 5, 5);
+        if (hasFocus) {
+            // The ring tells that the arrow keys move this selection and no other.
+            painter->setPen(QPen(look.accent, Measures::focusRingWidth));
+            painter->setBrush(Qt::NoBrush);
+            painter->drawRoundedRect(body.adjusted(1, 1, -1, -1), 4, 4);
+        }
         const QRect content = body.adjusted(padding, 0, -padding, 0);
         QRect iconPlace(0, 0, iconSide, iconSide);
         iconPlace.moveCenter(content.center());
         iconPlace.moveLeft(content.left());
-        icon.paint(painter, iconPlace, Qt::AlignCenter, hasFocus ? QIcon::Selected : QIcon::Normal);
-        painter->setPen(hasFocus ? option.palette.color(group, QPalette::HighlightedText) : ink);
+        icon.paint(painter, iconPlace, Qt::AlignCenter, ink == sidebar.ink ? QIcon::Normal : QIcon::Selected);
+        painter->setPen(ink);
         const QRect place = content.adjusted(iconSide + padding, 0, 0, 0);
         painter->drawText(place, Qt::AlignLeft | Qt::AlignVCenter,
                           option.fontMetrics.elidedText(text, Qt::ElideRight, place.width()));
@@ -113,6 +119,7 @@ Sidebar::Sidebar(const Library &library, QWidget *parent)
     setMouseTracking(true);
     setBackgroundRole(QPalette::Window);
     viewport()->setBackgroundRole(QPalette::Window);
+    updateColors();
     connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, &Sidebar::followSelection);
     // A reset empties the selection; the window's pane stays what it was.
     connect(m_model, &QAbstractItemModel::modelAboutToBeReset, this, [this] { m_isRestoring = true; });
@@ -162,6 +169,18 @@ void Sidebar::contextMenuEvent(QContextMenuEvent *event)
     action->setEnabled(PaneText::hasBookmarks(sourceID, m_library.snapshot()));
     connect(action, &QAction::triggered, this, [this, sourceID] { Q_EMIT exportRequested(sourceID); });
     menu->popup(isByKeyboard ? viewport()->mapToGlobal(visualRect(index).bottomLeft()) : event->globalPos());
+}
+
+void Sidebar::updateColors()
+{
+    setPaletteColor(*viewport(), QPalette::Window, Look::of(*this).sidebar.base);
+}
+
+void Sidebar::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::PaletteChange)
+        updateColors();
+    QListView::changeEvent(event);
 }
 
 QSize Sidebar::sizeHint() const

@@ -41,8 +41,10 @@ protected:
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
     QSize sizeHint() const override;
+    void changeEvent(QEvent *event) override;
 
 private:
+    void updateColors();
     void followSelection();
 
     const Library &m_library;

@@ -3,7 +3,7 @@
 
 #include "App/Window/Strip.h"
 
-#include "App/Look/MixedColor.h"
+#include "App/Look/Look.h"
 
 #include <QHBoxLayout>
 #include <QPainter>
@@ -17,18 +17,13 @@ Strip::Strip(Tone tone, QWidget *parent) : QWidget(parent), m_tone(tone), m_row(
     m_row->setSpacing(10);
 }
 
-QColor Strip::warningColor()
-{
-    return {0xF5, 0x8A, 0x0B};
-}
-
 void Strip::paintEvent(QPaintEvent * /*event*/)
 {
-    const QColor ground = palette().color(QPalette::Base);
-    const QColor tint = m_tone == Tone::Warning ? warningColor() : palette().color(QPalette::Highlight);
+    const Look look = Look::of(*this);
+    const Ground &ground = m_tone == Tone::Warning ? look.warning : look.notice;
     QPainter painter(this);
-    painter.fillRect(rect(), mixedColor(ground, tint, 0.12F));
-    painter.fillRect(QRect(0, height() - 1, width(), 1), mixedColor(ground, tint, 0.3F));
+    painter.fillRect(rect(), ground.base);
+    painter.fillRect(QRect(0, height() - 1, width(), 1), ground.hairline);
 }
 
 } // namespace roamlet

@@ -21,9 +21,6 @@ public:
 
     explicit Strip(Tone tone, QWidget *parent = nullptr);
 
-    /// Orange that can be read on a light and on a dark ground.
-    static QColor warningColor();
-
 protected:
     void paintEvent(QPaintEvent *event) override;
     QHBoxLayout *row() const { return m_row; }
