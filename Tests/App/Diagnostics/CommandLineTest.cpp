@@ -164,6 +164,25 @@ TEST(CommandLineTest, helpNamesEverySwitch)
     EXPECT_TRUE(help.ends_with('\n'));
 }
 
+TEST(CommandLineTest, whatQtAndTheSessionManagerAddIsLeftToTheWindows)
+{
+    for (const QStringList &arguments : {QStringList{u"-session"_s, u"10e1d0_1793"_s},
+                                         {u"-style"_s, u"fusion"_s},
+                                         {u"--style=fusion"_s},
+                                         {u"-platform"_s, u"xcb"_s, u"-reverse"_s, u"--started-at-login"_s},
+                                         {u"-geometry"_s, u"800x600"_s},
+                                         {u"-display"_s, u":1"_s, u"-name"_s, u"--odd"_s},
+                                         {u"-session"_s}})
+        EXPECT_EQ(Command::of(arguments), Command()) << arguments.join(u' ').toStdString();
+    EXPECT_EQ(Command::of({u"-style"_s, u"fusion"_s, u"fusion"_s}), command(Job::Unknown, u"fusion"_s));
+    EXPECT_EQ(Command::of({u"-session"_s, u"id"_s, u"--what"_s}), command(Job::Unknown, u"--what"_s));
+    EXPECT_EQ(Command::of({u"-sessions"_s, u"id"_s}), command(Job::Unknown, u"-sessions"_s));
+    EXPECT_EQ(Command::of({u"session"_s, u"id"_s}), command(Job::Unknown, u"session"_s));
+    EXPECT_EQ(Command::of({u"-"_s}), command(Job::Unknown, u"-"_s));
+    EXPECT_EQ(Command::of({u"--"_s}), command(Job::Unknown, u"--"_s));
+    EXPECT_EQ(Command::of({u"-style"_s, u"fusion"_s, u"--top"_s}), command(Job::Top));
+}
+
 } // namespace testing
 
 } // namespace roamlet

@@ -5,6 +5,9 @@
 
 #include "Platform/Linux/AutostartLoginService.h"
 
+#include <algorithm>
+#include <array>
+
 namespace roamlet
 {
 
@@ -20,6 +23,48 @@ std::optional<QString> wordAfter(const QStringList &arguments, const QString &op
     if (place < 0 || place + 1 >= arguments.size())
         return {};
     return arguments[place + 1];
+}
+
+/// An option that Qt takes for the windows; a session manager that restores the program adds "-session".
+struct WindowOption {
+    QLatin1StringView name;
+    bool hasValue = true;
+};
+
+constexpr std::array windowOptions{
+    WindowOption{"display"_L1},
+    WindowOption{"dograb"_L1, false},
+    WindowOption{"geometry"_L1},
+    WindowOption{"icon"_L1},
+    WindowOption{"name"_L1},
+    WindowOption{"nograb"_L1, false},
+    WindowOption{"platform"_L1},
+    WindowOption{"platformpluginpath"_L1},
+    WindowOption{"platformtheme"_L1},
+    WindowOption{"plugin"_L1},
+    WindowOption{"qwindowgeometry"_L1},
+    WindowOption{"qwindowicon"_L1},
+    WindowOption{"qwindowtitle"_L1},
+    WindowOption{"reverse"_L1, false},
+    WindowOption{"session"_L1},
+    WindowOption{"style"_L1},
+    WindowOption{"stylesheet"_L1},
+    WindowOption{"title"_L1},
+};
+
+/// How many words from this one on are for the windows; 0 when it is no option of theirs.
+qsizetype wordsForWindows(QStringView word)
+{
+    if (!word.startsWith(u'-'))
+        return 0;
+    const QStringView option = word.sliced(word.startsWith(u"--") ? 2 : 1);
+    const qsizetype equals = option.indexOf(u'=');
+    const QStringView name = equals < 0 ? option : option.first(equals);
+    const auto *known =
+        std::ranges::find_if(windowOptions, [name](const WindowOption &each) { return name == each.name; });
+    if (known == windowOptions.end())
+        return 0;
+    return known->hasValue && equals < 0 ? 2 : 1;
 }
 
 } // namespace
@@ -44,9 +89,12 @@ Command Command::of(const QStringList &arguments)
         return {.job = Job::Help, .argument = {}, .sourceID = {}};
     if (arguments.contains(u"--version") || arguments.contains(u"-v"))
         return {.job = Job::Version, .argument = {}, .sourceID = {}};
-    for (const QString &argument : arguments) {
-        if (argument != QLatin1StringView(AutostartLoginService::launchMarker))
-            return {.job = Job::Unknown, .argument = argument, .sourceID = {}};
+    for (qsizetype i = 0; i < arguments.size();) {
+        const bool isMarker = arguments[i] == QLatin1StringView(AutostartLoginService::launchMarker);
+        const qsizetype taken = isMarker ? 1 : wordsForWindows(arguments[i]);
+        if (taken == 0)
+            return {.job = Job::Unknown, .argument = arguments[i], .sourceID = {}};
+        i += taken;
     }
     return {};
 }
