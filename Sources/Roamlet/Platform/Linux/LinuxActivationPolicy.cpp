@@ -59,6 +59,10 @@ void setSkipsTaskbar(xcb_connection_t *connection, xcb_window_t window, bool ski
 LinuxActivationPolicy::LinuxActivationPolicy()
 {
     QCoreApplication::instance()->installEventFilter(this);
+    connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, [this](QWindow *window) {
+        if (window != nullptr && isOrdinary(*window))
+            m_usedLast = window;
+    });
 }
 
 void LinuxActivationPolicy::setPolicy(Policy policy)
@@ -73,18 +77,24 @@ void LinuxActivationPolicy::setPolicy(Policy policy)
 
 void LinuxActivationPolicy::bringToFront()
 {
-    QWindow *front = nullptr;
-    const QWindowList windows = QGuiApplication::topLevelWindows();
-    for (QWindow *window : windows) {
-        if (!isOrdinary(*window))
-            continue;
+    QWindowList windows = QGuiApplication::topLevelWindows();
+    windows.removeIf([](const QWindow *window) { return !isOrdinary(*window); });
+    if (windows.isEmpty())
+        return;
+    // Whichever is raised last stands before the others.
+    if (const qsizetype place = windows.indexOf(m_usedLast); place >= 0)
+        windows.move(place, windows.size() - 1);
+    QWindow *front = windows.last();
+    for (QWindow *window : windows)
         window->raise();
-        // A dialog stands before the window that it belongs to.
-        if (front == nullptr || window->transientParent() == front)
+    for (QWindow *window : windows) {
+        // And a dialog before the window that it belongs to.
+        if (window->transientParent() == front) {
+            window->raise();
             front = window;
+        }
     }
-    if (front != nullptr)
-        front->requestActivate();
+    front->requestActivate();
 }
 
 bool LinuxActivationPolicy::eventFilter(QObject *watched, QEvent *event)

@@ -6,8 +6,8 @@
 #include "Platform/ActivationPolicy.h"
 
 #include <QObject>
-
-class QWindow;
+#include <QPointer>
+#include <QWindow>
 
 namespace roamlet
 {
@@ -23,6 +23,7 @@ public:
     LinuxActivationPolicy();
 
     void setPolicy(Policy policy) override;
+    /// The window that was used last comes before the others.
     void bringToFront() override;
 
 protected:
@@ -33,6 +34,7 @@ private:
     void apply(const QWindow &window) const;
 
     Policy m_policy = Policy::Regular;
+    QPointer<QWindow> m_usedLast;
 };
 
 } // namespace roamlet
