@@ -3,6 +3,7 @@
 
 #include "Integration/AccessibleTree.h"
 #include "Integration/VirtualScreen.h"
+#include "SampleHome/PlainFiles.h"
 #include "SampleHome/SampleHome.h"
 #include "Support/SessionBus.h"
 #include "Support/TestHome.h"
@@ -38,6 +39,9 @@ protected:
                                     .rowsPerProfile = 6,
                                     .bookmarksPerProfile = 6,
                                     .iconsPerProfile = 2});
+        // A menu is only there for a reader while it is open; that of a menu bar always is.
+        sample::writeFile(home.path(u".config/Roamlet/Roamlet.conf"_s),
+                          "[General]\nwindow.main.menuBar=true\n");
         ASSERT_TRUE(screen.start(home.path()));
         ASSERT_FALSE(home.files.makePrivateFolder(home.path(u"runtime"_s)));
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -129,6 +133,7 @@ TEST_F(AccessibilityTest, aScreenReaderFindsNamesRowsAndCommands)
     EXPECT_TRUE(has(u"text"_s, u"Search"_s)) << described();
     EXPECT_TRUE(has(u"list item"_s, u"Library: Most Visited"_s)) << described();
     EXPECT_TRUE(has(u"push button"_s, u"Reload"_s)) << described();
+    EXPECT_TRUE(has(u"push button"_s, u"Menu"_s) || has(u"button menu"_s, u"Menu"_s)) << described();
     EXPECT_EQ(unnamed().join(u'\n').toStdString(), "");
 
     ASSERT_TRUE(reader->press(*find(u"menu item"_s, u"Settings…"_s)));

@@ -258,4 +258,22 @@ TEST_F(SidebarTest, theContextMenuExportsABookmarksRowThatHasSome)
     EXPECT_FALSE(withoutBookmarks->actions().first()->isEnabled());
 }
 
+TEST_F(SidebarTest, onlyTheLeftButtonChooses)
+{
+    addChromium();
+    loadNow(library);
+    Sidebar sidebar(library);
+    sidebar.resize(240, 600);
+    sidebar.show();
+    sidebar.select(HistoryPane());
+    const QPoint below =
+        sidebar.visualRect(sidebar.currentIndex()).center() + QPoint(0, 2 * sidebar.sizeHintForRow(1));
+    for (const Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton}) {
+        QTest::mouseClick(sidebar.viewport(), button, {}, below);
+        EXPECT_EQ(sidebar.pane(), Pane(HistoryPane()));
+    }
+    QTest::mouseClick(sidebar.viewport(), Qt::LeftButton, {}, below);
+    EXPECT_NE(sidebar.pane(), Pane(HistoryPane()));
+}
+
 } // namespace roamlet::testing

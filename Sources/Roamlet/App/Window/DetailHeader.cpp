@@ -35,7 +35,7 @@ DetailHeader::DetailHeader(QWidget *parent)
       m_magnifier(m_search->addAction(QIcon(), QLineEdit::LeadingPosition)),
       m_clear(m_search->addAction(QIcon(), QLineEdit::TrailingPosition)),
       m_menuButton(new QToolButton(this)),
-      m_mainMenu(new QMenu(this))
+      m_mainMenu(new QMenu(u"Menu"_s, this))
 {
     m_title->setObjectName(u"listTitle"_s);
     QFont titleFont = m_title->font();

@@ -10,6 +10,7 @@
 
 #include <QContextMenuEvent>
 #include <QMenu>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <QStyledItemDelegate>
@@ -152,6 +153,12 @@ QModelIndex Sidebar::moveCursor(CursorAction action, Qt::KeyboardModifiers modif
     const QModelIndex index = QListView::moveCursor(action, modifiers);
     // A heading is no place to go to, but there is always a row under it.
     return m_model->pane(index) ? index : index.siblingAtRow(index.row() + 1);
+}
+
+void Sidebar::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton)
+        QListView::mousePressEvent(event);
 }
 
 void Sidebar::contextMenuEvent(QContextMenuEvent *event)

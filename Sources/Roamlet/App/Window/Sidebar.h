@@ -39,6 +39,8 @@ Q_SIGNALS:
 
 protected:
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
+    /// Only the left button chooses: a menu of another row leaves the shown one where it is.
+    void mousePressEvent(QMouseEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
     QSize sizeHint() const override;
     void changeEvent(QEvent *event) override;
