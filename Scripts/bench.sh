@@ -7,7 +7,7 @@ cd "$(dirname "$0")/.."
 
 Scripts/install-dependencies.sh build samples test bench
 # Every desktop has a bus; looking for one in vain takes longer than the program's own start.
-[ -n "${DBUS_SESSION_BUS_ADDRESS-}" ] || exec dbus-run-session -- "$0" "$@"
+[ -n "${DBUS_SESSION_BUS_ADDRESS-}" ] || exec dbus-run-session -- "$PWD/Scripts/bench.sh" "$@"
 cmake --preset bench >/dev/null
 cmake --build --preset bench --target roamlet roamlet_window Benchmarks/all roamlet-sample-home app_tests
 bin=$PWD/build/bench

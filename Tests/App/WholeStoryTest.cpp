@@ -15,8 +15,11 @@
 #include <QFile>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPixmap>
+#include <QPixmapCache>
 #include <QPointer>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QSystemTrayIcon>
 #include <QTest>
 #include <QTimer>
@@ -186,15 +189,44 @@ TEST_F(WholeStoryTest, onceAllWindowsAreClosedItLetsGoOfWhatOnlyTheyNeed)
     };
     app->library().setSearching(true);
     ASSERT_TRUE(eventually([this] { return app->library().isReadyForSearch(); }));
+    const QString picture = u"a picture"_s;
+    QPixmapCache::insert(picture, QPixmap(1, 1));
     app->settingsWindow().open();
     close(window);
     EXPECT_TRUE(eventually([this] { return app->mainWindow() == nullptr; }));
     EXPECT_TRUE(app->library().isReadyForSearch()) << "a window is left";
+    home.clock.advance(std::chrono::seconds(1));
+    EXPECT_TRUE(QPixmapCache::find(picture, nullptr)) << "a window is left";
     close(app->settingsWindow());
     EXPECT_FALSE(app->library().isReadyForSearch()) << "nobody sees what is searched for";
+    EXPECT_TRUE(QPixmapCache::find(picture, nullptr)) << "it may come back at once";
+    app->reopen();
     home.clock.advance(std::chrono::seconds(1));
+    EXPECT_TRUE(QPixmapCache::find(picture, nullptr)) << "it did";
+
+    close(*app->mainWindow());
+    const QSignalSpy fonts(qApp, &QGuiApplication::fontDatabaseChanged);
+    home.clock.advance(std::chrono::seconds(1));
+    EXPECT_FALSE(QPixmapCache::find(picture, nullptr));
+    EXPECT_FALSE(fonts.isEmpty()) << "and the fonts go";
     app->reopen();
     EXPECT_TRUE(eventually([this] { return shownTitles().size() == 5; }));
+}
+
+TEST_F(WholeStoryTest, whatWasSearchedForGoesWithItsWindowAlsoWhereAnotherIsLeft)
+{
+    app->start(false);
+    ASSERT_TRUE(eventually([this] { return shownTitles().size() == 5; }));
+    app->settingsWindow().open();
+    QTest::keyClicks(app->mainWindow()->findChild<QLineEdit *>(u"searchField"_s), u"b1"_s);
+    ASSERT_TRUE(eventually([this] { return app->library().isReadyForSearch(); }));
+    app->mainWindow()->close();
+    ASSERT_TRUE(eventually([this] { return app->mainWindow() == nullptr; }));
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    home.clock.advance(std::chrono::seconds(59));
+    EXPECT_TRUE(app->library().isReadyForSearch());
+    home.clock.advance(std::chrono::seconds(1));
+    EXPECT_FALSE(app->library().isReadyForSearch());
 }
 
 TEST_F(WholeStoryTest, aWindowThatIsOpenedAgainIsANewOne)

@@ -11,8 +11,10 @@
 
 #include <array>
 #include <cstdio>
+#include <latch>
 #include <limits>
 #include <memory>
+#include <thread>
 #include <vector>
 
 namespace roamlet::testing
@@ -78,6 +80,31 @@ TEST(Processes, memoryThatIsNoLongerUsedIsGivenBack)
     const long before = memoryInUse();
     Processes::giveBackMemory();
     EXPECT_LT(memoryInUse(), before - 30'000);
+}
+
+TEST(Processes, whatThreadsHaveFreedIsGivenBackOnceTheyHaveEnded)
+{
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+    GTEST_SKIP() << "a sanitizer keeps what was freed";
+#endif
+    constexpr std::size_t piece = 512;
+    constexpr int count = 8;
+    {
+        std::latch allAreThere(count);
+        std::vector<std::jthread> threads;
+        for (int i = 0; i < count; ++i) {
+            threads.emplace_back([&allAreThere] {
+                std::vector<std::unique_ptr<std::array<char, piece>>> pieces(10'000);
+                for (auto &each : pieces)
+                    each = std::make_unique<std::array<char, piece>>();
+                allAreThere.arrive_and_wait();
+            });
+        }
+    }
+    const long before = memoryInUse();
+    Processes::giveBackMemory();
+    // Each had 5 MB.
+    EXPECT_LT(memoryInUse(), before - 25'000);
 }
 
 TEST(Processes, noProcessHasANumberBeyondTheSystemsLimit)

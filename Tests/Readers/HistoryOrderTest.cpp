@@ -45,8 +45,6 @@ protected:
             "CREATE TABLE urls(id INTEGER PRIMARY KEY, url, title, last_visit_time, visit_count); "
             "CREATE TABLE bulk(v)");
         sample::Statement insert = database.prepare("INSERT INTO urls VALUES(?, ?, ?, ?, ?)");
-        sample::Statement insertOdd = database.prepare(
-            "INSERT INTO urls(id, url, title, last_visit_time, visit_count) VALUES(?, ?, ?, ?, 1.5)");
         qint64 id = 0;
         for (qint64 i = 0; i < rows; ++i) {
             id += 1 + random.below(3);
@@ -54,12 +52,38 @@ protected:
             const sample::Text title = sample::Text(random.below(2) == 0 ? u"one"_s : u"two"_s);
             const qint64 time = random.below(30) - 2;
             if (values == Values::Odd && random.below(40) == 0)
-                insertOdd.run(id, url, title, static_cast<double>(time) + 0.5);
+                writeOdd(random, insert, id, url, title);
             else
                 insert.run(id, url, title, time, random.below(4));
         }
         if (size == Size::Large)
             database.execute("INSERT INTO bulk VALUES(zeroblob(17000000))");
+    }
+
+    /// A row whose time or number of visits is no whole number.
+    static void writeOdd(sample::Random &random, sample::Statement &insert, qint64 id,
+                         const sample::Text &url, const sample::Text &title)
+    {
+        const qint64 number = random.below(30);
+        switch (random.below(6)) {
+        case 0:
+            insert.run(id, url, title, static_cast<double>(number) + 0.5, number);
+            break;
+        case 1:
+            insert.run(id, url, title, number, 1.5);
+            break;
+        case 2:
+            insert.run(id, url, title, std::optional<qint64>(), number);
+            break;
+        case 3:
+            insert.run(id, url, title, number, std::optional<qint64>());
+            break;
+        case 4:
+            insert.run(id, url, title, sample::Text(QString::number(number)), number);
+            break;
+        default:
+            insert.run(id, url, title, std::optional(QByteArray::number(number)), number);
+        }
     }
 
     void expectTheOrderOfTheDatabase(sample::Random &random)
@@ -119,14 +143,20 @@ TEST_F(HistoryOrderTest, whatOnlyTheDatabaseCanCompareIsLeftToIt)
 TEST_F(HistoryOrderTest, aTableWhoseRowsHaveNoNumbersIsReadByTheDatabase)
 {
     sample::makeFolderOf(source);
-    {
-        sample::Database database(source);
-        database.execute(
-            "CREATE TABLE urls(id PRIMARY KEY, url, title, last_visit_time, visit_count) WITHOUT ROWID; "
-            "INSERT INTO urls VALUES(1, 'a', 'one', 5, 1), (2, 'b', 'two', 9, 1)");
-    }
     sample::Random random(6);
-    expectTheOrderOfTheDatabase(random);
+    for (const char *tables : {
+             "CREATE TABLE urls(id INTEGER PRIMARY KEY, url, title, last_visit_time, visit_count, _rowid_); "
+             "INSERT INTO urls VALUES(1, 'a', 'one', 5, 1, 9), (2, 'b', 'one', 5, 1, NULL), (3, 'c', 'two', "
+             "5, 1, 1)",
+             "CREATE TABLE urls(id PRIMARY KEY, url, title, last_visit_time, visit_count) WITHOUT ROWID; "
+             "INSERT INTO urls VALUES(1, 'a', 'one', 5, 1), (2, 'b', 'two', 9, 1)",
+         }) {
+        change([&] {
+            QFile::remove(source);
+            sample::Database(source).execute(tables);
+        });
+        expectTheOrderOfTheDatabase(random);
+    }
 }
 
 } // namespace roamlet::testing

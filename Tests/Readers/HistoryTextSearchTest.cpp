@@ -256,4 +256,16 @@ TEST(HistoryTextSearchTest, moreBytesThanAllowedAreRefused)
     EXPECT_THROW(rows.text(1), std::bad_alloc) << "each of two parts alone would be small enough";
 }
 
+TEST(HistoryTextSearchTest, aPageThatIsReloadedAllTheTimeIsRefusedOnceItTakesTooMuch)
+{
+    TextRows rows(10'000, HistoryText::Builder::Pages::SeveralRows);
+    const HistoryTextRow visit{.id = 1, .url = "u", .title = "t", .lastVisit = pointInTime(1)};
+    for (int i = 0; i < 1000; ++i)
+        rows.add(visit);
+    EXPECT_EQ(rows.text()->rowCount(), 1U);
+    for (int i = 0; i < 1000; ++i)
+        rows.add(visit);
+    EXPECT_THROW(rows.text(), std::bad_alloc);
+}
+
 } // namespace roamlet::testing

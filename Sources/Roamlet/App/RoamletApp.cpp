@@ -214,6 +214,7 @@ int RoamletApp::run(int argc, char **argv)
 {
     std::optional<QString> successor;
     int status = 0;
+    Processes::limitHeaps();
     {
         // Before any other thread: each of them leaves the signals to this one.
         StopSignals signals;

@@ -135,6 +135,8 @@ private:
     bool m_canBeText = true;
 };
 
+static_assert(HistoryText::Builder::partCount == TableParts::most);
+
 /// What a row is put in order by.
 struct FoundRow {
     qint64 visitCount = 0;
@@ -239,9 +241,9 @@ private:
 };
 
 /// Puts the rows in order without the database, or says nothing where it has to answer.
-std::optional<QList<HistoryItem>> rowsOfTable(const SQLiteSnapshot &database,
-                                              const HistoryStatement &statement, const HistoryQuery &query,
-                                              const Source &source, LastVisit lastVisit)
+std::expected<std::optional<QList<HistoryItem>>, ReadError>
+rowsOfTable(const SQLiteSnapshot &database, const HistoryStatement &statement, const HistoryQuery &query,
+            const Source &source, LastVisit lastVisit)
 {
     std::array<FirstRows, TableParts::most> parts{FirstRows(query, source, lastVisit),
                                                   FirstRows(query, source, lastVisit)};
@@ -251,8 +253,10 @@ std::optional<QList<HistoryItem>> rowsOfTable(const SQLiteSnapshot &database,
             return reader.query(statement.rows % condition % u"\nORDER BY _rowid_ DESC", query.patterns(),
                                 [&rows = parts[part]](const SQLiteSnapshot::Row &row) { rows.read(row); });
         });
-    if (!run || std::ranges::any_of(parts, &FirstRows::hasOddValues))
-        return {};
+    if (!run)
+        return std::unexpected(run.error());
+    if (std::ranges::any_of(parts, &FirstRows::hasOddValues))
+        return std::nullopt;
     return parts[0].items(parts[1]);
 }
 
@@ -263,9 +267,12 @@ std::expected<QList<HistoryItem>, ReadError> historyRows(const SQLiteSnapshot &d
                                                          const HistoryQuery &query, const Source &source,
                                                          LastVisit lastVisit)
 {
-    if (!statement.table.isEmpty()) {
-        if (auto rows = rowsOfTable(database, statement, query, source, lastVisit))
-            return std::move(*rows);
+    if (!statement.table.isEmpty() && TableParts::hasRowNumbers(database, statement.table)) {
+        auto rows = rowsOfTable(database, statement, query, source, lastVisit);
+        if (!rows)
+            return std::unexpected(rows.error());
+        if (*rows)
+            return std::move(**rows);
     }
     QList<HistoryItem> items;
     const auto run = database.query(

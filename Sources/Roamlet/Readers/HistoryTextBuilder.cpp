@@ -49,6 +49,9 @@ void HistoryText::Builder::Part::measureShare(const HistoryTextRow &row)
     if (m_shares.empty() || m_page != row.id)
         m_titles.clear();
     m_page = row.id;
+    // They are gone once the text is made; until then they may take as much again.
+    if (m_shares.size() >= m_builder->m_mostBytes / sizeof(Share))
+        throw std::bad_alloc();
     const auto [same, isNew] = m_titles.try_emplace(std::string(row.title), m_shares.size());
     if (!isNew) {
         Share &newest = m_shares[same->second];
@@ -70,15 +73,21 @@ void HistoryText::Builder::Part::measureShare(const HistoryTextRow &row)
     addPlace(row);
 }
 
+/// Makes room for so much text and so much memory in all.
+void HistoryText::Builder::Part::count(size_t text, size_t bytes)
+{
+    if (bytes > m_builder->m_mostBytes - m_byteCount || text > longestText - m_textSize)
+        throw std::bad_alloc();
+    m_byteCount += bytes;
+    m_textSize += text;
+}
+
 void HistoryText::Builder::Part::addPlace(const HistoryTextRow &row)
 {
     // With room for the bit of a shared page.
     constexpr size_t perRow = sizeof(Row) + 2 * sizeof(std::uint32_t) + 1;
     const size_t size = sizeOf(row);
-    if (size + perRow > m_builder->m_mostBytes - m_byteCount || size > longestText - m_textSize)
-        throw std::bad_alloc();
-    m_byteCount += size + perRow;
-    m_textSize += size;
+    count(size, size + perRow);
     m_places.push_back({.order = row.order,
                         .number = static_cast<std::uint32_t>(m_places.size()),
                         .size = static_cast<std::uint32_t>(size)});

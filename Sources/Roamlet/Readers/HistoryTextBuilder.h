@@ -10,7 +10,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
-#include <stop_token>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -63,6 +62,7 @@ public:
 
         void measureShare(const HistoryTextRow &row);
         void addPlace(const HistoryTextRow &row);
+        void count(std::size_t text, std::size_t bytes);
         std::size_t measuredCount() const { return m_shares.empty() ? m_places.size() : m_shares.size(); }
 
         Builder *m_builder = nullptr;

@@ -23,6 +23,7 @@
 #include <QPushButton>
 #include <QSet>
 #include <QTest>
+#include <QTimer>
 #include <QTreeView>
 
 namespace roamlet::testing
@@ -201,6 +202,22 @@ TEST_F(MainWindowTest, theHeadersMenuHoldsWhatTheMenuBarHolds)
                                   u"Narrower Sidebar "_s, u"Menu Bar Ctrl+M"_s, u"About Roamlet "_s,
                                   u"Close Window "_s + QKeySequence(QKeySequence::Close).toString(),
                                   u"Quit Roamlet Ctrl+Q"_s}));
+}
+
+TEST_F(MainWindowTest, theKeyForMenusOpensTheHeadersMenu)
+{
+    const auto window = makeWindow();
+    window->open();
+    window->activateWindow();
+    ASSERT_TRUE(waitUntil([&window] { return window->isActiveWindow(); }));
+    auto *menu = window->findChild<QMenu *>(u"mainMenu"_s);
+    bool wasOpen = false;
+    QObject::connect(menu, &QMenu::aboutToShow, menu, [menu, &wasOpen] {
+        wasOpen = true;
+        QTimer::singleShot(0, menu, &QMenu::close);
+    });
+    QTest::keyClick(window.get(), Qt::Key_F10);
+    EXPECT_TRUE(wasOpen);
 }
 
 TEST_F(MainWindowTest, quittingDoesNotAskTheWindowsFirst)

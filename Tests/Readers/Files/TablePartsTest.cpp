@@ -84,6 +84,8 @@ TEST_F(TablePartsTest, noRowIsLostBetweenTheParts)
              "CREATE TABLE t(id TEXT PRIMARY KEY, v) WITHOUT ROWID; INSERT INTO t VALUES('1', 'a'), ('2', "
              "'b')",
              "CREATE TABLE t(id TEXT, v); INSERT INTO t VALUES(NULL, 'a'), ('x', 'b')",
+             "CREATE TABLE t(id INTEGER PRIMARY KEY, v, _ROWID_); "
+             "INSERT INTO t VALUES(1, 'a', NULL), (2, 'b', 1), (3, 'c', 100)",
          }) {
         change([&] {
             QFile::remove(source);

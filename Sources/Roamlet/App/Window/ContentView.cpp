@@ -124,6 +124,11 @@ ContentView::ContentView(const WindowServices &services, QWidget *parent)
     update();
 }
 
+ContentView::~ContentView()
+{
+    m_services.library.setSearching(false);
+}
+
 QWidget *ContentView::makeDetail()
 {
     auto *detail = new QWidget(this);
@@ -302,6 +307,11 @@ std::optional<ExportAction> ContentView::exportAction()
 QMenu *ContentView::groupingMenu() const
 {
     return m_header->groupingMenu();
+}
+
+void ContentView::openMainMenu()
+{
+    m_header->menuButton()->showMenu();
 }
 
 QMenu *ContentView::mainMenu() const

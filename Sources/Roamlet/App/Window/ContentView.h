@@ -37,6 +37,10 @@ class ContentView final : public QSplitter
 
 public:
     explicit ContentView(const WindowServices &services, QWidget *parent = nullptr);
+    ContentView(const ContentView &) = delete;
+    ContentView &operator=(const ContentView &) = delete;
+    /// What was searched for is searched no more.
+    ~ContentView() override;
 
     const std::optional<Pane> &pane() const { return m_pane; }
     void setPane(const std::optional<Pane> &pane);
@@ -53,6 +57,8 @@ public:
     QMenu *groupingMenu() const;
     /// The menu behind the last button of the header; whoever knows the commands fills it.
     QMenu *mainMenu() const;
+    /// Returns when the menu is closed.
+    void openMainMenu();
     /// The list's name, as it stands in the title.
     QString title() const;
 

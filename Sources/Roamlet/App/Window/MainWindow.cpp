@@ -17,6 +17,7 @@
 #include <QCloseEvent>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QShortcut>
 
 namespace roamlet
 {
@@ -114,6 +115,8 @@ void MainWindow::setUpCommands()
                            "never writes to the browsers’ files.</p>"_s);
     });
     m_commands->fill(*m_content->mainMenu());
+    connect(new QShortcut(QKeySequence(Qt::Key_F10), this), &QShortcut::activated, m_content,
+            &ContentView::openMainMenu);
     showMenuBar(m_services.content.defaults.boolean(menuBarKey).value_or(false));
     updateExportCommand();
 }

@@ -4,12 +4,12 @@
 #include "Platform/Processes.h"
 
 #include <signal.h>
-#include <system_error>
 #include <unistd.h>
 
 #include <cerrno>
 #include <cstddef>
 #include <cstdlib>
+#include <exception>
 #include <latch>
 #include <malloc.h>
 #include <thread>
@@ -18,6 +18,14 @@
 
 namespace roamlet::Processes
 {
+
+namespace
+{
+
+/// More threads share them: of those that read, no more work at a time than there are cores.
+constexpr int mostHeaps = 8;
+
+} // namespace
 
 std::int32_t ownID()
 {
@@ -29,35 +37,40 @@ bool exists(std::int32_t id)
     return kill(id, 0) == 0 || errno == EPERM;
 }
 
+void limitHeaps()
+{
+    mallopt(M_ARENA_MAX, mostHeaps);
+}
+
 void giveBackMemory()
 {
     // What is free at the end of a thread's heap is not trimmed: it goes when a thread that has this heap
-    // frees a large block while more than this much is free. New threads get the heaps of those that ended
-    // last, and these were background tasks, of which no more than a few run at the same time.
+    // frees a large block while more than this much is free. New threads get the heaps of those that have
+    // ended.
     constexpr int mostAtRest = 128 << 10;
     constexpr std::size_t largeFreedBlock = 100 << 10;
-    constexpr std::ptrdiff_t heaps = 4;
     mallopt(M_TRIM_THRESHOLD, mostAtRest);
     {
         // None ends before the last has a heap, which would otherwise be the same one.
-        std::latch haveHeaps(heaps);
+        std::latch haveHeaps(mostHeaps);
         std::vector<std::jthread> threads;
+        threads.reserve(mostHeaps);
         try {
-            while (std::cmp_less(threads.size(), heaps)) {
+            while (threads.size() < mostHeaps) {
                 threads.emplace_back([&haveHeaps] {
                     void *volatile block = std::malloc(largeFreedBlock);
                     haveHeaps.arrive_and_wait();
                     std::free(block);
                 });
             }
-        } catch (const std::system_error &) {
-            // There are too many threads already.
-            haveHeaps.count_down(heaps - static_cast<std::ptrdiff_t>(threads.size()));
+        } catch (const std::exception &) {
+            // There is no memory for a thread, or there are too many already.
+            haveHeaps.count_down(mostHeaps - static_cast<std::ptrdiff_t>(threads.size()));
         }
     }
     malloc_trim(0);
-    // A busy process would lose time by giving back what it takes again soon. These are what the C library
-    // comes to by itself when it is let alone.
+    // A busy process would lose time by giving back what it takes again soon. From here on these hold;
+    // before, the C library went by the largest block that was freed.
     constexpr int mostWhenBusy = 8 << 20;
     constexpr int largestFromHeap = 4 << 20;
     mallopt(M_TRIM_THRESHOLD, mostWhenBusy);

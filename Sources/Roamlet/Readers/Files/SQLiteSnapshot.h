@@ -68,8 +68,8 @@ public:
     /// to be discarded.
     std::expected<void, ReadError> query(const QString &sql, const QStringList &parameters,
                                          const RowHandler &handleRow) const;
-    /// Another reader of the same copy, for another thread. Its changes are not replayed again: this one has
-    /// to have run a statement.
+    /// Another reader of the same copy, for another thread. This one has to have run a statement: with the
+    /// first one SQLite replays the copied log or journal.
     std::expected<SQLiteSnapshot, ReadError> secondReader() const;
     /// The private folder that holds the copy.
     QString folder() const;

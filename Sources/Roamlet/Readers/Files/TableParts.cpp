@@ -20,12 +20,13 @@ namespace
 {
 
 /// Below this a second thread and connection take longer than they save.
-constexpr std::int64_t largeTable = std::int64_t{16} << 20;
+constexpr std::int64_t largeDatabase = std::int64_t{16} << 20;
 
 /// The last row's number of the first part, or nothing where there shall be one part.
 std::optional<std::int64_t> middle(const SQLiteSnapshot &database, const QString &table)
 {
-    if (table.isEmpty() || std::thread::hardware_concurrency() < most || database.size() < largeTable)
+    if (table.isEmpty() || std::thread::hardware_concurrency() < most || database.size() < largeDatabase ||
+        !hasRowNumbers(database, table))
         return {};
     std::optional<std::int64_t> result;
     const auto ends = database.query(
@@ -42,6 +43,16 @@ std::optional<std::int64_t> middle(const SQLiteSnapshot &database, const QString
 }
 
 } // namespace
+
+bool hasRowNumbers(const SQLiteSnapshot &database, const QString &table)
+{
+    // A column of this name would be read instead.
+    bool hasColumn = false;
+    const auto columns =
+        database.query(u"SELECT 1 FROM pragma_table_info(?) WHERE name = '_rowid_' COLLATE NOCASE"_s, {table},
+                       [&hasColumn](const SQLiteSnapshot::Row &) { hasColumn = true; });
+    return columns && !hasColumn && database.query(u"SELECT _rowid_ FROM "_s % table % u" LIMIT 0", {}, {});
+}
 
 std::expected<void, ReadError> forEach(const SQLiteSnapshot &database, const QString &table, const Read &read)
 {

@@ -28,9 +28,12 @@ constexpr std::size_t most = 2;
 using Read = std::function<std::expected<void, ReadError>(std::size_t part, const SQLiteSnapshot &database,
                                                           const QString &condition)>;
 
+/// Whether each row of the table has a number of its own under the name "_rowid_".
+bool hasRowNumbers(const SQLiteSnapshot &database, const QString &table);
+
 /// Calls `read` for each part of the table, for all at the same time, and returns when all have ended: the
-/// first part's error, if there is one. Earlier parts have the smaller row numbers. A small table, one
-/// whose rows have no numbers, and one without a name is one part.
+/// first part's error, if there is one. Earlier parts have the smaller row numbers. A table of a
+/// small database, one whose rows have no numbers, and one without a name is one part.
 std::expected<void, ReadError> forEach(const SQLiteSnapshot &database, const QString &table,
                                        const Read &read);
 
