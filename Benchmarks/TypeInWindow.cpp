@@ -11,6 +11,7 @@
 #include "Platform/Linux/LinuxPlatform.h"
 #include "Readers/BrowserReader.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QEvent>
@@ -166,6 +167,38 @@ void measurePlainWay(LinkTable &table, std::size_t bytes)
     print("plain_stall_ms", part(pictures, 1));
 }
 
+/// The main window and what is measured in it.
+struct Shown {
+    QWidget *window = nullptr;
+    LinkTable *table = nullptr;
+    QLineEdit *field = nullptr;
+};
+
+/// The window once it shows rows.
+std::optional<Shown> shown()
+{
+    for (QWidget *window : QApplication::topLevelWidgets()) {
+        auto *field = window->findChild<QLineEdit *>(u"searchField"_s);
+        auto *view = window->findChild<QTreeView *>(u"historyTable"_s);
+        if (field != nullptr && view != nullptr && view->isVisible() && view->model()->rowCount() > 0)
+            return Shown{window, qobject_cast<LinkTable *>(view->parentWidget()), field};
+    }
+    return {};
+}
+
+/// A new window, as the tray's menu opens it.
+Shown opened()
+{
+    for (QWidget *menu : QApplication::topLevelWidgets()) {
+        if (menu->objectName() == u"menuBarMenu")
+            menu->findChild<QAction *>(u"open"_s)->trigger();
+    }
+    std::optional<Shown> result;
+    for (result = shown(); !result; result = shown())
+        wait(std::chrono::milliseconds(10));
+    return *result;
+}
+
 /// What the program keeps once its window is closed.
 double memoryInTray(QWidget &window)
 {
@@ -174,12 +207,14 @@ double memoryInTray(QWidget &window)
     return residentMegabytes();
 }
 
-void measure(QWidget &window, LinkTable &table, QLineEdit &field)
+void measure(QWidget &firstWindow)
 {
     wait(std::chrono::seconds(2));
-    print("tray_before_mb", memoryInTray(window));
-    window.show();
-    window.activateWindow();
+    print("tray_before_mb", memoryInTray(firstWindow));
+    const Shown now = opened();
+    QWidget &window = *now.window;
+    LinkTable &table = *now.table;
+    QLineEdit &field = *now.field;
     wait(std::chrono::seconds(1));
     const double before = residentMegabytes();
 
@@ -238,15 +273,11 @@ void begin()
 {
     auto *look = new QTimer(QCoreApplication::instance());
     QObject::connect(look, &QTimer::timeout, look, [look] {
-        for (QWidget *window : QApplication::topLevelWidgets()) {
-            auto *field = window->findChild<QLineEdit *>(u"searchField"_s);
-            auto *view = window->findChild<QTreeView *>(u"historyTable"_s);
-            if (field == nullptr || view == nullptr || !view->isVisible() || view->model()->rowCount() == 0)
-                continue;
-            look->stop();
-            measure(*window, *qobject_cast<LinkTable *>(view->parentWidget()), *field);
+        const std::optional<Shown> first = shown();
+        if (!first)
             return;
-        }
+        look->stop();
+        measure(*first->window);
     });
     look->start(std::chrono::milliseconds(50));
 }
