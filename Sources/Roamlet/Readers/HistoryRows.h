@@ -30,6 +30,8 @@ struct HistoryStatement {
     QString order;
     /// The table that it goes through from one end to the other, rows of the same time in the order of their
     /// numbers; empty where it does not. Such rows are read in parts and put in order here.
+    // The compiler wants it from whoever names only the others.
+    // NOLINTNEXTLINE(readability-redundant-member-init)
     QString table = QString();
 };
 

@@ -54,10 +54,10 @@ void HistoryText::Builder::Part::measureShare(const HistoryTextRow &row)
         throw std::bad_alloc();
     const auto [same, isNew] = m_titles.try_emplace(std::string(row.title), m_shares.size());
     if (!isNew) {
-        Share &newest = m_shares[same->second];
-        Place &place = m_places[newest.number];
+        const std::uint32_t number = m_shares[same->second].number;
+        Place &place = m_places[number];
         const bool isNewest = row.order > place.order;
-        m_shares.push_back({.number = newest.number, .isNewest = isNewest});
+        m_shares.push_back({.number = number, .isNewest = isNewest});
         if (isNewest) {
             place.order = row.order;
             m_shares[same->second].isNewest = false;

@@ -37,6 +37,8 @@ bool exists(std::int32_t id)
     return kill(id, 0) == 0 || errno == EPERM;
 }
 
+// Only the main thread calls these.
+// NOLINTBEGIN(concurrency-mt-unsafe)
 void limitHeaps()
 {
     mallopt(M_ARENA_MAX, mostHeaps);
@@ -76,5 +78,6 @@ void giveBackMemory()
     mallopt(M_TRIM_THRESHOLD, mostWhenBusy);
     mallopt(M_MMAP_THRESHOLD, largestFromHeap);
 }
+// NOLINTEND(concurrency-mt-unsafe)
 
 } // namespace roamlet::Processes
