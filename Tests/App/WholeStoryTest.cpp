@@ -213,6 +213,18 @@ TEST_F(WholeStoryTest, onceAllWindowsAreClosedItLetsGoOfWhatOnlyTheyNeed)
     EXPECT_TRUE(eventually([this] { return shownTitles().size() == 5; }));
 }
 
+TEST_F(WholeStoryTest, aClosedWindowGoesWithTheProgramAtTheLatest)
+{
+    app->start(false);
+    const QPointer<MainWindow> window = app->mainWindow();
+    window->close();
+    app->openMainWindow();
+    ASSERT_NE(app->mainWindow(), window);
+    ASSERT_FALSE(window.isNull()) << "the loop has not turned";
+    app.reset();
+    EXPECT_TRUE(window.isNull());
+}
+
 TEST_F(WholeStoryTest, whatWasSearchedForGoesWithItsWindowAlsoWhereAnotherIsLeft)
 {
     app->start(false);

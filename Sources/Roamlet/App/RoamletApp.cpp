@@ -128,7 +128,12 @@ RoamletApp::RoamletApp(const Services &services)
     QObject::connect(&m_services.library, &Library::lastLoadedChanged, &m_context, [this] { rest(); });
 }
 
-RoamletApp::~RoamletApp() = default;
+RoamletApp::~RoamletApp()
+{
+    // They use services that may go right after the program.
+    for (const QPointer<MainWindow> &window : m_closedWindows)
+        delete window;
+}
 
 void RoamletApp::openMainWindow()
 {
@@ -160,9 +165,12 @@ void RoamletApp::openMainWindow()
 
 void RoamletApp::dropClosedWindow()
 {
+    m_closedWindows.removeIf([](const QPointer<MainWindow> &window) { return window.isNull(); });
+    if (!m_mainWindow || m_mainWindow->isVisible())
+        return;
     // Whoever asks may have been called by it.
-    if (m_mainWindow && !m_mainWindow->isVisible())
-        m_mainWindow.release()->deleteLater();
+    m_mainWindow->deleteLater();
+    m_closedWindows.append(m_mainWindow.release());
 }
 
 SettingsWindow &RoamletApp::settingsWindow()

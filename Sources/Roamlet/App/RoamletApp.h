@@ -12,6 +12,9 @@
 #include "Opening/Opener.h"
 #include "Platform/Platform.h"
 
+#include <QList>
+#include <QPointer>
+
 #include <functional>
 #include <optional>
 #include <stop_token>
@@ -85,6 +88,8 @@ private:
     QObject m_context;
     /// Each opening makes a new one.
     std::unique_ptr<MainWindow> m_mainWindow;
+    /// Those that go with the next turn of the event loop.
+    QList<QPointer<MainWindow>> m_closedWindows;
     std::unique_ptr<SettingsWindow> m_settingsWindow;
     MenuBarMenu m_menu;
     MenuBarIcon m_icon;
