@@ -13,7 +13,6 @@
 #include <latch>
 #include <malloc.h>
 #include <thread>
-#include <utility>
 #include <vector>
 
 namespace roamlet::Processes
