@@ -176,7 +176,7 @@ TEST_F(ResponsivenessTest, aListOfTenThousandRowsIsSortedAndPainted)
     const auto beforeSort = std::chrono::steady_clock::now();
     const Collation collation(UserLocale::collation());
     const auto sorted =
-        sortedRows(rows, {{SortColumn::Title, SortOrder::Forward}}, collation, std::stop_token());
+        sortedRows(allRows(rows), {{SortColumn::Title, SortOrder::Forward}}, collation, std::stop_token());
     const auto sort = std::chrono::steady_clock::now() - beforeSort;
 
     FirstRowWatch watch(view);
@@ -185,7 +185,7 @@ TEST_F(ResponsivenessTest, aListOfTenThousandRowsIsSortedAndPainted)
     QTest::mouseClick(header->viewport(), Qt::LeftButton, {},
                       QPoint(header->sectionViewportPosition(0) + 5, header->height() / 2));
     ASSERT_TRUE(waitUntil([&watch] { return watch.painted.has_value(); }, patience, 1ms));
-    EXPECT_EQ(watch.firstRow(), sorted->first().title);
+    EXPECT_EQ(watch.firstRow(), sorted->front()->title);
 
     const auto microseconds = [](auto duration) {
         return std::to_string(std::chrono::duration_cast<std::chrono::microseconds>(duration).count());

@@ -29,13 +29,14 @@ HistoryItem row(const QString &isoTime)
 std::string grouped(const QList<HistoryItem> &rows, const QString &now, bool newestFirst = true,
                     const UserCalendar &calendar = berlin)
 {
-    return sections(dayGroups(rows, newestFirst, at(now), calendar));
+    return sections(dayGroups(allRows(rows), newestFirst, at(now), calendar));
 }
 
 /// The section of a row that was visited at `time`.
 std::string sectionOf(const QString &time, const QString &now, const UserCalendar &calendar = berlin)
 {
-    return dayGroups({row(time)}, true, at(now), calendar).first().title.toStdString();
+    const QList<HistoryItem> rows{row(time)};
+    return dayGroups(allRows(rows), true, at(now), calendar).first().title.toStdString();
 }
 
 } // namespace
@@ -72,9 +73,9 @@ TEST(DayGroups, aMicrosecondDecides)
     const PointInTime today = at(u"2025-03-13T00:00:00+01:00"_s);
     const PointInTime february = at(u"2025-02-01T00:00:00+01:00"_s);
     const auto moment = std::chrono::duration<double>(0.000001);
-    EXPECT_EQ(sections(dayGroups({visited(u"a"_s, today - moment), visited(u"b"_s, today),
-                                  visited(u"c"_s, february - moment), visited(u"d"_s, february)},
-                                 true, now, berlin)),
+    const QList<HistoryItem> rows{visited(u"a"_s, today - moment), visited(u"b"_s, today),
+                                  visited(u"c"_s, february - moment), visited(u"d"_s, february)};
+    EXPECT_EQ(sections(dayGroups(allRows(rows), true, now, berlin)),
               "Today: b; Yesterday: a; February 2025: d; January 2025: c");
 }
 
@@ -152,16 +153,16 @@ TEST(DayGroups, noTwoSectionsHaveOneTitle)
         rows.append(visited(u"x"_s, end - std::chrono::hours(hour)));
     for (int day = 0; day < 40; ++day) {
         const QList<RowGroup<HistoryItem>> groups =
-            dayGroups(rows, true, end + std::chrono::hours(24 * day), berlin);
+            dayGroups(allRows(rows), true, end + std::chrono::hours(24 * day), berlin);
         QSet<QString> ids;
         qsizetype count = 0;
         PointInTime previous = end + std::chrono::hours(1);
         for (const RowGroup<HistoryItem> &group : groups) {
             ids.insert(group.id());
-            count += group.rows.size();
+            count += static_cast<qsizetype>(group.rows.size());
             EXPECT_FALSE(group.site);
-            EXPECT_LT(group.rows.first().lastVisit, previous) << qPrintable(group.title);
-            previous = group.rows.last().lastVisit;
+            EXPECT_LT(group.rows.front()->lastVisit, previous) << qPrintable(group.title);
+            previous = group.rows.back()->lastVisit;
         }
         EXPECT_EQ(ids.size(), groups.size());
         EXPECT_EQ(count, rows.size());
@@ -171,7 +172,8 @@ TEST(DayGroups, noTwoSectionsHaveOneTitle)
 TEST(DayGroups, todayIsTheSameSectionOnAnyDay)
 {
     const auto id = [](const QString &time) {
-        return dayGroups({row(time)}, true, at(time), berlin).first().id();
+        const QList<HistoryItem> rows{row(time)};
+        return dayGroups(allRows(rows), true, at(time), berlin).first().id();
     };
     EXPECT_EQ(id(u"2025-03-13T12:00:00+01:00"_s), u"Today");
     EXPECT_EQ(id(u"2025-03-14T12:00:00+01:00"_s), u"Today");
@@ -229,11 +231,11 @@ TEST(DayGroups, monthsStandInTheOrderOfTimeInEveryLanguage)
                                   row(u"2024-04-10T12:00:00Z"_s)};
     for (const QString &locale : {u"en_US"_s, u"de_DE"_s, u"es_ES"_s, u"ja_JP"_s, u"ru_RU"_s, u"ar_EG"_s,
                                   u"tr_TR"_s, u"th_TH"_s, u"fa_IR"_s}) {
-        const QList<RowGroup<HistoryItem>> groups =
-            dayGroups(rows, true, at(u"2025-03-13T12:00:00Z"_s), {.timeZone = u"UTC"_s, .locale = locale});
+        const QList<RowGroup<HistoryItem>> groups = dayGroups(
+            allRows(rows), true, at(u"2025-03-13T12:00:00Z"_s), {.timeZone = u"UTC"_s, .locale = locale});
         ASSERT_EQ(groups.size(), 3) << qPrintable(locale);
         EXPECT_TRUE(std::ranges::is_sorted(groups, std::ranges::greater(), [](const auto &group) {
-            return group.rows.first().lastVisit;
+            return group.rows.front()->lastVisit;
         })) << qPrintable(locale);
     }
 }
@@ -246,7 +248,7 @@ TEST(DayGroups, putNonsenseIntoTheOldestAndTheNewestSections)
                                   visited(u"past"_s, pointInTime(-infinity)),
                                   row(u"2025-03-13T11:00:00+01:00"_s)};
     const QList<RowGroup<HistoryItem>> groups =
-        dayGroups(rows, true, at(u"2025-03-13T12:00:00+01:00"_s), berlin);
+        dayGroups(allRows(rows), true, at(u"2025-03-13T12:00:00+01:00"_s), berlin);
     ASSERT_EQ(groups.size(), 2);
     EXPECT_EQ(titles(groups[0].rows), "future 2025-03-13T11:00:00+01:00");
     EXPECT_EQ(titles(groups[1].rows), "never past");

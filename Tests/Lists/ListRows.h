@@ -65,12 +65,26 @@ inline Bookmark bookmark(const QString &title, std::optional<PointInTime> dateAd
 }
 
 template<typename Row>
+QList<Row> copies(const RowPointers<Row> &rows)
+{
+    QList<Row> result;
+    for (const Row *row : rows)
+        result.append(*row);
+    return result;
+}
+
+template<typename Row>
 std::string titles(const QList<Row> &rows)
 {
     QStringList result;
     for (const Row &row : rows)
         result.append(row.title);
     return result.join(u' ').toStdString();
+}
+template<typename Row>
+std::string titles(const RowPointers<Row> &rows)
+{
+    return titles(copies(rows));
 }
 
 /// "Today: a b; Yesterday: c".

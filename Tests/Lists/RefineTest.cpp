@@ -24,7 +24,7 @@ const QList<SortComparator> byTitle{{SortColumn::Title, SortOrder::Forward}};
 
 std::string found(const QString &search, const QList<Bookmark> &rows = someBookmarks)
 {
-    return titles(*refine(rows, search, {}, &Bookmark::searchKey, Collation(u"en_US"_s)));
+    return titles(*refine(allRows(rows), search, {}, &Bookmark::searchKey, Collation(u"en_US"_s)));
 }
 
 } // namespace
@@ -92,18 +92,20 @@ TEST(Refine, keepsRowsThatHoldASigmaWhereverItStandsInAWord)
 TEST(Refine, matchesRowsByTheKeyThatIsGiven)
 {
     const QList<Bookmark> rows{bookmark(u"a"_s, {}, {u"inside"_s}), bookmark(u"inside"_s)};
-    EXPECT_EQ(titles(*refine(rows, u"inside", {}, &Bookmark::title, Collation(u"en_US"_s))), "inside");
-    EXPECT_EQ(
-        titles(*refine(
-            rows, u"inside", {}, [](const Bookmark &row) { return row.folder; }, Collation(u"en_US"_s))),
-        "a");
+    EXPECT_EQ(titles(*refine(allRows(rows), u"inside", {}, &Bookmark::title, Collation(u"en_US"_s))),
+              "inside");
+    EXPECT_EQ(titles(*refine(
+                  allRows(rows), u"inside", {}, [](const Bookmark &row) { return row.folder; },
+                  Collation(u"en_US"_s))),
+              "a");
 }
 
 TEST(Refine, sortsRows)
 {
-    EXPECT_EQ(titles(*refine(someBookmarks, u"foo", byTitle, &Bookmark::searchKey, Collation(u"en_US"_s))),
-              "bar, then foo Foo foo only");
-    EXPECT_EQ(titles(*refine(someBookmarks, u"", {{SortColumn::Title, SortOrder::Reverse}},
+    EXPECT_EQ(
+        titles(*refine(allRows(someBookmarks), u"foo", byTitle, &Bookmark::searchKey, Collation(u"en_US"_s))),
+        "bar, then foo Foo foo only");
+    EXPECT_EQ(titles(*refine(allRows(someBookmarks), u"", {{SortColumn::Title, SortOrder::Reverse}},
                              &Bookmark::searchKey, Collation(u"en_US"_s))),
               "neither foo only Foo bar, then foo");
 }
@@ -117,7 +119,8 @@ TEST(Refine, givesNothingOnceAStopIsRequested)
             source->request_stop();
         return row.searchKey;
     };
-    EXPECT_FALSE(refine(someBookmarks, u"foo", byTitle, key, Collation(u"en_US"_s), source->get_token()));
+    EXPECT_FALSE(
+        refine(allRows(someBookmarks), u"foo", byTitle, key, Collation(u"en_US"_s), source->get_token()));
     EXPECT_EQ(asked, 2) << "the rest is not looked at";
 }
 

@@ -74,8 +74,8 @@ TEST(RowTreeTest, isEmptyAtFirst)
 
 TEST(RowTreeTest, rowsHaveTheirOrder)
 {
-    const RowTree tree =
-        RowTree::ofRows<HistoryItem>({item(u"b"_s, u"https://b/"_s), item(u"a"_s, u"https://a/"_s)});
+    const QList<HistoryItem> items{item(u"b"_s, u"https://b/"_s), item(u"a"_s, u"https://a/"_s)};
+    const RowTree tree = RowTree::ofRows(allRows(items));
     EXPECT_EQ(text(tree), u"b a");
     EXPECT_EQ(tree.linkCount(), 2);
 }
@@ -85,7 +85,8 @@ TEST(RowTreeTest, groupsBecomeSections)
     const QList<HistoryItem> items{item(u"1"_s, u"https://b.example/1"_s),
                                    item(u"2"_s, u"https://a.example/2"_s), item(u"3"_s, u"about:blank"_s),
                                    item(u"4"_s, u"https://b.example/4"_s)};
-    const RowTree tree = RowTree::ofGroups(siteGroups(items, &HistoryItem::site, Collation(u"en_US"_s)));
+    const RowTree tree =
+        RowTree::ofGroups(siteGroups(allRows(items), &HistoryItem::site, Collation(u"en_US"_s)));
     EXPECT_EQ(text(tree), u"a.example(2) b.example(1 4) Other(3)");
     EXPECT_EQ(tree.row(1).kind, TableRow::Kind::Section);
     EXPECT_EQ(tree.row(1).site, u"a.example");

@@ -23,7 +23,7 @@ std::string groupedBySite(const QStringList &sites, const QString &locale = u"en
         row.site = site;
         rows.append(row);
     }
-    return sections(siteGroups(rows, &HistoryItem::site, Collation(locale)));
+    return sections(siteGroups(allRows(rows), &HistoryItem::site, Collation(locale)));
 }
 
 } // namespace
@@ -34,7 +34,7 @@ TEST(SiteGroups, gatherTheRowsOfASiteInTheirOrder)
         onSite(u"1"_s, u"https://www.example.org/b"_s), onSite(u"2"_s, u"https://example.com/"_s),
         onSite(u"3"_s, u"http://example.org:8080/a"_s), onSite(u"4"_s, u"https://example.com/"_s),
         onSite(u"5"_s, u"https://EXAMPLE.org/"_s)};
-    const auto groups = siteGroups(rows, &HistoryItem::site, Collation(u"en_US"_s));
+    const auto groups = siteGroups(allRows(rows), &HistoryItem::site, Collation(u"en_US"_s));
     EXPECT_EQ(sections(groups), "example.com: 2 4; example.org: 1 3 5");
     EXPECT_EQ(groups[0].site, u"example.com"_s);
     EXPECT_EQ(groups[1].id(), u"example.org");
@@ -45,7 +45,7 @@ TEST(SiteGroups, rowsWithoutASiteComeLastAsOther)
     const QList<HistoryItem> rows{
         onSite(u"1"_s, u"file:///tmp/a"_s), onSite(u"2"_s, u"https://zebra.example/"_s),
         onSite(u"3"_s, u"no address"_s), onSite(u"4"_s, u"https://other.example/"_s)};
-    const auto groups = siteGroups(rows, &HistoryItem::site, Collation(u"en_US"_s));
+    const auto groups = siteGroups(allRows(rows), &HistoryItem::site, Collation(u"en_US"_s));
     EXPECT_EQ(sections(groups), "other.example: 4; zebra.example: 2; Other: 1 3");
     EXPECT_FALSE(groups.last().site) << "no list can be narrowed to it";
 }
@@ -74,13 +74,13 @@ TEST(SiteGroups, takeBookmarksToo)
     const QList<Bookmark> rows{bookmark(u"a"_s, {}, {}, u"https://b.example/"_s),
                                bookmark(u"b"_s, {}, {}, u"https://a.example/"_s),
                                bookmark(u"c"_s, {}, {}, u""_s)};
-    EXPECT_EQ(sections(siteGroups(rows, &Bookmark::site, Collation(u"en_US"_s))),
+    EXPECT_EQ(sections(siteGroups(allRows(rows), &Bookmark::site, Collation(u"en_US"_s))),
               "a.example: b; b.example: a; Other: c");
 }
 
 TEST(SiteGroups, anEmptyListHasNoSections)
 {
-    EXPECT_TRUE(siteGroups(QList<Bookmark>(), &Bookmark::site, Collation(u"en_US"_s)).isEmpty());
+    EXPECT_TRUE(siteGroups(RowPointers<Bookmark>(), &Bookmark::site, Collation(u"en_US"_s)).isEmpty());
 }
 
 } // namespace roamlet::testing

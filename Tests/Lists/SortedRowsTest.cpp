@@ -23,7 +23,7 @@ template<typename Row>
 std::string sortedTitles(const QList<Row> &rows, const QList<SortComparator> &order,
                          const QString &locale = u"en_US"_s)
 {
-    return titles(*sortedRows(rows, order, Collation(locale)));
+    return titles(*sortedRows(allRows(rows), order, Collation(locale)));
 }
 
 } // namespace
@@ -105,11 +105,12 @@ TEST(SortedRows, equalRowsKeepTheirOrderInBothDirections)
     const Collation collation(u"en_US"_s);
     for (const SortOrder direction : {SortOrder::Forward, SortOrder::Reverse}) {
         for (const SortColumn column : {SortColumn::Title, SortColumn::Date, SortColumn::Source})
-            EXPECT_EQ(*sortedRows(rows, {{column, direction}}, collation), rows);
-        const QList<HistoryItem> sorted = *sortedRows(rows, {{SortColumn::Visits, direction}}, collation);
-        for (qsizetype i = 1; i < sorted.size(); ++i) {
-            if (sorted[i - 1].visitCount == sorted[i].visitCount) {
-                EXPECT_LT(sorted[i - 1].id.toInt(), sorted[i].id.toInt());
+            EXPECT_EQ(*sortedRows(allRows(rows), {{column, direction}}, collation), allRows(rows));
+        const RowPointers<HistoryItem> sorted =
+            *sortedRows(allRows(rows), {{SortColumn::Visits, direction}}, collation);
+        for (std::size_t i = 1; i < sorted.size(); ++i) {
+            if (sorted[i - 1]->visitCount == sorted[i]->visitCount) {
+                EXPECT_LT(sorted[i - 1]->id.toInt(), sorted[i]->id.toInt());
             }
         }
     }
@@ -155,9 +156,10 @@ TEST(SortedRows, haveTheOrderOfComparingThemInPairs)
                 return left.lastVisit < right.lastVisit;
             return collation.compare(left.title, right.title) > 0;
         });
-        EXPECT_EQ(*sortedRows(
-                      rows, {{SortColumn::Date, SortOrder::Forward}, {SortColumn::Title, SortOrder::Reverse}},
-                      collation),
+        EXPECT_EQ(copies(*sortedRows(
+                      allRows(rows),
+                      {{SortColumn::Date, SortOrder::Forward}, {SortColumn::Title, SortOrder::Reverse}},
+                      collation)),
                   expected)
             << qPrintable(locale);
     }
@@ -170,7 +172,7 @@ TEST(SortedRows, takeTitlesOfAnyLength)
                                   visited(same + u"10"_s, pointInTime(3)),
                                   visited(same + u"1"_s, pointInTime(4))};
     const QList<HistoryItem> sorted =
-        *sortedRows(rows, {{SortColumn::Title, SortOrder::Forward}}, Collation(u"en_US"_s));
+        copies(*sortedRows(allRows(rows), {{SortColumn::Title, SortOrder::Forward}}, Collation(u"en_US"_s)));
     EXPECT_EQ(sorted, (QList<HistoryItem>{rows[1], rows[3], rows[0], rows[2]}));
 }
 
@@ -179,7 +181,7 @@ TEST(SortedRows, areNothingOnceAStopIsRequested)
     const auto source = std::make_unique<std::stop_source>();
     source->request_stop();
     const QList<HistoryItem> rows{visited(u"b"_s, pointInTime(1))};
-    EXPECT_FALSE(sortedRows(rows, {{SortColumn::Title, SortOrder::Forward}}, Collation(u"en_US"_s),
+    EXPECT_FALSE(sortedRows(allRows(rows), {{SortColumn::Title, SortOrder::Forward}}, Collation(u"en_US"_s),
                             source->get_token()));
 }
 

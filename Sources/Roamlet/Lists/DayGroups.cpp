@@ -96,17 +96,17 @@ private:
 
 } // namespace
 
-QList<RowGroup<HistoryItem>> dayGroups(const QList<HistoryItem> &items, bool newestFirst, PointInTime now,
-                                       const UserCalendar &calendar)
+QList<RowGroup<HistoryItem>> dayGroups(const RowPointers<HistoryItem> &items, bool newestFirst,
+                                       PointInTime now, const UserCalendar &calendar)
 {
-    if (items.isEmpty())
+    if (items.empty())
         return {};
     SectionNumbers numbers(items.size());
     DaySections days(now, calendar, numbers);
-    for (const HistoryItem &item : items)
-        numbers.addRow(days.sectionOf(item.lastVisit));
+    for (const HistoryItem *item : items)
+        numbers.addRow(days.sectionOf(item->lastVisit));
 
-    std::vector<QList<HistoryItem>> rowsOfSection = numbers.distribute(items);
+    std::vector<RowPointers<HistoryItem>> rowsOfSection = numbers.distribute(items);
     std::vector<std::size_t> order(rowsOfSection.size());
     for (std::size_t section = 0; section < order.size(); ++section)
         order[section] = section;
@@ -118,7 +118,7 @@ QList<RowGroup<HistoryItem>> dayGroups(const QList<HistoryItem> &items, bool new
 
     QList<RowGroup<HistoryItem>> groups;
     for (const std::size_t section : order) {
-        if (!rowsOfSection[section].isEmpty())
+        if (!rowsOfSection[section].empty())
             groups.append({days.sections()[section].title, {}, std::move(rowsOfSection[section])});
     }
     return groups;

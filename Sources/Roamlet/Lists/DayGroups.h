@@ -15,7 +15,7 @@ namespace roamlet
 
 /// Cuts history by the day of the last visit, as seen from `now`: today, yesterday, this week, last week,
 /// this month, and each month before. Rows keep their order within a section.
-QList<RowGroup<HistoryItem>> dayGroups(const QList<HistoryItem> &items, bool newestFirst, PointInTime now,
-                                       const UserCalendar &calendar);
+QList<RowGroup<HistoryItem>> dayGroups(const RowPointers<HistoryItem> &items, bool newestFirst,
+                                       PointInTime now, const UserCalendar &calendar);
 
 } // namespace roamlet

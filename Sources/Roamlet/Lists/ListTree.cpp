@@ -14,16 +14,15 @@ namespace
 {
 
 /// The bookmarks of the source and the site that are asked for.
-QList<Bookmark> narrowed(const QList<Bookmark> &all, const ListWish &wish)
+RowPointers<Bookmark> narrowed(const QList<Bookmark> &all, const ListWish &wish)
 {
-    if (!wish.sourceID && !wish.site)
-        return all;
-    QList<Bookmark> result;
+    RowPointers<Bookmark> result;
+    result.reserve(static_cast<std::size_t>(all.size()));
     for (const Bookmark &bookmark : all) {
         if (wish.site && bookmark.site != *wish.site)
             continue;
         if (!wish.sourceID || bookmark.source.id() == *wish.sourceID)
-            result.append(bookmark);
+            result.push_back(&bookmark);
     }
     return result;
 }
@@ -34,7 +33,7 @@ std::optional<RowTree> ofHistory(const QList<HistoryItem> &found, const ListWish
                                  const Setting &setting, const std::stop_token &stop)
 {
     // The words were searched for where the rows were found; what is left is the order.
-    const std::optional rows = sortedRows(found, wish.order, *setting.collation, stop);
+    const std::optional rows = sortedRows(allRows(found), wish.order, *setting.collation, stop);
     if (!rows)
         return {};
     switch (wish.grouping) {

@@ -15,7 +15,6 @@
 #include <optional>
 #include <stop_token>
 #include <utility>
-#include <vector>
 
 namespace roamlet
 {
@@ -30,9 +29,9 @@ QStringList refineWords(const QString &text);
 /// The rows whose `key` holds each word of the typed text somewhere, both kinds of sigma being one letter, in
 /// the order of `order`. Nothing when `stop` is requested on the way. Any thread.
 template<typename Row, typename Key>
-std::optional<QList<Row>> refine(const QList<Row> &rows, QStringView typed,
-                                 const QList<SortComparator> &order, const Key &key,
-                                 const Collation &collation, const std::stop_token &stop = {})
+std::optional<RowPointers<Row>> refine(const RowPointers<Row> &rows, QStringView typed,
+                                       const QList<SortComparator> &order, const Key &key,
+                                       const Collation &collation, const std::stop_token &stop = {})
 {
     const QStringList words = refineWords(refineText(typed));
     if (words.isEmpty())
@@ -44,19 +43,15 @@ std::optional<QList<Row>> refine(const QList<Row> &rows, QStringView typed,
     const auto holdsAll = [&wanted](const QString &text) {
         return std::ranges::all_of(wanted, [&text](const QString &word) { return text.contains(word); });
     };
-    std::vector<const Row *> found;
-    for (const Row &row : rows) {
+    RowPointers<Row> found;
+    for (const Row *row : rows) {
         if (stop.stop_requested())
             return {};
-        const auto &text = std::invoke(key, row);
+        const auto &text = std::invoke(key, *row);
         if (hasSigmas ? holdsAll(withPlainSigmas(text)) : holdsAll(text))
-            found.push_back(&row);
+            found.push_back(row);
     }
-    QList<Row> kept;
-    kept.reserve(static_cast<qsizetype>(found.size()));
-    for (const Row *row : found)
-        kept.append(*row);
-    return sortedRows(std::move(kept), order, collation, stop);
+    return sortedRows(std::move(found), order, collation, stop);
 }
 
 } // namespace roamlet

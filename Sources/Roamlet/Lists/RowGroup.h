@@ -3,7 +3,8 @@
 
 #pragma once
 
-#include <QList>
+#include "Lists/RowPointers.h"
+
 #include <QString>
 
 #include <optional>
@@ -20,9 +21,7 @@ struct RowGroup {
     /// The site of a section by site, so that the list can be narrowed to it.
     std::optional<QString> site;
     /// In the order of the list.
-    QList<Row> rows;
-
-    bool operator==(const RowGroup &) const = default;
+    RowPointers<Row> rows;
 
     const QString &id() const { return title; }
 };
@@ -32,10 +31,7 @@ struct RowGroup {
 class SectionNumbers
 {
 public:
-    explicit SectionNumbers(qsizetype rowCount)
-    {
-        m_sectionOfRow.reserve(static_cast<std::size_t>(rowCount));
-    }
+    explicit SectionNumbers(std::size_t rowCount) { m_sectionOfRow.reserve(rowCount); }
 
     /// A new section without rows.
     std::size_t addSection();
@@ -44,19 +40,19 @@ public:
 
     /// The sections' rows, section by section.
     template<typename Row>
-    std::vector<QList<Row>> distribute(const QList<Row> &rows) const
+    std::vector<RowPointers<Row>> distribute(const RowPointers<Row> &rows) const
     {
-        std::vector<QList<Row>> result(m_rowCounts.size());
+        std::vector<RowPointers<Row>> result(m_rowCounts.size());
         for (std::size_t section = 0; section < result.size(); ++section)
             result[section].reserve(m_rowCounts[section]);
-        for (qsizetype row = 0; row < rows.size(); ++row)
-            result[m_sectionOfRow[static_cast<std::size_t>(row)]].append(rows[row]);
+        for (std::size_t row = 0; row < rows.size(); ++row)
+            result[m_sectionOfRow[row]].push_back(rows[row]);
         return result;
     }
 
 private:
     std::vector<std::size_t> m_sectionOfRow;
-    std::vector<qsizetype> m_rowCounts;
+    std::vector<std::size_t> m_rowCounts;
 };
 
 } // namespace roamlet

@@ -21,22 +21,22 @@ std::optional<RowTree> RowTree::ofBookmarks(const QList<BookmarkNode> &nodes,
     // nothing here recurses.
     struct Open {
         Number number;
-        QList<BookmarkNode> children;
+        const QList<BookmarkNode> *children;
     };
-    std::vector<Open> folders{{root, nodes}};
+    std::vector<Open> folders{{root, &nodes}};
     for (std::size_t i = 0; i < folders.size(); ++i) {
-        Open folder = std::move(folders[i]);
-        const std::optional sorted = sortedRows(std::move(folder.children), order, collation, stop);
+        const Open folder = folders[i];
+        const std::optional sorted = sortedRows(allRows(*folder.children), order, collation, stop);
         if (!sorted || stop.stop_requested())
             return {};
         tree.beginChildren(folder.number);
         std::optional<QString> id;
         if (folder.number != root)
             id = tree.row(folder.number).id;
-        for (const BookmarkNode &node : *sorted) {
-            if (node.isFolder() && !node.children->isEmpty())
-                folders.push_back({tree.m_nodes.size(), *node.children});
-            tree.append(folder.number, TableRow::of(node, id));
+        for (const BookmarkNode *node : *sorted) {
+            if (node->isFolder() && !node->children->isEmpty())
+                folders.push_back({tree.m_nodes.size(), &*node->children});
+            tree.append(folder.number, TableRow::of(*node, id));
         }
     }
     return tree;

@@ -46,10 +46,10 @@ public:
 
     /// Rows without sections.
     template<typename Row>
-    static RowTree ofRows(const QList<Row> &rows)
+    static RowTree ofRows(const RowPointers<Row> &rows)
     {
         RowTree tree;
-        tree.m_nodes.reserve(1 + static_cast<std::size_t>(rows.size()));
+        tree.m_nodes.reserve(1 + rows.size());
         tree.appendChildren(root, rows);
         return tree;
     }
@@ -57,11 +57,11 @@ public:
     template<typename Row>
     static RowTree ofGroups(const QList<RowGroup<Row>> &groups)
     {
-        qsizetype count = groups.size();
+        std::size_t count = 1 + static_cast<std::size_t>(groups.size());
         for (const RowGroup<Row> &group : groups)
             count += group.rows.size();
         RowTree tree;
-        tree.m_nodes.reserve(1 + static_cast<std::size_t>(count));
+        tree.m_nodes.reserve(count);
         tree.beginChildren(root);
         for (const RowGroup<Row> &group : groups)
             tree.append(root, TableRow::section(group.title, group.site));
@@ -88,11 +88,11 @@ public:
 
 private:
     template<typename Row>
-    void appendChildren(Number parent, const QList<Row> &rows)
+    void appendChildren(Number parent, const RowPointers<Row> &rows)
     {
         beginChildren(parent);
-        for (const Row &row : rows)
-            append(parent, TableRow::of(row));
+        for (const Row *row : rows)
+            append(parent, TableRow::of(*row));
     }
     void beginChildren(Number parent);
     void append(Number parent, TableRow row);

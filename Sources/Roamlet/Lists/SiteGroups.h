@@ -31,13 +31,14 @@ RowGroup<Row> siteGroup(const QString &site)
 
 /// Cuts any rows by their site. Rows keep their order within a section.
 template<typename Row, typename SiteOf>
-QList<RowGroup<Row>> siteGroups(const QList<Row> &rows, const SiteOf &siteOf, const Collation &collation)
+QList<RowGroup<Row>> siteGroups(const RowPointers<Row> &rows, const SiteOf &siteOf,
+                                const Collation &collation)
 {
     SectionNumbers numbers(rows.size());
     QHash<QString, std::size_t> sectionOfSite;
     QStringList sites;
-    for (const Row &row : rows) {
-        const QString &site = std::invoke(siteOf, row);
+    for (const Row *row : rows) {
+        const QString &site = std::invoke(siteOf, *row);
         auto found = sectionOfSite.constFind(site);
         if (found == sectionOfSite.constEnd()) {
             found = sectionOfSite.insert(site, numbers.addSection());
@@ -46,7 +47,7 @@ QList<RowGroup<Row>> siteGroups(const QList<Row> &rows, const SiteOf &siteOf, co
         numbers.addRow(*found);
     }
 
-    std::vector<QList<Row>> rowsOfSection = numbers.distribute(rows);
+    std::vector<RowPointers<Row>> rowsOfSection = numbers.distribute(rows);
     QList<RowGroup<Row>> groups;
     groups.reserve(sites.size());
     for (const qsizetype section : siteOrder(sites, collation)) {

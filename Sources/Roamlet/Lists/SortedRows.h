@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "Lists/RowPointers.h"
 #include "Lists/SortComparator.h"
 #include "Model/Collation.h"
 
@@ -12,7 +13,6 @@
 #include <functional>
 #include <optional>
 #include <stop_token>
-#include <utility>
 #include <variant>
 #include <vector>
 
@@ -31,14 +31,14 @@ struct SortLevel {
     Value value;
 };
 
-/// `field` of the row with a number among those that begin at `rows`.
+/// `field` of the row with a number among `rows`, which are kept meanwhile.
 template<typename Row>
-SortLevel::Value sortValue(const SortField<Row> &field, const Row *rows)
+SortLevel::Value sortValue(const SortField<Row> &field, const RowPointers<Row> &rows)
 {
     if (const auto *rank = std::get_if<SortRank<Row>>(&field))
-        return [rank = *rank, rows](qsizetype row) { return rank(rows[row]); };
-    return [text = std::get<SortText<Row>>(field), rows](qsizetype row, QString &made) {
-        return text(rows[row], made);
+        return [rank = *rank, pointers = rows.data()](qsizetype row) { return rank(*pointers[row]); };
+    return [text = std::get<SortText<Row>>(field), pointers = rows.data()](qsizetype row, QString &made) {
+        return text(*pointers[row], made);
     };
 }
 
@@ -55,26 +55,22 @@ std::optional<std::vector<qsizetype>> sortedRowNumbers(qsizetype count, const st
 
 /// `rows` in the order of `order`; see above.
 template<typename Row>
-std::optional<QList<Row>> sortedRows(QList<Row> rows, const QList<SortComparator> &order,
-                                     const Collation &collation, const std::stop_token &stop = {})
+std::optional<RowPointers<Row>> sortedRows(RowPointers<Row> rows, const QList<SortComparator> &order,
+                                           const Collation &collation, const std::stop_token &stop = {})
 {
     if (order.isEmpty())
         return rows;
-    // Copies them where somebody else holds the same list, one after the other as they lie in memory. What
-    // follows only moves them: following each row's strings in sorted order would wait for memory each time.
-    Row *unsorted = rows.data();
-
     std::vector<SortLevel> levels;
     for (const SortComparator &comparator : order)
-        levels.push_back({comparator.order, sortValue(sortField<Row>(comparator.column), unsorted)});
-    const std::optional numbers = sortedRowNumbers(rows.size(), levels, collation, stop);
+        levels.push_back({comparator.order, sortValue(sortField<Row>(comparator.column), rows)});
+    const std::optional numbers =
+        sortedRowNumbers(static_cast<qsizetype>(rows.size()), levels, collation, stop);
     if (!numbers)
         return {};
-
-    QList<Row> sorted;
+    RowPointers<Row> sorted;
     sorted.reserve(rows.size());
     for (const qsizetype number : *numbers)
-        sorted.append(std::move(unsorted[number]));
+        sorted.push_back(rows[static_cast<std::size_t>(number)]);
     return sorted;
 }
 

@@ -39,12 +39,12 @@ protected:
 
     void setRows(const QList<HistoryItem> &rows)
     {
-        model.setTree(std::make_shared<RowTree>(RowTree::ofRows(rows)));
+        model.setTree(std::make_shared<RowTree>(RowTree::ofRows(allRows(rows))));
     }
     void setGroups(const QList<HistoryItem> &rows)
     {
         model.setTree(std::make_shared<RowTree>(
-            RowTree::ofGroups(siteGroups(rows, &HistoryItem::site, Collation(u"en_US"_s)))));
+            RowTree::ofGroups(siteGroups(allRows(rows), &HistoryItem::site, Collation(u"en_US"_s)))));
     }
     QVariant cell(int row, int column, int role = Qt::DisplayRole) const
     {

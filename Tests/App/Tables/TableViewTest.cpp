@@ -373,11 +373,11 @@ TEST_F(TableViewTest, thousandsOfSectionsAreSelectedAtOnce)
 {
     show(table);
     constexpr int count = 20'000;
+    QList<HistoryItem> rows(count);
     QList<RowGroup<HistoryItem>> groups;
     for (int i = 0; i < count; ++i) {
-        HistoryItem item;
-        item.id = u"%1"_s.arg(i);
-        groups.append({.title = u"s%1"_s.arg(i), .site = {}, .rows = {item}});
+        rows[i].id = u"%1"_s.arg(i);
+        groups.append({.title = u"s%1"_s.arg(i), .site = {}, .rows = {&rows[i]}});
     }
     table.view().showTree(std::make_shared<RowTree>(RowTree::ofGroups(groups)), TableView::Scrolling::ToTop);
     // The view lists the rows once on each side of it.
