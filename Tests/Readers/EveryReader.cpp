@@ -46,7 +46,7 @@ void lookAtItems(const QList<HistoryItem> &items)
     for (const HistoryItem &item : items) {
         EXPECT_TRUE(item.id.startsWith(item.source.id() + u'/'));
         EXPECT_TRUE(!item.title.isEmpty() || item.url.isEmpty());
-        EXPECT_EQ(item.searchKey, lowerCased(item.title) % u'\n' % lowerCased(item.url));
+        EXPECT_EQ(item.searchKey(), lowerCased(item.title) % u'\n' % lowerCased(item.url));
     }
     EXPECT_LE(items.size(), HistoryQuery::defaultLimit);
 }

@@ -121,9 +121,9 @@ TEST_P(FamilyHistory, missingTextsAreReplaced)
     const QList<HistoryItem> items = read();
     ASSERT_EQ(items.size(), 3);
     EXPECT_EQ(items[0].title, u"https://a.example/X"_s);
-    EXPECT_EQ(items[0].searchKey, u"https://a.example/x\nhttps://a.example/x"_s);
+    EXPECT_EQ(items[0].searchKey(), u"https://a.example/x\nhttps://a.example/x"_s);
     EXPECT_EQ(items[1].title, u"https://b.example/"_s);
-    EXPECT_EQ(items[1].searchKey, u"https://b.example/\nhttps://b.example/"_s);
+    EXPECT_EQ(items[1].searchKey(), u"https://b.example/\nhttps://b.example/"_s);
     EXPECT_EQ(items[2].title, u""_s);
     EXPECT_EQ(items[2].url, u""_s);
     EXPECT_EQ(items[2].site, u""_s);

@@ -79,10 +79,10 @@ void Library::readNext()
     const LibraryReading::Request request{.disabled = m_choice.disabled(),
                                           .only = isFull ? std::nullopt : std::optional(ids),
                                           .previous = m_snapshot};
+    m_context = LibraryReading::readContext(m_platform);
     m_tasks.run(
         this,
-        [request, context = LibraryReading::readContext(m_platform),
-         clock = &m_platform.clock](const std::stop_token &stop) {
+        [request, context = m_context, clock = &m_platform.clock](const std::stop_token &stop) {
             ReadContext stoppable = context;
             stoppable.stop = stop;
             return LibraryReading::readAll(request, stoppable, *clock);
@@ -150,7 +150,7 @@ HistorySearch Library::queryHistory(const HistoryQuery &query, const std::option
     QList<Source> sources = ordered(m_snapshot.sources);
     if (sourceID)
         sources.removeIf([&sourceID](const Source &source) { return source.id() != *sourceID; });
-    return {query, sources, m_snapshot, m_searchCache.texts(), LibraryReading::readContext(m_platform)};
+    return {query, sources, m_snapshot, m_searchCache.texts(), m_context};
 }
 
 void Library::expectSearch()

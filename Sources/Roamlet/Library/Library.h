@@ -13,6 +13,7 @@
 #include "Model/HistoryQuery.h"
 #include "Platform/BackgroundTasks.h"
 #include "Platform/Platform.h"
+#include "Readers/ReadContext.h"
 
 #include <QImage>
 #include <QList>
@@ -103,6 +104,8 @@ private:
     void refreshMenu();
 
     Platform m_platform;
+    /// Of the latest reading: looking for the folders of every browser takes longer than a letter may.
+    ReadContext m_context;
     Snapshot m_snapshot;
     bool m_isLoading = false;
     std::optional<PointInTime> m_lastLoaded;

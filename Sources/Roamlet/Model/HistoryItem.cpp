@@ -19,14 +19,18 @@ HistoryItem HistoryItem::ofRow(qint64 rowID, const QString &rowTitle, const QStr
             .lastVisit = visitedAt,
             .visitCount = visits,
             .source = from,
-            .searchKey = lowerCased(shownTitle % u'\n' % rowUrl),
             .site = Site::name(rowUrl).value_or(QString())};
+}
+
+QString HistoryItem::searchKey() const
+{
+    return lowerCased(title % u'\n' % url);
 }
 
 size_t qHash(const HistoryItem &item, size_t seed)
 {
     return qHashMulti(seed, item.id, item.title, item.url, secondsSince1970(item.lastVisit), item.visitCount,
-                      item.source, item.searchKey, item.site);
+                      item.source, item.site);
 }
 
 } // namespace roamlet

@@ -21,15 +21,17 @@ struct HistoryItem {
     PointInTime lastVisit;
     qint64 visitCount = 0;
     Source source;
-    /// Lower-cased title, line feed, URL.
-    QString searchKey;
     /// Site::name of the URL, or empty.
     QString site;
 
+    /// Lower-cased title, line feed, URL. Made when it is asked for: databases and texts in memory are
+    /// searched without it.
+    QString searchKey() const;
+
     bool operator==(const HistoryItem &) const = default;
 
-    /// The row `rowID` of the history table of `from`. An empty title is replaced by the URL; the search key
-    /// and the site are derived here, once.
+    /// The row `rowID` of the history table of `from`. An empty title is replaced by the URL; the site is
+    /// derived here, once.
     static HistoryItem ofRow(qint64 rowID, const QString &rowTitle, const QString &rowUrl,
                              PointInTime visitedAt, qint64 visits, const Source &from);
 };

@@ -248,7 +248,6 @@ TEST_F(ChromiumHistory, aRowIsAWholeItem)
                                            .lastVisit = pointInTime(someTimeSince1970),
                                            .visitCount = 5'000'000'000,
                                            .source = chrome(),
-                                           .searchKey = u"ätitle\nhttps://www.example.com:8443/path?q=1"_s,
                                            .site = u"example.com"_s}}));
 }
 

@@ -71,7 +71,6 @@ TEST_F(FirefoxHistory, aRowIsAWholeItem)
                                            .lastVisit = pointInTime(visitTimeSince1970),
                                            .visitCount = 5'000'000'000,
                                            .source = firefox(),
-                                           .searchKey = u"ätitle\nhttps://www.example.com:8443/path?q=1"_s,
                                            .site = u"example.com"_s}}));
 }
 

@@ -76,7 +76,6 @@ TEST_F(SafariHistory, aRowIsAWholeItem)
                                            .lastVisit = pointInTime(1'778'307'200.25),
                                            .visitCount = 5'000'000'000,
                                            .source = Source::safari(),
-                                           .searchKey = u"ätitle\nhttps://www.example.com/a"_s,
                                            .site = u"example.com"_s}}));
 }
 
@@ -125,8 +124,8 @@ TEST_F(SafariHistory, aMissingTitleOfTheNewestVisitIsReplacedByTheAddress)
            {.itemID = 2, .time = 5, .title = u""_s}});
     const QList<HistoryItem> items = read();
     ASSERT_EQ(titlesOf(items), (QStringList{u"https://A.example/"_s, u"https://b.example/"_s}));
-    EXPECT_EQ(items[0].searchKey, u"https://a.example/\nhttps://a.example/"_s);
-    EXPECT_EQ(items[1].searchKey, u"https://b.example/\nhttps://b.example/"_s);
+    EXPECT_EQ(items[0].searchKey(), u"https://a.example/\nhttps://a.example/"_s);
+    EXPECT_EQ(items[1].searchKey(), u"https://b.example/\nhttps://b.example/"_s);
 }
 
 TEST_F(SafariHistory, pagesWithoutAVisitAreNotListed)
