@@ -45,7 +45,8 @@ protected:
             "CREATE TABLE urls(id INTEGER PRIMARY KEY, url, title, last_visit_time, visit_count); "
             "CREATE TABLE bulk(v)");
         sample::Statement insert = database.prepare("INSERT INTO urls VALUES(?, ?, ?, ?, ?)");
-        qint64 id = 0;
+        // Numbers of rows may be below zero.
+        qint64 id = -rows;
         for (qint64 i = 0; i < rows; ++i) {
             id += 1 + random.below(3);
             const sample::Text url = sample::Text(u"https://a.test/%1"_s.arg(i));
