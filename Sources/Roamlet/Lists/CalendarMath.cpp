@@ -25,6 +25,26 @@ namespace
 /// No clock on earth is farther from UTC.
 constexpr double farthestOffset = 26.0 * 3600;
 
+constexpr int hoursPerDay = 24;
+constexpr double hour = 3600;
+constexpr double day = hoursPerDay * hour;
+/// More than the month of any calendar has.
+constexpr std::size_t mostDays = 64;
+
+/// The moments between two, at equal distances and with both of them, where that comes out even: no clocks
+/// are put forward or back in between. Asking for each one's place in the calendar takes much longer.
+std::vector<PointInTime> evenly(PointInTime begin, PointInTime end, double distance)
+{
+    const double first = secondsSince1970(begin);
+    const double length = secondsSince1970(end) - first;
+    if (!(length >= 0) || length > mostDays * day || std::fmod(length, day) != 0)
+        return {};
+    std::vector<PointInTime> result;
+    for (double passed = 0; passed <= length; passed += distance)
+        result.push_back(pointInTime(first + passed));
+    return result;
+}
+
 QDateTime utc(double seconds)
 {
     return QDateTime::fromSecsSinceEpoch(static_cast<qint64>(seconds), Qt::UTC);
@@ -158,6 +178,41 @@ PointInTime CalendarMath::startOfNextMonth(PointInTime startOfMonth)
 {
     return m_native->dayStart(startOfMonth,
                               [this](UErrorCode &status) { m_native->calendar->add(UCAL_MONTH, 1, status); });
+}
+
+PointInTime CalendarMath::startOfNextDay(PointInTime startOfDay)
+{
+    return m_native->dayStart(startOfDay,
+                              [this](UErrorCode &status) { m_native->calendar->add(UCAL_DATE, 1, status); });
+}
+
+PointInTime CalendarMath::startOfNextWeek(PointInTime startOfWeek)
+{
+    return m_native->dayStart(startOfWeek,
+                              [this](UErrorCode &status) { m_native->calendar->add(UCAL_DATE, 7, status); });
+}
+
+std::vector<PointInTime> CalendarMath::hoursOfDay(PointInTime startOfDay)
+{
+    const PointInTime end = startOfNextDay(startOfDay);
+    if (std::vector<PointInTime> result = evenly(startOfDay, end, hour); result.size() == hoursPerDay + 1)
+        return result;
+    const double midnight = std::floor(m_native->wallTime(startOfDay) / day) * day;
+    std::vector<PointInTime> result;
+    for (int i = 0; i < hoursPerDay; ++i)
+        result.push_back(m_native->firstMoment(midnight + (i * hour)));
+    result.push_back(end);
+    return result;
+}
+
+std::vector<PointInTime> CalendarMath::daysBetween(PointInTime begin, PointInTime end)
+{
+    if (std::vector<PointInTime> result = evenly(begin, end, day); !result.empty())
+        return result;
+    std::vector<PointInTime> result{begin};
+    while (result.back() < end && result.size() <= mostDays)
+        result.push_back(startOfNextDay(result.back()));
+    return result;
 }
 
 QString CalendarMath::monthTitle(PointInTime time)

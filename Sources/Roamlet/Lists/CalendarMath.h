@@ -9,6 +9,7 @@
 #include <QString>
 
 #include <memory>
+#include <vector>
 
 namespace roamlet
 {
@@ -31,6 +32,14 @@ public:
     PointInTime startOfPreviousDay(PointInTime startOfDay);
     PointInTime startOfPreviousWeek(PointInTime startOfWeek);
     PointInTime startOfNextMonth(PointInTime startOfMonth);
+    PointInTime startOfNextDay(PointInTime startOfDay);
+    PointInTime startOfNextWeek(PointInTime startOfWeek);
+
+    /// The moments at which the clock on the wall first shows each full hour of the day that begins then, and
+    /// the beginning of the next day: 25 in all. An hour that is left out begins when the next one does.
+    std::vector<PointInTime> hoursOfDay(PointInTime startOfDay);
+    /// The beginnings of the days from one beginning to another, both among them.
+    std::vector<PointInTime> daysBetween(PointInTime begin, PointInTime end);
 
     /// "March 2025", "marzo de 2025", "2025年3月".
     QString monthTitle(PointInTime time);

@@ -22,9 +22,11 @@ namespace
 class DaySections
 {
 public:
+    enum class Span { Day, Week, Month };
     struct Section {
         QString title;
         PointInTime date;
+        Span span;
     };
 
     DaySections(PointInTime now, const UserCalendar &calendar, SectionNumbers &numbers)
@@ -33,11 +35,11 @@ public:
         const PointInTime today = m_math.startOfDay(now);
         const PointInTime thisWeek = m_math.startOfWeek(now);
         // In this order: a week may begin in the month before, and yesterday may lie in the week before.
-        add(u"Today"_s, today);
-        add(u"Yesterday"_s, m_math.startOfPreviousDay(today));
-        add(u"Earlier This Week"_s, thisWeek);
-        add(u"Last Week"_s, m_math.startOfPreviousWeek(thisWeek));
-        add(u"Earlier This Month"_s, m_math.startOfMonth(now));
+        add(u"Today"_s, today, Span::Day);
+        add(u"Yesterday"_s, m_math.startOfPreviousDay(today), Span::Day);
+        add(u"Earlier This Week"_s, thisWeek, Span::Week);
+        add(u"Last Week"_s, m_math.startOfPreviousWeek(thisWeek), Span::Week);
+        add(u"Earlier This Month"_s, m_math.startOfMonth(now), Span::Month);
     }
 
     std::size_t sectionOf(PointInTime time)
@@ -54,6 +56,16 @@ public:
 
     const std::vector<Section> &sections() const { return m_sections; }
 
+    /// The hours or days that a section is about, with nothing counted yet.
+    VisitStrip ticks(const Section &section)
+    {
+        if (section.span == Span::Day)
+            return VisitStrip::between(VisitStrip::Unit::Hour, m_math.hoursOfDay(section.date));
+        const PointInTime end = section.span == Span::Week ? m_math.startOfNextWeek(section.date)
+                                                           : m_math.startOfNextMonth(section.date);
+        return VisitStrip::between(VisitStrip::Unit::Day, m_math.daysBetween(section.date, end));
+    }
+
 private:
     static constexpr std::size_t recentCount = 5;
 
@@ -65,9 +77,9 @@ private:
         bool contains(PointInTime time) const { return time >= begin && time < end; }
     };
 
-    std::size_t add(const QString &title, PointInTime date)
+    std::size_t add(const QString &title, PointInTime date, Span span)
     {
-        m_sections.push_back({title, date});
+        m_sections.push_back({title, date, span});
         return m_numbers.addSection();
     }
 
@@ -81,7 +93,7 @@ private:
         // Years before the first have the same names as those after it.
         auto section = m_sectionOfTitle.constFind(title);
         if (section == m_sectionOfTitle.constEnd())
-            section = m_sectionOfTitle.insert(title, add(title, begin));
+            section = m_sectionOfTitle.insert(title, add(title, begin, Span::Month));
         return *m_months.insert(next, {begin, m_math.startOfNextMonth(begin), *section});
     }
 
@@ -118,8 +130,11 @@ QList<RowGroup<HistoryItem>> dayGroups(const RowPointers<HistoryItem> &items, bo
 
     QList<RowGroup<HistoryItem>> groups;
     for (const std::size_t section : order) {
-        if (!rowsOfSection[section].empty())
-            groups.append({days.sections()[section].title, {}, std::move(rowsOfSection[section])});
+        if (rowsOfSection[section].empty())
+            continue;
+        groups.append({days.sections()[section].title, {}, std::move(rowsOfSection[section])});
+        groups.last().visits = days.ticks(days.sections()[section]);
+        groups.last().visits.count(groups.last().rows);
     }
     return groups;
 }

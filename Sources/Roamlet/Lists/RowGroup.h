@@ -4,6 +4,7 @@
 #pragma once
 
 #include "Lists/RowPointers.h"
+#include "Lists/VisitStrip.h"
 
 #include <QString>
 
@@ -22,6 +23,8 @@ struct RowGroup {
     std::optional<QString> site;
     /// In the order of the list.
     RowPointers<Row> rows;
+    /// When its rows were visited, of a section by day.
+    VisitStrip visits = {};
 
     const QString &id() const { return title; }
 };

@@ -42,6 +42,12 @@ std::optional<RowTree> RowTree::ofBookmarks(const QList<BookmarkNode> &nodes,
     return tree;
 }
 
+const VisitStrip &RowTree::visits(Number section) const
+{
+    static const VisitStrip none;
+    return section > 0 && section <= m_visits.size() ? m_visits[section - 1] : none;
+}
+
 void RowTree::beginChildren(Number parent)
 {
     m_nodes[parent].firstChild = m_nodes.size();

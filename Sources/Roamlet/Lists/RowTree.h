@@ -63,8 +63,11 @@ public:
         RowTree tree;
         tree.m_nodes.reserve(count);
         tree.beginChildren(root);
-        for (const RowGroup<Row> &group : groups)
+        tree.m_visits.reserve(static_cast<std::size_t>(groups.size()));
+        for (const RowGroup<Row> &group : groups) {
             tree.append(root, TableRow::section(group.title, group.site));
+            tree.m_visits.push_back(group.visits);
+        }
         Number section = tree.m_nodes[root].firstChild;
         for (const RowGroup<Row> &group : groups)
             tree.appendChildren(section++, group.rows);
@@ -83,6 +86,8 @@ public:
     const TableRow &row(Number number) const { return m_nodes[number].row; }
     /// All nodes, the root first, parents before their children.
     const std::vector<Node> &nodes() const { return m_nodes; }
+    /// When the rows of a section were visited; without ticks for anything but a section by day.
+    const VisitStrip &visits(Number section) const;
     /// How many links there are, whatever is open or closed.
     qsizetype linkCount() const { return m_linkCount; }
 
@@ -98,6 +103,8 @@ private:
     void append(Number parent, TableRow row);
 
     std::vector<Node> m_nodes;
+    /// Of the sections, which are the nodes behind the root.
+    std::vector<VisitStrip> m_visits;
     qsizetype m_linkCount = 0;
 };
 
