@@ -184,7 +184,7 @@ QList<BookmarkNode> Library::bookmarkTree(const std::optional<QString> &sourceID
     QList<BookmarkNode> result;
     for (const Source &source : ordered(m_snapshot.sources)) {
         BookmarkNode folder;
-        folder.id = u"source/" % source.id();
+        folder.id = BookmarkNode::idOfSource(source);
         folder.title = source.label();
         folder.source = source;
         folder.children = m_snapshot.bookmarkTrees.value(source.id());

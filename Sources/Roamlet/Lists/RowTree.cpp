@@ -5,6 +5,7 @@
 
 #include "Lists/SortedRows.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace roamlet
@@ -48,6 +49,24 @@ const VisitStrip &RowTree::visits(Number section) const
     return section > 0 && section <= m_visits.size() ? m_visits[section - 1] : none;
 }
 
+int RowTree::linksBelow(Number number) const
+{
+    int links = 0;
+    std::vector<Number> open{number};
+    while (!open.empty()) {
+        const Node &node = m_nodes[open.back()];
+        open.pop_back();
+        for (int i = 0; i < node.childCount; ++i) {
+            const Number child = node.firstChild + static_cast<Number>(i);
+            if (m_nodes[child].row.kind == TableRow::Kind::Link)
+                ++links;
+            else
+                open.push_back(child);
+        }
+    }
+    return links;
+}
+
 void RowTree::beginChildren(Number parent)
 {
     m_nodes[parent].firstChild = m_nodes.size();
@@ -57,6 +76,7 @@ void RowTree::append(Number parent, TableRow row)
 {
     if (row.kind == TableRow::Kind::Link)
         ++m_linkCount;
+    m_mostVisits = std::max(m_mostVisits, row.visits);
     const int depth = parent == root ? 0 : m_nodes[parent].depth + 1;
     m_nodes.push_back({.row = std::move(row),
                        .parent = parent,

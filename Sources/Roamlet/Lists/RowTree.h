@@ -90,6 +90,10 @@ public:
     const VisitStrip &visits(Number section) const;
     /// How many links there are, whatever is open or closed.
     qsizetype linkCount() const { return m_linkCount; }
+    /// The visits of the row with the most.
+    qint64 mostVisits() const { return m_mostVisits; }
+    /// How many links lie below a node, however deep.
+    int linksBelow(Number number) const;
 
 private:
     template<typename Row>
@@ -106,6 +110,7 @@ private:
     /// Of the sections, which are the nodes behind the root.
     std::vector<VisitStrip> m_visits;
     qsizetype m_linkCount = 0;
+    qint64 m_mostVisits = 0;
 };
 
 using SharedRowTree = std::shared_ptr<const RowTree>;

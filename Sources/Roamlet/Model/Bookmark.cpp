@@ -171,6 +171,11 @@ QList<Bookmark> BookmarkNode::flattened(const QList<BookmarkNode> &roots)
     return result;
 }
 
+QString BookmarkNode::idOfSource(const Source &source)
+{
+    return u"source/" % source.id();
+}
+
 size_t qHash(const Bookmark &bookmark, size_t seed)
 {
     const double added = bookmark.dateAdded ? secondsSince1970(*bookmark.dateAdded) : 0.0;

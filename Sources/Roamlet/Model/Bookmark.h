@@ -72,6 +72,8 @@ public:
     /// The bookmarks at and below this node in tree order. `path` and `folderID` describe what encloses it.
     QList<Bookmark> flattened(const QStringList &path = {},
                               const std::optional<QString> &folderID = {}) const;
+    /// The id of the folder that stands for all bookmarks of a source beside those of others.
+    static QString idOfSource(const Source &source);
     /// The bookmarks of a whole source, tree by tree.
     static QList<Bookmark> flattened(const QList<BookmarkNode> &roots);
 };

@@ -73,7 +73,7 @@ TEST_F(BookmarkTableTest, bookmarksHaveTheBrowsersOrderAtFirst)
     EXPECT_EQ(text(table), "Zebra|Bar|6:12 AM|Chrome - Personal\n"
                            "Apple pie|Bar › Food|5:13 AM|Chrome - Personal\n"
                            "Bread|Bar › Food › Deep|Chrome - Personal\n"
-                           "Ant|Bar|3/30/26|Chrome - Personal\n"
+                           "Ant|Bar|Mar 30, 6:13 AM|Chrome - Personal\n"
                            "Report|Bar|6:13 AM|Chrome - Work");
     EXPECT_EQ(table.rowCount(), 5);
     EXPECT_EQ(table.view().header()->sortIndicatorSection(), -1);
@@ -165,7 +165,7 @@ TEST_F(BookmarkTreeTest, theOutermostFoldersAreOpenAtFirst)
     EXPECT_EQ(text(table), "Bar\n"
                            "  Zebra|6:12 AM\n"
                            "  Food +\n"
-                           "  Ant|3/30/26");
+                           "  Ant|Mar 30, 6:13 AM");
     EXPECT_EQ(table.rowCount(), 4);
 }
 

@@ -3,30 +3,12 @@
 
 #include "App/Tables/CellText.h"
 
-#include "Model/UserCalendar.h"
-
 #include <gtest/gtest.h>
 
 namespace roamlet::testing
 {
 
 using namespace Qt::StringLiterals;
-
-namespace
-{
-
-/// 2026-05-09 06:13:20 UTC, a Saturday.
-constexpr PointInTime now = pointInTime(1'778'307'200);
-constexpr double hour = 3600;
-constexpr double day = 24 * hour;
-
-QString brief(double secondsAgo, const QString &zone = u"UTC"_s)
-{
-    const LocalText text(UserCalendar{zone, u"en_GB"_s}, now);
-    return text.briefDate(pointInTime(secondsSince1970(now) - secondsAgo));
-}
-
-} // namespace
 
 TEST(CellTextTest, lineEndsAndControlCharactersBecomeBlanks)
 {
@@ -65,41 +47,6 @@ TEST(CellTextTest, aToolTipBreaksLongAddresses)
     const QString tip = CellText::toolTip({QString(250, u'x')});
     EXPECT_EQ(tip.count(u"<br>"_s), 2);
     EXPECT_LT(CellText::toolTip({QString(1'000'000, u'x')}).size(), 1200);
-}
-
-TEST(CellTextTest, datesGetShorterTheCloserTheyAre)
-{
-    EXPECT_EQ(brief(0), u"06:13");
-    EXPECT_EQ(brief(6 * hour), u"00:13");
-    EXPECT_EQ(brief(7 * hour), u"Fri 23:13");
-    EXPECT_EQ(brief(6 * day), u"Sun 06:13");
-    EXPECT_EQ(brief(7 * day), u"02/05/2026");
-}
-
-TEST(CellTextTest, tomorrowIsNotTakenForLastWeek)
-{
-    EXPECT_EQ(brief(-day), u"10/05/2026");
-}
-
-TEST(CellTextTest, daysAreTheUsersOwn)
-{
-    EXPECT_EQ(brief(0, u"Asia/Tokyo"_s), u"15:13");
-    EXPECT_EQ(brief(14 * hour, u"Asia/Tokyo"_s), u"01:13");
-    EXPECT_EQ(brief(16 * hour, u"Asia/Tokyo"_s), u"Fri 23:13");
-    EXPECT_EQ(brief(0, u"Nowhere/Else"_s), u"06:13");
-}
-
-TEST(CellTextTest, numbersThatAreNoDatesDoNoHarm)
-{
-    const LocalText text(UserCalendar{u"UTC"_s, u"en_GB"_s}, now);
-    for (const double seconds : {1e300, -1e300, 1e18, -1e18})
-        EXPECT_FALSE(text.briefDate(pointInTime(seconds)).isNull()) << seconds;
-}
-
-TEST(CellTextTest, numbersHaveTheirDigitsInGroups)
-{
-    EXPECT_EQ(LocalText(UserCalendar{u"UTC"_s, u"en_US"_s}, now).number(1'234'567), u"1,234,567");
-    EXPECT_EQ(LocalText(UserCalendar{u"UTC"_s, u"de_DE"_s}, now).number(1'234'567), u"1.234.567");
 }
 
 } // namespace roamlet::testing

@@ -60,7 +60,7 @@ TEST_F(HistoryTableTest, theNewestPagesComeFirst)
                            "work|4:13 AM|7|Chrome - Work\n"
                            "yesterday|Fri 6:13 AM|2|Chrome - Personal\n"
                            "monday|Mon 6:13 AM|1,234|Chrome - Personal\n"
-                           "old|3/30/26|1|Chrome - Personal");
+                           "old|Mar 30, 6:13 AM|1|Chrome - Personal");
     EXPECT_EQ(table.rowCount(), 6);
     EXPECT_FALSE(table.isCapped());
 }

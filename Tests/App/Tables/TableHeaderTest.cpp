@@ -5,6 +5,7 @@
 
 #include "App/Tables/HistoryTable.h"
 #include "App/Tables/TableTest.h"
+#include "Lists/RowTree.h"
 
 #include <QMenu>
 #include <QTest>
@@ -79,10 +80,54 @@ TEST_F(TableHeaderTest, atFirstTheTitleFillsTheWidth)
 {
     EXPECT_EQ(shownColumns(), defaultColumns);
     EXPECT_EQ(header().length(), header().viewport()->width());
+    table->resize(700, table->height());
     const int title = header().sectionSize(0);
     table->resize(table->width() + 100, table->height());
     EXPECT_EQ(header().sectionSize(0), title + 100);
     EXPECT_FALSE(home.defaults.contains(u"columns.history"_s)) << "nobody has arranged anything";
+}
+
+TEST_F(TableHeaderTest, whatNoTitleNeedsGoesToTheLastColumn)
+{
+    table->resize(3000, table->height());
+    EXPECT_EQ(header().sectionSize(0), header().widestTitle());
+    EXPECT_EQ(header().length(), header().viewport()->width()) << "there is no hole";
+    EXPECT_GT(header().sectionSize(HistoryTable::Source), header().widestTitle());
+    EXPECT_FALSE(home.defaults.contains(u"columns.history"_s));
+}
+
+TEST_F(TableHeaderTest, aNarrowListHasIconsForBrowsers)
+{
+    table->resize(800, 300);
+    EXPECT_FALSE(header().isNarrow());
+    const int wide = header().sectionSize(HistoryTable::Source);
+    table->resize(530, 300);
+    EXPECT_TRUE(header().isNarrow());
+    EXPECT_LT(header().sectionSize(HistoryTable::Source), wide);
+    EXPECT_EQ(header().length(), header().viewport()->width());
+}
+
+TEST_F(TableHeaderTest, aColumnThatGetsNarrowerLeavesNoHole)
+{
+    table->resize(700, 300);
+    const int edge = rightEdge(HistoryTable::Title);
+    drag(edge, edge - 60);
+    EXPECT_EQ(header().length(), header().viewport()->width());
+    build();
+    table->resize(700, 300);
+    EXPECT_EQ(header().length(), header().viewport()->width());
+    EXPECT_EQ(rightEdge(HistoryTable::Title), edge - 60);
+}
+
+TEST_F(TableHeaderTest, largeNumbersOfVisitsAreNotCut)
+{
+    const int before = header().sectionSize(HistoryTable::Visits);
+    HistoryItem item;
+    item.visitCount = 123'456'789'012;
+    const QList<HistoryItem> rows{item};
+    table->view().showTree(std::make_shared<RowTree>(RowTree::ofRows(allRows(rows))),
+                           TableView::Scrolling::ToTop);
+    EXPECT_GT(header().sectionSize(HistoryTable::Visits), before);
 }
 
 TEST_F(TableHeaderTest, theTitleDoesNotVanishInANarrowWindow)
@@ -149,6 +194,7 @@ TEST_F(TableHeaderTest, theArrowKeysPassHiddenColumns)
     QTest::keyClick(&header(), Qt::Key_Right);
     QTest::keyClick(&header(), Qt::Key_Right, Qt::ControlModifier);
     EXPECT_EQ(shownColumns(), (QStringList{u"Title"_s, u"Source"_s, u"Last Visited"_s}));
+    table->resize(700, table->height());
     for (int i = 0; i < 50; ++i)
         QTest::keyClick(&header(), Qt::Key_Left, Qt::ShiftModifier);
     EXPECT_EQ(header().sectionSize(HistoryTable::LastVisited), header().minimumSectionSize());
@@ -176,6 +222,7 @@ TEST_F(TableHeaderTest, hidingAColumnWithTheMouseChoosesNoWidth)
     QCoreApplication::sendEvent(header().viewport(), &event);
     choose(*table, u"columnMenu"_s, u"Visits"_s);
     EXPECT_TRUE(ColumnLayout::load(home.defaults, u"columns.history"_s).widths.isEmpty());
+    table->resize(700, table->height());
     const int title = header().sectionSize(HistoryTable::Title);
     table->resize(table->width() + 100, table->height());
     EXPECT_EQ(header().sectionSize(HistoryTable::Title), title + 100);

@@ -72,7 +72,8 @@ TEST_F(TableModelTest, aRowHasItsTexts)
     EXPECT_EQ(cell(0, 1), u"6:13 AM"_s);
     EXPECT_EQ(cell(0, 2), u"1,234"_s);
     EXPECT_EQ(cell(0, 3), u"Safari"_s);
-    EXPECT_EQ(model.index(0, 0).flags(), Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren);
+    EXPECT_EQ(model.index(0, 0).flags(),
+              Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled | Qt::ItemNeverHasChildren);
 }
 
 TEST_F(TableModelTest, aListReplacesTheOneBefore)

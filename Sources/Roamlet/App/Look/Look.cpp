@@ -177,6 +177,7 @@ int Measures::units(double count) const
 
 Look::Look(const QPalette &palette, const QFont &font, Contrast contrast)
     : measures(font),
+      textFont(font),
       titleFont(boldFont(scaledFont(font, 1.26))),
       headingFont(boldFont(font)),
       smallFont(scaledFont(font, 0.92)),

@@ -90,6 +90,7 @@ struct Look {
     QColor mark(const QColor &square) const;
 
     Measures measures;
+    QFont textFont;
     /// Titles of pages.
     QFont titleFont;
     /// Titles of sections.

@@ -36,7 +36,7 @@ auto common(const Rows &rows, const Value &value)
 /// The folder as its browser knows it. The ones that hold a whole source in the tree of all are our own.
 std::optional<QString> browsersFolder(const std::optional<QString> &folderID, const Source &source)
 {
-    return folderID == u"source/" % source.id() ? std::nullopt : folderID;
+    return folderID == BookmarkNode::idOfSource(source) ? std::nullopt : folderID;
 }
 
 LinkMenuSubject ofLinks(const QList<TableRow> &rows)
@@ -73,6 +73,11 @@ LinkMenuSubject LinkMenuSubject::ofBookmarks(const QList<TableRow> &rows)
     return subject;
 }
 
+LinkMenuEntry onlySiteEntry(const QString &site)
+{
+    return {.action = Entry::Action::ShowOnlySite, .title = u"Show Only " % site, .browser = Kind::Safari};
+}
+
 QList<LinkMenuEntry> linkMenuEntries(const LinkMenuSubject &subject, const QList<Source::Kind> &installed)
 {
     QList<Entry> entries;
@@ -107,7 +112,7 @@ QList<LinkMenuEntry> linkMenuEntries(const LinkMenuSubject &subject, const QList
             count > 1 ? QString(u"Copy " % QString::number(count) % u" URLs") : u"Copy URL"_s);
         separate();
         if (subject.site)
-            add(Entry::Action::ShowOnlySite, u"Show Only " % *subject.site);
+            entries.append(onlySiteEntry(*subject.site));
     }
     if (!entries.isEmpty() && entries.last().action == Entry::Action::Separator)
         entries.removeLast();

@@ -60,6 +60,8 @@ struct LinkMenuEntry {
     bool operator==(const LinkMenuEntry &) const = default;
 };
 
+/// Narrows the list to a site.
+LinkMenuEntry onlySiteEntry(const QString &site);
 /// The menu for a subject where these browsers are installed, in the order in which it lists them.
 QList<LinkMenuEntry> linkMenuEntries(const LinkMenuSubject &subject, const QList<Source::Kind> &installed);
 

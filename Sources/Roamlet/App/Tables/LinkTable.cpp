@@ -4,6 +4,8 @@
 #include "App/Tables/LinkTable.h"
 
 #include "App/Look/BusyBar.h"
+#include "App/Tables/CellText.h"
+#include "App/Tables/RowDelegate.h"
 #include "App/Tables/TableHeader.h"
 #include "Library/Library.h"
 #include "Lists/Refine.h"
@@ -65,6 +67,7 @@ LinkTable::LinkTable(const WindowServices &services, const Kind &kind, QWidget *
     connect(&m_view, &TableView::openRequested, this, &LinkTable::openSelection);
     connect(&m_view, &TableView::copyRequested, this, &LinkTable::copySelection);
     connect(&m_view, &TableView::linkMenuRequested, this, &LinkTable::showLinkMenu);
+    connect(&m_view, &TableView::siteMenuRequested, this, &LinkTable::showSiteMenu);
     TableHeader &header = m_view.tableHeader();
     connect(&header, &TableHeader::columnLayoutEdited, this, &LinkTable::saveColumnLayout);
     connect(&header, &TableHeader::menuRequested, this, &LinkTable::showColumnMenu);
@@ -228,6 +231,7 @@ void LinkTable::showList(const ShownList &list)
 {
     noteList(list);
     m_model.setLocalText({m_services.calendar(), list.now});
+    m_view.setSearch({.words = refineWords(refineText(m_inputs.search)), .site = m_inputs.site});
     m_view.showTree(list.tree, list.change == ListChange::Reloaded ? TableView::Scrolling::Stay
                                                                    : TableView::Scrolling::ToTop);
     showProgress();
@@ -290,6 +294,18 @@ void LinkTable::showLinkMenu(const QPoint &place)
             menu->addAction(CellText::inMenu(entry.title), this,
                             [this, entry, subject] { perform(entry, subject); });
     }
+    menu->popup(place);
+}
+
+void LinkTable::showSiteMenu(const QString &site, const QPoint &place)
+{
+    LinkMenuSubject subject;
+    subject.site = site;
+    const LinkMenuEntry entry = onlySiteEntry(site);
+    auto *menu = new QMenu(this);
+    menu->setObjectName(u"siteMenu"_s);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->addAction(CellText::inMenu(entry.title), this, [this, entry, subject] { perform(entry, subject); });
     menu->popup(place);
 }
 

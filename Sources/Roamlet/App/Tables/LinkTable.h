@@ -120,6 +120,7 @@ private:
     QString emptyText() const;
     QList<Opener::Link> selectedLinks() const;
     void showLinkMenu(const QPoint &place);
+    void showSiteMenu(const QString &site, const QPoint &place);
     void perform(const LinkMenuEntry &entry, const LinkMenuSubject &subject);
     void showColumnMenu(const QPoint &place);
     void saveColumnLayout();

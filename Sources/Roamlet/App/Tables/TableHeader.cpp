@@ -3,12 +3,15 @@
 
 #include "App/Tables/TableHeader.h"
 
+#include "App/Look/Chevron.h"
+#include "App/Look/Look.h"
+#include "App/Tables/RowDelegate.h"
 #include "App/Tables/TableModel.h"
 
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QPainter>
-#include <QStyleOptionFocusRect>
+#include <QStyle>
 
 #include <algorithm>
 
@@ -20,9 +23,14 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-/// In widths of a digit: what the title keeps when the others want more than there is.
-constexpr int narrowestTitle = 16;
-constexpr int narrowestColumn = 3;
+/// In lines of text.
+constexpr double narrowestTitle = 16;
+constexpr double widestTitleInLines = 44;
+constexpr double narrowestColumn = 1.5;
+constexpr double narrowList = 36;
+constexpr double leastDateWidth = 6.6;
+constexpr double leastVisitsWidth = 3.4;
+constexpr double headingArrow = 0.8;
 
 } // namespace
 
@@ -34,13 +42,14 @@ TableHeader::TableHeader(const TableModel &model, QWidget *parent)
     setStretchLastSection(false);
     setHighlightSections(false);
     setDefaultAlignment(Qt::AlignLeading | Qt::AlignVCenter);
-    setMinimumSectionSize(narrowestColumn * fontMetrics().horizontalAdvance(u'0'));
     // Fitting a column to its content looks at the rows in sight only.
     setResizeContentsPrecision(0);
     setFocusPolicy(Qt::TabFocus);
-    setAccessibleName(u"Columns"_s);
-    setAccessibleDescription(
-        u"The arrow keys choose a column, move it with Ctrl and resize it with Shift. Space opens the menu."_s);
+    setMouseTracking(true);
+    updateMinimum();
+    setAccessibleName(tr("Columns"));
+    setAccessibleDescription(tr(
+        "The arrow keys choose a column, move it with Ctrl and resize it with Shift. Space opens the menu."));
     connect(this, &QHeaderView::sectionResized, this, [this](int column, int /*before*/, int width) {
         if (m_isDragging) {
             m_chosenWidths.insert(column, width);
@@ -66,19 +75,16 @@ void TableHeader::setColumnLayout(const ColumnLayout &layout)
     m_chosenWidths.clear();
     for (int column = 0; column < count(); ++column) {
         const QString &identifier = identifiers[column];
-        int width = suitableWidth(column);
-        if (layout.widths.contains(identifier)) {
-            width = std::max(layout.widths.value(identifier), minimumSectionSize());
-            m_chosenWidths.insert(column, width);
-        }
+        if (layout.widths.contains(identifier))
+            m_chosenWidths.insert(column, std::max(layout.widths.value(identifier), minimumSectionSize()));
         // A hidden column has no size that could be set.
         setSectionHidden(column, false);
-        resizeSection(column, width);
+        resizeSection(column, wantedWidth(column));
         setSectionHidden(column, column != titleColumn && layout.hidden.contains(identifier));
     }
     for (int place = 0; place < count(); ++place)
         moveSection(visualIndex(static_cast<int>(identifiers.indexOf(named[place]))), place);
-    fillWithTitle();
+    arrange();
 }
 
 ColumnLayout TableHeader::columnLayout() const
@@ -101,28 +107,152 @@ void TableHeader::setColumnShown(int column, bool isShown)
     if (column == titleColumn)
         return;
     setSectionHidden(column, !isShown);
-    fillWithTitle();
+    arrange();
     Q_EMIT columnLayoutEdited();
 }
 
 QSize TableHeader::sizeHint() const
 {
-    constexpr int air = 6;
-    return QHeaderView::sizeHint() + QSize(0, air);
+    return {QHeaderView::sizeHint().width(), Look::of(*this).measures.columnHeaderHeight};
+}
+
+QSize TableHeader::sectionSizeFromContents(int column) const
+{
+    return {headingWidth(column) + leadingPadding(column) + trailingPadding(column), sizeHint().height()};
+}
+
+bool TableHeader::isRightAligned(int column) const
+{
+    const TableColumn::Content content = m_model.columns()[column].content;
+    return content == TableColumn::Content::Date || content == TableColumn::Content::Visits;
+}
+
+int TableHeader::edgeColumn(bool isLast) const
+{
+    for (int i = 0; i < count(); ++i) {
+        const int column = logicalIndex(isLast ? count() - 1 - i : i);
+        if (!isSectionHidden(column))
+            return column;
+    }
+    return titleColumn;
+}
+
+int TableHeader::leadingPadding(int column) const
+{
+    const Measures measures = Look::of(*this).measures;
+    const int padding = column == edgeColumn(false) ? measures.alignmentLine : measures.gapBetweenCells / 2;
+    return column == titleColumn ? std::max(0, padding - m_titleIndent) : padding;
+}
+
+int TableHeader::trailingPadding(int column) const
+{
+    const Measures measures = Look::of(*this).measures;
+    return column == edgeColumn(true) ? measures.alignmentLine : measures.gapBetweenCells / 2;
+}
+
+int TableHeader::contentEnd(int column) const
+{
+    const int begin = sectionViewportPosition(column);
+    const int end = isRightToLeft() ? viewport()->width() - begin : begin + sectionSize(column);
+    return end - trailingPadding(column);
+}
+
+int TableHeader::widestTitle() const
+{
+    return Look::of(*this).measures.units(widestTitleInLines);
+}
+
+bool TableHeader::isNarrow() const
+{
+    return viewport()->width() < Look::of(*this).measures.units(narrowList);
+}
+
+void TableHeader::setTitleIndent(int indent)
+{
+    m_titleIndent = indent;
+}
+
+int TableHeader::headingWidth(int column) const
+{
+    const Look look = Look::of(*this);
+    QFont bold = look.smallFont;
+    bold.setBold(true);
+    return QFontMetrics(bold).horizontalAdvance(m_model.columns()[column].title) +
+           look.measures.units(headingArrow);
 }
 
 int TableHeader::suitableWidth(int column) const
 {
-    return m_model.columns()[column].width * fontMetrics().horizontalAdvance(u'0');
+    const TableColumn &shown = m_model.columns()[column];
+    const Measures measures = Look::of(*this).measures;
+    const int gap = measures.gapBetweenCells;
+    const int edge = column == edgeColumn(true) ? trailingPadding(column) - (gap / 2) : 0;
+    switch (shown.content) {
+    case TableColumn::Content::Date:
+        return std::max({measures.units(leastDateWidth), m_dateWidth + gap, headingWidth(column) + gap}) +
+               edge;
+    case TableColumn::Content::Visits:
+        return std::max({measures.units(leastVisitsWidth), m_visitsWidth + gap, headingWidth(column) + gap}) +
+               edge;
+    case TableColumn::Content::Source:
+        if (isNarrow())
+            return std::max(measures.iconSide, headingWidth(column)) + gap + edge;
+        break;
+    default:
+        break;
+    }
+    return (shown.width * fontMetrics().horizontalAdvance(u'0')) + edge;
 }
 
-void TableHeader::fillWithTitle()
+int TableHeader::wantedWidth(int column) const
 {
-    if (count() == 0 || m_chosenWidths.contains(titleColumn))
+    const auto chosen = m_chosenWidths.constFind(column);
+    return chosen == m_chosenWidths.cend() ? suitableWidth(column) : *chosen;
+}
+
+void TableHeader::fitColumns()
+{
+    const QFont font = Look::of(*this).textFont;
+    const LocalText &local = m_model.localText();
+    if (m_dateWidthOf != local.today()) {
+        m_dateWidthOf = local.today();
+        m_dateWidth = 0;
+        for (const QString &date : local.sampleDates())
+            m_dateWidth = std::max(m_dateWidth, tabularWidth(font, date));
+    }
+    m_visitsWidth = tabularWidth(font, local.number(m_model.tree()->mostVisits()));
+    arrange();
+}
+
+void TableHeader::arrange()
+{
+    if (count() == 0 || m_isDragging)
         return;
-    const int others = length() - sectionSize(titleColumn);
-    resizeSection(titleColumn, std::max(viewport()->width() - others,
-                                        narrowestTitle * fontMetrics().horizontalAdvance(u'0')));
+    const Measures measures = Look::of(*this).measures;
+    const int last = edgeColumn(true);
+    int others = 0;
+    for (int column = 0; column < count(); ++column) {
+        if (column != titleColumn && !isSectionHidden(column))
+            others += wantedWidth(column);
+    }
+    const int available = viewport()->width();
+    const int narrowest = measures.units(narrowestTitle);
+    const int title = m_chosenWidths.contains(titleColumn)
+                          ? m_chosenWidths.value(titleColumn)
+                          : std::clamp(available - others, narrowest, std::max(narrowest, widestTitle()));
+    // What nobody needs goes to the last column, so that there is no hole; what is missing is scrolled to.
+    const int rest = std::max(0, available - others - title);
+    for (int column = 0; column < count(); ++column) {
+        if (isSectionHidden(column))
+            continue;
+        const int width = column == titleColumn ? title : wantedWidth(column);
+        resizeSection(column, width + (column == last ? rest : 0));
+    }
+}
+
+void TableHeader::updateMinimum()
+{
+    setMinimumSectionSize(Look::of(*this).measures.units(narrowestColumn));
 }
 
 void TableHeader::mousePressEvent(QMouseEvent *event)
@@ -151,7 +281,7 @@ void TableHeader::finishDragging()
     if (!m_isEdited)
         return;
     m_isEdited = false;
-    fillWithTitle();
+    arrange();
     Q_EMIT columnLayoutEdited();
 }
 
@@ -220,24 +350,101 @@ void TableHeader::focusOutEvent(QFocusEvent *event)
     viewport()->update();
 }
 
-void TableHeader::paintEvent(QPaintEvent *event)
+void TableHeader::enterEvent(QEnterEvent *event)
 {
-    QHeaderView::paintEvent(event);
+    QHeaderView::enterEvent(event);
+    m_isUnderPointer = true;
+    viewport()->update();
+}
+
+void TableHeader::leaveEvent(QEvent *event)
+{
+    QHeaderView::leaveEvent(event);
+    m_isUnderPointer = false;
+    viewport()->update();
+}
+
+void TableHeader::changeEvent(QEvent *event)
+{
+    QHeaderView::changeEvent(event);
+    if (event->type() != QEvent::FontChange && event->type() != QEvent::StyleChange)
+        return;
+    updateMinimum();
+    m_dateWidthOf = {};
+    fitColumns();
+}
+
+void TableHeader::paintSection(QPainter *painter, const QRect &rect, int column) const
+{
+    const Look look = Look::of(*this);
+    const Measures &measures = look.measures;
+    const bool isSorted = isSortIndicatorShown() && sortIndicatorSection() == column;
+    const auto visual = [&](const QRect &logical) {
+        return QStyle::visualRect(layoutDirection(), rect, logical);
+    };
+    painter->save();
+    painter->setFont(look.smallFont);
+    if (isSorted) {
+        QFont bold = look.smallFont;
+        bold.setBold(true);
+        painter->setFont(bold);
+    }
+    const int indent = column == titleColumn ? m_titleIndent : 0;
+    QRect place = rect.adjusted(leadingPadding(column) + indent, 0, -trailingPadding(column), 0);
+    const QColor ink = isSorted ? look.list.ink : look.list.quiet;
+    const int arrow = isSorted ? measures.units(headingArrow) : 0;
+    const QFontMetrics metrics = painter->fontMetrics();
+    const QString text = m_model.columns()[column].title;
+    const int width = std::min(metrics.horizontalAdvance(text), std::max(0, place.width() - arrow));
+    // Words end where the digits below them end, so the arrow stands before them.
+    const int left = isRightAligned(column) ? place.right() + 1 - width : place.left();
+    drawMarkedText(*painter, visual(QRect(left, place.top(), width, place.height())), layoutDirection(),
+                   metrics.elidedText(text, Qt::ElideRight, width), {}, ink, {});
+    if (isSorted) {
+        const int arrowLeft = isRightAligned(column) ? left - arrow : left + width;
+        drawChevron(*painter,
+                    visual(QRect(arrowLeft, place.top() + ((place.height() - arrow) / 2), arrow, arrow)),
+                    sortIndicatorOrder() == Qt::DescendingOrder ? Qt::DownArrow : Qt::UpArrow, ink);
+    }
+    if (m_isUnderPointer && column != edgeColumn(true)) {
+        const int inset = rect.height() / 4;
+        const int x = isRightToLeft() ? rect.left() : rect.right();
+        painter->setPen(QPen(look.list.hairline, 0));
+        painter->drawLine(x, rect.top() + inset, x, rect.bottom() - inset);
+    }
+    painter->restore();
+}
+
+void TableHeader::paintEvent(QPaintEvent * /*event*/)
+{
+    const Look look = Look::of(*this);
+    QPainter painter(viewport());
+    painter.fillRect(viewport()->rect(), look.list.base);
+    for (int column = 0; column < count(); ++column) {
+        if (!isSectionHidden(column)) {
+            paintSection(&painter,
+                         QRect(sectionViewportPosition(column), 0, sectionSize(column), viewport()->height()),
+                         column);
+        }
+    }
+    painter.setPen(QPen(look.list.hairline, 0));
+    painter.drawLine(viewport()->rect().bottomLeft(), viewport()->rect().bottomRight());
     if (!hasFocus())
         return;
-    QPainter painter(viewport());
-    QStyleOptionFocusRect option;
-    option.initFrom(viewport());
-    option.rect =
-        QRect(sectionViewportPosition(keyColumn()), 0, sectionSize(keyColumn()), viewport()->height());
-    option.state |= QStyle::State_KeyboardFocusChange;
-    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+    // Only the keyboard brings it here.
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(look.accent, Measures::focusRingWidth));
+    constexpr qreal inset = Measures::focusRingWidth / 2.0;
+    const QRectF ring(sectionViewportPosition(keyColumn()), 0, sectionSize(keyColumn()),
+                      viewport()->height());
+    painter.drawRoundedRect(ring.adjusted(inset, inset, -inset, -inset), look.measures.rowRadius,
+                            look.measures.rowRadius);
 }
 
 void TableHeader::resizeEvent(QResizeEvent *event)
 {
     QHeaderView::resizeEvent(event);
-    fillWithTitle();
+    arrange();
 }
 
 } // namespace roamlet

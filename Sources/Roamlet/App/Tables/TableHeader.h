@@ -5,6 +5,7 @@
 
 #include "App/Tables/ColumnLayout.h"
 
+#include <QDate>
 #include <QHash>
 #include <QHeaderView>
 
@@ -30,6 +31,22 @@ public:
     ColumnLayout columnLayout() const;
     void setColumnShown(int column, bool isShown);
 
+    /// The model has another list, font or day: columns are as wide as their texts ask for.
+    void fitColumns();
+    /// In a tree, how far the outermost titles are moved in by the view.
+    void setTitleIndent(int indent);
+
+    /// Between the edges of a column and what stands in it. Everything begins on one line, and numbers end
+    /// on another.
+    int leadingPadding(int column) const;
+    int trailingPadding(int column) const;
+    /// Where what stands in a column ends, counted in the direction of reading from the leading edge.
+    int contentEnd(int column) const;
+    /// From this width on, the column of titles leaves the rest to the others.
+    int widestTitle() const;
+    /// Whether the list is so narrow that a browser's icon has to stand for its name.
+    bool isNarrow() const;
+
     QSize sizeHint() const override;
 
 Q_SIGNALS:
@@ -46,12 +63,26 @@ protected:
     void contextMenuEvent(QContextMenuEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
+    void enterEvent(QEnterEvent *event) override;
+    void leaveEvent(QEvent *event) override;
+    void changeEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+    void paintSection(QPainter *painter, const QRect &rect, int column) const override;
+    QSize sectionSizeFromContents(int column) const override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    /// The user's choice, or else what suits the texts.
+    int wantedWidth(int column) const;
     int suitableWidth(int column) const;
-    void fillWithTitle();
+    /// How wide the heading is by itself, with its arrow.
+    int headingWidth(int column) const;
+    bool isRightAligned(int column) const;
+    /// The first or the last shown column, in the direction of reading.
+    int edgeColumn(bool isLast) const;
+    /// Gives the columns the whole width of the list and no more, as far as they can be that narrow.
+    void arrange();
+    void updateMinimum();
     void finishDragging();
     /// The column that the keys are about.
     int keyColumn() const { return isSectionHidden(m_keyColumn) ? titleColumn : m_keyColumn; }
@@ -63,6 +94,12 @@ private:
     /// The widths that are the user's choice, by column. A hidden column keeps its own.
     QHash<int, int> m_chosenWidths;
     int m_keyColumn = titleColumn;
+    int m_titleIndent = 0;
+    /// The widest date that may be shown, and on which day that was found out.
+    int m_dateWidth = 0;
+    QDate m_dateWidthOf;
+    int m_visitsWidth = 0;
+    bool m_isUnderPointer = false;
     /// With the mouse or the keys.
     bool m_isDragging = false;
     bool m_isEdited = false;

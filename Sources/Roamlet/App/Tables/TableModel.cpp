@@ -3,8 +3,14 @@
 
 #include "App/Tables/TableModel.h"
 
+#include "App/Tables/CellText.h"
 #include "App/Tables/RowIcons.h"
 
+#include <QMimeData>
+#include <QUrl>
+
+#include <map>
+#include <memory>
 #include <utility>
 
 namespace roamlet
@@ -83,6 +89,48 @@ QModelIndex TableModel::parent(const QModelIndex &child) const
     return child.isValid() ? indexOf(m_tree->node(numberOf(child)).parent) : QModelIndex();
 }
 
+bool TableModel::isBand(const RowTree &tree, RowTree::Number number)
+{
+    const RowTree::Node &node = tree.node(number);
+    return node.row.kind == TableRow::Kind::Section ||
+           (node.depth == 0 && node.row.kind == TableRow::Kind::Folder &&
+            node.row.id == BookmarkNode::idOfSource(node.row.source));
+}
+
+QStringList TableModel::mimeTypes() const
+{
+    return {u"text/uri-list"_s, u"text/html"_s, u"text/plain"_s};
+}
+
+QMimeData *TableModel::mimeData(const QModelIndexList &indexes) const
+{
+    // Every row comes once for each column.
+    std::map<RowTree::Number, const TableRow *> links;
+    for (const QModelIndex &index : indexes) {
+        if (index.isValid() && rowAt(index).kind == TableRow::Kind::Link)
+            links.emplace(numberOf(index), &rowAt(index));
+    }
+    if (links.empty())
+        return nullptr;
+    QList<QUrl> urls;
+    QStringList html;
+    QStringList plain;
+    for (const auto &[number, row] : links) {
+        const QUrl url(row->url);
+        if (url.isValid() && !url.isRelative())
+            urls.append(url);
+        const QString &title = row->title.isEmpty() ? row->url : row->title;
+        html.append(u"<a href=\""_s % row->url.toHtmlEscaped() % u"\">"_s % title.toHtmlEscaped() %
+                    u"</a>"_s);
+        plain.append(row->url);
+    }
+    auto data = std::make_unique<QMimeData>();
+    data->setUrls(urls);
+    data->setHtml(html.join(u"<br>\n"_s));
+    data->setText(plain.join(u'\n'));
+    return data.release();
+}
+
 int TableModel::rowCount(const QModelIndex &parent) const
 {
     return parent.column() > 0 ? 0 : m_tree->node(numberOf(parent)).childCount;
@@ -108,7 +156,7 @@ Qt::ItemFlags TableModel::flags(const QModelIndex &index) const
     if (node.row.kind != TableRow::Kind::Section)
         result |= Qt::ItemIsSelectable;
     if (node.row.kind == TableRow::Kind::Link)
-        result |= Qt::ItemNeverHasChildren;
+        result |= Qt::ItemNeverHasChildren | Qt::ItemIsDragEnabled;
     return result;
 }
 
@@ -124,11 +172,11 @@ QVariant TableModel::data(const QModelIndex &index, int role) const
         return {};
     switch (role) {
     case Qt::DisplayRole:
-        return text(node.row, content);
+        return text(node, content);
     case Qt::DecorationRole:
         return icon(node.row, content);
     case Qt::ToolTipRole:
-        return toolTip(node.row, content);
+        return toolTip(node, content);
     case Qt::AccessibleTextRole:
         return accessibleText(node, content);
     default:
@@ -151,14 +199,24 @@ QVariant TableModel::headerData(int section, Qt::Orientation orientation, int ro
     }
 }
 
-QString TableModel::text(const TableRow &row, TableColumn::Content content) const
+bool TableModel::isWithinADay(const RowTree::Node &node) const
 {
+    const VisitStrip &visits = m_tree->visits(node.parent);
+    return !visits.ticks.empty() && visits.unit == VisitStrip::Unit::Hour;
+}
+
+QString TableModel::text(const RowTree::Node &node, TableColumn::Content content) const
+{
+    const TableRow &row = node.row;
     switch (content) {
     case TableColumn::Content::Title:
         // A bookmark without a name is still a row that can be read.
         return CellText::oneLine(row.title.isEmpty() ? row.url : row.title);
     case TableColumn::Content::Date:
-        return row.date ? m_localText.briefDate(*row.date) : QString();
+        if (!row.date)
+            return {};
+        // The heading says which day it is.
+        return isWithinADay(node) ? m_localText.timeOfDay(*row.date) : m_localText.briefDate(*row.date);
     case TableColumn::Content::Visits:
         return m_localText.number(row.visits);
     case TableColumn::Content::Folder:
@@ -171,7 +229,7 @@ QString TableModel::text(const TableRow &row, TableColumn::Content content) cons
 
 QString TableModel::accessibleText(const RowTree::Node &node, TableColumn::Content content) const
 {
-    QString shown = text(node.row, content);
+    QString shown = text(node, content);
     if (content != TableColumn::Content::Title || node.row.kind == TableRow::Kind::Link)
         return shown;
     const QString count = m_localText.number(node.childCount);
@@ -180,11 +238,12 @@ QString TableModel::accessibleText(const RowTree::Node &node, TableColumn::Conte
                                                    : QString(shown % u", " % items);
 }
 
-QString TableModel::toolTip(const TableRow &row, TableColumn::Content content) const
+QString TableModel::toolTip(const RowTree::Node &node, TableColumn::Content content) const
 {
+    const TableRow &row = node.row;
     if (content == TableColumn::Content::Date)
         return row.date ? m_localText.fullDate(*row.date) : QString();
-    const QString shown = text(row, content);
+    const QString shown = text(node, content);
     if (content == TableColumn::Content::Title && row.kind == TableRow::Kind::Link && row.url != row.title)
         return CellText::toolTip({shown, row.url});
     return CellText::toolTip({shown});

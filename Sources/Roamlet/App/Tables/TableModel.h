@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "App/Tables/CellText.h"
+#include "App/Tables/LocalText.h"
 #include "Lists/RowTree.h"
 #include "Lists/SortComparator.h"
 
@@ -50,6 +50,10 @@ public:
     /// The number of the row at an index; the root's for an invalid one.
     static RowTree::Number numberOf(const QModelIndex &index);
     QModelIndex indexOf(RowTree::Number number, int column = 0) const;
+    /// Whether a row is drawn as a band over the whole width: the heading of a section, and in the tree of
+    /// all bookmarks the name of a source.
+    bool isBand(const QModelIndex &index) const { return isBand(*m_tree, numberOf(index)); }
+    static bool isBand(const RowTree &tree, RowTree::Number number);
 
     QModelIndex index(int row, int column, const QModelIndex &parent = {}) const override;
     QModelIndex parent(const QModelIndex &child) const override;
@@ -59,12 +63,18 @@ public:
     bool hasChildren(const QModelIndex &parent = {}) const override;
     Qt::ItemFlags flags(const QModelIndex &index) const override;
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+    QStringList mimeTypes() const override;
+    /// The links among these, for other programs.
+    QMimeData *mimeData(const QModelIndexList &indexes) const override;
+    Qt::DropActions supportedDragActions() const override { return Qt::CopyAction | Qt::LinkAction; }
     QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
 
 private:
-    QString text(const TableRow &row, TableColumn::Content content) const;
+    /// Whether the row lies in a section of one day.
+    bool isWithinADay(const RowTree::Node &node) const;
+    QString text(const RowTree::Node &node, TableColumn::Content content) const;
     QString accessibleText(const RowTree::Node &node, TableColumn::Content content) const;
-    QString toolTip(const TableRow &row, TableColumn::Content content) const;
+    QString toolTip(const RowTree::Node &node, TableColumn::Content content) const;
     QVariant icon(const TableRow &row, TableColumn::Content content) const;
 
     QList<TableColumn> m_columns;

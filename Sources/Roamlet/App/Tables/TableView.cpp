@@ -3,23 +3,29 @@
 
 #include "App/Tables/TableView.h"
 
-#include "App/Look/Look.h"
-#include "App/Tables/RowIcons.h"
+#include "App/Look/Chevron.h"
+#include "App/Tables/CellText.h"
+#include "App/Tables/RowBackground.h"
+#include "App/Tables/RowBubble.h"
+#include "App/Tables/RowDelegate.h"
 #include "App/Tables/RowSelectionModel.h"
+#include "App/Tables/SectionBand.h"
 #include "App/Tables/TableHeader.h"
 #include "App/Tables/TableModel.h"
 #include "App/Tables/ViewPlace.h"
 
 #include <QContextMenuEvent>
+#include <QCursor>
+#include <QHelpEvent>
 #include <QIcon>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
 #include <QScrollBar>
-#include <QStyleOption>
-#include <QStyledItemDelegate>
+#include <QToolTip>
 
 #include <algorithm>
+#include <chrono>
 #include <unordered_set>
 
 namespace roamlet
@@ -33,20 +39,18 @@ namespace
 /// How many levels of folders one key opens.
 constexpr int deepestOpening = 100;
 
-/// Gives every row room for an icon and some air, whether it has an icon or not: the first row decides about
-/// the height of all.
-class RowDelegate final : public QStyledItemDelegate
-{
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+/// Beyond this, finding out where each row begins takes too long while somebody types, and all rows get the
+/// height of links.
+constexpr std::size_t mostRowsOfTwoHeights = 20'000;
 
-    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
-    {
-        constexpr int air = 8;
-        const QSize size = QStyledItemDelegate::sizeHint(option, index);
-        return {size.width(), std::max(option.fontMetrics.height(), RowIcons::side) + air};
-    }
-};
+/// How long the pointer rests before the bubble tells about a row.
+constexpr std::chrono::milliseconds bubbleDelay{300};
+/// Of so many selected rows there is no one to tell about.
+constexpr int severalRows = 3;
+
+/// One level of folders.
+constexpr double indentInLines = 1.25;
+constexpr double arrowSide = 0.8;
 
 } // namespace
 
@@ -54,6 +58,9 @@ TableView::TableView(TableModel &model, Shape shape, QWidget *parent)
     : QTreeView(parent),
       m_model(model),
       m_header(*new TableHeader(model, this)),
+      m_look(Look::of(*this)),
+      m_delegate(*new RowDelegate(model, m_header, m_look, this)),
+      m_bubble(*new RowBubble(viewport())),
       m_emptyLabel(*new QLabel(viewport()))
 {
     setHeader(&m_header);
@@ -63,10 +70,10 @@ TableView::TableView(TableModel &model, Shape shape, QWidget *parent)
     // A view takes these away from a header that does not sort the model itself.
     m_header.setSectionsClickable(true);
     m_header.setSortIndicatorShown(true);
-    setItemDelegate(new RowDelegate(this));
-    setIconSize({RowIcons::side, RowIcons::side});
+    setItemDelegate(&m_delegate);
     setUniformRowHeights(true);
-    setAlternatingRowColors(true);
+    setMouseTracking(true);
+    setDragEnabled(true);
     setAllColumnsShowFocus(true);
     setSelectionMode(QAbstractItemView::ExtendedSelection);
     setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -80,13 +87,16 @@ TableView::TableView(TableModel &model, Shape shape, QWidget *parent)
         setRootIsDecorated(false);
         setIndentation(0);
     }
+    m_bubbleWait.setSingleShot(true);
+    m_bubbleWait.setInterval(bubbleDelay);
+    connect(&m_bubbleWait, &QTimer::timeout, this, [this] { showBubble(m_hovered); });
 
     m_emptyLabel.setObjectName(QStringLiteral("emptyText"));
     m_emptyLabel.setAlignment(Qt::AlignCenter);
     m_emptyLabel.setTextFormat(Qt::PlainText);
     m_emptyLabel.setWordWrap(true);
     m_emptyLabel.setAttribute(Qt::WA_TransparentForMouseEvents);
-    updateColors();
+    updateLook();
 
     connect(this, &QTreeView::expanded, this, [this](const QModelIndex &index) { noteToggled(index, true); });
     connect(this, &QTreeView::collapsed, this, [this](const QModelIndex &index) {
@@ -194,7 +204,11 @@ void TableView::showTree(const SharedRowTree &tree, Scrolling scrolling)
     const ViewPlace place(*this);
     const int horizontal = horizontalScrollBar()->value();
     m_isRestoring = true;
+    m_bubble.hide();
+    const bool hasBands = tree->node(RowTree::root).childCount > 0 && m_model.isBand(*tree, 1);
+    setUniformRowHeights(!hasBands || tree->nodes().size() > mostRowsOfTwoHeights);
     m_model.setTree(tree);
+    m_header.fitColumns();
     openFoldersAndSections();
     m_isRestoring = false;
     place.restoreSelection(*this);
@@ -217,69 +231,295 @@ void TableView::openFoldersAndSections()
 
 void TableView::drawRow(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
-    if (isKind(index, RowKind::Section))
-        drawSection(painter, option, index);
-    else
-        QTreeView::drawRow(painter, option, index);
+    const QRect row(0, option.rect.top(), viewport()->width(), option.rect.height());
+    const bool isBand = m_model.isBand(index);
+    if (isBand && !index.flags().testFlag(Qt::ItemIsSelectable)) {
+        drawBand(painter, row, index);
+        return;
+    }
+    drawGround(painter, row, index);
+    if (isBand) {
+        drawBand(painter, row, index);
+        return;
+    }
+    QStyleOptionViewItem cell = option;
+    cell.state.setFlag(QStyle::State_Selected, isSelectedRow(index));
+    const RowTree::Node &node = m_model.tree()->node(TableModel::numberOf(index));
+    const int indent = (node.depth + (rootIsDecorated() ? 1 : 0)) * indentation();
+    for (int column = 0; column < m_header.count(); ++column) {
+        if (m_header.isSectionHidden(column))
+            continue;
+        cell.rect =
+            QRect(columnViewportPosition(column), row.top(), m_header.sectionSize(column), row.height());
+        if (column == TableHeader::titleColumn) {
+            if (node.row.kind == RowKind::Folder && node.childCount > 0) {
+                const int arrow = m_look.measures.units(arrowSide);
+                const int line = indent + m_look.measures.units(0.1);
+                const QRect place(cell.rect.left() + line - m_look.measures.units(0.98),
+                                  cell.rect.top() + ((cell.rect.height() - arrow) / 2), arrow, arrow);
+                const Qt::ArrowType closed = isRightToLeft() ? Qt::LeftArrow : Qt::RightArrow;
+                drawChevron(*painter, QStyle::visualRect(layoutDirection(), cell.rect, place),
+                            isExpanded(index) ? Qt::DownArrow : closed, m_look.list.quiet);
+            }
+            if (isRightToLeft())
+                cell.rect.setRight(cell.rect.right() - indent);
+            else
+                cell.rect.setLeft(cell.rect.left() + indent);
+        }
+        if (cell.rect.intersects(viewport()->rect()))
+            m_delegate.paint(painter, cell, index.siblingAtColumn(column));
+    }
 }
 
-void TableView::drawSection(QPainter *painter, const QStyleOptionViewItem &option,
-                            const QModelIndex &index) const
+bool TableView::isSelectedRow(const QModelIndex &index) const
 {
-    QStyleOptionViewItem row = option;
-    row.features &= ~QStyleOptionViewItem::Alternate;
-    row.state.setFlag(QStyle::State_Selected, false);
-    row.rect = QRect(0, option.rect.top(), viewport()->width(), option.rect.height());
-    painter->fillRect(row.rect, palette().color(QPalette::Base));
-    style()->drawPrimitive(QStyle::PE_PanelItemViewRow, &row, painter, this);
+    return index.isValid() && selectionModel()->isSelected(index.siblingAtColumn(TableHeader::titleColumn));
+}
 
-    const int arrow = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
-    const int margin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1;
-    const auto mirrored = [&row](const QRect &rect) {
-        return QStyle::visualRect(row.direction, row.rect, rect);
-    };
-    QRect rest = row.rect;
-    QStyleOption branch = row;
-    branch.rect = mirrored(QRect(rest.left(), rest.top(), arrow, rest.height()));
-    branch.state = QStyle::State_Children | QStyle::State_Enabled;
-    branch.state.setFlag(QStyle::State_Open, isExpanded(index));
-    style()->drawPrimitive(QStyle::PE_IndicatorBranch, &branch, painter, this);
-    rest.setLeft(rest.left() + arrow + margin);
+bool TableView::hasRing(const QModelIndex &index) const
+{
+    return m_isByKeyboard && hasFocus() && currentIndex().siblingAtColumn(0) == index.siblingAtColumn(0);
+}
 
-    if (const auto icon = index.data(Qt::DecorationRole).value<QIcon>(); !icon.isNull()) {
-        const int side = RowIcons::side;
-        icon.paint(painter, mirrored(QRect(rest.left(), rest.top(), side, rest.height())));
-        rest.setLeft(rest.left() + side + 2 * margin);
+void TableView::drawGround(QPainter *painter, const QRect &row, const QModelIndex &index) const
+{
+    const RowBackground background{.isSelected = isSelectedRow(index),
+                                   .isInActiveWindow = isActiveWindow(),
+                                   .isHovered = m_hovered.isValid() && m_hovered == index.siblingAtColumn(0),
+                                   .hasRing = hasRing(index),
+                                   .isSelectedAbove = isSelectedRow(indexAbove(index)),
+                                   .isSelectedBelow = isSelectedRow(indexBelow(index))};
+    background.paint(*painter, row, m_look);
+}
+
+void TableView::drawBand(QPainter *painter, const QRect &band, const QModelIndex &index) const
+{
+    const RowTree::Number number = TableModel::numberOf(index);
+    const RowTree &tree = *m_model.tree();
+    const bool isSource = tree.row(number).kind == RowKind::Folder;
+    const SectionBand content{.title = index.siblingAtColumn(0).data().toString(),
+                              .count = m_model.localText().number(isSource ? tree.linksBelow(number)
+                                                                           : tree.node(number).childCount),
+                              .icon = index.siblingAtColumn(0).data(Qt::DecorationRole).value<QIcon>(),
+                              .isOpen = isExpanded(index),
+                              .isFirst = index.row() == 0,
+                              .isOnGround = isSource,
+                              .visits = stripOf(index),
+                              .litTick = litTick(index),
+                              .now = m_model.localText().now()};
+    content.paint(*painter, band, layoutDirection(), stripEnd(), m_look);
+    if (!isSource)
+        RowBackground{.hasRing = hasRing(index)}.paint(*painter, band, m_look);
+}
+
+const VisitStrip *TableView::stripOf(const QModelIndex &section) const
+{
+    if (!isKind(section, RowKind::Section))
+        return nullptr;
+    const VisitStrip &visits = m_model.tree()->visits(TableModel::numberOf(section));
+    return visits.ticks.empty() || stripEnd() == 0 ? nullptr : &visits;
+}
+
+int TableView::stripEnd() const
+{
+    // The strip stands above the times, whose column may be hidden.
+    const auto date = std::ranges::find(m_model.columns(), TableColumn::Content::Date, &TableColumn::content);
+    const int column = static_cast<int>(date - m_model.columns().begin());
+    return column == m_model.columns().size() || m_header.isSectionHidden(column)
+               ? 0
+               : m_header.contentEnd(column);
+}
+
+std::optional<std::size_t> TableView::tickAt(const QPoint &point) const
+{
+    const QModelIndex section = indexAt(point);
+    const VisitStrip *const visits = stripOf(section);
+    if (visits == nullptr)
+        return {};
+    return visitTickAt(*visits, point, rowRect(section), layoutDirection(), stripEnd(), m_look);
+}
+
+std::optional<std::size_t> TableView::litTick(const QModelIndex &section) const
+{
+    const QModelIndex first = section.siblingAtColumn(0);
+    if (m_hovered.isValid() && m_hovered == first)
+        return m_hoveredTick;
+    // The pointer's row comes before the keyboard's.
+    const QModelIndex row =
+        m_hovered.isValid() ? QModelIndex(m_hovered) : (m_isByKeyboard ? currentIndex() : QModelIndex());
+    if (!row.isValid() || row.parent() != first)
+        return {};
+    const std::optional date = m_model.rowAt(row).date;
+    return date ? m_model.tree()->visits(TableModel::numberOf(section)).tickAt(*date) : std::nullopt;
+}
+
+QRect TableView::rowRect(const QModelIndex &index) const
+{
+    const QRect cell = visualRect(index.siblingAtColumn(TableHeader::titleColumn));
+    return cell.isValid() ? QRect(0, cell.top(), viewport()->width(), cell.height()) : QRect();
+}
+
+void TableView::updateRow(const QModelIndex &index)
+{
+    if (!index.isValid())
+        return;
+    viewport()->update(rowRect(index));
+    // The strip of its section lights another hour.
+    if (index.parent().isValid())
+        viewport()->update(rowRect(index.parent()));
+}
+
+void TableView::setHovered(const QModelIndex &index)
+{
+    const QModelIndex first = index.siblingAtColumn(0);
+    if (m_hovered == first)
+        return;
+    updateRow(m_hovered);
+    m_hovered = first;
+    updateRow(m_hovered);
+    m_bubbleWait.start();
+}
+
+void TableView::goToTick(const QModelIndex &section, std::size_t tick)
+{
+    const VisitStrip::Tick &target = m_model.tree()->visits(TableModel::numberOf(section)).ticks[tick];
+    if (target.count == 0)
+        return;
+    setExpanded(section, true);
+    const QModelIndex row = m_model.index(target.firstRow, 0, section);
+    setCurrentIndex(row);
+    scrollTo(row, QAbstractItemView::PositionAtCenter);
+}
+
+void TableView::showBubble(const QModelIndex &index)
+{
+    int selected = 0;
+    for (const QItemSelectionRange &range : selectionModel()->selection()) {
+        selected += range.height();
+        if (selected >= severalRows)
+            break;
     }
-    QFont bold = font();
-    bold.setBold(true);
-    painter->save();
-    painter->setFont(bold);
-    const QString title =
-        QFontMetrics(bold).elidedText(index.data().toString(), Qt::ElideRight, rest.width());
-    style()->drawItemText(painter, mirrored(rest), static_cast<int>(Qt::AlignVCenter | Qt::AlignLeading),
-                          palette(), isEnabled(), title, QPalette::Text);
-    painter->restore();
-
-    if (hasFocus() && currentIndex().siblingAtColumn(0) == index.siblingAtColumn(0)) {
-        QStyleOptionFocusRect focus;
-        focus.initFrom(this);
-        focus.rect = row.rect;
-        focus.state |= QStyle::State_KeyboardFocusChange | QStyle::State_Item;
-        focus.backgroundColor = palette().color(QPalette::Base);
-        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, painter, this);
+    if (!isKind(index, RowKind::Link) || selected >= severalRows) {
+        m_bubble.hide();
+        return;
     }
+    const TableRow &row = m_model.rowAt(index);
+    m_bubble.showRow(CellText::oneLine(row.url),
+                     row.date ? m_model.localText().fullDate(*row.date) : QString());
+    m_bubble.avoid(viewport()->mapFromGlobal(QCursor::pos()));
+}
+
+void TableView::followCurrentRow()
+{
+    if (m_isByKeyboard && hasFocus())
+        showBubble(currentIndex().siblingAtColumn(0));
+}
+
+void TableView::currentChanged(const QModelIndex &current, const QModelIndex &previous)
+{
+    QTreeView::currentChanged(current, previous);
+    updateRow(previous);
+    updateRow(current);
+    followCurrentRow();
+}
+
+void TableView::selectionChanged(const QItemSelection &selected, const QItemSelection &deselected)
+{
+    QTreeView::selectionChanged(selected, deselected);
+    // The corners of its neighbours change with a row.
+    viewport()->update();
+}
+
+void TableView::focusInEvent(QFocusEvent *event)
+{
+    QTreeView::focusInEvent(event);
+    if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason)
+        m_isByKeyboard = true;
+}
+
+int TableView::sizeHintForColumn(int column) const
+{
+    // Of the rows in sight, as when the user fits a column to its content.
+    int width = 0;
+    for (QModelIndex index = indexAt(QPoint(0, 0)); index.isValid(); index = indexBelow(index)) {
+        if (rowRect(index).top() > viewport()->height())
+            break;
+        if (m_model.isBand(index))
+            continue;
+        const int depth = m_model.tree()->node(TableModel::numberOf(index)).depth;
+        const int indent =
+            column == TableHeader::titleColumn ? (depth + (rootIsDecorated() ? 1 : 0)) * indentation() : 0;
+        width = std::max(width, indent + m_delegate.naturalWidth(index.siblingAtColumn(column)));
+    }
+    return width;
+}
+
+bool TableView::viewportEvent(QEvent *event)
+{
+    if (event->type() == QEvent::Leave) {
+        setHovered({});
+        m_bubbleWait.stop();
+        m_bubble.hide();
+    }
+    if (event->type() == QEvent::ToolTip) {
+        const auto *help = static_cast<QHelpEvent *>(event);
+        return showToolTip(help->pos(), help->globalPos());
+    }
+    return QTreeView::viewportEvent(event);
+}
+
+bool TableView::showToolTip(const QPoint &point, const QPoint &onScreen)
+{
+    const QModelIndex index = indexAt(point);
+    if (const std::optional tick = tickAt(point)) {
+        const VisitStrip &visits = *stripOf(index);
+        const VisitStrip::Tick &shown = visits.ticks[*tick];
+        const LocalText &local = m_model.localText();
+        const QString when = visits.unit == VisitStrip::Unit::Hour ? local.hour(shown.begin, shown.end)
+                                                                   : local.day(shown.begin);
+        QToolTip::showText(onScreen, when % u", " % local.number(shown.count), viewport());
+        return true;
+    }
+    // A tooltip that repeats what can be read already only stands in the way.
+    const bool isDate =
+        index.isValid() && m_model.columns()[index.column()].content == TableColumn::Content::Date;
+    const bool isBand = index.isValid() && m_model.isBand(index);
+    const int width = index.isValid() ? visualRect(index).width() : 0;
+    const bool isCut = index.isValid() && !isBand && m_delegate.isCut(index, width);
+    if (isDate || isCut)
+        QToolTip::showText(onScreen, index.data(Qt::ToolTipRole).toString(), viewport(), visualRect(index));
+    else
+        QToolTip::hideText();
+    return true;
+}
+
+void TableView::mouseMoveEvent(QMouseEvent *event)
+{
+    const QPoint point = event->position().toPoint();
+    setHovered(indexAt(point));
+    if (const std::optional tick = tickAt(point); tick != m_hoveredTick) {
+        m_hoveredTick = tick;
+        updateRow(m_hovered);
+    }
+    m_bubble.avoid(point);
+    QTreeView::mouseMoveEvent(event);
 }
 
 void TableView::mousePressEvent(QMouseEvent *event)
 {
-    const QModelIndex index = indexAt(event->position().toPoint());
+    m_isByKeyboard = false;
+    const QPoint point = event->position().toPoint();
+    const QModelIndex index = indexAt(point);
     if (!isKind(index, RowKind::Section)) {
         QTreeView::mousePressEvent(event);
         return;
     }
     if (event->button() != Qt::LeftButton)
         return;
+    if (const std::optional tick = tickAt(point)) {
+        goToTick(index.siblingAtColumn(0), *tick);
+        return;
+    }
     selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
     toggle(index);
 }
@@ -303,6 +543,7 @@ void TableView::keyPressEvent(QKeyEvent *event)
         Q_EMIT copyRequested();
         return;
     }
+    m_isByKeyboard = true;
     const QModelIndex current = currentIndex();
     const bool hasModifiers = (event->modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier;
     switch (event->key()) {
@@ -329,14 +570,23 @@ void TableView::keyPressEvent(QKeyEvent *event)
         break;
     }
     QTreeView::keyPressEvent(event);
+    followCurrentRow();
+    updateRow(currentIndex());
 }
 
 void TableView::contextMenuEvent(QContextMenuEvent *event)
 {
     const bool isMouse = event->reason() == QContextMenuEvent::Mouse;
     const QModelIndex index = isMouse ? indexAt(event->pos()) : currentIndex();
-    if (!index.isValid() || isKind(index, RowKind::Section))
+    if (!index.isValid())
         return;
+    if (isKind(index, RowKind::Section)) {
+        const QString site = m_model.rowAt(index).site;
+        const QPoint place = isMouse ? event->globalPos() : viewport()->mapToGlobal(rowRect(index).center());
+        if (!site.isEmpty())
+            Q_EMIT siteMenuRequested(site, place);
+        return;
+    }
     if (!selectionModel()->isSelected(index))
         setCurrentIndex(index);
     if (isMouse) {
@@ -347,15 +597,29 @@ void TableView::contextMenuEvent(QContextMenuEvent *event)
     Q_EMIT linkMenuRequested(viewport()->mapToGlobal(visualRect(index).center()));
 }
 
-void TableView::updateColors()
+void TableView::setSearch(const ShownSearch &search)
 {
-    setPaletteColor(m_emptyLabel, QPalette::WindowText, Look::of(*this).list.quiet);
+    m_delegate.setSearch(search);
+}
+
+void TableView::updateLook()
+{
+    m_look = Look::of(*this);
+    setPaletteColor(m_emptyLabel, QPalette::WindowText, m_look.list.quiet);
+    setIconSize({m_look.measures.iconSide, m_look.measures.iconSide});
+    if (rootIsDecorated()) {
+        setIndentation(m_look.measures.units(indentInLines));
+        m_header.setTitleIndent(indentation());
+    }
+    scheduleDelayedItemsLayout();
+    m_bubble.place();
 }
 
 void TableView::changeEvent(QEvent *event)
 {
-    if (event->type() == QEvent::PaletteChange)
-        updateColors();
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange ||
+        event->type() == QEvent::StyleChange)
+        updateLook();
     QTreeView::changeEvent(event);
 }
 
@@ -363,6 +627,7 @@ void TableView::resizeEvent(QResizeEvent *event)
 {
     QTreeView::resizeEvent(event);
     m_emptyLabel.setGeometry(viewport()->rect());
+    m_bubble.place();
 }
 
 } // namespace roamlet

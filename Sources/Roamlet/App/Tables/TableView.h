@@ -3,19 +3,28 @@
 
 #pragma once
 
+#include "App/Look/Look.h"
 #include "Lists/RowTree.h"
 
+#include <QPoint>
 #include <QSet>
 #include <QString>
+#include <QTimer>
 #include <QTreeView>
+
+#include <cstddef>
+#include <optional>
 
 class QLabel;
 
 namespace roamlet
 {
 
+class RowBubble;
+class RowDelegate;
 class TableHeader;
 class TableModel;
+struct ShownSearch;
 
 /// The view of a table: rows with sections or folders that open and close, and words in place of an empty
 /// list. It keeps the selection and what is open when a newer list comes.
@@ -38,6 +47,8 @@ public:
     /// Shows a newer list. Rows that are in it too stay selected and open or closed; with Scrolling::Stay
     /// most of those in sight also stay where they are.
     void showTree(const SharedRowTree &tree, Scrolling scrolling);
+    /// What was searched for in the rows that are shown next.
+    void setSearch(const ShownSearch &search);
     /// What is said while there are no rows.
     void setEmptyText(const QString &text);
     QString emptyText() const;
@@ -48,21 +59,33 @@ Q_SIGNALS:
     /// Return or a double-click on links.
     void openRequested();
     void copyRequested();
+    /// The menu of a section's site is wanted at this place of the screen.
+    void siteMenuRequested(QString site, QPoint place);
     /// The menu of the selected rows is wanted at this place of the screen.
     void linkMenuRequested(QPoint place);
 
 protected:
     void drawRow(QPainter *painter, const QStyleOptionViewItem &option,
                  const QModelIndex &index) const override;
+    void drawBranches(QPainter * /*painter*/, const QRect & /*rect*/,
+                      const QModelIndex & /*index*/) const override
+    {
+    }
+    int sizeHintForColumn(int column) const override;
+    bool viewportEvent(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void changeEvent(QEvent *event) override;
+    void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
+    void selectionChanged(const QItemSelection &selected, const QItemSelection &deselected) override;
 
 private:
-    void updateColors();
+    void updateLook();
     void openFoldersAndSections();
     bool isOpen(const RowTree::Node &node) const;
     bool isKind(const QModelIndex &index, TableRow::Kind kind) const;
@@ -71,11 +94,36 @@ private:
     /// Nothing below what is closed stays selected or current.
     void leaveBelow(const QModelIndex &closed);
     bool selectsLinks() const;
-    void drawSection(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const;
+    void drawBand(QPainter *painter, const QRect &band, const QModelIndex &index) const;
+    void drawGround(QPainter *painter, const QRect &row, const QModelIndex &index) const;
+    bool isSelectedRow(const QModelIndex &index) const;
+    bool hasRing(const QModelIndex &index) const;
+    /// The whole width of a row.
+    QRect rowRect(const QModelIndex &index) const;
+    void updateRow(const QModelIndex &index);
+    /// The strip of a section that shows one, or null.
+    const VisitStrip *stripOf(const QModelIndex &section) const;
+    int stripEnd() const;
+    std::optional<std::size_t> tickAt(const QPoint &point) const;
+    std::optional<std::size_t> litTick(const QModelIndex &section) const;
+    void setHovered(const QModelIndex &index);
+    void goToTick(const QModelIndex &section, std::size_t tick);
+    bool showToolTip(const QPoint &point, const QPoint &onScreen);
+    void showBubble(const QModelIndex &index);
+    void followCurrentRow();
 
     TableModel &m_model;
     TableHeader &m_header;
+    Look m_look;
+    RowDelegate &m_delegate;
+    RowBubble &m_bubble;
     QLabel &m_emptyLabel;
+    /// The row under the pointer, and in a strip the bar.
+    QPersistentModelIndex m_hovered;
+    std::optional<std::size_t> m_hoveredTick;
+    QTimer m_bubbleWait;
+    /// Keys move the current row, not the mouse.
+    bool m_isByKeyboard = false;
     /// The folders and sections whose state differs from how they come: outermost ones open, others closed.
     QSet<QString> m_toggled;
     bool m_isRestoring = false;

@@ -1,0 +1,153 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "App/Tables/LocalText.h"
+
+#include "Model/UserCalendar.h"
+
+#include <QCoreApplication>
+
+#include <unicode/datefmt.h>
+#include <unicode/locid.h>
+#include <unicode/timezone.h>
+
+namespace roamlet
+{
+
+using namespace Qt::StringLiterals;
+
+/// A day with its month and the time, or with its year, as the language puts them together. What the clock on
+/// the wall shows is handed over as if it were UTC, so that the time zone is the one of all other dates.
+struct LocalText::Formats {
+    explicit Formats(const QString &locale)
+    {
+        const icu::Locale native(locale.toLatin1().constData());
+        UErrorCode status = U_ZERO_ERROR;
+        dayAndTime.reset(icu::DateFormat::createInstanceForSkeleton("MMMdjmm", native, status));
+        dayAndYear.reset(icu::DateFormat::createInstanceForSkeleton("yMMMd", native, status));
+        if (U_FAILURE(status) != 0) {
+            dayAndTime.reset();
+            return;
+        }
+        for (icu::DateFormat *format : {dayAndTime.get(), dayAndYear.get()})
+            format->adoptTimeZone(icu::TimeZone::getGMT()->clone());
+    }
+
+    /// Empty without the library's data.
+    QString text(const QDateTime &shown, bool isWithTime) const
+    {
+        if (!dayAndTime)
+            return {};
+        const QDateTime wall(shown.date(), shown.time(), Qt::UTC);
+        icu::UnicodeString text;
+        (isWithTime ? dayAndTime : dayAndYear)->format(double(wall.toMSecsSinceEpoch()), text);
+        // The same blank before "PM" as in the times that Qt writes.
+        constexpr QChar narrowBlank = u'\u202f';
+        return QString::fromUtf16(text.getBuffer(), text.length()).replace(narrowBlank, u' ');
+    }
+
+    std::unique_ptr<icu::DateFormat> dayAndTime;
+    std::unique_ptr<icu::DateFormat> dayAndYear;
+
+    static std::shared_ptr<const Formats> of(const QString &locale)
+    {
+        // Looking the forms up takes longer than a list of dates.
+        static QString known;
+        static std::shared_ptr<const Formats> formats;
+        if (!formats || known != locale) {
+            known = locale;
+            formats = std::make_shared<Formats>(locale);
+        }
+        return formats;
+    }
+};
+
+LocalText::LocalText(const UserCalendar &calendar, PointInTime now)
+    : m_locale(calendar.locale),
+      m_zone(calendar.timeZone.toLatin1()),
+      m_now(now),
+      m_formats(Formats::of(calendar.locale))
+{
+    if (!m_zone.isValid())
+        m_zone = QTimeZone::utc();
+    m_today = local(now).date();
+}
+
+QString LocalText::briefDate(PointInTime time) const
+{
+    return briefDate(local(time));
+}
+
+QString LocalText::briefDate(const QDateTime &shown) const
+{
+    constexpr qint64 week = 7;
+    const qint64 daysAgo = shown.date().daysTo(m_today);
+    const QString time = m_locale.toString(shown.time(), QLocale::ShortFormat);
+    if (daysAgo == 0)
+        return time;
+    if (daysAgo > 0 && daysAgo < week)
+        return m_locale.dayName(shown.date().dayOfWeek(), QLocale::ShortFormat) % u' ' % time;
+    // A day of the same name a year ago is another one.
+    const bool isWithinAYear = daysAgo > 0 && shown.date() > m_today.addYears(-1);
+    const QString text = m_formats->text(shown, isWithinAYear);
+    return text.isEmpty() ? m_locale.toString(shown.date(), QLocale::ShortFormat) : text;
+}
+
+QString LocalText::timeOfDay(PointInTime time) const
+{
+    return m_locale.toString(local(time).time(), QLocale::ShortFormat);
+}
+
+QString LocalText::fullDate(PointInTime time) const
+{
+    const QDateTime shown = local(time);
+    return m_locale.toString(shown.date(), QLocale::LongFormat) % u' ' %
+           m_locale.toString(shown.time(), QLocale::ShortFormat);
+}
+
+QString LocalText::hour(PointInTime begin, PointInTime end) const
+{
+    //: An hour of a day: "13:00 to 14:00".
+    return QCoreApplication::translate("roamlet::LocalText", "%1 to %2")
+        .arg(timeOfDay(begin), timeOfDay(end));
+}
+
+QString LocalText::day(PointInTime begin) const
+{
+    return m_locale.toString(local(begin).date(), QLocale::LongFormat);
+}
+
+QString LocalText::number(qint64 number) const
+{
+    return m_locale.toString(number);
+}
+
+QStringList LocalText::sampleDates() const
+{
+    constexpr int daysPerWeek = 7;
+    constexpr int monthsPerYear = 12;
+    const QTime time(22, 58);
+    QStringList result;
+    for (int day = 0; day < daysPerWeek; ++day)
+        result.append(briefDate(QDateTime(m_today.addDays(-day), time, m_zone)));
+    for (int month = 1; month < monthsPerYear; ++month) {
+        QDate date = m_today.addMonths(-month);
+        date.setDate(date.year(), date.month(), 28);
+        result.append(briefDate(QDateTime(date, time, m_zone)));
+        result.append(briefDate(QDateTime(date.addYears(-2), time, m_zone)));
+    }
+    return result;
+}
+
+PointInTime LocalText::tomorrow() const
+{
+    const QDateTime start = m_today.addDays(1).startOfDay(m_zone);
+    return pointInTime(static_cast<double>(start.toMSecsSinceEpoch()) / 1000);
+}
+
+QDateTime LocalText::local(PointInTime time) const
+{
+    return QDateTime::fromMSecsSinceEpoch(millisecondsSince1970(time), m_zone);
+}
+
+} // namespace roamlet
