@@ -3,6 +3,8 @@
 
 #include "App/Tables/CellText.h"
 
+#include <QFontMetrics>
+
 namespace roamlet
 {
 
@@ -41,6 +43,11 @@ QString CellText::oneLine(QStringView text, qsizetype longest)
     if (shown.size() < text.size())
         result.append(u'…');
     return result;
+}
+
+QString CellText::fitted(const QString &text, const QFontMetrics &metrics, int width)
+{
+    return metrics.horizontalAdvance(text) <= width ? text : metrics.elidedText(text, Qt::ElideRight, width);
 }
 
 QString CellText::inMenu(QStringView text)

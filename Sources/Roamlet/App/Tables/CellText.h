@@ -7,6 +7,8 @@
 #include <QStringList>
 #include <QStringView>
 
+class QFontMetrics;
+
 namespace roamlet
 {
 
@@ -25,6 +27,10 @@ QString oneLine(QStringView text, qsizetype longest = longestText);
 QString inMenu(QStringView text);
 /// A tooltip over these lines, each shown as it is and broken where it gets too wide.
 QString toolTip(const QStringList &lines);
+
+/// As much of a text as fits into so many pixels, with an ellipsis for the rest. All of it where it is as
+/// wide as that after rounding.
+QString fitted(const QString &text, const QFontMetrics &metrics, int width);
 
 } // namespace CellText
 

@@ -278,7 +278,7 @@ void RowDelegate::paintTitle(const Cell &cell) const
         const int countWidth = tabularWidth(small, count);
         const int titleWidth = std::clamp(rest.width() - gap - countWidth, 0, wanted);
         draw(QRect(rest.topLeft(), QSize(titleWidth, rest.height())),
-             metrics.elidedText(title, Qt::ElideRight, titleWidth), {}, cell.ink);
+             CellText::fitted(title, metrics, titleWidth), {}, cell.ink);
         cell.painter.setFont(small);
         cell.painter.setPen(cell.quiet);
         drawTabularText(
@@ -314,7 +314,7 @@ void RowDelegate::paintTitle(const Cell &cell) const
 
 void RowDelegate::paintText(const Cell &cell, const QString &text) const
 {
-    const QString shown = cell.painter.fontMetrics().elidedText(text, Qt::ElideRight, cell.place.width());
+    const QString shown = CellText::fitted(text, cell.painter.fontMetrics(), cell.place.width());
     drawMarkedText(cell.painter, cell.visual(cell.place), cell.option.direction, shown, m_search.words,
                    cell.quiet, cell.mark);
 }
@@ -324,7 +324,7 @@ void RowDelegate::paintNumber(const Cell &cell, const QString &text) const
     cell.painter.setPen(cell.quiet);
     const bool fits = tabularWidth(cell.painter.font(), text) <= cell.place.width();
     const QString shown =
-        fits ? text : cell.painter.fontMetrics().elidedText(text, Qt::ElideRight, cell.place.width());
+        fits ? text : CellText::fitted(text, cell.painter.fontMetrics(), cell.place.width());
     drawTabularText(cell.painter, cell.visual(cell.place), cell.option.direction, shown);
 }
 
@@ -341,7 +341,7 @@ void RowDelegate::paintSource(const Cell &cell, const QString &label) const
     if (m_header.isNarrow() || rest.width() < m_look.measures.units(1))
         return;
     drawMarkedText(cell.painter, cell.visual(rest), cell.option.direction,
-                   cell.painter.fontMetrics().elidedText(label, Qt::ElideRight, rest.width()), {}, cell.quiet,
+                   CellText::fitted(label, cell.painter.fontMetrics(), rest.width()), {}, cell.quiet,
                    cell.mark);
 }
 

@@ -3,6 +3,7 @@
 
 #include "App/Tables/SearchMatches.h"
 
+#include "App/Tables/CellText.h"
 #include "Model/LowerCase.h"
 
 #include <QFontMetrics>
@@ -40,10 +41,9 @@ QList<TextRange> searchMatches(QStringView text, const QStringList &words)
 QString fittedAroundMatch(const QString &text, const QStringList &words, const QFontMetrics &metrics,
                           int width)
 {
-    if (metrics.horizontalAdvance(text) <= width)
-        return text;
-    const QString fromTheBeginning = metrics.elidedText(text, Qt::ElideRight, width);
-    const QList<TextRange> matches = searchMatches(text, words);
+    const QString fromTheBeginning = CellText::fitted(text, metrics, width);
+    const QList<TextRange> matches =
+        fromTheBeginning == text ? QList<TextRange>() : searchMatches(text, words);
     if (matches.isEmpty())
         return fromTheBeginning;
     const qsizetype end = matches.first().begin + matches.first().length;
