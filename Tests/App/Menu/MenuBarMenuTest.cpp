@@ -175,6 +175,16 @@ TEST_F(MenuBarMenuTest, pagesHaveTheirBrowsersIcon)
     EXPECT_EQ(color(1), QColor(Qt::blue));
 }
 
+TEST_F(MenuBarMenuTest, pagesOfTwoProfilesOfABrowserHaveDifferentIcons)
+{
+    addChromium();
+    loadNow(library);
+    ASSERT_EQ(recentTitles(), (QStringList{u"b1"_s, u"e1"_s, u"a1"_s, u"a2"_s}));
+    const auto icon = [this](int row) { return recent().actions().at(row)->icon().pixmap(16).toImage(); };
+    EXPECT_NE(icon(0), icon(2));
+    EXPECT_EQ(icon(2), icon(3));
+}
+
 TEST_F(MenuBarMenuTest, aPageOpensInTheBrowserAndProfileThatItCameFrom)
 {
     addChromium();

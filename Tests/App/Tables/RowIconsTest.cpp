@@ -66,21 +66,15 @@ TEST_F(RowIconsTest, aBrokenIconIsAGlobe)
     EXPECT_EQ(icons.site(u"a1.example"_s).cacheKey(), icons.site(u"b.example"_s).cacheKey());
 }
 
-TEST_F(RowIconsTest, anInstalledBrowserHasItsIconAndAnotherASymbol)
+TEST_F(RowIconsTest, aSourceHasItsBrowsersIconOrAMark)
 {
     workspace.icons.insert(u"chrome"_s, Qt::red);
-    EXPECT_EQ(colour(icons.browser(Source::Kind::Chrome)), QColor(Qt::red));
-    EXPECT_FALSE(icons.browser(Source::Kind::Edge).isNull());
-    EXPECT_FALSE(icons.browser(Source::Kind::Safari).isNull());
-    EXPECT_NE(colour(icons.browser(Source::Kind::Edge)), QColor(Qt::red));
-}
-
-TEST_F(RowIconsTest, eachIconIsMadeOnce)
-{
-    workspace.icons.insert(u"chrome"_s, Qt::red);
-    icons.browser(Source::Kind::Chrome);
-    icons.browser(Source::Kind::Chrome);
-    EXPECT_EQ(workspace.iconRequests, 1);
+    const Source chrome{
+        .kind = Source::Kind::Chrome, .profile = u"Default"_s, .name = {}, .safariBookmarks = {}};
+    const QIcon safari = icons.source(Source::safari());
+    EXPECT_EQ(colour(icons.source(chrome)), QColor(Qt::red));
+    EXPECT_NE(safari.cacheKey(), icons.site(u"example.org"_s).cacheKey());
+    EXPECT_EQ(safari.pixmap(QSize(16, 16), 1.0).toImage().pixelColor(8, 3), QColor(0x1a, 0x7f, 0xe0));
 }
 
 } // namespace roamlet::testing

@@ -14,7 +14,7 @@
 /// The resources of a static library are there only once somebody asks for them, from outside of any
 /// namespace.
 // NOLINTNEXTLINE(misc-use-anonymous-namespace)
-static void useSymbols()
+static void initializeResources()
 {
     Q_INIT_RESOURCE(Resources);
 }
@@ -100,9 +100,14 @@ private:
 
 } // namespace
 
+void useDrawings()
+{
+    initializeResources();
+}
+
 QIcon symbolIcon(const QString &name, const std::optional<QColor> &color)
 {
-    useSymbols();
+    useDrawings();
     const QString path = u":/symbols/%1.svg"_s.arg(name);
     if (!QFile::exists(path))
         return {};
@@ -111,7 +116,7 @@ QIcon symbolIcon(const QString &name, const std::optional<QColor> &color)
 
 QIcon applicationIcon()
 {
-    useSymbols();
+    useDrawings();
     // Not the desktop theme's: it would be looked for in every folder before the window shows.
     return QIcon(u":/org.roamlet.Roamlet.svg"_s);
 }

@@ -17,6 +17,9 @@ namespace roamlet
 /// icon for a name that there is not.
 QIcon symbolIcon(const QString &name, const std::optional<QColor> &color = {});
 
+/// Makes the drawings that come with the program available to whoever reads them by their names.
+void useDrawings();
+
 /// The program's own icon: the desktop theme's drawing of it where there is one, and otherwise ours.
 QIcon applicationIcon();
 

@@ -132,7 +132,7 @@ void MenuBarMenu::fill()
     if (library.menuRecent().isEmpty())
         addLine(u"nothingRecent"_s, updated ? tr("No history") : tr("Reading…"));
     for (const HistoryItem &item : library.menuRecent()) {
-        QAction *page = m_recent->addAction(m_icons.browser(item.source.kind), MenuTitle::inMenu(item.title));
+        QAction *page = m_recent->addAction(m_icons.of(item.source), MenuTitle::inMenu(item.title));
         page->setObjectName(u"page"_s);
         page->setToolTip(CellText::toolTip({item.title, item.url}));
         connect(page, &QAction::triggered, this,

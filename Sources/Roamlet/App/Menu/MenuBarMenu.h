@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "App/Tables/RowIcons.h"
+#include "App/Look/SourceIcons.h"
 
 #include <QMenu>
 
@@ -55,7 +55,7 @@ private:
     void fill();
 
     Services m_services;
-    RowIcons m_icons;
+    SourceIcons m_icons;
     QMenu *m_recent;
     QAction *m_updated;
     QAction *m_updateIsWaiting;

@@ -5,8 +5,6 @@
 
 #include "App/Look/Symbol.h"
 #include "Library/Library.h"
-#include "Model/Browser.h"
-#include "Opening/Opener.h"
 
 #include <QImage>
 #include <QPainter>
@@ -20,7 +18,7 @@ using namespace Qt::StringLiterals;
 
 RowIcons::RowIcons(Library &library, Opener &opener, const QWidget &widget)
     : m_library(library),
-      m_opener(opener),
+      m_sources(library, opener, widget),
       m_widget(widget),
       m_globe(symbolIcon(u"globe"_s)),
       m_folder(symbolIcon(u"folder"_s))
@@ -44,24 +42,9 @@ const QIcon &RowIcons::siteIfKnown(const QString &site)
     return *icon;
 }
 
-const QIcon &RowIcons::browser(Source::Kind kind)
-{
-    followDisplay();
-    auto icon = m_browsers.constFind(kind);
-    if (icon == m_browsers.cend()) {
-        const std::optional<QImage> image = m_opener.icon(kind, m_ratio);
-        const bool isSafari = Browser::of(kind).family == Browser::Family::Safari;
-        const QIcon symbol = isSafari ? symbolIcon(u"safari"_s) : m_globe;
-        icon = m_browsers.insert(kind, image ? iconOf(*image) : symbol);
-    }
-    return *icon;
-}
-
 void RowIcons::clear()
 {
     m_sites.clear();
-    // A browser may have been installed in the meantime.
-    m_browsers.clear();
 }
 
 void RowIcons::followDisplay()

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "Model/Source.h"
+#include "App/Look/SourceIcons.h"
 
 #include <QHash>
 #include <QIcon>
@@ -32,8 +32,8 @@ public:
     const QIcon &site(const QString &site);
     /// The site's own icon, or a null icon.
     const QIcon &siteIfKnown(const QString &site);
-    /// The browser's icon, or a symbol.
-    const QIcon &browser(Source::Kind kind);
+    /// The icon of the profile's browser, or our mark of it.
+    QIcon source(const Source &source) { return m_sources.of(source); }
     const QIcon &folder() const { return m_folder; }
     /// A new snapshot can bring other icons.
     void clear();
@@ -44,11 +44,10 @@ private:
     QIcon iconOf(const QImage &image) const;
 
     Library &m_library;
-    Opener &m_opener;
+    SourceIcons m_sources;
     const QWidget &m_widget;
     qreal m_ratio = 1;
     QHash<QString, QIcon> m_sites;
-    QHash<Source::Kind, QIcon> m_browsers;
     QIcon m_globe;
     QIcon m_folder;
 };

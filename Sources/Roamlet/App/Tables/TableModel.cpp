@@ -254,7 +254,7 @@ QVariant TableModel::icon(const TableRow &row, TableColumn::Content content) con
     if (m_icons == nullptr)
         return {};
     if (content == TableColumn::Content::Source)
-        return m_icons->browser(row.source.kind);
+        return m_icons->source(row.source);
     if (content != TableColumn::Content::Title)
         return {};
     switch (row.kind) {
