@@ -182,6 +182,7 @@ SettingsWindow &RoamletApp::settingsWindow()
                                                               .loginService = m_services.loginService,
                                                               .activation = m_services.activation,
                                                               .delegate = m_delegate,
+                                                              .opener = m_opener,
                                                               .updater = &m_services.updater});
     return *m_settingsWindow;
 }

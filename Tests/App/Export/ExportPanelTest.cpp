@@ -7,10 +7,12 @@
 #include "App/Export/FakeSavePanel.h"
 #include "App/Look/NoteLabel.h"
 #include "Export/BookmarkExport.h"
+#include "Opening/Opener.h"
 #include "Platform/FileSizeLimit.h"
 #include "Platform/WithoutPrivileges.h"
 #include "SampleHome/PlainFiles.h"
 #include "Support/FakeActivationPolicy.h"
+#include "Support/FakeWorkspace.h"
 #include "Support/LibraryHome.h"
 #include "Support/Waiting.h"
 
@@ -68,7 +70,7 @@ protected:
 
     void open(const ExportRequest &request = {})
     {
-        panel = new ExportPanel(request, {library, home.defaults, savePanel, alert, activation});
+        panel = new ExportPanel(request, {library, home.defaults, savePanel, alert, activation, opener});
         panel->open();
         panel->activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(panel.data()));
@@ -122,6 +124,8 @@ protected:
     FakeSavePanel savePanel;
     FakeAlert alert;
     FakeActivationPolicy activation;
+    FakeWorkspace workspace;
+    Opener opener{workspace};
     QTemporaryDir target;
     QPointer<ExportPanel> panel;
 
@@ -217,11 +221,23 @@ TEST_F(ExportPanelTest, aSourceThatVanishesLeavesNoChoiceAndAnEmptyFile)
     EXPECT_EQ(content(u"file.csv"_s), "Browser,Profile,Folder,Title,URL,Added\r\n");
 }
 
+TEST_F(ExportPanelTest, eachSourceHasItsIcon)
+{
+    workspace.icons = {{u"chrome"_s, Qt::cyan}};
+    open();
+    ASSERT_EQ(sources().count(), 3);
+    const auto icon = [this](int index) { return sources().itemIcon(index).pixmap(16).toImage(); };
+    EXPECT_EQ(icon(1).pixelColor(4, 8), QColor(Qt::cyan));
+    EXPECT_EQ(icon(2).pixelColor(4, 8), QColor(Qt::cyan));
+    EXPECT_NE(icon(1), icon(2)) << "one is Personal, the other one Work";
+    EXPECT_FALSE(sources().itemIcon(0).isNull()) << "all texts begin on one line";
+}
+
 TEST_F(ExportPanelTest, anEmptyHomeOffersOnlyAllBrowsers)
 {
     TestHome empty;
     Library nothing(empty.platform());
-    panel = new ExportPanel({}, {nothing, home.defaults, savePanel, alert, activation});
+    panel = new ExportPanel({}, {nothing, home.defaults, savePanel, alert, activation, opener});
     EXPECT_EQ(choices(), QStringList{u"All Browsers (0)"_s});
 }
 

@@ -6,6 +6,8 @@
 #include "App/Look/NoteLabel.h"
 #include "App/Settings/ProfileList.h"
 #include "App/Settings/ProfileListModel.h"
+#include "Opening/Opener.h"
+#include "Support/FakeWorkspace.h"
 #include "Support/LibraryHome.h"
 #include "Support/Waiting.h"
 
@@ -72,7 +74,9 @@ protected:
     }
 
     Library library{home.platform()};
-    BrowserProfileSettings tab{library};
+    FakeWorkspace workspace;
+    Opener opener{workspace};
+    BrowserProfileSettings tab{library, opener};
     const QStringList all{u"Safari - Personal"_s, u"Safari - Travel"_s, u"Chrome - Personal"_s,
                           u"Chrome - Work"_s, u"Edge - Office"_s};
 };
@@ -262,12 +266,37 @@ TEST_F(BrowserProfileSettingsTest, withoutProfilesTheListSaysWhyItIsEmpty)
 {
     TestHome empty;
     Library nothing(empty.platform());
-    const BrowserProfileSettings other(nothing);
+    const BrowserProfileSettings other(nothing, opener);
     const auto *otherList = other.findChild<ProfileList *>();
     EXPECT_EQ(otherList->placeholderText(), u"Reading…"_s);
     loadNow(nothing);
     EXPECT_EQ(otherList->model()->rowCount(), 0);
     EXPECT_EQ(otherList->placeholderText(), u"No browser profiles were found."_s);
+}
+
+TEST_F(BrowserProfileSettingsTest, aProfileHasItsBrowsersIconBetweenTheHandleAndTheName)
+{
+    workspace.icons = {{u"edge"_s, Qt::magenta}};
+    loadNow(library);
+    for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+        tab.setLayoutDirection(direction);
+        const QImage drawn = list().viewport()->grab().toImage();
+        const int y = center(4).y();
+        QList<int> columns;
+        for (int x = 0; x < drawn.width(); ++x) {
+            if (drawn.pixelColor(x, y) == QColor(Qt::magenta))
+                columns.append(x);
+        }
+        ASSERT_FALSE(columns.isEmpty());
+        EXPECT_EQ(columns.last() - columns.first() + 1, columns.size()) << "it is one square";
+        const int leading =
+            direction == Qt::LeftToRight ? columns.first() : drawn.width() - 1 - columns.last();
+        EXPECT_GT(leading, 20);
+        EXPECT_LT(leading, 60);
+    }
+    EXPECT_NE(row(2).data(Qt::DecorationRole).value<QIcon>().pixmap(16).toImage(),
+              row(3).data(Qt::DecorationRole).value<QIcon>().pixmap(16).toImage())
+        << "one is Personal, the other one Work";
 }
 
 TEST_F(BrowserProfileSettingsTest, anEndlessNameIsCut)
@@ -283,7 +312,7 @@ TEST_F(BrowserProfileSettingsTest, anEndlessNameIsCut)
 
 TEST_F(BrowserProfileSettingsTest, theModelIsAProperOne)
 {
-    ProfileListModel own(library);
+    ProfileListModel own(library, opener, list());
     const QAbstractItemModelTester tester(&own, QAbstractItemModelTester::FailureReportingMode::Fatal);
     EXPECT_TRUE(own.moveRow({}, 0, {}, 3));
     EXPECT_FALSE(own.moveRow({}, 1, {}, 1));

@@ -10,9 +10,11 @@
 #include "App/Updates/BundleInformation.h"
 #include "App/Updates/Updater.h"
 #include "Library/Library.h"
+#include "Opening/Opener.h"
 #include "Support/FakeActivationPolicy.h"
 #include "Support/FakeLoginService.h"
 #include "Support/FakeUpdateDriver.h"
+#include "Support/FakeWorkspace.h"
 #include "Support/TestHome.h"
 
 #include <QAccessible>
@@ -39,7 +41,7 @@ protected:
     void open()
     {
         window = std::make_unique<SettingsWindow>(
-            SettingsServices{library, home.defaults, login, activation, delegate});
+            SettingsServices{library, home.defaults, login, activation, delegate, opener});
         window->open();
         ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
     }
@@ -54,6 +56,8 @@ protected:
     FakeActivationPolicy activation;
     bool hasTray = true;
     AppDelegate delegate{home.defaults, activation, [this] { return hasTray; }};
+    FakeWorkspace workspace;
+    Opener opener{workspace};
     std::unique_ptr<SettingsWindow> window;
 };
 
@@ -181,7 +185,7 @@ TEST_F(GeneralSettingsTest, aRegistrationThatNeedsApprovalSaysSo)
         bool isInstalledCopy() const override { return true; }
         Status current = Status::NotRegistered;
     } pending;
-    SettingsWindow own({library, home.defaults, pending, activation, delegate});
+    SettingsWindow own({library, home.defaults, pending, activation, delegate, opener});
     own.open();
     auto *toggle = own.findChild<Switch *>(u"openAtLogin"_s);
     QTest::mouseClick(toggle, Qt::LeftButton);
@@ -255,7 +259,7 @@ protected:
         updater = std::make_unique<Updater>(information, std::move(own));
         driver->isAutomatic = false;
         window = std::make_unique<SettingsWindow>(
-            SettingsServices{library, home.defaults, login, activation, delegate, updater.get()});
+            SettingsServices{library, home.defaults, login, activation, delegate, opener, updater.get()});
         window->open();
         ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
     }

@@ -7,6 +7,7 @@
 #include "App/Export/SavePanel.h"
 #include "App/Look/Look.h"
 #include "App/Look/NoteLabel.h"
+#include "App/Look/Symbol.h"
 #include "App/Tables/CellText.h"
 #include "Library/Library.h"
 #include "Platform/ActivationPolicy.h"
@@ -94,6 +95,7 @@ ExportPanel::ExportPanel(const ExportRequest &request, const Services &services,
       m_services(services),
       m_sourceID(request.sourceID),
       m_sources(new QComboBox),
+      m_icons(services.library, services.opener, *this),
       m_progress(new QProgressBar),
       m_cancel(new QPushButton(tr("Cancel"))),
       m_export(new QPushButton(tr("Export…")))
@@ -237,19 +239,22 @@ void ExportPanel::fillSources()
     const QSignalBlocker blocker(m_sources);
     m_sources->clear();
     m_choices.clear();
-    const auto add = [this](const QString &label, qsizetype count, const std::optional<QString> &id) {
+    const int iconSide = Look::of(*this).measures.iconSide;
+    m_sources->setIconSize({iconSide, iconSide});
+    const auto add = [this](const QIcon &icon, const QString &label, qsizetype count,
+                            const std::optional<QString> &id) {
         // A profile's name has no limit; the list has.
         constexpr qsizetype longestLabel = 80;
         m_sources->addItem(
-            u"%1 (%2)"_s.arg(CellText::oneLine(label, longestLabel), locale().toString(count)));
+            icon, u"%1 (%2)"_s.arg(CellText::oneLine(label, longestLabel), locale().toString(count)));
         m_choices.append(id);
         if (id == m_sourceID)
             m_sources->setCurrentIndex(m_sources->count() - 1);
     };
-    add(tr("All Browsers"), snapshot.bookmarks.size(), {});
+    add(symbolIcon(u"globe"_s), tr("All Browsers"), snapshot.bookmarks.size(), {});
     for (const Source &source : m_services.library.ordered(snapshot.sources)) {
         if (const qsizetype count = sizes.value(source); count > 0)
-            add(source.label(), count, source.id());
+            add(m_icons.of(source), source.label(), count, source.id());
     }
     if (m_sourceID && m_choices.value(m_sources->currentIndex()) != m_sourceID)
         m_sources->setCurrentIndex(-1);

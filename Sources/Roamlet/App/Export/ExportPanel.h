@@ -4,6 +4,7 @@
 #pragma once
 
 #include "App/Export/ExportRequest.h"
+#include "App/Look/SourceIcons.h"
 #include "Export/BookmarkExport.h"
 #include "Platform/BackgroundTasks.h"
 
@@ -24,6 +25,7 @@ namespace roamlet
 class ActivationPolicy;
 class Alert;
 class Library;
+class Opener;
 class SavePanel;
 class UserDefaults;
 
@@ -41,6 +43,7 @@ public:
         SavePanel &savePanel;
         Alert &alert;
         ActivationPolicy &activation;
+        Opener &opener;
     };
 
     ExportPanel(const ExportRequest &request, const Services &services, QWidget *parent = nullptr);
@@ -75,6 +78,7 @@ private:
     /// The source ids of the choices.
     QList<std::optional<QString>> m_choices;
     QComboBox *m_sources;
+    SourceIcons m_icons;
     std::array<QRadioButton *, BookmarkExport::formats.size()> m_formats{};
     QProgressBar *m_progress;
     QPushButton *m_cancel;

@@ -15,13 +15,13 @@ namespace roamlet
 
 using namespace Qt::StringLiterals;
 
-BrowserProfileSettings::BrowserProfileSettings(Library &library, QWidget *parent)
+BrowserProfileSettings::BrowserProfileSettings(Library &library, Opener &opener, QWidget *parent)
     : QWidget(parent), m_library(library), m_list(new ProfileList)
 {
     m_list->setObjectName(u"profileList"_s);
     m_list->setAccessibleName(tr("Browser Profiles"));
     m_list->setAccessibleDescription(tr("Space turns a profile on or off, Alt with an arrow key moves it."));
-    m_list->setModel(new ProfileListModel(library, m_list));
+    m_list->setModel(new ProfileListModel(library, opener, *m_list));
     auto *note = new NoteLabel;
     note->setObjectName(u"profileNote"_s);
     note->setText(tr("Drag profiles to change their order in the sidebar. Roamlet only reads the profiles "

@@ -9,6 +9,7 @@ namespace roamlet
 {
 
 class Library;
+class Opener;
 class ProfileList;
 
 /// The tab in which the user turns browser profiles on and off and puts them in order.
@@ -17,7 +18,7 @@ class BrowserProfileSettings final : public QWidget
     Q_OBJECT
 
 public:
-    explicit BrowserProfileSettings(Library &library, QWidget *parent = nullptr);
+    BrowserProfileSettings(Library &library, Opener &opener, QWidget *parent = nullptr);
 
 private:
     void updatePlaceholder();

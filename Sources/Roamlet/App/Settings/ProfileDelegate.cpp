@@ -44,7 +44,12 @@ void ProfileDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
     symbolIcon(u"line.3.horizontal"_s, row.quiet).paint(painter, handle);
 
     const QRect control = switchRect(item);
-    const int indent = handleSide + margin;
+    const int iconSide = look.measures.iconSide;
+    const QRect iconColumn = inner.adjusted(handleSide + margin, 0, 0, 0);
+    item.icon.paint(painter, QStyle::alignedRect(item.direction, Qt::AlignLeft | Qt::AlignVCenter,
+                                                 QSize(iconSide, iconSide),
+                                                 QStyle::visualRect(item.direction, inner, iconColumn)));
+    const int indent = handleSide + margin + iconSide + look.measures.gapAfterIcon;
     const QRect name =
         QStyle::visualRect(item.direction, inner, inner.adjusted(indent, 0, -control.width() - margin, 0));
     painter->setPen(row.ink);

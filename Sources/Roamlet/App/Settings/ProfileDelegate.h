@@ -8,7 +8,7 @@
 namespace roamlet
 {
 
-/// Draws a profile: a handle to drag it by, its name, and a switch at the end of the row.
+/// Draws a profile: a handle to drag it by, its browser's icon, its name, and a switch at the end of the row.
 class ProfileDelegate final : public QStyledItemDelegate
 {
     Q_OBJECT

@@ -5,13 +5,15 @@
 
 #include "Library/Library.h"
 
+#include <QWidget>
+
 #include <algorithm>
 
 namespace roamlet
 {
 
-ProfileListModel::ProfileListModel(Library &library, QObject *parent)
-    : QAbstractListModel(parent), m_library(library)
+ProfileListModel::ProfileListModel(Library &library, Opener &opener, QWidget &list)
+    : QAbstractListModel(&list), m_library(library), m_icons(library, opener, list)
 {
     follow();
     connect(&library, &Library::snapshotChanged, this, &ProfileListModel::follow);
@@ -35,6 +37,8 @@ QVariant ProfileListModel::data(const QModelIndex &index, int role) const
         constexpr qsizetype longestLabel = 1000;
         return source.label().left(longestLabel).simplified();
     }
+    case Qt::DecorationRole:
+        return m_icons.of(source);
     case Qt::CheckStateRole:
         return m_disabled.contains(source.id()) ? Qt::Unchecked : Qt::Checked;
     case Qt::ToolTipRole:

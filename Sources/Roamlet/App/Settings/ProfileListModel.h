@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "App/Look/SourceIcons.h"
 #include "Model/Source.h"
 
 #include <QAbstractListModel>
@@ -13,6 +14,7 @@ namespace roamlet
 {
 
 class Library;
+class Opener;
 
 /// Every browser profile in the user's order, each with a switch (its check state). Moving rows and turning
 /// switches changes the Library, and the rows follow the Library.
@@ -21,7 +23,8 @@ class ProfileListModel final : public QAbstractListModel
     Q_OBJECT
 
 public:
-    explicit ProfileListModel(Library &library, QObject *parent = nullptr);
+    /// For this list, whose child it becomes.
+    ProfileListModel(Library &library, Opener &opener, QWidget &list);
 
     int rowCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
@@ -34,6 +37,8 @@ private:
     void follow();
 
     Library &m_library;
+    /// Asked while the rows are drawn.
+    mutable SourceIcons m_icons;
     QList<Source> m_profiles;
     /// The ids of those that are off.
     QSet<QString> m_disabled;

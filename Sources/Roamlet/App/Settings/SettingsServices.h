@@ -10,6 +10,7 @@ class ActivationPolicy;
 class AppDelegate;
 class Library;
 class LoginService;
+class Opener;
 class Updater;
 class UserDefaults;
 
@@ -20,6 +21,7 @@ struct SettingsServices {
     LoginService &loginService;
     ActivationPolicy &activation;
     AppDelegate &delegate;
+    Opener &opener;
     /// Without one that is available there are no settings for updates.
     Updater *updater = nullptr;
 };

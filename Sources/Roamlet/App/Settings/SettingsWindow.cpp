@@ -27,7 +27,7 @@ SettingsWindow::SettingsWindow(const SettingsServices &services, QWidget *parent
     m_tabs->setAccessibleName(tr("Settings"));
     m_tabs->tabBar()->setAccessibleName(tr("Settings"));
     m_tabs->addTab(new GeneralSettings(services), symbolIcon(u"gearshape"_s), tr("General"));
-    m_tabs->addTab(new BrowserProfileSettings(services.library), symbolIcon(u"person.2"_s),
+    m_tabs->addTab(new BrowserProfileSettings(services.library, services.opener), symbolIcon(u"person.2"_s),
                    tr("Browser Profiles"));
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_tabs);

@@ -147,7 +147,8 @@ void MainWindow::showExportSheet(const ExportRequest &request)
                                .defaults = m_services.content.defaults,
                                .savePanel = m_services.savePanel,
                                .alert = m_services.alert,
-                               .activation = m_services.activation},
+                               .activation = m_services.activation,
+                               .opener = m_services.content.opener},
                               this);
     m_sheet->open();
 }
