@@ -25,6 +25,7 @@ roamlet_compress(${CMAKE_SOURCE_DIR}/CHANGELOG.md changelog)
 install(FILES ${resources}/${application}.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES ${resources}/${application}.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 install(FILES ${resources}/${application}.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
+install(FILES ${resources}/${application}-symbolic.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/symbolic/apps)
 install(FILES ${CMAKE_BINARY_DIR}/installed/${application}.service
   DESTINATION ${CMAKE_INSTALL_DATADIR}/dbus-1/services)
 install(FILES ${CMAKE_BINARY_DIR}/installed/roamlet.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)

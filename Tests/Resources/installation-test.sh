@@ -9,7 +9,9 @@ DESTDIR=$folder/staging "$1" --install "$2" >/dev/null
 prefix=$folder/staging$(sed -n 's/^CMAKE_INSTALL_PREFIX:PATH=//p' "$2/CMakeCache.txt")
 status=0
 for file in bin/roamlet share/applications/org.roamlet.Roamlet.desktop \
-  share/icons/hicolor/scalable/apps/org.roamlet.Roamlet.svg share/metainfo/org.roamlet.Roamlet.metainfo.xml \
+  share/icons/hicolor/scalable/apps/org.roamlet.Roamlet.svg \
+  share/icons/hicolor/symbolic/apps/org.roamlet.Roamlet-symbolic.svg \
+  share/metainfo/org.roamlet.Roamlet.metainfo.xml \
   share/dbus-1/services/org.roamlet.Roamlet.service share/man/man1/roamlet.1.gz share/doc/roamlet/copyright \
   share/doc/roamlet/changelog.gz; do
   [ -f "$prefix/$file" ] || { echo "$file is missing"; status=1; }

@@ -3,10 +3,13 @@
 
 #include "App/Look/Symbol.h"
 
+#include <QDir>
+#include <QFile>
 #include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
 #include <QPalette>
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -169,6 +172,30 @@ TEST_F(SymbolTest, theProgramHasAnIconOfItsOwn)
         EXPECT_EQ(image.size(), QSize(side, side));
         EXPECT_GT(inkOf(image).width(), side * 3 / 4);
     }
+}
+
+TEST_F(SymbolTest, aPanelThatKnowsTheThemeGetsTheNameOfItsSign)
+{
+    const QStringList pathsBefore = QIcon::themeSearchPaths();
+    const QString nameBefore = QIcon::themeName();
+    const QTemporaryDir themes;
+    QDir(themes.path()).mkpath(u"hicolor/symbolic/apps"_s);
+    const auto write = [&themes](const QString &name, const QByteArray &content) {
+        QFile file(themes.filePath(u"hicolor/" % name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+    };
+    write(u"index.theme"_s, "[Icon Theme]\nName=Hicolor\nDirectories=symbolic/apps\n"
+                            "[symbolic/apps]\nSize=16\nType=Scalable\nMinSize=8\nMaxSize=512\n");
+    QIcon::setThemeSearchPaths({themes.path()});
+    QIcon::setThemeName(u"hicolor"_s);
+    EXPECT_EQ(panelIcon().name(), QString()) << "it is not installed";
+    write(u"symbolic/apps/org.roamlet.Roamlet-symbolic.svg"_s, "<svg xmlns=\"http://www.w3.org/2000/svg\"/>");
+    QIcon::setThemeSearchPaths({themes.path()});
+    EXPECT_EQ(panelIcon().name(), u"org.roamlet.Roamlet-symbolic"_s);
+    EXPECT_EQ(colorOf(imageOf(panelIcon(), 64)), QColor(0x5b, 0x9d, 0xf0)) << "others get the drawing";
+    QIcon::setThemeSearchPaths(pathsBefore);
+    QIcon::setThemeName(nameBefore);
 }
 
 class EverySymbolTest : public SymbolTest, public ::testing::WithParamInterface<const char *>

@@ -31,7 +31,8 @@ namespace
 class SymbolEngine final : public QIconEngine
 {
 public:
-    SymbolEngine(QString path, const std::optional<QColor> &color) : m_path(std::move(path)), m_color(color)
+    SymbolEngine(QString path, const std::optional<QColor> &color, QString themeName = {})
+        : m_path(std::move(path)), m_color(color), m_themeName(std::move(themeName))
     {
     }
 
@@ -63,7 +64,10 @@ public:
         return result;
     }
 
-    QIconEngine *clone() const override { return new SymbolEngine(m_path, m_color); }
+    QIconEngine *clone() const override { return new SymbolEngine(*this); }
+
+    /// A name that a theme does not know would be shown as a missing icon.
+    QString iconName() override { return QIcon::hasThemeIcon(m_themeName) ? m_themeName : QString(); }
 
 private:
     static QColor textColor(QIcon::Mode mode)
@@ -96,7 +100,13 @@ private:
 
     QString m_path;
     std::optional<QColor> m_color;
+    QString m_themeName;
 };
+
+QString symbolPath(const QString &name)
+{
+    return u":/symbols/%1.svg"_s.arg(name);
+}
 
 } // namespace
 
@@ -108,10 +118,19 @@ void useDrawings()
 QIcon symbolIcon(const QString &name, const std::optional<QColor> &color)
 {
     useDrawings();
-    const QString path = u":/symbols/%1.svg"_s.arg(name);
+    const QString path = symbolPath(name);
     if (!QFile::exists(path))
         return {};
     return QIcon(new SymbolEngine(path, color));
+}
+
+QIcon panelIcon()
+{
+    useDrawings();
+    // Nobody says whether such a panel is light or dark, and many are not like the windows.
+    constexpr QRgb seenOnBoth = 0xff5b9df0;
+    return QIcon(new SymbolEngine(symbolPath(u"steeringwheel"_s), QColor::fromRgba(seenOnBoth),
+                                  u"org.roamlet.Roamlet-symbolic"_s));
 }
 
 QIcon applicationIcon()

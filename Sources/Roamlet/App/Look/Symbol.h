@@ -17,6 +17,10 @@ namespace roamlet
 /// icon for a name that there is not.
 QIcon symbolIcon(const QString &name, const std::optional<QColor> &color = {});
 
+/// The program's sign for a panel. One that finds it by its name in the desktop's icon theme draws it in its
+/// own ink; others get it in a colour that is seen on light and on dark ones.
+QIcon panelIcon();
+
 /// Makes the drawings that come with the program available to whoever reads them by their names.
 void useDrawings();
 

@@ -19,20 +19,8 @@ namespace roamlet
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
-
-/// Nobody says whether the tray is light or dark, and many are not like the windows: this colour of the
-/// program's own can be seen on both.
-constexpr QRgb iconColor = 0xff5b9df0;
-
-} // namespace
-
 MenuBarIcon::MenuBarIcon(const Services &services, QMenu &menu, QObject *parent)
-    : QObject(parent),
-      m_services(services),
-      m_menu(menu),
-      m_icon(symbolIcon(u"steeringwheel"_s, QColor::fromRgba(iconColor)), this)
+    : QObject(parent), m_services(services), m_menu(menu), m_icon(panelIcon(), this)
 {
     setObjectName(u"menuBarIcon"_s);
     m_icon.setObjectName(u"trayIcon"_s);
