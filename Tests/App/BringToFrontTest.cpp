@@ -37,6 +37,21 @@ TEST(BringToFrontTest, theWindowThatWasUsedLastComesForward)
     EXPECT_TRUE(waitUntil([&first] { return first.isActiveWindow(); })) << "the other one is gone";
 }
 
+TEST(BringToFrontTest, whatIsMinimisedStaysSo)
+{
+    LinuxActivationPolicy policy;
+    QWidget first;
+    first.show();
+    QWidget second;
+    second.show();
+    second.activateWindow();
+    ASSERT_TRUE(waitUntil([&second] { return second.isActiveWindow(); }));
+    second.showMinimized();
+    policy.bringToFront();
+    EXPECT_TRUE(waitUntil([&first] { return first.isActiveWindow(); }));
+    EXPECT_TRUE(second.isMinimized());
+}
+
 TEST(BringToFrontTest, aDialogComesBeforeItsWindow)
 {
     LinuxActivationPolicy policy;

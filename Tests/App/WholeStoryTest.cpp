@@ -174,6 +174,20 @@ TEST_F(WholeStoryTest, launchedAtLoginItWaitsInTheTrayUntilItIsStartedAgain)
     EXPECT_EQ(activation.current, ActivationPolicy::Policy::Accessory);
 }
 
+TEST_F(WholeStoryTest, launchedAtLoginWithoutATrayItShowsAMinimisedWindow)
+{
+    hasTray = false;
+    app->start(true);
+    ASSERT_NE(app->mainWindow(), nullptr);
+    EXPECT_TRUE(app->mainWindow()->isVisible());
+    EXPECT_TRUE(app->mainWindow()->isMinimized());
+    EXPECT_EQ(activation.current, ActivationPolicy::Policy::Regular);
+    app->reopen();
+    EXPECT_TRUE(isWindowShown());
+    EXPECT_FALSE(app->mainWindow()->isMinimized());
+    ASSERT_TRUE(eventually([this] { return shownTitles().size() == 5; }));
+}
+
 TEST_F(WholeStoryTest, onceAllWindowsAreClosedItLetsGoOfWhatOnlyTheyNeed)
 {
     app->start(false);

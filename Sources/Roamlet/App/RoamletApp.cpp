@@ -20,6 +20,7 @@
 #include "Platform/Linux/LinuxIO.h"
 #include "Platform/Linux/LinuxPlatform.h"
 #include "Platform/Linux/LinuxWorkspace.h"
+#include "Platform/Linux/PanelTray.h"
 #include "Platform/Linux/StopSignals.h"
 #include "Platform/Processes.h"
 #include "Platform/UserLocale.h"
@@ -138,6 +139,12 @@ RoamletApp::~RoamletApp()
 void RoamletApp::openMainWindow()
 {
     dropClosedWindow();
+    makeMainWindow();
+    m_mainWindow->open();
+}
+
+void RoamletApp::makeMainWindow()
+{
     if (!m_mainWindow) {
         m_mainWindow = std::make_unique<MainWindow>(
             MainWindow::Services{.content = {.library = m_services.library,
@@ -160,7 +167,6 @@ void RoamletApp::openMainWindow()
             m_mainWindow.get(), &MainWindow::closed, &m_context, [this] { dropClosedWindow(); },
             Qt::QueuedConnection);
     }
-    m_mainWindow->open();
 }
 
 void RoamletApp::dropClosedWindow()
@@ -206,6 +212,10 @@ void RoamletApp::start(bool isLaunchedAtLogin)
     m_delegate.applicationWillFinishLaunching(isLaunchedAtLogin);
     m_delegate.applicationDidFinishLaunching();
     m_icon.appear();
+    if (openWindows().isEmpty() && !m_services.hasTray()) {
+        makeMainWindow();
+        m_mainWindow->showMinimized();
+    }
     // What somebody waits for is the window; whatever else is drawn comes after it.
     constexpr std::chrono::milliseconds untilTheWindowIsThere{150};
     m_services.platform.clock.after(untilTheWindowIsThere, &m_context, [this] {
@@ -266,12 +276,13 @@ int RoamletApp::runUntilTheEnd(int argc, char **argv, const std::stop_token &sto
     Library library(services);
     library.start();
     DBusRunningInstance instance;
-    RoamletApp *running = nullptr;
+    // Asked for by whoever starts it once more.
+    std::function<void()> reopen;
     using Wish = RunningInstance::Wish;
     // A desktop that restores its session starts the program beside the login item; that opens no window.
-    if (instance.claim(isLaunchedAtLogin ? Wish::Nothing : Wish::ComeForward, [&running] {
-            if (running != nullptr)
-                running->reopen();
+    if (instance.claim(isLaunchedAtLogin ? Wish::Nothing : Wish::ComeForward, [&reopen] {
+            if (reopen)
+                reopen();
         }) == RunningInstance::Claim::HandedOver)
         return 0;
 
@@ -289,22 +300,37 @@ int RoamletApp::runUntilTheEnd(int argc, char **argv, const std::stop_token &sto
                                                           successor = path;
                                                           quit();
                                                       }));
-    RoamletApp app({.platform = services,
-                    .library = library,
-                    .activation = activation,
-                    .loginService = loginService,
-                    .workspace = workspace,
-                    .savePanel = savePanel,
-                    .alert = alert,
-                    .updater = updater,
-                    .hasTray = MenuBarIcon::isAvailable});
-    running = &app;
-    app.start(isLaunchedAtLogin);
+    std::optional<RoamletApp> app;
+    const auto start = [&] {
+        if (app)
+            return;
+        app.emplace(RoamletApp::Services{.platform = services,
+                                         .library = library,
+                                         .activation = activation,
+                                         .loginService = loginService,
+                                         .workspace = workspace,
+                                         .savePanel = savePanel,
+                                         .alert = alert,
+                                         .updater = updater,
+                                         .hasTray = MenuBarIcon::isAvailable});
+        app->start(isLaunchedAtLogin);
+    };
+    reopen = [&] {
+        start();
+        app->reopen();
+    };
+    QObject waiting;
+    if (isLaunchedAtLogin)
+        PanelTray::await(
+            services.clock, &waiting, [] { return PanelTray::isThere(QDBusConnection::sessionBus()); },
+            start);
+    else
+        start();
     const int status = QApplication::exec();
-    running = nullptr;
+    reopen = nullptr;
     // Putting everything away takes a while, in which nobody would answer a later start.
     instance.release();
-    if (MainWindow *window = app.mainWindow())
+    if (MainWindow *window = app ? app->mainWindow() : nullptr)
         window->close();
     return status;
 }

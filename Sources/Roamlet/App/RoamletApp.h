@@ -50,7 +50,8 @@ public:
     RoamletApp &operator=(const RoamletApp &) = delete;
     ~RoamletApp();
 
-    /// Opens the main window unless the login has launched the program.
+    /// Opens the main window unless the login has launched the program. Without a tray it opens minimised
+    /// then: a program that nobody sees could not even be quit.
     void start(bool isLaunchedAtLogin);
     /// The user has started the program once more.
     void reopen();
@@ -76,6 +77,8 @@ private:
     static int runUntilTheEnd(int argc, char **argv, const std::stop_token &stop,
                               std::optional<QString> &successor);
 
+    /// Where there is none.
+    void makeMainWindow();
     void dropClosedWindow();
     /// Keeps no more memory than the tray needs, once nobody looks.
     void rest();

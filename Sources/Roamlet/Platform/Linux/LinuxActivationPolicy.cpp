@@ -78,7 +78,10 @@ void LinuxActivationPolicy::setPolicy(Policy policy)
 void LinuxActivationPolicy::bringToFront()
 {
     QWindowList windows = QGuiApplication::topLevelWindows();
-    windows.removeIf([](const QWindow *window) { return !isOrdinary(*window); });
+    // What is minimised stays so: whoever wants to see it opens it.
+    windows.removeIf([](const QWindow *window) {
+        return !isOrdinary(*window) || window->windowStates().testFlag(Qt::WindowMinimized);
+    });
     if (windows.isEmpty())
         return;
     // Whichever is raised last stands before the others.
