@@ -3,7 +3,7 @@
 
 #include "App/Tables/RowIcons.h"
 
-#include "App/Tables/TableTest.h"
+#include "App/Look/Look.h"
 
 #include <QImage>
 #include <QPixmap>
@@ -44,7 +44,8 @@ TEST_F(RowIconsTest, aSiteHasItsOwnIconAlsoInASelectedRow)
     loadNow(*library);
     EXPECT_EQ(colour(icons.site(u"a1.example"_s)), QColor(Qt::green));
     EXPECT_EQ(colour(icons.site(u"a1.example"_s), QIcon::Selected), QColor(Qt::green));
-    EXPECT_EQ(icons.site(u"a1.example"_s).availableSizes().value(0), QSize(16, 16));
+    const int side = Look::of(widget).measures.iconSide;
+    EXPECT_EQ(icons.site(u"a1.example"_s).availableSizes().value(0), QSize(side, side));
 }
 
 TEST_F(RowIconsTest, aNewSnapshotBringsNewIcons)

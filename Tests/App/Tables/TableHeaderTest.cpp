@@ -3,6 +3,7 @@
 
 #include "App/Tables/TableHeader.h"
 
+#include "App/Look/Look.h"
 #include "App/Tables/HistoryTable.h"
 #include "App/Tables/TableTest.h"
 #include "Lists/RowTree.h"
@@ -101,7 +102,7 @@ TEST_F(TableHeaderTest, aNarrowListHasIconsForBrowsers)
     table->resize(800, 300);
     EXPECT_FALSE(header().isNarrow());
     const int wide = header().sectionSize(HistoryTable::Source);
-    table->resize(530, 300);
+    table->resize(Look::of(*table).measures.units(36) - 2, 300);
     EXPECT_TRUE(header().isNarrow());
     EXPECT_LT(header().sectionSize(HistoryTable::Source), wide);
     EXPECT_EQ(header().length(), header().viewport()->width());

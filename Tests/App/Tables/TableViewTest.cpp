@@ -395,8 +395,8 @@ TEST_F(TableViewTest, thousandsOfSectionsAreSelectedAtOnce)
 TEST_F(TableViewTest, everyRowHasRoomForItsIcon)
 {
     show(table, {.grouping = Grouping::Day});
-    EXPECT_GT(table.view().visualRect(find(table, u"Today"_s)).height(), RowIcons::side);
-    EXPECT_GT(table.view().visualRect(find(table, u"a"_s)).height(), RowIcons::side);
+    EXPECT_GT(table.view().visualRect(find(table, u"Today"_s)).height(), Look::of(table).measures.iconSide);
+    EXPECT_GT(table.view().visualRect(find(table, u"a"_s)).height(), Look::of(table).measures.iconSide);
 }
 
 TEST_F(TableViewTest, openingEverythingBelowStopsBeforeTheStackEnds)

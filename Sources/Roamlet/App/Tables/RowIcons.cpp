@@ -3,6 +3,7 @@
 
 #include "App/Tables/RowIcons.h"
 
+#include "App/Look/Look.h"
 #include "App/Look/Symbol.h"
 #include "Library/Library.h"
 
@@ -49,15 +50,18 @@ void RowIcons::clear()
 
 void RowIcons::followDisplay()
 {
-    if (const qreal ratio = m_widget.devicePixelRatioF(); ratio != m_ratio) {
-        m_ratio = ratio;
-        clear();
-    }
+    const qreal ratio = m_widget.devicePixelRatioF();
+    const int side = Look::of(m_widget).measures.iconSide;
+    if (ratio == m_ratio && side == m_side)
+        return;
+    m_ratio = ratio;
+    m_side = side;
+    clear();
 }
 
 QIcon RowIcons::iconOf(const QImage &image) const
 {
-    const int pixels = qRound(side * m_ratio);
+    const int pixels = qRound(m_side * m_ratio);
     QImage scaled = image.scaled(pixels, pixels, Qt::KeepAspectRatio, Qt::SmoothTransformation);
     scaled.setDevicePixelRatio(1);
     QPixmap pixmap(pixels, pixels);

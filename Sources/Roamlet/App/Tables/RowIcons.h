@@ -22,9 +22,6 @@ class Opener;
 class RowIcons
 {
 public:
-    /// The side of an icon in points.
-    static constexpr int side = 16;
-
     /// For the display on which `widget` is.
     RowIcons(Library &library, Opener &opener, const QWidget &widget);
 
@@ -39,14 +36,16 @@ public:
     void clear();
 
 private:
-    /// Icons of another display are of no use.
+    /// Icons of another display or size are of no use.
     void followDisplay();
     QIcon iconOf(const QImage &image) const;
 
     Library &m_library;
     SourceIcons m_sources;
     const QWidget &m_widget;
-    qreal m_ratio = 1;
+    qreal m_ratio = 0;
+    /// In points; larger texts have larger icons.
+    int m_side = 0;
     QHash<QString, QIcon> m_sites;
     QIcon m_globe;
     QIcon m_folder;

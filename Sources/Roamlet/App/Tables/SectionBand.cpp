@@ -127,26 +127,30 @@ void SectionBand::paint(QPainter &painter, const QRect &band, Qt::LayoutDirectio
     const QRect strip = visitStripPlace(*visits, band, direction, stripEnd, look);
     const StripForm form = formOf(*visits);
     const double most = std::max(1, visits->most());
+    const qreal ratio = painter.device()->devicePixelRatioF();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
+    // On whole dots of the screen, or thin bars get blurred edges.
+    const auto onDots = [ratio](qreal length) { return std::round(length * ratio) / ratio; };
     for (std::size_t i = 0; i < visits->ticks.size(); ++i) {
         const VisitStrip::Tick &tick = visits->ticks[i];
         const bool isLit = litTick == i;
-        qreal top = stripHeight - emptyBar - emptyBarAbove;
+        qreal bottom = stripHeight - emptyBarAbove;
         qreal height = emptyBar;
         QColor color = tick.begin > now ? look.stripToCome : look.stripEmpty;
         if (tick.count > 0) {
             height = leastBar + ((stripHeight - leastBar) * std::pow(tick.count / most, flattening));
-            top = stripHeight - height;
+            bottom = stripHeight;
             color = look.strip;
         }
-        const qreal left = pixels(static_cast<qreal>(i) * (form.tick + form.gap), look);
-        const qreal width = pixels(form.tick, look);
+        const qreal left = onDots(pixels(static_cast<qreal>(i) * (form.tick + form.gap), look));
+        const qreal width = std::max(1 / ratio, onDots(pixels(form.tick, look)));
         const qreal x = isMirrored ? strip.right() + 1 - left - width : strip.left() + left;
+        const qreal below = strip.top() + onDots(pixels(bottom, look));
+        const qreal above = below - std::max(1 / ratio, onDots(pixels(height, look)));
         painter.setBrush(isLit ? look.accent : color);
         const qreal radius = pixels(tick.count > 0 ? 1 : emptyBar / 2, look);
-        painter.drawRoundedRect(QRectF(x, strip.top() + pixels(top, look), width, pixels(height, look)),
-                                radius, radius);
+        painter.drawRoundedRect(QRectF(QPointF(x, above), QPointF(x + width, below)), radius, radius);
     }
     painter.restore();
 }

@@ -89,9 +89,8 @@ QModelIndex TableModel::parent(const QModelIndex &child) const
     return child.isValid() ? indexOf(m_tree->node(numberOf(child)).parent) : QModelIndex();
 }
 
-bool TableModel::isBand(const RowTree &tree, RowTree::Number number)
+bool TableModel::isBand(const RowTree::Node &node)
 {
-    const RowTree::Node &node = tree.node(number);
     return node.row.kind == TableRow::Kind::Section ||
            (node.depth == 0 && node.row.kind == TableRow::Kind::Folder &&
             node.row.id == BookmarkNode::idOfSource(node.row.source));
@@ -174,7 +173,7 @@ QVariant TableModel::data(const QModelIndex &index, int role) const
     case Qt::DisplayRole:
         return text(node, content);
     case Qt::DecorationRole:
-        return icon(node.row, content);
+        return icon(node, content);
     case Qt::ToolTipRole:
         return toolTip(node, content);
     case Qt::AccessibleTextRole:
@@ -249,8 +248,9 @@ QString TableModel::toolTip(const RowTree::Node &node, TableColumn::Content cont
     return CellText::toolTip({shown});
 }
 
-QVariant TableModel::icon(const TableRow &row, TableColumn::Content content) const
+QVariant TableModel::icon(const RowTree::Node &node, TableColumn::Content content) const
 {
+    const TableRow &row = node.row;
     if (m_icons == nullptr)
         return {};
     if (content == TableColumn::Content::Source)
@@ -263,7 +263,7 @@ QVariant TableModel::icon(const TableRow &row, TableColumn::Content content) con
         return known.isNull() ? QVariant() : QVariant(known);
     }
     case TableRow::Kind::Folder:
-        return m_icons->folder();
+        return isBand(node) ? m_icons->source(row.source) : m_icons->folder();
     case TableRow::Kind::Link:
         return m_icons->site(row.site);
     }

@@ -52,8 +52,8 @@ public:
     QModelIndex indexOf(RowTree::Number number, int column = 0) const;
     /// Whether a row is drawn as a band over the whole width: the heading of a section, and in the tree of
     /// all bookmarks the name of a source.
-    bool isBand(const QModelIndex &index) const { return isBand(*m_tree, numberOf(index)); }
-    static bool isBand(const RowTree &tree, RowTree::Number number);
+    bool isBand(const QModelIndex &index) const { return isBand(m_tree->node(numberOf(index))); }
+    static bool isBand(const RowTree::Node &node);
 
     QModelIndex index(int row, int column, const QModelIndex &parent = {}) const override;
     QModelIndex parent(const QModelIndex &child) const override;
@@ -75,7 +75,7 @@ private:
     QString text(const RowTree::Node &node, TableColumn::Content content) const;
     QString accessibleText(const RowTree::Node &node, TableColumn::Content content) const;
     QString toolTip(const RowTree::Node &node, TableColumn::Content content) const;
-    QVariant icon(const TableRow &row, TableColumn::Content content) const;
+    QVariant icon(const RowTree::Node &node, TableColumn::Content content) const;
 
     QList<TableColumn> m_columns;
     LocalText m_localText;

@@ -205,7 +205,7 @@ void TableView::showTree(const SharedRowTree &tree, Scrolling scrolling)
     const int horizontal = horizontalScrollBar()->value();
     m_isRestoring = true;
     m_bubble.hide();
-    const bool hasBands = tree->node(RowTree::root).childCount > 0 && m_model.isBand(*tree, 1);
+    const bool hasBands = tree->node(RowTree::root).childCount > 0 && TableModel::isBand(tree->node(1));
     setUniformRowHeights(!hasBands || tree->nodes().size() > mostRowsOfTwoHeights);
     m_model.setTree(tree);
     m_header.fitColumns();
