@@ -117,7 +117,7 @@ void RowBubble::paintEvent(QPaintEvent * /*event*/)
         const int width = metrics.horizontalAdvance(text);
         const QRect place =
             QStyle::visualRect(layoutDirection(), rect(), QRect(x, inside.top(), width, inside.height()));
-        drawMarkedText(painter, place, layoutDirection(), text, {}, ink, {});
+        drawMarkedText(painter, place, layoutDirection(), text, ink);
     };
     // An address reads from left to right in every language.
     const auto [begin, length] = hostOf(address);
@@ -129,8 +129,7 @@ void RowBubble::paintEvent(QPaintEvent * /*event*/)
                                     std::pair(address.sliced(begin, length), look.card.ink),
                                     std::pair(address.sliced(begin + length), look.card.quiet)}) {
         const int width = metrics.horizontalAdvance(part);
-        drawMarkedText(painter, QRect(x, inside.top(), width, inside.height()), Qt::LeftToRight, part, {},
-                       ink, {});
+        drawMarkedText(painter, QRect(x, inside.top(), width, inside.height()), Qt::LeftToRight, part, ink);
         x += width;
     }
     if (!m_date.isEmpty())

@@ -11,6 +11,7 @@
 
 #include <QFontMetrics>
 #include <QPainter>
+#include <QTextCharFormat>
 #include <QTextLayout>
 #include <QTreeView>
 
@@ -71,10 +72,11 @@ int digitCell(const QFontMetrics &metrics)
 } // namespace
 
 void drawMarkedText(QPainter &painter, const QRect &place, Qt::LayoutDirection direction, const QString &text,
-                    const QStringList &words, const QColor &ink, const QColor &mark)
+                    const QColor &ink, const MarkedWords &marked)
 {
     painter.setPen(ink);
-    const QList<TextRange> matches = words.isEmpty() ? QList<TextRange>() : searchMatches(text, words);
+    const QList<TextRange> matches =
+        marked.words.isEmpty() ? QList<TextRange>() : searchMatches(text, marked.words);
     const bool isMirrored = direction == Qt::RightToLeft;
     if (matches.isEmpty()) {
         painter.setLayoutDirection(Qt::LayoutDirectionAuto);
@@ -91,6 +93,12 @@ void drawMarkedText(QPainter &painter, const QRect &place, Qt::LayoutDirection d
     option.setTextDirection(Qt::LayoutDirectionAuto);
     option.setAlignment(Qt::AlignLeft | Qt::AlignAbsolute);
     layout.setTextOption(option);
+    QTextCharFormat inked;
+    inked.setForeground(marked.ink);
+    QList<QTextLayout::FormatRange> formats;
+    for (const TextRange &match : matches)
+        formats.append({static_cast<int>(match.begin), static_cast<int>(match.length), inked});
+    layout.setFormats(formats);
     layout.beginLayout();
     QTextLine line = layout.createLine();
     line.setNumColumns(static_cast<int>(text.size()));
@@ -101,7 +109,7 @@ void drawMarkedText(QPainter &painter, const QRect &place, Qt::LayoutDirection d
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(mark);
+    painter.setBrush(marked.ground);
     const qreal radius = line.height() / 6;
     constexpr qreal air = 1.5;
     for (const TextRange &match : matches) {
@@ -265,9 +273,10 @@ void RowDelegate::paintTitle(const Cell &cell) const
     if (rest.width() <= 0)
         return;
     const QFontMetrics metrics = cell.painter.fontMetrics();
-    const auto draw = [&](const QRect &place, const QString &text, const QStringList &words,
-                          const QColor &ink) {
-        drawMarkedText(cell.painter, cell.visual(place), cell.option.direction, text, words, ink, cell.mark);
+    const MarkedWords marked{.words = m_search.words, .ground = cell.mark, .ink = cell.ink};
+    const auto draw = [&](const QRect &place, const QString &text, const QColor &ink,
+                          const MarkedWords &words = {}) {
+        drawMarkedText(cell.painter, cell.visual(place), cell.option.direction, text, ink, words);
     };
     const QString title = cell.index.data().toString();
     const int gap = measures.gapAfterIcon;
@@ -278,7 +287,7 @@ void RowDelegate::paintTitle(const Cell &cell) const
         const int countWidth = tabularWidth(small, count);
         const int titleWidth = std::clamp(rest.width() - gap - countWidth, 0, wanted);
         draw(QRect(rest.topLeft(), QSize(titleWidth, rest.height())),
-             CellText::fitted(title, metrics, titleWidth), {}, cell.ink);
+             CellText::fitted(title, metrics, titleWidth), cell.ink);
         cell.painter.setFont(small);
         cell.painter.setPen(cell.quiet);
         drawTabularText(
@@ -304,19 +313,18 @@ void RowDelegate::paintTitle(const Cell &cell) const
         titleWidth = std::min(wanted, rest.width());
     titleWidth = std::max(titleWidth, 0);
     draw(QRect(rest.topLeft(), QSize(titleWidth, rest.height())),
-         fittedAroundMatch(title, m_search.words, metrics, titleWidth), m_search.words, cell.ink);
+         fittedAroundMatch(title, m_search.words, metrics, titleWidth), cell.ink, marked);
     if (!isShown)
         return;
     rest.setLeft(rest.left() + titleWidth + gap);
-    draw(rest, fittedAroundMatch(companion, m_search.words, metrics, rest.width()), m_search.words,
-         cell.quiet);
+    draw(rest, fittedAroundMatch(companion, m_search.words, metrics, rest.width()), cell.quiet, marked);
 }
 
 void RowDelegate::paintText(const Cell &cell, const QString &text) const
 {
     const QString shown = CellText::fitted(text, cell.painter.fontMetrics(), cell.place.width());
-    drawMarkedText(cell.painter, cell.visual(cell.place), cell.option.direction, shown, m_search.words,
-                   cell.quiet, cell.mark);
+    drawMarkedText(cell.painter, cell.visual(cell.place), cell.option.direction, shown, cell.quiet,
+                   {.words = m_search.words, .ground = cell.mark, .ink = cell.ink});
 }
 
 void RowDelegate::paintNumber(const Cell &cell, const QString &text) const
@@ -341,8 +349,7 @@ void RowDelegate::paintSource(const Cell &cell, const QString &label) const
     if (m_header.isNarrow() || rest.width() < m_look.measures.units(1))
         return;
     drawMarkedText(cell.painter, cell.visual(rest), cell.option.direction,
-                   CellText::fitted(label, cell.painter.fontMetrics(), rest.width()), {}, cell.quiet,
-                   cell.mark);
+                   CellText::fitted(label, cell.painter.fontMetrics(), rest.width()), cell.quiet);
 }
 
 int RowDelegate::naturalWidth(const QModelIndex &index) const

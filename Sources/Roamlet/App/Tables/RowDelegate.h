@@ -5,6 +5,7 @@
 
 #include "Lists/RowTree.h"
 
+#include <QColor>
 #include <QStringList>
 #include <QStyledItemDelegate>
 
@@ -66,10 +67,16 @@ private:
     ShownSearch m_search;
 };
 
-/// Draws text in the direction of its own letters, at the leading edge of `place`, with marks behind the
-/// words that were searched for.
+/// The words that were searched for, what lies behind them, and what they are written with.
+struct MarkedWords {
+    QStringList words;
+    QColor ground;
+    QColor ink;
+};
+
+/// Draws text in the direction of its own letters, at the leading edge of `place`.
 void drawMarkedText(QPainter &painter, const QRect &place, Qt::LayoutDirection direction, const QString &text,
-                    const QStringList &words, const QColor &ink, const QColor &mark);
+                    const QColor &ink, const MarkedWords &marked = {});
 /// Draws a number or a date at the trailing edge, each digit as wide as the others.
 void drawTabularText(QPainter &painter, const QRect &place, Qt::LayoutDirection direction,
                      const QString &text);

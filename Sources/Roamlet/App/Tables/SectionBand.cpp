@@ -112,7 +112,7 @@ void SectionBand::paint(QPainter &painter, const QRect &band, Qt::LayoutDirectio
         std::clamp(rest.width() - measures.gapAfterIcon - countWidth, 0, heading.horizontalAdvance(title));
     painter.setFont(look.headingFont);
     drawMarkedText(painter, visual(QRect(rest.left(), rest.top(), titleWidth, rest.height())), direction,
-                   CellText::fitted(title, heading, titleWidth), {}, look.list.ink, {});
+                   CellText::fitted(title, heading, titleWidth), look.list.ink);
     painter.setFont(look.smallFont);
     painter.setPen(look.list.quiet);
     drawTabularText(painter,

@@ -25,7 +25,7 @@ namespace
 {
 
 /// In lines of text.
-constexpr double narrowestTitle = 16;
+constexpr double narrowestTitle = 12;
 constexpr double widestTitleInLines = 44;
 constexpr double narrowestColumn = 1.5;
 constexpr double narrowList = 36;
@@ -400,7 +400,7 @@ void TableHeader::paintSection(QPainter *painter, const QRect &rect, int column)
     // Words end where the digits below them end, so the arrow stands before them.
     const int left = isRightAligned(column) ? place.right() + 1 - width : place.left();
     drawMarkedText(*painter, visual(QRect(left, place.top(), width, place.height())), layoutDirection(),
-                   CellText::fitted(text, metrics, width), {}, ink, {});
+                   CellText::fitted(text, metrics, width), ink);
     if (isSorted) {
         const int arrowLeft = isRightAligned(column) ? left - arrow : left + width;
         drawChevron(*painter,
