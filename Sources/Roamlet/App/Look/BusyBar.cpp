@@ -4,8 +4,10 @@
 #include "App/Look/BusyBar.h"
 
 #include "App/Look/Look.h"
+#include "App/Look/Motion.h"
 
 #include <QPainter>
+#include <QStyle>
 
 namespace roamlet
 {
@@ -16,11 +18,10 @@ BusyBar::BusyBar(const QString &work, QWidget *parent) : QWidget(parent)
     setAccessibleName(work);
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setFixedHeight(thickness);
-    constexpr int wayAndBack = 2400; // milliseconds
+    constexpr int onePass = 1200; // milliseconds
     m_running.setStartValue(0.0);
-    m_running.setKeyValueAt(0.5, 1.0);
-    m_running.setEndValue(0.0);
-    m_running.setDuration(wayAndBack);
+    m_running.setEndValue(1.0);
+    m_running.setDuration(onePass);
     m_running.setLoopCount(-1);
     connect(&m_running, &QVariantAnimation::valueChanged, this, qOverload<>(&QWidget::update));
 }
@@ -28,7 +29,8 @@ BusyBar::BusyBar(const QString &work, QWidget *parent) : QWidget(parent)
 void BusyBar::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
-    m_running.start();
+    if (isMotionWanted(*this))
+        m_running.start();
 }
 
 void BusyBar::hideEvent(QHideEvent *event)
@@ -39,13 +41,17 @@ void BusyBar::hideEvent(QHideEvent *event)
 
 void BusyBar::paintEvent(QPaintEvent * /*event*/)
 {
-    constexpr int share = 4;
-    const int runner = width() / share;
-    const int place = qRound(m_running.currentValue().toReal() * (width() - runner));
-    const Look look = Look::of(*this);
+    const QColor color = Look::of(*this).accent;
     QPainter painter(this);
-    painter.fillRect(rect(), look.list.hairline);
-    painter.fillRect(QRect(place, 0, runner, height()), look.accent);
+    if (m_running.state() != QAbstractAnimation::Running) {
+        painter.setOpacity(0.5);
+        painter.fillRect(rect(), color);
+        return;
+    }
+    // It comes in from the start of the line and leaves at its end.
+    const int runner = qRound(width() * 0.26);
+    const int place = qRound(m_running.currentValue().toReal() * (width() + runner)) - runner;
+    painter.fillRect(QStyle::visualRect(layoutDirection(), rect(), QRect(place, 0, runner, height())), color);
 }
 
 } // namespace roamlet

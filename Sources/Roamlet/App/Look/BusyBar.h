@@ -9,14 +9,14 @@
 namespace roamlet
 {
 
-/// A thin line in which something runs to and fro, for work of which nobody knows how long it takes. It moves
-/// only while it is shown.
+/// A thin line along which something runs, for work of which nobody knows how long it takes. It moves only
+/// while it is shown, and where nothing shall move it is a still line.
 class BusyBar final : public QWidget
 {
     Q_OBJECT
 
 public:
-    static constexpr int thickness = 3;
+    static constexpr int thickness = 2;
 
     /// `work` is what a screen reader calls it.
     explicit BusyBar(const QString &work, QWidget *parent = nullptr);

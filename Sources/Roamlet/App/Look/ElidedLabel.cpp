@@ -5,6 +5,7 @@
 
 #include <QHelpEvent>
 #include <QPainter>
+#include <QStyle>
 #include <QToolTip>
 
 namespace roamlet
@@ -18,25 +19,57 @@ constexpr qsizetype longestLine = 1000;
 
 } // namespace
 
-ElidedLabel::ElidedLabel(QWidget *parent) : QWidget(parent)
+ElidedLabel::ElidedLabel(QWidget *parent) : QLabel(parent)
 {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 
-void ElidedLabel::setText(const QString &text)
+void ElidedLabel::setText(const QString &text, const QString &strong)
 {
-    if (text == m_text)
+    const QString line = text.left(longestLine).simplified();
+    const QString strongLine = strong.left(longestLine).simplified();
+    if (text + strong == m_text && line == m_line && strongLine == m_strong)
         return;
-    m_text = text;
-    m_line = text.left(longestLine).simplified();
-    setAccessibleName(m_line);
+    m_text = text + strong;
+    m_line = line;
+    m_strong = strongLine;
+    // Qt tells screen readers of the change.
+    setAccessibleName(m_strong.isEmpty() ? m_line : QString(m_line % u' ' % m_strong));
     updateGeometry();
     update();
 }
 
+void ElidedLabel::setSign(const QIcon &sign)
+{
+    m_sign = sign;
+    updateGeometry();
+    update();
+}
+
+QFont ElidedLabel::strongFont() const
+{
+    QFont result = font();
+    result.setBold(true);
+    return result;
+}
+
+int ElidedLabel::signWidth() const
+{
+    return m_sign.isNull() ? 0 : fontMetrics().height() + (fontMetrics().height() / 3);
+}
+
+int ElidedLabel::textWidth() const
+{
+    const int width = fontMetrics().horizontalAdvance(m_line);
+    if (m_strong.isEmpty())
+        return width;
+    return width + fontMetrics().horizontalAdvance(u' ') +
+           QFontMetrics(strongFont()).horizontalAdvance(m_strong);
+}
+
 QSize ElidedLabel::sizeHint() const
 {
-    return {fontMetrics().horizontalAdvance(m_line) + 1, fontMetrics().height()};
+    return {signWidth() + textWidth() + 1, fontMetrics().height()};
 }
 
 QSize ElidedLabel::minimumSizeHint() const
@@ -48,15 +81,33 @@ void ElidedLabel::paintEvent(QPaintEvent * /*event*/)
 {
     QPainter painter(this);
     painter.setPen(palette().color(foregroundRole()));
-    painter.drawText(rect(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
-                     fontMetrics().elidedText(m_line, Qt::ElideRight, width()));
+    const Qt::Alignment alignment =
+        QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter);
+    const auto draw = [&](const QString &text, int start) {
+        const QRect place(start, 0, width() - start, height());
+        painter.drawText(QStyle::visualRect(layoutDirection(), rect(), place),
+                         static_cast<int>(alignment) | Qt::TextSingleLine,
+                         painter.fontMetrics().elidedText(text, Qt::ElideRight, place.width()));
+    };
+    if (!m_sign.isNull()) {
+        const QRect place(0, 0, height(), height());
+        m_sign.paint(&painter, QStyle::visualRect(layoutDirection(), rect(), place));
+    }
+    draw(m_line, signWidth());
+    if (m_strong.isEmpty())
+        return;
+    const int start = signWidth() + fontMetrics().horizontalAdvance(m_line % u' ');
+    painter.setFont(strongFont());
+    draw(m_strong, start);
 }
 
 bool ElidedLabel::event(QEvent *event)
 {
     if (event->type() != QEvent::ToolTip)
-        return QWidget::event(event);
-    if (fontMetrics().horizontalAdvance(m_line) > width()) {
+        return QLabel::event(event);
+    if (!toolTip().isEmpty())
+        return QLabel::event(event);
+    if (signWidth() + textWidth() > width()) {
         // Plain text: what comes from a file shall not be taken for HTML.
         const QString tip = u"<qt>" % m_text.left(longestLine).toHtmlEscaped() % u"</qt>";
         QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), tip, this);

@@ -3,23 +3,28 @@
 
 #pragma once
 
-#include <QWidget>
+#include <QIcon>
+#include <QLabel>
 
 namespace roamlet
 {
 
 /// A line of text that ends in an ellipsis where it does not fit, and then shows itself whole in a tip. Text
-/// from outside may be of any length and hold line ends.
-class ElidedLabel final : public QWidget
+/// from outside may be of any length and hold line ends. To a screen reader it is a text, of whose changes it
+/// is told.
+class ElidedLabel final : public QLabel
 {
     Q_OBJECT
 
 public:
     explicit ElidedLabel(QWidget *parent = nullptr);
 
-    void setText(const QString &text);
-    /// As it was set.
+    /// `strong` follows the text in bold letters.
+    void setText(const QString &text, const QString &strong = {});
+    /// As it was set, with the strong part.
     const QString &text() const { return m_text; }
+    /// A picture before the text; none when it is null.
+    void setSign(const QIcon &sign);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -29,9 +34,16 @@ protected:
     bool event(QEvent *event) override;
 
 private:
+    QFont strongFont() const;
+    /// How much of the width is the sign's and the space after it.
+    int signWidth() const;
+    int textWidth() const;
+
     QString m_text;
     /// Without line ends, and no longer than any screen is wide.
     QString m_line;
+    QString m_strong;
+    QIcon m_sign;
 };
 
 } // namespace roamlet

@@ -16,9 +16,7 @@ NoteLabel::NoteLabel(QWidget *parent) : QLabel(parent)
     setWordWrap(true);
     // Reasons and names come from elsewhere: they are never markup.
     setTextFormat(Qt::PlainText);
-    QFont small = font();
-    small.setPointSizeF(small.pointSizeF() * 0.9);
-    setFont(small);
+    setFont(Look::of(*this).smallFont);
     updateColor();
 }
 

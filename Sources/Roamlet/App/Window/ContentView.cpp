@@ -3,6 +3,8 @@
 
 #include "App/Window/ContentView.h"
 
+#include "App/Look/Hairline.h"
+#include "App/Look/Look.h"
 #include "App/Tables/BookmarkTable.h"
 #include "App/Tables/BookmarkTree.h"
 #include "App/Window/DetailHeader.h"
@@ -18,6 +20,7 @@
 #include "Platform/Workspace.h"
 
 #include <QLineEdit>
+#include <QPainter>
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QToolButton>
@@ -34,6 +37,23 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
+
+/// The line between the sidebar and the list.
+class Divider final : public QSplitterHandle
+{
+public:
+    using QSplitterHandle::QSplitterHandle;
+
+protected:
+    void paintEvent(QPaintEvent * /*event*/) override
+    {
+        const RowGround &sidebar = Look::of(*this).sidebar;
+        QPainter painter(this);
+        painter.fillRect(rect(), sidebar.base);
+        paintHairline(painter, contentsRect(),
+                      layoutDirection() == Qt::RightToLeft ? Qt::LeftEdge : Qt::RightEdge, sidebar.hairline);
+    }
+};
 
 /// Where we look for browsers, for a user who has none that we know.
 QString whereWeLooked(const Folders &folders)
@@ -122,6 +142,11 @@ ContentView::ContentView(const WindowServices &services, QWidget *parent)
 
     m_sidebar->select(m_pane);
     update();
+}
+
+QSplitterHandle *ContentView::createHandle()
+{
+    return new Divider(orientation(), this);
 }
 
 ContentView::~ContentView()
@@ -340,7 +365,10 @@ void ContentView::update()
 
 void ContentView::updateTitle()
 {
-    m_header->setTitle(title(), PaneText::subtitle(m_pane, m_services.library, m_list, QLocale()));
+    const bool isProblem = PaneText::problem(m_pane, m_services.library).has_value();
+    m_header->setTitle(title(), PaneText::subtitle(m_pane, m_services.library, m_list, QLocale()),
+                       isProblem ? DetailHeader::Subtitle::Problem : DetailHeader::Subtitle::Note);
+    m_header->setBusy(!m_services.library.lastLoaded());
     Q_EMIT titleChanged(title());
 }
 

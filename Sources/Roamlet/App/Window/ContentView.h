@@ -71,6 +71,9 @@ Q_SIGNALS:
     /// The sheet shall be shown.
     void exportRequested(const roamlet::ExportRequest &request);
 
+protected:
+    QSplitterHandle *createHandle() override;
+
 private:
     QWidget *makeDetail();
     // What can stand below the header is made when it is looked at first.

@@ -3,124 +3,99 @@
 
 #include "App/Window/DetailHeader.h"
 
+#include "App/Look/BusyBar.h"
 #include "App/Look/ElidedLabel.h"
 #include "App/Look/Look.h"
 #include "App/Look/Symbol.h"
+#include "App/Window/GroupByButton.h"
 #include "App/Window/PaneText.h"
 #include "App/Window/ReloadButton.h"
+#include "App/Window/SearchField.h"
 
 #include <QActionGroup>
-#include <QHBoxLayout>
-#include <QKeyEvent>
-#include <QLineEdit>
+#include <QEvent>
 #include <QMenu>
-#include <QToolButton>
-#include <QVBoxLayout>
+#include <QPainter>
+#include <QStyle>
+
+#include <algorithm>
 
 namespace roamlet
 {
 
 using namespace Qt::StringLiterals;
 
+namespace
+{
+
+// All in heights of a line.
+constexpr double gap = 0.3;
+constexpr double endMargin = 0.6;
+constexpr double gapAfterSearch = 0.4;
+/// What the title and the subtitle keep while something else can still get shorter.
+constexpr double usualWords = 12;
+/// What they keep at all.
+constexpr double fewestWords = 4;
+
+} // namespace
+
 DetailHeader::DetailHeader(QWidget *parent)
     : QWidget(parent),
+      m_sidebar(new HeaderButton(u"sidebar.leading"_s, tr("Sidebar"), this)),
       m_title(new ElidedLabel(this)),
       m_subtitle(new ElidedLabel(this)),
-      m_groupBy(new QToolButton(this)),
-      m_groupingMenu(new QMenu(u"Group By"_s, this)),
+      m_groupBy(new GroupByButton(this)),
+      m_groupingMenu(new QMenu(tr("Group By"), this)),
       m_groupings(new QActionGroup(this)),
       m_reload(new ReloadButton(this)),
-      m_export(new QToolButton(this)),
-      m_search(new QLineEdit(this)),
-      m_magnifier(m_search->addAction(QIcon(), QLineEdit::LeadingPosition)),
-      m_clear(m_search->addAction(QIcon(), QLineEdit::TrailingPosition)),
-      m_menuButton(new QToolButton(this)),
-      m_mainMenu(new QMenu(u"Menu"_s, this))
+      m_export(new HeaderButton(u"square.and.arrow.up"_s, tr("Export Bookmarks"), this)),
+      m_search(new SearchField(this)),
+      m_menuButton(new HeaderButton(u"line.3.horizontal"_s, tr("Menu"), this)),
+      m_mainMenu(new QMenu(tr("Menu"), this))
 {
+    m_sidebar->setObjectName(u"sidebarButton"_s);
+    m_sidebar->hide();
     m_title->setObjectName(u"listTitle"_s);
-    QFont titleFont = m_title->font();
-    titleFont.setBold(true);
-    titleFont.setPointSizeF(titleFont.pointSizeF() * 1.15);
-    m_title->setFont(titleFont);
     m_subtitle->setObjectName(u"listSubtitle"_s);
-    QFont subtitleFont = m_subtitle->font();
-    subtitleFont.setPointSizeF(subtitleFont.pointSizeF() * 0.9);
-    m_subtitle->setFont(subtitleFont);
-
     m_groupingMenu->setObjectName(u"groupingMenu"_s);
-    m_groupBy->setObjectName(u"groupByButton"_s);
-    m_groupBy->setText(u"Group By"_s);
-    m_groupBy->setAccessibleName(u"Group By"_s);
-    m_groupBy->setToolTip(u"Group By"_s);
-    m_groupBy->setIcon(symbolIcon(u"rectangle.3.group"_s));
-    m_groupBy->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    m_groupBy->setPopupMode(QToolButton::InstantPopup);
     m_groupBy->setMenu(m_groupingMenu);
     m_export->setObjectName(u"exportButton"_s);
-    m_export->setText(u"Export Bookmarks"_s);
-    m_export->setAccessibleName(u"Export Bookmarks"_s);
-    m_export->setToolTip(u"Export Bookmarks"_s);
-    m_export->setIcon(symbolIcon(u"square.and.arrow.up"_s));
-
     m_mainMenu->setObjectName(u"mainMenu"_s);
     m_menuButton->setObjectName(u"menuButton"_s);
-    m_menuButton->setText(u"Menu"_s);
-    m_menuButton->setAccessibleName(u"Menu"_s);
-    m_menuButton->setToolTip(u"Menu"_s);
-    m_menuButton->setIcon(symbolIcon(u"line.3.horizontal"_s));
-    m_menuButton->setPopupMode(QToolButton::InstantPopup);
     m_menuButton->setMenu(m_mainMenu);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    updateLook();
 
-    m_search->setObjectName(u"searchField"_s);
-    m_search->setPlaceholderText(u"Title or URL"_s);
-    m_search->setAccessibleName(u"Search"_s);
-    // A screen reader finds both buttons, so they have texts. Qt's own clear button looks for its icon
-    // through the whole theme before the window can show.
-    m_magnifier->setText(u"Search"_s);
-    m_clear->setObjectName(u"clearSearch"_s);
-    m_clear->setText(u"Clear Search"_s);
-    m_clear->setVisible(false);
-    connect(m_clear, &QAction::triggered, m_search, &QLineEdit::clear);
-    connect(m_search, &QLineEdit::textChanged, m_clear,
-            [this](const QString &text) { m_clear->setVisible(!text.isEmpty()); });
-    m_search->setMinimumWidth(180);
-    m_search->setMaximumWidth(260);
-    m_search->installEventFilter(this);
-    updateColors();
-
-    for (QToolButton *button : {m_groupBy, static_cast<QToolButton *>(m_reload), m_export, m_menuButton}) {
-        button->setIconSize(QSize(16, 16));
-        button->setFocusPolicy(Qt::TabFocus);
-        button->setMinimumHeight(m_search->sizeHint().height());
-        button->setMinimumWidth(m_search->sizeHint().height());
-    }
-
-    auto *words = new QVBoxLayout;
-    words->setSpacing(1);
-    words->addWidget(m_title);
-    words->addWidget(m_subtitle);
-    auto *row = new QHBoxLayout(this);
-    row->setContentsMargins(14, 10, 12, 10);
-    row->setSpacing(8);
-    row->addLayout(words, 1);
-    row->addWidget(m_groupBy);
-    row->addWidget(m_reload);
-    row->addWidget(m_export);
-    row->addWidget(m_search, 1);
-    row->addWidget(m_menuButton);
-
+    connect(m_sidebar, &QToolButton::clicked, this, &DetailHeader::sidebarRequested);
     connect(m_groupings, &QActionGroup::triggered, this, [this](const QAction *action) {
+        m_groupBy->setChoice(action->text());
+        arrange();
         Q_EMIT groupingChosen(static_cast<Grouping>(action->data().toInt()));
     });
     connect(m_reload, &QToolButton::clicked, this, &DetailHeader::reloadRequested);
     connect(m_export, &QToolButton::clicked, this, &DetailHeader::exportRequested);
     connect(m_search, &QLineEdit::textChanged, this, &DetailHeader::searchChanged);
+    connect(m_search, &SearchField::searchExpected, this, &DetailHeader::searchExpected);
+    connect(m_search, &SearchField::listRequested, this, &DetailHeader::listRequested);
 }
 
-void DetailHeader::setTitle(const QString &title, const QString &subtitle)
+QLineEdit *DetailHeader::searchField() const
+{
+    return m_search;
+}
+
+QToolButton *DetailHeader::menuButton() const
+{
+    return m_menuButton;
+}
+
+void DetailHeader::setTitle(const QString &title, const QString &subtitle, Subtitle kind)
 {
     m_title->setText(title);
     m_subtitle->setText(subtitle);
+    m_subtitleKind = kind;
+    updateSubtitle();
+    arrange();
 }
 
 void DetailHeader::setGroupings(std::optional<GroupedList> list, Grouping current)
@@ -136,7 +111,9 @@ void DetailHeader::setGroupings(std::optional<GroupedList> list, Grouping curren
             m_groupings->addAction(action);
         }
     }
+    m_groupBy->setChoice(list ? PaneText::label(current, *list) : QString());
     m_groupBy->setEnabled(list.has_value());
+    arrange();
 }
 
 void DetailHeader::setReloading(bool isReloading)
@@ -154,44 +131,148 @@ void DetailHeader::setCanExport(bool canExport)
     m_export->setEnabled(canExport);
 }
 
-void DetailHeader::updateColors()
+void DetailHeader::setBusy(bool isBusy)
+{
+    if (isBusy && m_busy == nullptr) {
+        m_busy = new BusyBar(tr("Reading"), this);
+        arrange();
+    }
+    if (m_busy != nullptr)
+        m_busy->setVisible(isBusy);
+}
+
+void DetailHeader::setSidebarButtonShown(bool isShown)
+{
+    m_sidebar->setVisible(isShown);
+    arrange();
+}
+
+void DetailHeader::updateLook()
 {
     const Look look = Look::of(*this);
-    setPaletteColor(*m_subtitle, QPalette::WindowText, look.page.quiet);
-    setPaletteColor(*m_search, QPalette::PlaceholderText, look.field.quiet);
-    m_magnifier->setIcon(symbolIcon(u"magnifyingglass"_s, look.field.quiet));
-    m_clear->setIcon(symbolIcon(u"xmark.circle"_s, look.field.quiet));
+    m_title->setFont(look.titleFont);
+    m_subtitle->setFont(look.smallFont);
+    setPaletteColor(*m_title, QPalette::WindowText, look.list.ink);
+    updateSubtitle();
+    setFixedHeight(look.measures.headerHeight);
+    arrange();
 }
 
-void DetailHeader::changeEvent(QEvent *event)
+void DetailHeader::updateSubtitle()
 {
-    if (event->type() == QEvent::PaletteChange)
-        updateColors();
-    QWidget::changeEvent(event);
+    const Look look = Look::of(*this);
+    const bool isProblem = m_subtitleKind == Subtitle::Problem;
+    setPaletteColor(*m_subtitle, QPalette::WindowText, isProblem ? look.list.ink : look.list.quiet);
+    m_subtitle->setSign(isProblem ? symbolIcon(u"exclamationmark.triangle"_s, look.warningMark) : QIcon());
+    // What comes from a file is never markup.
+    constexpr qsizetype longestTip = 1000;
+    const QString problem = isProblem ? m_subtitle->text().left(longestTip) : QString();
+    m_subtitle->setToolTip(
+        isProblem ? QString(u"<qt>" % problem.toHtmlEscaped().replace(u'\n', u"<br>"_s) % u"</qt>")
+                  : QString());
+    m_subtitle->setAccessibleDescription(problem);
 }
 
-bool DetailHeader::eventFilter(QObject *watched, QEvent *event)
+int DetailHeader::wordsStart() const
 {
-    if (watched == m_search && event->type() == QEvent::FocusIn)
-        Q_EMIT searchExpected();
-    if (watched != m_search || event->type() != QEvent::KeyPress)
-        return QWidget::eventFilter(watched, event);
-    switch (static_cast<QKeyEvent *>(event)->key()) {
-    case Qt::Key_Escape:
-        // Once it is empty, there is nothing left to clear.
-        if (m_search->text().isEmpty())
-            Q_EMIT listRequested();
-        else
-            m_search->clear();
-        return true;
-    case Qt::Key_Down:
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        Q_EMIT listRequested();
-        return true;
-    default:
-        return QWidget::eventFilter(watched, event);
+    const Measures measures(font());
+    if (m_sidebar->isHidden())
+        return measures.alignmentLine;
+    // The button's symbol, not its edge, stands on the line.
+    return measures.alignmentLine + m_sidebar->sizeHint().width();
+}
+
+int DetailHeader::fixedWidth() const
+{
+    const Measures measures(font());
+    return wordsStart() + m_reload->sizeHint().width() + m_export->sizeHint().width() +
+           m_menuButton->sizeHint().width() + (5 * measures.units(gap)) + measures.units(gapAfterSearch) +
+           measures.units(endMargin);
+}
+
+QSize DetailHeader::sizeHint() const
+{
+    const Measures measures(font());
+    return {fixedWidth() + m_groupBy->widthWhen(false) + m_search->sizeHint().width() +
+                measures.units(usualWords),
+            measures.headerHeight};
+}
+
+QSize DetailHeader::minimumSizeHint() const
+{
+    const Measures measures(font());
+    return {fixedWidth() + m_groupBy->widthWhen(true) + m_search->minimumSizeHint().width() +
+                measures.units(fewestWords),
+            measures.headerHeight};
+}
+
+void DetailHeader::arrange()
+{
+    const Measures measures(font());
+    const int space = measures.units(gap);
+    const int free = width() - fixedWidth();
+    int search = m_search->sizeHint().width();
+    const int words = std::min(std::max(m_title->sizeHint().width(), m_subtitle->sizeHint().width()),
+                               measures.units(usualWords));
+    const int missing = words + m_groupBy->widthWhen(false) + search - free;
+    search = std::clamp(search - missing, m_search->minimumSizeHint().width(), search);
+    const bool isCompact = words + m_groupBy->widthWhen(false) + search > free;
+    if (isCompact != m_groupBy->isCompact())
+        m_groupBy->setCompact(isCompact);
+
+    int start = 0;
+    const auto place = [&](QWidget *widget, int from, const QSize &size) {
+        const QRect wanted(QPoint(from, (height() - size.height()) / 2), size);
+        widget->setGeometry(QStyle::visualRect(layoutDirection(), rect(), wanted));
+        start = from + size.width();
+    };
+    place(m_sidebar, measures.alignmentLine - measures.units(0.43), m_sidebar->sizeHint());
+    const int wordsWidth = std::max(0, free - m_groupBy->widthWhen(isCompact) - search);
+    const int titleHeight = m_title->sizeHint().height();
+    const int subtitleHeight = m_subtitle->sizeHint().height();
+    const int top = (height() - titleHeight - subtitleHeight) / 2;
+    const QRect title(wordsStart(), top, wordsWidth, titleHeight);
+    const QRect subtitle(wordsStart(), top + titleHeight, wordsWidth, subtitleHeight);
+    m_title->setGeometry(QStyle::visualRect(layoutDirection(), rect(), title));
+    m_subtitle->setGeometry(QStyle::visualRect(layoutDirection(), rect(), subtitle));
+    place(m_groupBy, title.right() + 1 + space, m_groupBy->sizeHint());
+    place(m_reload, start + space, m_reload->sizeHint());
+    place(m_export, start + space, m_export->sizeHint());
+    place(m_search, start + (2 * space), QSize(search, m_search->sizeHint().height()));
+    place(m_menuButton, start + measures.units(gapAfterSearch), m_menuButton->sizeHint());
+    if (m_busy != nullptr) {
+        m_busy->setGeometry(0, height() - BusyBar::thickness, width(), BusyBar::thickness);
+        m_busy->raise();
     }
+}
+
+bool DetailHeader::event(QEvent *event)
+{
+    const bool result = QWidget::event(event);
+    switch (event->type()) {
+    case QEvent::FontChange:
+    case QEvent::PaletteChange:
+    case QEvent::StyleChange:
+        updateLook();
+        break;
+    case QEvent::LayoutDirectionChange:
+        arrange();
+        break;
+    default:
+        break;
+    }
+    return result;
+}
+
+void DetailHeader::paintEvent(QPaintEvent * /*event*/)
+{
+    QPainter(this).fillRect(rect(), Look::of(*this).list.base);
+}
+
+void DetailHeader::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    arrange();
 }
 
 } // namespace roamlet

@@ -18,10 +18,16 @@ class QToolButton;
 namespace roamlet
 {
 
+class BusyBar;
 class ElidedLabel;
+class GroupByButton;
+class HeaderButton;
 class ReloadButton;
+class SearchField;
 
-/// The bar over the list: its title and subtitle, and at the right what can be done with it.
+/// The bar over the list: its title and subtitle, and at the end what can be done with it. Where room runs
+/// out, first the subtitle ends early, then the search field gets shorter, and then "Group By" loses its
+/// words.
 class DetailHeader final : public QWidget
 {
     Q_OBJECT
@@ -29,22 +35,33 @@ class DetailHeader final : public QWidget
 public:
     explicit DetailHeader(QWidget *parent = nullptr);
 
-    void setTitle(const QString &title, const QString &subtitle);
+    /// What the subtitle is.
+    enum class Subtitle { Note, Problem };
+
+    void setTitle(const QString &title, const QString &subtitle, Subtitle kind = Subtitle::Note);
     /// Offers the groupings of a list; nothing is offered without one.
     void setGroupings(std::optional<GroupedList> list, Grouping current);
     void setReloading(bool isReloading);
     bool isReloading() const;
     void setCanExport(bool canExport);
+    /// Whether something is being read that everything waits for.
+    void setBusy(bool isBusy);
+    /// The button that brings the sidebar back stands first.
+    void setSidebarButtonShown(bool isShown);
 
-    QLineEdit *searchField() const { return m_search; }
+    QLineEdit *searchField() const;
     /// What the "Group By" button opens; menus elsewhere may show it as well.
     QMenu *groupingMenu() const { return m_groupingMenu; }
     /// The last that the Tab key comes to.
-    QToolButton *menuButton() const { return m_menuButton; }
+    QToolButton *menuButton() const;
     /// What it opens.
     QMenu *mainMenu() const { return m_mainMenu; }
 
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
 Q_SIGNALS:
+    void sidebarRequested();
     /// The search field has got the focus.
     void searchExpected();
     void searchChanged(const QString &text);
@@ -55,24 +72,33 @@ Q_SIGNALS:
     void listRequested();
 
 protected:
-    void changeEvent(QEvent *event) override;
-    bool eventFilter(QObject *watched, QEvent *event) override;
+    bool event(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
-    void updateColors();
+    void updateLook();
+    void updateSubtitle();
+    /// Where the title begins.
+    int wordsStart() const;
+    /// The width of all that never gets shorter.
+    int fixedWidth() const;
+    /// Gives everything its place.
+    void arrange();
 
+    HeaderButton *m_sidebar;
     ElidedLabel *m_title;
     ElidedLabel *m_subtitle;
-    QToolButton *m_groupBy;
+    Subtitle m_subtitleKind = Subtitle::Note;
+    GroupByButton *m_groupBy;
     QMenu *m_groupingMenu;
     QActionGroup *m_groupings;
     ReloadButton *m_reload;
-    QToolButton *m_export;
-    QLineEdit *m_search;
-    QAction *m_magnifier;
-    QAction *m_clear;
-    QToolButton *m_menuButton;
+    HeaderButton *m_export;
+    SearchField *m_search;
+    HeaderButton *m_menuButton;
     QMenu *m_mainMenu;
+    BusyBar *m_busy = nullptr;
 };
 
 } // namespace roamlet

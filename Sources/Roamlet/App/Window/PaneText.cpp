@@ -6,6 +6,8 @@
 #include "App/Tables/CellText.h"
 #include "Lists/Refine.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 namespace roamlet::PaneText
@@ -15,6 +17,11 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
+
+QString words(const char *english)
+{
+    return QCoreApplication::translate("PaneText", english);
+}
 
 bool isSearch(const ListState &list)
 {
@@ -28,9 +35,11 @@ QString limitNote(const Pane &pane, const Library::Snapshot &snapshot, const Lis
     const bool isLimited = isSearch(list) ? list.isCapped : holdsLatestOnly(pane, snapshot);
     if (!isLimited)
         return {};
-    const QString kind = std::holds_alternative<MostVisitedPane>(pane) ? u"top"_s : u"latest"_s;
-    const QString note = u" · " % kind % u' ' % locale.toString(HistoryQuery::defaultLimit);
-    return sourceIDOf(pane) ? note : QString(note % u" from each source");
+    const QString limit = locale.toString(HistoryQuery::defaultLimit);
+    const bool isTop = std::holds_alternative<MostVisitedPane>(pane);
+    if (sourceIDOf(pane))
+        return (isTop ? words(" · top %1") : words(" · latest %1")).arg(limit);
+    return (isTop ? words(" · top %1 from each source") : words(" · latest %1 from each source")).arg(limit);
 }
 
 } // namespace
@@ -40,26 +49,30 @@ QString title(const std::optional<Pane> &pane, const Library &library)
     if (!pane)
         return u"Roamlet"_s;
     if (std::holds_alternative<MostVisitedPane>(*pane))
-        return u"Most Visited"_s;
+        return words("Most Visited");
     const bool isHistory = std::holds_alternative<HistoryPane>(*pane);
     if (const std::optional<Source> source = library.source(sourceIDOf(*pane)))
-        return CellText::oneLine(source->name) % (isHistory ? u" History" : u" Bookmarks");
-    return isHistory ? u"Recent History"_s : u"All Bookmarks"_s;
+        return (isHistory ? words("%1 History") : words("%1 Bookmarks")).arg(CellText::oneLine(source->name));
+    return isHistory ? words("Recent History") : words("All Bookmarks");
+}
+
+std::optional<QString> problem(const std::optional<Pane> &pane, const Library &library)
+{
+    const std::optional<QString> id = pane && library.lastLoaded() ? sourceIDOf(*pane) : std::nullopt;
+    if (!id || !library.snapshot().problems.contains(*id))
+        return {};
+    return library.snapshot().problems.value(*id);
 }
 
 QString subtitle(const std::optional<Pane> &pane, const Library &library, const ListState &list,
                  const QLocale &locale)
 {
     if (!library.lastLoaded())
-        return u"Reading…"_s;
-    if (pane) {
-        if (const std::optional<QString> id = sourceIDOf(*pane)) {
-            const auto problem = library.snapshot().problems.constFind(*id);
-            if (problem != library.snapshot().problems.cend())
-                return *problem;
-        }
-    }
-    const QString count = locale.toString(list.rowCount) % (list.rowCount == 1 ? u" item" : u" items");
+        return words("Reading…");
+    if (const std::optional<QString> wrong = problem(pane, library))
+        return *wrong;
+    const QString count =
+        (list.rowCount == 1 ? words("%1 item") : words("%1 items")).arg(locale.toString(list.rowCount));
     return pane ? QString(count % limitNote(*pane, library.snapshot(), list, locale)) : count;
 }
 
@@ -103,11 +116,11 @@ QString label(Grouping grouping, GroupedList list)
 {
     switch (grouping) {
     case Grouping::None:
-        return list == GroupedList::Bookmarks ? u"Folders"_s : u"None"_s;
+        return list == GroupedList::Bookmarks ? words("Folders") : words("None");
     case Grouping::Day:
-        return u"Day"_s;
+        return words("Day");
     case Grouping::Site:
-        return u"Site"_s;
+        return words("Site");
     }
     Q_UNREACHABLE();
 }

@@ -26,6 +26,8 @@ struct ListState {
 };
 
 QString title(const std::optional<Pane> &pane, const Library &library);
+/// What went wrong with the source that the pane shows, a line for each failed part.
+std::optional<QString> problem(const std::optional<Pane> &pane, const Library &library);
 /// Under the title: that nothing was read yet, what went wrong with the shown source, or how many rows there
 /// are and of what they are a part.
 QString subtitle(const std::optional<Pane> &pane, const Library &library, const ListState &list,

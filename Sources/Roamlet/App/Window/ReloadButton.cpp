@@ -3,7 +3,7 @@
 
 #include "App/Window/ReloadButton.h"
 
-#include "App/Look/Symbol.h"
+#include "App/Look/Motion.h"
 
 #include <QPainter>
 
@@ -12,54 +12,42 @@ namespace roamlet
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
-
-constexpr int side = 16;
-
-} // namespace
-
-ReloadButton::ReloadButton(QWidget *parent) : QToolButton(parent)
+ReloadButton::ReloadButton(QWidget *parent) : HeaderButton(u"arrow.clockwise"_s, tr("Reload"), parent)
 {
     setObjectName(u"reloadButton"_s);
-    setText(u"Reload"_s);
-    setToolTip(u"Reload"_s);
-    setAccessibleName(u"Reload"_s);
-    setIconSize(QSize(side, side));
-    setIcon(symbolIcon(u"arrow.clockwise"_s));
+    constexpr int oneTurn = 900; // milliseconds
     m_turning.setStartValue(0.0);
     m_turning.setEndValue(360.0);
-    m_turning.setDuration(1000);
-    m_turning.setLoopCount(-1);
-    connect(&m_turning, &QVariantAnimation::valueChanged, this,
-            [this](const QVariant &degrees) { showTurnedBy(degrees.toReal()); });
+    m_turning.setDuration(oneTurn);
+    connect(&m_turning, &QVariantAnimation::valueChanged, this, qOverload<>(&QWidget::update));
+    connect(&m_turning, &QVariantAnimation::finished, this, [this] {
+        if (m_isReloading)
+            m_turning.start();
+    });
 }
 
 void ReloadButton::setReloading(bool isReloading)
 {
-    if (isReloading) {
+    m_isReloading = isReloading;
+    if (isReloading && !isTurning() && isMotionWanted(*this))
         m_turning.start();
-        return;
-    }
-    m_turning.stop();
-    setIcon(symbolIcon(u"arrow.clockwise"_s));
+    update();
 }
 
-void ReloadButton::showTurnedBy(qreal degrees)
+void ReloadButton::paintSymbol(QPainter &painter, const QRect &place)
 {
-    const qreal ratio = devicePixelRatioF();
-    QPixmap turned(QSize(side, side) * ratio);
-    turned.setDevicePixelRatio(ratio);
-    turned.fill(Qt::transparent);
-    QPainter painter(&turned);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    constexpr qreal middle = side / 2.0;
-    painter.translate(middle, middle);
-    painter.rotate(degrees);
-    painter.translate(-middle, -middle);
-    symbolIcon(u"arrow.clockwise"_s).paint(&painter, QRect(0, 0, side, side));
-    painter.end();
-    setIcon(QIcon(turned));
+    painter.save();
+    if (isTurning()) {
+        const QPointF middle = QRectF(place).center();
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.translate(middle);
+        painter.rotate(m_turning.currentValue().toReal());
+        painter.translate(-middle);
+    } else if (m_isReloading) {
+        painter.setOpacity(0.5);
+    }
+    HeaderButton::paintSymbol(painter, place);
+    painter.restore();
 }
 
 } // namespace roamlet

@@ -3,14 +3,15 @@
 
 #pragma once
 
-#include <QToolButton>
+#include "App/Window/HeaderButton.h"
+
 #include <QVariantAnimation>
 
 namespace roamlet
 {
 
-/// "Reload", whose arrow turns while a reload runs.
-class ReloadButton final : public QToolButton
+/// "Reload", whose arrow turns while a reload runs, and at least once. Where nothing shall move it only dims.
+class ReloadButton final : public HeaderButton
 {
     Q_OBJECT
 
@@ -18,11 +19,14 @@ public:
     explicit ReloadButton(QWidget *parent = nullptr);
 
     void setReloading(bool isReloading);
-    bool isReloading() const { return m_turning.state() == QAbstractAnimation::Running; }
+    bool isReloading() const { return m_isReloading; }
+    bool isTurning() const { return m_turning.state() == QAbstractAnimation::Running; }
+
+protected:
+    void paintSymbol(QPainter &painter, const QRect &place) override;
 
 private:
-    void showTurnedBy(qreal degrees);
-
+    bool m_isReloading = false;
     QVariantAnimation m_turning;
 };
 

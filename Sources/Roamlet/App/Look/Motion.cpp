@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "App/Look/Motion.h"
+
+#include <QStyle>
+#include <QWidget>
+
+namespace roamlet
+{
+
+bool isMotionWanted(const QWidget &widget)
+{
+    return widget.style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, &widget) > 0;
+}
+
+} // namespace roamlet

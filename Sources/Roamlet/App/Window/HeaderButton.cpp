@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "App/Window/HeaderButton.h"
+
+#include "App/Look/Look.h"
+#include "App/Look/Symbol.h"
+
+#include <QPainter>
+#include <QStyle>
+#include <QStyleOptionToolButton>
+
+namespace roamlet
+{
+
+HeaderButton::HeaderButton(const QString &symbol, const QString &name, QWidget *parent)
+    : QToolButton(parent), m_symbol(symbol)
+{
+    setText(name);
+    setToolTip(name);
+    setAccessibleName(name);
+    setAutoRaise(true);
+    setFocusPolicy(Qt::TabFocus);
+    setPopupMode(InstantPopup);
+    setAttribute(Qt::WA_Hover);
+}
+
+int HeaderButton::padding() const
+{
+    return Look::of(*this).measures.units(0.43);
+}
+
+QColor HeaderButton::ink() const
+{
+    const Look look = Look::of(*this);
+    return isEnabled() ? look.list.ink : look.list.faint;
+}
+
+QSize HeaderButton::sizeHint() const
+{
+    const Measures measures(font());
+    return {measures.iconSide + (2 * padding()), measures.controlHeight};
+}
+
+void HeaderButton::paintEvent(QPaintEvent * /*event*/)
+{
+    QStyleOptionToolButton option;
+    initStyleOption(&option);
+    const Look look = Look::of(*this);
+    const int radius = look.measures.rowRadius;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    if (isEnabled() && (isDown() || option.state.testFlag(QStyle::State_MouseOver))) {
+        painter.setBrush(isDown() ? look.list.pressed : look.list.hover);
+        painter.drawRoundedRect(rect(), radius, radius);
+    }
+    if (hasFocus()) {
+        constexpr qreal half = Measures::focusRingWidth / 2.0;
+        painter.setPen(QPen(look.accent, Measures::focusRingWidth));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRoundedRect(QRectF(rect()).adjusted(half, half, -half, -half), radius, radius);
+    }
+    paintContent(painter, rect().adjusted(padding(), 0, -padding(), 0));
+}
+
+void HeaderButton::paintContent(QPainter &painter, const QRect &content)
+{
+    const int side = Measures(font()).iconSide;
+    const QRect place(content.left(), content.top() + ((content.height() - side) / 2), side, side);
+    paintSymbol(painter, QStyle::visualRect(layoutDirection(), content, place));
+}
+
+void HeaderButton::paintSymbol(QPainter &painter, const QRect &place)
+{
+    symbolIcon(m_symbol, ink()).paint(&painter, place);
+}
+
+} // namespace roamlet

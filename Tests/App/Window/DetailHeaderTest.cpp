@@ -1,0 +1,186 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "App/Window/DetailHeader.h"
+
+#include "App/Look/Look.h"
+#include "App/Window/GroupByButton.h"
+#include "App/Window/ReloadButton.h"
+#include "App/Window/SearchField.h"
+#include "Support/Waiting.h"
+
+#include <QAccessible>
+#include <QAction>
+#include <QProxyStyle>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace roamlet::testing
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+/// A desktop on which nothing moves.
+class StillStyle final : public QProxyStyle
+{
+public:
+    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                  QStyleHintReturn *data) const override
+    {
+        return hint == SH_Widget_Animation_Duration ? 0 : QProxyStyle::styleHint(hint, option, widget, data);
+    }
+};
+
+} // namespace
+
+class DetailHeaderTest : public ::testing::Test
+{
+protected:
+    DetailHeaderTest()
+    {
+        header.setTitle(u"Recent History"_s, u"4,812 items · latest 1,000 from each source"_s);
+        header.setGroupings(GroupedList::History, Grouping::Day);
+        header.resize(1000, header.height());
+        header.show();
+    }
+
+    template<typename Widget>
+    Widget *part(const QString &name)
+    {
+        return header.findChild<Widget *>(name);
+    }
+
+    DetailHeader header;
+    QWidget *subtitle = part<QWidget>(u"listSubtitle"_s);
+    SearchField *search = part<SearchField>(u"searchField"_s);
+    GroupByButton *groupBy = part<GroupByButton>(u"groupByButton"_s);
+};
+
+TEST_F(DetailHeaderTest, roomRunsOutForTheSubtitleFirstThenForTheSearchAndThenForTheWordsOfGroupBy)
+{
+    const int whole = subtitle->sizeHint().width();
+    const int usual = Measures(header.font()).units(12);
+    ASSERT_GT(whole, usual);
+    bool wasElided = false;
+    bool wasNarrow = false;
+    for (int width = 1200; width >= header.minimumSizeHint().width(); --width) {
+        header.resize(width, header.height());
+        const bool isNarrow = search->width() < search->sizeHint().width();
+        if (isNarrow && !groupBy->isCompact()) {
+            EXPECT_LE(subtitle->width(), usual) << width;
+        }
+        if (groupBy->isCompact()) {
+            EXPECT_EQ(search->width(), search->minimumSizeHint().width()) << width;
+        }
+        wasElided = wasElided || (subtitle->width() < whole && !isNarrow);
+        wasNarrow = wasNarrow || (isNarrow && !groupBy->isCompact());
+        EXPECT_LE(part<QWidget>(u"menuButton"_s)->geometry().right(), width);
+    }
+    EXPECT_TRUE(wasElided);
+    EXPECT_TRUE(wasNarrow);
+    EXPECT_TRUE(groupBy->isCompact());
+}
+
+TEST_F(DetailHeaderTest, groupBySaysWhatIsChosenAlsoWithoutItsWords)
+{
+    EXPECT_EQ(groupBy->toolTip(), u"Group By");
+    EXPECT_EQ(groupBy->accessibleDescription(), u"Day");
+    header.resize(header.minimumSizeHint());
+    ASSERT_TRUE(groupBy->isCompact());
+    EXPECT_EQ(groupBy->toolTip(), u"Group By Day");
+    EXPECT_EQ(groupBy->accessibleName(), u"Group By");
+    header.groupingMenu()->actions()[2]->trigger();
+    EXPECT_EQ(groupBy->toolTip(), u"Group By Site");
+}
+
+TEST_F(DetailHeaderTest, isMirrored)
+{
+    const QRect before = search->geometry();
+    header.setLayoutDirection(Qt::RightToLeft);
+    EXPECT_EQ(search->geometry().right(), header.width() - 1 - before.left());
+    EXPECT_GT(subtitle->geometry().left(), search->geometry().right());
+}
+
+TEST_F(DetailHeaderTest, aProblemHasASignAndIsToldWhole)
+{
+    const QImage before = subtitle->grab().toImage();
+    EXPECT_TRUE(subtitle->toolTip().isEmpty());
+    header.setTitle(u"Work History"_s, u"History: <b>broken</b>\nIcons: gone"_s,
+                    DetailHeader::Subtitle::Problem);
+    EXPECT_EQ(subtitle->toolTip(), u"<qt>History: &lt;b&gt;broken&lt;/b&gt;<br>Icons: gone</qt>");
+    EXPECT_EQ(subtitle->accessibleDescription(), u"History: <b>broken</b>\nIcons: gone");
+    const QColor sign = Look::of(header).warningMark;
+    const QImage image = subtitle->grab().toImage();
+    bool isSignSeen = false;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.height(); ++x)
+            isSignSeen = isSignSeen || image.pixelColor(x, y) == sign;
+    }
+    EXPECT_TRUE(isSignSeen);
+    header.setTitle(u"Work History"_s, u"4 items"_s);
+    EXPECT_TRUE(subtitle->toolTip().isEmpty());
+    EXPECT_TRUE(subtitle->accessibleDescription().isEmpty());
+}
+
+TEST_F(DetailHeaderTest, titleAndSubtitleAreTextsToScreenReaders)
+{
+    const QString whole = u"4,812 items · latest 1,000 from each source"_s;
+    for (const QString &name : {u"listTitle"_s, u"listSubtitle"_s}) {
+        const QAccessibleInterface *text = QAccessible::queryAccessibleInterface(part<QWidget>(name));
+        ASSERT_NE(text, nullptr);
+        EXPECT_EQ(text->role(), QAccessible::StaticText);
+        EXPECT_EQ(text->text(QAccessible::Name), name == u"listTitle" ? u"Recent History"_s : whole);
+    }
+}
+
+TEST_F(DetailHeaderTest, aFontInPixelsIsScaledLikeAnyOther)
+{
+    QFont font = header.font();
+    font.setPixelSize(40);
+    header.setFont(font);
+    EXPECT_GT(part<QWidget>(u"listTitle"_s)->font().pixelSize(), 40);
+    EXPECT_LT(subtitle->font().pixelSize(), 40);
+    EXPECT_GT(subtitle->font().pixelSize(), 30);
+    EXPECT_EQ(header.height(), Measures(font).headerHeight);
+}
+
+TEST_F(DetailHeaderTest, theSearchFieldHasARingOnlyWhileItHasTheKeyboard)
+{
+    const auto edge = [this] { return search->grab().toImage().pixelColor(search->width() / 2, 0); };
+    header.activateWindow();
+    ASSERT_TRUE(waitUntil([this] { return header.isActiveWindow(); }));
+    const QColor accent = Look::of(header).accent;
+    EXPECT_NE(edge(), accent);
+    search->setFocus();
+    EXPECT_EQ(edge(), accent);
+}
+
+TEST_F(DetailHeaderTest, theArrowTurnsAtLeastOnce)
+{
+    auto *reload = part<ReloadButton>(u"reloadButton"_s);
+    header.setReloading(true);
+    header.setReloading(false);
+    EXPECT_FALSE(header.isReloading());
+    EXPECT_TRUE(reload->isTurning());
+    EXPECT_TRUE(waitUntil([reload] { return !reload->isTurning(); }));
+}
+
+TEST_F(DetailHeaderTest, whereNothingMovesTheArrowOnlyDims)
+{
+    StillStyle style;
+    auto *reload = part<ReloadButton>(u"reloadButton"_s);
+    reload->setStyle(&style);
+    const QImage before = reload->grab().toImage();
+    header.setReloading(true);
+    EXPECT_FALSE(reload->isTurning());
+    EXPECT_NE(reload->grab().toImage(), before);
+    header.setReloading(false);
+    EXPECT_EQ(reload->grab().toImage(), before);
+    reload->setStyle(nullptr);
+}
+
+} // namespace roamlet::testing
