@@ -49,7 +49,7 @@ protected:
     static QString shownTable(const ContentView &content)
     {
         for (const QTreeView *view : content.findChildren<QTreeView *>()) {
-            if (view->isVisible())
+            if (view->isVisible() && view->objectName() != u"sidebar")
                 return view->objectName();
         }
         return {};

@@ -5,7 +5,7 @@
 
 #include "App/Look/Look.h"
 #include "App/Window/SidebarModel.h"
-#include "Support/LibraryHome.h"
+#include "App/Window/WindowTest.h"
 #include "Support/Waiting.h"
 
 #include <QAbstractItemModelTester>
@@ -25,12 +25,24 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-/// The rows, headings in brackets.
+/// The sections and their rows, from the top.
+QModelIndexList lines(const QAbstractItemModel &model)
+{
+    QModelIndexList result;
+    for (int number = 0; number < model.rowCount(); ++number) {
+        const QModelIndex section = model.index(number, 0);
+        result.append(section);
+        for (int row = 0; row < model.rowCount(section); ++row)
+            result.append(model.index(row, 0, section));
+    }
+    return result;
+}
+
+/// Their texts, those of sections in brackets.
 QStringList texts(const QAbstractItemModel &model)
 {
     QStringList result;
-    for (int row = 0; row < model.rowCount(); ++row) {
-        const QModelIndex index = model.index(row, 0);
+    for (const QModelIndex &index : lines(model)) {
         const QString text = index.data().toString();
         result.append(index.data(SidebarModel::IsHeadingRole).toBool() ? u'[' % text % u']' : text);
     }
@@ -39,28 +51,39 @@ QStringList texts(const QAbstractItemModel &model)
 
 } // namespace
 
-class SidebarTest : public LibraryHome
+class SidebarTest : public WindowTest
 {
 protected:
-    Library library{home.platform()};
+    SidebarTest() { sidebar.resize(220, 600); }
+
+    /// A row or a section, counted from the top.
+    static QModelIndex line(const QAbstractItemModel &model, int number) { return lines(model)[number]; }
+    QPoint middleOf(int number) const { return sidebar.visualRect(line(*sidebar.model(), number)).center(); }
+    void click(int number, Qt::MouseButton button = Qt::LeftButton)
+    {
+        QTest::mouseClick(sidebar.viewport(), button, {}, middleOf(number));
+    }
+    bool isFolded(int section) const { return !sidebar.isExpanded(sidebar.model()->index(section, 0)); }
+
+    Sidebar sidebar{services()};
 };
 
 TEST_F(SidebarTest, listsAllSourcesTogetherAndThenEachOne)
 {
     addChromium();
-    SidebarModel model(library);
+    SidebarModel model(*library);
     const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
     EXPECT_EQ(texts(model),
               QStringList({u"[Library]"_s, u"Recent History"_s, u"Most Visited"_s, u"All Bookmarks"_s}));
-    loadNow(library);
+    loadNow(*library);
     EXPECT_EQ(texts(model), QStringList({u"[Library]"_s, u"Recent History"_s, u"Most Visited"_s,
                                          u"All Bookmarks"_s, u"[Chrome - Personal]"_s, u"History"_s,
                                          u"Bookmarks"_s, u"[Chrome - Work]"_s, u"History"_s, u"Bookmarks"_s,
                                          u"[Edge - Office]"_s, u"History"_s, u"Bookmarks"_s}));
-    EXPECT_EQ(model.pane(model.index(5)), Pane(HistoryPane{u"chrome/Default"_s}));
-    EXPECT_EQ(model.pane(model.index(2)), Pane(MostVisitedPane()));
-    EXPECT_EQ(model.pane(model.index(4)), std::nullopt);
-    EXPECT_EQ(model.index(5).data(Qt::AccessibleTextRole), u"Chrome - Personal: History"_s);
+    EXPECT_EQ(model.pane(line(model, 5)), Pane(HistoryPane{u"chrome/Default"_s}));
+    EXPECT_EQ(model.pane(line(model, 2)), Pane(MostVisitedPane()));
+    EXPECT_EQ(model.pane(line(model, 4)), std::nullopt);
+    EXPECT_EQ(line(model, 5).data(Qt::AccessibleTextRole), u"Chrome - Personal: History"_s);
 }
 
 TEST_F(SidebarTest, everyInstallationOfABrowserHasItsRows)
@@ -68,10 +91,8 @@ TEST_F(SidebarTest, everyInstallationOfABrowserHasItsRows)
     addChromium();
     addChromeBeta();
     addFirefox(snapFirefox);
-    loadNow(library);
-    Sidebar sidebar(library);
-    sidebar.resize(220, 400);
-    const auto headings = [&sidebar] { return texts(*sidebar.model()).filter(u"["_s); };
+    loadNow(*library);
+    const auto headings = [this] { return texts(*sidebar.model()).filter(u"["_s); };
     EXPECT_EQ(headings(),
               (QStringList{u"[Library]"_s, u"[Chrome - Personal]"_s, u"[Chrome - Work]"_s,
                            u"[Chrome Beta - Trial]"_s, u"[Edge - Office]"_s, u"[Firefox - default]"_s}));
@@ -82,7 +103,7 @@ TEST_F(SidebarTest, everyInstallationOfABrowserHasItsRows)
     EXPECT_EQ(sidebar.pane(), ofFirefox);
     // Another Firefox comes: from now on the first one has to be told apart, and is still the one shown.
     addFirefox();
-    loadNow(library);
+    loadNow(*library);
     EXPECT_EQ(headings().last(2), (QStringList{u"[Firefox - default]"_s, u"[Firefox (Snap) - default]"_s}));
     EXPECT_EQ(sidebar.pane(), ofFirefox);
     EXPECT_EQ(sidebar.currentIndex().data(Qt::AccessibleTextRole), u"Firefox (Snap) - default: Bookmarks"_s);
@@ -96,39 +117,37 @@ TEST_F(SidebarTest, aHeadingIsShownAsItIsAndNotAsMarkUp)
                                 {{u"Default"_s, QJsonObject{{u"name"_s, u"<h1>Big</h1>"_s}}},
                                  {u"Profile 1"_s, QJsonObject{{u"name"_s, QString(1'000'000, u'x')}}}});
     });
-    loadNow(library);
-    const SidebarModel model(library);
-    EXPECT_EQ(model.index(4).data(), u"Chrome - <h1>Big</h1>"_s);
-    EXPECT_TRUE(model.index(4).data(Qt::ToolTipRole).toString().contains(u"&lt;h1&gt;Big&lt;/h1&gt;"));
-    EXPECT_LT(model.index(7).data().toString().size(), 2000);
-    EXPECT_LT(model.index(7).data(Qt::ToolTipRole).toString().size(), 2000);
+    loadNow(*library);
+    const SidebarModel model(*library);
+    EXPECT_EQ(line(model, 4).data(), u"Chrome - <h1>Big</h1>"_s);
+    EXPECT_TRUE(line(model, 4).data(Qt::ToolTipRole).toString().contains(u"&lt;h1&gt;Big&lt;/h1&gt;"));
+    EXPECT_LT(line(model, 7).data().toString().size(), 2000);
+    EXPECT_LT(line(model, 7).data(Qt::ToolTipRole).toString().size(), 2000);
 }
 
 TEST_F(SidebarTest, followsTheUsersOrder)
 {
     addChromium();
-    SidebarModel model(library);
-    loadNow(library);
-    library.moveProfiles({2}, 0);
+    SidebarModel model(*library);
+    loadNow(*library);
+    library->moveProfiles({2}, 0);
     EXPECT_EQ(texts(model)[4], u"[Edge - Office]");
 }
 
 TEST_F(SidebarTest, aReloadThatChangesNoSourceMovesNothing)
 {
     addChromium();
-    SidebarModel model(library);
-    loadNow(library);
+    SidebarModel model(*library);
+    loadNow(*library);
     const QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
-    loadNow(library);
+    loadNow(*library);
     EXPECT_EQ(resets.size(), 0);
 }
 
 TEST_F(SidebarTest, theKeyboardGoesFromRowToRowAndSkipsTheHeadings)
 {
     addChromium();
-    loadNow(library);
-    Sidebar sidebar(library);
-    sidebar.resize(220, 400);
+    loadNow(*library);
     sidebar.select(BookmarksPane());
     QTest::keyClick(&sidebar, Qt::Key_Down);
     EXPECT_EQ(sidebar.pane(), Pane(HistoryPane{u"chrome/Default"_s}));
@@ -139,9 +158,7 @@ TEST_F(SidebarTest, theKeyboardGoesFromRowToRowAndSkipsTheHeadings)
 TEST_F(SidebarTest, homeAndEndGoToTheOutermostRows)
 {
     addChromium();
-    loadNow(library);
-    Sidebar sidebar(library);
-    sidebar.resize(220, 400);
+    loadNow(*library);
     for (const Qt::Key key : {Qt::Key_Home, Qt::Key_PageUp}) {
         sidebar.select(BookmarksPane());
         QTest::keyClick(&sidebar, key);
@@ -156,67 +173,198 @@ TEST_F(SidebarTest, theSelectionTellsWhetherTheKeyboardIsInIt)
     QWidget window;
     QWidget other(&window);
     other.setFocusPolicy(Qt::StrongFocus);
-    Sidebar sidebar(library, &window);
-    sidebar.resize(220, 400);
+    sidebar.setParent(&window);
     sidebar.select(HistoryPane());
     window.show();
     window.activateWindow();
     ASSERT_TRUE(waitUntil([&window] { return window.isActiveWindow(); }));
-    const auto ground = [&sidebar] {
-        const QRect row = sidebar.visualRect(sidebar.currentIndex());
-        return sidebar.viewport()->grab().toImage().pixelColor(row.right() - 16, row.center().y());
+    // Wherever the pointer is.
+    const auto image = [this] {
+        QHoverEvent leave(QEvent::HoverLeave, QPointF(), QPointF(), QPointF());
+        QCoreApplication::sendEvent(sidebar.viewport(), &leave);
+        return sidebar.viewport()->grab().toImage();
     };
-    sidebar.setFocus();
+    const auto ground = [&] {
+        const QRect row = sidebar.visualRect(sidebar.currentIndex());
+        return image().pixelColor(row.right() - 16, row.center().y());
+    };
+    sidebar.setFocus(Qt::TabFocusReason);
     const QColor selected = Look::of(sidebar).sidebar.selected.base;
-    const QImage withFocus = sidebar.viewport()->grab().toImage();
+    const QImage withFocus = image();
     EXPECT_EQ(ground(), selected);
     other.setFocus();
-    EXPECT_NE(sidebar.viewport()->grab().toImage(), withFocus);
+    const QImage withoutFocus = image();
+    EXPECT_NE(withoutFocus, withFocus);
     EXPECT_EQ(ground(), selected) << "it is still seen";
+    // Whoever clicks sees where; the ring comes with the first key.
+    sidebar.setFocus(Qt::MouseFocusReason);
+    click(1);
+    EXPECT_EQ(image(), withoutFocus);
+    QTest::keyClick(&sidebar, Qt::Key_Up);
+    EXPECT_EQ(image(), withFocus);
+    sidebar.setParent(nullptr);
 }
 
-TEST_F(SidebarTest, aClickSelectsARowAndAHeadingDoesNothing)
+TEST_F(SidebarTest, aClickSelectsARowWhenTheButtonIsLetGoOnIt)
 {
     addChromium();
-    loadNow(library);
-    Sidebar sidebar(library);
-    sidebar.resize(220, 600);
+    loadNow(*library);
     sidebar.show();
     int changes = 0;
     QObject::connect(&sidebar, &Sidebar::paneSelected, [&changes] { ++changes; });
-    const auto click = [&sidebar](int row) {
-        QTest::mouseClick(sidebar.viewport(), Qt::LeftButton, {},
-                          sidebar.visualRect(sidebar.model()->index(row, 0)).center());
-    };
-    click(2);
+    QTest::mousePress(sidebar.viewport(), Qt::LeftButton, {}, middleOf(2));
+    EXPECT_EQ(sidebar.pane(), std::nullopt);
+    QTest::mouseRelease(sidebar.viewport(), Qt::LeftButton, {}, middleOf(2));
     EXPECT_EQ(sidebar.pane(), Pane(MostVisitedPane()));
     EXPECT_EQ(changes, 1);
-    click(4);
+    QTest::mousePress(sidebar.viewport(), Qt::LeftButton, {}, middleOf(1));
+    QTest::mouseRelease(sidebar.viewport(), Qt::LeftButton, {}, middleOf(3));
     EXPECT_EQ(sidebar.pane(), Pane(MostVisitedPane()));
+    EXPECT_EQ(changes, 1);
+}
+
+TEST_F(SidebarTest, aClickOnASectionFoldsItAndAnotherOpensItAgain)
+{
+    addChromium();
+    loadNow(*library);
+    sidebar.show();
+    sidebar.select(HistoryPane{u"chrome/Default"_s});
+    click(4);
+    EXPECT_TRUE(isFolded(1));
+    EXPECT_EQ(sidebar.pane(), Pane(HistoryPane{u"chrome/Default"_s}));
+    EXPECT_EQ(home.defaults.stringList(u"sidebar.folded"_s), QStringList{u"chrome/Default"_s});
+    click(4);
+    EXPECT_FALSE(isFolded(1));
+    EXPECT_EQ(home.defaults.stringList(u"sidebar.folded"_s), QStringList());
+}
+
+TEST_F(SidebarTest, whatIsFoldedStaysSoAfterAReloadAndInTheNextWindow)
+{
+    addChromium();
+    loadNow(*library);
+    sidebar.show();
+    click(4);
+    sidebar.select(HistoryPane{u"chrome/Default"_s});
+    EXPECT_TRUE(isFolded(1));
+    library->moveProfiles({0}, 3);
+    EXPECT_TRUE(isFolded(3));
+    EXPECT_FALSE(isFolded(1));
+    const Sidebar next(services());
+    EXPECT_FALSE(next.isExpanded(next.model()->index(3, 0)));
+    EXPECT_TRUE(next.isExpanded(next.model()->index(0, 0)));
+}
+
+TEST_F(SidebarTest, theArrowKeysFoldAndOpenASection)
+{
+    addChromium();
+    loadNow(*library);
+    sidebar.select(BookmarksPane{u"chrome/Default"_s});
+    QTest::keyClick(&sidebar, Qt::Key_Left);
+    EXPECT_TRUE(isFolded(1));
+    EXPECT_EQ(sidebar.pane(), Pane(BookmarksPane{u"chrome/Default"_s})) << "it is still shown";
+    // A folded section is gone to, so that it can be opened.
+    QTest::keyClick(&sidebar, Qt::Key_Up);
+    EXPECT_EQ(sidebar.pane(), Pane(BookmarksPane()));
+    QTest::keyClick(&sidebar, Qt::Key_Down);
+    EXPECT_EQ(sidebar.currentIndex(), sidebar.model()->index(1, 0));
+    EXPECT_EQ(sidebar.pane(), Pane(BookmarksPane()));
+    QTest::keyClick(&sidebar, Qt::Key_Right);
+    EXPECT_FALSE(isFolded(1));
+    QTest::keyClick(&sidebar, Qt::Key_Down);
+    EXPECT_EQ(sidebar.pane(), Pane(HistoryPane{u"chrome/Default"_s}));
+    sidebar.setLayoutDirection(Qt::RightToLeft);
+    QTest::keyClick(&sidebar, Qt::Key_Right);
+    EXPECT_TRUE(isFolded(1));
+    QTest::keyClick(&sidebar, Qt::Key_Space);
+    EXPECT_FALSE(isFolded(1));
+}
+
+TEST_F(SidebarTest, aProblemStandsAtItsSource)
+{
+    addChromium();
+    fail(chromeFile(u"Default/History"_s), std::errc::io_error);
+    loadNow(*library);
+    const QString problem = library->snapshot().problems.value(u"chrome/Default"_s);
+    ASSERT_FALSE(problem.isEmpty());
+    const QModelIndex section = sidebar.model()->index(1, 0);
+    EXPECT_EQ(section.data(Qt::AccessibleDescriptionRole), problem);
+    EXPECT_TRUE(section.data(Qt::ToolTipRole).toString().contains(u"Input/output error"));
+    EXPECT_EQ(sidebar.model()->index(2, 0).data(SidebarModel::ProblemRole), QString());
+    const auto hasSign = [this](const QModelIndex &index) {
+        const QRect row = sidebar.visualRect(index);
+        const QImage image = sidebar.viewport()->grab(row).toImage();
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = image.width() - image.height(); x < image.width(); ++x) {
+                if (image.pixelColor(x, y) != Look::of(sidebar).sidebar.base)
+                    return true;
+            }
+        }
+        return false;
+    };
+    EXPECT_TRUE(hasSign(section));
+    EXPECT_FALSE(hasSign(sidebar.model()->index(2, 0)));
+}
+
+TEST_F(SidebarTest, aSourceIsDraggedToAnotherPlace)
+{
+    addChromium();
+    home.defaults.setStringList(u"disabledProfiles"_s, {u"chrome/Profile 1"_s});
+    library = std::make_unique<Library>(home.platform());
+    loadNow(*library);
+    Sidebar shown(services());
+    shown.resize(220, 600);
+    const auto sections = [&shown] { return texts(*shown.model()).filter(u"["_s); };
+    ASSERT_EQ(sections(), (QStringList{u"[Library]"_s, u"[Chrome - Personal]"_s, u"[Edge - Office]"_s}));
+    const auto drag = [&shown](int section, int y) {
+        QWidget *viewport = shown.viewport();
+        const QPoint start = shown.visualRect(shown.model()->index(section, 0)).center();
+        QTest::mousePress(viewport, Qt::LeftButton, {}, start);
+        for (const QPoint &place : {start + QPoint(0, 20), QPoint(start.x(), y)}) {
+            QMouseEvent move(QEvent::MouseMove, place, viewport->mapToGlobal(place), Qt::NoButton,
+                             Qt::LeftButton, {});
+            QCoreApplication::sendEvent(viewport, &move);
+        }
+    };
+    const auto letGo = [&shown](int y) {
+        QTest::mouseRelease(shown.viewport(), Qt::LeftButton, {}, QPoint(100, y));
+    };
+    drag(1, 590);
+    QTest::keyClick(&shown, Qt::Key_Escape);
+    letGo(590);
+    EXPECT_EQ(sections().last(), u"[Edge - Office]") << "it was given up";
+    drag(1, 590);
+    letGo(590);
+    EXPECT_EQ(sections(), (QStringList{u"[Library]"_s, u"[Edge - Office]"_s, u"[Chrome - Personal]"_s}));
+    // The one that is switched off is where it was, between the two.
+    EXPECT_EQ(ids(library->ordered(library->snapshot().browserProfiles)),
+              (QStringList{u"chrome/Profile 1"_s, u"edge/Default"_s, u"chrome/Default"_s}));
+    drag(2, 0);
+    letGo(0);
+    EXPECT_EQ(sections(), (QStringList{u"[Library]"_s, u"[Chrome - Personal]"_s, u"[Edge - Office]"_s}));
+    EXPECT_TRUE(shown.isExpanded(shown.model()->index(1, 0))) << "a drag folds nothing";
 }
 
 TEST_F(SidebarTest, theSelectionOutlivesAReloadAndASourceThatIsGoneForAWhile)
 {
     addChromium();
-    loadNow(library);
-    Sidebar sidebar(library);
+    loadNow(*library);
     int changes = 0;
     QObject::connect(&sidebar, &Sidebar::paneSelected, [&changes] { ++changes; });
     const Pane pane = BookmarksPane{u"chrome/Profile 1"_s};
     sidebar.select(pane);
-    const auto selectedText = [&sidebar] {
+    const auto selectedText = [this] {
         const QModelIndexList rows = sidebar.selectionModel()->selectedIndexes();
         return rows.isEmpty() ? QString() : rows.first().data(Qt::AccessibleTextRole).toString();
     };
     EXPECT_EQ(selectedText(), u"Chrome - Work: Bookmarks");
-    library.setEnabled(false, *library.source(u"chrome/Profile 1"_s));
-    ASSERT_TRUE(waitUntil([this] { return !library.isLoading(); }));
+    library->setEnabled(false, *library->source(u"chrome/Profile 1"_s));
+    ASSERT_TRUE(waitUntil([this] { return !library->isLoading(); }));
     EXPECT_EQ(selectedText(), u"");
-    const auto &profiles = library.snapshot().browserProfiles;
+    const auto &profiles = library->snapshot().browserProfiles;
     const auto work = std::ranges::find(profiles, u"chrome/Profile 1"_s, &Source::id);
     ASSERT_NE(work, profiles.end());
-    library.setEnabled(true, *work);
-    ASSERT_TRUE(waitUntil([this] { return !library.isLoading(); }));
+    library->setEnabled(true, *work);
+    ASSERT_TRUE(waitUntil([this] { return !library->isLoading(); }));
     EXPECT_EQ(selectedText(), u"Chrome - Work: Bookmarks");
     EXPECT_EQ(changes, 0);
 }
@@ -224,15 +372,13 @@ TEST_F(SidebarTest, theSelectionOutlivesAReloadAndASourceThatIsGoneForAWhile)
 TEST_F(SidebarTest, theContextMenuExportsABookmarksRowThatHasSome)
 {
     addChromium();
-    loadNow(library);
-    Sidebar sidebar(library);
-    sidebar.resize(220, 600);
+    loadNow(*library);
     sidebar.show();
     std::optional<std::optional<QString>> exported;
     QObject::connect(&sidebar, &Sidebar::exportRequested,
                      [&exported](const std::optional<QString> &id) { exported = id; });
-    const auto openMenu = [&sidebar](int row) -> QMenu * {
-        const QPoint place = sidebar.visualRect(sidebar.model()->index(row, 0)).center();
+    const auto openMenu = [this](int row) -> QMenu * {
+        const QPoint place = middleOf(row);
         QContextMenuEvent event(QContextMenuEvent::Mouse, place, sidebar.viewport()->mapToGlobal(place));
         QCoreApplication::sendEvent(sidebar.viewport(), &event);
         return sidebar.findChild<QMenu *>(u"sidebarMenu"_s);
@@ -261,19 +407,15 @@ TEST_F(SidebarTest, theContextMenuExportsABookmarksRowThatHasSome)
 TEST_F(SidebarTest, onlyTheLeftButtonChooses)
 {
     addChromium();
-    loadNow(library);
-    Sidebar sidebar(library);
-    sidebar.resize(240, 600);
+    loadNow(*library);
     sidebar.show();
     sidebar.select(HistoryPane());
-    const QPoint below =
-        sidebar.visualRect(sidebar.currentIndex()).center() + QPoint(0, 2 * sidebar.sizeHintForRow(1));
     for (const Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton}) {
-        QTest::mouseClick(sidebar.viewport(), button, {}, below);
+        click(3, button);
         EXPECT_EQ(sidebar.pane(), Pane(HistoryPane()));
     }
-    QTest::mouseClick(sidebar.viewport(), Qt::LeftButton, {}, below);
-    EXPECT_NE(sidebar.pane(), Pane(HistoryPane()));
+    click(3);
+    EXPECT_EQ(sidebar.pane(), Pane(BookmarksPane()));
 }
 
 } // namespace roamlet::testing

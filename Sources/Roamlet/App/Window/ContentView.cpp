@@ -85,7 +85,7 @@ QString whereWeLooked(const Folders &folders)
 ContentView::ContentView(const WindowServices &services, QWidget *parent)
     : QSplitter(Qt::Horizontal, parent),
       m_services(services),
-      m_sidebar(new Sidebar(services.library, this)),
+      m_sidebar(new Sidebar(services, this)),
       m_header(new DetailHeader(this)),
       m_lists(new QStackedWidget(this))
 {
@@ -104,7 +104,7 @@ ContentView::ContentView(const WindowServices &services, QWidget *parent)
     addWidget(makeDetail());
     setStretchFactor(0, 0);
     setStretchFactor(1, 1);
-    setSizes({Sidebar::idealWidthOfColumn, 1000});
+    setSizes({m_sidebar->sizeHint().width(), 1000});
 
     connect(m_sidebar, &Sidebar::paneSelected, this, [this] { setPane(m_sidebar->pane()); });
     connect(m_sidebar, &Sidebar::exportRequested, this, [this](const std::optional<QString> &sourceID) {

@@ -4,16 +4,24 @@
 #include "App/Window/Sidebar.h"
 
 #include "App/Look/Look.h"
+#include "App/Look/Symbol.h"
 #include "App/Window/PaneText.h"
+#include "App/Window/SidebarDelegate.h"
 #include "App/Window/SidebarModel.h"
 #include "Library/Library.h"
+#include "Opening/Opener.h"
+#include "Platform/UserDefaults.h"
 
+#include <QApplication>
 #include <QContextMenuEvent>
+#include <QHeaderView>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QScopedValueRollback>
-#include <QStyledItemDelegate>
+#include <QPixmap>
+
+#include <algorithm>
+#include <utility>
 
 namespace roamlet
 {
@@ -23,108 +31,49 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-/// Quiet headings, and a rounded selection that does not touch the edges.
-class SidebarDelegate final : public QStyledItemDelegate
-{
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
-    {
-        const int line = option.fontMetrics.height();
-        const bool isHeading = index.data(SidebarModel::IsHeadingRole).toBool();
-        return {0, isHeading ? line + (index.row() == 0 ? 14 : 20) : line + 10};
-    }
-
-    void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
-    {
-        painter->save();
-        painter->setRenderHint(QPainter::Antialiasing);
-        const QString text = index.data(Qt::DisplayRole).toString();
-        if (index.data(SidebarModel::IsHeadingRole).toBool())
-            paintHeading(painter, option, text);
-        else
-            paintRow(painter, option, text, index.data(Qt::DecorationRole).value<QIcon>());
-        painter->restore();
-    }
-
-private:
-    static constexpr int margin = 8;
-    static constexpr int padding = 8;
-    static constexpr int iconSide = 16;
-
-    static void paintHeading(QPainter *painter, const QStyleOptionViewItem &option, const QString &text)
-    {
-        QFont font = option.font;
-        font.setBold(true);
-        font.setPointSizeF(font.pointSizeF() * 0.9);
-        painter->setFont(font);
-        painter->setPen(Look::of(*option.widget).sidebar.quiet);
-        const QRect place = option.rect.adjusted(margin + padding, 0, -margin, -4);
-        painter->drawText(place, Qt::AlignLeft | Qt::AlignBottom,
-                          QFontMetrics(font).elidedText(text, Qt::ElideRight, place.width()));
-    }
-
-    static void paintRow(QPainter *painter, const QStyleOptionViewItem &option, const QString &text,
-                         const QIcon &icon)
-    {
-        const bool isSelected = option.state.testFlag(QStyle::State_Selected);
-        const bool hasFocus = isSelected && option.state.testFlag(QStyle::State_HasFocus);
-        const Look look = Look::of(*option.widget);
-        const RowGround &sidebar = look.sidebar;
-        // Not State_Active, which a view only sets while it has the keyboard.
-        const Ground &selected =
-            option.widget->isActiveWindow() ? sidebar.selected : sidebar.selectedInactive;
-        const QColor ink = isSelected ? selected.ink : sidebar.ink;
-        const QRect body = option.rect.adjusted(margin, 1, -margin, -1);
-        painter->setPen(Qt::NoPen);
-        painter->setBrush(Qt::NoBrush);
-        if (isSelected)
-            painter->setBrush(selected.base);
-        else if (option.state.testFlag(QStyle::State_MouseOver))
-            painter->setBrush(sidebar.hover);
-        painter->drawRoundedRect(body, 5, 5);
-        if (hasFocus) {
-            // The ring tells that the arrow keys move this selection and no other.
-            painter->setPen(QPen(look.accent, Measures::focusRingWidth));
-            painter->setBrush(Qt::NoBrush);
-            painter->drawRoundedRect(body.adjusted(1, 1, -1, -1), 4, 4);
-        }
-        const QRect content = body.adjusted(padding, 0, -padding, 0);
-        QRect iconPlace(0, 0, iconSide, iconSide);
-        iconPlace.moveCenter(content.center());
-        iconPlace.moveLeft(content.left());
-        icon.paint(painter, iconPlace, Qt::AlignCenter, ink == sidebar.ink ? QIcon::Normal : QIcon::Selected);
-        painter->setPen(ink);
-        const QRect place = content.adjusted(iconSide + padding, 0, 0, 0);
-        painter->drawText(place, Qt::AlignLeft | Qt::AlignVCenter,
-                          option.fontMetrics.elidedText(text, Qt::ElideRight, place.width()));
-    }
-};
+const QString foldedKey = u"sidebar.folded"_s;
 
 } // namespace
 
-Sidebar::Sidebar(const Library &library, QWidget *parent)
-    : QListView(parent), m_library(library), m_model(new SidebarModel(library, this))
+Sidebar::Sidebar(const WindowServices &services, QWidget *parent)
+    : QTreeView(parent), m_services(services), m_model(new SidebarModel(services.library, this))
 {
     setObjectName(u"sidebar"_s);
-    setAccessibleName(u"Sidebar"_s);
+    setAccessibleName(tr("Sidebar"));
     setModel(m_model);
-    setItemDelegate(new SidebarDelegate(this));
+    setItemDelegate(new SidebarDelegate(
+        [this](const Source &source, qreal ratio) { return sourceIcon(source, ratio); }, this));
     setFrameShape(QFrame::NoFrame);
     setMinimumWidth(minimumWidthOfColumn);
     setSelectionMode(QAbstractItemView::SingleSelection);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setTextElideMode(Qt::ElideRight);
+    setHeaderHidden(true);
+    header()->setMinimumSectionSize(0);
+    setRootIsDecorated(false);
+    setIndentation(0);
+    setExpandsOnDoubleClick(false);
     setMouseTracking(true);
+    viewport()->setAttribute(Qt::WA_Hover);
     setBackgroundRole(QPalette::Window);
     viewport()->setBackgroundRole(QPalette::Window);
     updateColors();
+    restoreFolded();
+    connect(this, &QTreeView::collapsed, this,
+            [this](const QModelIndex &index) { storeFolded(index, true); });
+    connect(this, &QTreeView::expanded, this,
+            [this](const QModelIndex &index) { storeFolded(index, false); });
     connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, &Sidebar::followSelection);
     // A reset empties the selection; the window's pane stays what it was.
-    connect(m_model, &QAbstractItemModel::modelAboutToBeReset, this, [this] { m_isRestoring = true; });
-    connect(m_model, &QAbstractItemModel::modelReset, this, [this] { select(m_pane); });
+    connect(m_model, &QAbstractItemModel::modelAboutToBeReset, this, [this] {
+        m_isRestoring = true;
+        endDragging();
+    });
+    connect(m_model, &QAbstractItemModel::modelReset, this, [this] {
+        restoreFolded();
+        select(m_pane);
+    });
 }
 
 void Sidebar::select(const std::optional<Pane> &pane)
@@ -132,10 +81,15 @@ void Sidebar::select(const std::optional<Pane> &pane)
     m_isRestoring = true;
     m_pane = pane;
     const QModelIndex index = pane ? m_model->indexOf(*pane) : QModelIndex();
-    if (index.isValid())
-        setCurrentIndex(index);
-    else
+    using Flag = QItemSelectionModel::SelectionFlag;
+    if (!index.isValid()) {
         selectionModel()->clear();
+    } else {
+        selectionModel()->select(index, Flag::ClearAndSelect);
+        // To go to a row in a folded section would unfold it.
+        selectionModel()->setCurrentIndex(isExpanded(index.parent()) ? index : index.parent(),
+                                          Flag::NoUpdate);
+    }
     m_isRestoring = false;
 }
 
@@ -148,17 +102,236 @@ void Sidebar::followSelection()
     Q_EMIT paneSelected();
 }
 
+QIcon Sidebar::sourceIcon(const Source &source, qreal devicePixelRatio) const
+{
+    if (const std::optional<QImage> image = m_services.opener.icon(source.kind, devicePixelRatio))
+        return QIcon(QPixmap::fromImage(*image));
+    return symbolIcon(u"globe"_s, Look::of(*this).sidebar.ink);
+}
+
+bool Sidebar::isSection(const QModelIndex &index) const
+{
+    return index.isValid() && !m_model->pane(index);
+}
+
+void Sidebar::setFolded(const QModelIndex &section, bool isFolded)
+{
+    if (isFolded && currentIndex().parent() == section)
+        selectionModel()->setCurrentIndex(section, QItemSelectionModel::NoUpdate);
+    setExpanded(section, !isFolded);
+}
+
+void Sidebar::storeFolded(const QModelIndex &section, bool isFolded)
+{
+    if (m_isRestoring)
+        return;
+    // Sources that are switched off at present keep what they were.
+    QStringList ids = m_services.defaults.stringList(foldedKey).value_or(QStringList());
+    ids.removeAll(m_model->sectionID(section));
+    if (isFolded)
+        ids.append(m_model->sectionID(section));
+    m_services.defaults.setStringList(foldedKey, ids);
+}
+
+void Sidebar::restoreFolded()
+{
+    const bool wasRestoring = std::exchange(m_isRestoring, true);
+    const QStringList ids = m_services.defaults.stringList(foldedKey).value_or(QStringList());
+    for (int number = 0; number < m_model->rowCount(); ++number) {
+        const QModelIndex section = m_model->index(number, 0);
+        setExpanded(section, !ids.contains(m_model->sectionID(section)));
+    }
+    m_isRestoring = wasRestoring;
+}
+
 QModelIndex Sidebar::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
 {
-    const QModelIndex index = QListView::moveCursor(action, modifiers);
-    // A heading is no place to go to, but there is always a row under it.
-    return m_model->pane(index) ? index : index.siblingAtRow(index.row() + 1);
+    QModelIndex index = QTreeView::moveCursor(action, modifiers);
+    const bool isUpwards = action == MoveUp || action == MovePrevious;
+    // An open section is no place to go to, but a folded one can be opened.
+    while (isSection(index) && isExpanded(index)) {
+        index = isUpwards ? indexAbove(index) : indexBelow(index);
+        if (!index.isValid())
+            return currentIndex();
+    }
+    return index;
+}
+
+QItemSelectionModel::SelectionFlags Sidebar::selectionCommand(const QModelIndex &index,
+                                                              const QEvent *event) const
+{
+    // What is shown stays selected while somebody is at a section.
+    return isSection(index) ? QItemSelectionModel::NoUpdate : QTreeView::selectionCommand(index, event);
+}
+
+bool Sidebar::event(QEvent *event)
+{
+    if (event->type() == QEvent::ShortcutOverride && m_dropTarget &&
+        static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape)
+        event->accept();
+    return QTreeView::event(event);
+}
+
+bool Sidebar::viewportEvent(QEvent *event)
+{
+    const bool isMoving = event->type() == QEvent::HoverEnter || event->type() == QEvent::HoverMove;
+    if (isMoving || event->type() == QEvent::HoverLeave) {
+        const QModelIndex hovered =
+            isMoving ? indexAt(static_cast<QHoverEvent *>(event)->position().toPoint()) : QModelIndex();
+        if (hovered != m_hovered) {
+            m_hovered = hovered;
+            viewport()->update();
+        }
+    }
+    return QTreeView::viewportEvent(event);
+}
+
+void Sidebar::keyPressEvent(QKeyEvent *event)
+{
+    if (!m_isByKeyboard) {
+        m_isByKeyboard = true;
+        viewport()->update();
+    }
+    const QModelIndex current = currentIndex();
+    const QModelIndex section = isSection(current) ? current : current.parent();
+    const bool isMirrored = isRightToLeft();
+    const auto move = [this](CursorAction action) {
+        const QModelIndex target = moveCursor(action, Qt::NoModifier);
+        if (target.isValid())
+            selectionModel()->setCurrentIndex(target, selectionCommand(target, nullptr));
+    };
+    switch (event->key()) {
+    case Qt::Key_Escape:
+        if (m_dropTarget)
+            endDragging();
+        else
+            event->ignore();
+        return;
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+        if (section.isValid())
+            setFolded(section, (event->key() == Qt::Key_Left) != isMirrored);
+        return;
+    case Qt::Key_Space:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (isSection(current))
+            setFolded(current, isExpanded(current));
+        else
+            Q_EMIT rowChosen();
+        return;
+    case Qt::Key_Up:
+        return move(MoveUp);
+    case Qt::Key_Down:
+        return move(MoveDown);
+    default:
+        QTreeView::keyPressEvent(event);
+    }
+}
+
+void Sidebar::focusInEvent(QFocusEvent *event)
+{
+    using Reason = Qt::FocusReason;
+    const Reason reason = event->reason();
+    if (reason == Reason::TabFocusReason || reason == Reason::BacktabFocusReason ||
+        reason == Reason::ShortcutFocusReason)
+        m_isByKeyboard = true;
+    QTreeView::focusInEvent(event);
+}
+
+void Sidebar::focusOutEvent(QFocusEvent *event)
+{
+    endDragging();
+    QTreeView::focusOutEvent(event);
 }
 
 void Sidebar::mousePressEvent(QMouseEvent *event)
 {
-    if (event->button() == Qt::LeftButton)
-        QListView::mousePressEvent(event);
+    m_isByKeyboard = false;
+    if (event->button() == Qt::LeftButton) {
+        m_pressed = indexAt(event->position().toPoint());
+        m_pressedAt = event->position().toPoint();
+    }
+    viewport()->update();
+}
+
+void Sidebar::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    // Two clicks on a section fold and unfold it, however fast they come.
+    mousePressEvent(event);
+}
+
+void Sidebar::mouseMoveEvent(QMouseEvent *event)
+{
+    const QPoint place = event->position().toPoint();
+    const bool isSource = m_pressed.isValid() && m_model->source(m_pressed).has_value();
+    if (!isSource || !event->buttons().testFlag(Qt::LeftButton)) {
+        QTreeView::mouseMoveEvent(event);
+        return;
+    }
+    if (!m_dropTarget && (place - m_pressedAt).manhattanLength() < QApplication::startDragDistance())
+        return;
+    viewport()->setCursor(Qt::ClosedHandCursor);
+    m_dropTarget = dropTarget(place.y());
+    viewport()->update();
+}
+
+void Sidebar::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton)
+        return;
+    const QPersistentModelIndex pressed = m_pressed;
+    const std::optional<int> target = m_dropTarget;
+    endDragging();
+    if (!pressed.isValid())
+        return;
+    if (target)
+        drop(pressed, *target);
+    else if (indexAt(event->position().toPoint()) != pressed)
+        return;
+    else if (isSection(pressed))
+        setFolded(pressed, isExpanded(pressed));
+    else {
+        setCurrentIndex(pressed);
+        Q_EMIT rowChosen();
+    }
+}
+
+int Sidebar::dropTarget(int y) const
+{
+    // A section with its rows is one thing; above its middle means before it.
+    for (int number = 1; number < m_model->rowCount(); ++number) {
+        const QModelIndex section = m_model->index(number, 0);
+        const QModelIndex last = m_model->index(m_model->rowCount(section) - 1, 0, section);
+        const QRect whole = visualRect(section) | (isExpanded(section) ? visualRect(last) : QRect());
+        if (y < whole.center().y())
+            return number;
+    }
+    return m_model->rowCount();
+}
+
+void Sidebar::drop(const QModelIndex &section, int target)
+{
+    // The order is of all profiles, also of those that are switched off and not seen here.
+    const QList<Source> all = m_services.library.ordered(m_services.library.snapshot().browserProfiles);
+    const auto offset = [&all, this](int number) {
+        const QString id = m_model->sectionID(m_model->index(number, 0));
+        return std::ranges::find(all, id, &Source::id) - all.begin();
+    };
+    if (target == section.row() || target == section.row() + 1)
+        return;
+    const qsizetype destination = target < m_model->rowCount() ? offset(target) : offset(target - 1) + 1;
+    m_services.library.moveProfiles({offset(section.row())}, destination);
+}
+
+void Sidebar::endDragging()
+{
+    m_pressed = QPersistentModelIndex();
+    if (!m_dropTarget)
+        return;
+    m_dropTarget.reset();
+    viewport()->unsetCursor();
+    viewport()->update();
 }
 
 void Sidebar::contextMenuEvent(QContextMenuEvent *event)
@@ -172,27 +345,62 @@ void Sidebar::contextMenuEvent(QContextMenuEvent *event)
     auto *menu = new QMenu(this);
     menu->setObjectName(u"sidebarMenu"_s);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    QAction *action = menu->addAction(u"Export Bookmarks…"_s);
-    action->setEnabled(PaneText::hasBookmarks(sourceID, m_library.snapshot()));
+    QAction *action = menu->addAction(tr("Export Bookmarks…"));
+    action->setEnabled(PaneText::hasBookmarks(sourceID, m_services.library.snapshot()));
     connect(action, &QAction::triggered, this, [this, sourceID] { Q_EMIT exportRequested(sourceID); });
     menu->popup(isByKeyboard ? viewport()->mapToGlobal(visualRect(index).bottomLeft()) : event->globalPos());
 }
 
+void Sidebar::paintEvent(QPaintEvent *event)
+{
+    QTreeView::paintEvent(event);
+    if (!m_dropTarget)
+        return;
+    const bool isLast = *m_dropTarget == m_model->rowCount();
+    QModelIndex next = m_model->index(isLast ? *m_dropTarget - 1 : *m_dropTarget, 0);
+    if (isLast && isExpanded(next))
+        next = m_model->index(m_model->rowCount(next) - 1, 0, next);
+    const Look look = Look::of(*this);
+    const QRect row = visualRect(next);
+    const int y = isLast ? row.bottom() : row.top() + (look.measures.gapAroundGroups / 2);
+    const int margin = look.measures.gapAroundGroups;
+    QPainter(viewport())
+        .fillRect(QRect(margin, y, viewport()->width() - (2 * margin), Measures::focusRingWidth),
+                  look.accent);
+}
+
+void Sidebar::drawRow(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
+{
+    // Not by the style, whose selection goes from edge to edge.
+    QStyleOptionViewItem row(option);
+    row.widget = this;
+    row.rect = QRect(0, option.rect.top(), viewport()->width(), option.rect.height());
+    const bool hasRing = hasFocus() && m_isByKeyboard && index == currentIndex();
+    row.state.setFlag(QStyle::State_Selected, selectionModel()->isSelected(index));
+    row.state.setFlag(QStyle::State_MouseOver, index == m_hovered);
+    row.state.setFlag(QStyle::State_Open, isExpanded(index));
+    row.state.setFlag(QStyle::State_HasFocus, hasRing);
+    itemDelegate()->paint(painter, row, index);
+}
+
 void Sidebar::updateColors()
 {
-    setPaletteColor(*viewport(), QPalette::Window, Look::of(*this).sidebar.base);
+    const QColor base = Look::of(*this).sidebar.base;
+    setPaletteColor(*viewport(), QPalette::Window, base);
 }
 
 void Sidebar::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::PaletteChange)
         updateColors();
-    QListView::changeEvent(event);
+    QTreeView::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        scheduleDelayedItemsLayout();
 }
 
 QSize Sidebar::sizeHint() const
 {
-    return {idealWidthOfColumn, QListView::sizeHint().height()};
+    return {Measures(font()).sidebarWidth, QTreeView::sizeHint().height()};
 }
 
 } // namespace roamlet

@@ -3,44 +3,107 @@
 
 #include "App/Window/SidebarModel.h"
 
-#include "App/Look/Symbol.h"
 #include "App/Tables/CellText.h"
 #include "Library/Library.h"
+
+#include <utility>
 
 namespace roamlet
 {
 
 using namespace Qt::StringLiterals;
 
+namespace
+{
+
+/// The internal id of sections. Rows have the number of their section.
+constexpr quintptr ofSection = ~quintptr(0);
+
+} // namespace
+
 SidebarModel::SidebarModel(const Library &library, QObject *parent)
-    : QAbstractListModel(parent), m_library(library), m_entries(entries())
+    : QAbstractItemModel(parent), m_library(library), m_sections(sections())
 {
     connect(&library, &Library::snapshotChanged, this, &SidebarModel::update);
     connect(&library, &Library::sourceOrderChanged, this, &SidebarModel::update);
 }
 
+QModelIndex SidebarModel::index(int row, int column, const QModelIndex &parent) const
+{
+    if (!hasIndex(row, column, parent))
+        return {};
+    return createIndex(row, column, parent.isValid() ? static_cast<quintptr>(parent.row()) : ofSection);
+}
+
+QModelIndex SidebarModel::parent(const QModelIndex &index) const
+{
+    if (!index.isValid() || index.internalId() == ofSection)
+        return {};
+    return createIndex(static_cast<int>(index.internalId()), 0, ofSection);
+}
+
 int SidebarModel::rowCount(const QModelIndex &parent) const
 {
-    return parent.isValid() ? 0 : static_cast<int>(m_entries.size());
+    if (!parent.isValid())
+        return static_cast<int>(m_sections.size());
+    return parent.internalId() == ofSection ? static_cast<int>(m_sections[parent.row()].rows.size()) : 0;
+}
+
+int SidebarModel::columnCount(const QModelIndex & /*parent*/) const
+{
+    return 1;
+}
+
+const SidebarModel::Section *SidebarModel::section(const QModelIndex &index) const
+{
+    const bool isSection = index.isValid() && index.internalId() == ofSection;
+    return isSection && index.row() < m_sections.size() ? &m_sections[index.row()] : nullptr;
+}
+
+const SidebarModel::Row *SidebarModel::row(const QModelIndex &index) const
+{
+    const Section *around = section(parent(index));
+    return around != nullptr && index.row() < around->rows.size() ? &around->rows[index.row()] : nullptr;
+}
+
+QString SidebarModel::problem(const Section &section) const
+{
+    return section.source ? m_library.snapshot().problems.value(section.source->id()) : QString();
 }
 
 QVariant SidebarModel::data(const QModelIndex &index, int role) const
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+    if (const Section *heading = section(index)) {
+        switch (role) {
+        case Qt::DisplayRole:
+        case Qt::AccessibleTextRole:
+            return heading->text;
+        case Qt::ToolTipRole: {
+            const QString wrong = problem(*heading);
+            return CellText::toolTip(wrong.isEmpty() ? QStringList{heading->text} : wrong.split(u'\n'));
+        }
+        case Qt::AccessibleDescriptionRole:
+        case ProblemRole:
+            return problem(*heading);
+        case IsHeadingRole:
+            return true;
+        default:
+            return {};
+        }
+    }
+    const Row *entry = row(index);
+    if (entry == nullptr)
         return {};
-    const Entry &entry = m_entries[index.row()];
     switch (role) {
     case Qt::DisplayRole:
-        return entry.text;
-    case Qt::ToolTipRole:
-        return entry.pane ? QVariant() : QVariant(CellText::toolTip({entry.text}));
-    case Qt::DecorationRole:
-        return entry.symbol.isEmpty() ? QVariant() : QVariant(symbolIcon(entry.symbol));
+        return entry->text;
     case Qt::AccessibleTextRole:
         // Several sources have a "History": by itself it does not say whose.
-        return entry.pane ? QString(entry.heading % u": " % entry.text) : entry.text;
+        return QString(section(parent(index))->text % u": " % entry->text);
+    case SymbolRole:
+        return entry->symbol;
     case IsHeadingRole:
-        return !entry.pane;
+        return false;
     default:
         return {};
     }
@@ -48,54 +111,70 @@ QVariant SidebarModel::data(const QModelIndex &index, int role) const
 
 Qt::ItemFlags SidebarModel::flags(const QModelIndex &index) const
 {
-    if (!pane(index))
-        return Qt::NoItemFlags;
-    return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
+    if (section(index) != nullptr)
+        return Qt::ItemIsEnabled;
+    return row(index) != nullptr ? Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren
+                                 : Qt::NoItemFlags;
 }
 
 std::optional<Pane> SidebarModel::pane(const QModelIndex &index) const
 {
-    return index.isValid() && index.row() < m_entries.size() ? m_entries[index.row()].pane : std::nullopt;
+    const Row *entry = row(index);
+    return entry != nullptr ? std::optional(entry->pane) : std::nullopt;
 }
 
 QModelIndex SidebarModel::indexOf(const Pane &pane) const
 {
-    for (qsizetype row = 0; row < m_entries.size(); ++row) {
-        if (m_entries[row].pane == pane)
-            return index(static_cast<int>(row));
+    for (int number = 0; number < rowCount(); ++number) {
+        const QList<Row> &rows = m_sections[number].rows;
+        for (int row = 0; row < rows.size(); ++row) {
+            if (rows[row].pane == pane)
+                return index(row, 0, index(number, 0));
+        }
     }
     return {};
 }
 
-QList<SidebarModel::Entry> SidebarModel::entries() const
+QString SidebarModel::sectionID(const QModelIndex &index) const
 {
-    QList<Entry> result;
-    const auto addHeading = [&result](const QString &text) {
-        result.append({.text = text, .symbol = {}, .pane = {}, .heading = text});
-    };
-    const auto addRow = [&result](const QString &text, const QString &symbol, const Pane &pane) {
-        result.append({.text = text, .symbol = symbol, .pane = pane, .heading = result.last().heading});
-    };
-    addHeading(u"Library"_s);
-    addRow(u"Recent History"_s, u"clock"_s, HistoryPane());
-    addRow(u"Most Visited"_s, u"chart.bar"_s, MostVisitedPane());
-    addRow(u"All Bookmarks"_s, u"bookmark"_s, BookmarksPane());
+    const Section *heading = section(index);
+    if (heading == nullptr)
+        return {};
+    return heading->source ? heading->source->id() : u"library"_s;
+}
+
+std::optional<Source> SidebarModel::source(const QModelIndex &section) const
+{
+    const Section *heading = this->section(section);
+    return heading != nullptr ? heading->source : std::nullopt;
+}
+
+QList<SidebarModel::Section> SidebarModel::sections() const
+{
+    QList<Section> result{{.text = tr("Library"),
+                           .source = {},
+                           .rows = {{tr("Recent History"), u"clock"_s, HistoryPane()},
+                                    {tr("Most Visited"), u"chart.bar"_s, MostVisitedPane()},
+                                    {tr("All Bookmarks"), u"bookmark"_s, BookmarksPane()}}}};
     for (const Source &source : m_library.ordered(m_library.snapshot().sources)) {
-        addHeading(CellText::oneLine(source.label()));
-        addRow(u"History"_s, u"clock"_s, HistoryPane{source.id()});
-        addRow(u"Bookmarks"_s, u"bookmark"_s, BookmarksPane{source.id()});
+        result.append({.text = CellText::oneLine(source.label()),
+                       .source = source,
+                       .rows = {{tr("History"), u"clock"_s, HistoryPane{source.id()}},
+                                {tr("Bookmarks"), u"bookmark"_s, BookmarksPane{source.id()}}}});
     }
     return result;
 }
 
 void SidebarModel::update()
 {
-    QList<Entry> updated = entries();
+    QList<Section> updated = sections();
     // Most reloads change no source, and then nothing in the sidebar moves.
-    if (updated == m_entries)
+    if (updated == m_sections) {
+        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, 0));
         return;
+    }
     beginResetModel();
-    m_entries = std::move(updated);
+    m_sections = std::move(updated);
     endResetModel();
 }
 

@@ -1,0 +1,157 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "App/Window/SidebarDelegate.h"
+
+#include "App/Look/Look.h"
+#include "App/Look/Symbol.h"
+#include "App/Window/SidebarModel.h"
+
+#include <QPainter>
+
+#include <utility>
+
+namespace roamlet
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+/// Above the first section. In heights of a line, as all others.
+constexpr double topMargin = 0.5;
+
+int gapAbove(const Measures &measures, const QModelIndex &section)
+{
+    return section.row() == 0 ? measures.units(topMargin) : measures.gapAroundGroups;
+}
+
+/// What is drawn into one row, from its start to its end.
+class RowPainter
+{
+public:
+    RowPainter(QPainter &painter, const QStyleOptionViewItem &option, const Measures &measures, int gap)
+        : m_painter(painter),
+          m_option(option),
+          m_measures(measures),
+          m_body(option.rect.adjusted(measures.gapAroundGroups, gap, -measures.gapAroundGroups, 0)),
+          m_start(m_body.left() + measures.gapAroundGroups),
+          m_end(m_body.right() + 1 - measures.gapAroundGroups)
+    {
+    }
+
+    const QRect &body() const { return m_body; }
+
+    void addIcon(const QIcon &icon)
+    {
+        icon.paint(&m_painter, iconPlace(m_start));
+        m_start += m_measures.iconSide + m_measures.gapAfterIcon;
+    }
+    void addIconAtEnd(const QIcon &icon)
+    {
+        icon.paint(&m_painter, iconPlace(m_end - m_measures.iconSide));
+        m_end -= m_measures.iconSide + m_measures.gapAfterIcon;
+    }
+    void addText(const QString &text)
+    {
+        const QRect place(m_start, m_body.top(), m_end - m_start, m_body.height());
+        const auto alignment = QStyle::visualAlignment(m_option.direction, Qt::AlignLeft | Qt::AlignVCenter);
+        m_painter.drawText(QStyle::visualRect(m_option.direction, m_option.rect, place),
+                           static_cast<int>(alignment) | Qt::TextSingleLine,
+                           m_painter.fontMetrics().elidedText(text, Qt::ElideRight, place.width()));
+    }
+
+private:
+    QRect iconPlace(int left) const
+    {
+        const int side = m_measures.iconSide;
+        const QRect place(left, m_body.top() + ((m_body.height() - side) / 2), side, side);
+        return QStyle::visualRect(m_option.direction, m_option.rect, place);
+    }
+
+    QPainter &m_painter;
+    const QStyleOptionViewItem &m_option;
+    const Measures &m_measures;
+    QRect m_body;
+    int m_start;
+    int m_end;
+};
+
+} // namespace
+
+SidebarDelegate::SidebarDelegate(SourceIcon sourceIcon, QObject *parent)
+    : QStyledItemDelegate(parent), m_sourceIcon(std::move(sourceIcon))
+{
+}
+
+QSize SidebarDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const
+{
+    const Measures measures(option.font);
+    const bool isHeading = index.data(SidebarModel::IsHeadingRole).toBool();
+    return {0, measures.sidebarRowHeight + (isHeading ? gapAbove(measures, index) : 0)};
+}
+
+void SidebarDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
+                            const QModelIndex &index) const
+{
+    const Look look = Look::of(*option.widget);
+    const RowGround &sidebar = look.sidebar;
+    const bool isHeading = index.data(SidebarModel::IsHeadingRole).toBool();
+    const bool isSelected = option.state.testFlag(QStyle::State_Selected);
+    // Not State_Active, which a view only sets while it has the keyboard.
+    const bool isActive = option.widget->isActiveWindow();
+    const Ground &ground = !isSelected ? static_cast<const Ground &>(sidebar)
+                           : isActive  ? sidebar.selected
+                                       : sidebar.selectedInactive;
+    const bool isHovered = option.state.testFlag(QStyle::State_MouseOver);
+    RowPainter row(*painter, option, look.measures, isHeading ? gapAbove(look.measures, index) : 0);
+
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    const int radius = look.measures.rowRadius;
+    if (isSelected || (isHovered && !isHeading)) {
+        painter->setPen(Qt::NoPen);
+        painter->setBrush(isSelected ? ground.base : sidebar.hover);
+        painter->drawRoundedRect(row.body(), radius, radius);
+    }
+    if (option.state.testFlag(QStyle::State_HasFocus)) {
+        // The ring tells that the arrow keys move this selection and no other.
+        constexpr qreal half = Measures::focusRingWidth / 2.0;
+        painter->setPen(QPen(look.accent, Measures::focusRingWidth));
+        painter->setBrush(Qt::NoBrush);
+        painter->drawRoundedRect(QRectF(row.body()).adjusted(half, half, -half, -half), radius, radius);
+    }
+
+    painter->setPen(ground.ink);
+    if (isHeading) {
+        const auto *model = qobject_cast<const SidebarModel *>(index.model());
+        const std::optional<Source> source = model != nullptr ? model->source(index) : std::nullopt;
+        QFont font = source ? look.headingFont : look.smallFont;
+        font.setBold(true);
+        painter->setFont(font);
+        if (source)
+            row.addIcon(m_sourceIcon(*source, painter->device()->devicePixelRatioF()));
+        else
+            painter->setPen(sidebar.quiet);
+        if (!index.data(SidebarModel::ProblemRole).toString().isEmpty())
+            row.addIconAtEnd(symbolIcon(u"exclamationmark.triangle"_s, look.warningMark));
+        const bool isOpen = option.state.testFlag(QStyle::State_Open);
+        if (!isOpen || isHovered) {
+            const bool isMirrored = option.direction == Qt::RightToLeft;
+            const QString folded = isMirrored ? u"chevron.backward"_s : u"chevron.forward"_s;
+            row.addIconAtEnd(symbolIcon(isOpen ? u"chevron.down"_s : folded, sidebar.quiet));
+        }
+    } else {
+        painter->setFont(option.font);
+        const QColor color = !isSelected ? sidebar.quiet : isActive ? look.accent : ground.ink;
+        // Where the selection is the theme's highlight itself, the accent would not be seen on it.
+        const bool isShade = ground.ink == sidebar.ink;
+        row.addIcon(
+            symbolIcon(index.data(SidebarModel::SymbolRole).toString(), isShade ? color : ground.ink));
+    }
+    row.addText(index.data(Qt::DisplayRole).toString());
+    painter->restore();
+}
+
+} // namespace roamlet
