@@ -21,9 +21,11 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QScreen>
 #include <QSet>
 #include <QTest>
 #include <QTimer>
+#include <QToolButton>
 #include <QTreeView>
 
 namespace roamlet::testing
@@ -191,14 +193,14 @@ TEST_F(MainWindowTest, theHeadersMenuHoldsWhatTheMenuBarHolds)
     window->open();
     const QList<QAction *> inBar = commandsIn(*window->menuBar());
     const QList<QAction *> inMenu = commandsIn(*window->findChild<QMenu *>(u"mainMenu"_s));
-    EXPECT_EQ(inBar.size(), 11);
+    EXPECT_EQ(inBar.size(), 12);
     EXPECT_EQ(QSet<QAction *>(inMenu.begin(), inMenu.end()), QSet<QAction *>(inBar.begin(), inBar.end()));
     EXPECT_EQ(inMenu.size(), inBar.size());
     QStringList texts;
     for (const QAction *command : inMenu)
         texts.append(command->text() + u' ' + command->shortcut().toString());
     EXPECT_EQ(texts, (QStringList{u"Export Bookmarks… "_s, u"Find Ctrl+F"_s, u"Reload Ctrl+R"_s,
-                                  u"Group By "_s, u"Settings… Ctrl+,"_s, u"Wider Sidebar "_s,
+                                  u"Group By "_s, u"Settings… Ctrl+,"_s, u"Sidebar F9"_s, u"Wider Sidebar "_s,
                                   u"Narrower Sidebar "_s, u"Menu Bar Ctrl+M"_s, u"About Roamlet "_s,
                                   u"Close Window "_s + QKeySequence(QKeySequence::Close).toString(),
                                   u"Quit Roamlet Ctrl+Q"_s}));
@@ -264,6 +266,85 @@ TEST_F(MainWindowTest, theMenuResizesTheSidebar)
     for (int i = 0; i < 50; ++i)
         window->findChild<QAction *>(u"narrowerSidebarCommand"_s)->trigger();
     EXPECT_EQ(window->content()->sizes().first(), Sidebar::minimumWidthOfColumn);
+}
+
+TEST_F(MainWindowTest, theSidebarIsHiddenAndShownAndStaysSo)
+{
+    addChromium();
+    loadNow(*library);
+    {
+        const auto window = makeWindow();
+        window->open();
+        window->activateWindow();
+        ASSERT_TRUE(waitUntil([&window] { return window->isActiveWindow(); }));
+        const auto *sidebar = part<QWidget>(*window, u"sidebar"_s);
+        auto *button = part<QToolButton>(*window, u"sidebarButton"_s);
+        const auto *command = window->findChild<QAction *>(u"sidebarCommand"_s);
+        EXPECT_TRUE(sidebar->isVisible());
+        EXPECT_FALSE(button->isVisible());
+        EXPECT_TRUE(command->isChecked());
+        QTest::keyClick(window.get(), Qt::Key_F9);
+        EXPECT_FALSE(sidebar->isVisible());
+        EXPECT_FALSE(command->isChecked());
+        ASSERT_TRUE(button->isVisible());
+        QTest::mouseClick(button, Qt::LeftButton);
+        EXPECT_TRUE(sidebar->isVisible());
+        EXPECT_FALSE(button->isVisible());
+        EXPECT_TRUE(command->isChecked());
+        QTest::keyClick(window.get(), Qt::Key_F9);
+        window->close();
+    }
+    const auto window = makeWindow();
+    window->open();
+    EXPECT_FALSE(part<QWidget>(*window, u"sidebar"_s)->isVisible());
+    EXPECT_TRUE(part<QWidget>(*window, u"sidebarButton"_s)->isVisible());
+}
+
+TEST_F(MainWindowTest, besideANarrowListTheSidebarOpensOverItAndGoesWithAChoice)
+{
+    addChromium();
+    loadNow(*library);
+    QFont font = QApplication::font();
+    font.setPixelSize(24);
+    const auto window = makeWindow();
+    window->setFont(font);
+    window->resize(820, 600);
+    window->open();
+    window->activateWindow();
+    ASSERT_TRUE(waitUntil([&window] { return window->isActiveWindow(); }));
+    auto *sidebar = part<Sidebar>(*window, u"sidebar"_s);
+    const auto *list = part<QWidget>(*window, u"historyTable"_s);
+    ASSERT_FALSE(sidebar->isVisible());
+    EXPECT_EQ(home.defaults.boolean(u"sidebar.hidden"_s), std::nullopt);
+    const int width = list->width();
+    QTest::mouseClick(part<QToolButton>(*window, u"sidebarButton"_s), Qt::LeftButton);
+    ASSERT_TRUE(sidebar->isVisible());
+    EXPECT_TRUE(sidebar->hasFocus());
+    EXPECT_EQ(list->width(), width);
+    EXPECT_EQ(sidebar->mapTo(window.get(), QPoint()).x(), 0);
+    QTest::mouseClick(
+        sidebar->viewport(), Qt::LeftButton, {},
+        sidebar->visualRect(sidebar->model()->index(1, 0, sidebar->model()->index(0, 0))).center());
+    EXPECT_FALSE(sidebar->isVisible());
+    EXPECT_EQ(window->content()->pane(), std::optional<Pane>(MostVisitedPane()));
+    QTest::keyClick(window.get(), Qt::Key_F9);
+    ASSERT_TRUE(sidebar->isVisible());
+    QTest::keyClick(sidebar, Qt::Key_Escape);
+    EXPECT_TRUE(waitUntil([sidebar] { return !sidebar->isVisible(); }));
+    // With room for both it stands beside the list again.
+    window->resize(1600, 600);
+    EXPECT_TRUE(sidebar->isVisible());
+    const auto *shown = part<QWidget>(*window, u"mostVisitedTable"_s);
+    EXPECT_TRUE(waitUntil([&] { return shown->mapTo(window.get(), QPoint()).x() >= sidebar->width(); }));
+}
+
+TEST_F(MainWindowTest, theFirstWindowIsNoLargerThanTheScreen)
+{
+    const auto window = makeWindow();
+    // Where the screen is smaller than what the content needs, nothing can be done.
+    const QSize screen = window->screen()->availableSize().expandedTo(window->minimumSize());
+    EXPECT_LE(window->width(), screen.width());
+    EXPECT_LT(window->height(), screen.height());
 }
 
 TEST_F(MainWindowTest, aStoredPlaceThatIsNoneIsPassedOver)

@@ -11,6 +11,7 @@
 #include "App/Window/EmptyState.h"
 #include "App/Window/FullDiskAccessBanner.h"
 #include "App/Window/Sidebar.h"
+#include "App/Window/SidebarPlace.h"
 #include "App/Window/SiteFilterBar.h"
 #include "Library/Library.h"
 #include "Lists/Refine.h"
@@ -86,6 +87,7 @@ ContentView::ContentView(const WindowServices &services, QWidget *parent)
     : QSplitter(Qt::Horizontal, parent),
       m_services(services),
       m_sidebar(new Sidebar(services, this)),
+      m_sidebarPlace(new SidebarPlace(*m_sidebar, services.defaults, this)),
       m_header(new DetailHeader(this)),
       m_lists(new QStackedWidget(this))
 {
@@ -100,8 +102,10 @@ ContentView::ContentView(const WindowServices &services, QWidget *parent)
                            std::ranges::find(choices, grouping) != choices.end() ? grouping : Grouping::None);
     }
 
-    addWidget(m_sidebar);
-    addWidget(makeDetail());
+    addWidget(m_sidebarPlace);
+    QWidget *detail = makeDetail();
+    m_sidebarPlace->setList(detail);
+    addWidget(detail);
     setStretchFactor(0, 0);
     setStretchFactor(1, 1);
     setSizes({m_sidebar->sizeHint().width(), 1000});
@@ -110,6 +114,13 @@ ContentView::ContentView(const WindowServices &services, QWidget *parent)
     connect(m_sidebar, &Sidebar::exportRequested, this, [this](const std::optional<QString> &sourceID) {
         Q_EMIT exportRequested({.sourceID = sourceID});
     });
+    const auto followSidebar = [this] {
+        m_header->setSidebarButtonShown(!m_sidebarPlace->isBeside());
+        Q_EMIT sidebarShownChanged();
+    };
+    connect(m_sidebarPlace, &SidebarPlace::changed, this, followSidebar);
+    connect(m_header, &DetailHeader::sidebarRequested, this, [this] { setSidebarShown(true); });
+    followSidebar();
     connect(m_header, &DetailHeader::searchExpected, &services.library, &Library::expectSearch);
     connect(m_header, &DetailHeader::searchChanged, this, [this](const QString &text) {
         m_list.search = text;
@@ -309,8 +320,26 @@ void ContentView::reload()
     m_services.library.load({});
 }
 
+bool ContentView::isSidebarShown() const
+{
+    return m_sidebarPlace->isShown();
+}
+
+void ContentView::setSidebarShown(bool isShown)
+{
+    m_sidebarPlace->setShown(isShown);
+}
+
+void ContentView::resizeEvent(QResizeEvent *event)
+{
+    QSplitter::resizeEvent(event);
+    m_sidebarPlace->setRoom(width());
+}
+
 void ContentView::widenSidebar(int pixels)
 {
+    if (!m_sidebarPlace->isBeside())
+        return;
     const QList<int> widths = sizes();
     setSizes({widths[0] + pixels, widths[1] - pixels});
 }

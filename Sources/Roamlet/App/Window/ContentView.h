@@ -27,6 +27,7 @@ class DetailHeader;
 class EmptyState;
 class FullDiskAccessBanner;
 class Sidebar;
+class SidebarPlace;
 class SiteFilterBar;
 
 /// The content of the main window: the sidebar, and the list that is chosen there with what belongs to it.
@@ -48,6 +49,9 @@ public:
     void setSite(const std::optional<QString> &site);
     /// Reloads everything and shows that it is under way.
     void reload();
+    bool isSidebarShown() const;
+    /// Shows it or hides it, as the user wants.
+    void setSidebarShown(bool isShown);
     /// Makes the sidebar wider by so many pixels, or narrower.
     void widenSidebar(int pixels);
     /// To the search field, with its text selected.
@@ -66,6 +70,7 @@ Q_SIGNALS:
     /// The chosen list has come.
     void listShown();
     void titleChanged(const QString &title);
+    void sidebarShownChanged();
     /// exportAction() may have become another one.
     void exportActionChanged();
     /// The sheet shall be shown.
@@ -73,6 +78,7 @@ Q_SIGNALS:
 
 protected:
     QSplitterHandle *createHandle() override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     QWidget *makeDetail();
@@ -107,6 +113,7 @@ private:
     QMap<GroupedList, Grouping> m_groupings;
 
     Sidebar *m_sidebar;
+    SidebarPlace *m_sidebarPlace;
     DetailHeader *m_header;
     QVBoxLayout *m_column = nullptr;
     FullDiskAccessBanner *m_accessBanner = nullptr;

@@ -17,7 +17,9 @@
 #include <QCloseEvent>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QScreen>
 #include <QShortcut>
+#include <QStyle>
 
 namespace roamlet
 {
@@ -94,6 +96,12 @@ void MainWindow::setUpCommands()
     const auto updateReload = [&reload, library] { reload.setEnabled(!library->isLoading()); };
     connect(library, &Library::isLoadingChanged, this, updateReload);
     updateReload();
+    QAction &sidebar = m_commands->action(ID::Sidebar);
+    m_commands->onTriggered(ID::Sidebar,
+                            [this, &sidebar] { m_content->setSidebarShown(sidebar.isChecked()); });
+    const auto followSidebar = [this, &sidebar] { sidebar.setChecked(m_content->isSidebarShown()); };
+    connect(m_content, &ContentView::sidebarShownChanged, this, followSidebar);
+    followSidebar();
     constexpr int step = 30;
     m_commands->onTriggered(ID::WiderSidebar, [this] { m_content->widenSidebar(step); });
     m_commands->onTriggered(ID::NarrowerSidebar, [this] { m_content->widenSidebar(-step); });
@@ -109,10 +117,11 @@ void MainWindow::setUpCommands()
         });
     }
     m_commands->onTriggered(ID::About, [this] {
-        QMessageBox::about(this, u"About Roamlet"_s,
-                           u"<h3>Roamlet " ROAMLET_VERSION
-                           "</h3><p>Your history and bookmarks from every browser, in one window. Roamlet "
-                           "never writes to the browsers’ files.</p>"_s);
+        QMessageBox::about(
+            this, tr("About Roamlet"),
+            tr("<h3>Roamlet %1</h3><p>Your history and bookmarks from every browser, in one window. Roamlet "
+               "never writes to the browsers’ files.</p>")
+                .arg(u"" ROAMLET_VERSION ""_s));
     });
     m_commands->fill(*m_content->mainMenu());
     connect(new QShortcut(QKeySequence(Qt::Key_F10), this), &QShortcut::activated, m_content,
@@ -182,7 +191,9 @@ void MainWindow::closeEvent(QCloseEvent *event)
 void MainWindow::restorePlace()
 {
     const UserDefaults &defaults = m_services.content.defaults;
-    resize(usual);
+    // Room for the window's frame, which is not known before it is shown.
+    const int frame = style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this);
+    resize(usual.boundedTo(screen()->availableSize() - QSize(0, frame)));
     if (const std::optional<QByteArray> place = defaults.bytes(placeKey))
         restoreGeometry(*place);
     if (const std::optional<QByteArray> columns = defaults.bytes(columnsKey))

@@ -35,6 +35,8 @@ WindowCommands::WindowCommands(QWidget &window, QMenu &groupings) : QObject(&win
         QAction::PreferencesRole);
     add(ID::Reload, u"reloadCommand"_s, tr("Reload"), QKeySequence(Qt::CTRL | Qt::Key_R));
     m_actions[ID::GroupBy] = groupings.menuAction();
+    add(ID::Sidebar, u"sidebarCommand"_s, tr("Sidebar"), QKeySequence(Qt::Key_F9));
+    action(ID::Sidebar).setCheckable(true);
     add(ID::WiderSidebar, u"widerSidebarCommand"_s, tr("Wider Sidebar"));
     add(ID::NarrowerSidebar, u"narrowerSidebarCommand"_s, tr("Narrower Sidebar"));
     add(ID::MenuBar, u"menuBarCommand"_s, tr("Menu Bar"), QKeySequence(Qt::CTRL | Qt::Key_M));
@@ -60,14 +62,15 @@ void WindowCommands::fill(QMenuBar &bar) const
     };
     addMenu(tr("&File"), {ID::ExportBookmarks}, {ID::CloseWindow, ID::Quit});
     addMenu(tr("&Edit"), {ID::Find}, {ID::Settings});
-    addMenu(tr("&View"), {ID::Reload, ID::GroupBy}, {ID::WiderSidebar, ID::NarrowerSidebar, ID::MenuBar});
+    addMenu(tr("&View"), {ID::Reload, ID::GroupBy},
+            {ID::Sidebar, ID::WiderSidebar, ID::NarrowerSidebar, ID::MenuBar});
     addMenu(tr("&Help"), {ID::CheckForUpdates, ID::About});
 }
 
 void WindowCommands::fill(QMenu &menu) const
 {
     append(menu, {ID::ExportBookmarks, ID::Find, ID::Reload, ID::GroupBy});
-    append(menu, {ID::Settings, ID::WiderSidebar, ID::NarrowerSidebar, ID::MenuBar});
+    append(menu, {ID::Settings, ID::Sidebar, ID::WiderSidebar, ID::NarrowerSidebar, ID::MenuBar});
     append(menu, {ID::CheckForUpdates, ID::About, ID::CloseWindow, ID::Quit});
 }
 

@@ -32,6 +32,7 @@ public:
         Settings,
         Reload,
         GroupBy, ///< a menu of its own
+        Sidebar, ///< checked while the sidebar is shown
         WiderSidebar,
         NarrowerSidebar,
         MenuBar, ///< checked while the menu bar is shown
