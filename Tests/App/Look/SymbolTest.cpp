@@ -121,6 +121,22 @@ TEST_F(SymbolTest, keepsToAColorOfItsOwn)
         EXPECT_EQ(colorOf(imageOf(icon, 64, 1, mode)), orange);
 }
 
+TEST_F(SymbolTest, aThinOneHasLessInk)
+{
+    const auto ink = [](const QImage &image) {
+        int opaque = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x)
+                opaque += image.pixelColor(x, y).alpha() > 127 ? 1 : 0;
+        }
+        return opaque;
+    };
+    const int usual = ink(imageOf(symbolIcon(u"clock"_s, text), 64));
+    const int thin = ink(imageOf(symbolIcon(u"clock"_s, text, SymbolWeight::Thin), 64));
+    EXPECT_GT(thin, usual / 2);
+    EXPECT_LT(thin, usual * 9 / 10);
+}
+
 TEST_F(SymbolTest, isDrawnAnewForAFineScreenAndNotEnlarged)
 {
     const QIcon icon = symbolIcon(u"gearshape"_s);

@@ -5,6 +5,7 @@
 
 #include "App/Look/Contrast.h"
 #include "App/Look/PlainPalette.h"
+#include "App/Window/LoadingRows.h"
 #include "App/Window/ReloadButton.h"
 #include "App/Window/Sidebar.h"
 #include "App/Window/WindowTest.h"
@@ -340,6 +341,107 @@ TEST_F(ContentViewTest, theExportIsThereOnlyWithBookmarks)
     EXPECT_EQ(content->exportAction()->sourceID, u"chrome/Default"_s);
     QTest::mouseClick(part<QWidget>(*content, u"exportButton"_s), Qt::LeftButton);
     EXPECT_EQ(request, ExportRequest{.sourceID = u"chrome/Default"_s});
+}
+
+TEST_F(ContentViewTest, aSearchThatFindsNothingSaysSoAndOffersWaysOut)
+{
+    addChromium();
+    loadNow(*library);
+    const auto content = makeContent();
+    expectSubtitle(*content, u"4 items"_s);
+    EXPECT_FALSE(isShown(*content, u"emptyListPage"_s));
+    auto *field = part<QLineEdit>(*content, u"searchField"_s);
+    content->setSite(u"a1.example"_s);
+    QTest::keyClicks(field, u"zeppelin"_s);
+    expectSubtitle(*content, u"0 items"_s);
+    ASSERT_TRUE(isShown(*content, u"emptyListPage"_s));
+    EXPECT_EQ(shownTexts(*content), QStringList{u"Nothing found for “zeppelin” on a1.example"_s});
+    EXPECT_FALSE(part<QWidget>(*content, u"historyTable"_s)->isEnabled()) << "the Tab key goes past it";
+    EXPECT_FALSE(isShown(*content, u"emptyListReload"_s));
+    QTest::mouseClick(part<QPushButton>(*content, u"emptyListAllSites"_s), Qt::LeftButton);
+    // Until the answer is there, what was said stays.
+    EXPECT_TRUE(isShown(*content, u"emptyListPage"_s));
+    EXPECT_TRUE(waitUntil([&] {
+        home.clock.advance(std::chrono::milliseconds(300));
+        return shownTexts(*content) == QStringList{u"Nothing found for “zeppelin”"_s};
+    }));
+    EXPECT_FALSE(isShown(*content, u"emptyListAllSites"_s));
+    QTest::mouseClick(part<QPushButton>(*content, u"emptyListClearSearch"_s), Qt::LeftButton);
+    EXPECT_EQ(field->text(), u"");
+    expectSubtitle(*content, u"4 items"_s);
+    EXPECT_FALSE(isShown(*content, u"emptyListPage"_s));
+    EXPECT_TRUE(part<QWidget>(*content, u"historyTable"_s)->isEnabled());
+}
+
+TEST_F(ContentViewTest, anotherPaneDoesNotKeepThePageOfTheLast)
+{
+    addChromium();
+    loadNow(*library);
+    const auto content = makeContent();
+    content->setPane(BookmarksPane{u"edge/Default"_s});
+    EXPECT_TRUE(waitUntil([&] { return isShown(*content, u"emptyListPage"_s); }));
+    EXPECT_EQ(shownTexts(*content), QStringList{u"No bookmarks yet"_s});
+    content->setPane(HistoryPane());
+    EXPECT_FALSE(isShown(*content, u"emptyListPage"_s));
+    expectSubtitle(*content, u"4 items"_s);
+    content->setPane(BookmarksPane{u"edge/Default"_s});
+    EXPECT_TRUE(waitUntil([&] { return isShown(*content, u"emptyListPage"_s); }));
+    EXPECT_EQ(shownTexts(*content), QStringList{u"No bookmarks yet"_s});
+}
+
+TEST_F(ContentViewTest, aListThatCouldNotBeReadSaysWhyAndOffersToReadItAgain)
+{
+    addChromium();
+    fail(chromeFile(u"Default/History"_s), std::errc::io_error);
+    loadNow(*library);
+    const auto content = makeContent();
+    content->setPane(HistoryPane{u"chrome/Default"_s});
+    ASSERT_TRUE(waitUntil([&] { return isShown(*content, u"emptyListReload"_s); }));
+    EXPECT_THAT(shownTexts(*content).join(u' ').toStdString(), ::testing::HasSubstr("Input/output error"));
+    EXPECT_THAT(part<QWidget>(*content, u"listSubtitle"_s)->accessibleDescription().toStdString(),
+                ::testing::HasSubstr("Input/output error"));
+    home.files.failure = {};
+    QTest::mouseClick(part<QPushButton>(*content, u"emptyListReload"_s), Qt::LeftButton);
+    expectSubtitle(*content, u"2 items"_s);
+    EXPECT_FALSE(isShown(*content, u"emptyListPage"_s));
+}
+
+TEST_F(ContentViewTest, whatIsReadForTheFirstTimeHasShapesInThePlaceOfRows)
+{
+    addChromium();
+    const auto content = makeContent();
+    auto *shapes = content->findChild<LoadingRows *>();
+    ASSERT_NE(shapes, nullptr);
+    EXPECT_TRUE(shapes->isVisible());
+    EXPECT_TRUE(isShown(*content, u"busyBar"_s));
+    const QImage image = shapes->grab().toImage();
+    const auto darkest = [&image](int from, int to) {
+        int result = 255;
+        for (int y = from; y < to; ++y) {
+            for (int x = 0; x < image.width(); ++x)
+                result = std::min(result, image.pixelColor(x, y).lightness());
+        }
+        return result;
+    };
+    EXPECT_LT(darkest(0, image.height() / 3), darkest(image.height() * 2 / 3, image.height()));
+    loadNow(*library);
+    expectSubtitle(*content, u"4 items"_s);
+    EXPECT_FALSE(shapes->isVisible());
+    EXPECT_FALSE(isShown(*content, u"busyBar"_s));
+}
+
+TEST_F(ContentViewTest, whileASearchRunsTheSubtitleIsThatOfTheRowsThatAreStillShown)
+{
+    addChromium();
+    setChromeHistory(u"Default"_s, QStringList(1000, u"word"_s));
+    loadNow(*library);
+    const auto content = makeContent();
+    content->setPane(HistoryPane{u"chrome/Default"_s});
+    expectSubtitle(*content, u"1,000 items · latest 1,000"_s);
+    const QString before = subtitle(*content);
+    part<QLineEdit>(*content, u"searchField"_s)->setText(u"nowhere"_s);
+    EXPECT_EQ(subtitle(*content), before);
+    expectSubtitle(*content, u"0 items"_s);
 }
 
 TEST_F(ContentViewTest, withoutAnyBrowserItSaysWhereItLooked)

@@ -159,6 +159,20 @@ TEST_F(DetailHeaderTest, theSearchFieldHasARingOnlyWhileItHasTheKeyboard)
     EXPECT_EQ(edge(), accent);
 }
 
+TEST_F(DetailHeaderTest, aButtonHasARingOnlyAfterAKey)
+{
+    header.activateWindow();
+    ASSERT_TRUE(waitUntil([this] { return header.isActiveWindow(); }));
+    auto *reload = part<ReloadButton>(u"reloadButton"_s);
+    const auto edge = [reload] { return reload->grab().toImage().pixelColor(reload->width() / 2, 1); };
+    const QColor accent = Look::of(header).accent;
+    reload->setFocus(Qt::ActiveWindowFocusReason);
+    EXPECT_NE(edge(), accent);
+    search->setFocus();
+    reload->setFocus(Qt::BacktabFocusReason);
+    EXPECT_EQ(edge(), accent);
+}
+
 TEST_F(DetailHeaderTest, theArrowTurnsAtLeastOnce)
 {
     auto *reload = part<ReloadButton>(u"reloadButton"_s);

@@ -31,8 +31,9 @@ namespace
 class SymbolEngine final : public QIconEngine
 {
 public:
-    SymbolEngine(QString path, const std::optional<QColor> &color, QString themeName = {})
-        : m_path(std::move(path)), m_color(color), m_themeName(std::move(themeName))
+    SymbolEngine(QString path, const std::optional<QColor> &color, SymbolWeight weight,
+                 QString themeName = {})
+        : m_path(std::move(path)), m_color(color), m_weight(weight), m_themeName(std::move(themeName))
     {
     }
 
@@ -50,11 +51,12 @@ public:
     QPixmap scaledPixmap(const QSize &size, QIcon::Mode mode, QIcon::State /*state*/, qreal scale) override
     {
         const QColor color = m_color.value_or(textColor(mode));
-        const QString key = u"roamlet-symbol/%1/%2x%3@%4/%5"_s.arg(m_path)
+        const QString key = u"roamlet-symbol/%1/%2x%3@%4/%5/%6"_s.arg(m_path)
                                 .arg(size.width())
                                 .arg(size.height())
                                 .arg(scale)
-                                .arg(color.rgba(), 0, 16);
+                                .arg(color.rgba(), 0, 16)
+                                .arg(static_cast<int>(m_weight));
         QPixmap result;
         if (QPixmapCache::find(key, &result))
             return result;
@@ -83,9 +85,20 @@ private:
         }
     }
 
+    QByteArray source() const
+    {
+        QFile file(m_path);
+        if (!file.open(QIODevice::ReadOnly))
+            return {};
+        QByteArray svg = file.readAll();
+        if (m_weight == SymbolWeight::Thin)
+            svg.replace("stroke-width=\"1.25\"", "stroke-width=\"0.9\"");
+        return svg;
+    }
+
     QPixmap drawn(const QSize &size, const QColor &color) const
     {
-        QSvgRenderer renderer(m_path);
+        QSvgRenderer renderer(source());
         QPixmap pixmap(size);
         pixmap.fill(Qt::transparent);
         QPainter painter(&pixmap);
@@ -100,6 +113,7 @@ private:
 
     QString m_path;
     std::optional<QColor> m_color;
+    SymbolWeight m_weight;
     QString m_themeName;
 };
 
@@ -115,13 +129,13 @@ void useDrawings()
     initializeResources();
 }
 
-QIcon symbolIcon(const QString &name, const std::optional<QColor> &color)
+QIcon symbolIcon(const QString &name, const std::optional<QColor> &color, SymbolWeight weight)
 {
     useDrawings();
     const QString path = symbolPath(name);
     if (!QFile::exists(path))
         return {};
-    return QIcon(new SymbolEngine(path, color));
+    return QIcon(new SymbolEngine(path, color, weight));
 }
 
 QIcon panelIcon()
@@ -130,7 +144,7 @@ QIcon panelIcon()
     // Nobody says whether such a panel is light or dark, and many are not like the windows.
     constexpr QRgb seenOnBoth = 0xff5b9df0;
     return QIcon(new SymbolEngine(symbolPath(u"steeringwheel"_s), QColor::fromRgba(seenOnBoth),
-                                  u"org.roamlet.Roamlet-symbolic"_s));
+                                  SymbolWeight::Usual, u"org.roamlet.Roamlet-symbolic"_s));
 }
 
 QIcon applicationIcon()

@@ -57,6 +57,9 @@ public:
     /// Whether an answer to what was asked is still on its way.
     bool isBusy() const;
 
+    /// Whether what is shown is not yet the answer to what was asked.
+    bool isAwaited() const { return m_loader.progress() != ListLoader::Progress::Done; }
+
     /// Opens the selected links in the browsers that they came from.
     void openSelection();
     /// Puts the selected links' URLs on the clipboard.

@@ -8,8 +8,11 @@
 #include "App/Tables/BookmarkTable.h"
 #include "App/Tables/BookmarkTree.h"
 #include "App/Window/DetailHeader.h"
+#include "App/Window/EmptyListPage.h"
 #include "App/Window/EmptyState.h"
 #include "App/Window/FullDiskAccessBanner.h"
+#include "App/Window/ListStack.h"
+#include "App/Window/LoadingRows.h"
 #include "App/Window/Sidebar.h"
 #include "App/Window/SidebarPlace.h"
 #include "App/Window/SiteFilterBar.h"
@@ -20,10 +23,10 @@
 #include "Platform/UserDefaults.h"
 #include "Platform/Workspace.h"
 
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
-#include <QStackedWidget>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -89,7 +92,7 @@ ContentView::ContentView(const WindowServices &services, QWidget *parent)
       m_sidebar(new Sidebar(services, this)),
       m_sidebarPlace(new SidebarPlace(*m_sidebar, services.defaults, this)),
       m_header(new DetailHeader(this)),
-      m_lists(new QStackedWidget(this))
+      m_lists(new ListStack(this))
 {
     setObjectName(u"contentView"_s);
     setHandleWidth(1);
@@ -133,7 +136,12 @@ ContentView::ContentView(const WindowServices &services, QWidget *parent)
     connect(m_header, &DetailHeader::exportRequested, this, [this] {
         Q_EMIT exportRequested({.sourceID = PaneText::exportSourceID(m_pane, m_services.library.snapshot())});
     });
-    connect(m_header, &DetailHeader::listRequested, this, [this] { shownList()->setFocus(); });
+    connect(m_header, &DetailHeader::listRequested, this, [this] {
+        if (m_lists->cover() != nullptr && m_lists->cover() == m_emptyList)
+            m_emptyList->setFocus();
+        else
+            shownList()->setFocus();
+    });
 
     const Library *library = &services.library;
     connect(library, &Library::snapshotChanged, this, [this] {
@@ -215,7 +223,7 @@ void ContentView::insert(QWidget *strip, const QWidget *above, QWidget *focusedB
 EmptyState *ContentView::nothingSelected()
 {
     if (m_nothingSelected == nullptr) {
-        m_nothingSelected = new EmptyState(u"steeringwheel"_s, u"Pick something in the sidebar"_s, this);
+        m_nothingSelected = new EmptyState(u"steeringwheel"_s, tr("Pick something in the sidebar"), this);
         m_lists->addWidget(m_nothingSelected);
     }
     return m_nothingSelected;
@@ -224,8 +232,11 @@ EmptyState *ContentView::nothingSelected()
 EmptyState *ContentView::noBrowsers()
 {
     if (m_noBrowsers == nullptr) {
-        m_noBrowsers = new EmptyState(u"globe"_s, u"No browsers found"_s, this);
+        m_noBrowsers = new EmptyState(u"globe"_s, tr("No browsers found"), this);
         m_noBrowsers->setText(whereWeLooked(m_services.folders));
+        QPushButton *reload = m_noBrowsers->addAction(tr("Reload"), u"noBrowsersReload"_s);
+        reload->setDefault(true);
+        connect(reload, &QPushButton::clicked, this, &ContentView::reload);
         m_lists->addWidget(m_noBrowsers);
     }
     return m_noBrowsers;
@@ -234,17 +245,20 @@ EmptyState *ContentView::noBrowsers()
 EmptyState *ContentView::encryptedBookmarks(const Source &source)
 {
     if (m_encrypted == nullptr) {
-        m_encrypted = new EmptyState(u"lock.fill"_s, u"Bookmarks are encrypted"_s, this);
-        connect(m_encrypted, &EmptyState::actionRequested, this, [this] {
+        m_encrypted = new EmptyState(u"lock.fill"_s, tr("Bookmarks are encrypted"), this);
+        m_editEncrypted = m_encrypted->addAction(QString(), u"emptyStateAction"_s);
+        connect(m_editEncrypted, &QPushButton::clicked, this, [this] {
             if (const std::optional<Source> shown = encryptedSource())
                 m_services.opener.editBookmarks(*shown, {});
         });
         m_lists->addWidget(m_encrypted);
     }
     const QString browser = Source::displayName(source.kind);
-    m_encrypted->setText(browser % u" keeps the bookmarks of this profile encrypted, so that only " %
-                         browser % u" itself can show them.");
-    m_encrypted->setAction(u"Edit " % browser % u" Bookmarks");
+    m_encrypted->setText(
+        tr("%1 keeps the bookmarks of this profile encrypted, so that only %1 itself can show "
+           "them.")
+            .arg(browser));
+    m_editEncrypted->setText(tr("Edit %1 Bookmarks").arg(browser));
     return m_encrypted;
 }
 
@@ -289,6 +303,7 @@ void ContentView::addTable(LinkTable *table)
         if (m_lists->currentWidget() != table)
             return;
         m_list.rowCount = count;
+        updateCover();
         updateTitle();
         Q_EMIT listShown();
     });
@@ -394,8 +409,13 @@ void ContentView::update()
 
 void ContentView::updateTitle()
 {
+    const auto *table = qobject_cast<LinkTable *>(m_lists->currentWidget());
+    if (table == nullptr || !table->isAwaited() || m_subtitlePane != m_pane) {
+        m_subtitlePane = m_pane;
+        m_shownList = m_list;
+    }
     const bool isProblem = PaneText::problem(m_pane, m_services.library).has_value();
-    m_header->setTitle(title(), PaneText::subtitle(m_pane, m_services.library, m_list, QLocale()),
+    m_header->setTitle(title(), PaneText::subtitle(m_pane, m_services.library, m_shownList, QLocale()),
                        isProblem ? DetailHeader::Subtitle::Problem : DetailHeader::Subtitle::Note);
     m_header->setBusy(!m_services.library.lastLoaded());
     Q_EMIT titleChanged(title());
@@ -436,7 +456,58 @@ void ContentView::updateList()
     m_list.rowCount = table != nullptr ? table->rowCount() : 0;
     const auto *history = qobject_cast<HistoryTable *>(list);
     m_list.isCapped = history != nullptr && history->isCapped();
+    if (m_lists->currentWidget() != list || m_coverPane != m_pane) {
+        m_coverPane = m_pane;
+        m_lists->setCover(nullptr);
+    }
     m_lists->setCurrentWidget(list);
+    updateCover();
+}
+
+void ContentView::updateCover()
+{
+    auto *table = qobject_cast<LinkTable *>(m_lists->currentWidget());
+    const bool isEmpty = table != nullptr && table->rowCount() == 0;
+    const Library::Snapshot &snapshot = m_services.library.snapshot();
+    if (isEmpty && !m_services.library.lastLoaded()) {
+        if (m_loading == nullptr)
+            m_loading = new LoadingRows(m_lists);
+        m_lists->setCover(m_loading, table->view().header()->sizeHint().height());
+    } else if (!isEmpty) {
+        m_lists->setCover(nullptr);
+    } else if (table->isVisible() && !table->isAwaited()) {
+        const bool isProblem = PaneText::problem(m_pane, m_services.library).has_value();
+        const bool isSearch = isSearchText(m_list.search);
+        const bool isHistory = PaneText::groupedList(*m_pane) != GroupedList::Bookmarks;
+        const QString symbol = snapshot.sources.isEmpty() ? u"gearshape"_s
+                               : isProblem                ? u"exclamationmark.triangle"_s
+                               : isSearch || m_list.site  ? u"magnifyingglass"_s
+                               : isHistory                ? u"clock"_s
+                                                          : u"bookmark"_s;
+        emptyListPage()->setReason({.symbol = symbol,
+                                    .words = table->view().emptyText(),
+                                    .hasSite = m_list.site.has_value(),
+                                    .hasSearch = isSearch,
+                                    .isProblem = isProblem});
+        m_lists->setCover(m_emptyList);
+    } else if (m_lists->cover() == m_loading) {
+        m_lists->setCover(nullptr);
+    }
+    // Nobody shall come with the keyboard to what is not seen.
+    if (table != nullptr)
+        table->setEnabled(m_emptyList == nullptr || m_lists->cover() != m_emptyList);
+}
+
+EmptyListPage *ContentView::emptyListPage()
+{
+    if (m_emptyList == nullptr) {
+        m_emptyList = new EmptyListPage(m_lists);
+        connect(m_emptyList, &EmptyListPage::allSitesRequested, this, [this] { setSite({}); });
+        connect(m_emptyList, &EmptyListPage::clearSearchRequested, m_header->searchField(),
+                &QLineEdit::clear);
+        connect(m_emptyList, &EmptyListPage::reloadRequested, this, &ContentView::reload);
+    }
+    return m_emptyList;
 }
 
 QWidget *ContentView::shownList()

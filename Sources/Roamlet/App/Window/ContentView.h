@@ -15,7 +15,7 @@
 
 #include <optional>
 
-class QStackedWidget;
+class QPushButton;
 class QVBoxLayout;
 
 namespace roamlet
@@ -24,8 +24,11 @@ namespace roamlet
 class BookmarkTable;
 class BookmarkTree;
 class DetailHeader;
+class EmptyListPage;
 class EmptyState;
 class FullDiskAccessBanner;
+class ListStack;
+class LoadingRows;
 class Sidebar;
 class SidebarPlace;
 class SiteFilterBar;
@@ -104,12 +107,19 @@ private:
     void updateExport();
     /// Gives the shown table its inputs, and shows it.
     void updateList();
+    /// Covers a list without rows with why there are none, once that is known.
+    void updateCover();
+    EmptyListPage *emptyListPage();
     QWidget *shownList();
     void setGrouping(Grouping grouping);
 
     WindowServices m_services;
     std::optional<Pane> m_pane = HistoryPane();
     PaneText::ListState m_list;
+    /// What the subtitle is about: until a search has ended, the rows are still those from before.
+    PaneText::ListState m_shownList;
+    std::optional<Pane> m_subtitlePane = m_pane;
+    std::optional<Pane> m_coverPane = m_pane;
     QMap<GroupedList, Grouping> m_groupings;
 
     Sidebar *m_sidebar;
@@ -118,10 +128,13 @@ private:
     QVBoxLayout *m_column = nullptr;
     FullDiskAccessBanner *m_accessBanner = nullptr;
     SiteFilterBar *m_siteBar = nullptr;
-    QStackedWidget *m_lists;
+    ListStack *m_lists;
+    EmptyListPage *m_emptyList = nullptr;
+    LoadingRows *m_loading = nullptr;
     EmptyState *m_nothingSelected = nullptr;
     EmptyState *m_noBrowsers = nullptr;
     EmptyState *m_encrypted = nullptr;
+    QPushButton *m_editEncrypted = nullptr;
     HistoryTable *m_history = nullptr;
     HistoryTable *m_mostVisited = nullptr;
     BookmarkTable *m_bookmarks = nullptr;

@@ -7,7 +7,10 @@
 #include "App/Look/Symbol.h"
 
 #include <QEvent>
+#include <QHBoxLayout>
 #include <QLabel>
+#include <QPainter>
+#include <QPixmap>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -16,24 +19,31 @@ namespace roamlet
 
 using namespace Qt::StringLiterals;
 
+namespace
+{
+
+// All in heights of a line.
+constexpr double discSize = 5;
+constexpr double symbolSize = 2.3;
+constexpr double gap = 0.55;
+constexpr double gapAfterDisc = 1;
+
+} // namespace
+
 EmptyState::EmptyState(const QString &symbol, const QString &title, QWidget *parent)
     : QWidget(parent),
       m_symbol(symbol),
       m_icon(new QLabel(this)),
       m_title(new QLabel(title, this)),
       m_text(new QLabel(this)),
-      m_action(new QPushButton(this))
+      m_actions(new QHBoxLayout)
 {
     m_icon->setAlignment(Qt::AlignCenter);
-    drawSymbol();
 
     m_title->setObjectName(u"emptyStateTitle"_s);
+    m_title->setTextFormat(Qt::PlainText);
     m_title->setAlignment(Qt::AlignCenter);
     m_title->setWordWrap(true);
-    QFont font = m_title->font();
-    font.setPointSizeF(font.pointSizeF() * 1.3);
-    font.setBold(true);
-    m_title->setFont(font);
 
     m_text->setObjectName(u"emptyStateText"_s);
     m_text->setTextFormat(Qt::PlainText);
@@ -42,33 +52,81 @@ EmptyState::EmptyState(const QString &symbol, const QString &title, QWidget *par
     m_text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     m_text->hide();
 
-    m_action->setObjectName(u"emptyStateAction"_s);
-    m_action->hide();
-    connect(m_action, &QPushButton::clicked, this, &EmptyState::actionRequested);
-
+    const Measures measures(font());
+    m_actions->setSpacing(measures.units(gap));
+    m_actions->addStretch();
+    m_actions->addStretch();
     auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(32, 32, 32, 32);
-    column->setSpacing(12);
+    const int margin = measures.alignmentLine;
+    column->setContentsMargins(margin, margin, margin, margin);
+    column->setSpacing(0);
     column->addStretch(1);
     column->addWidget(m_icon);
+    column->addSpacing(measures.units(gapAfterDisc));
     column->addWidget(m_title);
+    column->addSpacing(measures.units(gap));
     column->addWidget(m_text);
-    column->addWidget(m_action, 0, Qt::AlignCenter);
+    column->addSpacing(measures.units(gap));
+    column->addLayout(m_actions);
     column->addStretch(2);
+    updateLook();
 }
 
-void EmptyState::changeEvent(QEvent *event)
+bool EmptyState::event(QEvent *event)
 {
-    if (event->type() == QEvent::PaletteChange)
-        drawSymbol();
-    QWidget::changeEvent(event);
+    switch (event->type()) {
+    case QEvent::PaletteChange:
+    case QEvent::FontChange:
+    case QEvent::ScreenChangeInternal:
+        updateLook();
+        break;
+    default:
+        break;
+    }
+    return QWidget::event(event);
 }
 
-void EmptyState::drawSymbol()
+void EmptyState::updateLook()
 {
-    constexpr int side = 48;
-    m_icon->setPixmap(
-        symbolIcon(m_symbol, Look::of(*this).page.quiet).pixmap(QSize(side, side), devicePixelRatioF()));
+    const Look look = Look::of(*this);
+    m_title->setFont(look.titleFont);
+    setPaletteColor(*m_title, QPalette::WindowText, look.list.ink);
+    setPaletteColor(*m_text, QPalette::WindowText, look.list.quiet);
+
+    const qreal ratio = devicePixelRatioF();
+    const int side = look.measures.units(discSize);
+    QPixmap disc(QSize(side, side) * ratio);
+    disc.setDevicePixelRatio(ratio);
+    disc.fill(Qt::transparent);
+    QPainter painter(&disc);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(look.field.base);
+    painter.drawEllipse(QRect(0, 0, side, side));
+    const int symbol = look.measures.units(symbolSize);
+    const int start = (side - symbol) / 2;
+    symbolIcon(m_symbol, look.field.quiet, SymbolWeight::Thin)
+        .paint(&painter, QRect(start, start, symbol, symbol));
+    painter.end();
+    m_icon->setPixmap(disc);
+}
+
+void EmptyState::paintEvent(QPaintEvent * /*event*/)
+{
+    QPainter(this).fillRect(rect(), Look::of(*this).list.base);
+}
+
+void EmptyState::setSymbol(const QString &symbol)
+{
+    if (symbol == m_symbol)
+        return;
+    m_symbol = symbol;
+    updateLook();
+}
+
+void EmptyState::setTitle(const QString &title)
+{
+    m_title->setText(title);
 }
 
 void EmptyState::setText(const QString &text)
@@ -77,10 +135,13 @@ void EmptyState::setText(const QString &text)
     m_text->setVisible(!text.isEmpty());
 }
 
-void EmptyState::setAction(const QString &title)
+QPushButton *EmptyState::addAction(const QString &title, const QString &objectName)
 {
-    m_action->setText(title);
-    m_action->show();
+    auto *button = new QPushButton(title, this);
+    button->setObjectName(objectName);
+    // Between the two stretches.
+    m_actions->insertWidget(m_actions->count() - 1, button);
+    return button;
 }
 
 QString EmptyState::title() const

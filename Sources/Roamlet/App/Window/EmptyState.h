@@ -3,8 +3,10 @@
 
 #pragma once
 
+#include <QString>
 #include <QWidget>
 
+class QHBoxLayout;
 class QLabel;
 class QPushButton;
 
@@ -19,28 +21,28 @@ class EmptyState final : public QWidget
 public:
     EmptyState(const QString &symbol, const QString &title, QWidget *parent = nullptr);
 
+    void setSymbol(const QString &symbol);
+    void setTitle(const QString &title);
     /// A longer text under the title; empty for none.
     void setText(const QString &text);
     /// A button under the text that says what can be done.
-    void setAction(const QString &title);
+
+    QPushButton *addAction(const QString &title, const QString &objectName);
     QString title() const;
     QString text() const;
 
-Q_SIGNALS:
-    /// The button was pressed.
-    void actionRequested();
-
 protected:
-    void changeEvent(QEvent *event) override;
+    bool event(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
 
 private:
-    void drawSymbol();
+    void updateLook();
 
     QString m_symbol;
     QLabel *m_icon;
     QLabel *m_title;
     QLabel *m_text;
-    QPushButton *m_action;
+    QHBoxLayout *m_actions;
 };
 
 } // namespace roamlet

@@ -6,6 +6,7 @@
 #include "App/Look/Look.h"
 #include "App/Look/Symbol.h"
 
+#include <QFocusEvent>
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOptionToolButton>
@@ -42,6 +43,15 @@ QSize HeaderButton::sizeHint() const
     return {measures.iconSide + (2 * padding()), measures.controlHeight};
 }
 
+void HeaderButton::focusInEvent(QFocusEvent *event)
+{
+    const Qt::FocusReason reason = event->reason();
+    if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason)
+        m_hasRing = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
+                    reason == Qt::ShortcutFocusReason;
+    QToolButton::focusInEvent(event);
+}
+
 void HeaderButton::paintEvent(QPaintEvent * /*event*/)
 {
     QStyleOptionToolButton option;
@@ -55,7 +65,7 @@ void HeaderButton::paintEvent(QPaintEvent * /*event*/)
         painter.setBrush(isDown() ? look.list.pressed : look.list.hover);
         painter.drawRoundedRect(rect(), radius, radius);
     }
-    if (hasFocus()) {
+    if (hasFocus() && m_hasRing) {
         constexpr qreal half = Measures::focusRingWidth / 2.0;
         painter.setPen(QPen(look.accent, Measures::focusRingWidth));
         painter.setBrush(Qt::NoBrush);
