@@ -244,7 +244,7 @@ TEST_F(ContentViewTest, oneSiteIsShownUnderABarThatLeadsBack)
     EXPECT_TRUE(isShown(*content, u"siteFilterBar"_s));
     EXPECT_EQ(shownTable(*content), u"bookmarkTable");
     QTest::mouseClick(part<QPushButton>(*content, u"showAllSitesButton"_s), Qt::LeftButton);
-    EXPECT_FALSE(isShown(*content, u"siteFilterBar"_s));
+    EXPECT_TRUE(waitUntil([&] { return !isShown(*content, u"siteFilterBar"_s); }));
     EXPECT_EQ(shownTable(*content), u"bookmarkTree");
 }
 

@@ -7,11 +7,11 @@
 #include "App/Window/GroupByButton.h"
 #include "App/Window/ReloadButton.h"
 #include "App/Window/SearchField.h"
+#include "App/Window/StillStyle.h"
 #include "Support/Waiting.h"
 
 #include <QAccessible>
 #include <QAction>
-#include <QProxyStyle>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -20,22 +20,6 @@ namespace roamlet::testing
 {
 
 using namespace Qt::StringLiterals;
-
-namespace
-{
-
-/// A desktop on which nothing moves.
-class StillStyle final : public QProxyStyle
-{
-public:
-    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
-                  QStyleHintReturn *data) const override
-    {
-        return hint == SH_Widget_Animation_Duration ? 0 : QProxyStyle::styleHint(hint, option, widget, data);
-    }
-};
-
-} // namespace
 
 class DetailHeaderTest : public ::testing::Test
 {

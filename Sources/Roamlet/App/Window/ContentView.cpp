@@ -195,7 +195,7 @@ void ContentView::showAccessBanner()
         });
         insert(m_accessBanner, m_header, m_header->menuButton());
     }
-    m_accessBanner->show();
+    m_accessBanner->setOpen(true);
 }
 
 void ContentView::showSiteBar(const QString &site)
@@ -209,7 +209,7 @@ void ContentView::showSiteBar(const QString &site)
             insert(m_siteBar, m_header, m_header->menuButton());
     }
     m_siteBar->setSite(site, m_services.library.favicon(site));
-    m_siteBar->show();
+    m_siteBar->setOpen(true);
 }
 
 void ContentView::insert(QWidget *strip, const QWidget *above, QWidget *focusedBefore)
@@ -426,11 +426,11 @@ void ContentView::updateBanners()
     if (m_services.library.snapshot().safariBlocked)
         showAccessBanner();
     else if (m_accessBanner != nullptr)
-        m_accessBanner->hide();
+        m_accessBanner->setOpen(false);
     if (m_list.site)
         showSiteBar(*m_list.site);
     else if (m_siteBar != nullptr)
-        m_siteBar->hide();
+        m_siteBar->setOpen(false);
 }
 
 void ContentView::updateExport()

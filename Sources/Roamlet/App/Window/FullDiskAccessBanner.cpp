@@ -6,7 +6,6 @@
 #include "App/Look/Look.h"
 #include "App/Look/Symbol.h"
 
-#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -18,29 +17,30 @@ namespace roamlet
 using namespace Qt::StringLiterals;
 
 FullDiskAccessBanner::FullDiskAccessBanner(QWidget *parent)
-    : Strip(Tone::Warning, parent), m_lock(new QLabel(this))
+    : Strip(Tone::Warning, parent),
+      m_lock(new QLabel(this)),
+      m_heading(new QLabel(tr("Roamlet can't read Safari yet"), this)),
+      m_text(new QLabel(tr("Turn on Roamlet in Privacy & Security › Full Disk Access, then reload."), this)),
+      m_details(new QLabel(this))
 {
     setObjectName(u"fullDiskAccessBanner"_s);
-    drawLock();
-
-    auto *heading = new QLabel(u"Roamlet can't read Safari yet"_s, this);
-    heading->setObjectName(u"fullDiskAccessHeading"_s);
-    QFont bold = heading->font();
-    bold.setBold(true);
-    heading->setFont(bold);
-    auto *text =
-        new QLabel(u"Turn on Roamlet in Privacy & Security › Full Disk Access, then reload."_s, this);
-    text->setObjectName(u"fullDiskAccessText"_s);
-    text->setTextFormat(Qt::PlainText);
-    text->setWordWrap(true);
+    m_heading->setObjectName(u"fullDiskAccessHeading"_s);
+    m_text->setObjectName(u"fullDiskAccessText"_s);
+    m_details->setObjectName(u"fullDiskAccessDetails"_s);
+    for (QLabel *label : {m_text, m_details}) {
+        label->setTextFormat(Qt::PlainText);
+        label->setWordWrap(true);
+    }
+    m_details->hide();
     auto *words = new QVBoxLayout;
-    words->setSpacing(1);
-    words->addWidget(heading);
-    words->addWidget(text);
+    words->setSpacing(0);
+    words->addWidget(m_heading);
+    words->addWidget(m_text);
+    words->addWidget(m_details);
 
-    auto *settings = new QPushButton(u"Open Settings"_s, this);
+    auto *settings = new QPushButton(tr("Open Settings"), this);
     settings->setObjectName(u"openSettingsButton"_s);
-    auto *reload = new QPushButton(u"Reload"_s, this);
+    auto *reload = new QPushButton(tr("Reload"), this);
     reload->setObjectName(u"bannerReloadButton"_s);
     for (QPushButton *button : {settings, reload})
         button->setAutoDefault(false);
@@ -51,20 +51,26 @@ FullDiskAccessBanner::FullDiskAccessBanner(QWidget *parent)
     row()->addLayout(words, 1);
     row()->addWidget(settings);
     row()->addWidget(reload);
+    updateLook();
 }
 
-void FullDiskAccessBanner::drawLock()
+void FullDiskAccessBanner::setDetails(const QString &details)
 {
-    constexpr int iconSide = 20;
-    m_lock->setPixmap(symbolIcon(u"lock.fill"_s, Look::of(*this).warningMark)
-                          .pixmap(QSize(iconSide, iconSide), devicePixelRatioF()));
+    m_details->setText(details);
+    m_details->setVisible(!details.isEmpty());
 }
 
-void FullDiskAccessBanner::changeEvent(QEvent *event)
+void FullDiskAccessBanner::updateLook()
 {
-    if (event->type() == QEvent::PaletteChange)
-        drawLock();
-    Strip::changeEvent(event);
+    Strip::updateLook();
+    const Look look = Look::of(*this);
+    const int side = look.measures.units(1.2);
+    m_lock->setPixmap(
+        symbolIcon(u"lock.fill"_s, look.warningMark).pixmap(QSize(side, side), devicePixelRatioF()));
+    m_heading->setFont(look.headingFont);
+    setPaletteColor(*m_heading, QPalette::WindowText, look.warning.ink);
+    for (QLabel *label : {m_text, m_details})
+        setPaletteColor(*label, QPalette::WindowText, look.warning.quiet);
 }
 
 } // namespace roamlet

@@ -18,17 +18,21 @@ class FullDiskAccessBanner final : public Strip
 public:
     explicit FullDiskAccessBanner(QWidget *parent = nullptr);
 
+    /// What is in the way on this computer, below the text; empty for nothing.
+    void setDetails(const QString &details);
+
 Q_SIGNALS:
     void openSettingsRequested();
     void reloadRequested();
 
 protected:
-    void changeEvent(QEvent *event) override;
+    void updateLook() override;
 
 private:
-    void drawLock();
-
     QLabel *m_lock;
+    QLabel *m_heading;
+    QLabel *m_text;
+    QLabel *m_details;
 };
 
 } // namespace roamlet

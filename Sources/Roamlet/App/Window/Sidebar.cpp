@@ -400,7 +400,7 @@ void Sidebar::changeEvent(QEvent *event)
 
 QSize Sidebar::sizeHint() const
 {
-    return {Measures(font()).sidebarWidth, QTreeView::sizeHint().height()};
+    return {qMax(idealWidthOfColumn, Measures(font()).sidebarWidth), QTreeView::sizeHint().height()};
 }
 
 } // namespace roamlet

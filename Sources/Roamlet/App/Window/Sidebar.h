@@ -26,6 +26,8 @@ class Sidebar final : public QTreeView
 
 public:
     static constexpr int minimumWidthOfColumn = 190;
+    /// Wider where the letters are larger.
+    static constexpr int idealWidthOfColumn = 220;
 
     explicit Sidebar(const WindowServices &services, QWidget *parent = nullptr);
 

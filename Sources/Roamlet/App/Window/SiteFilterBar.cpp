@@ -19,19 +19,27 @@ SiteFilterBar::SiteFilterBar(QWidget *parent)
 {
     setObjectName(u"siteFilterBar"_s);
     m_text->setObjectName(u"siteFilterText"_s);
-    auto *clear = new QPushButton(u"Show All Sites"_s, this);
+    auto *clear = new QPushButton(tr("Show All Sites"), this);
     clear->setObjectName(u"showAllSitesButton"_s);
     clear->setAutoDefault(false);
     connect(clear, &QPushButton::clicked, this, &SiteFilterBar::clearRequested);
     row()->addWidget(m_icon);
     row()->addWidget(m_text, 1);
     row()->addWidget(clear);
+    updateLook();
+}
+
+void SiteFilterBar::updateLook()
+{
+    Strip::updateLook();
+    setPaletteColor(*m_text, QPalette::WindowText, Look::of(*this).notice.ink);
 }
 
 void SiteFilterBar::setSite(const QString &site, const std::optional<QImage> &image)
 {
-    constexpr int side = 16;
-    m_text->setText(u"Only " % site);
+    const int side = Measures(font()).iconSide;
+    const QString words = tr("Only %1");
+    m_text->setText(words.left(words.indexOf(u"%1")), site);
     m_icon->setVisible(image.has_value());
     if (!image)
         return;

@@ -30,6 +30,9 @@ public:
 Q_SIGNALS:
     void clearRequested();
 
+protected:
+    void updateLook() override;
+
 private:
     QLabel *m_icon;
     ElidedLabel *m_text;
