@@ -93,7 +93,7 @@ RoamletApp::RoamletApp(const Services &services)
               .opener = m_opener,
               .activation = services.activation,
               .openMainWindow = [this] { openMainWindow(); },
-              .openSettings = [this] { settingsWindow().open(); },
+              .openSettings = [this] { settingsWindow().open(m_mainWindow.get()); },
               .checkForUpdates = [this] { m_services.updater.checkForUpdates(); },
               .quit = quit}),
       m_icon({.library = m_services.library,
@@ -162,7 +162,7 @@ void RoamletApp::makeMainWindow()
                                  .updater = m_services.updater,
                                  .quit = quit});
         QObject::connect(m_mainWindow.get(), &MainWindow::settingsRequested, &m_context,
-                         [this] { settingsWindow().open(); });
+                         [this] { settingsWindow().open(m_mainWindow.get()); });
         QObject::connect(
             m_mainWindow.get(), &MainWindow::closed, &m_context, [this] { dropClosedWindow(); },
             Qt::QueuedConnection);

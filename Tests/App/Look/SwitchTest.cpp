@@ -5,11 +5,14 @@
 
 #include "App/Look/Look.h"
 #include "App/Look/PlainPalette.h"
+#include "App/Look/StillStyle.h"
 #include "App/Look/SwitchRow.h"
+#include "Support/Waiting.h"
 
 #include <QAccessible>
 #include <QImage>
 #include <QPainter>
+#include <QSignalBlocker>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -85,6 +88,57 @@ TEST(SwitchTest, theKnobOfASwitchThatIsOnLiesWhereLinesEnd)
     const QImage rightToLeft = picture({.isOn = true, .direction = Qt::RightToLeft}, palette);
     EXPECT_NE(rightToLeft.pixelColor(8, 10), on);
     EXPECT_EQ(rightToLeft.pixelColor(27, 10), on);
+}
+
+TEST(SwitchTest, theKnobMovesWhenTheUserTurnsItUnlessNothingShallMove)
+{
+    Switch toggle;
+    toggle.show();
+    toggle.setChecked(true);
+    const QImage on = toggle.grab().toImage();
+    toggle.setChecked(false);
+    EXPECT_NE(toggle.grab().toImage(), on);
+    QTest::mouseClick(&toggle, Qt::LeftButton);
+    EXPECT_NE(toggle.grab().toImage(), on) << "on its way";
+    ASSERT_TRUE(waitUntil([&] { return toggle.grab().toImage() == on; }));
+    StillStyle still;
+    Switch other;
+    other.setStyle(&still);
+    other.show();
+    QTest::mouseClick(&other, Qt::LeftButton);
+    EXPECT_EQ(other.grab().toImage(), on);
+}
+
+TEST(SwitchTest, aSwitchThatIsTurnedBackAtOnceDoesNotMove)
+{
+    Switch toggle;
+    toggle.show();
+    const QImage off = toggle.grab().toImage();
+    QObject::connect(&toggle, &Switch::toggled, &toggle, [&] {
+        const QSignalBlocker blocker(toggle);
+        toggle.setChecked(false);
+    });
+    QTest::mouseClick(&toggle, Qt::LeftButton);
+    EXPECT_EQ(toggle.grab().toImage(), off);
+}
+
+TEST(SwitchTest, theRingComesWithTheFirstKey)
+{
+    QWidget window;
+    auto *one = new Switch(&window);
+    auto *two = new Switch(&window);
+    for (Switch *each : {one, two})
+        each->resize(each->sizeHint());
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    const QImage without = one->grab().toImage();
+    one->setFocus(Qt::MouseFocusReason);
+    EXPECT_EQ(one->grab().toImage(), without);
+    QTest::keyClick(one, Qt::Key_Tab);
+    QTest::keyClick(two, Qt::Key_Backtab);
+    ASSERT_TRUE(one->hasFocus());
+    EXPECT_NE(one->grab().toImage(), without);
 }
 
 TEST(SwitchTest, aClickOnTheLineTurnsItAndADragAwayDoesNot)

@@ -3,7 +3,9 @@
 
 #include "App/Settings/BrowserProfileSettings.h"
 
+#include "App/Look/Look.h"
 #include "App/Look/NoteLabel.h"
+#include "App/Look/StillStyle.h"
 #include "App/Settings/ProfileList.h"
 #include "App/Settings/ProfileListModel.h"
 #include "Opening/Opener.h"
@@ -137,16 +139,23 @@ TEST_F(BrowserProfileSettingsTest, anInstallationIsSwitchedAndMovedByItself)
     EXPECT_TRUE(isOn(7));
 }
 
-TEST_F(BrowserProfileSettingsTest, onlyTheSwitchTurnsIt)
+TEST_F(BrowserProfileSettingsTest, aClickAnywhereButOnItsHandleTurnsARow)
 {
     QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, center(2));
+    EXPECT_FALSE(isOn(2));
+    EXPECT_EQ(list().currentIndex().row(), 2);
+    QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, center(2));
     EXPECT_TRUE(isOn(2));
-    QTest::mouseDClick(list().viewport(), Qt::LeftButton, {}, center(2));
+    ASSERT_TRUE(waitUntil([this] { return !library.isLoading(); }));
+    QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, QPoint(12, center(3).y()));
+    EXPECT_TRUE(isOn(3));
+    EXPECT_EQ(list().currentIndex().row(), 3) << "it can be moved by keys now";
+    QTest::mouseClick(list().viewport(), Qt::RightButton, {}, center(2));
     EXPECT_TRUE(isOn(2));
     QTest::mousePress(list().viewport(), Qt::LeftButton, {}, list().switchRect(row(2)).center());
-    QTest::mouseRelease(list().viewport(), Qt::LeftButton, {}, center(2));
+    QTest::mouseRelease(list().viewport(), Qt::LeftButton, {}, center(3));
     EXPECT_TRUE(isOn(2)) << "released elsewhere";
-    EXPECT_EQ(list().currentIndex().row(), 2);
+    EXPECT_TRUE(isOn(3));
 }
 
 TEST_F(BrowserProfileSettingsTest, spaceTurnsTheCurrentProfile)
@@ -173,6 +182,27 @@ TEST_F(BrowserProfileSettingsTest, safarisMainSourceIsAlwaysOnAndSaysWhy)
     EXPECT_EQ(row(0).data(Qt::ToolTipRole), u"Holds Safari's main bookmarks, so it's always on."_s);
 }
 
+TEST_F(BrowserProfileSettingsTest, thereIsRoomForWhatIsSaidBelowAName)
+{
+    const QString reason = row(0).data(Qt::ToolTipRole).toString();
+    EXPECT_GT(list().sizeHint().width(), QFontMetrics(list().font()).horizontalAdvance(reason) * 9 / 10);
+    const QImage before = list().viewport()->grab(list().visualRect(row(0))).toImage();
+    const QImage other = list().viewport()->grab(list().visualRect(row(1))).toImage();
+    const QColor quiet = Look::of(list()).card.quiet;
+    const auto hasQuietWords = [&](const QImage &picture) {
+        // The handle is as quiet, and ends before the words begin.
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = picture.width() / 4; x < picture.width() / 2; ++x) {
+                if (picture.pixelColor(x, y) == quiet)
+                    return true;
+            }
+        }
+        return false;
+    };
+    EXPECT_TRUE(hasQuietWords(before));
+    EXPECT_FALSE(hasQuietWords(other));
+}
+
 TEST_F(BrowserProfileSettingsTest, otherProfilesOfSafariCanBeTurnedOffAndHaveNoTip)
 {
     EXPECT_EQ(row(1).data(Qt::ToolTipRole), QVariant());
@@ -192,6 +222,50 @@ TEST_F(BrowserProfileSettingsTest, draggingMovesARow)
     EXPECT_EQ(labels(), (QStringList{all[0], all[1], all[4], all[2], all[3]}));
     EXPECT_EQ(list().currentIndex().row(), 2) << "the row that was moved stays the current one";
     EXPECT_TRUE(list().selectionModel()->isRowSelected(2));
+}
+
+TEST_F(BrowserProfileSettingsTest, theDraggedRowIsCarriedAndTheOthersMakeRoom)
+{
+    const int height = list().visualRect(row(0)).height();
+    QTest::mousePress(list().viewport(), Qt::LeftButton, {}, center(3));
+    moveMouse(center(3) - QPoint(0, 2 * height + 5));
+    EXPECT_EQ(list().shownRect(row(3)).center().y(), center(3).y() - 2 * height - 5)
+        << "it follows the mouse";
+    ASSERT_TRUE(waitUntil([&] { return list().shownRect(row(1)).top() == list().visualRect(row(2)).top(); }));
+    EXPECT_EQ(list().shownRect(row(0)), list().visualRect(row(0)));
+    EXPECT_EQ(list().shownRect(row(2)).top(), list().visualRect(row(3)).top());
+    EXPECT_EQ(list().shownRect(row(4)), list().visualRect(row(4)));
+    QTest::mouseRelease(list().viewport(), Qt::LeftButton, {}, center(1) - QPoint(0, 5));
+    EXPECT_EQ(labels(), (QStringList{all[0], all[3], all[1], all[2], all[4]}));
+    ASSERT_TRUE(waitUntil([&] { return list().shownRect(row(1)) == list().visualRect(row(1)); }));
+    for (int i = 0; i < 5; ++i)
+        EXPECT_EQ(list().shownRect(row(i)), list().visualRect(row(i))) << i;
+}
+
+TEST_F(BrowserProfileSettingsTest, aRowThatIsCarriedStaysAmongTheOthers)
+{
+    QTest::mousePress(list().viewport(), Qt::LeftButton, {}, center(3));
+    moveMouse(QPoint(30, -200));
+    EXPECT_EQ(list().shownRect(row(3)).top(), list().visualRect(row(0)).top());
+    moveMouse(QPoint(30, 2000));
+    EXPECT_EQ(list().shownRect(row(3)).bottom(), list().visualRect(row(4)).bottom());
+    QTest::keyClick(&list(), Qt::Key_Escape);
+    ASSERT_TRUE(waitUntil([&] { return list().shownRect(row(3)) == list().visualRect(row(3)); }));
+    QTest::mouseRelease(list().viewport(), Qt::LeftButton, {}, QPoint(30, 2000));
+    EXPECT_EQ(labels(), all);
+}
+
+TEST_F(BrowserProfileSettingsTest, whereNothingShallMoveTheRowsAreAtTheirPlacesAtOnce)
+{
+    StillStyle still;
+    list().setStyle(&still);
+    QTest::mousePress(list().viewport(), Qt::LeftButton, {}, center(3));
+    moveMouse(center(1) - QPoint(0, 5));
+    EXPECT_EQ(list().shownRect(row(1)), list().visualRect(row(2)));
+    QTest::mouseRelease(list().viewport(), Qt::LeftButton, {}, center(1) - QPoint(0, 5));
+    for (int i = 0; i < 5; ++i)
+        EXPECT_EQ(list().shownRect(row(i)), list().visualRect(row(i))) << i;
+    list().setStyle(nullptr);
 }
 
 TEST_F(BrowserProfileSettingsTest, aRowCanBeDraggedBelowTheLast)

@@ -19,7 +19,9 @@
 
 #include <QAccessible>
 #include <QPushButton>
-#include <QTabWidget>
+#include <QScreen>
+#include <QStackedWidget>
+#include <QTabBar>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -64,15 +66,44 @@ protected:
 TEST_F(GeneralSettingsTest, theWindowHasTwoTabsWithSymbols)
 {
     open();
-    auto *tabs = window->findChild<QTabWidget *>();
+    auto *tabs = window->findChild<QTabBar *>();
+    const auto *pages = window->findChild<QStackedWidget *>();
     ASSERT_EQ(tabs->count(), 2);
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(tabs)->role(), QAccessible::PageTabList);
     EXPECT_EQ(tabs->tabText(0), u"General"_s);
     EXPECT_EQ(tabs->tabText(1), u"Browser Profiles"_s);
     EXPECT_FALSE(tabs->tabIcon(0).isNull());
     EXPECT_FALSE(tabs->tabIcon(1).isNull());
     EXPECT_EQ(tabs->currentIndex(), 0);
+    EXPECT_EQ(pages->currentIndex(), 0);
     QTest::keyClick(window->focusWidget(), Qt::Key_Tab, Qt::ControlModifier);
     EXPECT_EQ(tabs->currentIndex(), 1);
+    EXPECT_EQ(pages->currentIndex(), 1);
+    QTest::keyClick(window->focusWidget(), Qt::Key_Tab, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(pages->currentIndex(), 0);
+    QTest::mouseClick(tabs, Qt::LeftButton, {}, tabs->tabRect(1).center());
+    EXPECT_EQ(pages->currentIndex(), 1);
+}
+
+TEST_F(GeneralSettingsTest, theWindowOpensOverTheMiddleOfTheOneItComesFromAndOnTheScreen)
+{
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    SettingsWindow settings({library, home.defaults, login, activation, delegate});
+    QWidget origin;
+    origin.setGeometry(QRect(screen.center() - QPoint(90, 60), QSize(240, 180)));
+    origin.show();
+    settings.open(&origin);
+    const QPoint off = settings.frameGeometry().center() - origin.frameGeometry().center();
+    EXPECT_LE(off.manhattanLength(), 2);
+    settings.close();
+    origin.move(screen.bottomRight() - QPoint(20, 20));
+    settings.open(&origin);
+    EXPECT_TRUE(screen.contains(settings.frameGeometry()));
+    settings.close();
+    origin.close();
+    settings.resize(screen.size() * 2);
+    settings.open(&origin);
+    EXPECT_EQ(settings.frameGeometry(), screen) << "no larger than there is room for";
 }
 
 TEST_F(GeneralSettingsTest, escapeClosesTheWindowAndItOpensAgain)

@@ -129,6 +129,13 @@ struct Mixer {
     }
 };
 
+/// A ground of its own over any other one.
+QColor translucent(QColor color, double share)
+{
+    color.setAlphaF(static_cast<float>(share));
+    return color;
+}
+
 QFont scaledFont(QFont font, double factor)
 {
     // A font has a size in points or one in pixels, never both.
@@ -159,11 +166,25 @@ Measures::Measures(const QFont &font)
       sidebarWidth(std::max(leastSidebarWidth, units(12.6))),
       settingsRowHeight(units(2.67)),
       exportChoiceHeight(units(2.9)),
+      comboBoxHeight(units(2.2)),
       controlHeight(units(1.75)),
+      buttonWidth(units(5)),
+      tabHeight(units(1.6)),
+      tabInset(units(0.18)),
+      switchWidth(units(2.1)),
+      switchHeight(units(1.2)),
+      radioSide(units(0.95)),
       iconSide(2 * std::max(1, units(0.89 / 2))),
       gapAfterIcon(units(0.5)),
       gapBetweenCells(units(1.6)),
       gapAroundGroups(units(0.45)),
+      boxPadding(units(0.8)),
+      rowPadding(units(0.33)),
+      sheetWidth(units(31)),
+      sheetPadding(units(1.3)),
+      settingsWidth(units(27.8)),
+      settingsHeight(units(24.4)),
+      lift(units(0.22)),
       rowRadius(units(0.33)),
       fieldRadius(units(0.4)),
       boxRadius(units(0.6))
@@ -211,6 +232,17 @@ Look::Look(const QPalette &palette, const QFont &font, Contrast contrast)
     field = onList(fieldBase, fieldBase);
     buttonHover = mixedColor(base, ink, 0.12);
     button = onList(mixedColor(base, ink, 0.07), buttonHover);
+    veil = translucent(page.ink, 0.09);
+    veilHover = translucent(page.ink, 0.14);
+    veilPressed = translucent(page.ink, 0.19);
+    rowVeil = translucent(page.ink, 0.04);
+    tabTrack = mixedColor(window, page.ink, 0.07);
+    tabQuiet = readableMix(window, page.ink, quietShare,
+                           {window, tabTrack, mixedColor(tabTrack, page.ink, 0.09)}, textContrast)
+                   .value_or(page.ink);
+    tab = m_isDark ? mixedColor(window, page.ink, 0.16) : card.base;
+    scrim = translucent(Qt::black, 0.36);
+    shadow = translucent(Qt::black, 0.22);
 
     // A highlight in the colour of the list would be seen nowhere.
     const QColor own = mixer.color(QPalette::Highlight);
@@ -224,6 +256,10 @@ Look::Look(const QPalette &palette, const QFont &font, Contrast contrast)
     const std::optional<QColor> filled = readableShade(highlight, {highlighted}, textContrast);
     fill = filled.value_or(ink);
     fillInk = filled ? highlighted : base;
+    // Away from the words on it, which stay as readable as they were.
+    const QColor away = relativeLuminance(fillInk) > relativeLuminance(fill) ? Qt::black : Qt::white;
+    fillHover = mixedColor(fill, away, 0.10);
+    fillPressed = mixedColor(fill, away, 0.20);
     on = shade(accent, {Qt::white}, m_markContrast, accent);
     // On a dark ground no colour may be that far from the knob and still be seen itself.
     if (lowestContrast(on, {base, card.base}) < leastMarkContrast)

@@ -57,13 +57,32 @@ struct Measures {
     int sidebarWidth;
     int settingsRowHeight;
     int exportChoiceHeight;
+    int comboBoxHeight;
     /// Tool buttons, push buttons and fields.
     int controlHeight;
+    /// What a button is as wide as, however short its words are.
+    int buttonWidth;
+    int tabHeight;
+    /// Between the edge of the track and the section on it.
+    int tabInset;
+    int switchWidth;
+    int switchHeight;
+    int radioSide;
     /// Icons of sites and browsers; even, so that they have a middle.
     int iconSide;
     int gapAfterIcon;
     int gapBetweenCells;
     int gapAroundGroups;
+    /// From the edge of a row in a boxed list to what stands in it.
+    int boxPadding;
+    /// Above and below what would fill such a row.
+    int rowPadding;
+    int sheetWidth;
+    int sheetPadding;
+    int settingsWidth;
+    int settingsHeight;
+    /// How far a row that is carried to another place stands out on both sides.
+    int lift;
     int rowRadius;
     int fieldRadius;
     /// Boxed lists, sheets and menus.
@@ -113,6 +132,20 @@ struct Look {
     Ground warning;
 
     QColor buttonHover;
+    /// Push buttons that do not know what they lie on, and what is under the pointer: a veil of ink.
+    QColor veil;
+    QColor veilHover;
+    QColor veilPressed;
+    /// The one over a row under the pointer.
+    QColor rowVeil;
+    /// The sections of a window, and the one that is shown.
+    QColor tabTrack;
+    QColor tabQuiet;
+    QColor tab;
+    /// Over all that has to wait for a sheet.
+    QColor scrim;
+    /// Below what has been lifted from its ground, where it is darkest.
+    QColor shadow;
     /// What a control that is off consists of, or its outline.
     QColor edge;
     /// A control that is on; its knob is white.
@@ -123,6 +156,8 @@ struct Look {
     QColor accentText;
     /// The button that the Return key presses, and its words.
     QColor fill;
+    QColor fillHover;
+    QColor fillPressed;
     QColor fillInk;
     /// Behind what was searched for; the letters keep the ink of the list.
     QColor match;

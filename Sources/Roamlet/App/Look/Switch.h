@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <QVariantAnimation>
 
 class QPainter;
 
@@ -11,6 +12,7 @@ namespace roamlet
 {
 
 struct Look;
+struct Measures;
 
 /// What a switch looks like: a knob that lies at one end of its track.
 struct SwitchLook {
@@ -18,14 +20,17 @@ struct SwitchLook {
     bool isEnabled = true;
     bool hasFocus = false;
     Qt::LayoutDirection direction = Qt::LeftToRight;
+    /// How much of its way to that end the knob has behind it.
+    double way = 1;
 
-    /// Fills the rectangle.
+    /// Fills the rectangle, but for the room that the focus ring needs.
     void paint(QPainter &painter, const QRectF &rect, const Look &look) const;
-    /// The size beside a text of this font.
-    static QSize size(const QFontMetrics &metrics);
+    /// The size with that room.
+    static QSize size(const Measures &measures);
 };
 
-/// A switch without words of its own. Whoever uses it gives it an accessible name.
+/// A switch without words of its own. Its knob moves when the user turns it, and is at its end at once when
+/// the program does. Whoever uses it gives it an accessible name.
 class Switch final : public QAbstractButton
 {
     Q_OBJECT
@@ -36,7 +41,11 @@ public:
     QSize sizeHint() const override;
 
 protected:
+    void nextCheckState() override;
     void paintEvent(QPaintEvent *event) override;
+
+private:
+    QVariantAnimation m_moving;
 };
 
 } // namespace roamlet

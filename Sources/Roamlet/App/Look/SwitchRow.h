@@ -5,12 +5,17 @@
 
 #include <QWidget>
 
+class QHBoxLayout;
+class QLabel;
+class QVBoxLayout;
+
 namespace roamlet
 {
 
+class NoteLabel;
 class Switch;
 
-/// A line of a form: a text, and a switch at its end. A click anywhere on the line turns the switch.
+/// A row of a boxed list: a text, and a switch at its end. A click anywhere on the row turns the switch.
 class SwitchRow final : public QWidget
 {
     Q_OBJECT
@@ -20,12 +25,21 @@ public:
 
     /// Named after the text for those who hear it.
     Switch &control() { return *m_switch; }
+    /// What stands below the text, if anything: hidden at first.
+    NoteLabel &note() { return *m_note; }
 
 protected:
+    void changeEvent(QEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
+    void followWindow();
+
+    QLabel *m_name;
+    NoteLabel *m_note;
     Switch *m_switch;
+    QVBoxLayout *m_words;
+    QHBoxLayout *m_row;
 };
 
 } // namespace roamlet

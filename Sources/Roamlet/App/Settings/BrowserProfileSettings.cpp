@@ -3,11 +3,14 @@
 
 #include "App/Settings/BrowserProfileSettings.h"
 
+#include "App/Look/Look.h"
 #include "App/Look/NoteLabel.h"
+#include "App/Look/Painting.h"
 #include "App/Settings/ProfileList.h"
 #include "App/Settings/ProfileListModel.h"
 #include "Library/Library.h"
 
+#include <QEvent>
 #include <QVBoxLayout>
 
 namespace roamlet
@@ -16,22 +19,39 @@ namespace roamlet
 using namespace Qt::StringLiterals;
 
 BrowserProfileSettings::BrowserProfileSettings(Library &library, Opener &opener, QWidget *parent)
-    : QWidget(parent), m_library(library), m_list(new ProfileList)
+    : QWidget(parent), m_library(library), m_list(new ProfileList), m_note(new NoteLabel)
 {
     m_list->setObjectName(u"profileList"_s);
     m_list->setAccessibleName(tr("Browser Profiles"));
     m_list->setAccessibleDescription(tr("Space turns a profile on or off, Alt with an arrow key moves it."));
     m_list->setModel(new ProfileListModel(library, opener, *m_list));
-    auto *note = new NoteLabel;
-    note->setObjectName(u"profileNote"_s);
-    note->setText(tr("Drag profiles to change their order in the sidebar. Roamlet only reads the profiles "
-                     "that are on, and new ones are on automatically."));
+    m_note->setObjectName(u"profileNote"_s);
+    m_note->setText(tr("Drag profiles to change their order in the sidebar. Roamlet only reads the profiles "
+                       "that are on, and new ones are on automatically."));
     auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_list);
-    layout->addWidget(note);
+    layout->addWidget(m_note);
+    layout->addStretch();
+    followWindow();
 
     updatePlaceholder();
     connect(&library, &Library::lastLoadedChanged, this, &BrowserProfileSettings::updatePlaceholder);
+}
+
+void BrowserProfileSettings::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::LayoutDirectionChange)
+        followWindow();
+}
+
+void BrowserProfileSettings::followWindow()
+{
+    const Measures measures = Look::of(*this).measures;
+    layout()->setSpacing(measures.gapAfterIcon);
+    m_note->setContentsMargins(measures.boxPadding, 0, measures.boxPadding, 0);
+    alignToLine(*m_note);
 }
 
 void BrowserProfileSettings::updatePlaceholder()

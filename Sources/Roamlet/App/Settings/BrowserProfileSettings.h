@@ -9,6 +9,7 @@ namespace roamlet
 {
 
 class Library;
+class NoteLabel;
 class Opener;
 class ProfileList;
 
@@ -20,11 +21,16 @@ class BrowserProfileSettings final : public QWidget
 public:
     BrowserProfileSettings(Library &library, Opener &opener, QWidget *parent = nullptr);
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
+    void followWindow();
     void updatePlaceholder();
 
     Library &m_library;
     ProfileList *m_list;
+    NoteLabel *m_note;
 };
 
 } // namespace roamlet

@@ -4,6 +4,9 @@
 #include "App/Settings/GeneralSettings.h"
 
 #include "App/AppDelegate.h"
+#include "App/Look/BoxedList.h"
+#include "App/Look/ButtonRow.h"
+#include "App/Look/Look.h"
 #include "App/Look/NoteLabel.h"
 #include "App/Look/Switch.h"
 #include "App/Look/SwitchRow.h"
@@ -13,8 +16,6 @@
 #include "Platform/LoginService.h"
 #include "Platform/UserDefaults.h"
 
-#include <QGroupBox>
-#include <QPushButton>
 #include <QShowEvent>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
@@ -32,46 +33,53 @@ constexpr QStringView showDockIconKey = u"showDockIcon";
 } // namespace
 
 GeneralSettings::GeneralSettings(const SettingsServices &services, QWidget *parent)
-    : QWidget(parent), m_services(services), m_loginNote(new NoteLabel)
+    : QScrollArea(parent), m_services(services)
 {
-    auto *presence = new QGroupBox;
-    auto *rows = new QVBoxLayout(presence);
-    m_login = addSwitch(rows, u"openAtLogin"_s, tr("Open at login"));
-    m_loginNote->setObjectName(u"openAtLoginNote"_s);
-    rows->addWidget(m_loginNote);
-    m_dockIcon = addSwitch(rows, u"showDockIcon"_s, tr("Show Dock icon"));
+    // Only where the letters are too large for the screen is there anything to scroll.
+    setFrameShape(NoFrame);
+    setWidgetResizable(true);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setFocusPolicy(Qt::NoFocus);
+    auto *presence = new BoxedList;
+    m_login = addSwitch(*presence, u"openAtLogin"_s, tr("Open at login"));
+    m_login->note().setObjectName(u"openAtLoginNote"_s);
+    m_dockIcon = addSwitch(*presence, u"showDockIcon"_s, tr("Show Dock icon"));
     m_dockIcon->control().setChecked(m_services.defaults.boolean(showDockIconKey.toString()).value_or(false));
-    auto *layout = new QVBoxLayout(this);
+    auto *page = new QWidget;
+    auto *layout = new QVBoxLayout(page);
+    const Measures measures = Look::of(*this).measures;
+    layout->setContentsMargins(measures.lift, 0, measures.lift, 0);
+    layout->setSpacing(measures.boxPadding);
     layout->addWidget(presence);
-    addUpdates(layout);
-    layout->addStretch();
+    if (m_services.updater != nullptr && m_services.updater->isAvailable())
+        layout->addWidget(makeUpdates());
+    layout->addStretch(1);
+    setWidget(page);
+    // The window's own ground shows.
+    viewport()->setAutoFillBackground(false);
+    page->setAutoFillBackground(false);
 
     showLoginStatus();
     connect(&m_login->control(), &Switch::toggled, this, &GeneralSettings::setOpensAtLogin);
     connect(&m_dockIcon->control(), &Switch::toggled, this, &GeneralSettings::setShowsDockIcon);
 }
 
-SwitchRow *GeneralSettings::addSwitch(QVBoxLayout *group, const QString &name, const QString &text)
+SwitchRow *GeneralSettings::addSwitch(BoxedList &group, const QString &name, const QString &text)
 {
     auto *row = new SwitchRow(text);
     row->control().setObjectName(name);
-    group->addWidget(row);
+    group.addRow(row);
     return row;
 }
 
-void GeneralSettings::addUpdates(QVBoxLayout *layout)
+BoxedList *GeneralSettings::makeUpdates()
 {
-    if (m_services.updater == nullptr || !m_services.updater->isAvailable())
-        return;
-    auto *updates = new QGroupBox;
-    auto *rows = new QVBoxLayout(updates);
+    auto *updates = new BoxedList;
     m_updateChecks =
-        addSwitch(rows, u"checkForUpdatesAutomatically"_s, tr("Check for updates automatically"));
-    auto *check = new QPushButton(tr("Check for Updates…"));
+        addSwitch(*updates, u"checkForUpdatesAutomatically"_s, tr("Check for updates automatically"));
+    auto *check = new ButtonRow(tr("Check for Updates…"));
     check->setObjectName(u"checkForUpdates"_s);
-    check->setAccessibleName(check->text());
-    rows->addWidget(check, 0, Qt::AlignLeading);
-    layout->addWidget(updates);
+    updates->addRow(check);
 
     showUpdateChecks();
     connect(&m_updateChecks->control(), &Switch::toggled, this,
@@ -80,6 +88,7 @@ void GeneralSettings::addUpdates(QVBoxLayout *layout)
         m_services.activation.bringToFront();
         m_services.updater->checkForUpdates();
     });
+    return updates;
 }
 
 void GeneralSettings::showEvent(QShowEvent *event)
@@ -89,7 +98,7 @@ void GeneralSettings::showEvent(QShowEvent *event)
         m_loginProblem.reset();
     showLoginStatus();
     showUpdateChecks();
-    QWidget::showEvent(event);
+    QScrollArea::showEvent(event);
 }
 
 void GeneralSettings::setOpensAtLogin(bool isOn)
@@ -111,9 +120,11 @@ void GeneralSettings::showLoginStatus()
         text = *m_loginProblem;
     else if (status == LoginService::Status::RequiresApproval)
         text = tr("Approve Roamlet in System Settings › General › Login Items.");
-    m_loginNote->setTone(m_loginProblem ? NoteLabel::Tone::Problem : NoteLabel::Tone::Secondary);
-    m_loginNote->setText(text);
-    m_loginNote->setVisible(!text.isEmpty());
+    NoteLabel &note = m_login->note();
+    note.setTone(m_loginProblem ? NoteLabel::Tone::Problem : NoteLabel::Tone::Secondary);
+    note.setText(text);
+    note.setVisible(!text.isEmpty());
+    m_login->control().setAccessibleDescription(text);
 }
 
 void GeneralSettings::showUpdateChecks()

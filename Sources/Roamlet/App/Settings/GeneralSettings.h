@@ -5,21 +5,19 @@
 
 #include "App/Settings/SettingsServices.h"
 
+#include <QScrollArea>
 #include <QString>
-#include <QWidget>
 
 #include <optional>
-
-class QVBoxLayout;
 
 namespace roamlet
 {
 
-class NoteLabel;
+class BoxedList;
 class SwitchRow;
 
 /// The tab for the program's general behaviour.
-class GeneralSettings final : public QWidget
+class GeneralSettings final : public QScrollArea
 {
     Q_OBJECT
 
@@ -31,16 +29,15 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
-    SwitchRow *addSwitch(QVBoxLayout *group, const QString &name, const QString &text);
+    SwitchRow *addSwitch(BoxedList &group, const QString &name, const QString &text);
     void setOpensAtLogin(bool isOn);
-    void addUpdates(QVBoxLayout *layout);
+    BoxedList *makeUpdates();
     void showLoginStatus();
     void showUpdateChecks();
     void setShowsDockIcon(bool isOn);
 
     SettingsServices m_services;
     SwitchRow *m_login;
-    NoteLabel *m_loginNote;
     SwitchRow *m_dockIcon;
     /// Absent where there are no updates.
     SwitchRow *m_updateChecks = nullptr;

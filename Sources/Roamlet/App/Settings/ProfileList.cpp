@@ -4,13 +4,16 @@
 #include "App/Settings/ProfileList.h"
 
 #include "App/Look/Look.h"
+#include "App/Look/Painting.h"
 #include "App/Settings/ProfileDelegate.h"
 
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPainterPath>
 
+#include <algorithm>
 #include <utility>
 
 namespace roamlet
@@ -20,10 +23,39 @@ ProfileList::ProfileList(QWidget *parent) : QListView(parent)
 {
     setItemDelegate(new ProfileDelegate(this));
     setSelectionMode(SingleSelection);
+    setFrameShape(NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollMode(ScrollPerPixel);
     setResizeMode(Adjust);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Maximum);
+    setMouseTracking(true);
+    // The window's own ground shows around the box.
+    viewport()->setAutoFillBackground(false);
     // Dragging is done here: it is only about the order of these rows.
     setDragDropMode(NoDragDrop);
+    m_moving.setStartValue(0.0);
+    m_moving.setEndValue(1.0);
+    m_moving.setEasingCurve(QEasingCurve::OutCubic);
+    connect(&m_moving, &QVariantAnimation::valueChanged, this, [this](const QVariant &value) {
+        const double share = value.toDouble();
+        for (auto offset = m_offsets.begin(); offset != m_offsets.end(); ++offset) {
+            const double before = m_offsetsBefore.value(offset.key());
+            *offset = before + (m_offsetsAfter.value(offset.key()) - before) * share;
+        }
+        viewport()->update();
+    });
+    connect(&m_moving, &QVariantAnimation::finished, this, [this] {
+        if (m_target < 0)
+            forgetOffsets();
+    });
+}
+
+void ProfileList::setModel(QAbstractItemModel *model)
+{
+    QListView::setModel(model);
+    const auto resize = [this] { updateGeometry(); };
+    connect(model, &QAbstractItemModel::modelReset, this, resize);
+    connect(model, &QAbstractItemModel::modelReset, this, &ProfileList::forgetOffsets);
 }
 
 void ProfileList::setPlaceholderText(const QString &text)
@@ -32,12 +64,41 @@ void ProfileList::setPlaceholderText(const QString &text)
     viewport()->update();
 }
 
-QRect ProfileList::switchRect(const QModelIndex &index) const
+QStyleOptionViewItem ProfileList::optionOf(const QModelIndex &index) const
 {
     QStyleOptionViewItem option;
     initViewItemOption(&option);
     option.rect = visualRect(index);
-    return ProfileDelegate::switchRect(option);
+    return option;
+}
+
+QRect ProfileList::switchRect(const QModelIndex &index) const
+{
+    return ProfileDelegate::switchRect(optionOf(index));
+}
+
+QRect ProfileList::shownRect(const QModelIndex &index) const
+{
+    return visualRect(index).translated(0, qRound(m_offsets.value(index.row())));
+}
+
+QSize ProfileList::sizeHint() const
+{
+    const Look look = Look::of(*this);
+    const int rows = model() != nullptr ? model()->rowCount() : 0;
+    int width = look.measures.sidebarWidth;
+    for (int row = 0; row < rows; ++row) {
+        const QString note = model()->index(row, 0).data(Qt::ToolTipRole).toString();
+        if (!note.isEmpty())
+            width = std::max(width, ProfileDelegate::widthForNote(note, look));
+    }
+    return {width, look.measures.settingsRowHeight * std::max(rows, 2)};
+}
+
+QSize ProfileList::minimumSizeHint() const
+{
+    const Measures measures = Look::of(*this).measures;
+    return {measures.sidebarWidth, measures.settingsRowHeight * 2};
 }
 
 bool ProfileList::event(QEvent *event)
@@ -51,6 +112,9 @@ bool ProfileList::event(QEvent *event)
 void ProfileList::keyPressEvent(QKeyEvent *event)
 {
     const bool moves = event->modifiers() == Qt::AltModifier || event->modifiers() == Qt::ControlModifier;
+    // From now on the current row is to be seen.
+    window()->setAttribute(Qt::WA_KeyboardFocusChange);
+    viewport()->update();
     if (event->key() == Qt::Key_Escape && m_target >= 0) {
         endDragging();
     } else if (moves && currentIndex().isValid() &&
@@ -68,6 +132,7 @@ void ProfileList::mousePressEvent(QMouseEvent *event)
 {
     const QPoint position = event->position().toPoint();
     const QModelIndex index = indexAt(position);
+    window()->setAttribute(Qt::WA_KeyboardFocusChange, false);
     if (event->button() == Qt::LeftButton && index.isValid() && !switchRect(index).contains(position)) {
         m_pressed = index;
         m_pressedAt = position;
@@ -84,23 +149,82 @@ void ProfileList::mouseMoveEvent(QMouseEvent *event)
     const QPoint position = event->position().toPoint();
     if (m_target < 0 && (position - m_pressedAt).manhattanLength() < QApplication::startDragDistance())
         return;
+    drag(position);
+}
+
+void ProfileList::drag(QPoint position)
+{
     viewport()->setCursor(Qt::ClosedHandCursor);
-    m_target = rowAt(position);
+    m_lifted = m_pressed;
+    const int target = rowAt(position);
     // The row at the edge comes into view, and on the next move the one after it.
-    scrollTo(
-        model()->index(qBound(0, position.y() < 0 ? m_target - 1 : m_target, model()->rowCount() - 1), 0));
+    const int scrolledFrom = verticalOffset();
+    scrollTo(model()->index(qBound(0, position.y() < 0 ? target - 1 : target, model()->rowCount() - 1), 0));
+    m_pressedAt.ry() -= verticalOffset() - scrolledFrom;
+    if (target != m_target) {
+        m_target = target;
+        makeRoom();
+    }
+    // The row itself is where the mouse is, but stays among the others.
+    const QRect rows = box();
+    const QRect place = visualRect(m_lifted);
+    const int top = std::clamp(place.top() + position.y() - m_pressedAt.y(), rows.top(),
+                               std::max(rows.top(), rows.bottom() + 1 - place.height()));
+    m_offsets.insert(m_lifted.row(), top - place.top());
+    m_offsetsAfter.insert(m_lifted.row(), top - place.top());
+    m_offsetsBefore.insert(m_lifted.row(), top - place.top());
     viewport()->update();
+}
+
+void ProfileList::makeRoom()
+{
+    const int from = m_lifted.row();
+    const int height = visualRect(m_lifted).height();
+    m_offsetsAfter.clear();
+    for (int row = 0; row < model()->rowCount(); ++row) {
+        if (row > from && row < m_target)
+            m_offsetsAfter.insert(row, -height);
+        else if (row < from && row >= m_target)
+            m_offsetsAfter.insert(row, height);
+    }
+    settle();
+}
+
+void ProfileList::settle()
+{
+    m_moving.stop();
+    for (auto after = m_offsetsAfter.cbegin(); after != m_offsetsAfter.cend(); ++after)
+        m_offsets.insert(after.key(), m_offsets.value(after.key()));
+    m_offsetsBefore = m_offsets;
+    constexpr int milliseconds = 120;
+    if (const int time = motionTime(*this, milliseconds); time > 0) {
+        m_moving.setDuration(time);
+        m_moving.start();
+    } else if (m_target < 0) {
+        forgetOffsets();
+    } else {
+        m_offsets = m_offsetsAfter;
+        viewport()->update();
+    }
 }
 
 void ProfileList::mouseReleaseEvent(QMouseEvent *event)
 {
     const int target = m_target;
     const QPersistentModelIndex pressed = std::exchange(m_pressed, QPersistentModelIndex());
-    endDragging();
-    if (target >= 0 && pressed.isValid())
-        model()->moveRow({}, pressed.row(), {}, target);
-    else
+    if (target < 0 || !pressed.isValid()) {
+        endDragging();
         QListView::mouseReleaseEvent(event);
+        return;
+    }
+    const int shownAt = shownRect(pressed).top();
+    const bool isMoved = model()->moveRow({}, pressed.row(), {}, target);
+    if (isMoved) {
+        // The others have made room where they are now; it only has to come down.
+        m_moving.stop();
+        m_offsets = {{pressed.row(), shownAt - visualRect(pressed).top()}};
+    }
+    endDragging();
 }
 
 void ProfileList::focusOutEvent(QFocusEvent *event)
@@ -121,25 +245,103 @@ int ProfileList::rowAt(QPoint position) const
 void ProfileList::endDragging()
 {
     m_pressed = QPersistentModelIndex();
-    m_target = -1;
     viewport()->unsetCursor();
+    viewport()->update();
+    if (std::exchange(m_target, -1) >= 0) {
+        m_offsetsAfter.clear();
+        settle();
+    }
+}
+
+void ProfileList::forgetOffsets()
+{
+    m_moving.stop();
+    m_lifted = QPersistentModelIndex();
+    m_offsets.clear();
     viewport()->update();
 }
 
-void ProfileList::paintEvent(QPaintEvent *event)
+QRect ProfileList::box() const
 {
-    QListView::paintEvent(event);
+    const int rows = model() != nullptr ? model()->rowCount() : 0;
+    const int lift = Look::of(*this).measures.lift;
+    QRect result = viewport()->rect();
+    if (rows > 0) {
+        result.setTop(visualRect(model()->index(0, 0)).top());
+        result.setBottom(visualRect(model()->index(rows - 1, 0)).bottom());
+    }
+    return result.adjusted(lift, 0, -lift, 0);
+}
+
+void ProfileList::drawRow(QPainter &painter, const QModelIndex &index, const QRect &place) const
+{
+    QStyleOptionViewItem option = optionOf(index);
+    option.rect = place;
+    painter.save();
+    itemDelegate()->paint(&painter, option, index);
+    painter.restore();
+}
+
+void ProfileList::drawLifted(QPainter &painter) const
+{
+    const Look look = Look::of(*this);
+    const qreal radius = look.measures.fieldRadius;
+    const QRect place = shownRect(m_lifted);
+    drawShadow(painter, place, radius, look);
+    const qreal line = hairline(painter);
+    painter.setPen(QPen(look.card.hairline, line));
+    painter.setBrush(look.card.base);
+    painter.drawRoundedRect(QRectF(place).adjusted(line / 2, line / 2, -line / 2, -line / 2), radius, radius);
+    drawRow(painter, m_lifted, place);
+}
+
+void ProfileList::paintEvent(QPaintEvent * /*event*/)
+{
+    const Look look = Look::of(*this);
+    const qreal radius = look.measures.boxRadius;
     QPainter painter(viewport());
-    if (model() != nullptr && model()->rowCount() == 0) {
-        painter.setPen(Look::of(*this).list.quiet);
-        painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap, m_placeholderText);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const qreal line = hairline(painter);
+    const QRect rows = box();
+    QPainterPath outline;
+    outline.addRoundedRect(QRectF(rows).adjusted(line / 2, line / 2, -line / 2, -line / 2), radius, radius);
+    painter.fillPath(outline, look.card.base);
+    const int count = model() != nullptr ? model()->rowCount() : 0;
+    if (count == 0) {
+        painter.setPen(look.card.quiet);
+        painter.drawText(rows, Qt::AlignCenter | Qt::TextWordWrap, m_placeholderText);
     }
-    if (m_target >= 0) {
-        const bool isLast = m_target == model()->rowCount();
-        const QRect row = visualRect(model()->index(isLast ? m_target - 1 : m_target, 0));
-        const int y = isLast ? row.bottom() : qMax(row.top() - 1, 0);
-        painter.fillRect(QRect(row.left(), y, row.width(), 2), Look::of(*this).accent);
+
+    const bool isKeyboardUsed = showsFocus(*this);
+    const QModelIndex pointed = viewport()->underMouse() && m_target < 0
+                                    ? indexAt(viewport()->mapFromGlobal(QCursor::pos()))
+                                    : QModelIndex();
+    for (int row = 0; row < count; ++row) {
+        const QModelIndex index = model()->index(row, 0);
+        const QRect own = visualRect(index);
+        const QRectF inBox(rows.left(), own.top(), rows.width(), own.height());
+        if (index == pointed) {
+            painter.save();
+            painter.setClipPath(outline);
+            painter.fillRect(inBox, look.rowVeil);
+            painter.restore();
+        }
+        // The lines stay where they are while rows are carried over them.
+        if (row > 0)
+            painter.fillRect(QRectF(inBox.left(), inBox.top(), inBox.width(), line), look.card.hairline);
+        if (m_lifted == index)
+            continue;
+        drawRow(painter, index, shownRect(index));
+        if (isKeyboardUsed && index == currentIndex() && m_offsets.isEmpty()) {
+            constexpr qreal inside = 1;
+            drawFocusRing(painter, inBox.adjusted(inside, inside, -inside, -inside), radius - inside, look);
+        }
     }
+    painter.setPen(QPen(look.card.hairline, line));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawPath(outline);
+    if (m_lifted.isValid())
+        drawLifted(painter);
 }
 
 } // namespace roamlet

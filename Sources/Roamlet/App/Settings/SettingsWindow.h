@@ -5,11 +5,12 @@
 
 #include <QWidget>
 
-class QTabWidget;
+class QStackedWidget;
 
 namespace roamlet
 {
 
+class SegmentedTabs;
 struct SettingsServices;
 
 /// The window with the program's settings. Escape closes it.
@@ -20,11 +21,20 @@ class SettingsWindow final : public QWidget
 public:
     explicit SettingsWindow(const SettingsServices &services, QWidget *parent = nullptr);
 
-    /// Opens the window, or brings the open one to the front.
-    void open();
+    /// Opens the window over the middle of `origin`, if there is one, or brings the open one to the front.
+    void open(const QWidget *origin = nullptr);
+
+protected:
+    void changeEvent(QEvent *event) override;
 
 private:
-    QTabWidget *m_tabs;
+    void addPage(const QString &symbol, const QString &title, QWidget *page);
+    void showNextPage(int step);
+    void followFont();
+    void place(const QWidget *origin);
+
+    SegmentedTabs *m_tabs;
+    QStackedWidget *m_pages;
 };
 
 } // namespace roamlet

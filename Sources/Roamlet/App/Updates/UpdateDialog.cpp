@@ -4,6 +4,7 @@
 #include "App/Updates/UpdateDialog.h"
 
 #include "App/Look/NoteLabel.h"
+#include "App/Look/RoamletStyle.h"
 
 #include <QGuiApplication>
 #include <QHBoxLayout>
@@ -90,6 +91,7 @@ QPushButton *UpdateDialog::addButton(const QString &name, const QString &text, R
     // Return presses the same button wherever the focus is.
     button->setAutoDefault(role == Role::Default);
     button->setDefault(role == Role::Default);
+    RoamletStyle::applyTo(*button);
     m_buttons->addWidget(button);
     connect(button, &QPushButton::clicked, this, [this, answer = std::move(answer)] { give(answer); });
     if (role == Role::Default)

@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QProxyStyle>
+
+namespace roamlet
+{
+
+/// What the push buttons of our own windows look like. Menus, tips, pop-ups, scroll bars and the dialogs of
+/// the desktop keep the desktop's style.
+class RoamletStyle final : public QProxyStyle
+{
+    Q_OBJECT
+
+public:
+    /// Gives it to the push buttons in `root`, which may be one itself. Those that come later have to be
+    /// given it, too.
+    static void applyTo(QWidget &root);
+
+    void polish(QWidget *widget) override;
+    using QProxyStyle::polish;
+    void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                     const QWidget *widget) const override;
+    QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &size,
+                           const QWidget *widget) const override;
+    QRect subElementRect(SubElement element, const QStyleOption *option,
+                         const QWidget *widget) const override;
+};
+
+} // namespace roamlet

@@ -1,0 +1,128 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "App/Look/RoamletStyle.h"
+
+#include "App/Look/Contrast.h"
+#include "App/Look/Look.h"
+
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QImage>
+#include <QPushButton>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace roamlet::testing
+{
+namespace
+{
+
+using namespace Qt::StringLiterals;
+
+class RoamletStyleTest : public ::testing::Test
+{
+protected:
+    RoamletStyleTest()
+    {
+        auto *layout = new QHBoxLayout(&window);
+        layout->addWidget(first);
+        layout->addWidget(second);
+        layout->addWidget(check);
+        RoamletStyle::applyTo(window);
+        window.resize(500, 100);
+        window.show();
+    }
+
+    QImage picture(QWidget &widget) { return widget.grab().toImage(); }
+    /// Where nothing is written.
+    QColor groundOf(QWidget &widget)
+    {
+        return picture(widget).pixelColor(widget.width() / 2, Look::of(widget).measures.focusRingWidth +
+                                                                  Measures::focusRingGap + 3);
+    }
+
+    QWidget window;
+    QPushButton *first = new QPushButton(u"Cancel"_s);
+    QPushButton *second = new QPushButton(u"Export"_s);
+    QCheckBox *check = new QCheckBox(u"Other"_s);
+};
+
+TEST_F(RoamletStyleTest, isGivenToPushButtonsOnly)
+{
+    EXPECT_NE(dynamic_cast<const RoamletStyle *>(first->style()), nullptr);
+    EXPECT_EQ(first->style(), second->style());
+    EXPECT_EQ(dynamic_cast<const RoamletStyle *>(check->style()), nullptr);
+    EXPECT_EQ(dynamic_cast<const RoamletStyle *>(window.style()), nullptr);
+    QPushButton alone;
+    RoamletStyle::applyTo(alone);
+    EXPECT_EQ(alone.style(), first->style());
+}
+
+TEST_F(RoamletStyleTest, buttonsAreAsHighAsOtherControlsAndHaveRoomForTheRing)
+{
+    const int ring = 2 * (Measures::focusRingWidth + Measures::focusRingGap);
+    EXPECT_EQ(first->sizeHint().height(), Look::of(*first).measures.controlHeight + ring);
+    // Layouts do not count that room.
+    EXPECT_EQ(second->x() - first->geometry().right() - 1, window.layout()->spacing() - ring);
+}
+
+TEST_F(RoamletStyleTest, theDefaultButtonIsFilledAndDoesNotGrow)
+{
+    const QSize before = second->sizeHint();
+    second->setDefault(true);
+    EXPECT_EQ(second->sizeHint(), before);
+    EXPECT_EQ(groundOf(*second), Look::of(*second).fill);
+    EXPECT_NE(groundOf(*first), Look::of(*second).fill);
+    second->setDown(true);
+    EXPECT_EQ(groundOf(*second), Look::of(*second).fillPressed);
+}
+
+TEST_F(RoamletStyleTest, everyStateLooksDifferent)
+{
+    QList<QImage> pictures{picture(*first)};
+    const auto expectAnother = [&](const char *state) {
+        const QImage drawn = picture(*first);
+        EXPECT_FALSE(pictures.contains(drawn)) << state;
+        pictures.append(drawn);
+    };
+    first->setDown(true);
+    expectAnother("pressed");
+    first->setDown(false);
+    first->setDefault(true);
+    expectAnother("default");
+    first->setEnabled(false);
+    expectAnother("disabled");
+}
+
+TEST_F(RoamletStyleTest, theFocusRingComesWithTheFirstKey)
+{
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    const QImage before = picture(*first);
+    first->setFocus(Qt::MouseFocusReason);
+    EXPECT_EQ(picture(*first), before);
+    QTest::keyClick(first, Qt::Key_Tab);
+    QTest::keyClick(second, Qt::Key_Backtab);
+    ASSERT_TRUE(first->hasFocus());
+    const QImage ringed = picture(*first);
+    EXPECT_NE(ringed, before);
+    EXPECT_EQ(ringed.pixelColor(ringed.width() / 2, 0), Look::of(*first).accent);
+}
+
+TEST_F(RoamletStyleTest, aButtonIsToldFromItsGroundInEveryTheme)
+{
+    for (const auto &[ground, ink] : {std::pair(Qt::white, Qt::black), std::pair(Qt::black, Qt::white)}) {
+        QPalette palette;
+        palette.setColor(QPalette::Window, ground);
+        palette.setColor(QPalette::Base, ground);
+        palette.setColor(QPalette::WindowText, ink);
+        palette.setColor(QPalette::Text, ink);
+        window.setPalette(palette);
+        EXPECT_GE(contrastRatio(groundOf(*first), ground), 1.06);
+    }
+}
+
+} // namespace
+} // namespace roamlet::testing
