@@ -5,7 +5,7 @@
 
 #include "App/Export/FakeAlert.h"
 #include "App/Export/FakeSavePanel.h"
-#include "App/Look/NoteLabel.h"
+#include "App/Look/ChoiceRow.h"
 #include "Export/BookmarkExport.h"
 #include "Opening/Opener.h"
 #include "Platform/FileSizeLimit.h"
@@ -20,11 +20,14 @@
 #include <QDir>
 #include <QFile>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPointer>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QRadioButton>
+#include <QShortcut>
+#include <QSignalSpy>
 #include <QTest>
+#include <QWindow>
 
 #include <unistd.h>
 
@@ -70,10 +73,13 @@ protected:
 
     void open(const ExportRequest &request = {})
     {
-        panel = new ExportPanel(request, {library, home.defaults, savePanel, alert, activation, opener});
+        panel =
+            new ExportPanel(request, {library, home.defaults, savePanel, alert, activation, opener}, &window);
+        window.resize(900, 600);
+        window.show();
         panel->open();
-        panel->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(panel.data()));
+        window.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     }
 
     QComboBox &sources() { return *panel->findChild<QComboBox *>(u"exportSource"_s); }
@@ -84,9 +90,9 @@ protected:
             result.append(sources().itemText(i));
         return result;
     }
-    QRadioButton &format(const QString &name)
+    ChoiceRow &format(const QString &name)
     {
-        return *panel->findChild<QRadioButton *>(u"exportFormat."_s + name);
+        return *panel->findChild<ChoiceRow *>(u"exportFormat."_s + name);
     }
     QPushButton &exportButton() { return *panel->findChild<QPushButton *>(u"exportButton"_s); }
     QPushButton &cancelButton() { return *panel->findChild<QPushButton *>(u"exportCancel"_s); }
@@ -127,6 +133,9 @@ protected:
     FakeWorkspace workspace;
     Opener opener{workspace};
     QTemporaryDir target;
+    /// Has something else that could have the keyboard.
+    QWidget window;
+    QLineEdit *below = new QLineEdit(&window);
     QPointer<ExportPanel> panel;
 
     ~ExportPanelTest() override { delete panel; }
@@ -138,15 +147,13 @@ TEST_F(ExportPanelTest, showsItsPartsFromTopToBottom)
     QList<int> tops;
     for (const QString &name :
          {u"exportHeading"_s, u"exportSource"_s, u"exportFormatLabel"_s, u"exportFormat.html"_s,
-          u"exportFormatNote.html"_s, u"exportFormat.markdown"_s, u"exportFormatNote.markdown"_s,
-          u"exportFormat.csv"_s, u"exportFormatNote.csv"_s, u"exportButton"_s}) {
+          u"exportFormat.markdown"_s, u"exportFormat.csv"_s, u"exportButton"_s}) {
         const auto *widget = panel->findChild<QWidget *>(name);
         ASSERT_NE(widget, nullptr) << qPrintable(name);
         tops.append(widget->mapTo(panel.data(), QPoint(0, 0)).y());
     }
     EXPECT_TRUE(std::ranges::is_sorted(tops));
     EXPECT_EQ(panel->findChild<QLabel *>(u"exportHeading"_s)->text(), u"Export Bookmarks"_s);
-    EXPECT_EQ(panel->windowModality(), Qt::WindowModal);
     EXPECT_EQ(cancelButton().text(), u"Cancel"_s);
     EXPECT_EQ(exportButton().text(), u"Export…"_s);
     EXPECT_EQ(panel->focusWidget(), &exportButton()) << "Return exports at once, on every desktop";
@@ -163,9 +170,9 @@ TEST_F(ExportPanelTest, offersTheThreeFormatsWithTheirDescriptions)
         {u"csv"_s, u"CSV"_s, u"One row per bookmark, for Numbers or Excel."_s}};
     for (const QStringList &row : rows) {
         EXPECT_EQ(format(row[0]).text(), row[1]);
-        EXPECT_EQ(panel->findChild<NoteLabel *>(u"exportFormatNote."_s + row[0])->text(), row[2]);
+        EXPECT_EQ(format(row[0]).note(), row[2]);
     }
-    EXPECT_EQ(panel->findChildren<QRadioButton *>().size(), 3);
+    EXPECT_EQ(panel->findChildren<ChoiceRow *>().size(), 3);
 }
 
 TEST_F(ExportPanelTest, offersAllBrowsersAndEachSourceWithBookmarksInTheUsersOrder)
@@ -237,7 +244,7 @@ TEST_F(ExportPanelTest, anEmptyHomeOffersOnlyAllBrowsers)
 {
     TestHome empty;
     Library nothing(empty.platform());
-    panel = new ExportPanel({}, {nothing, home.defaults, savePanel, alert, activation, opener});
+    panel = new ExportPanel({}, {nothing, home.defaults, savePanel, alert, activation, opener}, &window);
     EXPECT_EQ(choices(), QStringList{u"All Browsers (0)"_s});
 }
 
@@ -249,7 +256,9 @@ TEST_F(ExportPanelTest, anEndlessProfileNameKeepsTheSheetOnTheScreen)
     });
     loadNow(library);
     open();
-    EXPECT_LT(panel->width(), 1200);
+    EXPECT_LE(panel->width(), window.width());
+    EXPECT_LT(panel->card().width(), panel->width());
+    EXPECT_LT(sources().width(), panel->card().width());
     EXPECT_TRUE(choices()[1].endsWith(u"w… (3)")) << qPrintable(choices()[1].right(20));
 }
 
@@ -277,10 +286,11 @@ TEST_F(ExportPanelTest, aStoredFormatThatIsNoneIsHtml)
     EXPECT_TRUE(format(u"html"_s).isChecked());
 }
 
-TEST_F(ExportPanelTest, aClickOnADescriptionChoosesItsFormat)
+TEST_F(ExportPanelTest, aClickAnywhereInItsRowChoosesAFormat)
 {
     open();
-    QTest::mouseClick(panel->findChild<NoteLabel *>(u"exportFormatNote.csv"_s), Qt::LeftButton);
+    ChoiceRow &row = format(u"csv"_s);
+    QTest::mouseClick(&row, Qt::LeftButton, {}, QPoint(row.width() - 2, row.height() - 2));
     EXPECT_TRUE(format(u"csv"_s).isChecked());
     EXPECT_EQ(home.defaults.string(u"export.format"_s), u"csv"_s);
 }
@@ -303,6 +313,50 @@ TEST_F(ExportPanelTest, isDrivenByTheKeyboardAlone)
     EXPECT_EQ(savePanel.requests.first().extension, u"md"_s);
     QTest::keyClick(panel.data(), Qt::Key_Escape);
     EXPECT_FALSE(panel->isVisible());
+}
+
+TEST_F(ExportPanelTest, itIsNoWindowOfItsOwnAndLiesOverTheWholeWindow)
+{
+    open();
+    EXPECT_FALSE(panel->isWindow());
+    EXPECT_EQ(panel->geometry(), window.rect());
+    window.resize(700, 500);
+    EXPECT_EQ(panel->geometry(), window.rect());
+    EXPECT_EQ(panel->card().geometry().center().x(), panel->rect().center().x());
+    EXPECT_EQ(window.childAt(5, 5), panel) << "nothing below is clicked";
+}
+
+TEST_F(ExportPanelTest, theKeyboardStaysInTheSheetAndComesBackWhereItWas)
+{
+    window.show();
+    below->setFocus();
+    open();
+    QWidgetList visited;
+    for (int i = 0; i < 8; ++i) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        visited.append(QApplication::focusWidget());
+    }
+    const QWidgetList once{&sources(), &format(u"html"_s), &cancelButton(), &exportButton()};
+    EXPECT_EQ(visited, once + once);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);
+    EXPECT_TRUE(cancelButton().hasFocus());
+    below->setFocus();
+    EXPECT_TRUE(panel->isAncestorOf(QApplication::focusWidget())) << "the window below has to wait";
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    EXPECT_TRUE(below->hasFocus());
+}
+
+TEST_F(ExportPanelTest, noCommandOfTheWindowIsGivenWhileItIsOpen)
+{
+    const QShortcut shortcut(QKeySequence(u"Ctrl+Q"_s), &window);
+    const QSignalSpy given(&shortcut, &QShortcut::activated);
+    open();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Q, Qt::ControlModifier);
+    EXPECT_EQ(given.count(), 0);
+    QTest::keyClick(panel.data(), Qt::Key_Escape);
+    below->setFocus();
+    QTest::keyClick(below, Qt::Key_Q, Qt::ControlModifier);
+    EXPECT_EQ(given.count(), 1);
 }
 
 TEST_F(ExportPanelTest, everyControlSaysWhatItIs)
@@ -409,18 +463,22 @@ TEST_F(ExportPanelTest, exportsWhatWasThereWhenTheButtonWasPressed)
 TEST_F(ExportPanelTest, waitsVisiblyWhileItWrites)
 {
     open();
-    const QSize size = panel->size();
+    const QSize size = panel->card().size();
     savePanel.chosenPath = path(u"file"_s);
     QTest::mouseClick(&exportButton(), Qt::LeftButton);
     ASSERT_NE(panel, nullptr) << "the file is written elsewhere";
     EXPECT_TRUE(panel->findChild<QProgressBar *>()->isVisible());
-    EXPECT_EQ(panel->size(), size);
+    EXPECT_EQ(panel->card().size(), size);
     for (const QWidget *control :
          {static_cast<QWidget *>(&sources()), static_cast<QWidget *>(&format(u"html"_s)),
           static_cast<QWidget *>(&cancelButton()), static_cast<QWidget *>(&exportButton())})
         EXPECT_FALSE(control->isEnabled()) << qPrintable(control->objectName());
+    QTest::keyClick(&window, Qt::Key_Escape);
     QTest::keyClick(panel.data(), Qt::Key_Escape);
     EXPECT_TRUE(panel->isVisible()) << "the user is told how it ends";
+    EXPECT_TRUE(panel->hasFocus()) << "the window below has to wait";
+    window.windowHandle()->close();
+    EXPECT_TRUE(window.isVisible()) << "by its frame it cannot be closed, either";
     ASSERT_TRUE(waitUntil([this] { return panel == nullptr; }));
     EXPECT_EQ(savedNames(), QStringList{u"file"_s});
 }

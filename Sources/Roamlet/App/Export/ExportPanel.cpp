@@ -5,24 +5,25 @@
 
 #include "App/Export/Alert.h"
 #include "App/Export/SavePanel.h"
+#include "App/Look/BoxedComboBox.h"
+#include "App/Look/BoxedList.h"
+#include "App/Look/ChoiceRow.h"
 #include "App/Look/Look.h"
-#include "App/Look/NoteLabel.h"
+#include "App/Look/Painting.h"
+#include "App/Look/RoamletStyle.h"
 #include "App/Look/Symbol.h"
 #include "App/Tables/CellText.h"
 #include "Library/Library.h"
 #include "Platform/ActivationPolicy.h"
 #include "Platform/UserDefaults.h"
 
-#include <QComboBox>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QMouseEvent>
 #include <QPointer>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QSignalBlocker>
-#include <QStyle>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -90,72 +91,37 @@ QList<Bookmark> ofSource(const QList<Bookmark> &bookmarks, const std::optional<Q
 
 } // namespace
 
-ExportPanel::ExportPanel(const ExportRequest &request, const Services &services, QWidget *parent)
-    : QDialog(parent),
+ExportPanel::ExportPanel(const ExportRequest &request, const Services &services, QWidget *window)
+    : Sheet(window),
       m_services(services),
       m_sourceID(request.sourceID),
-      m_sources(new QComboBox),
+      m_heading(new QLabel(tr("Export Bookmarks"))),
+      m_from(new QLabel(tr("From:"))),
+      m_sources(new BoxedComboBox),
       m_icons(services.library, services.opener, *this),
+      m_format(new QLabel(tr("Format:"))),
       m_progress(new QProgressBar),
       m_cancel(new QPushButton(tr("Cancel"))),
       m_export(new QPushButton(tr("Export…")))
 {
     setObjectName(u"exportPanel"_s);
-    setWindowTitle(tr("Export Bookmarks"));
-    setWindowModality(Qt::WindowModal);
-    setAttribute(Qt::WA_DeleteOnClose);
-    auto *layout = new QVBoxLayout(this);
-    layout->setSizeConstraint(QLayout::SetFixedSize);
-    layout->setContentsMargins(20, 20, 20, 20);
-
-    auto *heading = new QLabel(tr("Export Bookmarks"));
-    heading->setObjectName(u"exportHeading"_s);
-    QFont bold = heading->font();
-    bold.setBold(true);
-    heading->setFont(bold);
-    layout->addWidget(heading);
-    layout->addSpacing(8);
-
+    setAccessibleName(m_heading->text());
+    m_heading->setObjectName(u"exportHeading"_s);
     m_sources->setObjectName(u"exportSource"_s);
     m_sources->setAccessibleName(tr("From"));
-    m_sources->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     m_sources->setPlaceholderText(tr("No bookmarks"));
-    updateColors();
-    auto *from = new QLabel(tr("From:"));
-    from->setBuddy(m_sources);
-    auto *fromRow = new QHBoxLayout;
-    fromRow->addWidget(from);
-    fromRow->addWidget(m_sources);
-    fromRow->addStretch();
-    layout->addLayout(fromRow);
-    layout->addSpacing(8);
+    m_from->setBuddy(m_sources);
+    m_format->setObjectName(u"exportFormatLabel"_s);
 
+    auto *layout = new QVBoxLayout(&card());
+    layout->addWidget(m_heading);
+    layout->addWidget(m_from);
+    layout->addWidget(m_sources);
+    layout->addWidget(m_format);
     buildFormats(layout);
-    layout->addSpacing(12);
-
-    m_progress->setObjectName(u"exportProgress"_s);
-    m_progress->setAccessibleName(tr("Exporting"));
-    m_progress->setRange(0, 0);
-    m_progress->setTextVisible(false);
-    m_progress->setMaximumWidth(120);
-    // The sheet keeps its size.
-    QSizePolicy policy = m_progress->sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    m_progress->setSizePolicy(policy);
-    m_progress->hide();
-    m_cancel->setObjectName(u"exportCancel"_s);
-    m_cancel->setAccessibleName(m_cancel->text());
-    // Return always exports, wherever the focus is.
-    m_cancel->setAutoDefault(false);
-    m_export->setObjectName(u"exportButton"_s);
-    m_export->setAccessibleName(m_export->text());
-    m_export->setDefault(true);
-    auto *buttons = new QHBoxLayout;
-    buttons->addWidget(m_progress);
-    buttons->addStretch();
-    buttons->addWidget(m_cancel);
-    buttons->addWidget(m_export);
-    layout->addLayout(buttons);
+    buildButtons(layout);
+    RoamletStyle::applyTo(*this);
+    followWindow();
 
     fillSources();
     connect(m_sources, &QComboBox::currentIndexChanged, this, [this](int index) {
@@ -170,66 +136,77 @@ ExportPanel::ExportPanel(const ExportRequest &request, const Services &services,
     m_export->setFocus();
 }
 
-void ExportPanel::updateColors()
+void ExportPanel::buildFormats(QVBoxLayout *layout)
 {
-    setPaletteColor(*m_sources, QPalette::PlaceholderText, Look::of(*this).button.quiet);
+    auto *choices = new BoxedList;
+    for (const Format format : BookmarkExport::formats) {
+        const QString name = BookmarkExport::rawValue(format);
+        auto *choice = new ChoiceRow(title(format), description(format));
+        choice->setObjectName(u"exportFormat."_s + name);
+        choice->setChecked(format == storedFormat());
+        connect(choice, &ChoiceRow::toggled, this, [this, name](bool isChosen) {
+            if (isChosen)
+                m_services.defaults.setString(formatKey.toString(), name);
+        });
+        m_formats.at(static_cast<std::size_t>(format)) = choice;
+        choices->addRow(choice);
+    }
+    layout->addWidget(choices);
+}
+
+void ExportPanel::buildButtons(QVBoxLayout *layout)
+{
+    m_progress->setObjectName(u"exportProgress"_s);
+    m_progress->setAccessibleName(tr("Exporting"));
+    m_progress->setRange(0, 0);
+    m_progress->setTextVisible(false);
+    // The sheet keeps its size.
+    QSizePolicy policy = m_progress->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    m_progress->setSizePolicy(policy);
+    m_progress->hide();
+    m_cancel->setObjectName(u"exportCancel"_s);
+    m_cancel->setAccessibleName(m_cancel->text());
+    m_export->setObjectName(u"exportButton"_s);
+    m_export->setAccessibleName(m_export->text());
+    // Return always exports, wherever the focus is.
+    m_export->setDefault(true);
+    auto *buttons = new QHBoxLayout;
+    buttons->setContentsMargins(0, Look::of(*this).measures.gapAroundGroups, 0, 0);
+    buttons->setSpacing(Look::of(*this).measures.gapAfterIcon);
+    buttons->addWidget(m_progress);
+    buttons->addStretch();
+    buttons->addWidget(m_cancel);
+    buttons->addWidget(m_export);
+    layout->addLayout(buttons);
+}
+
+void ExportPanel::followWindow()
+{
+    const Look look = Look::of(*this);
+    const Measures &measures = look.measures;
+    m_heading->setFont(look.titleFont);
+    m_from->setFont(look.headingFont);
+    m_format->setFont(look.headingFont);
+    m_sources->setIconSize({measures.iconSide, measures.iconSide});
+    m_progress->setMaximumWidth(measures.sidebarWidth / 2);
+    for (QPushButton *button : {m_cancel, m_export})
+        button->setMinimumWidth(measures.buttonWidth);
+    QLayout &layout = *card().layout();
+    const int padding = measures.sheetPadding;
+    layout.setContentsMargins(padding, padding, padding, padding);
+    layout.setSpacing(measures.gapAroundGroups);
+    for (QLabel *label : {m_from, m_format})
+        label->setContentsMargins(0, measures.gapAroundGroups, 0, 0);
+    for (QLabel *label : {m_heading, m_from, m_format})
+        alignToLine(*label);
 }
 
 void ExportPanel::changeEvent(QEvent *event)
 {
-    if (event->type() == QEvent::PaletteChange)
-        updateColors();
-    QDialog::changeEvent(event);
-}
-
-void ExportPanel::buildFormats(QVBoxLayout *layout)
-{
-    auto *label = new QLabel(tr("Format:"));
-    label->setObjectName(u"exportFormatLabel"_s);
-    layout->addWidget(label);
-    const int indent = style()->pixelMetric(QStyle::PM_ExclusiveIndicatorWidth, nullptr, this) +
-                       style()->pixelMetric(QStyle::PM_RadioButtonLabelSpacing, nullptr, this);
-    for (const Format format : BookmarkExport::formats) {
-        const QString name = BookmarkExport::rawValue(format);
-        auto *button = new QRadioButton(title(format));
-        button->setObjectName(u"exportFormat."_s + name);
-        button->setAccessibleName(button->text());
-        button->setAccessibleDescription(description(format));
-        button->setChecked(format == storedFormat());
-        connect(button, &QRadioButton::toggled, this, [this, name](bool isChosen) {
-            if (isChosen)
-                m_services.defaults.setString(formatKey.toString(), name);
-        });
-        m_formats.at(static_cast<std::size_t>(format)) = button;
-
-        auto *note = new NoteLabel;
-        note->setObjectName(u"exportFormatNote."_s + name);
-        note->setText(description(format));
-        note->setWordWrap(false);
-        note->setContentsMargins(indent, 0, 0, 0);
-        // The words belong to the button: a click on them chooses it.
-        note->installEventFilter(this);
-
-        auto *choice = new QVBoxLayout;
-        choice->setSpacing(1);
-        choice->addWidget(button);
-        choice->addWidget(note);
-        layout->addLayout(choice);
-    }
-}
-
-bool ExportPanel::eventFilter(QObject *watched, QEvent *event)
-{
-    if (event->type() == QEvent::MouseButtonRelease &&
-        static_cast<QMouseEvent *>(event)->button() == Qt::LeftButton && !m_isBusy) {
-        for (QRadioButton *button : m_formats) {
-            if (watched->objectName() == button->objectName().replace("Format."_L1, "FormatNote."_L1)) {
-                button->setFocus();
-                button->click();
-            }
-        }
-    }
-    return QDialog::eventFilter(watched, event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::LayoutDirectionChange)
+        followWindow();
+    Sheet::changeEvent(event);
 }
 
 void ExportPanel::fillSources()
@@ -246,7 +223,7 @@ void ExportPanel::fillSources()
         // A profile's name has no limit; the list has.
         constexpr qsizetype longestLabel = 80;
         m_sources->addItem(
-            icon, u"%1 (%2)"_s.arg(CellText::oneLine(label, longestLabel), locale().toString(count)));
+            icon, tr("%1 (%2)").arg(CellText::oneLine(label, longestLabel), locale().toString(count)));
         m_choices.append(id);
         if (id == m_sourceID)
             m_sources->setCurrentIndex(m_sources->count() - 1);
@@ -308,7 +285,7 @@ void ExportPanel::write(const Job &job, const QString &path)
 void ExportPanel::reject()
 {
     if (!m_isBusy)
-        QDialog::reject();
+        Sheet::reject();
 }
 
 void ExportPanel::setBusy(bool isBusy)
@@ -316,8 +293,8 @@ void ExportPanel::setBusy(bool isBusy)
     m_isBusy = isBusy;
     m_progress->setVisible(isBusy);
     m_sources->setDisabled(isBusy);
-    for (QRadioButton *button : m_formats)
-        button->setDisabled(isBusy);
+    for (ChoiceRow *choice : m_formats)
+        choice->setDisabled(isBusy);
     m_cancel->setDisabled(isBusy);
     m_export->setDisabled(isBusy);
     if (!isBusy)

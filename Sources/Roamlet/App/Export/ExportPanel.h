@@ -4,19 +4,18 @@
 #pragma once
 
 #include "App/Export/ExportRequest.h"
+#include "App/Look/Sheet.h"
 #include "App/Look/SourceIcons.h"
 #include "Export/BookmarkExport.h"
 #include "Platform/BackgroundTasks.h"
 
-#include <QDialog>
 #include <QList>
 
 #include <array>
 
-class QComboBox;
+class QLabel;
 class QProgressBar;
 class QPushButton;
-class QRadioButton;
 class QVBoxLayout;
 
 namespace roamlet
@@ -24,6 +23,8 @@ namespace roamlet
 
 class ActivationPolicy;
 class Alert;
+class BoxedComboBox;
+class ChoiceRow;
 class Library;
 class Opener;
 class SavePanel;
@@ -31,7 +32,7 @@ class UserDefaults;
 
 /// The sheet in which the user chooses which bookmarks to export and in which format. Rendering and writing
 /// happen away from the main thread; until they are done, the sheet waits.
-class ExportPanel final : public QDialog
+class ExportPanel final : public Sheet
 {
     Q_OBJECT
 
@@ -46,14 +47,14 @@ public:
         Opener &opener;
     };
 
-    ExportPanel(const ExportRequest &request, const Services &services, QWidget *parent = nullptr);
+    /// `window` is what it lies over.
+    ExportPanel(const ExportRequest &request, const Services &services, QWidget *window);
 
     /// Closes the sheet, unless a file is being written.
     void reject() override;
 
 protected:
     void changeEvent(QEvent *event) override;
-    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     /// What one export works on, taken when the button is pressed: a reload meanwhile changes nothing.
@@ -64,8 +65,9 @@ private:
         std::optional<QString> sourceID;
     };
 
-    void updateColors();
+    void followWindow();
     void buildFormats(QVBoxLayout *layout);
+    void buildButtons(QVBoxLayout *layout);
     void fillSources();
     /// What is stored, or HTML.
     BookmarkExport::Format storedFormat() const;
@@ -77,9 +79,12 @@ private:
     std::optional<QString> m_sourceID;
     /// The source ids of the choices.
     QList<std::optional<QString>> m_choices;
-    QComboBox *m_sources;
+    QLabel *m_heading;
+    QLabel *m_from;
+    BoxedComboBox *m_sources;
     SourceIcons m_icons;
-    std::array<QRadioButton *, BookmarkExport::formats.size()> m_formats{};
+    QLabel *m_format;
+    std::array<ChoiceRow *, BookmarkExport::formats.size()> m_formats{};
     QProgressBar *m_progress;
     QPushButton *m_cancel;
     QPushButton *m_export;
