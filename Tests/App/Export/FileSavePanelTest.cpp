@@ -16,7 +16,6 @@
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -113,18 +112,23 @@ TEST_F(FileSavePanelTest, asksBeforeAFileIsReplaced)
 {
     sample::writeFile(path(u"old.html"_s), "old");
     ask(html);
-    // The dialog's own question runs an event loop.
-    bool wasAsked = false;
-    QTimer::singleShot(0, dialog, [&] {
-        QMessageBox *box = question();
-        ASSERT_NE(box, nullptr);
-        wasAsked = true;
-        QTest::mouseClick(box->button(QMessageBox::No), Qt::LeftButton);
-    });
     type(u"old.html"_s);
-    EXPECT_TRUE(wasAsked);
+    QMessageBox *box = question();
+    ASSERT_NE(box, nullptr);
+    EXPECT_TRUE(box->text().contains(u"“old.html”")) << qPrintable(box->text());
+    EXPECT_EQ(answers, 0);
+    QTest::mouseClick(box->button(QMessageBox::No), Qt::LeftButton);
     EXPECT_EQ(answers, 0);
     EXPECT_TRUE(dialog->isVisible());
+}
+
+TEST_F(FileSavePanelTest, asksOnlyAboutTheFileThatIsWritten)
+{
+    sample::writeFile(path(u"old"_s), "old");
+    ask(html);
+    type(u"old"_s);
+    EXPECT_EQ(answer, path(u"old.html"_s)) << "nobody asks about the other one, which stays";
+    EXPECT_EQ(answers, 1);
 }
 
 TEST_F(FileSavePanelTest, asksBeforeAFileIsReplacedWhoseExtensionWasLeftOut)
@@ -181,15 +185,15 @@ TEST_F(FileSavePanelTest, aPanelWhoseWindowGoesTellsNobody)
     EXPECT_EQ(answers, 0);
 }
 
-TEST_F(FileSavePanelTest, anAlertShowsTheProblemAndWhatItIsAboutAsPlainText)
+TEST_F(FileSavePanelTest, anAlertSaysWhatCouldNotBeSavedAndThenWhyAsPlainText)
 {
     MessageAlert alert;
     alert.show(&parent, u"<b>Permission denied</b>"_s, u"/home/<i>x</i>"_s);
     auto *box = parent.findChild<QMessageBox *>(u"alert"_s);
     ASSERT_NE(box, nullptr);
     EXPECT_TRUE(box->isVisible());
-    EXPECT_EQ(box->text(), u"<b>Permission denied</b>"_s);
-    EXPECT_EQ(box->informativeText(), u"/home/<i>x</i>"_s);
+    EXPECT_EQ(box->text(), u"“/home/<i>x</i>” could not be saved."_s);
+    EXPECT_EQ(box->informativeText(), u"<b>Permission denied</b>"_s);
     EXPECT_EQ(box->textFormat(), Qt::PlainText);
     EXPECT_EQ(box->icon(), QMessageBox::Critical);
     QTest::keyClick(box, Qt::Key_Return);

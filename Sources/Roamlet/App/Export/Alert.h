@@ -19,8 +19,8 @@ public:
     Alert &operator=(const Alert &) = delete;
     virtual ~Alert() = default;
 
-    /// Shows the system's words for what went wrong, and below what they are about. Returns at once; `parent`
-    /// is blocked until the user has read it.
+    /// Says that the file `subject` could not be saved, and below, in the system's words, why. Returns at
+    /// once; `parent` is blocked until the user has read it.
     virtual void show(QWidget *parent, const QString &problem, const QString &subject) = 0;
 };
 

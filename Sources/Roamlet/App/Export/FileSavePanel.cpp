@@ -43,8 +43,9 @@ void FileSavePanel::ask(QWidget *parent, const Request &request, Answer answer)
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setFileMode(QFileDialog::AnyFile);
     dialog->setMimeTypeFilters({request.type});
-    // The dialog is not told about the extension: a native one asks about replacing what was typed, and the
-    // extension is added behind its back.
+    // A dialog asks whether to replace the file that was typed. With the extension it can be another one, so
+    // the question is asked here.
+    dialog->setOption(QFileDialog::DontConfirmOverwrite);
     dialog->selectFile(suggestedFileName(request));
     QObject::connect(dialog, &QFileDialog::accepted, dialog,
                      [this, dialog, request, answer] { accept(dialog, request, answer); });
@@ -57,8 +58,7 @@ void FileSavePanel::ask(QWidget *parent, const Request &request, Answer answer)
 
 void FileSavePanel::accept(QFileDialog *dialog, const Request &request, const Answer &answer)
 {
-    const QString typed = dialog->selectedFiles().value(0);
-    const QString path = completed(typed, request);
+    const QString path = completed(dialog->selectedFiles().value(0), request);
     const auto finish = [this, dialog, answer](const QString &chosen) {
         m_folder = QFileInfo(chosen).path();
         dialog->deleteLater();
@@ -66,7 +66,7 @@ void FileSavePanel::accept(QFileDialog *dialog, const Request &request, const An
     };
     // Anything of that name counts, a link to nowhere as well.
     const QFileInfo existing(path);
-    if (path == typed || (!existing.exists() && !existing.isSymLink())) {
+    if (!existing.exists() && !existing.isSymLink()) {
         finish(path);
         return;
     }
