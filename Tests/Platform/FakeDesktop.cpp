@@ -135,7 +135,8 @@ void FakeDesktop::prepareProcess()
                    writeProgram(folder.filePath(name)) % u" --own-option %u", u"NoDisplay=true\n"_s);
     write(config % u"/mimeapps.list", u"[Default Applications]\n"
                                       "x-scheme-handler/https=preferred-browser.desktop\n"
-                                      "x-scheme-handler/settings=system-handler.desktop\n"_s);
+                                      "x-scheme-handler/settings=system-handler.desktop\n"
+                                      "inode/directory=system-handler.desktop\n"_s);
     qputenv("HOME", QFile::encodeName(folder.path()));
     qputenv("XDG_DATA_HOME", QFile::encodeName(data));
     qputenv("XDG_DATA_DIRS", QFile::encodeName(folder.filePath(u"nothing"_s)));

@@ -48,8 +48,8 @@ public:
     Start onlyStart() const;
 
     /// Makes the process look for the user's preferences in a folder of the tests' own, in which
-    /// "preferred-browser" is the preferred browser and "system-handler" opens "settings:" URLs. Once for
-    /// each process: the system's library looks only once.
+    /// "preferred-browser" is the preferred browser and "system-handler" opens "settings:" URLs and folders.
+    /// Once for each process: the system's library looks only once.
     static void prepareProcess();
 
 private:

@@ -447,6 +447,14 @@ TEST_F(LinuxWorkspaceTest, aSystemUrlGoesToWhateverTheSystemHasForIt)
     EXPECT_EQ(start.arguments, QStringList({u"--own-option"_s, u"settings:privacy"_s}));
 }
 
+TEST_F(LinuxWorkspaceTest, aFolderGoesToTheFileManager)
+{
+    workspace.openSystemURL(u"file:///home/anna/Library"_s);
+    const FakeDesktop::Start start = onlyStart();
+    EXPECT_EQ(start.program, u"system-handler");
+    EXPECT_EQ(start.arguments, QStringList({u"--own-option"_s, u"/home/anna/Library"_s}));
+}
+
 TEST_F(LinuxWorkspaceTest, aSystemUrlThatNobodyHandlesOpensNothing)
 {
     workspace.openSystemURL(u"x-apple.systempreferences:privacy"_s);

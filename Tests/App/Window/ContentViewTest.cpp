@@ -13,12 +13,14 @@
 #include "Support/Waiting.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
 #include <QTest>
 #include <QTreeView>
+#include <QUrl>
 
 #include <gmock/gmock.h>
 
@@ -282,6 +284,26 @@ TEST_F(ContentViewTest, aRefusalOfSafarisFilesShowsTheBanner)
     QTest::mouseClick(part<QPushButton>(*content, u"bannerReloadButton"_s), Qt::LeftButton);
     EXPECT_TRUE(library->isLoading());
     EXPECT_TRUE(waitUntil([&] { return !isShown(*content, u"fullDiskAccessBanner"_s); }));
+}
+
+TEST_F(ContentViewTest, whereAFilesPermissionsAreInTheWayTheBannerLeadsToThem)
+{
+    addSafari();
+    const QString history = safariFile(u"History.db"_s);
+    const auto before = QFile::permissions(history);
+    ASSERT_TRUE(QFile::setPermissions(history, {}));
+    if (QFileInfo(history).isReadable()) {
+        QFile::setPermissions(history, before);
+        GTEST_SKIP() << "permissions stop nobody here";
+    }
+    loadNow(*library);
+    const auto content = makeContent();
+    EXPECT_THAT(part<QLabel>(*content, u"fullDiskAccessDetails"_s)->text().toStdString(),
+                ::testing::HasSubstr("your permission to read it is missing"));
+    QTest::mouseClick(part<QPushButton>(*content, u"openSettingsButton"_s), Qt::LeftButton);
+    EXPECT_EQ(workspace.requests,
+              QList<QStringList>({{u"system"_s, QUrl::fromLocalFile(safariFile({})).toString().chopped(1)}}));
+    QFile::setPermissions(history, before);
 }
 
 TEST_F(ContentViewTest, theTabKeyGoesFromAboveWhicheverStripCameFirst)

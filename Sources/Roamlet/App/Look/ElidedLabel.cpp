@@ -85,6 +85,8 @@ void ElidedLabel::paintEvent(QPaintEvent * /*event*/)
         QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter);
     const auto draw = [&](const QString &text, int start) {
         const QRect place(start, 0, width() - start, height());
+        // A text is read in its own direction, wherever it stands.
+        painter.setLayoutDirection(text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
         painter.drawText(QStyle::visualRect(layoutDirection(), rect(), place),
                          static_cast<int>(alignment) | Qt::TextSingleLine,
                          painter.fontMetrics().elidedText(text, Qt::ElideRight, place.width()));

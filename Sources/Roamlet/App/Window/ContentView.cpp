@@ -13,6 +13,7 @@
 #include "App/Window/FullDiskAccessBanner.h"
 #include "App/Window/ListStack.h"
 #include "App/Window/LoadingRows.h"
+#include "App/Window/RefusedFile.h"
 #include "App/Window/Sidebar.h"
 #include "App/Window/SidebarPlace.h"
 #include "App/Window/SiteFilterBar.h"
@@ -28,6 +29,7 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QToolButton>
+#include <QUrl>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -78,10 +80,10 @@ QString whereWeLooked(const Folders &folders)
         places.append(ofBrowser.join(u", "_s));
     }
     const QString last = names.takeLast();
-    return u"Roamlet looks for the data of " % names.join(u", "_s) % u" and " % last %
-           u" in these folders, in those of their beta versions, Flatpaks and snaps, and where a Mac keeps "
-           "them:\n\n" %
-           places.join(u'\n');
+    return ContentView::tr("Roamlet looks for the data of %1 and %2 in these folders, in those of their beta "
+                           "versions, Flatpaks and snaps, and where a Mac keeps them:")
+               .arg(names.join(u", "_s), last) %
+           u"\n\n" % places.join(u'\n');
 }
 
 } // namespace
@@ -190,12 +192,21 @@ void ContentView::showAccessBanner()
         m_accessBanner = new FullDiskAccessBanner(this);
         connect(m_accessBanner, &FullDiskAccessBanner::reloadRequested, this, &ContentView::reload);
         connect(m_accessBanner, &FullDiskAccessBanner::openSettingsRequested, this, [this] {
+            const std::optional<RefusedFile> refused = refusedFile();
             m_services.workspace.openSystemURL(
-                u"x-apple.systempreferences:com.apple.preference.security?Privacy_AllFiles"_s);
+                refused ? QUrl::fromLocalFile(refused->folder()).toString(QUrl::FullyEncoded)
+                        : u"x-apple.systempreferences:com.apple.preference.security?Privacy_AllFiles"_s);
         });
         insert(m_accessBanner, m_header, m_header->menuButton());
     }
+    const std::optional<RefusedFile> refused = refusedFile();
+    m_accessBanner->setDetails(refused ? refused->words() : QString());
     m_accessBanner->setOpen(true);
+}
+
+std::optional<RefusedFile> ContentView::refusedFile() const
+{
+    return RefusedFile::in(m_services.folders.dataFolders(Source::Kind::Safari, {}));
 }
 
 void ContentView::showSiteBar(const QString &site)

@@ -31,6 +31,7 @@ class ListStack;
 class LoadingRows;
 class Sidebar;
 class SidebarPlace;
+struct RefusedFile;
 class SiteFilterBar;
 
 /// The content of the main window: the sidebar, and the list that is chosen there with what belongs to it.
@@ -87,6 +88,8 @@ private:
     QWidget *makeDetail();
     // What can stand below the header is made when it is looked at first.
     void showAccessBanner();
+    /// What lies behind a refusal where the files' permissions do.
+    std::optional<RefusedFile> refusedFile() const;
     void showSiteBar(const QString &site);
     /// Puts a strip right below another part, also for the Tab key, which comes to it from `focusedBefore`.
     void insert(QWidget *strip, const QWidget *above, QWidget *focusedBefore);

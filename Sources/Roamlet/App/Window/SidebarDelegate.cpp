@@ -57,6 +57,8 @@ public:
     {
         const QRect place(m_start, m_body.top(), m_end - m_start, m_body.height());
         const auto alignment = QStyle::visualAlignment(m_option.direction, Qt::AlignLeft | Qt::AlignVCenter);
+        // A profile's name is read in its own direction, wherever it stands.
+        m_painter.setLayoutDirection(text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
         m_painter.drawText(QStyle::visualRect(m_option.direction, m_option.rect, place),
                            static_cast<int>(alignment) | Qt::TextSingleLine,
                            m_painter.fontMetrics().elidedText(text, Qt::ElideRight, place.width()));

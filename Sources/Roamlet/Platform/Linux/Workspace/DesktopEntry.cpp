@@ -143,7 +143,10 @@ void DesktopEntry::launchPreferred(const QString &scheme, const QStringList &url
 {
     if (scheme.isEmpty())
         return;
-    const GLibPointer<GAppInfo> info(g_app_info_get_default_for_uri_scheme(scheme.toUtf8().constData()));
+    // File managers register for folders, not for addresses of files.
+    const GLibPointer<GAppInfo> info(
+        scheme == u"file" ? g_app_info_get_default_for_type("inode/directory", FALSE)
+                          : g_app_info_get_default_for_uri_scheme(scheme.toUtf8().constData()));
     if (info && G_IS_DESKTOP_APP_INFO(info.get()) != FALSE)
         launchWith(G_DESKTOP_APP_INFO(info.get()), urls);
 }

@@ -31,7 +31,7 @@ struct DesktopEntry {
     /// The entries of this name ("google-chrome.desktop") that could be started, those of the first folder
     /// first. An entry that hides the application also hides those in the folders behind it.
     static QList<DesktopEntry> named(const QString &name, const QStringList &dataFolders);
-    /// Opens URLs with the application that the user prefers for `scheme`.
+    /// Opens URLs with the application that the user prefers for `scheme`. Those of files are of folders.
     static void launchPreferred(const QString &scheme, const QStringList &urls);
 };
 
