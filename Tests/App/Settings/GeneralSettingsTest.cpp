@@ -88,7 +88,7 @@ TEST_F(GeneralSettingsTest, theWindowHasTwoTabsWithSymbols)
 TEST_F(GeneralSettingsTest, theWindowOpensOverTheMiddleOfTheOneItComesFromAndOnTheScreen)
 {
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
-    SettingsWindow settings({library, home.defaults, login, activation, delegate});
+    SettingsWindow settings({library, home.defaults, login, activation, delegate, opener});
     QWidget origin;
     origin.setGeometry(QRect(screen.center() - QPoint(90, 60), QSize(240, 180)));
     origin.show();

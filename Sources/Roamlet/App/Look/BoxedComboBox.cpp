@@ -3,6 +3,8 @@
 
 #include "App/Look/BoxedComboBox.h"
 
+#include "App/Look/Chevron.h"
+#include "App/Look/Hairline.h"
 #include "App/Look/Look.h"
 #include "App/Look/Painting.h"
 
@@ -52,7 +54,7 @@ void BoxedComboBox::paintEvent(QPaintEvent * /*event*/)
     const QIcon::Mode mode = isEnabled() ? QIcon::Normal : QIcon::Disabled;
     QRect inner = rect().adjusted(measures.boxPadding, 0, -measures.boxPadding, 0);
     const QRect chevron(inner.right() + 1 - measures.iconSide, 0, measures.iconSide, height());
-    drawChevron(painter, visual(chevron), isEnabled() ? look.card.ink : look.card.faint, look);
+    drawChevron(painter, visual(chevron), Qt::DownArrow, isEnabled() ? look.card.ink : look.card.faint);
     inner.setRight(chevron.left() - measures.gapAfterIcon);
     if (const QIcon icon = itemIcon(currentIndex()); !icon.isNull()) {
         icon.paint(&painter, visual({inner.left(), 0, measures.iconSide, height()}), Qt::AlignCenter, mode);

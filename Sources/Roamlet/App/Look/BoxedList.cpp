@@ -3,6 +3,7 @@
 
 #include "App/Look/BoxedList.h"
 
+#include "App/Look/Hairline.h"
 #include "App/Look/Look.h"
 #include "App/Look/Painting.h"
 

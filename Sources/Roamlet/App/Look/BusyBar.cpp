@@ -12,10 +12,9 @@
 namespace roamlet
 {
 
-BusyBar::BusyBar(const QString &work, QWidget *parent) : QWidget(parent)
+BusyBar::BusyBar(QWidget *parent) : QWidget(parent)
 {
     setObjectName(QStringLiteral("busyBar"));
-    setAccessibleName(work);
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setFixedHeight(thickness);
     constexpr int onePass = 1200; // milliseconds

@@ -18,8 +18,7 @@ class BusyBar final : public QWidget
 public:
     static constexpr int thickness = 2;
 
-    /// `work` is what a screen reader calls it.
-    explicit BusyBar(const QString &work, QWidget *parent = nullptr);
+    explicit BusyBar(QWidget *parent = nullptr);
 
 protected:
     void showEvent(QShowEvent *event) override;

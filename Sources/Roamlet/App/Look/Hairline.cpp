@@ -8,9 +8,14 @@
 namespace roamlet
 {
 
+qreal hairline(const QPainter &painter)
+{
+    return 1 / painter.device()->devicePixelRatioF();
+}
+
 void paintHairline(QPainter &painter, const QRect &rect, Qt::Edge edge, const QColor &color)
 {
-    const qreal thickness = 1 / painter.device()->devicePixelRatioF();
+    const qreal thickness = hairline(painter);
     QRectF line(rect);
     switch (edge) {
     case Qt::TopEdge:

@@ -14,4 +14,9 @@ bool isMotionWanted(const QWidget &widget)
     return widget.style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, &widget) > 0;
 }
 
+int motionTime(const QWidget &widget, int milliseconds)
+{
+    return isMotionWanted(widget) ? milliseconds : 0;
+}
+
 } // namespace roamlet

@@ -48,35 +48,10 @@ void drawShadow(QPainter &painter, const QRectF &rect, qreal radius, const Look 
     painter.restore();
 }
 
-void drawChevron(QPainter &painter, const QRectF &rect, const QColor &ink, const Look &look)
-{
-    const qreal sixteenth = look.measures.iconSide / 16.0;
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(ink, 1.5 * sixteenth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    const QPointF tip = rect.center() + QPointF(0, 1.6 * sixteenth);
-    const qreal arm = 3.25 * sixteenth;
-    const QPolygonF chevron{tip + QPointF(-arm, -arm), tip, tip + QPointF(arm, -arm)};
-    painter.drawPolyline(chevron);
-    painter.restore();
-}
-
-qreal hairline(const QPainter &painter)
-{
-    return 1 / painter.device()->devicePixelRatioF();
-}
-
 void alignToLine(QLabel &label)
 {
     label.setAlignment(QStyle::visualAlignment(label.layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter) |
                        Qt::AlignAbsolute);
-}
-
-int motionTime(const QWidget &widget, int milliseconds)
-{
-    const bool isStill =
-        widget.style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, &widget) == 0;
-    return isStill ? 0 : milliseconds;
 }
 
 } // namespace roamlet

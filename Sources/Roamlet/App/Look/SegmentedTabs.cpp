@@ -3,6 +3,7 @@
 
 #include "App/Look/SegmentedTabs.h"
 
+#include "App/Look/Hairline.h"
 #include "App/Look/Look.h"
 #include "App/Look/Painting.h"
 #include "App/Look/Symbol.h"

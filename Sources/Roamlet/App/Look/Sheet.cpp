@@ -3,7 +3,9 @@
 
 #include "App/Look/Sheet.h"
 
+#include "App/Look/Hairline.h"
 #include "App/Look/Look.h"
+#include "App/Look/Motion.h"
 #include "App/Look/Painting.h"
 
 #include <QAccessibleWidget>

@@ -4,6 +4,7 @@
 #include "App/Look/Switch.h"
 
 #include "App/Look/Look.h"
+#include "App/Look/Motion.h"
 #include "App/Look/Painting.h"
 
 #include <QPainter>

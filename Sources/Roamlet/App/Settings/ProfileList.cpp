@@ -3,7 +3,9 @@
 
 #include "App/Settings/ProfileList.h"
 
+#include "App/Look/Hairline.h"
 #include "App/Look/Look.h"
+#include "App/Look/Motion.h"
 #include "App/Look/Painting.h"
 #include "App/Settings/ProfileDelegate.h"
 

@@ -3,7 +3,6 @@
 
 #include "App/Tables/LinkTable.h"
 
-#include "App/Look/BusyBar.h"
 #include "App/Tables/CellText.h"
 #include "App/Tables/RowDelegate.h"
 #include "App/Tables/TableHeader.h"
@@ -30,7 +29,7 @@ namespace
 {
 
 /// Most answers are there before anybody would have read that they are on their way.
-constexpr std::chrono::milliseconds busyPatience{300};
+constexpr std::chrono::milliseconds busyPatience{150};
 
 } // namespace
 
@@ -164,26 +163,21 @@ void LinkTable::showProgress()
     // What a reload brings may take its time: a list is there.
     if (progress != Progress::Working) {
         m_busyWait.reset();
-        if (m_busyBar != nullptr)
-            m_busyBar->hide();
+        setSeenWorking(false);
         return;
     }
     if (m_busyWait)
         return;
     m_busyWait = std::make_unique<QObject>();
-    m_services.clock.after(busyPatience, m_busyWait.get(), [this] {
-        if (m_busyBar == nullptr)
-            m_busyBar = new BusyBar(u"Searching"_s, this);
-        placeBusyBar();
-        m_busyBar->raise();
-        m_busyBar->show();
-    });
+    m_services.clock.after(busyPatience, m_busyWait.get(), [this] { setSeenWorking(true); });
 }
 
-void LinkTable::placeBusyBar()
+void LinkTable::setSeenWorking(bool isSeen)
 {
-    if (m_busyBar != nullptr)
-        m_busyBar->setGeometry(0, m_view.tableHeader().height(), width(), BusyBar::thickness);
+    if (isSeen == m_isSeenWorking)
+        return;
+    m_isSeenWorking = isSeen;
+    Q_EMIT seenWorkingChanged();
 }
 
 void LinkTable::catchUp()
@@ -206,12 +200,6 @@ void LinkTable::hideEvent(QHideEvent *event)
     QWidget::hideEvent(event);
     m_midnight.reset();
     m_loader.cancel();
-}
-
-void LinkTable::resizeEvent(QResizeEvent *event)
-{
-    QWidget::resizeEvent(event);
-    placeBusyBar();
 }
 
 void LinkTable::changeEvent(QEvent *event)

@@ -21,8 +21,6 @@
 namespace roamlet
 {
 
-class BusyBar;
-
 /// What a table is asked to show.
 struct TableInputs {
     // The compiler wants them from whoever names only some of the members.
@@ -60,6 +58,9 @@ public:
     /// Whether what is shown is not yet the answer to what was asked.
     bool isAwaited() const { return m_loader.progress() != ListLoader::Progress::Done; }
 
+    /// Whether it works on something that was asked for long enough to be shown.
+    bool isSeenWorking() const { return m_isSeenWorking; }
+
     /// Opens the selected links in the browsers that they came from.
     void openSelection();
     /// Puts the selected links' URLs on the clipboard.
@@ -70,6 +71,7 @@ Q_SIGNALS:
     void rowCountChanged(qsizetype count);
     /// The user wants to see this site only.
     void onlySiteRequested(QString site);
+    void seenWorkingChanged();
 
 protected:
     /// What one table is and the others are not.
@@ -101,7 +103,6 @@ protected:
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
     void changeEvent(QEvent *event) override;
-    void resizeEvent(QResizeEvent *event) override;
 
 private:
     /// Sees to it that what is shown is what is asked for, unless nobody looks.
@@ -114,11 +115,11 @@ private:
     /// Says why there is nothing to see, where that is so.
     void showWhyItIsEmpty();
     void showProgress();
+    void setSeenWorking(bool isSeen);
     /// Comes back to a list after a while in which it was not looked at.
     void catchUp();
     /// Does it again when the next day begins.
     void awaitMidnight();
-    void placeBusyBar();
     LocalText localText() const;
     QString emptyText() const;
     QList<Opener::Link> selectedLinks() const;
@@ -140,7 +141,7 @@ private:
     RowIcons m_icons;
     /// Lives until midnight, or until nobody looks any more.
     std::unique_ptr<QObject> m_midnight;
-    BusyBar *m_busyBar = nullptr;
+    bool m_isSeenWorking = false;
     /// Lives as long as work that is not shown yet.
     std::unique_ptr<QObject> m_busyWait;
     ListLoader m_loader;

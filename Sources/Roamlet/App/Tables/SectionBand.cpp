@@ -4,6 +4,7 @@
 #include "App/Tables/SectionBand.h"
 
 #include "App/Look/Chevron.h"
+#include "App/Look/Hairline.h"
 #include "App/Look/Look.h"
 #include "App/Tables/CellText.h"
 #include "App/Tables/RowDelegate.h"
@@ -85,10 +86,8 @@ void SectionBand::paint(QPainter &painter, const QRect &band, Qt::LayoutDirectio
     painter.save();
     if (!isOnGround)
         painter.fillRect(band, look.list.base);
-    if (!isFirst) {
-        painter.setPen(QPen(look.list.hairline, 0));
-        painter.drawLine(band.topLeft(), band.topRight());
-    }
+    if (!isFirst)
+        paintHairline(painter, band, Qt::TopEdge, look.list.hairline);
     const int arrow = measures.units(0.8);
     const QRect arrowPlace = visual(
         QRect(band.left() + measures.gutter, band.top() + ((band.height() - arrow) / 2), arrow, arrow));

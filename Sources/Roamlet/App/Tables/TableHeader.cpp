@@ -4,6 +4,7 @@
 #include "App/Tables/TableHeader.h"
 
 #include "App/Look/Chevron.h"
+#include "App/Look/Hairline.h"
 #include "App/Look/Look.h"
 #include "App/Tables/CellText.h"
 #include "App/Tables/RowDelegate.h"
@@ -409,9 +410,8 @@ void TableHeader::paintSection(QPainter *painter, const QRect &rect, int column)
     }
     if (m_isUnderPointer && column != edgeColumn(true)) {
         const int inset = rect.height() / 4;
-        const int x = isRightToLeft() ? rect.left() : rect.right();
-        painter->setPen(QPen(look.list.hairline, 0));
-        painter->drawLine(x, rect.top() + inset, x, rect.bottom() - inset);
+        paintHairline(*painter, rect.adjusted(0, inset, 0, -inset),
+                      isRightToLeft() ? Qt::LeftEdge : Qt::RightEdge, look.list.hairline);
     }
     painter->restore();
 }
@@ -428,8 +428,7 @@ void TableHeader::paintEvent(QPaintEvent * /*event*/)
                          column);
         }
     }
-    painter.setPen(QPen(look.list.hairline, 0));
-    painter.drawLine(viewport()->rect().bottomLeft(), viewport()->rect().bottomRight());
+    paintHairline(painter, viewport()->rect(), Qt::BottomEdge, look.list.hairline);
     if (!hasFocus())
         return;
     // Only the keyboard brings it here.

@@ -309,6 +309,7 @@ Table *ContentView::bookmarkTable(Table *&table)
 
 void ContentView::addTable(LinkTable *table)
 {
+    connect(table, &LinkTable::seenWorkingChanged, this, &ContentView::updateTitle);
     connect(table, &LinkTable::onlySiteRequested, this, [this](const QString &site) { setSite(site); });
     connect(table, &LinkTable::rowCountChanged, this, [this, table](qsizetype count) {
         if (m_lists->currentWidget() != table)
@@ -428,7 +429,10 @@ void ContentView::updateTitle()
     const bool isProblem = PaneText::problem(m_pane, m_services.library).has_value();
     m_header->setTitle(title(), PaneText::subtitle(m_pane, m_services.library, m_shownList, QLocale()),
                        isProblem ? DetailHeader::Subtitle::Problem : DetailHeader::Subtitle::Note);
-    m_header->setBusy(!m_services.library.lastLoaded());
+    const bool isSearching = table != nullptr && table->isSeenWorking();
+    m_header->setWork(!m_services.library.lastLoaded() ? tr("Reading")
+                      : isSearching                    ? tr("Searching")
+                                                       : QString());
     Q_EMIT titleChanged(title());
 }
 

@@ -131,14 +131,16 @@ void DetailHeader::setCanExport(bool canExport)
     m_export->setEnabled(canExport);
 }
 
-void DetailHeader::setBusy(bool isBusy)
+void DetailHeader::setWork(const QString &work)
 {
-    if (isBusy && m_busy == nullptr) {
-        m_busy = new BusyBar(tr("Reading"), this);
+    if (!work.isEmpty() && m_busy == nullptr) {
+        m_busy = new BusyBar(this);
         arrange();
     }
-    if (m_busy != nullptr)
-        m_busy->setVisible(isBusy);
+    if (m_busy == nullptr)
+        return;
+    m_busy->setAccessibleName(work);
+    m_busy->setVisible(!work.isEmpty());
 }
 
 void DetailHeader::setSidebarButtonShown(bool isShown)

@@ -44,8 +44,8 @@ public:
     void setReloading(bool isReloading);
     bool isReloading() const;
     void setCanExport(bool canExport);
-    /// Whether something is being read that everything waits for.
-    void setBusy(bool isBusy);
+    /// What is being done, for a line that runs along the lower edge; empty for nothing.
+    void setWork(const QString &work);
     /// The button that brings the sidebar back stands first.
     void setSidebarButtonShown(bool isShown);
 

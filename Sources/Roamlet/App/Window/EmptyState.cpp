@@ -4,6 +4,7 @@
 #include "App/Window/EmptyState.h"
 
 #include "App/Look/Look.h"
+#include "App/Look/RoamletStyle.h"
 #include "App/Look/Symbol.h"
 
 #include <QEvent>
@@ -25,7 +26,7 @@ namespace
 // All in heights of a line.
 constexpr double discSize = 5;
 constexpr double symbolSize = 2.3;
-constexpr double gap = 0.55;
+constexpr double gapBetweenLines = 0.55;
 constexpr double gapAfterDisc = 1;
 
 } // namespace
@@ -53,7 +54,7 @@ EmptyState::EmptyState(const QString &symbol, const QString &title, QWidget *par
     m_text->hide();
 
     const Measures measures(font());
-    m_actions->setSpacing(measures.units(gap));
+    m_actions->setSpacing(measures.units(gapBetweenLines));
     m_actions->addStretch();
     m_actions->addStretch();
     auto *column = new QVBoxLayout(this);
@@ -64,9 +65,9 @@ EmptyState::EmptyState(const QString &symbol, const QString &title, QWidget *par
     column->addWidget(m_icon);
     column->addSpacing(measures.units(gapAfterDisc));
     column->addWidget(m_title);
-    column->addSpacing(measures.units(gap));
+    column->addSpacing(measures.units(gapBetweenLines));
     column->addWidget(m_text);
-    column->addSpacing(measures.units(gap));
+    column->addSpacing(measures.units(gapBetweenLines));
     column->addLayout(m_actions);
     column->addStretch(2);
     updateLook();
@@ -139,6 +140,7 @@ QPushButton *EmptyState::addAction(const QString &title, const QString &objectNa
 {
     auto *button = new QPushButton(title, this);
     button->setObjectName(objectName);
+    RoamletStyle::applyTo(*button);
     // Between the two stretches.
     m_actions->insertWidget(m_actions->count() - 1, button);
     return button;

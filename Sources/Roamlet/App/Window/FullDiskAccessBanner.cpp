@@ -4,6 +4,7 @@
 #include "App/Window/FullDiskAccessBanner.h"
 
 #include "App/Look/Look.h"
+#include "App/Look/RoamletStyle.h"
 #include "App/Look/Symbol.h"
 
 #include <QHBoxLayout>
@@ -42,8 +43,10 @@ FullDiskAccessBanner::FullDiskAccessBanner(QWidget *parent)
     settings->setObjectName(u"openSettingsButton"_s);
     auto *reload = new QPushButton(tr("Reload"), this);
     reload->setObjectName(u"bannerReloadButton"_s);
-    for (QPushButton *button : {settings, reload})
+    for (QPushButton *button : {settings, reload}) {
         button->setAutoDefault(false);
+        RoamletStyle::applyTo(*button);
+    }
     connect(settings, &QPushButton::clicked, this, &FullDiskAccessBanner::openSettingsRequested);
     connect(reload, &QPushButton::clicked, this, &FullDiskAccessBanner::reloadRequested);
 

@@ -3,6 +3,7 @@
 
 #include "App/Window/GroupByButton.h"
 
+#include "App/Look/Chevron.h"
 #include "App/Look/Look.h"
 #include "App/Look/Symbol.h"
 
@@ -82,8 +83,7 @@ void GroupByButton::paintContent(QPainter &painter, const QRect &content)
     const int side = chevronSide();
     const QRect place(content.right() + 1 - side, content.top() + ((content.height() - side) / 2), side,
                       side);
-    symbolIcon(u"chevron.down"_s, quiet)
-        .paint(&painter, QStyle::visualRect(layoutDirection(), content, place));
+    drawChevron(painter, QStyle::visualRect(layoutDirection(), content, place), Qt::DownArrow, quiet);
 }
 
 } // namespace roamlet

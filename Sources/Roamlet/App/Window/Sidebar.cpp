@@ -36,13 +36,15 @@ const QString foldedKey = u"sidebar.folded"_s;
 } // namespace
 
 Sidebar::Sidebar(const WindowServices &services, QWidget *parent)
-    : QTreeView(parent), m_services(services), m_model(new SidebarModel(services.library, this))
+    : QTreeView(parent),
+      m_services(services),
+      m_model(new SidebarModel(services.library, this)),
+      m_sourceIcons(services.library, services.opener, *this)
 {
     setObjectName(u"sidebar"_s);
     setAccessibleName(tr("Sidebar"));
     setModel(m_model);
-    setItemDelegate(new SidebarDelegate(
-        [this](const Source &source, qreal ratio) { return sourceIcon(source, ratio); }, this));
+    setItemDelegate(new SidebarDelegate(m_sourceIcons, this));
     setFrameShape(QFrame::NoFrame);
     setMinimumWidth(minimumWidthOfColumn);
     setSelectionMode(QAbstractItemView::SingleSelection);
@@ -100,13 +102,6 @@ void Sidebar::followSelection()
     const QModelIndexList selected = selectionModel()->selectedIndexes();
     m_pane = selected.isEmpty() ? std::nullopt : m_model->pane(selected.first());
     Q_EMIT paneSelected();
-}
-
-QIcon Sidebar::sourceIcon(const Source &source, qreal devicePixelRatio) const
-{
-    if (const std::optional<QImage> image = m_services.opener.icon(source.kind, devicePixelRatio))
-        return QIcon(QPixmap::fromImage(*image));
-    return symbolIcon(u"globe"_s, Look::of(*this).sidebar.ink);
 }
 
 bool Sidebar::isSection(const QModelIndex &index) const

@@ -3,11 +3,11 @@
 
 #pragma once
 
+#include "App/Look/SourceIcons.h"
 #include "App/Window/Pane.h"
 #include "App/Window/WindowServices.h"
 #include "Model/Source.h"
 
-#include <QIcon>
 #include <QPersistentModelIndex>
 #include <QTreeView>
 
@@ -73,7 +73,6 @@ protected:
 private:
     void updateColors();
     void followSelection();
-    QIcon sourceIcon(const Source &source, qreal devicePixelRatio) const;
     bool isSection(const QModelIndex &index) const;
     void setFolded(const QModelIndex &section, bool isFolded);
     void storeFolded(const QModelIndex &section, bool isFolded);
@@ -85,6 +84,7 @@ private:
 
     WindowServices m_services;
     SidebarModel *m_model;
+    SourceIcons m_sourceIcons;
     std::optional<Pane> m_pane;
     bool m_isRestoring = false;
     /// The keyboard came here by itself, not with a click.

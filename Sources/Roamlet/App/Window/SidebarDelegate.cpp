@@ -3,7 +3,9 @@
 
 #include "App/Window/SidebarDelegate.h"
 
+#include "App/Look/Chevron.h"
 #include "App/Look/Look.h"
+#include "App/Look/SourceIcons.h"
 #include "App/Look/Symbol.h"
 #include "App/Window/SidebarModel.h"
 
@@ -48,10 +50,12 @@ public:
         icon.paint(&m_painter, iconPlace(m_start));
         m_start += m_measures.iconSide + m_measures.gapAfterIcon;
     }
-    void addIconAtEnd(const QIcon &icon)
+    /// The place of an icon before what stands at the end already.
+    QRect placeAtEnd()
     {
-        icon.paint(&m_painter, iconPlace(m_end - m_measures.iconSide));
+        const QRect place = iconPlace(m_end - m_measures.iconSide);
         m_end -= m_measures.iconSide + m_measures.gapAfterIcon;
+        return place;
     }
     void addText(const QString &text)
     {
@@ -82,8 +86,8 @@ private:
 
 } // namespace
 
-SidebarDelegate::SidebarDelegate(SourceIcon sourceIcon, QObject *parent)
-    : QStyledItemDelegate(parent), m_sourceIcon(std::move(sourceIcon))
+SidebarDelegate::SidebarDelegate(SourceIcons &sourceIcons, QObject *parent)
+    : QStyledItemDelegate(parent), m_sourceIcons(sourceIcons)
 {
 }
 
@@ -133,16 +137,16 @@ void SidebarDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
         font.setBold(true);
         painter->setFont(font);
         if (source)
-            row.addIcon(m_sourceIcon(*source, painter->device()->devicePixelRatioF()));
+            row.addIcon(m_sourceIcons.of(*source));
         else
             painter->setPen(sidebar.quiet);
         if (!index.data(SidebarModel::ProblemRole).toString().isEmpty())
-            row.addIconAtEnd(symbolIcon(u"exclamationmark.triangle"_s, look.warningMark));
+            symbolIcon(u"exclamationmark.triangle"_s, look.warningMark).paint(painter, row.placeAtEnd());
         const bool isOpen = option.state.testFlag(QStyle::State_Open);
         if (!isOpen || isHovered) {
             const bool isMirrored = option.direction == Qt::RightToLeft;
-            const QString folded = isMirrored ? u"chevron.backward"_s : u"chevron.forward"_s;
-            row.addIconAtEnd(symbolIcon(isOpen ? u"chevron.down"_s : folded, sidebar.quiet));
+            const Qt::ArrowType folded = isMirrored ? Qt::LeftArrow : Qt::RightArrow;
+            drawChevron(*painter, row.placeAtEnd(), isOpen ? Qt::DownArrow : folded, sidebar.quiet);
         }
     } else {
         painter->setFont(option.font);

@@ -4,6 +4,7 @@
 #include "App/Window/SiteFilterBar.h"
 
 #include "App/Look/ElidedLabel.h"
+#include "App/Look/RoamletStyle.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -22,6 +23,7 @@ SiteFilterBar::SiteFilterBar(QWidget *parent)
     auto *clear = new QPushButton(tr("Show All Sites"), this);
     clear->setObjectName(u"showAllSitesButton"_s);
     clear->setAutoDefault(false);
+    RoamletStyle::applyTo(*clear);
     connect(clear, &QPushButton::clicked, this, &SiteFilterBar::clearRequested);
     row()->addWidget(m_icon);
     row()->addWidget(m_text, 1);
