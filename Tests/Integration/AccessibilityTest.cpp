@@ -131,7 +131,7 @@ TEST_F(AccessibilityTest, aScreenReaderFindsNamesRowsAndCommands)
     }));
     EXPECT_TRUE(has(u"tree"_s, u"History"_s)) << described();
     EXPECT_TRUE(has(u"text"_s, u"Search"_s)) << described();
-    EXPECT_TRUE(has(u"list item"_s, u"Library: Most Visited"_s)) << described();
+    EXPECT_TRUE(has(u"tree item"_s, u"Library: Most Visited"_s)) << described();
     EXPECT_TRUE(has(u"push button"_s, u"Reload"_s)) << described();
     EXPECT_TRUE(has(u"push button"_s, u"Menu"_s) || has(u"button menu"_s, u"Menu"_s)) << described();
     EXPECT_EQ(unnamed().join(u'\n').toStdString(), "");

@@ -434,6 +434,8 @@ TEST_F(LinuxWorkspaceTest, safariIsNeverHereAndItsLinksOpenInThePreferredBrowser
 
 TEST_F(LinuxWorkspaceTest, safarisOwnPagesOpenNowhere)
 {
+    EXPECT_FALSE(workspace.canShowPages(Source::Kind::Safari));
+    EXPECT_TRUE(workspace.canShowPages(Source::Kind::Chrome)) << "it can be installed";
     workspace.open({u"history://"_s}, Source::Kind::Safari);
     workspace.open({u"bookmarks://"_s}, Source::Kind::Safari);
     EXPECT_TRUE(starts().isEmpty());

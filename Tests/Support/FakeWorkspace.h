@@ -49,6 +49,7 @@ public:
     {
         requests.append(QStringList{QStringLiteral("profile"), placeOf(source), profileOf(source)} + urls);
     }
+    bool canShowPages(Source::Kind browser) const override { return browser != missing; }
     void showPage(const QString &page, const Source &source) override
     {
         requests.append(QStringList{QStringLiteral("page"), placeOf(source), profileOf(source), page});
@@ -56,6 +57,8 @@ public:
 
     /// The browsers that are installed, by raw value, and the colours of their icons.
     QHash<QString, Qt::GlobalColor> icons;
+    /// The browser that this system cannot have.
+    std::optional<Source::Kind> missing;
     /// What was asked, in order: the operation, who it is for, what for.
     QList<QStringList> requests;
     mutable int iconRequests = 0;

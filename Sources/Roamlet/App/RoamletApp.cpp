@@ -30,8 +30,10 @@
 #include <QDBusConnection>
 #include <QFile>
 #include <QFontDatabase>
+#include <QLibraryInfo>
 #include <QLocale>
 #include <QPixmapCache>
+#include <QTranslator>
 
 #include <unistd.h>
 
@@ -263,6 +265,11 @@ int RoamletApp::runUntilTheEnd(int argc, char **argv, const std::stop_token &sto
     QApplication::setDesktopFileName(u"org.roamlet.Roamlet"_s);
     QApplication::setQuitOnLastWindowClosed(false);
     QLocale::setDefault(UserLocale::formats());
+    // The words of Qt's own buttons and menus, and with them the direction in which the language is read.
+    QTranslator translator;
+    if (translator.load(QLocale::system(), u"qtbase"_s, u"_"_s,
+                        QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(&translator);
     const std::stop_callback end(stop, [] {
         QMetaObject::invokeMethod(QCoreApplication::instance(), [] { quit(); }, Qt::QueuedConnection);
     });

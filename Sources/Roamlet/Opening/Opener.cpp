@@ -150,6 +150,11 @@ void Opener::editBookmarks(const Source &source, const std::optional<QString> &f
     showPage(browser.bookmarksPage % folderPart(browser.folderQuery, folderID), source);
 }
 
+bool Opener::canShowPages(Source::Kind kind) const
+{
+    return m_workspace.canShowPages(kind);
+}
+
 QList<Source::Kind> Opener::installedBrowsers() const
 {
     return m_workspace.installedBrowsers();

@@ -46,6 +46,9 @@ public:
     /// Opens the browser's bookmark manager for the source, at a folder where that is possible.
     void editBookmarks(const Source &source, const std::optional<QString> &folderID);
 
+    /// Whether the browser's own pages can be shown on this system. Where they cannot, its links are opened
+    /// by the desktop's own browser.
+    bool canShowPages(Source::Kind kind) const;
     /// The browsers that are installed, in the order in which browsers are listed.
     QList<Source::Kind> installedBrowsers() const;
     /// The browser's icon at 16 x 16 points, or nothing when there is none. An icon that was found is kept.

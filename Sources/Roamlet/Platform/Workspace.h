@@ -35,6 +35,8 @@ public:
     virtual void openSystemURL(const QString &url) = 0;
     /// Opens the URLs in the installation and the profile that the source stands for.
     virtual void openInProfile(const QStringList &urls, const Source &source) = 0;
+    /// Whether the browser can exist on this system, so that it has pages of its own to show.
+    virtual bool canShowPages(Source::Kind browser) const = 0;
     /// Shows one of the browser's own pages in the source's installation and profile, or in the profile that
     /// the browser chooses where the source names none.
     virtual void showPage(const QString &page, const Source &source) = 0;

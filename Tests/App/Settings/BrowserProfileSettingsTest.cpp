@@ -190,8 +190,8 @@ TEST_F(BrowserProfileSettingsTest, thereIsRoomForWhatIsSaidBelowAName)
     const QImage other = list().viewport()->grab(list().visualRect(row(1))).toImage();
     const QColor quiet = Look::of(list()).card.quiet;
     const auto hasQuietWords = [&](const QImage &picture) {
-        // The handle is as quiet, and ends before the words begin.
-        for (int y = 0; y < picture.height(); ++y) {
+        // The handle is as quiet, and ends before the words begin, and so may be a dot of a name above them.
+        for (int y = picture.height() * 2 / 3; y < picture.height(); ++y) {
             for (int x = picture.width() / 4; x < picture.width() / 2; ++x) {
                 if (picture.pixelColor(x, y) == quiet)
                     return true;

@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QHelpEvent>
 #include <QImage>
+#include <QMenu>
 #include <QMimeData>
 #include <QPainter>
 #include <QSignalSpy>
@@ -265,6 +266,32 @@ TEST_F(RowLookTest, aSitesHeadingOffersThatSiteAlone)
     choose(table, u"siteMenu"_s, u"Show Only trams.example"_s);
     ASSERT_EQ(wanted.size(), 1);
     EXPECT_EQ(wanted[0][0], u"trams.example"_s);
+}
+
+TEST_F(RowLookTest, whatABrowserCannotDoHereIsOffAndSaysWhy)
+{
+    workspace.missing = Source::Kind::Chrome;
+    rightClick(table, u"Trams"_s);
+    const QMenu *shown = menu(table, u"linkMenu"_s);
+    const auto action = [shown](const QString &title) {
+        const QList<QAction *> all = shown->actions();
+        const auto found = std::ranges::find(all, title, &QAction::text);
+        return found == all.end() ? nullptr : *found;
+    };
+    ASSERT_NE(action(u"Show Chrome History"_s), nullptr);
+    EXPECT_FALSE(action(u"Show Chrome History"_s)->isEnabled());
+    EXPECT_EQ(action(u"Show Chrome History"_s)->toolTip(), u"Chrome does not exist on this system.");
+    EXPECT_TRUE(action(u"Open in Chrome"_s)->isEnabled());
+    EXPECT_EQ(action(u"Open in Chrome"_s)->toolTip(),
+              u"Opens in this desktop’s own browser: Chrome does not exist on this system.");
+    EXPECT_TRUE(shown->toolTipsVisible());
+}
+
+TEST_F(RowLookTest, aBrowserThatThisSystemKnowsShowsItsHistory)
+{
+    rightClick(table, u"Trams"_s);
+    for (const QAction *action : menu(table, u"linkMenu"_s)->actions())
+        EXPECT_TRUE(action->isEnabled()) << qPrintable(action->text());
 }
 
 TEST_F(RowLookTest, aDaysHeadingHasNoMenu)

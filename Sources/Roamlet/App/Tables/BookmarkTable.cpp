@@ -17,7 +17,7 @@ QList<TableColumn> bookmarkColumns()
     return {{u"title"_s, u"Title"_s, Content::Title, 40},
             {u"folder"_s, u"Folder"_s, Content::Folder, 24},
             {u"added"_s, u"Added"_s, Content::Date, 16},
-            {u"source"_s, u"Source"_s, Content::Source, 22}};
+            {u"source"_s, u"Source"_s, Content::Source, 26}};
 }
 
 } // namespace

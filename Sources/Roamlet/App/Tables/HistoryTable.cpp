@@ -17,7 +17,7 @@ QList<TableColumn> historyColumns()
     return {{u"title"_s, u"Title"_s, Content::Title, 40},
             {u"lastVisited"_s, u"Last Visited"_s, Content::Date, 16},
             {u"visits"_s, u"Visits"_s, Content::Visits, 9},
-            {u"source"_s, u"Source"_s, Content::Source, 22}};
+            {u"source"_s, u"Source"_s, Content::Source, 26}};
 }
 
 } // namespace

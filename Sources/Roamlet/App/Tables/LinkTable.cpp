@@ -276,13 +276,37 @@ void LinkTable::showLinkMenu(const QPoint &place)
     menu->setAccessibleName(u"Links"_s);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     for (const LinkMenuEntry &entry : entries) {
-        if (entry.action == Action::Separator)
+        if (entry.action == Action::Separator) {
             menu->addSeparator();
-        else
-            menu->addAction(CellText::inMenu(entry.title), this,
-                            [this, entry, subject] { perform(entry, subject); });
+            continue;
+        }
+        QAction *action = menu->addAction(CellText::inMenu(entry.title), this,
+                                          [this, entry, subject] { perform(entry, subject); });
+        sayWhatCannotBe(*action, entry, subject);
     }
+    menu->setToolTipsVisible(true);
     menu->popup(place);
+}
+
+void LinkTable::sayWhatCannotBe(QAction &action, const LinkMenuEntry &entry,
+                                const LinkMenuSubject &subject) const
+{
+    const auto isElsewhere = [this](const Source &source) {
+        return !m_services.opener.canShowPages(source.kind);
+    };
+    const bool isOfItsPages = entry.action == Action::ShowHistory || entry.action == Action::EditBookmarks;
+    if (isOfItsPages) {
+        const Source &source =
+            entry.action == Action::ShowHistory ? *subject.historySource : subject.editTarget->source;
+        if (!isElsewhere(source))
+            return;
+        action.setEnabled(false);
+        action.setToolTip(tr("%1 does not exist on this system.").arg(Source::displayName(source.kind)));
+    } else if (entry.action == Action::OpenInOriginalBrowsers && subject.items.size() == 1 &&
+               isElsewhere(subject.items.first().source)) {
+        action.setToolTip(tr("Opens in this desktop’s own browser: %1 does not exist on this system.")
+                              .arg(Source::displayName(subject.items.first().source.kind)));
+    }
 }
 
 void LinkTable::showSiteMenu(const QString &site, const QPoint &place)

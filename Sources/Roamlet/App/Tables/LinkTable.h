@@ -18,6 +18,8 @@
 #include <memory>
 #include <optional>
 
+class QAction;
+
 namespace roamlet
 {
 
@@ -125,6 +127,8 @@ private:
     QList<Opener::Link> selectedLinks() const;
     void showLinkMenu(const QPoint &place);
     void showSiteMenu(const QString &site, const QPoint &place);
+    /// Turns off what a browser that this system cannot have would do, and says why.
+    void sayWhatCannotBe(QAction &action, const LinkMenuEntry &entry, const LinkMenuSubject &subject) const;
     void perform(const LinkMenuEntry &entry, const LinkMenuSubject &subject);
     void showColumnMenu(const QPoint &place);
     void saveColumnLayout();

@@ -173,6 +173,8 @@ QSplitterHandle *ContentView::createHandle()
 ContentView::~ContentView()
 {
     m_services.library.setSearching(false);
+    // The tables still tell of the work that they give up.
+    delete m_lists;
 }
 
 QWidget *ContentView::makeDetail()

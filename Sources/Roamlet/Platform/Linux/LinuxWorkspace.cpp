@@ -109,6 +109,11 @@ LinuxWorkspace::LinuxWorkspace(QStringList dataFolders, const Folders &folders, 
 
 LinuxWorkspace::~LinuxWorkspace() = default;
 
+bool LinuxWorkspace::canShowPages(Source::Kind browser) const
+{
+    return Browser::of(browser).family != Family::Safari;
+}
+
 QList<Source::Kind> LinuxWorkspace::installedBrowsers() const
 {
     // Looking for the data folders of one browser is looking for those of all.

@@ -48,6 +48,7 @@ public:
     ~LinuxWorkspace() override;
 
     QList<Source::Kind> installedBrowsers() const override;
+    bool canShowPages(Source::Kind browser) const override;
     std::optional<QImage> icon(Source::Kind browser, int side, qreal devicePixelRatio) const override;
     void open(const QStringList &urls, Source::Kind browser) override;
     void openSystemURL(const QString &url) override;
