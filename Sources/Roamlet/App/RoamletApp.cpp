@@ -56,8 +56,12 @@ PasteNotice pasteNotice()
     return {QDBusConnection::sessionBus(),
             [](const QString &text) { QGuiApplication::clipboard()->setText(text); },
             [](const QString &page) {
-                return PasteNotice::Words{.title = u"Paste the address into the new tab"_s,
-                                          .text = u"Roamlet has put "_s % page % u" on the clipboard."};
+                return PasteNotice::Words{
+                    .title = QCoreApplication::translate("roamlet::RoamletApp",
+                                                         "Paste the address into the new tab"),
+                    .text = QCoreApplication::translate("roamlet::RoamletApp",
+                                                        "Roamlet has put %1 on the clipboard.")
+                                .arg(page)};
             }};
 }
 

@@ -14,10 +14,10 @@ namespace
 QList<TableColumn> bookmarkColumns()
 {
     using Content = TableColumn::Content;
-    return {{u"title"_s, u"Title"_s, Content::Title, 40},
-            {u"folder"_s, u"Folder"_s, Content::Folder, 24},
-            {u"added"_s, u"Added"_s, Content::Date, 16},
-            {u"source"_s, u"Source"_s, Content::Source, 26}};
+    return {{u"title"_s, BookmarkTable::tr("Title"), Content::Title, 40},
+            {u"folder"_s, BookmarkTable::tr("Folder"), Content::Folder, 24},
+            {u"added"_s, BookmarkTable::tr("Added"), Content::Date, 16},
+            {u"source"_s, BookmarkTable::tr("Source"), Content::Source, 26}};
 }
 
 } // namespace
@@ -26,12 +26,12 @@ BookmarkTable::BookmarkTable(const WindowServices &services, QWidget *parent)
     : LinkTable(services,
                 {.mode = ListWish::Mode::Bookmarks,
                  .objectName = u"bookmarkTable"_s,
-                 .accessibleName = u"Bookmarks"_s,
+                 .accessibleName = tr("Bookmarks"),
                  .layoutKey = u"columns.bookmarkSearch"_s,
                  .shape = TableView::Shape::List,
                  .columns = bookmarkColumns(),
                  .order = {},
-                 .nothingText = u"No bookmarks yet"_s},
+                 .nothingText = tr("No bookmarks yet")},
                 parent)
 {
 }

@@ -16,7 +16,8 @@ namespace
 QList<TableColumn> treeColumns()
 {
     using Content = TableColumn::Content;
-    return {{u"title"_s, u"Title"_s, Content::Title, 40}, {u"added"_s, u"Added"_s, Content::Date, 16}};
+    return {{u"title"_s, BookmarkTree::tr("Title"), Content::Title, 40},
+            {u"added"_s, BookmarkTree::tr("Added"), Content::Date, 16}};
 }
 
 } // namespace
@@ -25,12 +26,12 @@ BookmarkTree::BookmarkTree(const WindowServices &services, QWidget *parent)
     : LinkTable(services,
                 {.mode = ListWish::Mode::BookmarkTree,
                  .objectName = u"bookmarkTree"_s,
-                 .accessibleName = u"Bookmarks"_s,
+                 .accessibleName = tr("Bookmarks"),
                  .layoutKey = u"columns.bookmarkTree"_s,
                  .shape = TableView::Shape::Tree,
                  .columns = treeColumns(),
                  .order = {},
-                 .nothingText = u"No bookmarks yet"_s},
+                 .nothingText = tr("No bookmarks yet")},
                 parent)
 {
     // The folders of all sources stand in the user's order, of which the snapshot says nothing.

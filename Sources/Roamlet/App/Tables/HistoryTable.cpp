@@ -14,10 +14,10 @@ namespace
 QList<TableColumn> historyColumns()
 {
     using Content = TableColumn::Content;
-    return {{u"title"_s, u"Title"_s, Content::Title, 40},
-            {u"lastVisited"_s, u"Last Visited"_s, Content::Date, 16},
-            {u"visits"_s, u"Visits"_s, Content::Visits, 9},
-            {u"source"_s, u"Source"_s, Content::Source, 26}};
+    return {{u"title"_s, HistoryTable::tr("Title"), Content::Title, 40},
+            {u"lastVisited"_s, HistoryTable::tr("Last Visited"), Content::Date, 16},
+            {u"visits"_s, HistoryTable::tr("Visits"), Content::Visits, 9},
+            {u"source"_s, HistoryTable::tr("Source"), Content::Source, 26}};
 }
 
 } // namespace
@@ -32,12 +32,12 @@ LinkTable::Kind HistoryTable::kindOf(Mode mode)
     const bool isRecent = mode == Mode::Recent;
     return {.mode = isRecent ? ListWish::Mode::Recent : ListWish::Mode::MostVisited,
             .objectName = isRecent ? u"historyTable"_s : u"mostVisitedTable"_s,
-            .accessibleName = isRecent ? u"History"_s : u"Most Visited"_s,
+            .accessibleName = isRecent ? tr("History") : tr("Most Visited"),
             .layoutKey = isRecent ? u"columns.history"_s : u"columns.mostVisited"_s,
             .shape = TableView::Shape::List,
             .columns = historyColumns(),
             .order = {{isRecent ? SortColumn::Date : SortColumn::Visits, SortOrder::Reverse}},
-            .nothingText = u"No history yet"_s};
+            .nothingText = tr("No history yet")};
 }
 
 void HistoryTable::noteList(const ShownList &list)

@@ -3,6 +3,7 @@
 
 #include "App/Tables/LinkMenu.h"
 
+#include <QCoreApplication>
 #include <QStringList>
 
 #include <algorithm>
@@ -19,6 +20,11 @@ namespace
 
 using Entry = LinkMenuEntry;
 using Kind = Source::Kind;
+
+/// The words of the menu in the user's language.
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(roamlet::LinkMenu)
+};
 
 /// What `value` gives for each of the rows, when it is the same for all.
 template<typename Rows, typename Value>
@@ -75,7 +81,9 @@ LinkMenuSubject LinkMenuSubject::ofBookmarks(const QList<TableRow> &rows)
 
 LinkMenuEntry onlySiteEntry(const QString &site)
 {
-    return {.action = Entry::Action::ShowOnlySite, .title = u"Show Only " % site, .browser = Kind::Safari};
+    return {.action = Entry::Action::ShowOnlySite,
+            .title = Words::tr("Show Only %1").arg(site),
+            .browser = Kind::Safari};
 }
 
 QList<LinkMenuEntry> linkMenuEntries(const LinkMenuSubject &subject, const QList<Source::Kind> &installed)
@@ -88,12 +96,12 @@ QList<LinkMenuEntry> linkMenuEntries(const LinkMenuSubject &subject, const QList
 
     if (subject.editTarget) {
         add(Entry::Action::EditBookmarks,
-            u"Edit " % Source::displayName(subject.editTarget->source.kind) % u" Bookmarks");
+            Words::tr("Edit %1 Bookmarks").arg(Source::displayName(subject.editTarget->source.kind)));
         separate();
     }
     if (subject.historySource) {
         add(Entry::Action::ShowHistory,
-            u"Show " % Source::displayName(subject.historySource->kind) % u" History");
+            Words::tr("Show %1 History").arg(Source::displayName(subject.historySource->kind)));
         separate();
     }
     if (!subject.items.isEmpty()) {
@@ -101,15 +109,16 @@ QList<LinkMenuEntry> linkMenuEntries(const LinkMenuSubject &subject, const QList
         const std::optional ownBrowser =
             common(subject.items, [](const Opener::Link &link) { return link.source.kind; });
         add(Entry::Action::OpenInOriginalBrowsers,
-            count > 1 ? u"Open in Original Browsers"_s
-                      : QString(u"Open in " % Source::displayName(subject.items.first().source.kind)));
+            count > 1 ? Words::tr("Open in Original Browsers")
+                      : Words::tr("Open in %1").arg(Source::displayName(subject.items.first().source.kind)));
         for (const Kind kind : installed) {
             if (kind != ownBrowser)
-                add(Entry::Action::OpenInBrowser, u"Open in " % Source::displayName(kind), kind);
+                add(Entry::Action::OpenInBrowser, Words::tr("Open in %1").arg(Source::displayName(kind)),
+                    kind);
         }
         separate();
         add(Entry::Action::CopyURLs,
-            count > 1 ? QString(u"Copy " % QString::number(count) % u" URLs") : u"Copy URL"_s);
+            count > 1 ? Words::tr("Copy %1 URLs").arg(count) : Words::tr("Copy URL"));
         separate();
         if (subject.site)
             entries.append(onlySiteEntry(*subject.site));

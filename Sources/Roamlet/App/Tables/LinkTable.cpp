@@ -159,7 +159,7 @@ void LinkTable::showProgress()
         showWhyItIsEmpty();
     // Until memory has been looked through, nothing else can be said than before.
     else if (progress != Progress::Looking)
-        m_view.setEmptyText(isSearchText(m_inputs.search) ? u"Searching…"_s : u"Reading…"_s);
+        m_view.setEmptyText(isSearchText(m_inputs.search) ? tr("Searching…") : tr("Reading…"));
     // What a reload brings may take its time: a list is there.
     if (progress != Progress::Working) {
         m_busyWait.reset();
@@ -235,18 +235,20 @@ QString LinkTable::emptyText() const
 {
     const Library &library = m_services.library;
     if (library.generation() == 0)
-        return u"Reading…"_s;
+        return tr("Reading…");
     if (library.snapshot().browserProfiles.isEmpty())
-        return u"No browser found."_s;
+        return tr("No browser found.");
     if (library.snapshot().sources.isEmpty())
-        return u"All profiles are switched off in the settings."_s;
+        return tr("All profiles are switched off in the settings.");
     if (m_inputs.sourceID && library.snapshot().problems.contains(*m_inputs.sourceID))
         return CellText::oneLine(library.snapshot().problems.value(*m_inputs.sourceID));
-    const QString where = m_inputs.site ? QString(u" on " % CellText::oneLine(*m_inputs.site)) : QString();
-    if (isSearchText(m_inputs.search))
-        return u"Nothing found for “"_s %
-               CellText::oneLine(m_inputs.search.trimmed(), CellText::longestMenuText) % u"”" % where;
-    return m_inputs.site ? QString(u"Nothing found" % where) : m_nothingText;
+    const QString site = m_inputs.site ? CellText::oneLine(*m_inputs.site) : QString();
+    if (isSearchText(m_inputs.search)) {
+        const QString words = CellText::oneLine(m_inputs.search.trimmed(), CellText::longestMenuText);
+        return m_inputs.site ? tr("Nothing found for “%1” on %2").arg(words, site)
+                             : tr("Nothing found for “%1”").arg(words);
+    }
+    return m_inputs.site ? tr("Nothing found on %1").arg(site) : m_nothingText;
 }
 
 QList<Opener::Link> LinkTable::selectedLinks() const
@@ -273,7 +275,7 @@ void LinkTable::showLinkMenu(const QPoint &place)
         return;
     auto *menu = new QMenu(this);
     menu->setObjectName(u"linkMenu"_s);
-    menu->setAccessibleName(u"Links"_s);
+    menu->setAccessibleName(tr("Links"));
     menu->setAttribute(Qt::WA_DeleteOnClose);
     for (const LinkMenuEntry &entry : entries) {
         if (entry.action == Action::Separator) {
@@ -357,7 +359,7 @@ void LinkTable::showColumnMenu(const QPoint &place)
     TableHeader &header = m_view.tableHeader();
     auto *menu = new QMenu(this);
     menu->setObjectName(u"columnMenu"_s);
-    menu->setAccessibleName(u"Columns"_s);
+    menu->setAccessibleName(tr("Columns"));
     menu->setAttribute(Qt::WA_DeleteOnClose);
     for (int column = 0; column < m_model.columns().size(); ++column) {
         QAction *action = menu->addAction(m_model.columns()[column].title);
@@ -368,15 +370,15 @@ void LinkTable::showColumnMenu(const QPoint &place)
                 [&header, column](bool isShown) { header.setColumnShown(column, isShown); });
     }
     menu->addSeparator();
-    QMenu *orders = menu->addMenu(u"Sort By"_s);
+    QMenu *orders = menu->addMenu(tr("Sort By"));
     for (int column = 0; column < m_model.columns().size(); ++column)
         orders->addAction(m_model.columns()[column].title, this, [this, column] { sortBy(column); });
-    menu->addAction(u"Default Order"_s, this, [this] {
+    menu->addAction(tr("Default Order"), this, [this] {
         setOrder(m_defaultOrder);
         refresh();
     });
     menu->addSeparator();
-    menu->addAction(u"Default Columns"_s, this, [this, &header] {
+    menu->addAction(tr("Default Columns"), this, [this, &header] {
         header.setColumnLayout({});
         saveColumnLayout();
     });

@@ -232,9 +232,9 @@ QString TableModel::accessibleText(const RowTree::Node &node, TableColumn::Conte
     if (content != TableColumn::Content::Title || node.row.kind == TableRow::Kind::Link)
         return shown;
     const QString count = m_localText.number(node.childCount);
-    const QString items = node.childCount == 1 ? u"1 item"_s : QString(count % u" items");
-    return node.row.kind == TableRow::Kind::Folder ? QString(shown % u", folder, " % items)
-                                                   : QString(shown % u", " % items);
+    const QString items = node.childCount == 1 ? tr("1 item") : tr("%1 items").arg(count);
+    return node.row.kind == TableRow::Kind::Folder ? tr("%1, folder, %2").arg(shown, items)
+                                                   : tr("%1, %2").arg(shown, items);
 }
 
 QString TableModel::toolTip(const RowTree::Node &node, TableColumn::Content content) const
