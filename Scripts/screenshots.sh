@@ -12,7 +12,7 @@ cmake --build --preset release --target roamlet roamlet-sample-home
 work=$(mktemp -d)
 mkdir -p "$target" "$work/run" "$work/empty"
 chmod 700 "$work/run"
-export XDG_RUNTIME_DIR=$work/run LANG=en_US.UTF-8 LC_ALL=en_US.UTF-8
+export XDG_RUNTIME_DIR=$work/run LANG=C.UTF-8 LC_ALL=C.UTF-8
 build/release/roamlet-sample-home --layout linux --safari -1 --profiles firefox=1 --chrome 2 --edge 1 --rows 400 \
   --newest "$(date -u +%Y-%m-%dT%H:%M:%SZ)" "$work/home" >/dev/null
 
@@ -104,9 +104,11 @@ photograph() {
   xdotool key Down Down Right
   screen tray-recent
   xdotool key Escape Escape Escape
-  xdotool search --onlyvisible --name '^Recent History' windowactivate --sync key shift+Tab Down Down
+  # The third row of the sidebar, and the first one.
+  xdotool search --onlyvisible --name '^Recent History' mousemove --window %1 80 101 click 1
   window bookmarks 'All Bookmarks'
-  xdotool key Up Up
+  xdotool search --onlyvisible --name '^All Bookmarks' mousemove --window %1 80 48 click 1
+  until xdotool search --onlyvisible --name '^Recent History' >/dev/null; do sleep 0.2; done
   resize_to 820 480
   window narrow 'Recent History'
   end_desktop

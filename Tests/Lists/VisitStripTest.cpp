@@ -156,6 +156,19 @@ TEST(VisitStrip, countsEveryRowOfEverySectionOnce)
     }
 }
 
+TEST(VisitStrip, aWeekEndsWhereYesterdayBegins)
+{
+    const QString now = u"2025-03-13T12:00:00+01:00"_s;
+    const QList<HistoryItem> rows =
+        visitedAt({u"2025-03-12T09:00:00+01:00"_s, u"2025-03-11T09:00:00+01:00"_s,
+                   u"2025-03-04T09:00:00+01:00"_s, u"2025-02-04T09:00:00+01:00"_s});
+    const auto groups = dayGroups(allRows(rows), true, at(now), berlin);
+    ASSERT_EQ(groups.size(), 4);
+    EXPECT_EQ(utcText(groups[1].visits.end), "2025-03-11T23:00:00Z");
+    EXPECT_EQ(utcText(groups[2].visits.end), "2025-03-09T23:00:00Z") << "this week's Monday";
+    EXPECT_EQ(utcText(groups[3].visits.end), "2025-02-28T23:00:00Z");
+}
+
 TEST(VisitStrip, aTreeKnowsItsSectionsStrips)
 {
     const QList<HistoryItem> rows =

@@ -8,6 +8,7 @@
 #include <QHash>
 
 #include <algorithm>
+#include <limits>
 #include <utility>
 
 namespace roamlet
@@ -55,6 +56,17 @@ public:
     }
 
     const std::vector<Section> &sections() const { return m_sections; }
+
+    /// Where the next newer section begins: today is no part of this week's.
+    PointInTime endOf(const Section &section) const
+    {
+        PointInTime end = pointInTime(std::numeric_limits<double>::infinity());
+        for (const Section &other : m_sections) {
+            if (other.date > section.date)
+                end = std::min(end, other.date);
+        }
+        return end;
+    }
 
     /// The hours or days that a section is about, with nothing counted yet.
     VisitStrip ticks(const Section &section)
@@ -135,6 +147,7 @@ QList<RowGroup<HistoryItem>> dayGroups(const RowPointers<HistoryItem> &items, bo
         groups.append({days.sections()[section].title, {}, std::move(rowsOfSection[section])});
         groups.last().visits = days.ticks(days.sections()[section]);
         groups.last().visits.count(groups.last().rows);
+        groups.last().visits.end = days.endOf(days.sections()[section]);
     }
     return groups;
 }

@@ -25,4 +25,8 @@ RowPointers<Row> allRows(const QList<Row> &rows)
     return result;
 }
 
+/// Those of a list that goes at once would point nowhere.
+template<typename Row>
+RowPointers<Row> allRows(QList<Row> &&rows) = delete;
+
 } // namespace roamlet

@@ -49,6 +49,22 @@ const VisitStrip &RowTree::visits(Number section) const
     return section > 0 && section <= m_visits.size() ? m_visits[section - 1] : none;
 }
 
+std::vector<RowTree::Number> RowTree::inReadingOrder(std::unordered_set<Number> numbers) const
+{
+    std::vector<Number> result;
+    result.reserve(numbers.size());
+    std::vector<Number> open{root};
+    while (!open.empty() && !numbers.empty()) {
+        const Number number = open.back();
+        open.pop_back();
+        if (numbers.erase(number) > 0)
+            result.push_back(number);
+        for (int child = m_nodes[number].childCount - 1; child >= 0; --child)
+            open.push_back(m_nodes[number].firstChild + static_cast<Number>(child));
+    }
+    return result;
+}
+
 int RowTree::linksBelow(Number number) const
 {
     int links = 0;

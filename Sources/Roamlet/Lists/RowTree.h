@@ -13,6 +13,7 @@
 #include <memory>
 #include <optional>
 #include <stop_token>
+#include <unordered_set>
 #include <vector>
 
 namespace roamlet
@@ -92,6 +93,8 @@ public:
     qsizetype linkCount() const { return m_linkCount; }
     /// The visits of the row with the most.
     qint64 mostVisits() const { return m_mostVisits; }
+    /// These nodes from top to bottom: numbers go level by level, people read otherwise.
+    std::vector<Number> inReadingOrder(std::unordered_set<Number> numbers) const;
     /// How many links lie below a node, however deep.
     int linksBelow(Number number) const;
 

@@ -10,7 +10,7 @@ namespace roamlet
 
 VisitStrip VisitStrip::between(Unit unit, const std::vector<PointInTime> &moments)
 {
-    VisitStrip strip{.unit = unit, .ticks = {}};
+    VisitStrip strip{.unit = unit, .ticks = {}, .end = moments.empty() ? PointInTime() : moments.back()};
     for (std::size_t i = 1; i < moments.size(); ++i)
         strip.ticks.push_back({.begin = moments[i - 1], .end = moments[i], .count = 0, .firstRow = 0});
     return strip;

@@ -33,6 +33,8 @@ struct VisitStrip {
     Unit unit = Unit::Hour;
     /// In the order of time, without gaps. None where a section is not cut by time.
     std::vector<Tick> ticks;
+    /// What begins then, or later, lies in the section of a newer day.
+    PointInTime end;
 
     bool operator==(const VisitStrip &) const = default;
 

@@ -15,6 +15,7 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QPainter>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
 #include <QToolTip>
@@ -89,7 +90,12 @@ TEST_F(RowLookTest, aTitleIsFollowedByItsSite)
 {
     EXPECT_EQ(companion(u"Garden"_s), u"allotment.example");
     EXPECT_TRUE(has(cell(u"Garden"_s), Look::of(view()).list.quiet));
-    EXPECT_TRUE(has(cell(u"Garden"_s), Look::of(view()).list.ink));
+    const QImage image = picture();
+    int darkest = 255;
+    const QRect place = cell(u"Garden"_s);
+    for (int x = place.left(); x < place.right(); ++x)
+        darkest = std::min(darkest, image.pixelColor(x, place.center().y()).lightness());
+    EXPECT_LT(darkest, Look::of(view()).list.quiet.lightness()) << "the title is not quiet";
 }
 
 TEST_F(RowLookTest, aWideColumnHasRoomForTheAddress)
@@ -311,6 +317,73 @@ TEST_F(RowLookTest, deleteDoesNothing)
     EXPECT_EQ(text(table), before);
     EXPECT_TRUE(workspace.requests.isEmpty());
     EXPECT_EQ(selectedTitles(table), QStringList{u"Trams"_s});
+}
+
+TEST_F(RowLookTest, aPressOnABandDragsNothing)
+{
+    awaitList(table, [this] { table.setInputs({.grouping = Grouping::Day}); });
+    click(table, u"Trams"_s);
+    const QPoint band = view().visualRect(find(table, u"Today"_s)).center();
+    QTest::mousePress(view().viewport(), Qt::LeftButton, {}, band);
+    QMouseEvent move(QEvent::MouseMove, QPointF(band + QPoint(200, 60)),
+                     view().viewport()->mapToGlobal(QPointF(band + QPoint(200, 60))), Qt::LeftButton,
+                     Qt::LeftButton, {});
+    // A drag would not come back from here.
+    QCoreApplication::sendEvent(view().viewport(), &move);
+    QTest::mouseRelease(view().viewport(), Qt::LeftButton, {}, band);
+    EXPECT_TRUE(selectedTitles(table).isEmpty()) << "nothing is selected that cannot be seen";
+    EXPECT_FALSE(view().isExpanded(find(table, u"Today"_s)));
+}
+
+TEST_F(RowLookTest, theBubbleGoesWithTheKeyboard)
+{
+    press(table, Qt::Key_Down);
+    press(table, Qt::Key_Down);
+    ASSERT_TRUE(bubble().isVisible());
+    view().clearFocus();
+    EXPECT_FALSE(bubble().isVisible());
+}
+
+TEST_F(RowLookTest, theBubbleStaysInItsCornerWhileTheListScrolls)
+{
+    QList<sample::HistoryRow> rows;
+    for (int i = 0; i < 100; ++i)
+        rows.append(page(u"p%1"_s.arg(i), i));
+    setPages(u"Default"_s, rows);
+    reload(table);
+    press(table, Qt::Key_Down);
+    press(table, Qt::Key_Down);
+    const QRect before = bubble().geometry();
+    view().verticalScrollBar()->setValue(3);
+    EXPECT_EQ(bubble().geometry(), before);
+}
+
+TEST_F(RowLookTest, aTooltipSaysWhatTheSiteLeavesNoRoomFor)
+{
+    setPages(u"Default"_s, {page(u"A title of many words that needs almost all of its column by itself"_s, 1,
+                                 1, u"https://a-site-with-a-long-name.example/"_s)});
+    reload(table);
+    const QString title = u"A title of many words that needs almost all of its column by itself"_s;
+    const int words = QFontMetrics(view().font()).horizontalAdvance(title);
+    view().tableHeader().resizeSection(HistoryTable::Title, words + 80);
+    EXPECT_EQ(toolTipAt(cell(title).center()), QString()) << "the site gives way";
+    view().tableHeader().resizeSection(HistoryTable::Title, words - 20);
+    EXPECT_TRUE(toolTipAt(cell(title).center()).contains(u"A title of"_s));
+}
+
+TEST_F(RowLookTest, aMatchInTheSchemeIsShown)
+{
+    search(u"https"_s);
+    EXPECT_EQ(companion(u"Trams"_s), u"https://trams.example/news/garden-line");
+}
+
+TEST_F(RowLookTest, aScreenReaderHearsTheWholeDate)
+{
+    EXPECT_EQ(find(table, u"Trams"_s)
+                  .siblingAtColumn(HistoryTable::LastVisited)
+                  .data(Qt::AccessibleTextRole)
+                  .toString(),
+              u"Saturday, May 9, 2026 6:13 AM");
 }
 
 TEST_F(RowLookTest, bandsAreHigherThanRows)

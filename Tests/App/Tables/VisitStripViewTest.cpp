@@ -157,6 +157,14 @@ TEST_F(VisitStripViewTest, itEndsWhereTheTimesEnd)
     EXPECT_GT(bar(23).x(), end - 6);
 }
 
+TEST_F(VisitStripViewTest, whereTheDatesComeFirstTheTitleKeepsItsPlace)
+{
+    const QPoint place = bar(5);
+    view().tableHeader().moveSection(HistoryTable::LastVisited, 0);
+    for (int x = 0; x < view().viewport()->width(); ++x)
+        EXPECT_FALSE(toolTipAt(QPoint(x, place.y())).contains(u" to "_s));
+}
+
 TEST_F(VisitStripViewTest, withoutItsColumnThereIsNone)
 {
     const QPoint place = bar(5);

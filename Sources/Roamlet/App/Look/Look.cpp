@@ -175,6 +175,7 @@ Measures::Measures(const QFont &font)
       switchHeight(units(1.2)),
       radioSide(units(0.95)),
       iconSide(2 * std::max(1, units(0.89 / 2))),
+      chevronSide(units(0.8)),
       gapAfterIcon(units(0.5)),
       gapBetweenCells(units(1.6)),
       gapAroundGroups(units(0.45)),

@@ -70,6 +70,8 @@ struct Measures {
     int radioSide;
     /// Icons of sites and browsers; even, so that they have a middle.
     int iconSide;
+    /// The arrow of what opens and closes.
+    int chevronSide;
     int gapAfterIcon;
     int gapBetweenCells;
     int gapAroundGroups;

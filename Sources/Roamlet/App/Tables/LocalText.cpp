@@ -105,11 +105,14 @@ QString LocalText::fullDate(PointInTime time) const
            m_locale.toString(shown.time(), QLocale::ShortFormat);
 }
 
-QString LocalText::hour(PointInTime begin, PointInTime end) const
+QString LocalText::hour(int number) const
 {
+    constexpr int hoursPerDay = 24;
+    const auto time = [this](int hour) {
+        return m_locale.toString(QTime(hour % hoursPerDay, 0), QLocale::ShortFormat);
+    };
     //: An hour of a day: "13:00 to 14:00".
-    return QCoreApplication::translate("roamlet::LocalText", "%1 to %2")
-        .arg(timeOfDay(begin), timeOfDay(end));
+    return QCoreApplication::translate("roamlet::LocalText", "%1 to %2").arg(time(number), time(number + 1));
 }
 
 QString LocalText::day(PointInTime begin) const

@@ -33,9 +33,9 @@ public:
     QString timeOfDay(PointInTime time) const;
     /// Date and time.
     QString fullDate(PointInTime time) const;
-    /// An hour, or the day, that begins then and ends at `end`: "13:00 to 14:00", "Tuesday, 10 November
-    /// 2026".
-    QString hour(PointInTime begin, PointInTime end) const;
+    /// An hour of a day, as the clock on the wall counts them: "13:00 to 14:00".
+    QString hour(int number) const;
+    /// The day that begins then: "Tuesday, 10 November 2026".
     QString day(PointInTime begin) const;
     /// With its digits in groups.
     QString number(qint64 number) const;

@@ -4,6 +4,7 @@
 #include "App/Tables/RowBackground.h"
 
 #include "App/Look/Look.h"
+#include "App/Look/Painting.h"
 
 #include <QPainter>
 #include <QPainterPath>
@@ -20,6 +21,10 @@ constexpr double rowInset = 0.4;
 QPainterPath roundedRow(const QRectF &body, qreal radius, bool isRoundAbove, bool isRoundBelow)
 {
     QPainterPath path;
+    if (isRoundAbove && isRoundBelow) {
+        path.addRoundedRect(body, radius, radius);
+        return path;
+    }
     path.setFillRule(Qt::WindingFill);
     path.addRoundedRect(body, radius, radius);
     if (!isRoundAbove)
@@ -47,10 +52,7 @@ void RowBackground::paint(QPainter &painter, const QRect &row, const Look &look)
         painter.drawRoundedRect(body, radius, radius);
     }
     if (hasRing) {
-        constexpr qreal half = Measures::focusRingWidth / 2.0;
-        painter.setPen(QPen(look.accent, Measures::focusRingWidth));
-        painter.setBrush(Qt::NoBrush);
-        painter.drawRoundedRect(body.adjusted(half, half, -half, -half), radius, radius);
+        drawFocusRing(painter, body, radius, look);
     }
     painter.restore();
 }

@@ -46,17 +46,27 @@ RowBubble::RowBubble(QWidget *viewport) : QWidget(viewport)
 
 void RowBubble::showRow(const QString &address, const QString &date)
 {
-    if (isVisible() && address == m_address && date == m_date)
-        return;
     m_address = address;
     m_date = date;
+    m_isWanted = true;
     place();
-    show();
     raise();
     update();
 }
 
-void RowBubble::place()
+void RowBubble::dismiss()
+{
+    m_isWanted = false;
+    hide();
+}
+
+void RowBubble::avoid(const QPoint &pointer)
+{
+    m_pointer = pointer;
+    place();
+}
+
+QRect RowBubble::placeAt(bool isTheEnd) const
 {
     const Look look = Look::of(*parentWidget());
     const QFontMetrics metrics(look.smallFont);
@@ -67,20 +77,24 @@ void RowBubble::place()
     const int wanted = look.measures.alignmentLine + address + date + look.measures.units(endInLines) + 1;
     const int width = std::min(wanted, qRound(space.width() * widest));
     const int height = look.measures.units(heightInLines);
-    const int left = m_isAtTheEnd ? space.width() - width : 0;
-    setGeometry(QStyle::visualRect(layoutDirection(), space,
-                                   QRect(left, space.bottom() + 1 - height, width, height)));
+    const int left = isTheEnd ? space.width() - width : 0;
+    return QStyle::visualRect(layoutDirection(), space,
+                              QRect(left, space.bottom() + 1 - height, width, height));
 }
 
-void RowBubble::avoid(const QPoint &pointer)
+void RowBubble::place()
 {
-    if (!isVisible())
+    if (!m_isWanted)
         return;
     const int near = Look::of(*parentWidget()).measures.rowHeight;
-    if (!geometry().adjusted(-near, -near, near, near).contains(pointer))
-        return;
-    m_isAtTheEnd = !m_isAtTheEnd;
-    place();
+    const auto isInTheWay = [&](const QRect &place) {
+        return place.adjusted(-near, -near, near, near).contains(m_pointer);
+    };
+    const QRect leading = placeAt(false);
+    m_isAtTheEnd = isInTheWay(leading);
+    const QRect chosen = m_isAtTheEnd ? placeAt(true) : leading;
+    setGeometry(chosen);
+    setVisible(!isInTheWay(chosen));
 }
 
 QString RowBubble::shownAddress(int width) const

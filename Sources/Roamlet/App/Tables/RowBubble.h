@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QPoint>
 #include <QString>
 #include <QWidget>
 
@@ -17,11 +18,13 @@ public:
     /// Lies in the list's viewport.
     explicit RowBubble(QWidget *viewport);
 
-    /// Shows these in the lower leading corner, or in the other one where the pointer is near.
+    /// Tells of a row, in the lower leading corner, or in the other one where the pointer is near.
     void showRow(const QString &address, const QString &date);
-    /// Goes out of the pointer's way.
+    /// There is nothing more to tell.
+    void dismiss();
+    /// Goes out of the pointer's way: into the other corner, and where that is near, too, out of sight.
     void avoid(const QPoint &pointer);
-    /// The viewport has another size.
+    /// The viewport has another size, or was scrolled with all that lies in it.
     void place();
 
     const QString &address() const { return m_address; }
@@ -32,9 +35,12 @@ protected:
 
 private:
     QString shownAddress(int width) const;
+    QRect placeAt(bool isTheEnd) const;
 
     QString m_address;
     QString m_date;
+    QPoint m_pointer;
+    bool m_isWanted = false;
     bool m_isAtTheEnd = false;
 };
 

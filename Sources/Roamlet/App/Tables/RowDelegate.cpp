@@ -51,14 +51,20 @@ QString pathOf(const QString &url)
     return slash < 0 ? QString() : address.sliced(slash);
 }
 
-bool hasDigit(QStringView text)
+bool isDigit(QChar c)
 {
-    return std::ranges::any_of(text, [](QChar c) { return c >= u'0' && c <= u'9'; });
+    return c >= u'0' && c <= u'9';
 }
 
 /// The width of the widest digit where they differ, or else 0.
-int digitCell(const QFontMetrics &metrics)
+int digitCell(const QFont &font)
 {
+    // A list asks for the same one all the time.
+    static QFont known;
+    static std::optional<int> cell;
+    if (cell && known == font)
+        return *cell;
+    const QFontMetrics metrics(font);
     int least = metrics.horizontalAdvance(u'0');
     int most = least;
     for (char16_t digit = u'1'; digit <= u'9'; ++digit) {
@@ -66,7 +72,32 @@ int digitCell(const QFontMetrics &metrics)
         least = std::min(least, width);
         most = std::max(most, width);
     }
-    return least == most ? 0 : most;
+    known = font;
+    cell = least == most ? 0 : most;
+    return *cell;
+}
+
+/// A number or date in pieces: each digit by itself where digits differ in width, what lies between them, and
+/// all of a text that is read from right to left, whole.
+QStringList tabularPieces(const QFont &font, const QString &text)
+{
+    if (text.isRightToLeft() || digitCell(font) == 0)
+        return {text};
+    QStringList pieces;
+    for (const QChar c : text) {
+        if (pieces.isEmpty() || isDigit(c) || isDigit(pieces.last().back()))
+            pieces.append(QString(c));
+        else
+            pieces.last().append(c);
+    }
+    return pieces;
+}
+
+int pieceWidth(const QFont &font, const QString &piece)
+{
+    return piece.size() == 1 && isDigit(piece.front()) && digitCell(font) > 0
+               ? digitCell(font)
+               : QFontMetrics(font).horizontalAdvance(piece);
 }
 
 } // namespace
@@ -126,39 +157,25 @@ void drawMarkedText(QPainter &painter, const QRect &place, Qt::LayoutDirection d
 
 int tabularWidth(const QFont &font, const QString &text)
 {
-    const QFontMetrics metrics(font);
-    const int cell = hasDigit(text) && !text.isRightToLeft() ? digitCell(metrics) : 0;
-    if (cell == 0)
-        return metrics.horizontalAdvance(text);
     int width = 0;
-    for (const QChar c : text)
-        width += c >= u'0' && c <= u'9' ? cell : metrics.horizontalAdvance(c);
+    for (const QString &piece : tabularPieces(font, text))
+        width += pieceWidth(font, piece);
     return width;
 }
 
 void drawTabularText(QPainter &painter, const QRect &place, Qt::LayoutDirection direction,
                      const QString &text)
 {
+    const QFont font = painter.font();
     const QFontMetrics metrics = painter.fontMetrics();
-    const bool isMirrored = direction == Qt::RightToLeft;
-    const int cell = hasDigit(text) && !text.isRightToLeft() ? digitCell(metrics) : 0;
-    if (cell == 0) {
-        painter.setLayoutDirection(Qt::LayoutDirectionAuto);
-        painter.drawText(place,
-                         static_cast<int>(Qt::AlignVCenter | Qt::AlignAbsolute |
-                                          (isMirrored ? Qt::AlignLeft : Qt::AlignRight)) |
-                             Qt::TextSingleLine,
-                         text);
-        return;
-    }
-    const int width = tabularWidth(painter.font(), text);
-    int x = isMirrored ? place.left() : place.right() + 1 - width;
+    int x = direction == Qt::RightToLeft ? place.left() : place.right() + 1 - tabularWidth(font, text);
     const int baseline = place.top() + ((place.height() - metrics.height()) / 2) + metrics.ascent();
-    for (const QChar c : text) {
-        const bool isDigit = c >= u'0' && c <= u'9';
-        const int advance = metrics.horizontalAdvance(c);
-        painter.drawText(isDigit ? x + cell - advance : x, baseline, QString(c));
-        x += isDigit ? cell : advance;
+    painter.setLayoutDirection(Qt::LayoutDirectionAuto);
+    for (const QString &piece : tabularPieces(font, text)) {
+        const int width = pieceWidth(font, piece);
+        // A narrow digit ends where a wide one would.
+        painter.drawText(x + width - metrics.horizontalAdvance(piece), baseline, piece);
+        x += width;
     }
 }
 
@@ -189,9 +206,11 @@ RowDelegate::RowDelegate(const TableModel &model, const TableHeader &header, con
 {
 }
 
-QSize RowDelegate::sizeHint(const QStyleOptionViewItem & /*option*/, const QModelIndex &index) const
+QSize RowDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
-    const bool isBand = m_model.isBand(index);
+    // The first row would decide about all.
+    const auto *const view = qobject_cast<const QTreeView *>(option.widget);
+    const bool isBand = m_model.isBand(index) && (view == nullptr || !view->uniformRowHeights());
     return {0, isBand ? m_look.measures.sectionHeight : m_look.measures.rowHeight};
 }
 
@@ -209,11 +228,45 @@ QString RowDelegate::companion(const TableRow &row, int titleWidth) const
 {
     if (row.kind != TableRow::Kind::Link || row.title.isEmpty() || row.title == row.url)
         return {};
+    // Nobody sees more of it, and looking through megabytes would take its time.
+    const QString url = CellText::oneLine(row.url);
     if (m_search.site)
-        return CellText::oneLine(pathOf(row.url));
-    const bool isFoundInAddress =
-        !m_search.words.isEmpty() && !searchMatches(row.url, m_search.words).isEmpty();
-    return CellText::oneLine(isFoundInAddress || isWide(titleWidth) ? shownAddress(row.url) : row.site);
+        return pathOf(url);
+    const QString address = shownAddress(url);
+    if (!m_search.words.isEmpty()) {
+        for (const QString &text : {address, url}) {
+            if (!searchMatches(text, m_search.words).isEmpty())
+                return text;
+        }
+    }
+    return isWide(titleWidth) ? address : CellText::oneLine(row.site);
+}
+
+RowDelegate::TitleLayout RowDelegate::titleLayout(const TableRow &row, const QString &title, int width,
+                                                  int cellWidth) const
+{
+    const QFontMetrics metrics(m_look.textFont);
+    const int gap = m_look.measures.gapAfterIcon;
+    const int wanted = metrics.horizontalAdvance(title);
+    const QString companion = this->companion(row, cellWidth);
+    const TitleLayout alone{
+        .companion = {}, .titleWidth = std::clamp(wanted, 0, std::max(width, 0)), .isWhole = wanted <= width};
+    if (companion.isEmpty())
+        return alone;
+    const int companionWanted = metrics.horizontalAdvance(companion);
+    const bool isSite = companion == CellText::oneLine(row.site);
+    // A site is shown whole or not at all; an address gives way as a title does.
+    const int share = isSite ? companionWanted : std::min(companionWanted, qRound(width * addressShare));
+    const int titleWidth = std::min(wanted, width - gap - share);
+    const int least = std::min(wanted, m_look.measures.units(leastTitle));
+    const bool isTheReason = !m_search.words.isEmpty() && !isSite &&
+                             searchMatches(title, m_search.words).isEmpty() &&
+                             !searchMatches(companion, m_search.words).isEmpty();
+    if (titleWidth < least && !isTheReason)
+        return alone;
+    return {.companion = companion,
+            .titleWidth = std::max(titleWidth, 0),
+            .isWhole = wanted <= titleWidth && companionWanted <= width - gap - titleWidth};
 }
 
 void RowDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
@@ -297,27 +350,14 @@ void RowDelegate::paintTitle(const Cell &cell) const
         return;
     }
 
-    const QString companion = this->companion(cell.row, cell.option.rect.width());
-    const bool isSite = companion == cell.row.site;
-    const bool isMarked = !isSite && !searchMatches(companion, m_search.words).isEmpty();
-    const int companionWanted = metrics.horizontalAdvance(companion);
-    const int least = std::min(wanted, measures.units(leastTitle));
-    // A site is shown whole or not at all; an address gives way as a title does.
-    const int share =
-        isSite ? companionWanted : std::min(companionWanted, qRound(rest.width() * addressShare));
-    int titleWidth = std::min(wanted, rest.width() - gap - share);
-    const bool isShown =
-        !companion.isEmpty() &&
-        (titleWidth >= least || (isMarked && searchMatches(title, m_search.words).isEmpty()));
-    if (!isShown)
-        titleWidth = std::min(wanted, rest.width());
-    titleWidth = std::max(titleWidth, 0);
-    draw(QRect(rest.topLeft(), QSize(titleWidth, rest.height())),
-         fittedAroundMatch(title, m_search.words, metrics, titleWidth), cell.ink, marked);
-    if (!isShown)
+    const TitleLayout layout = titleLayout(cell.row, title, rest.width(), cell.option.rect.width());
+    draw(QRect(rest.topLeft(), QSize(layout.titleWidth, rest.height())),
+         fittedAroundMatch(title, m_search.words, metrics, layout.titleWidth), cell.ink, marked);
+    if (layout.companion.isEmpty())
         return;
-    rest.setLeft(rest.left() + titleWidth + gap);
-    draw(rest, fittedAroundMatch(companion, m_search.words, metrics, rest.width()), cell.quiet, marked);
+    rest.setLeft(rest.left() + layout.titleWidth + gap);
+    draw(rest, fittedAroundMatch(layout.companion, m_search.words, metrics, rest.width()), cell.quiet,
+         marked);
 }
 
 void RowDelegate::paintText(const Cell &cell, const QString &text) const
@@ -366,7 +406,14 @@ int RowDelegate::naturalWidth(const QModelIndex &index) const
 
 bool RowDelegate::isCut(const QModelIndex &index, int width) const
 {
-    const bool isSource = m_model.columns()[index.column()].content == TableColumn::Content::Source;
+    const TableRow &row = m_model.rowAt(index);
+    const TableColumn::Content content = m_model.columns()[index.column()].content;
+    if (content == TableColumn::Content::Title && row.kind == TableRow::Kind::Link) {
+        const int padding =
+            m_header.leadingPadding(index.column()) + m_header.trailingPadding(index.column());
+        return !titleLayout(row, index.data().toString(), width - padding - iconAndGap(), width).isWhole;
+    }
+    const bool isSource = content == TableColumn::Content::Source;
     return naturalWidth(index) > width || (isSource && m_header.isNarrow());
 }
 

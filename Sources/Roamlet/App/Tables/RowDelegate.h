@@ -54,6 +54,15 @@ public:
 private:
     struct Cell;
 
+    /// What a cell of a title shows, and how wide the title is in it.
+    struct TitleLayout {
+        QString companion;
+        int titleWidth = 0;
+        bool isWhole = true;
+    };
+    /// `width` is what icon and words share, `cellWidth` the whole cell's.
+    TitleLayout titleLayout(const TableRow &row, const QString &title, int width, int cellWidth) const;
+
     void paintTitle(const Cell &cell) const;
     void paintText(const Cell &cell, const QString &text) const;
     void paintNumber(const Cell &cell, const QString &text) const;

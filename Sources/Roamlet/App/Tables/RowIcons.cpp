@@ -18,11 +18,7 @@ namespace roamlet
 using namespace Qt::StringLiterals;
 
 RowIcons::RowIcons(Library &library, Opener &opener, const QWidget &widget)
-    : m_library(library),
-      m_sources(library, opener, widget),
-      m_widget(widget),
-      m_globe(symbolIcon(u"globe"_s)),
-      m_folder(symbolIcon(u"folder"_s))
+    : m_library(library), m_sources(library, opener, widget), m_widget(widget)
 {
 }
 
@@ -43,6 +39,12 @@ const QIcon &RowIcons::siteIfKnown(const QString &site)
     return *icon;
 }
 
+const QIcon &RowIcons::folder()
+{
+    followDisplay();
+    return m_folder;
+}
+
 void RowIcons::clear()
 {
     m_sites.clear();
@@ -51,11 +53,14 @@ void RowIcons::clear()
 void RowIcons::followDisplay()
 {
     const qreal ratio = m_widget.devicePixelRatioF();
-    const int side = Look::of(m_widget).measures.iconSide;
-    if (ratio == m_ratio && side == m_side)
+    const Look look = Look::of(m_widget);
+    if (ratio == m_ratio && look.measures.iconSide == m_side && look.list.ink == m_ink)
         return;
     m_ratio = ratio;
-    m_side = side;
+    m_side = look.measures.iconSide;
+    m_ink = look.list.ink;
+    m_globe = symbolIcon(u"globe"_s, look.list.quiet);
+    m_folder = symbolIcon(u"folder"_s, look.list.ink);
     clear();
 }
 

@@ -5,6 +5,7 @@
 
 #include "App/Look/SourceIcons.h"
 
+#include <QColor>
 #include <QHash>
 #include <QIcon>
 #include <QString>
@@ -31,7 +32,7 @@ public:
     const QIcon &siteIfKnown(const QString &site);
     /// The icon of the profile's browser, or our mark of it.
     QIcon source(const Source &source) { return m_sources.of(source); }
-    const QIcon &folder() const { return m_folder; }
+    const QIcon &folder();
     /// A new snapshot can bring other icons.
     void clear();
 
@@ -46,6 +47,7 @@ private:
     qreal m_ratio = 0;
     /// In points; larger texts have larger icons.
     int m_side = 0;
+    QColor m_ink;
     QHash<QString, QIcon> m_sites;
     QIcon m_globe;
     QIcon m_folder;

@@ -84,15 +84,16 @@ void SectionBand::paint(QPainter &painter, const QRect &band, Qt::LayoutDirectio
     const auto visual = [&](const QRect &logical) { return QStyle::visualRect(direction, band, logical); };
     const bool isMirrored = direction == Qt::RightToLeft;
     painter.save();
-    if (!isOnGround)
+    const Ground &shown = ground != nullptr ? *ground : look.list;
+    if (ground == nullptr)
         painter.fillRect(band, look.list.base);
     if (!isFirst)
         paintHairline(painter, band, Qt::TopEdge, look.list.hairline);
-    const int arrow = measures.units(0.8);
+    const int arrow = measures.chevronSide;
     const QRect arrowPlace = visual(
         QRect(band.left() + measures.gutter, band.top() + ((band.height() - arrow) / 2), arrow, arrow));
     const Qt::ArrowType closed = isMirrored ? Qt::LeftArrow : Qt::RightArrow;
-    drawChevron(painter, arrowPlace, isOpen ? Qt::DownArrow : closed, look.list.quiet);
+    drawChevron(painter, arrowPlace, isOpen ? Qt::DownArrow : closed, shown.quiet);
 
     QRect rest = band.adjusted(measures.alignmentLine, 0, -measures.alignmentLine, 0);
     if (visits != nullptr) {
@@ -111,9 +112,9 @@ void SectionBand::paint(QPainter &painter, const QRect &band, Qt::LayoutDirectio
         std::clamp(rest.width() - measures.gapAfterIcon - countWidth, 0, heading.horizontalAdvance(title));
     painter.setFont(look.headingFont);
     drawMarkedText(painter, visual(QRect(rest.left(), rest.top(), titleWidth, rest.height())), direction,
-                   CellText::fitted(title, heading, titleWidth), look.list.ink);
+                   CellText::fitted(title, heading, titleWidth), shown.ink);
     painter.setFont(look.smallFont);
-    painter.setPen(look.list.quiet);
+    painter.setPen(shown.quiet);
     drawTabularText(painter,
                     visual(QRect(rest.left() + titleWidth + measures.gapAfterIcon, rest.top(), countWidth,
                                  rest.height())),
@@ -136,7 +137,7 @@ void SectionBand::paint(QPainter &painter, const QRect &band, Qt::LayoutDirectio
         const bool isLit = litTick == i;
         qreal bottom = stripHeight - emptyBarAbove;
         qreal height = emptyBar;
-        QColor color = tick.begin > now ? look.stripToCome : look.stripEmpty;
+        QColor color = tick.begin > now || tick.begin >= visits->end ? look.stripToCome : look.stripEmpty;
         if (tick.count > 0) {
             height = leastBar + ((stripHeight - leastBar) * std::pow(tick.count / most, flattening));
             bottom = stripHeight;

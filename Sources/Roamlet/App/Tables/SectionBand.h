@@ -19,6 +19,7 @@ class QPainter;
 namespace roamlet
 {
 
+struct Ground;
 struct Look;
 
 /// What the heading of a section shows: an arrow, its icon, its title, how many rows it has, and the strip of
@@ -30,8 +31,8 @@ struct SectionBand {
     bool isOpen = true;
     /// A line parts it from what stands above.
     bool isFirst = false;
-    /// Its ground is painted already: it can be selected.
-    bool isOnGround = false;
+    /// What it is painted on, where that is there already: it can be selected.
+    const Ground *ground = nullptr;
     /// Null where no strip is shown.
     const VisitStrip *visits = nullptr;
     /// The hour or day that the row under the pointer belongs to.

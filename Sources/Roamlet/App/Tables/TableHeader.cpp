@@ -6,10 +6,12 @@
 #include "App/Look/Chevron.h"
 #include "App/Look/Hairline.h"
 #include "App/Look/Look.h"
+#include "App/Look/Painting.h"
 #include "App/Tables/CellText.h"
 #include "App/Tables/RowDelegate.h"
 #include "App/Tables/TableModel.h"
 
+#include <QAccessible>
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QPainter>
@@ -32,12 +34,11 @@ constexpr double narrowestColumn = 1.5;
 constexpr double narrowList = 36;
 constexpr double leastDateWidth = 6.6;
 constexpr double leastVisitsWidth = 3.4;
-constexpr double headingArrow = 0.8;
 
 } // namespace
 
 TableHeader::TableHeader(const TableModel &model, QWidget *parent)
-    : QHeaderView(Qt::Horizontal, parent), m_model(model)
+    : QHeaderView(Qt::Horizontal, parent), m_model(model), m_look(Look::of(*this))
 {
     setSectionsMovable(true);
     setFirstSectionMovable(true);
@@ -115,7 +116,7 @@ void TableHeader::setColumnShown(int column, bool isShown)
 
 QSize TableHeader::sizeHint() const
 {
-    return {QHeaderView::sizeHint().width(), Look::of(*this).measures.columnHeaderHeight};
+    return {QHeaderView::sizeHint().width(), m_look.measures.columnHeaderHeight};
 }
 
 QSize TableHeader::sectionSizeFromContents(int column) const
@@ -141,14 +142,14 @@ int TableHeader::edgeColumn(bool isLast) const
 
 int TableHeader::leadingPadding(int column) const
 {
-    const Measures measures = Look::of(*this).measures;
+    const Measures &measures = m_look.measures;
     const int padding = column == edgeColumn(false) ? measures.alignmentLine : measures.gapBetweenCells / 2;
     return column == titleColumn ? std::max(0, padding - m_titleIndent) : padding;
 }
 
 int TableHeader::trailingPadding(int column) const
 {
-    const Measures measures = Look::of(*this).measures;
+    const Measures &measures = m_look.measures;
     return column == edgeColumn(true) ? measures.alignmentLine : measures.gapBetweenCells / 2;
 }
 
@@ -161,12 +162,12 @@ int TableHeader::contentEnd(int column) const
 
 int TableHeader::widestTitle() const
 {
-    return Look::of(*this).measures.units(widestTitleInLines);
+    return m_look.measures.units(widestTitleInLines);
 }
 
 bool TableHeader::isNarrow() const
 {
-    return viewport()->width() < Look::of(*this).measures.units(narrowList);
+    return viewport()->width() < m_look.measures.units(narrowList);
 }
 
 void TableHeader::setTitleIndent(int indent)
@@ -176,17 +177,16 @@ void TableHeader::setTitleIndent(int indent)
 
 int TableHeader::headingWidth(int column) const
 {
-    const Look look = Look::of(*this);
+    const Look &look = m_look;
     QFont bold = look.smallFont;
     bold.setBold(true);
-    return QFontMetrics(bold).horizontalAdvance(m_model.columns()[column].title) +
-           look.measures.units(headingArrow);
+    return QFontMetrics(bold).horizontalAdvance(m_model.columns()[column].title) + look.measures.chevronSide;
 }
 
 int TableHeader::suitableWidth(int column) const
 {
     const TableColumn &shown = m_model.columns()[column];
-    const Measures measures = Look::of(*this).measures;
+    const Measures &measures = m_look.measures;
     const int gap = measures.gapBetweenCells;
     const int edge = column == edgeColumn(true) ? trailingPadding(column) - (gap / 2) : 0;
     switch (shown.content) {
@@ -214,7 +214,7 @@ int TableHeader::wantedWidth(int column) const
 
 void TableHeader::fitColumns()
 {
-    const QFont font = Look::of(*this).textFont;
+    const QFont font = m_look.textFont;
     const LocalText &local = m_model.localText();
     if (m_dateWidthOf != local.today()) {
         m_dateWidthOf = local.today();
@@ -230,7 +230,7 @@ void TableHeader::arrange()
 {
     if (count() == 0 || m_isDragging)
         return;
-    const Measures measures = Look::of(*this).measures;
+    const Measures &measures = m_look.measures;
     const int last = edgeColumn(true);
     int others = 0;
     for (int column = 0; column < count(); ++column) {
@@ -254,7 +254,7 @@ void TableHeader::arrange()
 
 void TableHeader::updateMinimum()
 {
-    setMinimumSectionSize(Look::of(*this).measures.units(narrowestColumn));
+    setMinimumSectionSize(m_look.measures.units(narrowestColumn));
 }
 
 void TableHeader::mousePressEvent(QMouseEvent *event)
@@ -332,6 +332,7 @@ void TableHeader::followArrow(int direction, Qt::KeyboardModifiers modifiers)
         m_keyColumn = next;
     finishDragging();
     viewport()->update();
+    tellFocus();
 }
 
 void TableHeader::contextMenuEvent(QContextMenuEvent *event)
@@ -344,6 +345,15 @@ void TableHeader::focusInEvent(QFocusEvent *event)
 {
     QHeaderView::focusInEvent(event);
     viewport()->update();
+    tellFocus();
+}
+
+void TableHeader::tellFocus()
+{
+    // To a screen reader the headings are the first children of the view.
+    QAccessibleEvent event(parentWidget(), QAccessible::Focus);
+    event.setChild(keyColumn());
+    QAccessible::updateAccessibility(&event);
 }
 
 void TableHeader::focusOutEvent(QFocusEvent *event)
@@ -369,8 +379,10 @@ void TableHeader::leaveEvent(QEvent *event)
 void TableHeader::changeEvent(QEvent *event)
 {
     QHeaderView::changeEvent(event);
-    if (event->type() != QEvent::FontChange && event->type() != QEvent::StyleChange)
+    if (event->type() != QEvent::FontChange && event->type() != QEvent::StyleChange &&
+        event->type() != QEvent::PaletteChange)
         return;
+    m_look = Look::of(*this);
     updateMinimum();
     m_dateWidthOf = {};
     fitColumns();
@@ -378,7 +390,7 @@ void TableHeader::changeEvent(QEvent *event)
 
 void TableHeader::paintSection(QPainter *painter, const QRect &rect, int column) const
 {
-    const Look look = Look::of(*this);
+    const Look &look = m_look;
     const Measures &measures = look.measures;
     const bool isSorted = isSortIndicatorShown() && sortIndicatorSection() == column;
     const auto visual = [&](const QRect &logical) {
@@ -394,7 +406,7 @@ void TableHeader::paintSection(QPainter *painter, const QRect &rect, int column)
     const int indent = column == titleColumn ? m_titleIndent : 0;
     QRect place = rect.adjusted(leadingPadding(column) + indent, 0, -trailingPadding(column), 0);
     const QColor ink = isSorted ? look.list.ink : look.list.quiet;
-    const int arrow = isSorted ? measures.units(headingArrow) : 0;
+    const int arrow = isSorted ? measures.chevronSide : 0;
     const QFontMetrics metrics = painter->fontMetrics();
     const QString text = m_model.columns()[column].title;
     const int width = std::min(metrics.horizontalAdvance(text), std::max(0, place.width() - arrow));
@@ -418,7 +430,7 @@ void TableHeader::paintSection(QPainter *painter, const QRect &rect, int column)
 
 void TableHeader::paintEvent(QPaintEvent * /*event*/)
 {
-    const Look look = Look::of(*this);
+    const Look &look = m_look;
     QPainter painter(viewport());
     painter.fillRect(viewport()->rect(), look.list.base);
     for (int column = 0; column < count(); ++column) {
@@ -432,13 +444,10 @@ void TableHeader::paintEvent(QPaintEvent * /*event*/)
     if (!hasFocus())
         return;
     // Only the keyboard brings it here.
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(look.accent, Measures::focusRingWidth));
-    constexpr qreal inset = Measures::focusRingWidth / 2.0;
-    const QRectF ring(sectionViewportPosition(keyColumn()), 0, sectionSize(keyColumn()),
-                      viewport()->height());
-    painter.drawRoundedRect(ring.adjusted(inset, inset, -inset, -inset), look.measures.rowRadius,
-                            look.measures.rowRadius);
+    drawFocusRing(
+        painter,
+        QRectF(sectionViewportPosition(keyColumn()), 0, sectionSize(keyColumn()), viewport()->height()),
+        look.measures.rowRadius, look);
 }
 
 void TableHeader::resizeEvent(QResizeEvent *event)

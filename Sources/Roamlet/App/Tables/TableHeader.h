@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "App/Look/Look.h"
 #include "App/Tables/ColumnLayout.h"
 
 #include <QDate>
@@ -88,9 +89,12 @@ private:
     int keyColumn() const { return isSectionHidden(m_keyColumn) ? titleColumn : m_keyColumn; }
     /// To the next shown column, 1 for the right one and -1 for the left; it may stay where it is.
     int neighbour(int column, int direction) const;
+    /// Which heading the keys are about now.
+    void tellFocus();
     void followArrow(int direction, Qt::KeyboardModifiers modifiers);
 
     const TableModel &m_model;
+    Look m_look;
     /// The widths that are the user's choice, by column. A hidden column keeps its own.
     QHash<int, int> m_chosenWidths;
     int m_keyColumn = titleColumn;

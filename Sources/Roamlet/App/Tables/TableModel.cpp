@@ -9,8 +9,8 @@
 #include <QMimeData>
 #include <QUrl>
 
-#include <map>
 #include <memory>
+#include <unordered_set>
 #include <utility>
 
 namespace roamlet
@@ -104,17 +104,18 @@ QStringList TableModel::mimeTypes() const
 QMimeData *TableModel::mimeData(const QModelIndexList &indexes) const
 {
     // Every row comes once for each column.
-    std::map<RowTree::Number, const TableRow *> links;
+    std::unordered_set<RowTree::Number> links;
     for (const QModelIndex &index : indexes) {
         if (index.isValid() && rowAt(index).kind == TableRow::Kind::Link)
-            links.emplace(numberOf(index), &rowAt(index));
+            links.insert(numberOf(index));
     }
     if (links.empty())
         return nullptr;
     QList<QUrl> urls;
     QStringList html;
     QStringList plain;
-    for (const auto &[number, row] : links) {
+    for (const RowTree::Number number : m_tree->inReadingOrder(std::move(links))) {
+        const TableRow *row = &m_tree->row(number);
         const QUrl url(row->url);
         if (url.isValid() && !url.isRelative())
             urls.append(url);
@@ -228,6 +229,9 @@ QString TableModel::text(const RowTree::Node &node, TableColumn::Content content
 
 QString TableModel::accessibleText(const RowTree::Node &node, TableColumn::Content content) const
 {
+    // Whoever hears it does not see the heading.
+    if (content == TableColumn::Content::Date && node.row.date)
+        return m_localText.fullDate(*node.row.date);
     QString shown = text(node, content);
     if (content != TableColumn::Content::Title || node.row.kind == TableRow::Kind::Link)
         return shown;

@@ -64,7 +64,7 @@ public:
     Qt::ItemFlags flags(const QModelIndex &index) const override;
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
     QStringList mimeTypes() const override;
-    /// The links among these, for other programs.
+    /// The links among these, from top to bottom, for other programs.
     QMimeData *mimeData(const QModelIndexList &indexes) const override;
     Qt::DropActions supportedDragActions() const override { return Qt::CopyAction | Qt::LinkAction; }
     QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;

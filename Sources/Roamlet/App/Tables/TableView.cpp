@@ -27,6 +27,7 @@
 #include <algorithm>
 #include <chrono>
 #include <unordered_set>
+#include <utility>
 
 namespace roamlet
 {
@@ -48,9 +49,10 @@ constexpr std::chrono::milliseconds bubbleDelay{300};
 /// Of so many selected rows there is no one to tell about.
 constexpr int severalRows = 3;
 
+/// What a heading keeps beside its strip.
+constexpr double leastHeading = 8;
 /// One level of folders.
 constexpr double indentInLines = 1.25;
-constexpr double arrowSide = 0.8;
 
 } // namespace
 
@@ -160,17 +162,10 @@ QList<TableRow> TableView::selectedRows() const
     }
     QList<TableRow> rows;
     rows.reserve(static_cast<qsizetype>(selected.size()));
-    // Numbers go level by level; people read from top to bottom.
     const RowTree &tree = *m_model.tree();
-    std::vector<RowTree::Number> open{RowTree::root};
-    while (!open.empty() && !selected.empty()) {
-        const RowTree::Number number = open.back();
-        open.pop_back();
-        if (selected.erase(number) > 0 && tree.row(number).kind != RowKind::Section)
+    for (const RowTree::Number number : tree.inReadingOrder(std::move(selected))) {
+        if (tree.row(number).kind != RowKind::Section)
             rows.append(tree.row(number));
-        const RowTree::Node &node = tree.node(number);
-        for (int child = node.childCount - 1; child >= 0; --child)
-            open.push_back(node.firstChild + static_cast<RowTree::Number>(child));
     }
     return rows;
 }
@@ -204,7 +199,7 @@ void TableView::showTree(const SharedRowTree &tree, Scrolling scrolling)
     const ViewPlace place(*this);
     const int horizontal = horizontalScrollBar()->value();
     m_isRestoring = true;
-    m_bubble.hide();
+    m_bubble.dismiss();
     const bool hasBands = tree->node(RowTree::root).childCount > 0 && TableModel::isBand(tree->node(1));
     setUniformRowHeights(!hasBands || tree->nodes().size() > mostRowsOfTwoHeights);
     m_model.setTree(tree);
@@ -217,6 +212,7 @@ void TableView::showTree(const SharedRowTree &tree, Scrolling scrolling)
     else
         place.restoreScrolling(*this);
     horizontalScrollBar()->setValue(horizontal);
+    followPointer();
     setEmptyText(m_emptyLabel.text());
 }
 
@@ -253,13 +249,15 @@ void TableView::drawRow(QPainter *painter, const QStyleOptionViewItem &option, c
             QRect(columnViewportPosition(column), row.top(), m_header.sectionSize(column), row.height());
         if (column == TableHeader::titleColumn) {
             if (node.row.kind == RowKind::Folder && node.childCount > 0) {
-                const int arrow = m_look.measures.units(arrowSide);
-                const int line = indent + m_look.measures.units(0.1);
-                const QRect place(cell.rect.left() + line - m_look.measures.units(0.98),
+                const int arrow = m_look.measures.chevronSide;
+                // Before the line of its level, as far as others stand before the outermost one.
+                const int line = indent + m_header.leadingPadding(TableHeader::titleColumn);
+                const int before = m_look.measures.alignmentLine - m_look.measures.gutter;
+                const QRect place(cell.rect.left() + line - before,
                                   cell.rect.top() + ((cell.rect.height() - arrow) / 2), arrow, arrow);
                 const Qt::ArrowType closed = isRightToLeft() ? Qt::LeftArrow : Qt::RightArrow;
                 drawChevron(*painter, QStyle::visualRect(layoutDirection(), cell.rect, place),
-                            isExpanded(index) ? Qt::DownArrow : closed, m_look.list.quiet);
+                            isExpanded(index) ? Qt::DownArrow : closed, groundOf(index).quiet);
             }
             if (isRightToLeft())
                 cell.rect.setRight(cell.rect.right() - indent);
@@ -279,6 +277,13 @@ bool TableView::isSelectedRow(const QModelIndex &index) const
 bool TableView::hasRing(const QModelIndex &index) const
 {
     return m_isByKeyboard && hasFocus() && currentIndex().siblingAtColumn(0) == index.siblingAtColumn(0);
+}
+
+const Ground &TableView::groundOf(const QModelIndex &index) const
+{
+    if (!isSelectedRow(index))
+        return m_look.list;
+    return isActiveWindow() ? m_look.list.selected : m_look.list.selectedInactive;
 }
 
 void TableView::drawGround(QPainter *painter, const QRect &row, const QModelIndex &index) const
@@ -303,7 +308,7 @@ void TableView::drawBand(QPainter *painter, const QRect &band, const QModelIndex
                               .icon = index.siblingAtColumn(0).data(Qt::DecorationRole).value<QIcon>(),
                               .isOpen = isExpanded(index),
                               .isFirst = index.row() == 0,
-                              .isOnGround = isSource,
+                              .ground = isSource ? &groundOf(index) : nullptr,
                               .visits = stripOf(index),
                               .litTick = litTick(index),
                               .now = m_model.localText().now()};
@@ -317,7 +322,13 @@ const VisitStrip *TableView::stripOf(const QModelIndex &section) const
     if (!isKind(section, RowKind::Section))
         return nullptr;
     const VisitStrip &visits = m_model.tree()->visits(TableModel::numberOf(section));
-    return visits.ticks.empty() || stripEnd() == 0 ? nullptr : &visits;
+    if (visits.ticks.empty() || stripEnd() == 0)
+        return nullptr;
+    // Where the column of dates comes first, the title needs the place.
+    const QRect band(0, 0, viewport()->width(), m_look.measures.sectionHeight);
+    const QRect strip = visitStripPlace(visits, band, Qt::LeftToRight, stripEnd(), m_look);
+    return strip.left() < m_look.measures.alignmentLine + m_look.measures.units(leastHeading) ? nullptr
+                                                                                              : &visits;
 }
 
 int TableView::stripEnd() const
@@ -342,11 +353,9 @@ std::optional<std::size_t> TableView::tickAt(const QPoint &point) const
 std::optional<std::size_t> TableView::litTick(const QModelIndex &section) const
 {
     const QModelIndex first = section.siblingAtColumn(0);
-    if (m_hovered.isValid() && m_hovered == first)
+    if (m_isPointerUsed && m_hovered.isValid() && m_hovered == first)
         return m_hoveredTick;
-    // The pointer's row comes before the keyboard's.
-    const QModelIndex row =
-        m_hovered.isValid() ? QModelIndex(m_hovered) : (m_isByKeyboard ? currentIndex() : QModelIndex());
+    const QModelIndex row = m_isPointerUsed ? QModelIndex(m_hovered) : currentIndex();
     if (!row.isValid() || row.parent() != first)
         return {};
     const std::optional date = m_model.rowAt(row).date;
@@ -377,7 +386,10 @@ void TableView::setHovered(const QModelIndex &index)
     updateRow(m_hovered);
     m_hovered = first;
     updateRow(m_hovered);
-    m_bubbleWait.start();
+    if (m_hovered.isValid())
+        m_bubbleWait.start();
+    else
+        m_bubbleWait.stop();
 }
 
 void TableView::goToTick(const QModelIndex &section, std::size_t tick)
@@ -400,13 +412,12 @@ void TableView::showBubble(const QModelIndex &index)
             break;
     }
     if (!isKind(index, RowKind::Link) || selected >= severalRows) {
-        m_bubble.hide();
+        m_bubble.dismiss();
         return;
     }
     const TableRow &row = m_model.rowAt(index);
     m_bubble.showRow(CellText::oneLine(row.url),
                      row.date ? m_model.localText().fullDate(*row.date) : QString());
-    m_bubble.avoid(viewport()->mapFromGlobal(QCursor::pos()));
 }
 
 void TableView::followCurrentRow()
@@ -433,8 +444,33 @@ void TableView::selectionChanged(const QItemSelection &selected, const QItemSele
 void TableView::focusInEvent(QFocusEvent *event)
 {
     QTreeView::focusInEvent(event);
-    if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason)
+    if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason ||
+        event->reason() == Qt::ShortcutFocusReason)
         m_isByKeyboard = true;
+    followCurrentRow();
+}
+
+void TableView::focusOutEvent(QFocusEvent *event)
+{
+    QTreeView::focusOutEvent(event);
+    // What is told of the row under the pointer stays.
+    if (!m_hovered.isValid())
+        m_bubble.dismiss();
+}
+
+void TableView::scrollContentsBy(int dx, int dy)
+{
+    QTreeView::scrollContentsBy(dx, dy);
+    // Qt moves what lies in the viewport together with the rows.
+    m_bubble.place();
+    m_emptyLabel.setGeometry(viewport()->rect());
+    followPointer();
+}
+
+void TableView::followPointer()
+{
+    if (m_isPointerUsed && viewport()->underMouse())
+        setHovered(indexAt(viewport()->mapFromGlobal(QCursor::pos())));
 }
 
 int TableView::sizeHintForColumn(int column) const
@@ -458,8 +494,7 @@ bool TableView::viewportEvent(QEvent *event)
 {
     if (event->type() == QEvent::Leave) {
         setHovered({});
-        m_bubbleWait.stop();
-        m_bubble.hide();
+        m_bubble.dismiss();
     }
     if (event->type() == QEvent::ToolTip) {
         const auto *help = static_cast<QHelpEvent *>(event);
@@ -474,8 +509,13 @@ bool TableView::showToolTip(const QPoint &point, const QPoint &onScreen)
     if (const std::optional tick = tickAt(point)) {
         const VisitStrip &visits = *stripOf(index);
         const VisitStrip::Tick &shown = visits.ticks[*tick];
+        // An hour that clocks leave out, or a day that has a section of its own.
+        if (shown.begin == shown.end || shown.begin >= visits.end) {
+            QToolTip::hideText();
+            return true;
+        }
         const LocalText &local = m_model.localText();
-        const QString when = visits.unit == VisitStrip::Unit::Hour ? local.hour(shown.begin, shown.end)
+        const QString when = visits.unit == VisitStrip::Unit::Hour ? local.hour(static_cast<int>(*tick))
                                                                    : local.day(shown.begin);
         QToolTip::showText(onScreen, when % u", " % local.number(shown.count), viewport());
         return true;
@@ -495,6 +535,7 @@ bool TableView::showToolTip(const QPoint &point, const QPoint &onScreen)
 
 void TableView::mouseMoveEvent(QMouseEvent *event)
 {
+    m_isPointerUsed = true;
     const QPoint point = event->position().toPoint();
     setHovered(indexAt(point));
     if (const std::optional tick = tickAt(point); tick != m_hoveredTick) {
@@ -502,7 +543,15 @@ void TableView::mouseMoveEvent(QMouseEvent *event)
         updateRow(m_hovered);
     }
     m_bubble.avoid(point);
-    QTreeView::mouseMoveEvent(event);
+    // A press on a band was none for Qt, which would go on from an earlier one.
+    if (!m_isBandPressed)
+        QTreeView::mouseMoveEvent(event);
+}
+
+void TableView::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (!std::exchange(m_isBandPressed, false))
+        QTreeView::mouseReleaseEvent(event);
 }
 
 void TableView::mousePressEvent(QMouseEvent *event)
@@ -510,24 +559,31 @@ void TableView::mousePressEvent(QMouseEvent *event)
     m_isByKeyboard = false;
     const QPoint point = event->position().toPoint();
     const QModelIndex index = indexAt(point);
-    if (!isKind(index, RowKind::Section)) {
+    // With these keys a source's heading is selected like other folders.
+    const bool isChosen = isKind(index, RowKind::Folder) && event->modifiers() != Qt::NoModifier;
+    m_isBandPressed = index.isValid() && m_model.isBand(index) && !isChosen &&
+                      (isKind(index, RowKind::Section) || event->button() == Qt::LeftButton);
+    if (!m_isBandPressed) {
         QTreeView::mousePressEvent(event);
         return;
     }
     if (event->button() != Qt::LeftButton)
         return;
-    if (const std::optional tick = tickAt(point)) {
+    if (const std::optional<std::size_t> tick = tickAt(point)) {
         goToTick(index.siblingAtColumn(0), *tick);
         return;
     }
-    selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+    selectionModel()->setCurrentIndex(index,
+                                      isKind(index, RowKind::Section)
+                                          ? QItemSelectionModel::NoUpdate
+                                          : QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     toggle(index);
 }
 
 void TableView::mouseDoubleClickEvent(QMouseEvent *event)
 {
     const QModelIndex index = indexAt(event->position().toPoint());
-    if (isKind(index, RowKind::Section)) {
+    if (index.isValid() && m_model.isBand(index)) {
         // Each of two quick clicks counts.
         mousePressEvent(event);
         return;
@@ -544,6 +600,8 @@ void TableView::keyPressEvent(QKeyEvent *event)
         return;
     }
     m_isByKeyboard = true;
+    m_isPointerUsed = false;
+    setHovered({});
     const QModelIndex current = currentIndex();
     const bool hasModifiers = (event->modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier;
     switch (event->key()) {

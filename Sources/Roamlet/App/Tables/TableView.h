@@ -75,10 +75,13 @@ protected:
     bool viewportEvent(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+    void scrollContentsBy(int dx, int dy) override;
     void resizeEvent(QResizeEvent *event) override;
     void changeEvent(QEvent *event) override;
     void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
@@ -97,6 +100,7 @@ private:
     void drawBand(QPainter *painter, const QRect &band, const QModelIndex &index) const;
     void drawGround(QPainter *painter, const QRect &row, const QModelIndex &index) const;
     bool isSelectedRow(const QModelIndex &index) const;
+    const Ground &groundOf(const QModelIndex &index) const;
     bool hasRing(const QModelIndex &index) const;
     /// The whole width of a row.
     QRect rowRect(const QModelIndex &index) const;
@@ -111,6 +115,8 @@ private:
     bool showToolTip(const QPoint &point, const QPoint &onScreen);
     void showBubble(const QModelIndex &index);
     void followCurrentRow();
+    /// Other rows lie under the pointer, which has not moved.
+    void followPointer();
 
     TableModel &m_model;
     TableHeader &m_header;
@@ -124,6 +130,9 @@ private:
     QTimer m_bubbleWait;
     /// Keys move the current row, not the mouse.
     bool m_isByKeyboard = false;
+    bool m_isBandPressed = false;
+    /// The mouse was moved since the last key.
+    bool m_isPointerUsed = false;
     /// The folders and sections whose state differs from how they come: outermost ones open, others closed.
     QSet<QString> m_toggled;
     bool m_isRestoring = false;
