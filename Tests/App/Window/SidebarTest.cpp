@@ -344,6 +344,26 @@ TEST_F(SidebarTest, aSourceIsDraggedToAnotherPlace)
     EXPECT_TRUE(shown.isExpanded(shown.model()->index(1, 0))) << "a drag folds nothing";
 }
 
+TEST_F(SidebarTest, slidingOverRowsWithAButtonDownSelectsNoneOfThem)
+{
+    addChromium();
+    loadNow(*library);
+    sidebar.show();
+    sidebar.select(HistoryPane());
+    const QSignalSpy choices(&sidebar, &Sidebar::paneSelected);
+    for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton}) {
+        QTest::mousePress(sidebar.viewport(), button, {}, middleOf(1));
+        for (const int number : {2, 3, 5, 6}) {
+            QMouseEvent move(QEvent::MouseMove, middleOf(number),
+                             sidebar.viewport()->mapToGlobal(middleOf(number)), Qt::NoButton, button, {});
+            QCoreApplication::sendEvent(sidebar.viewport(), &move);
+        }
+        QTest::mouseRelease(sidebar.viewport(), button, {}, middleOf(6));
+        EXPECT_EQ(sidebar.pane(), Pane(HistoryPane())) << button;
+    }
+    EXPECT_EQ(choices.size(), 0);
+}
+
 TEST_F(SidebarTest, theSelectionOutlivesAReloadAndASourceThatIsGoneForAWhile)
 {
     addChromium();

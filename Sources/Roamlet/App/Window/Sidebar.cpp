@@ -258,12 +258,15 @@ void Sidebar::mouseDoubleClickEvent(QMouseEvent *event)
 
 void Sidebar::mouseMoveEvent(QMouseEvent *event)
 {
-    const QPoint place = event->position().toPoint();
-    const bool isSource = m_pressed.isValid() && m_model->source(m_pressed).has_value();
-    if (!isSource || !event->buttons().testFlag(Qt::LeftButton)) {
+    // The view knows of no press, and would select whatever a button is held down over.
+    if (event->buttons() == Qt::NoButton) {
         QTreeView::mouseMoveEvent(event);
         return;
     }
+    const QPoint place = event->position().toPoint();
+    const bool isSource = m_pressed.isValid() && m_model->source(m_pressed).has_value();
+    if (!isSource || !event->buttons().testFlag(Qt::LeftButton))
+        return;
     if (!m_dropTarget && (place - m_pressedAt).manhattanLength() < QApplication::startDragDistance())
         return;
     viewport()->setCursor(Qt::ClosedHandCursor);
