@@ -6,6 +6,7 @@
 #include "App/AppDelegate.h"
 #include "App/Export/FakeAlert.h"
 #include "App/Export/FakeSavePanel.h"
+#include "App/Look/Look.h"
 #include "App/Updates/BundleInformation.h"
 #include "App/Updates/Updater.h"
 #include "App/Window/ContentView.h"
@@ -336,6 +337,35 @@ TEST_F(MainWindowTest, besideANarrowListTheSidebarOpensOverItAndGoesWithAChoice)
     EXPECT_TRUE(sidebar->isVisible());
     const auto *shown = part<QWidget>(*window, u"mostVisitedTable"_s);
     EXPECT_TRUE(waitUntil([&] { return shown->mapTo(window.get(), QPoint()).x() >= sidebar->width(); }));
+}
+
+TEST_F(MainWindowTest, aSidebarThatWasMadeWiderLeavesTheListItsRoom)
+{
+    addChromium();
+    loadNow(*library);
+    const auto window = makeWindow();
+    window->open();
+    window->resize(1600, 600);
+    const auto *sidebar = part<Sidebar>(*window, u"sidebar"_s);
+    const auto *list = part<QWidget>(*window, u"historyTable"_s);
+    const int wide = 2 * sidebar->sizeHint().width();
+    window->content()->setSizes({wide, 1600 - wide});
+    ASSERT_EQ(sidebar->width(), wide);
+    const int least = Measures(window->content()->font()).units(30);
+    int width = 1600;
+    for (; width > window->minimumWidth() && sidebar->isVisible(); --width) {
+        window->resize(width, 600);
+        EXPECT_TRUE(!sidebar->isVisible() || list->width() >= least) << width;
+    }
+    EXPECT_FALSE(sidebar->isVisible());
+    // It comes back as wide as it was, and so not before there is room for that.
+    for (++width; width <= 1600 && !sidebar->isVisible(); ++width)
+        window->resize(width, 600);
+    ASSERT_TRUE(sidebar->isVisible());
+    EXPECT_TRUE(waitUntil([&] { return sidebar->width() == wide; }));
+    window->resize(window->width() + 1, 600);
+    EXPECT_TRUE(sidebar->isVisible());
+    EXPECT_GE(list->width(), least);
 }
 
 TEST_F(MainWindowTest, theFirstWindowIsNoLargerThanTheScreen)

@@ -362,7 +362,7 @@ void ContentView::setSidebarShown(bool isShown)
 void ContentView::resizeEvent(QResizeEvent *event)
 {
     QSplitter::resizeEvent(event);
-    m_sidebarPlace->setRoom(width());
+    m_sidebarPlace->setRoom(width() - handleWidth());
 }
 
 void ContentView::widenSidebar(int pixels)

@@ -18,6 +18,7 @@ using namespace Qt::StringLiterals;
 GroupByButton::GroupByButton(QWidget *parent) : HeaderButton(u"rectangle.3.group"_s, tr("Group By"), parent)
 {
     setObjectName(u"groupByButton"_s);
+    updateWords();
 }
 
 void GroupByButton::setChoice(const QString &choice)
@@ -35,7 +36,8 @@ void GroupByButton::setCompact(bool isCompact)
 void GroupByButton::updateWords()
 {
     setAccessibleDescription(m_choice);
-    setToolTip(m_isCompact && !m_choice.isEmpty() ? QString(text() % u' ' % m_choice) : text());
+    // Beside its words it would only say them twice.
+    setToolTip(!m_isCompact ? QString() : m_choice.isEmpty() ? text() : QString(text() % u' ' % m_choice));
     updateGeometry();
     update();
 }

@@ -44,9 +44,21 @@ SidebarPlace::SidebarPlace(Sidebar &sidebar, UserDefaults &defaults, QWidget *pa
     });
 }
 
+int SidebarPlace::widthBeside() const
+{
+    // The user may have moved its edge, and it comes back as wide as it went.
+    return isVisible() ? width() : m_lastWidth.value_or(m_sidebar.sizeHint().width());
+}
+
+void SidebarPlace::hideEvent(QHideEvent *event)
+{
+    m_lastWidth = width();
+    QWidget::hideEvent(event);
+}
+
 void SidebarPlace::setRoom(int width)
 {
-    const bool hasRoom = width - m_sidebar.sizeHint().width() >= Measures(font()).units(narrowestList);
+    const bool hasRoom = width - widthBeside() >= Measures(font()).units(narrowestList);
     if (m_isOver && !hasRoom)
         follow();
     if (hasRoom == m_hasRoom)

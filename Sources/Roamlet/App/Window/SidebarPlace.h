@@ -5,6 +5,8 @@
 
 #include <QWidget>
 
+#include <optional>
+
 namespace roamlet
 {
 
@@ -36,8 +38,10 @@ Q_SIGNALS:
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
 
 private:
+    int widthBeside() const;
     void bringBack();
     void showOver();
     void follow();
@@ -45,6 +49,8 @@ private:
     Sidebar &m_sidebar;
     UserDefaults &m_defaults;
     QWidget *m_list = nullptr;
+    /// What it had when it was last seen.
+    std::optional<int> m_lastWidth;
     bool m_isHiddenByUser;
     bool m_hasRoom = true;
     bool m_isOver = false;
