@@ -5,6 +5,7 @@
 
 #include "App/Export/FileSavePanel.h"
 #include "App/Export/MessageAlert.h"
+#include "App/Look/Motion.h"
 #include "App/Look/Symbol.h"
 #include "App/Settings/LoginItem.h"
 #include "App/Settings/SettingsServices.h"
@@ -14,6 +15,7 @@
 #include "App/Updates/Updater.h"
 #include "App/Window/OpenWindows.h"
 #include "Platform/ActivationPolicy.h"
+#include "Platform/DesktopSettings.h"
 #include "Platform/Linux/AutostartLoginService.h"
 #include "Platform/Linux/DBusRunningInstance.h"
 #include "Platform/Linux/LinuxActivationPolicy.h"
@@ -269,6 +271,7 @@ int RoamletApp::runUntilTheEnd(int argc, char **argv, const std::stop_token &sto
     QApplication::setDesktopFileName(u"org.roamlet.Roamlet"_s);
     QApplication::setQuitOnLastWindowClosed(false);
     QLocale::setDefault(UserLocale::formats());
+    setMotionSetting(DesktopSettings::allowsMotion);
     // The words of Qt's own buttons and menus, and with them the direction in which the language is read.
     QTranslator translator;
     if (translator.load(QLocale::system(), u"qtbase"_s, u"_"_s,
