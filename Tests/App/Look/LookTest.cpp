@@ -77,14 +77,14 @@ QList<QColor> colorsOf(const Ground &ground)
 
 QList<QColor> colorsOf(const Look &look)
 {
-    QList<QColor> colors{look.buttonHover,   look.edge,   look.on,         look.accent,
-                         look.accentText,    look.fill,   look.fillInk,    look.match,
-                         look.matchSelected, look.strip,  look.stripEmpty, look.stripToCome,
-                         look.warningMark,   look.problem};
+    QList<QColor> colors{look.edge,   look.on,         look.accent,      look.accentText,
+                         look.fill,   look.fillInk,    look.match,       look.matchSelected,
+                         look.strip,  look.stripEmpty, look.stripToCome, look.warningMark,
+                         look.problem};
     for (const Ground *ground : std::initializer_list<const Ground *>{
              &look.list, &look.list.selected, &look.list.selectedInactive, &look.sidebar,
-             &look.sidebar.selected, &look.sidebar.selectedInactive, &look.field, &look.button, &look.card,
-             &look.page, &look.notice, &look.warning})
+             &look.sidebar.selected, &look.sidebar.selectedInactive, &look.field, &look.card, &look.page,
+             &look.notice, &look.warning})
         colors += colorsOf(*ground);
     for (const RowGround *rows : {&look.list, &look.sidebar})
         colors += {rows->hover, rows->pressed};
@@ -101,8 +101,8 @@ protected:
         const QColor &side = look.sidebar.base;
         for (const Ground *ground : std::initializer_list<const Ground *>{
                  &look.list, &look.list.selected, &look.list.selectedInactive, &look.sidebar,
-                 &look.sidebar.selected, &look.sidebar.selectedInactive, &look.field, &look.button,
-                 &look.card, &look.page, &look.notice, &look.warning}) {
+                 &look.sidebar.selected, &look.sidebar.selectedInactive, &look.field, &look.card, &look.page,
+                 &look.notice, &look.warning}) {
             EXPECT_GE(contrastRatio(ground->ink, ground->base), text);
             EXPECT_GE(contrastRatio(ground->quiet, ground->base), text);
             EXPECT_LE(contrastRatio(ground->quiet, ground->base), contrastRatio(ground->ink, ground->base));
@@ -112,8 +112,6 @@ protected:
         for (const QColor &words : {look.sidebar.ink, look.sidebar.quiet})
             EXPECT_GE(contrastRatio(words, look.sidebar.hover), text);
         EXPECT_GE(contrastRatio(look.sidebar.ink, look.sidebar.pressed), text);
-        for (const QColor &words : {look.button.ink, look.button.quiet})
-            EXPECT_GE(contrastRatio(words, look.buttonHover), text);
         EXPECT_GE(lowestContrast(look.list.ink, {look.match, look.matchSelected}), text);
         EXPECT_GE(lowestContrast(look.accentText, {base, side, look.list.selected.base}), text);
         EXPECT_GE(contrastRatio(look.fillInk, look.fill), text);

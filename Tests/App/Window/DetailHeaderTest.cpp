@@ -4,10 +4,10 @@
 #include "App/Window/DetailHeader.h"
 
 #include "App/Look/Look.h"
+#include "App/Look/StillStyle.h"
 #include "App/Window/GroupByButton.h"
 #include "App/Window/ReloadButton.h"
 #include "App/Window/SearchField.h"
-#include "App/Window/StillStyle.h"
 #include "Support/Waiting.h"
 
 #include <QAccessible>

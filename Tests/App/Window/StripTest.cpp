@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
+#include "App/Look/StillStyle.h"
 #include "App/Window/FullDiskAccessBanner.h"
 #include "App/Window/SiteFilterBar.h"
-#include "App/Window/StillStyle.h"
 #include "Support/Waiting.h"
 
 #include <QLabel>

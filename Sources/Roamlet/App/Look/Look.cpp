@@ -223,16 +223,12 @@ Look::Look(const QPalette &palette, const QFont &font, Contrast contrast)
     page = mixer.ground(window);
     card = mixer.ground(m_isDark ? mixedColor(window, page.ink, 0.045) : base);
     // What lies on the list is no paper of its own: its quiet texts are mixed from the list's.
-    const auto onList = [&](const QColor &own, const QColor &hovered, double share = quietShare) {
+    const auto onList = [&](const QColor &own, double share = quietShare) {
         Ground ground = mixer.ground(own);
-        ground.quiet =
-            readableMix(base, ground.ink, share, {own, hovered}, textContrast).value_or(ground.ink);
+        ground.quiet = readableMix(base, ground.ink, share, {own}, textContrast).value_or(ground.ink);
         return ground;
     };
-    const QColor fieldBase = mixedColor(base, ink, 0.055);
-    field = onList(fieldBase, fieldBase);
-    buttonHover = mixedColor(base, ink, 0.12);
-    button = onList(mixedColor(base, ink, 0.07), buttonHover);
+    field = onList(mixedColor(base, ink, 0.055));
     veil = translucent(page.ink, 0.09);
     veilHover = translucent(page.ink, 0.14);
     veilPressed = translucent(page.ink, 0.19);
@@ -288,14 +284,14 @@ Look::Look(const QPalette &palette, const QFont &font, Contrast contrast)
     stripEmpty = mixedColor(base, ink, 0.28);
     stripToCome = list.hairline;
 
-    warm = QColor::fromHslF(33.0F / 360, 0.95F, 0.52F).toRgb();
+    const QColor warm = QColor::fromHslF(33.0F / 360, 0.95F, 0.52F).toRgb();
     const QColor warningBase = mixedColor(base, warm, m_isDark ? 0.16 : 0.13);
-    warning = onList(warningBase, warningBase, 0.70);
+    warning = onList(warningBase, 0.70);
     warningMark = shade(warm, {warningBase, base, side}, m_markContrast, ink);
     // Half as much of the highlight as in a selected row, which it must not be taken for.
     const QColor noticeBase = list.selected.ink == ink ? mixedColor(base, list.selected.base, 0.5)
                                                        : mixedColor(base, highlight, 0.08);
-    notice = onList(noticeBase, noticeBase);
+    notice = onList(noticeBase);
     constexpr QRgb red = 0xffb3261e;
     problem = shade(QColor::fromRgb(red), {window, base, card.base}, textContrast, page.ink);
 }

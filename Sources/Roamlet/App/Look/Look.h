@@ -123,7 +123,6 @@ struct Look {
     RowGround sidebar;
     /// What is typed into.
     Ground field;
-    Ground button;
     /// The rows of a boxed list.
     Ground card;
     /// Behind boxed lists and whole windows.
@@ -133,7 +132,6 @@ struct Look {
     /// A bar that asks for something.
     Ground warning;
 
-    QColor buttonHover;
     /// Push buttons that do not know what they lie on, and what is under the pointer: a veil of ink.
     QColor veil;
     QColor veilHover;
@@ -168,8 +166,7 @@ struct Look {
     QColor strip;
     QColor stripEmpty;
     QColor stripToCome;
-    /// The orange of warnings as it is, and as a sign that is seen on the grounds above.
-    QColor warm;
+    /// The orange of warnings, as a sign that is seen on the grounds above.
     QColor warningMark;
     /// The words of a problem on a page.
     QColor problem;

@@ -4,6 +4,7 @@
 #include "App/Window/HeaderButton.h"
 
 #include "App/Look/Look.h"
+#include "App/Look/Painting.h"
 #include "App/Look/Symbol.h"
 
 #include <QFocusEvent>
@@ -65,12 +66,8 @@ void HeaderButton::paintEvent(QPaintEvent * /*event*/)
         painter.setBrush(isDown() ? look.list.pressed : look.list.hover);
         painter.drawRoundedRect(rect(), radius, radius);
     }
-    if (hasFocus() && m_hasRing) {
-        constexpr qreal half = Measures::focusRingWidth / 2.0;
-        painter.setPen(QPen(look.accent, Measures::focusRingWidth));
-        painter.setBrush(Qt::NoBrush);
-        painter.drawRoundedRect(QRectF(rect()).adjusted(half, half, -half, -half), radius, radius);
-    }
+    if (hasFocus() && m_hasRing)
+        drawFocusRing(painter, rect(), radius, look);
     paintContent(painter, rect().adjusted(padding(), 0, -padding(), 0));
 }
 

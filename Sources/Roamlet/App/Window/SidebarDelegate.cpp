@@ -5,6 +5,7 @@
 
 #include "App/Look/Chevron.h"
 #include "App/Look/Look.h"
+#include "App/Look/Painting.h"
 #include "App/Look/SourceIcons.h"
 #include "App/Look/Symbol.h"
 #include "App/Window/SidebarModel.h"
@@ -123,10 +124,7 @@ void SidebarDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
     }
     if (option.state.testFlag(QStyle::State_HasFocus)) {
         // The ring tells that the arrow keys move this selection and no other.
-        constexpr qreal half = Measures::focusRingWidth / 2.0;
-        painter->setPen(QPen(look.accent, Measures::focusRingWidth));
-        painter->setBrush(Qt::NoBrush);
-        painter->drawRoundedRect(QRectF(row.body()).adjusted(half, half, -half, -half), radius, radius);
+        drawFocusRing(*painter, row.body(), radius, look);
     }
 
     painter->setPen(ground.ink);
