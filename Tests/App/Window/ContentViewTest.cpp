@@ -411,6 +411,31 @@ TEST_F(ContentViewTest, anotherPaneDoesNotKeepThePageOfTheLast)
     EXPECT_EQ(shownTexts(*content), QStringList{u"No bookmarks yet"_s});
 }
 
+TEST_F(ContentViewTest, foldersWithoutAnyLinkAreNotCovered)
+{
+    addChromium();
+    change([this] {
+        sample::writeBookmarks(
+            chromeFile(u"Default/Bookmarks"_s),
+            {{u"bookmark_bar"_s,
+              sample::folderNode(u"1"_s, u"Bar"_s, {sample::folderNode(u"6"_s, u"Plans"_s, {})})}});
+    });
+    loadNow(*library);
+    const auto content = makeContent();
+    for (const Pane &pane : {Pane(BookmarksPane()), Pane(BookmarksPane{u"chrome/Default"_s})}) {
+        content->setPane(HistoryPane());
+        content->setPane(pane);
+        expectSubtitle(*content, u"0 items"_s);
+        const auto *tree = part<QTreeView>(*content, u"bookmarkTree"_s);
+        EXPECT_TRUE(waitUntil([tree] { return tree->model()->rowCount() > 0; }));
+        EXPECT_FALSE(isShown(*content, u"emptyListPage"_s));
+        EXPECT_TRUE(tree->isEnabled());
+    }
+    // A source without even a folder has nothing to show.
+    content->setPane(BookmarksPane{u"edge/Default"_s});
+    EXPECT_TRUE(waitUntil([&] { return isShown(*content, u"emptyListPage"_s); }));
+}
+
 TEST_F(ContentViewTest, aListThatCouldNotBeReadSaysWhyAndOffersToReadItAgain)
 {
     addChromium();

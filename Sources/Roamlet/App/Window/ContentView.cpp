@@ -484,7 +484,8 @@ void ContentView::updateList()
 void ContentView::updateCover()
 {
     auto *table = qobject_cast<LinkTable *>(m_lists->currentWidget());
-    const bool isEmpty = table != nullptr && table->rowCount() == 0;
+    // Folders without any link are rows, too.
+    const bool isEmpty = table != nullptr && table->view().tableModel().rowCount() == 0;
     const Library::Snapshot &snapshot = m_services.library.snapshot();
     if (isEmpty && !m_services.library.lastLoaded()) {
         if (m_loading == nullptr)
