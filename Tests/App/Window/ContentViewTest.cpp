@@ -14,6 +14,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QFocusEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -28,6 +29,25 @@ namespace roamlet::testing
 {
 
 using namespace Qt::StringLiterals;
+
+namespace
+{
+
+/// Notes why a widget got the keyboard.
+class FocusReasons final : public QObject
+{
+public:
+    bool eventFilter(QObject * /*watched*/, QEvent *event) override
+    {
+        if (event->type() == QEvent::FocusIn)
+            seen.append(static_cast<QFocusEvent *>(event)->reason());
+        return false;
+    }
+
+    QList<Qt::FocusReason> seen;
+};
+
+} // namespace
 
 class ContentViewTest : public WindowTest
 {
@@ -575,10 +595,36 @@ TEST_F(ContentViewTest, theKeyboardGoesFromTheSearchToTheListAndBack)
     content->startSearch();
     auto *field = part<QLineEdit>(*content, u"searchField"_s);
     EXPECT_TRUE(waitUntil([&] { return field->hasFocus(); }));
+    auto *table = part<QWidget>(*content, u"historyTable"_s);
+    FocusReasons reasons;
+    table->installEventFilter(&reasons);
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Return, Qt::Key_Escape}) {
+        content->startSearch();
+        QTest::keyClick(field, key);
+        EXPECT_EQ(QApplication::focusWidget(), table);
+        EXPECT_TRUE(table->isVisible());
+    }
+    EXPECT_EQ(reasons.seen, QList<Qt::FocusReason>(3, Qt::ShortcutFocusReason)) << "a key led there";
+}
+
+TEST_F(ContentViewTest, theKeyboardGoesFromTheSearchToWhatHelpsWhereNothingIsFound)
+{
+    addChromium();
+    loadNow(*library);
+    const auto content = makeContent();
+    content->activateWindow();
+    content->startSearch();
+    auto *field = part<QLineEdit>(*content, u"searchField"_s);
+    EXPECT_TRUE(waitUntil([&] { return field->hasFocus(); }));
+    QTest::keyClicks(field, u"zeppelin"_s);
+    expectSubtitle(*content, u"0 items"_s);
+    auto *clear = part<QPushButton>(*content, u"emptyListClearSearch"_s);
+    ASSERT_TRUE(waitUntil([clear] { return clear->isVisible(); }));
+    FocusReasons reasons;
+    clear->installEventFilter(&reasons);
     QTest::keyClick(field, Qt::Key_Down);
-    ASSERT_NE(QApplication::focusWidget(), nullptr);
-    EXPECT_EQ(QApplication::focusWidget()->objectName(), u"historyTable");
-    EXPECT_TRUE(QApplication::focusWidget()->isVisible());
+    EXPECT_TRUE(clear->hasFocus());
+    EXPECT_EQ(reasons.seen, QList<Qt::FocusReason>{Qt::ShortcutFocusReason});
 }
 
 TEST_F(ContentViewTest, nothingIsReadIntoMemoryBeforeAnybodySearches)

@@ -139,10 +139,11 @@ ContentView::ContentView(const WindowServices &services, QWidget *parent)
         Q_EMIT exportRequested({.sourceID = PaneText::exportSourceID(m_pane, m_services.library.snapshot())});
     });
     connect(m_header, &DetailHeader::listRequested, this, [this] {
+        // Who comes with a key sees where it led.
         if (m_lists->cover() != nullptr && m_lists->cover() == m_emptyList)
-            m_emptyList->setFocus();
+            m_emptyList->setFocus(Qt::ShortcutFocusReason);
         else
-            shownList()->setFocus();
+            shownList()->setFocus(Qt::ShortcutFocusReason);
     });
 
     const Library *library = &services.library;
