@@ -56,6 +56,13 @@ LinkTable::LinkTable(const WindowServices &services, const Kind &kind, QWidget *
     m_view.tableHeader().setColumnLayout(ColumnLayout::load(services.defaults, m_layoutKey));
     setOrder(m_defaultOrder);
     showWhyItIsEmpty();
+    m_tasks.run(
+        this,
+        [locale = services.calendar().locale](const std::stop_token & /*stop*/) {
+            LocalText::prepare(locale);
+            return true;
+        },
+        [](bool) {});
 
     connect(&services.library, &Library::snapshotChanged, this, [this] {
         m_icons.clear();

@@ -11,6 +11,7 @@
 #include "Library/ListLoader.h"
 #include "Lists/Grouping.h"
 #include "Lists/ListWish.h"
+#include "Platform/BackgroundTasks.h"
 
 #include <QString>
 #include <QWidget>
@@ -149,6 +150,7 @@ private:
     /// Lives as long as work that is not shown yet.
     std::unique_ptr<QObject> m_busyWait;
     ListLoader m_loader;
+    BackgroundTasks m_tasks;
 };
 
 } // namespace roamlet

@@ -11,6 +11,8 @@
 #include <unicode/locid.h>
 #include <unicode/timezone.h>
 
+#include <mutex>
+
 namespace roamlet
 {
 
@@ -51,9 +53,10 @@ struct LocalText::Formats {
 
     static std::shared_ptr<const Formats> of(const QString &locale)
     {
-        // Looking the forms up takes longer than a list of dates.
+        static std::mutex mutex;
         static QString known;
         static std::shared_ptr<const Formats> formats;
+        const std::scoped_lock lock(mutex);
         if (!formats || known != locale) {
             known = locale;
             formats = std::make_shared<Formats>(locale);
@@ -66,11 +69,16 @@ LocalText::LocalText(const UserCalendar &calendar, PointInTime now)
     : m_locale(calendar.locale),
       m_zone(calendar.timeZone.toLatin1()),
       m_now(now),
-      m_formats(Formats::of(calendar.locale))
+      m_localeName(calendar.locale)
 {
     if (!m_zone.isValid())
         m_zone = QTimeZone::utc();
     m_today = local(now).date();
+}
+
+void LocalText::prepare(const QString &locale)
+{
+    Formats::of(locale);
 }
 
 QString LocalText::briefDate(PointInTime time) const
@@ -89,7 +97,7 @@ QString LocalText::briefDate(const QDateTime &shown) const
         return m_locale.dayName(shown.date().dayOfWeek(), QLocale::ShortFormat) % u' ' % time;
     // A day of the same name a year ago is another one.
     const bool isWithinAYear = daysAgo > 0 && shown.date() > m_today.addYears(-1);
-    const QString text = m_formats->text(shown, isWithinAYear);
+    const QString text = Formats::of(m_localeName)->text(shown, isWithinAYear);
     return text.isEmpty() ? m_locale.toString(shown.date(), QLocale::ShortFormat) : text;
 }
 

@@ -26,6 +26,10 @@ public:
     /// `now` as seen with the user's `calendar`.
     LocalText(const UserCalendar &calendar, PointInTime now);
 
+    /// Looks up the forms of a locale's dates, which takes longer than a list of them: whoever does so on
+    /// another thread saves the first list that time. Any thread.
+    static void prepare(const QString &locale);
+
     /// As short as can be: the time for today, weekday and time within the last week, day and time within a
     /// year, and else the day: "14:02", "Tue 14:02", "9 May, 14:02", "9 May 2025".
     QString briefDate(PointInTime time) const;
@@ -59,7 +63,7 @@ private:
     QTimeZone m_zone;
     PointInTime m_now;
     QDate m_today;
-    std::shared_ptr<const Formats> m_formats;
+    QString m_localeName;
 };
 
 } // namespace roamlet
