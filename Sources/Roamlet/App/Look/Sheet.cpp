@@ -82,6 +82,12 @@ Sheet::Sheet(QWidget *window)
     window->installEventFilter(this);
 }
 
+Sheet::~Sheet()
+{
+    // A widget gives up the keyboard when it is no sheet any more.
+    disconnect(qApp, nullptr, this, nullptr);
+}
+
 void Sheet::open()
 {
     const QWidget &window = *parentWidget();

@@ -21,6 +21,7 @@ class Sheet : public QWidget
 public:
     /// `window` is what it lies over.
     explicit Sheet(QWidget *window);
+    ~Sheet() override;
 
     void open();
     virtual void accept();
