@@ -97,7 +97,7 @@ private:
                                 .arg(size.width())
                                 .arg(size.height())
                                 .arg(scale)
-                                .arg(mode == QIcon::Disabled)
+                                .arg(static_cast<int>(mode))
                                 .arg(direction)
                                 .arg(QGuiApplication::palette().cacheKey());
         QPixmap result;

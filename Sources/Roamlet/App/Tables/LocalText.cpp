@@ -90,7 +90,7 @@ QString LocalText::briefDate(const QDateTime &shown) const
 {
     constexpr qint64 week = 7;
     const qint64 daysAgo = shown.date().daysTo(m_today);
-    const QString time = m_locale.toString(shown.time(), QLocale::ShortFormat);
+    QString time = m_locale.toString(shown.time(), QLocale::ShortFormat);
     if (daysAgo == 0)
         return time;
     if (daysAgo > 0 && daysAgo < week)

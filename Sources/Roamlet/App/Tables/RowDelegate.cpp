@@ -249,7 +249,7 @@ RowDelegate::TitleLayout RowDelegate::titleLayout(const TableRow &row, const QSt
     const int gap = m_look.measures.gapAfterIcon;
     const int wanted = metrics.horizontalAdvance(title);
     const QString companion = this->companion(row, cellWidth);
-    const TitleLayout alone{
+    TitleLayout alone{
         .companion = {}, .titleWidth = std::clamp(wanted, 0, std::max(width, 0)), .isWhole = wanted <= width};
     if (companion.isEmpty())
         return alone;
@@ -274,9 +274,8 @@ void RowDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, c
     const bool isSelected = option.state.testFlag(QStyle::State_Selected);
     const bool isActive = option.widget == nullptr || option.widget->isActiveWindow();
     const RowGround &list = m_look.list;
-    const Ground &ground = !isSelected ? static_cast<const Ground &>(list)
-                           : isActive  ? list.selected
-                                       : list.selectedInactive;
+    const Ground &selected = isActive ? list.selected : list.selectedInactive;
+    const Ground &ground = isSelected ? selected : list;
     const RowTree::Node &node = m_model.tree()->node(TableModel::numberOf(index));
     const QRect logical = option.rect.adjusted(m_header.leadingPadding(index.column()), 0,
                                                -m_header.trailingPadding(index.column()), 0);
@@ -336,7 +335,7 @@ void RowDelegate::paintTitle(const Cell &cell) const
     const int wanted = metrics.horizontalAdvance(title);
     if (cell.row.kind == TableRow::Kind::Folder) {
         const QString count = m_model.localText().number(cell.node.childCount);
-        QFont small = m_look.smallFont;
+        const QFont &small = m_look.smallFont;
         const int countWidth = tabularWidth(small, count);
         const int titleWidth = std::clamp(rest.width() - gap - countWidth, 0, wanted);
         draw(QRect(rest.topLeft(), QSize(titleWidth, rest.height())),

@@ -36,6 +36,8 @@ struct SectionBand {
     /// Null where no strip is shown.
     const VisitStrip *visits = nullptr;
     /// The hour or day that the row under the pointer belongs to.
+    // The compiler wants it from whoever names only some of the members.
+    // NOLINTNEXTLINE(readability-redundant-member-init)
     std::optional<std::size_t> litTick = {};
     /// What begins after it is still to come.
     PointInTime now;

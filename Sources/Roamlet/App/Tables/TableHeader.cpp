@@ -404,7 +404,7 @@ void TableHeader::paintSection(QPainter *painter, const QRect &rect, int column)
         painter->setFont(bold);
     }
     const int indent = column == titleColumn ? m_titleIndent : 0;
-    QRect place = rect.adjusted(leadingPadding(column) + indent, 0, -trailingPadding(column), 0);
+    const QRect place = rect.adjusted(leadingPadding(column) + indent, 0, -trailingPadding(column), 0);
     const QColor ink = isSorted ? look.list.ink : look.list.quiet;
     const int arrow = isSorted ? measures.chevronSide : 0;
     const QFontMetrics metrics = painter->fontMetrics();

@@ -433,9 +433,8 @@ void ContentView::updateTitle()
     m_header->setTitle(title(), PaneText::subtitle(m_pane, m_services.library, m_shownList, QLocale()),
                        isProblem ? DetailHeader::Subtitle::Problem : DetailHeader::Subtitle::Note);
     const bool isSearching = table != nullptr && table->isSeenWorking();
-    m_header->setWork(!m_services.library.lastLoaded() ? tr("Reading")
-                      : isSearching                    ? tr("Searching")
-                                                       : QString());
+    const QString search = isSearching ? tr("Searching") : QString();
+    m_header->setWork(m_services.library.lastLoaded() ? search : tr("Reading"));
     Q_EMIT titleChanged(title());
 }
 

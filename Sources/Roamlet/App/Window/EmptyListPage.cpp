@@ -36,7 +36,8 @@ void EmptyListPage::setReason(const Reason &reason)
     m_allSites->setVisible(reason.hasSite && !reason.isProblem);
     m_clearSearch->setVisible(reason.hasSearch && !reason.isProblem);
     m_reload->setVisible(reason.isProblem);
-    setFocusProxy(reason.isProblem ? m_reload : reason.hasSite ? m_allSites : m_clearSearch);
+    QPushButton *const wider = reason.hasSite ? m_allSites : m_clearSearch;
+    setFocusProxy(reason.isProblem ? m_reload : wider);
 }
 
 } // namespace roamlet

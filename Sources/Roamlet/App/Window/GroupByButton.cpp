@@ -37,7 +37,8 @@ void GroupByButton::updateWords()
 {
     setAccessibleDescription(m_choice);
     // Beside its words it would only say them twice.
-    setToolTip(!m_isCompact ? QString() : m_choice.isEmpty() ? text() : QString(text() % u' ' % m_choice));
+    const QString words = m_choice.isEmpty() ? text() : QString(text() % u' ' % m_choice);
+    setToolTip(m_isCompact ? words : QString());
     updateGeometry();
     update();
 }
