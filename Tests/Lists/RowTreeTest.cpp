@@ -101,6 +101,21 @@ TEST(RowTreeTest, bookmarksLieInTheirFolders)
     EXPECT_EQ(tree.linkCount(), 5);
 }
 
+TEST(RowTreeTest, eachNodeKnowsHowManyLinksLieBelowIt)
+{
+    const RowTree tree = bookmarks(sample);
+    EXPECT_EQ(tree.node(RowTree::root).linksBelow, 5);
+    EXPECT_EQ(tree.node(1).linksBelow, 4) << "also those of the inner folder";
+    EXPECT_EQ(tree.node(2).linksBelow, 0) << "a link";
+    EXPECT_EQ(tree.node(3).linksBelow, 0) << "an empty folder";
+    const QList<HistoryItem> items{item(u"1"_s, u"https://b.example/1"_s),
+                                   item(u"2"_s, u"https://b.example/2"_s)};
+    EXPECT_EQ(RowTree::ofGroups(siteGroups(allRows(items), &HistoryItem::site, Collation(u"en_US"_s)))
+                  .node(1)
+                  .linksBelow,
+              2);
+}
+
 TEST(RowTreeTest, aBookmarkKnowsItsFolderAndItsSite)
 {
     const RowTree tree = bookmarks({folder(u"Bar"_s, {mark(u"b"_s)})});

@@ -40,6 +40,7 @@ std::optional<RowTree> RowTree::ofBookmarks(const QList<BookmarkNode> &nodes,
             tree.append(folder.number, TableRow::of(*node, id));
         }
     }
+    tree.countLinks();
     return tree;
 }
 
@@ -65,22 +66,13 @@ std::vector<RowTree::Number> RowTree::inReadingOrder(std::unordered_set<Number> 
     return result;
 }
 
-int RowTree::linksBelow(Number number) const
+void RowTree::countLinks()
 {
-    int links = 0;
-    std::vector<Number> open{number};
-    while (!open.empty()) {
-        const Node &node = m_nodes[open.back()];
-        open.pop_back();
-        for (int i = 0; i < node.childCount; ++i) {
-            const Number child = node.firstChild + static_cast<Number>(i);
-            if (m_nodes[child].row.kind == TableRow::Kind::Link)
-                ++links;
-            else
-                open.push_back(child);
-        }
+    // Children have higher numbers than the node that they lie in.
+    for (Number number = m_nodes.size() - 1; number != root; --number) {
+        const Node &node = m_nodes[number];
+        m_nodes[node.parent].linksBelow += node.row.kind == TableRow::Kind::Link ? 1 : node.linksBelow;
     }
-    return links;
 }
 
 void RowTree::beginChildren(Number parent)
@@ -90,8 +82,6 @@ void RowTree::beginChildren(Number parent)
 
 void RowTree::append(Number parent, TableRow row)
 {
-    if (row.kind == TableRow::Kind::Link)
-        ++m_linkCount;
     m_mostVisits = std::max(m_mostVisits, row.visits);
     const int depth = parent == root ? 0 : m_nodes[parent].depth + 1;
     m_nodes.push_back({.row = std::move(row),

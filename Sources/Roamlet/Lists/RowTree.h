@@ -32,6 +32,8 @@ public:
         Number parent = 0;
         /// How many siblings come before.
         int position = 0;
+        /// How many links lie below it, however deep.
+        int linksBelow = 0;
         Number firstChild = 0;
         int childCount = 0;
         int depth = 0;
@@ -52,6 +54,7 @@ public:
         RowTree tree;
         tree.m_nodes.reserve(1 + rows.size());
         tree.appendChildren(root, rows);
+        tree.countLinks();
         return tree;
     }
 
@@ -72,6 +75,7 @@ public:
         Number section = tree.m_nodes[root].firstChild;
         for (const RowGroup<Row> &group : groups)
             tree.appendChildren(section++, group.rows);
+        tree.countLinks();
         return tree;
     }
 
@@ -90,13 +94,11 @@ public:
     /// When the rows of a section were visited; without ticks for anything but a section by day.
     const VisitStrip &visits(Number section) const;
     /// How many links there are, whatever is open or closed.
-    qsizetype linkCount() const { return m_linkCount; }
+    qsizetype linkCount() const { return m_nodes[root].linksBelow; }
     /// The visits of the row with the most.
     qint64 mostVisits() const { return m_mostVisits; }
     /// These nodes from top to bottom: numbers go level by level, people read otherwise.
     std::vector<Number> inReadingOrder(std::unordered_set<Number> numbers) const;
-    /// How many links lie below a node, however deep.
-    int linksBelow(Number number) const;
 
 private:
     template<typename Row>
@@ -108,11 +110,12 @@ private:
     }
     void beginChildren(Number parent);
     void append(Number parent, TableRow row);
+    /// Once all nodes are there.
+    void countLinks();
 
     std::vector<Node> m_nodes;
     /// Of the sections, which are the nodes behind the root.
     std::vector<VisitStrip> m_visits;
-    qsizetype m_linkCount = 0;
     qint64 m_mostVisits = 0;
 };
 

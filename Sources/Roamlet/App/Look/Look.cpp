@@ -154,6 +154,13 @@ QFont boldFont(QFont font)
 
 } // namespace
 
+const Ground &RowGround::of(bool isSelected, bool isInActiveWindow) const
+{
+    if (!isSelected)
+        return *this;
+    return isInActiveWindow ? selected : selectedInactive;
+}
+
 Measures::Measures(const QFont &font)
     : unit(std::max(1, QFontMetrics(font).height())),
       alignmentLine(units(1.35)),

@@ -34,6 +34,9 @@ struct RowGround : Ground {
     Ground selected;
     /// In a window that is not the active one.
     Ground selectedInactive;
+
+    /// What a row in this state is drawn on.
+    const Ground &of(bool isSelected, bool isInActiveWindow) const;
 };
 
 /// Lengths in logical pixels, all of them multiples of the height of a line of text.

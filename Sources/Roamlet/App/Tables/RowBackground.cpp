@@ -45,7 +45,7 @@ void RowBackground::paint(QPainter &painter, const QRect &row, const Look &look)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     if (isSelected) {
-        painter.setBrush(isInActiveWindow ? look.list.selected.base : look.list.selectedInactive.base);
+        painter.setBrush(look.list.of(isSelected, isInActiveWindow).base);
         painter.drawPath(roundedRow(body, radius, !isSelectedAbove, !isSelectedBelow));
     } else if (isHovered) {
         painter.setBrush(look.list.hover);

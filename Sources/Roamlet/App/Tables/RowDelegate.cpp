@@ -273,9 +273,7 @@ void RowDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, c
 {
     const bool isSelected = option.state.testFlag(QStyle::State_Selected);
     const bool isActive = option.widget == nullptr || option.widget->isActiveWindow();
-    const RowGround &list = m_look.list;
-    const Ground &selected = isActive ? list.selected : list.selectedInactive;
-    const Ground &ground = isSelected ? selected : list;
+    const Ground &ground = m_look.list.of(isSelected, isActive);
     const RowTree::Node &node = m_model.tree()->node(TableModel::numberOf(index));
     const QRect logical = option.rect.adjusted(m_header.leadingPadding(index.column()), 0,
                                                -m_header.trailingPadding(index.column()), 0);

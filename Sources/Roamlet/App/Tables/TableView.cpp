@@ -281,19 +281,18 @@ bool TableView::hasRing(const QModelIndex &index) const
 
 const Ground &TableView::groundOf(const QModelIndex &index) const
 {
-    if (!isSelectedRow(index))
-        return m_look.list;
-    return isActiveWindow() ? m_look.list.selected : m_look.list.selectedInactive;
+    return m_look.list.of(isSelectedRow(index), isActiveWindow());
 }
 
 void TableView::drawGround(QPainter *painter, const QRect &row, const QModelIndex &index) const
 {
-    const RowBackground background{.isSelected = isSelectedRow(index),
+    const bool isSelected = isSelectedRow(index);
+    const RowBackground background{.isSelected = isSelected,
                                    .isInActiveWindow = isActiveWindow(),
                                    .isHovered = m_hovered.isValid() && m_hovered == index.siblingAtColumn(0),
                                    .hasRing = hasRing(index),
-                                   .isSelectedAbove = isSelectedRow(indexAbove(index)),
-                                   .isSelectedBelow = isSelectedRow(indexBelow(index))};
+                                   .isSelectedAbove = isSelected && isSelectedRow(indexAbove(index)),
+                                   .isSelectedBelow = isSelected && isSelectedRow(indexBelow(index))};
     background.paint(*painter, row, m_look);
 }
 
@@ -303,8 +302,7 @@ void TableView::drawBand(QPainter *painter, const QRect &band, const QModelIndex
     const RowTree &tree = *m_model.tree();
     const bool isSource = tree.row(number).kind == RowKind::Folder;
     const SectionBand content{.title = index.siblingAtColumn(0).data().toString(),
-                              .count = m_model.localText().number(isSource ? tree.linksBelow(number)
-                                                                           : tree.node(number).childCount),
+                              .count = m_model.localText().number(tree.node(number).linksBelow),
                               .icon = index.siblingAtColumn(0).data(Qt::DecorationRole).value<QIcon>(),
                               .isOpen = isExpanded(index),
                               .isFirst = index.row() == 0,

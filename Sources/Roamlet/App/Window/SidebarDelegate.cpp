@@ -108,9 +108,7 @@ void SidebarDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
     const bool isSelected = option.state.testFlag(QStyle::State_Selected);
     // Not State_Active, which a view only sets while it has the keyboard.
     const bool isActive = option.widget->isActiveWindow();
-    const Ground &ground = !isSelected ? static_cast<const Ground &>(sidebar)
-                           : isActive  ? sidebar.selected
-                                       : sidebar.selectedInactive;
+    const Ground &ground = sidebar.of(isSelected, isActive);
     const bool isHovered = option.state.testFlag(QStyle::State_MouseOver);
     RowPainter row(*painter, option, look.measures, isHeading ? gapAbove(look.measures, index) : 0);
 
