@@ -88,9 +88,9 @@ TEST_F(BookmarkTableTest, aSourceAndASiteNarrowTheList)
     EXPECT_EQ(titles(table), "Zebra Ant");
     awaitList(table, [&] { table.setInputs({.sourceID = u"chrome/Profile 1"_s, .site = u"zoo.example"_s}); });
     EXPECT_EQ(titles(table), "");
-    EXPECT_EQ(table.view().emptyText(), u"Nothing found on zoo.example");
+    EXPECT_EQ(table.whyItIsEmpty(), u"Nothing found on zoo.example");
     awaitList(table, [&] { table.setInputs({.sourceID = u"chrome/Nobody"_s}); });
-    EXPECT_EQ(table.view().emptyText(), u"No bookmarks yet");
+    EXPECT_EQ(table.whyItIsEmpty(), u"No bookmarks yet");
 }
 
 TEST_F(BookmarkTableTest, typedWordsAreSearchedForAfterAShorterWait)
@@ -301,7 +301,7 @@ TEST_F(BookmarkTreeTest, aSourceWithoutBookmarksSaysSo)
 {
     BookmarkTree table(services());
     show(table, {.sourceID = u"edge/Default"_s});
-    EXPECT_EQ(table.view().emptyText(), u"No bookmarks yet");
+    EXPECT_EQ(table.whyItIsEmpty(), u"No bookmarks yet");
 }
 
 } // namespace roamlet::testing

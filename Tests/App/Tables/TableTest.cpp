@@ -84,7 +84,7 @@ void TableTest::awaitList(LinkTable &table, const std::function<void()> &action)
 {
     const QSignalSpy lists(&table, &LinkTable::rowCountChanged);
     action();
-    EXPECT_TRUE(waitUntil([&] { return !lists.isEmpty() && !table.isBusy(); }));
+    EXPECT_TRUE(waitUntil([&] { return !lists.isEmpty() && !table.isAwaited(); }));
 }
 
 void TableTest::expectNoList(LinkTable &table, const std::function<void()> &action)

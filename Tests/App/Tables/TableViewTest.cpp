@@ -441,17 +441,6 @@ TEST_F(TableViewTest, aMillionCharactersArePaintedLikeAnyTitle)
     EXPECT_EQ(table.rowCount(), 1);
 }
 
-TEST_F(TableViewTest, theLabelOfAnEmptyListIsSeen)
-{
-    show(table, {.sourceID = u"chrome/Nobody"_s});
-    const auto *label = table.findChild<QLabel *>(u"emptyText"_s);
-    ASSERT_NE(label, nullptr);
-    EXPECT_TRUE(label->isVisible());
-    EXPECT_EQ(label->geometry(), table.view().viewport()->rect());
-    awaitList(table, [&] { table.setInputs({}); });
-    EXPECT_FALSE(label->isVisible());
-}
-
 TEST_F(TableViewTest, everyPartHasAName)
 {
     show(table);

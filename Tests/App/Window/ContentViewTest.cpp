@@ -1,20 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
-#include "App/Window/ContentView.h"
+#include "App/Window/ContentViewTest.h"
 
 #include "App/Look/Contrast.h"
 #include "App/Look/PlainPalette.h"
-#include "App/Window/LoadingRows.h"
 #include "App/Window/ReloadButton.h"
 #include "App/Window/Sidebar.h"
-#include "App/Window/WindowTest.h"
-#include "SampleHome/ChromiumFiles.h"
-#include "Support/Waiting.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QFocusEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -29,79 +24,7 @@ namespace roamlet::testing
 {
 
 using namespace Qt::StringLiterals;
-
-namespace
-{
-
-/// Notes why a widget got the keyboard.
-class FocusReasons final : public QObject
-{
-public:
-    bool eventFilter(QObject * /*watched*/, QEvent *event) override
-    {
-        if (event->type() == QEvent::FocusIn)
-            seen.append(static_cast<QFocusEvent *>(event)->reason());
-        return false;
-    }
-
-    QList<Qt::FocusReason> seen;
-};
-
-} // namespace
-
-class ContentViewTest : public WindowTest
-{
-protected:
-    std::unique_ptr<ContentView> makeContent()
-    {
-        auto content = std::make_unique<ContentView>(services());
-        content->resize(1000, 600);
-        content->show();
-        return content;
-    }
-
-    static QString title(const ContentView &content)
-    {
-        return part<QWidget>(content, u"listTitle"_s)->accessibleName();
-    }
-    static QString subtitle(const ContentView &content)
-    {
-        return part<QWidget>(content, u"listSubtitle"_s)->accessibleName();
-    }
-    /// The object name of the table that is seen.
-    static QString shownTable(const ContentView &content)
-    {
-        for (const QTreeView *view : content.findChildren<QTreeView *>()) {
-            if (view->isVisible() && view->objectName() != u"sidebar")
-                return view->objectName();
-        }
-        return {};
-    }
-    /// What is said where no table is seen: a heading, and a text below it.
-    static QStringList shownTexts(const ContentView &content)
-    {
-        QStringList result;
-        for (const QString &name : {u"emptyStateTitle"_s, u"emptyStateText"_s}) {
-            for (const QLabel *label : content.findChildren<QLabel *>(name)) {
-                if (label->isVisible())
-                    result.append(label->text());
-            }
-        }
-        return result;
-    }
-    static bool isShown(const ContentView &content, const QString &name)
-    {
-        const auto *widget = content.findChild<QWidget *>(name);
-        return widget != nullptr && widget->isVisible();
-    }
-    void expectSubtitle(const ContentView &content, const QString &text)
-    {
-        EXPECT_TRUE(waitUntil([&] {
-            home.clock.advance(std::chrono::milliseconds(300));
-            return subtitle(content) == text;
-        })) << qPrintable(subtitle(content));
-    }
-};
+using namespace std::chrono_literals;
 
 TEST_F(ContentViewTest, quietTextsAreReadableInAThemeThatHidesThem)
 {
@@ -115,7 +38,6 @@ TEST_F(ContentViewTest, quietTextsAreReadableInAThemeThatHidesThem)
         };
         EXPECT_GE(contrastRatio(color(u"listSubtitle"_s, QPalette::WindowText), ground), 4.5);
         EXPECT_GE(contrastRatio(color(u"searchField"_s, QPalette::PlaceholderText), ground), 4.5);
-        EXPECT_GE(contrastRatio(color(u"emptyText"_s, QPalette::WindowText), ground), 4.5);
     }
 }
 
@@ -365,6 +287,42 @@ TEST_F(ContentViewTest, theArrowTurnsWhileAReloadRuns)
     EXPECT_FALSE(button->isReloading());
 }
 
+TEST_F(ContentViewTest, theFirstReadingIsSeenToRunOnceItTakesLong)
+{
+    addChromium();
+    const auto content = makeContent();
+    home.clock.advance(149ms);
+    EXPECT_FALSE(isShown(*content, u"busyBar"_s));
+    home.clock.advance(1ms);
+    EXPECT_TRUE(isShown(*content, u"busyBar"_s));
+    EXPECT_EQ(part<QWidget>(*content, u"busyBar"_s)->accessibleName(), u"Reading");
+    loadNow(*library);
+    EXPECT_TRUE(waitUntil([&] { return !isShown(*content, u"busyBar"_s); }));
+}
+
+TEST_F(ContentViewTest, aSearchIsSeenToRunOnceItTakesLong)
+{
+    addChromium();
+    loadNow(*library);
+    const auto content = makeContent();
+    expectSubtitle(*content, u"4 items"_s);
+    Gate gate;
+    recordReads(&gate);
+    auto *field = part<QLineEdit>(*content, u"searchField"_s);
+    field->setText(u"a1"_s);
+    home.clock.advance(ListLoader::searchDelay);
+    gate.awaitReader();
+    EXPECT_FALSE(isShown(*content, u"busyBar"_s));
+    home.clock.advance(149ms);
+    EXPECT_FALSE(isShown(*content, u"busyBar"_s));
+    home.clock.advance(1ms);
+    EXPECT_TRUE(isShown(*content, u"busyBar"_s));
+    EXPECT_EQ(part<QWidget>(*content, u"busyBar"_s)->accessibleName(), u"Searching");
+    gate.open();
+    expectSubtitle(*content, u"1 item"_s);
+    EXPECT_FALSE(isShown(*content, u"busyBar"_s));
+}
+
 TEST_F(ContentViewTest, theExportIsThereOnlyWithBookmarks)
 {
     addChromium();
@@ -385,118 +343,6 @@ TEST_F(ContentViewTest, theExportIsThereOnlyWithBookmarks)
     EXPECT_EQ(request, ExportRequest{.sourceID = u"chrome/Default"_s});
 }
 
-TEST_F(ContentViewTest, aSearchThatFindsNothingSaysSoAndOffersWaysOut)
-{
-    addChromium();
-    loadNow(*library);
-    const auto content = makeContent();
-    expectSubtitle(*content, u"4 items"_s);
-    EXPECT_FALSE(isShown(*content, u"emptyListPage"_s));
-    auto *field = part<QLineEdit>(*content, u"searchField"_s);
-    content->setSite(u"a1.example"_s);
-    QTest::keyClicks(field, u"zeppelin"_s);
-    expectSubtitle(*content, u"0 items"_s);
-    ASSERT_TRUE(isShown(*content, u"emptyListPage"_s));
-    EXPECT_EQ(shownTexts(*content), QStringList{u"Nothing found for “zeppelin” on a1.example"_s});
-    EXPECT_FALSE(part<QWidget>(*content, u"historyTable"_s)->isEnabled()) << "the Tab key goes past it";
-    EXPECT_FALSE(isShown(*content, u"emptyListReload"_s));
-    QTest::mouseClick(part<QPushButton>(*content, u"emptyListAllSites"_s), Qt::LeftButton);
-    // Until the answer is there, what was said stays.
-    EXPECT_TRUE(isShown(*content, u"emptyListPage"_s));
-    EXPECT_TRUE(waitUntil([&] {
-        home.clock.advance(std::chrono::milliseconds(300));
-        return shownTexts(*content) == QStringList{u"Nothing found for “zeppelin”"_s};
-    }));
-    EXPECT_FALSE(isShown(*content, u"emptyListAllSites"_s));
-    QTest::mouseClick(part<QPushButton>(*content, u"emptyListClearSearch"_s), Qt::LeftButton);
-    EXPECT_EQ(field->text(), u"");
-    expectSubtitle(*content, u"4 items"_s);
-    EXPECT_FALSE(isShown(*content, u"emptyListPage"_s));
-    EXPECT_TRUE(part<QWidget>(*content, u"historyTable"_s)->isEnabled());
-}
-
-TEST_F(ContentViewTest, anotherPaneDoesNotKeepThePageOfTheLast)
-{
-    addChromium();
-    loadNow(*library);
-    const auto content = makeContent();
-    content->setPane(BookmarksPane{u"edge/Default"_s});
-    EXPECT_TRUE(waitUntil([&] { return isShown(*content, u"emptyListPage"_s); }));
-    EXPECT_EQ(shownTexts(*content), QStringList{u"No bookmarks yet"_s});
-    content->setPane(HistoryPane());
-    EXPECT_FALSE(isShown(*content, u"emptyListPage"_s));
-    expectSubtitle(*content, u"4 items"_s);
-    content->setPane(BookmarksPane{u"edge/Default"_s});
-    EXPECT_TRUE(waitUntil([&] { return isShown(*content, u"emptyListPage"_s); }));
-    EXPECT_EQ(shownTexts(*content), QStringList{u"No bookmarks yet"_s});
-}
-
-TEST_F(ContentViewTest, foldersWithoutAnyLinkAreNotCovered)
-{
-    addChromium();
-    change([this] {
-        sample::writeBookmarks(
-            chromeFile(u"Default/Bookmarks"_s),
-            {{u"bookmark_bar"_s,
-              sample::folderNode(u"1"_s, u"Bar"_s, {sample::folderNode(u"6"_s, u"Plans"_s, {})})}});
-    });
-    loadNow(*library);
-    const auto content = makeContent();
-    for (const Pane &pane : {Pane(BookmarksPane()), Pane(BookmarksPane{u"chrome/Default"_s})}) {
-        content->setPane(HistoryPane());
-        content->setPane(pane);
-        expectSubtitle(*content, u"0 items"_s);
-        const auto *tree = part<QTreeView>(*content, u"bookmarkTree"_s);
-        EXPECT_TRUE(waitUntil([tree] { return tree->model()->rowCount() > 0; }));
-        EXPECT_FALSE(isShown(*content, u"emptyListPage"_s));
-        EXPECT_TRUE(tree->isEnabled());
-    }
-    // A source without even a folder has nothing to show.
-    content->setPane(BookmarksPane{u"edge/Default"_s});
-    EXPECT_TRUE(waitUntil([&] { return isShown(*content, u"emptyListPage"_s); }));
-}
-
-TEST_F(ContentViewTest, aListThatCouldNotBeReadSaysWhyAndOffersToReadItAgain)
-{
-    addChromium();
-    fail(chromeFile(u"Default/History"_s), std::errc::io_error);
-    loadNow(*library);
-    const auto content = makeContent();
-    content->setPane(HistoryPane{u"chrome/Default"_s});
-    ASSERT_TRUE(waitUntil([&] { return isShown(*content, u"emptyListReload"_s); }));
-    EXPECT_THAT(shownTexts(*content).join(u' ').toStdString(), ::testing::HasSubstr("Input/output error"));
-    EXPECT_THAT(part<QWidget>(*content, u"listSubtitle"_s)->accessibleDescription().toStdString(),
-                ::testing::HasSubstr("Input/output error"));
-    home.files.failure = {};
-    QTest::mouseClick(part<QPushButton>(*content, u"emptyListReload"_s), Qt::LeftButton);
-    expectSubtitle(*content, u"2 items"_s);
-    EXPECT_FALSE(isShown(*content, u"emptyListPage"_s));
-}
-
-TEST_F(ContentViewTest, whatIsReadForTheFirstTimeHasShapesInThePlaceOfRows)
-{
-    addChromium();
-    const auto content = makeContent();
-    auto *shapes = content->findChild<LoadingRows *>();
-    ASSERT_NE(shapes, nullptr);
-    EXPECT_TRUE(shapes->isVisible());
-    EXPECT_TRUE(isShown(*content, u"busyBar"_s));
-    const QImage image = shapes->grab().toImage();
-    const auto darkest = [&image](int from, int to) {
-        int result = 255;
-        for (int y = from; y < to; ++y) {
-            for (int x = 0; x < image.width(); ++x)
-                result = std::min(result, image.pixelColor(x, y).lightness());
-        }
-        return result;
-    };
-    EXPECT_LT(darkest(0, image.height() / 3), darkest(image.height() * 2 / 3, image.height()));
-    loadNow(*library);
-    expectSubtitle(*content, u"4 items"_s);
-    EXPECT_FALSE(shapes->isVisible());
-    EXPECT_FALSE(isShown(*content, u"busyBar"_s));
-}
-
 TEST_F(ContentViewTest, whileASearchRunsTheSubtitleIsThatOfTheRowsThatAreStillShown)
 {
     addChromium();
@@ -509,67 +355,6 @@ TEST_F(ContentViewTest, whileASearchRunsTheSubtitleIsThatOfTheRowsThatAreStillSh
     part<QLineEdit>(*content, u"searchField"_s)->setText(u"nowhere"_s);
     EXPECT_EQ(subtitle(*content), before);
     expectSubtitle(*content, u"0 items"_s);
-}
-
-TEST_F(ContentViewTest, withoutAnyBrowserItSaysWhereItLooked)
-{
-    const auto content = makeContent();
-    loadNow(*library);
-    EXPECT_EQ(shownTable(*content), u"");
-    const auto texts = content->findChildren<QLabel *>(u"emptyStateText"_s);
-    const auto shown = std::ranges::find_if(texts, [](const QLabel *label) { return label->isVisible(); });
-    ASSERT_NE(shown, texts.end());
-    const std::string text = (*shown)->text().toStdString();
-    EXPECT_THAT(text, ::testing::HasSubstr("~/Library/Safari"));
-    EXPECT_THAT(text, ::testing::HasSubstr("~/.config/google-chrome"));
-    EXPECT_THAT(text, ::testing::HasSubstr("microsoft-edge"));
-    EXPECT_THAT(text, ::testing::HasSubstr("~/.config/mozilla/firefox, ~/.mozilla/firefox\n"));
-    EXPECT_THAT(text, ::testing::HasSubstr("~/.waterfox"));
-    EXPECT_THAT(text, ::testing::Not(::testing::HasSubstr(home.path().toStdString())));
-}
-
-TEST_F(ContentViewTest, ofEncryptedBookmarksItSaysSoAndOffersTheirManager)
-{
-    addChromium();
-    change([this] {
-        QFile::remove(chromeFile(u"Profile 1/Bookmarks"_s));
-        sample::writeEncryptedBookmarks(chromeFile(u"Profile 1/EncryptedBookmarks2"_s));
-    });
-    loadNow(*library);
-    const auto content = makeContent();
-    content->setPane(BookmarksPane{u"chrome/Default"_s});
-    EXPECT_FALSE(isShown(*content, u"emptyStateAction"_s));
-    content->setPane(BookmarksPane{u"chrome/Profile 1"_s});
-    EXPECT_EQ(shownTable(*content), u"");
-    auto *button = part<QPushButton>(*content, u"emptyStateAction"_s);
-    ASSERT_TRUE(button->isVisible());
-    EXPECT_EQ(button->text(), u"Edit Chrome Bookmarks");
-    EXPECT_EQ(shownTexts(*content), (QStringList{u"Bookmarks are encrypted"_s,
-                                                 u"Chrome keeps the bookmarks of this profile encrypted, "
-                                                 "so that only Chrome itself can show them."_s}));
-    QTest::mouseClick(button, Qt::LeftButton);
-    EXPECT_EQ(workspace.requests,
-              QList<QStringList>({{u"page"_s, u"chrome"_s, u"Profile 1"_s, u"chrome://bookmarks/"_s}}));
-    EXPECT_TRUE(library->snapshot().problems.isEmpty()) << "it is no problem of the source";
-    // As soon as there is a file that can be read, its bookmarks are shown.
-    change([this] { sample::writeBookmarks(chromeFile(u"Profile 1/Bookmarks"_s), {}); });
-    loadNow(*library);
-    EXPECT_NE(shownTable(*content), u"");
-}
-
-TEST_F(ContentViewTest, browsersThatVanishLeaveNothingToCount)
-{
-    addChromium();
-    loadNow(*library);
-    const auto content = makeContent();
-    expectSubtitle(*content, u"4 items"_s);
-    change([this] {
-        for (const QString &file : {chromeFile(QString()), edgeFile(QString())})
-            EXPECT_TRUE(QDir(file).removeRecursively());
-    });
-    loadNow(*library);
-    EXPECT_EQ(shownTable(*content), u"");
-    EXPECT_EQ(subtitle(*content), u"0 items");
 }
 
 TEST_F(ContentViewTest, aSourceThatIsSwitchedOffWhileItIsShownLeavesAllOfThem)
@@ -605,26 +390,6 @@ TEST_F(ContentViewTest, theKeyboardGoesFromTheSearchToTheListAndBack)
         EXPECT_TRUE(table->isVisible());
     }
     EXPECT_EQ(reasons.seen, QList<Qt::FocusReason>(3, Qt::ShortcutFocusReason)) << "a key led there";
-}
-
-TEST_F(ContentViewTest, theKeyboardGoesFromTheSearchToWhatHelpsWhereNothingIsFound)
-{
-    addChromium();
-    loadNow(*library);
-    const auto content = makeContent();
-    content->activateWindow();
-    content->startSearch();
-    auto *field = part<QLineEdit>(*content, u"searchField"_s);
-    EXPECT_TRUE(waitUntil([&] { return field->hasFocus(); }));
-    QTest::keyClicks(field, u"zeppelin"_s);
-    expectSubtitle(*content, u"0 items"_s);
-    auto *clear = part<QPushButton>(*content, u"emptyListClearSearch"_s);
-    ASSERT_TRUE(waitUntil([clear] { return clear->isVisible(); }));
-    FocusReasons reasons;
-    clear->installEventFilter(&reasons);
-    QTest::keyClick(field, Qt::Key_Down);
-    EXPECT_TRUE(clear->hasFocus());
-    EXPECT_EQ(reasons.seen, QList<Qt::FocusReason>{Qt::ShortcutFocusReason});
 }
 
 TEST_F(ContentViewTest, nothingIsReadIntoMemoryBeforeAnybodySearches)

@@ -25,14 +25,6 @@ using namespace Qt::StringLiterals;
 
 using Action = LinkMenuEntry::Action;
 
-namespace
-{
-
-/// Most answers are there before anybody would have read that they are on their way.
-constexpr std::chrono::milliseconds busyPatience{150};
-
-} // namespace
-
 LinkTable::LinkTable(const WindowServices &services, const Kind &kind, QWidget *parent)
     : QWidget(parent),
       m_services(services),
@@ -55,21 +47,13 @@ LinkTable::LinkTable(const WindowServices &services, const Kind &kind, QWidget *
     m_model.setIcons(&m_icons);
     m_view.tableHeader().setColumnLayout(ColumnLayout::load(services.defaults, m_layoutKey));
     setOrder(m_defaultOrder);
-    showWhyItIsEmpty();
-    m_tasks.run(
-        this,
-        [locale = services.calendar().locale](const std::stop_token & /*stop*/) {
-            LocalText::prepare(locale);
-            return true;
-        },
-        [](bool) {});
 
     connect(&services.library, &Library::snapshotChanged, this, [this] {
         m_icons.clear();
         refresh();
     });
     connect(&m_loader, &ListLoader::listLoaded, this, &LinkTable::showList);
-    connect(&m_loader, &ListLoader::progressChanged, this, &LinkTable::showProgress);
+    connect(&m_loader, &ListLoader::progressChanged, this, &LinkTable::updateIsWorking);
     connect(&m_view, &TableView::openRequested, this, &LinkTable::openSelection);
     connect(&m_view, &TableView::copyRequested, this, &LinkTable::copySelection);
     connect(&m_view, &TableView::linkMenuRequested, this, &LinkTable::showLinkMenu);
@@ -101,7 +85,7 @@ void LinkTable::refresh()
     if (!isVisible() || m_services.library.generation() == 0)
         return;
     m_loader.load(wish());
-    showProgress();
+    updateIsWorking();
 }
 
 ListWish LinkTable::wish() const
@@ -152,39 +136,14 @@ void LinkTable::awaitMidnight()
                            [this] { catchUp(); });
 }
 
-bool LinkTable::isBusy() const
+void LinkTable::updateIsWorking()
 {
-    const auto progress = m_loader.progress();
-    return progress == ListLoader::Progress::Working || progress == ListLoader::Progress::Reloading;
-}
-
-void LinkTable::showProgress()
-{
-    using Progress = ListLoader::Progress;
-    const Progress progress = m_loader.progress();
-    if (progress == Progress::Done)
-        showWhyItIsEmpty();
-    // Until memory has been looked through, nothing else can be said than before.
-    else if (progress != Progress::Looking)
-        m_view.setEmptyText(isSearchText(m_inputs.search) ? tr("Searching…") : tr("Reading…"));
     // What a reload brings may take its time: a list is there.
-    if (progress != Progress::Working) {
-        m_busyWait.reset();
-        setSeenWorking(false);
+    const bool isWorking = m_loader.progress() == ListLoader::Progress::Working;
+    if (isWorking == m_isWorking)
         return;
-    }
-    if (m_busyWait)
-        return;
-    m_busyWait = std::make_unique<QObject>();
-    m_services.clock.after(busyPatience, m_busyWait.get(), [this] { setSeenWorking(true); });
-}
-
-void LinkTable::setSeenWorking(bool isSeen)
-{
-    if (isSeen == m_isSeenWorking)
-        return;
-    m_isSeenWorking = isSeen;
-    Q_EMIT seenWorkingChanged();
+    m_isWorking = isWorking;
+    Q_EMIT isWorkingChanged();
 }
 
 void LinkTable::catchUp()
@@ -229,22 +188,13 @@ void LinkTable::showList(const ShownList &list)
     m_view.setSearch({.words = refineWords(refineText(m_inputs.search)), .site = m_inputs.site});
     m_view.showTree(list.tree, list.change == ListChange::Reloaded ? TableView::Scrolling::Stay
                                                                    : TableView::Scrolling::ToTop);
-    showProgress();
+    updateIsWorking();
     Q_EMIT rowCountChanged(rowCount());
 }
 
-void LinkTable::showWhyItIsEmpty()
-{
-    m_view.setEmptyText(emptyText());
-}
-
-QString LinkTable::emptyText() const
+QString LinkTable::whyItIsEmpty() const
 {
     const Library &library = m_services.library;
-    if (library.generation() == 0)
-        return tr("Reading…");
-    if (library.snapshot().browserProfiles.isEmpty())
-        return tr("No browser found.");
     if (library.snapshot().sources.isEmpty())
         return tr("All profiles are switched off in the settings.");
     if (m_inputs.sourceID && library.snapshot().problems.contains(*m_inputs.sourceID))

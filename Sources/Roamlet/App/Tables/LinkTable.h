@@ -11,7 +11,6 @@
 #include "Library/ListLoader.h"
 #include "Lists/Grouping.h"
 #include "Lists/ListWish.h"
-#include "Platform/BackgroundTasks.h"
 
 #include <QString>
 #include <QWidget>
@@ -55,14 +54,13 @@ public:
     /// How many links the shown list has, in open and closed sections and folders.
     qsizetype rowCount() const { return m_model.tree()->linkCount(); }
     TableView &view() const { return m_view; }
-    /// Whether an answer to what was asked is still on its way.
-    bool isBusy() const;
-
     /// Whether what is shown is not yet the answer to what was asked.
     bool isAwaited() const { return m_loader.progress() != ListLoader::Progress::Done; }
 
-    /// Whether it works on something that was asked for long enough to be shown.
-    bool isSeenWorking() const { return m_isSeenWorking; }
+    /// Whether it works on something else than what it shows; a reload of the same list does not count.
+    bool isWorking() const { return m_isWorking; }
+    /// Why there are no rows, once that is known.
+    QString whyItIsEmpty() const;
 
     /// Opens the selected links in the browsers that they came from.
     void openSelection();
@@ -74,7 +72,7 @@ Q_SIGNALS:
     void rowCountChanged(qsizetype count);
     /// The user wants to see this site only.
     void onlySiteRequested(QString site);
-    void seenWorkingChanged();
+    void isWorkingChanged();
 
 protected:
     /// What one table is and the others are not.
@@ -115,16 +113,12 @@ private:
     /// The user wants this column to decide first, or the other way round if it already does.
     void sortBy(int column);
     void setOrder(const QList<SortComparator> &order);
-    /// Says why there is nothing to see, where that is so.
-    void showWhyItIsEmpty();
-    void showProgress();
-    void setSeenWorking(bool isSeen);
+    void updateIsWorking();
     /// Comes back to a list after a while in which it was not looked at.
     void catchUp();
     /// Does it again when the next day begins.
     void awaitMidnight();
     LocalText localText() const;
-    QString emptyText() const;
     QList<Opener::Link> selectedLinks() const;
     void showLinkMenu(const QPoint &place);
     void showSiteMenu(const QString &site, const QPoint &place);
@@ -146,11 +140,8 @@ private:
     RowIcons m_icons;
     /// Lives until midnight, or until nobody looks any more.
     std::unique_ptr<QObject> m_midnight;
-    bool m_isSeenWorking = false;
-    /// Lives as long as work that is not shown yet.
-    std::unique_ptr<QObject> m_busyWait;
+    bool m_isWorking = false;
     ListLoader m_loader;
-    BackgroundTasks m_tasks;
 };
 
 } // namespace roamlet

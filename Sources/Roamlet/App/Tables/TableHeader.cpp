@@ -160,6 +160,15 @@ int TableHeader::contentEnd(int column) const
     return end - trailingPadding(column);
 }
 
+std::optional<int> TableHeader::dateEnd() const
+{
+    const auto date = std::ranges::find(m_model.columns(), TableColumn::Content::Date, &TableColumn::content);
+    const int column = static_cast<int>(date - m_model.columns().begin());
+    if (column == m_model.columns().size() || isSectionHidden(column))
+        return {};
+    return contentEnd(column);
+}
+
 int TableHeader::widestTitle() const
 {
     return m_look.measures.units(widestTitleInLines);

@@ -10,6 +10,8 @@
 #include <QHash>
 #include <QHeaderView>
 
+#include <optional>
+
 namespace roamlet
 {
 
@@ -43,6 +45,8 @@ public:
     int trailingPadding(int column) const;
     /// Where what stands in a column ends, counted in the direction of reading from the leading edge.
     int contentEnd(int column) const;
+    /// Where dates end in the same way, unless their column is hidden or there is none.
+    std::optional<int> dateEnd() const;
     /// From this width on, the column of titles leaves the rest to the others.
     int widestTitle() const;
     /// Whether the list is so narrow that a browser's icon has to stand for its name.

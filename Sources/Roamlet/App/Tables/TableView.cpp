@@ -4,28 +4,23 @@
 #include "App/Tables/TableView.h"
 
 #include "App/Look/Chevron.h"
-#include "App/Tables/CellText.h"
 #include "App/Tables/RowBackground.h"
-#include "App/Tables/RowBubble.h"
 #include "App/Tables/RowDelegate.h"
 #include "App/Tables/RowSelectionModel.h"
+#include "App/Tables/RowTips.h"
 #include "App/Tables/SectionBand.h"
 #include "App/Tables/TableHeader.h"
 #include "App/Tables/TableModel.h"
 #include "App/Tables/ViewPlace.h"
 
 #include <QContextMenuEvent>
-#include <QCursor>
 #include <QHelpEvent>
 #include <QIcon>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QPainter>
 #include <QScrollBar>
-#include <QToolTip>
 
 #include <algorithm>
-#include <chrono>
 #include <unordered_set>
 #include <utility>
 
@@ -44,11 +39,6 @@ constexpr int deepestOpening = 100;
 /// height of links.
 constexpr std::size_t mostRowsOfTwoHeights = 20'000;
 
-/// How long the pointer rests before the bubble tells about a row.
-constexpr std::chrono::milliseconds bubbleDelay{300};
-/// Of so many selected rows there is no one to tell about.
-constexpr int severalRows = 3;
-
 /// What a heading keeps beside its strip.
 constexpr double leastHeading = 8;
 /// One level of folders.
@@ -62,8 +52,7 @@ TableView::TableView(TableModel &model, Shape shape, QWidget *parent)
       m_header(*new TableHeader(model, this)),
       m_look(Look::of(*this)),
       m_delegate(*new RowDelegate(model, m_header, m_look, this)),
-      m_bubble(*new RowBubble(viewport())),
-      m_emptyLabel(*new QLabel(viewport()))
+      m_tips(*new RowTips(*this, m_delegate))
 {
     setHeader(&m_header);
     setModel(&model);
@@ -89,15 +78,6 @@ TableView::TableView(TableModel &model, Shape shape, QWidget *parent)
         setRootIsDecorated(false);
         setIndentation(0);
     }
-    m_bubbleWait.setSingleShot(true);
-    m_bubbleWait.setInterval(bubbleDelay);
-    connect(&m_bubbleWait, &QTimer::timeout, this, [this] { showBubble(m_hovered); });
-
-    m_emptyLabel.setObjectName(QStringLiteral("emptyText"));
-    m_emptyLabel.setAlignment(Qt::AlignCenter);
-    m_emptyLabel.setTextFormat(Qt::PlainText);
-    m_emptyLabel.setWordWrap(true);
-    m_emptyLabel.setAttribute(Qt::WA_TransparentForMouseEvents);
     updateLook();
 
     connect(this, &QTreeView::expanded, this, [this](const QModelIndex &index) { noteToggled(index, true); });
@@ -175,18 +155,6 @@ bool TableView::selectsLinks() const
     return std::ranges::any_of(selectedRows(), [](const TableRow &row) { return row.kind == RowKind::Link; });
 }
 
-void TableView::setEmptyText(const QString &text)
-{
-    m_emptyLabel.setText(text);
-    m_emptyLabel.setVisible(m_model.rowCount() == 0 && !text.isEmpty());
-    setAccessibleDescription(m_model.rowCount() == 0 ? text : QString());
-}
-
-QString TableView::emptyText() const
-{
-    return m_model.rowCount() == 0 ? m_emptyLabel.text() : QString();
-}
-
 void TableView::showTree(const SharedRowTree &tree, Scrolling scrolling)
 {
     if (tree == m_model.tree()) {
@@ -199,7 +167,7 @@ void TableView::showTree(const SharedRowTree &tree, Scrolling scrolling)
     const ViewPlace place(*this);
     const int horizontal = horizontalScrollBar()->value();
     m_isRestoring = true;
-    m_bubble.dismiss();
+    m_tips.fallSilent();
     const bool hasBands = tree->node(RowTree::root).childCount > 0 && TableModel::isBand(tree->node(1));
     setUniformRowHeights(!hasBands || tree->nodes().size() > mostRowsOfTwoHeights);
     m_model.setTree(tree);
@@ -212,8 +180,7 @@ void TableView::showTree(const SharedRowTree &tree, Scrolling scrolling)
     else
         place.restoreScrolling(*this);
     horizontalScrollBar()->setValue(horizontal);
-    followPointer();
-    setEmptyText(m_emptyLabel.text());
+    m_tips.followRows();
 }
 
 void TableView::openFoldersAndSections()
@@ -289,7 +256,7 @@ void TableView::drawGround(QPainter *painter, const QRect &row, const QModelInde
     const bool isSelected = isSelectedRow(index);
     const RowBackground background{.isSelected = isSelected,
                                    .isInActiveWindow = isActiveWindow(),
-                                   .isHovered = m_hovered.isValid() && m_hovered == index.siblingAtColumn(0),
+                                   .isHovered = m_tips.isHovered(index),
                                    .hasRing = hasRing(index),
                                    .isSelectedAbove = isSelected && isSelectedRow(indexAbove(index)),
                                    .isSelectedBelow = isSelected && isSelectedRow(indexBelow(index))};
@@ -308,35 +275,27 @@ void TableView::drawBand(QPainter *painter, const QRect &band, const QModelIndex
                               .isFirst = index.row() == 0,
                               .ground = isSource ? &groundOf(index) : nullptr,
                               .visits = stripOf(index),
-                              .litTick = litTick(index),
+                              .litTick = m_tips.litTick(index),
                               .now = m_model.localText().now()};
-    content.paint(*painter, band, layoutDirection(), stripEnd(), m_look);
+    content.paint(*painter, band, layoutDirection(), m_header.dateEnd().value_or(0), m_look);
     if (!isSource)
         RowBackground{.hasRing = hasRing(index)}.paint(*painter, band, m_look);
 }
 
 const VisitStrip *TableView::stripOf(const QModelIndex &section) const
 {
-    if (!isKind(section, RowKind::Section))
+    // The strip stands above the times, whose column may be hidden.
+    const std::optional<int> end = m_header.dateEnd();
+    if (!end || !isKind(section, RowKind::Section))
         return nullptr;
     const VisitStrip &visits = m_model.tree()->visits(TableModel::numberOf(section));
-    if (visits.ticks.empty() || stripEnd() == 0)
+    if (visits.ticks.empty())
         return nullptr;
     // Where the column of dates comes first, the title needs the place.
     const QRect band(0, 0, viewport()->width(), m_look.measures.sectionHeight);
-    const QRect strip = visitStripPlace(visits, band, Qt::LeftToRight, stripEnd(), m_look);
+    const QRect strip = visitStripPlace(visits, band, Qt::LeftToRight, *end, m_look);
     return strip.left() < m_look.measures.alignmentLine + m_look.measures.units(leastHeading) ? nullptr
                                                                                               : &visits;
-}
-
-int TableView::stripEnd() const
-{
-    // The strip stands above the times, whose column may be hidden.
-    const auto date = std::ranges::find(m_model.columns(), TableColumn::Content::Date, &TableColumn::content);
-    const int column = static_cast<int>(date - m_model.columns().begin());
-    return column == m_model.columns().size() || m_header.isSectionHidden(column)
-               ? 0
-               : m_header.contentEnd(column);
 }
 
 std::optional<std::size_t> TableView::tickAt(const QPoint &point) const
@@ -345,19 +304,7 @@ std::optional<std::size_t> TableView::tickAt(const QPoint &point) const
     const VisitStrip *const visits = stripOf(section);
     if (visits == nullptr)
         return {};
-    return visitTickAt(*visits, point, rowRect(section), layoutDirection(), stripEnd(), m_look);
-}
-
-std::optional<std::size_t> TableView::litTick(const QModelIndex &section) const
-{
-    const QModelIndex first = section.siblingAtColumn(0);
-    if (m_isPointerUsed && m_hovered.isValid() && m_hovered == first)
-        return m_hoveredTick;
-    const QModelIndex row = m_isPointerUsed ? QModelIndex(m_hovered) : currentIndex();
-    if (!row.isValid() || row.parent() != first)
-        return {};
-    const std::optional date = m_model.rowAt(row).date;
-    return date ? m_model.tree()->visits(TableModel::numberOf(section)).tickAt(*date) : std::nullopt;
+    return visitTickAt(*visits, point, rowRect(section), layoutDirection(), *m_header.dateEnd(), m_look);
 }
 
 QRect TableView::rowRect(const QModelIndex &index) const
@@ -376,20 +323,6 @@ void TableView::updateRow(const QModelIndex &index)
         viewport()->update(rowRect(index.parent()));
 }
 
-void TableView::setHovered(const QModelIndex &index)
-{
-    const QModelIndex first = index.siblingAtColumn(0);
-    if (m_hovered == first)
-        return;
-    updateRow(m_hovered);
-    m_hovered = first;
-    updateRow(m_hovered);
-    if (m_hovered.isValid())
-        m_bubbleWait.start();
-    else
-        m_bubbleWait.stop();
-}
-
 void TableView::goToTick(const QModelIndex &section, std::size_t tick)
 {
     const VisitStrip::Tick &target = m_model.tree()->visits(TableModel::numberOf(section)).ticks[tick];
@@ -401,27 +334,10 @@ void TableView::goToTick(const QModelIndex &section, std::size_t tick)
     scrollTo(row, QAbstractItemView::PositionAtCenter);
 }
 
-void TableView::showBubble(const QModelIndex &index)
-{
-    int selected = 0;
-    for (const QItemSelectionRange &range : selectionModel()->selection()) {
-        selected += range.height();
-        if (selected >= severalRows)
-            break;
-    }
-    if (!isKind(index, RowKind::Link) || selected >= severalRows) {
-        m_bubble.dismiss();
-        return;
-    }
-    const TableRow &row = m_model.rowAt(index);
-    m_bubble.showRow(CellText::oneLine(row.url),
-                     row.date ? m_model.localText().fullDate(*row.date) : QString());
-}
-
 void TableView::followCurrentRow()
 {
     if (m_isByKeyboard && hasFocus())
-        showBubble(currentIndex().siblingAtColumn(0));
+        m_tips.tellOf(currentIndex().siblingAtColumn(0));
 }
 
 void TableView::currentChanged(const QModelIndex &current, const QModelIndex &previous)
@@ -451,24 +367,13 @@ void TableView::focusInEvent(QFocusEvent *event)
 void TableView::focusOutEvent(QFocusEvent *event)
 {
     QTreeView::focusOutEvent(event);
-    // What is told of the row under the pointer stays.
-    if (!m_hovered.isValid())
-        m_bubble.dismiss();
+    m_tips.loseFocus();
 }
 
 void TableView::scrollContentsBy(int dx, int dy)
 {
     QTreeView::scrollContentsBy(dx, dy);
-    // Qt moves what lies in the viewport together with the rows.
-    m_bubble.place();
-    m_emptyLabel.setGeometry(viewport()->rect());
-    followPointer();
-}
-
-void TableView::followPointer()
-{
-    if (m_isPointerUsed && viewport()->underMouse())
-        setHovered(indexAt(viewport()->mapFromGlobal(QCursor::pos())));
+    m_tips.followRows();
 }
 
 int TableView::sizeHintForColumn(int column) const
@@ -490,57 +395,19 @@ int TableView::sizeHintForColumn(int column) const
 
 bool TableView::viewportEvent(QEvent *event)
 {
-    if (event->type() == QEvent::Leave) {
-        setHovered({});
-        m_bubble.dismiss();
-    }
+    if (event->type() == QEvent::Leave)
+        m_tips.leave();
     if (event->type() == QEvent::ToolTip) {
         const auto *help = static_cast<QHelpEvent *>(event);
-        return showToolTip(help->pos(), help->globalPos());
+        m_tips.showToolTip(help->pos(), help->globalPos());
+        return true;
     }
     return QTreeView::viewportEvent(event);
 }
 
-bool TableView::showToolTip(const QPoint &point, const QPoint &onScreen)
-{
-    const QModelIndex index = indexAt(point);
-    if (const std::optional tick = tickAt(point)) {
-        const VisitStrip &visits = *stripOf(index);
-        const VisitStrip::Tick &shown = visits.ticks[*tick];
-        // An hour that clocks leave out, or a day that has a section of its own.
-        if (shown.begin == shown.end || shown.begin >= visits.end) {
-            QToolTip::hideText();
-            return true;
-        }
-        const LocalText &local = m_model.localText();
-        const QString when = visits.unit == VisitStrip::Unit::Hour ? local.hour(static_cast<int>(*tick))
-                                                                   : local.day(shown.begin);
-        QToolTip::showText(onScreen, when % u", " % local.number(shown.count), viewport());
-        return true;
-    }
-    // A tooltip that repeats what can be read already only stands in the way.
-    const bool isDate =
-        index.isValid() && m_model.columns()[index.column()].content == TableColumn::Content::Date;
-    const bool isBand = index.isValid() && m_model.isBand(index);
-    const int width = index.isValid() ? visualRect(index).width() : 0;
-    const bool isCut = index.isValid() && !isBand && m_delegate.isCut(index, width);
-    if (isDate || isCut)
-        QToolTip::showText(onScreen, index.data(Qt::ToolTipRole).toString(), viewport(), visualRect(index));
-    else
-        QToolTip::hideText();
-    return true;
-}
-
 void TableView::mouseMoveEvent(QMouseEvent *event)
 {
-    m_isPointerUsed = true;
-    const QPoint point = event->position().toPoint();
-    setHovered(indexAt(point));
-    if (const std::optional tick = tickAt(point); tick != m_hoveredTick) {
-        m_hoveredTick = tick;
-        updateRow(m_hovered);
-    }
-    m_bubble.avoid(point);
+    m_tips.movePointer(event->position().toPoint());
     // A press on a band was none for Qt, which would go on from an earlier one.
     if (!m_isBandPressed)
         QTreeView::mouseMoveEvent(event);
@@ -598,8 +465,7 @@ void TableView::keyPressEvent(QKeyEvent *event)
         return;
     }
     m_isByKeyboard = true;
-    m_isPointerUsed = false;
-    setHovered({});
+    m_tips.useKeys();
     const QModelIndex current = currentIndex();
     const bool hasModifiers = (event->modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier;
     switch (event->key()) {
@@ -661,14 +527,13 @@ void TableView::setSearch(const ShownSearch &search)
 void TableView::updateLook()
 {
     m_look = Look::of(*this);
-    setPaletteColor(m_emptyLabel, QPalette::WindowText, m_look.list.quiet);
     setIconSize({m_look.measures.iconSide, m_look.measures.iconSide});
     if (rootIsDecorated()) {
         setIndentation(m_look.measures.units(indentInLines));
         m_header.setTitleIndent(indentation());
     }
     scheduleDelayedItemsLayout();
-    m_bubble.place();
+    m_tips.place();
 }
 
 void TableView::changeEvent(QEvent *event)
@@ -682,8 +547,7 @@ void TableView::changeEvent(QEvent *event)
 void TableView::resizeEvent(QResizeEvent *event)
 {
     QTreeView::resizeEvent(event);
-    m_emptyLabel.setGeometry(viewport()->rect());
-    m_bubble.place();
+    m_tips.place();
 }
 
 } // namespace roamlet

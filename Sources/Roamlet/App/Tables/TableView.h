@@ -9,25 +9,22 @@
 #include <QPoint>
 #include <QSet>
 #include <QString>
-#include <QTimer>
 #include <QTreeView>
 
 #include <cstddef>
 #include <optional>
 
-class QLabel;
-
 namespace roamlet
 {
 
-class RowBubble;
 class RowDelegate;
+class RowTips;
 class TableHeader;
 class TableModel;
 struct ShownSearch;
 
-/// The view of a table: rows with sections or folders that open and close, and words in place of an empty
-/// list. It keeps the selection and what is open when a newer list comes.
+/// The view of a table: rows with sections or folders that open and close. It keeps the selection and what is
+/// open when a newer list comes.
 class TableView final : public QTreeView
 {
     Q_OBJECT
@@ -49,11 +46,14 @@ public:
     void showTree(const SharedRowTree &tree, Scrolling scrolling);
     /// What was searched for in the rows that are shown next.
     void setSearch(const ShownSearch &search);
-    /// What is said while there are no rows.
-    void setEmptyText(const QString &text);
-    QString emptyText() const;
     /// The selected links and folders from top to bottom.
     QList<TableRow> selectedRows() const;
+    /// Paints a row again, and the strip of its section.
+    void updateRow(const QModelIndex &index);
+    /// The strip of a section that shows one, or null.
+    const VisitStrip *stripOf(const QModelIndex &section) const;
+    /// The bar of a strip at this place of the viewport.
+    std::optional<std::size_t> tickAt(const QPoint &point) const;
 
 Q_SIGNALS:
     /// Return or a double-click on links.
@@ -104,35 +104,17 @@ private:
     bool hasRing(const QModelIndex &index) const;
     /// The whole width of a row.
     QRect rowRect(const QModelIndex &index) const;
-    void updateRow(const QModelIndex &index);
-    /// The strip of a section that shows one, or null.
-    const VisitStrip *stripOf(const QModelIndex &section) const;
-    int stripEnd() const;
-    std::optional<std::size_t> tickAt(const QPoint &point) const;
-    std::optional<std::size_t> litTick(const QModelIndex &section) const;
-    void setHovered(const QModelIndex &index);
     void goToTick(const QModelIndex &section, std::size_t tick);
-    bool showToolTip(const QPoint &point, const QPoint &onScreen);
-    void showBubble(const QModelIndex &index);
     void followCurrentRow();
-    /// Other rows lie under the pointer, which has not moved.
-    void followPointer();
 
     TableModel &m_model;
     TableHeader &m_header;
     Look m_look;
     RowDelegate &m_delegate;
-    RowBubble &m_bubble;
-    QLabel &m_emptyLabel;
-    /// The row under the pointer, and in a strip the bar.
-    QPersistentModelIndex m_hovered;
-    std::optional<std::size_t> m_hoveredTick;
-    QTimer m_bubbleWait;
+    RowTips &m_tips;
     /// Keys move the current row, not the mouse.
     bool m_isByKeyboard = false;
     bool m_isBandPressed = false;
-    /// The mouse was moved since the last key.
-    bool m_isPointerUsed = false;
     /// The folders and sections whose state differs from how they come: outermost ones open, others closed.
     QSet<QString> m_toggled;
     bool m_isRestoring = false;

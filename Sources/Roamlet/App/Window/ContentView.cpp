@@ -7,8 +7,8 @@
 #include "App/Look/Look.h"
 #include "App/Tables/BookmarkTable.h"
 #include "App/Tables/BookmarkTree.h"
+#include "App/Tables/LocalText.h"
 #include "App/Window/DetailHeader.h"
-#include "App/Window/EmptyListPage.h"
 #include "App/Window/EmptyState.h"
 #include "App/Window/FullDiskAccessBanner.h"
 #include "App/Window/ListStack.h"
@@ -20,6 +20,7 @@
 #include "Library/Library.h"
 #include "Lists/Refine.h"
 #include "Model/Browser.h"
+#include "Platform/Clock.h"
 #include "Platform/Folders.h"
 #include "Platform/UserDefaults.h"
 #include "Platform/Workspace.h"
@@ -33,6 +34,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <chrono>
 #include <ranges>
 #include <utility>
 
@@ -43,6 +45,9 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
+
+/// Most answers are there before anybody would have read that they are on their way.
+constexpr std::chrono::milliseconds workPatience{150};
 
 /// The line between the sidebar and the list.
 class Divider final : public QSplitterHandle
@@ -162,6 +167,13 @@ ContentView::ContentView(const WindowServices &services, QWidget *parent)
             m_header->setReloading(false);
     });
 
+    m_tasks.run(
+        this,
+        [locale = services.calendar().locale](const std::stop_token & /*stop*/) {
+            LocalText::prepare(locale);
+            return true;
+        },
+        [](bool) {});
     m_sidebar->select(m_pane);
     update();
 }
@@ -312,7 +324,7 @@ Table *ContentView::bookmarkTable(Table *&table)
 
 void ContentView::addTable(LinkTable *table)
 {
-    connect(table, &LinkTable::seenWorkingChanged, this, &ContentView::updateTitle);
+    connect(table, &LinkTable::isWorkingChanged, this, &ContentView::updateWork);
     connect(table, &LinkTable::onlySiteRequested, this, [this](const QString &site) { setSite(site); });
     connect(table, &LinkTable::rowCountChanged, this, [this, table](qsizetype count) {
         if (m_lists->currentWidget() != table)
@@ -432,10 +444,25 @@ void ContentView::updateTitle()
     const bool isProblem = PaneText::problem(m_pane, m_services.library).has_value();
     m_header->setTitle(title(), PaneText::subtitle(m_pane, m_services.library, m_shownList, QLocale()),
                        isProblem ? DetailHeader::Subtitle::Problem : DetailHeader::Subtitle::Note);
-    const bool isSearching = table != nullptr && table->isSeenWorking();
-    const QString search = isSearching ? tr("Searching") : QString();
-    m_header->setWork(m_services.library.lastLoaded() ? search : tr("Reading"));
+    updateWork();
     Q_EMIT titleChanged(title());
+}
+
+void ContentView::updateWork()
+{
+    const auto *table = qobject_cast<LinkTable *>(m_lists->currentWidget());
+    const bool isReading = !m_services.library.lastLoaded().has_value();
+    if (!isReading && (table == nullptr || !table->isWorking())) {
+        m_workWait.reset();
+        m_header->setWork({});
+        return;
+    }
+    if (m_workWait)
+        return;
+    m_workWait = std::make_unique<QObject>();
+    m_services.clock.after(workPatience, m_workWait.get(), [this] {
+        m_header->setWork(m_services.library.lastLoaded() ? tr("Searching") : tr("Reading"));
+    });
 }
 
 void ContentView::updateBanners()
@@ -484,36 +511,39 @@ void ContentView::updateList()
 void ContentView::updateCover()
 {
     auto *table = qobject_cast<LinkTable *>(m_lists->currentWidget());
+    if (table == nullptr)
+        return;
     // Folders without any link are rows, too.
-    const bool isEmpty = table != nullptr && table->view().tableModel().rowCount() == 0;
-    const Library::Snapshot &snapshot = m_services.library.snapshot();
+    const bool isEmpty = table->view().tableModel().rowCount() == 0;
     if (isEmpty && !m_services.library.lastLoaded()) {
         if (m_loading == nullptr)
             m_loading = new LoadingRows(m_lists);
         m_lists->setCover(m_loading, table->view().header()->sizeHint().height());
-    } else if (!isEmpty) {
-        m_lists->setCover(nullptr);
-    } else if (table->isVisible() && !table->isAwaited()) {
-        const bool isProblem = PaneText::problem(m_pane, m_services.library).has_value();
-        const bool isSearch = isSearchText(m_list.search);
-        const bool isHistory = PaneText::groupedList(*m_pane) != GroupedList::Bookmarks;
-        const QString symbol = snapshot.sources.isEmpty() ? u"gearshape"_s
-                               : isProblem                ? u"exclamationmark.triangle"_s
-                               : isSearch || m_list.site  ? u"magnifyingglass"_s
-                               : isHistory                ? u"clock"_s
-                                                          : u"bookmark"_s;
-        emptyListPage()->setReason({.symbol = symbol,
-                                    .words = table->view().emptyText(),
-                                    .hasSite = m_list.site.has_value(),
-                                    .hasSearch = isSearch,
-                                    .isProblem = isProblem});
+    } else if (isEmpty && table->isVisible() && !table->isAwaited()) {
+        emptyListPage()->setReason(whyEmpty(*table));
         m_lists->setCover(m_emptyList);
-    } else if (m_lists->cover() == m_loading) {
+    } else if (!isEmpty || m_lists->cover() == m_loading) {
         m_lists->setCover(nullptr);
     }
     // Nobody shall come with the keyboard to what is not seen.
-    if (table != nullptr)
-        table->setEnabled(m_emptyList == nullptr || m_lists->cover() != m_emptyList);
+    table->setEnabled(m_emptyList == nullptr || m_lists->cover() != m_emptyList);
+}
+
+EmptyListPage::Reason ContentView::whyEmpty(const LinkTable &table) const
+{
+    EmptyListPage::Reason reason{
+        .symbol = PaneText::groupedList(*m_pane) == GroupedList::Bookmarks ? u"bookmark"_s : u"clock"_s,
+        .words = table.whyItIsEmpty(),
+        .hasSite = m_list.site.has_value(),
+        .hasSearch = isSearchText(m_list.search),
+        .isProblem = PaneText::problem(m_pane, m_services.library).has_value()};
+    if (m_services.library.snapshot().sources.isEmpty())
+        reason.symbol = u"gearshape"_s;
+    else if (reason.isProblem)
+        reason.symbol = u"exclamationmark.triangle"_s;
+    else if (reason.hasSearch || reason.hasSite)
+        reason.symbol = u"magnifyingglass"_s;
+    return reason;
 }
 
 EmptyListPage *ContentView::emptyListPage()

@@ -5,14 +5,17 @@
 
 #include "App/Export/ExportAction.h"
 #include "App/Tables/HistoryTable.h"
+#include "App/Window/EmptyListPage.h"
 #include "App/Window/Pane.h"
 #include "App/Window/PaneText.h"
 #include "App/Window/WindowServices.h"
 #include "Lists/Grouping.h"
+#include "Platform/BackgroundTasks.h"
 
 #include <QMap>
 #include <QSplitter>
 
+#include <memory>
 #include <optional>
 
 class QPushButton;
@@ -24,7 +27,6 @@ namespace roamlet
 class BookmarkTable;
 class BookmarkTree;
 class DetailHeader;
-class EmptyListPage;
 class EmptyState;
 class FullDiskAccessBanner;
 class ListStack;
@@ -106,12 +108,15 @@ private:
     /// Brings everything in line with the state.
     void update();
     void updateTitle();
+    /// Tells of work that has gone on for so long that somebody may wonder.
+    void updateWork();
     void updateBanners();
     void updateExport();
     /// Gives the shown table its inputs, and shows it.
     void updateList();
     /// Covers a list without rows with why there are none, once that is known.
     void updateCover();
+    EmptyListPage::Reason whyEmpty(const LinkTable &table) const;
     EmptyListPage *emptyListPage();
     QWidget *shownList();
     void setGrouping(Grouping grouping);
@@ -124,6 +129,9 @@ private:
     std::optional<Pane> m_subtitlePane = m_pane;
     std::optional<Pane> m_coverPane = m_pane;
     QMap<GroupedList, Grouping> m_groupings;
+    /// Lives as long as the work goes on.
+    std::unique_ptr<QObject> m_workWait;
+    BackgroundTasks m_tasks;
 
     Sidebar *m_sidebar;
     SidebarPlace *m_sidebarPlace;
