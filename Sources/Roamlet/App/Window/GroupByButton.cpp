@@ -43,16 +43,11 @@ void GroupByButton::updateWords()
     update();
 }
 
-int GroupByButton::chevronSide() const
-{
-    return Measures(font()).units(0.7);
-}
-
 int GroupByButton::widthWhen(bool isCompact) const
 {
     const Measures measures(font());
     const int gap = measures.units(0.4);
-    const int signs = measures.iconSide + gap + chevronSide() + (2 * padding());
+    const int signs = measures.iconSide + gap + measures.chevronSide + (2 * padding());
     if (isCompact)
         return signs;
     const int words = fontMetrics().horizontalAdvance(text());
@@ -83,7 +78,7 @@ void GroupByButton::paintContent(QPainter &painter, const QRect &content)
         write(text(), quiet);
         write(m_choice, ink());
     }
-    const int side = chevronSide();
+    const int side = look.measures.chevronSide;
     const QRect place(content.right() + 1 - side, content.top() + ((content.height() - side) / 2), side,
                       side);
     drawChevron(painter, QStyle::visualRect(layoutDirection(), content, place), Qt::DownArrow, quiet);

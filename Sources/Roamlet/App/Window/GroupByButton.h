@@ -31,7 +31,6 @@ protected:
 
 private:
     void updateWords();
-    int chevronSide() const;
 
     QString m_choice;
     bool m_isCompact = false;
