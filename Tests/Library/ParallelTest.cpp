@@ -3,6 +3,8 @@
 
 #include "Library/Parallel.h"
 
+#include "Support/NoThreads.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -61,6 +63,17 @@ TEST(ParallelTest, whoOnlyWaitsKeepsNobodyFromWorking)
         ++worked;
     });
     EXPECT_EQ(worked, count);
+}
+
+TEST(ParallelTest, withoutAnyMoreThreadsTheWorkIsDoneAllTheSame)
+{
+    const NoThreads noThreads;
+    std::vector<int> calls(5);
+    forEachInParallel(calls.size(), [&](size_t index, CoreTurns &turns) {
+        const CoreTurns::Turn turn(turns);
+        ++calls[index];
+    });
+    EXPECT_EQ(calls, std::vector<int>(5, 1));
 }
 
 } // namespace

@@ -3,9 +3,11 @@
 
 #include "Platform/BackgroundTasks.h"
 
+#include "Support/NoThreads.h"
 #include "Support/Waiting.h"
 
 #include <QCoreApplication>
+#include <QList>
 #include <QThread>
 
 #include <gtest/gtest.h>
@@ -49,6 +51,23 @@ TEST(BackgroundTasksTest, aResultThatCanOnlyBeMovedArrives)
         [&delivered](std::unique_ptr<int> result) { delivered = std::move(result); });
     ASSERT_TRUE(waitUntil([&delivered] { return delivered != nullptr; }));
     EXPECT_EQ(*delivered, 5);
+}
+
+TEST(BackgroundTasksTest, withoutAnyMoreThreadsTheResultsComeAllTheSame)
+{
+    BackgroundTasks tasks;
+    QObject context;
+    QList<int> delivered;
+    const auto deliver = [&delivered](int result) { delivered.append(result); };
+    {
+        const NoThreads noThreads;
+        tasks.run(&context, [](const std::stop_token &) { return 1; }, deliver);
+        tasks.run(&context, [](const std::stop_token &) { return 2; }, deliver).request_stop();
+        EXPECT_TRUE(delivered.isEmpty()) << "whoever asks is told of nothing before it returns";
+    }
+    tasks.run(&context, [](const std::stop_token &) { return 3; }, deliver);
+    ASSERT_TRUE(waitUntil([&delivered] { return delivered.size() == 2; }));
+    EXPECT_EQ(delivered.contains(2), false);
 }
 
 TEST(BackgroundTasksTest, nothingIsDeliveredToWhoIsGoneOrHasStopped)

@@ -31,7 +31,7 @@ protected:
     /// The side on which a copy fails; absent when it does not.
     std::optional<CopyError::Side> failingSide(const QString &source, const QString &target) const
     {
-        const auto copied = files.copy(source, target, {});
+        const auto copied = files.copy(source, target, {}, {}, {});
         return copied ? std::nullopt : std::optional(copied.error().side);
     }
 };
@@ -66,6 +66,76 @@ TEST_F(FileCopyTest, aCopyToAnotherFileSystemHasTheSameBytes)
     stop.request_stop();
     EXPECT_EQ(copy(source, other.filePath(u"stopped"_s), stop.get_token()), std::errc::operation_canceled);
     EXPECT_FALSE(isThere(other.filePath(u"stopped"_s)));
+}
+
+TEST_F(FileCopyTest, aCopyIsAsSparseAsItsSource)
+{
+    const QString source = file(u"source"_s, bytes(5000));
+    constexpr qint64 far = qint64{3} << 30U;
+    QFile sparse(source);
+    ASSERT_TRUE(sparse.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(sparse.seek(far) && sparse.write("island") == 6 && sparse.resize(2 * far));
+    sparse.close();
+    const QString target = path(u"target"_s);
+    ASSERT_FALSE(copy(source, target));
+    EXPECT_EQ(attributes(target).st_size, 2 * far);
+    EXPECT_LE(attributes(target).st_blocks, attributes(source).st_blocks + 64);
+    QFile copied(target);
+    ASSERT_TRUE(copied.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(copied.read(5000) == bytes(5000));
+    ASSERT_TRUE(copied.seek(far - 1));
+    EXPECT_EQ(copied.read(8), QByteArray("\0island\0", 8));
+}
+
+TEST_F(FileCopyTest, aCopyIsMadeAgainUntilItIsGood)
+{
+    const QString source = file(u"source"_s, bytes(10'000));
+    const QString target = path(u"target"_s);
+    int looks = 0;
+    const auto isGood = [&] {
+        if (++looks < 3)
+            file(u"source"_s, bytes(10'000 / (looks + 1)));
+        return looks == 3;
+    };
+    ASSERT_TRUE(files.copy(source, target, {}, {}, isGood));
+    EXPECT_EQ(looks, 3);
+    EXPECT_TRUE(content(target) == bytes(10'000 / 3));
+}
+
+TEST_F(FileCopyTest, whatStandsBesideAFileIsCopiedAfterItWhereItCanBe)
+{
+    const QString source = file(u"source"_s, "main");
+    file(u"source-log"_s, "log");
+    ASSERT_TRUE(QDir().mkpath(path(u"source-folder"_s)));
+    const QString target = path(u"target"_s);
+    ASSERT_TRUE(files.copy(source, target, {u"-folder"_s, u"-missing"_s, u"-log"_s}, {}, {}));
+    EXPECT_EQ(content(target), "main");
+    EXPECT_EQ(content(target % u"-log"), "log");
+    EXPECT_FALSE(isThere(target % u"-missing"));
+    // What is in the way there is no fault of the source.
+    const QString other = path(u"other"_s);
+    file(u"other-log"_s, "x");
+    const auto failed = files.copy(source, other, {u"-log"_s}, {}, {});
+    ASSERT_FALSE(failed);
+    EXPECT_EQ(failed.error().side, CopyError::Side::Target);
+    EXPECT_FALSE(isThere(other));
+}
+
+TEST_F(FileCopyTest, aCopyThatNeverIsGoodIsLeftAsItIs)
+{
+    const QString source = file(u"source"_s, bytes(100));
+    const QString target = path(u"target"_s);
+    ASSERT_TRUE(files.copy(source, target, {}, {}, [] { return false; }));
+    EXPECT_TRUE(content(target) == bytes(100));
+}
+
+TEST_F(FileCopyTest, theBeginningOfAFileIsReadAsFarAsItGoes)
+{
+    const QString source = file(u"source"_s, "beginning");
+    EXPECT_EQ(files.readBeginning(source, 5), QByteArray("begin"));
+    EXPECT_EQ(files.readBeginning(source, 100), QByteArray("beginning"));
+    EXPECT_EQ(files.readBeginning(path(u"missing"_s), 5).error(), std::errc::no_such_file_or_directory);
+    EXPECT_EQ(files.readBeginning(path({}), 5).error(), std::errc::is_a_directory);
 }
 
 TEST_F(FileCopyTest, onlyTheUserCanReadACopy)

@@ -9,6 +9,7 @@
 #include <QDir>
 
 #include <fcntl.h>
+#include <sys/resource.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/un.h>
@@ -314,6 +315,23 @@ TEST_F(LinuxFilesTest, removingAFolderFollowsNoLinks)
     ASSERT_TRUE(QFile::link(path(u"outside"_s), path(u"link"_s)));
     files.removeFolder(path(u"link"_s));
     EXPECT_EQ(before.differencesTo(FolderFingerprint(path(u"outside"_s))), "");
+}
+
+TEST_F(LinuxFilesTest, filesAndEmptyFoldersAreRemovedWhereNothingMoreCanBeOpened)
+{
+    file(u"doomed/known"_s, "x");
+    file(u"other/unknown"_s, "x");
+    rlimit before{};
+    ::getrlimit(RLIMIT_NOFILE, &before);
+    const rlimit none{0, before.rlim_max};
+    ::setrlimit(RLIMIT_NOFILE, &none);
+    files.removeFile(path(u"doomed/known"_s));
+    files.removeFile(path(u"doomed/missing"_s));
+    files.removeFolder(path(u"doomed"_s));
+    files.removeFolder(path(u"other"_s));
+    ::setrlimit(RLIMIT_NOFILE, &before);
+    EXPECT_FALSE(isThere(path(u"doomed"_s)));
+    EXPECT_TRUE(isThere(path(u"other/unknown"_s)));
 }
 
 TEST_F(LinuxFilesTest, removingWhatIsNotThereDoesNothing)

@@ -42,7 +42,7 @@ protected:
 
     std::error_code copy(const QString &source, const QString &target, const std::stop_token &stop = {}) const
     {
-        const auto copied = files.copy(source, target, stop);
+        const auto copied = files.copy(source, target, {}, stop, {});
         return copied ? std::error_code{} : copied.error().code;
     }
 

@@ -19,7 +19,8 @@ public:
     std::function<std::error_code(const QString &path)> failure;
     /// Answered in the place of making a private folder.
     std::error_code privateFolderFailure;
-    /// Called after a file was copied, before anybody looks at its stamp again. Called on the reading thread.
+    /// Called after a file was copied with what stands beside it, for each of them, before anybody looks at
+    /// their stamps again. Called on the reading thread.
     std::function<void(const QString &source)> afterCopy;
 
     std::expected<QByteArray, std::error_code> read(const QString &path) const override
@@ -30,13 +31,24 @@ public:
     }
 
     std::expected<void, CopyError> copy(const QString &source, const QString &target,
-                                        const std::stop_token &stop) const override
+                                        const QStringList &suffixes, const std::stop_token &stop,
+                                        const std::function<bool()> &isGood) const override
     {
         if (const std::error_code error = failureOf(source))
             return std::unexpected(CopyError{.side = CopyError::Side::Source, .code = error});
-        const auto copied = LinuxFiles::copy(source, target, stop);
-        if (copied && afterCopy)
+        QStringList readable;
+        for (const QString &suffix : suffixes) {
+            if (!failureOf(source + suffix))
+                readable.append(suffix);
+        }
+        const auto copied = LinuxFiles::copy(source, target, readable, stop, isGood);
+        if (copied && afterCopy) {
             afterCopy(source);
+            for (const QString &suffix : readable) {
+                if (isPlainFile(target + suffix))
+                    afterCopy(source + suffix);
+            }
+        }
         return copied;
     }
 

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <system_error>
+
 #include <algorithm>
 #include <cstddef>
 #include <semaphore>
@@ -34,9 +36,9 @@ private:
         std::max<std::ptrdiff_t>(1, static_cast<std::ptrdiff_t>(std::thread::hardware_concurrency()))};
 };
 
-/// Calls work(0, turns) … work(count - 1, turns), each on a thread of its own, and returns when all have
-/// ended. Work that keeps a core busy takes a turn first; work that only waits takes none, so that it keeps
-/// nobody waiting.
+/// Calls work(0, turns) … work(count - 1, turns), each on a thread of its own as far as the system has that
+/// many, and returns when all have ended. Work that keeps a core busy takes a turn first; work that only waits
+/// takes none, so that it keeps nobody waiting.
 template<typename Work>
 void forEachInParallel(std::size_t count, Work work)
 {
@@ -47,8 +49,15 @@ void forEachInParallel(std::size_t count, Work work)
     }
     std::vector<std::jthread> threads;
     threads.reserve(count);
-    for (std::size_t i = 0; i < count; ++i)
-        threads.emplace_back([i, &work, &turns] { work(i, turns); });
+    std::size_t begun = 0;
+    try {
+        for (; begun < count; ++begun)
+            threads.emplace_back([begun, &work, &turns] { work(begun, turns); });
+    } catch (const std::system_error &) {
+        // The system has no more threads for us: this one does the rest.
+        for (; begun < count; ++begun)
+            work(begun, turns);
+    }
 }
 
 } // namespace roamlet

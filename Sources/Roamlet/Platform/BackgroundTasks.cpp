@@ -3,6 +3,8 @@
 
 #include "Platform/BackgroundTasks.h"
 
+#include <system_error>
+
 namespace roamlet
 {
 
@@ -10,7 +12,7 @@ BackgroundTasks::~BackgroundTasks()
 {
     // All at once, so that the wait is only as long as the slowest.
     for (auto &[id, task] : m_tasks)
-        task.thread.request_stop();
+        task.stop.request_stop();
 }
 
 std::stop_source BackgroundTasks::start(std::function<void(std::stop_token)> work,
@@ -19,20 +21,25 @@ std::stop_source BackgroundTasks::start(std::function<void(std::stop_token)> wor
     const std::uint64_t id = m_nextID++;
     Task &task = m_tasks[id];
     task.deliver = std::move(deliver);
-    task.thread = std::jthread([this, id, work = std::move(work)](const std::stop_token &stop) {
+    const auto perform = [this, id, work = std::move(work), stop = task.stop.get_token()] {
         work(stop);
         QMetaObject::invokeMethod(&m_receiver, [this, id] { finish(id); }, Qt::QueuedConnection);
-    });
-    return task.thread.get_stop_source();
+    };
+    try {
+        task.thread = std::jthread(perform);
+    } catch (const std::system_error &) {
+        QMetaObject::invokeMethod(&m_receiver, perform, Qt::QueuedConnection);
+    }
+    return task.stop;
 }
 
 void BackgroundTasks::finish(std::uint64_t id)
 {
     auto entry = m_tasks.extract(id);
     Task &task = entry.mapped();
-    const bool isWanted = !task.thread.get_stop_token().stop_requested();
-    task.thread.join();
-    if (isWanted)
+    if (task.thread.joinable())
+        task.thread.join();
+    if (!task.stop.stop_requested())
         task.deliver();
 }
 

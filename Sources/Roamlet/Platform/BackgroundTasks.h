@@ -29,7 +29,8 @@ public:
     ~BackgroundTasks();
 
     /// Runs work(stop token) on a thread of its own and then deliver(result) on the main thread, unless
-    /// `context` is gone by then or a stop was requested through the source that is returned.
+    /// `context` is gone by then or a stop was requested through the source that is returned. Where the
+    /// system has no more threads for us, the main thread does the work when it is back in its event loop.
     template<typename Work, typename Deliver>
     std::stop_source run(QObject *context, Work work, Deliver deliver)
     {
@@ -44,6 +45,8 @@ public:
 
 private:
     struct Task {
+        std::stop_source stop;
+        /// Joined when the task goes.
         std::jthread thread;
         std::function<void()> deliver;
     };

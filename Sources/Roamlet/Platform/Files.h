@@ -10,6 +10,7 @@
 #include <system_error>
 
 #include <expected>
+#include <functional>
 #include <stop_token>
 
 namespace roamlet
@@ -46,13 +47,23 @@ public:
     virtual QString lastingStamp(const QString &path) const = 0;
     /// The whole file.
     virtual std::expected<QByteArray, std::error_code> read(const QString &path) const = 0;
-    /// Copies the bytes of `source` into a new file that only the user can read. A copy that fails, or that
-    /// `stop` interrupts (std::errc::operation_canceled), leaves no file.
+    /// As many of its first bytes as it has, and no more than `size`.
+    virtual std::expected<QByteArray, std::error_code> readBeginning(const QString &path,
+                                                                     qsizetype size) const = 0;
+    /// Copies the bytes of `source` into a new file that only the user can read, as sparse as they are, and
+    /// then in the same way what stands beside it with one of the `suffixes`, where there is something that can
+    /// be read. A copy that fails, or that `stop` interrupts (std::errc::operation_canceled), leaves no file
+    /// of the name `target`. Whoever names `isGood` is asked when all is copied, and where it says no all is
+    /// copied again, as long as that takes no more than a second.
     virtual std::expected<void, CopyError> copy(const QString &source, const QString &target,
-                                                const std::stop_token &stop) const = 0;
+                                                const QStringList &suffixes, const std::stop_token &stop,
+                                                const std::function<bool()> &isGood) const = 0;
     /// Makes a folder that only the user can enter, and the folders above it.
     virtual std::error_code makePrivateFolder(const QString &path) const = 0;
-    /// Removes a folder with everything in it, without following links. A failure is ignored.
+    /// Removes a file, or the link that stands in its place. A failure is ignored.
+    virtual void removeFile(const QString &path) const = 0;
+    /// Removes a folder with everything in it, without following links. A failure is ignored. An empty one is
+    /// removed also where the process may not open anything more.
     virtual void removeFolder(const QString &path) const = 0;
     /// The names in a folder; none when it cannot be listed.
     virtual QStringList names(const QString &folder) const = 0;

@@ -12,12 +12,16 @@
 #include <linux/fs.h>
 #include <sys/ioctl.h>
 #include <sys/stat.h>
+#include <sys/statvfs.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <chrono>
+#include <cstdint>
 #include <ctime>
 #include <filesystem>
+#include <limits>
 #include <thread>
 #include <vector>
 
@@ -100,39 +104,107 @@ Copied interrupted()
     return failed(CopyError::Side::Source, std::make_error_code(std::errc::operation_canceled));
 }
 
-/// Copies what is left from where the two files stand. It also tells which of them is to blame.
-Copied copyThroughMemory(int source, int target, const std::stop_token &stop)
+/// Copies the bytes from one place up to another, or up to where the source ends. It also tells which of the
+/// two files is to blame.
+Copied copyThroughMemory(int source, int target, off_t begin, off_t end, const std::stop_token &stop)
 {
     std::vector<char> buffer(bytesPerRead);
-    while (!stop.stop_requested()) {
-        const ssize_t count = ::read(source, buffer.data(), buffer.size());
+    while (begin < end && !stop.stop_requested()) {
+        const auto most = std::min(buffer.size(), static_cast<size_t>(end - begin));
+        const ssize_t count = ::pread(source, buffer.data(), most, begin);
         if (count < 0 && errno == EINTR)
             continue;
         if (count < 0)
             return failed(CopyError::Side::Source, lastError());
         if (count == 0)
             return {};
+        if (::lseek(target, begin, SEEK_SET) < 0)
+            return failed(CopyError::Side::Target, lastError());
         if (const std::error_code error = writeAll(target, QByteArrayView(buffer.data(), count)))
             return failed(CopyError::Side::Target, error);
+        begin += count;
     }
-    return interrupted();
+    return stop.stop_requested() ? interrupted() : Copied();
 }
 
-Copied copyContent(int source, int target, const std::stop_token &stop)
+Copied copyBytes(int source, int target, off_t begin, off_t end, const std::stop_token &stop)
 {
-    if (ioctl(target, FICLONE, source) == 0)
-        return {};
-    while (!stop.stop_requested()) {
-        const ssize_t count = copy_file_range(source, nullptr, target, nullptr, bytesPerCopy, 0);
+    while (begin < end && !stop.stop_requested()) {
+        off_t to = begin;
+        const auto most = std::min(bytesPerCopy, static_cast<size_t>(end - begin));
+        const ssize_t count = copy_file_range(source, &begin, target, &to, most, 0);
         if (count == 0)
             return {};
         if (count < 0 && errno == EINTR)
             continue;
         // File systems refuse this for reasons of their own; a real fault shows itself there, too.
         if (count < 0)
-            return copyThroughMemory(source, target, stop);
+            return copyThroughMemory(source, target, begin, end, stop);
     }
-    return interrupted();
+    return stop.stop_requested() ? interrupted() : Copied();
+}
+
+/// Whether the target's file system has room for what the source takes up.
+std::error_code checkRoom(int source, int target)
+{
+    struct stat attributes = {};
+    struct statvfs room = {};
+    constexpr std::uint64_t bytesPerBlock = 512;
+    // Some file systems do not say what they have.
+    if (fstat(source, &attributes) != 0 || fstatvfs(target, &room) != 0 || room.f_blocks == 0 ||
+        room.f_frsize == 0)
+        return {};
+    const auto wanted = static_cast<std::uint64_t>(attributes.st_blocks) * bytesPerBlock;
+    return wanted / room.f_frsize > room.f_bavail ? std::make_error_code(std::errc::no_space_on_device)
+                                                  : std::error_code{};
+}
+
+Copied copyContent(int source, int target, const std::stop_token &stop)
+{
+    if (ioctl(target, FICLONE, source) == 0)
+        return {};
+    // Before a large file has filled what others need, too.
+    if (const std::error_code error = checkRoom(source, target))
+        return failed(CopyError::Side::Target, error);
+    off_t place = 0;
+    for (;;) {
+        const off_t begin = ::lseek(source, place, SEEK_DATA);
+        // Nothing but a hole is left, or the file system knows no holes.
+        if (begin < 0 && errno == ENXIO)
+            break;
+        const off_t end = begin < 0 ? std::numeric_limits<off_t>::max() : ::lseek(source, begin, SEEK_HOLE);
+        if (end < 0)
+            return failed(CopyError::Side::Source, lastError());
+        if (Copied copied = copyBytes(source, target, std::max<off_t>(begin, 0), end, stop); !copied)
+            return copied;
+        if (begin < 0)
+            return {};
+        place = end;
+    }
+    struct stat attributes = {};
+    if (fstat(source, &attributes) != 0)
+        return failed(CopyError::Side::Source, lastError());
+    return ::ftruncate(target, attributes.st_size) == 0 ? Copied()
+                                                        : failed(CopyError::Side::Target, lastError());
+}
+
+Copied copyFile(const QString &source, const QString &target, const std::stop_token &stop)
+{
+    const auto original = openForReading(source);
+    if (!original)
+        return failed(CopyError::Side::Source, original.error());
+    const QByteArray name = QFile::encodeName(target);
+    FileDescriptor duplicate(
+        ::open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, onlyTheUserReads));
+    if (!duplicate.isOpen())
+        return failed(CopyError::Side::Target, lastError());
+    Copied copied = copyContent(original->descriptor.get(), duplicate.get(), stop);
+    const std::error_code closeError = duplicate.close();
+    if (copied && closeError)
+        copied = failed(CopyError::Side::Target, closeError);
+    if (!copied)
+        ::unlink(name.constData());
+    return copied;
 }
 
 QString stampOf(const struct stat &attributes)
@@ -210,24 +282,45 @@ std::expected<QByteArray, std::error_code> LinuxFiles::read(const QString &path)
     }
 }
 
-std::expected<void, CopyError> LinuxFiles::copy(const QString &source, const QString &target,
-                                                const std::stop_token &stop) const
+std::expected<QByteArray, std::error_code> LinuxFiles::readBeginning(const QString &path,
+                                                                     qsizetype size) const
 {
-    const auto original = openForReading(source);
-    if (!original)
-        return failed(CopyError::Side::Source, original.error());
-    const QByteArray name = QFile::encodeName(target);
-    FileDescriptor duplicate(
-        ::open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, onlyTheUserReads));
-    if (!duplicate.isOpen())
-        return failed(CopyError::Side::Target, lastError());
-    Copied copied = copyContent(original->descriptor.get(), duplicate.get(), stop);
-    const std::error_code closeError = duplicate.close();
-    if (copied && closeError)
-        copied = failed(CopyError::Side::Target, closeError);
-    if (!copied)
-        ::unlink(name.constData());
-    return copied;
+    const auto file = openForReading(path);
+    if (!file)
+        return std::unexpected(file.error());
+    QByteArray content(size, Qt::Uninitialized);
+    const ssize_t count = ::pread(file->descriptor.get(), content.data(), static_cast<size_t>(size), 0);
+    if (count < 0)
+        return std::unexpected(lastError());
+    content.resize(count);
+    return content;
+}
+
+std::expected<void, CopyError> LinuxFiles::copy(const QString &source, const QString &target,
+                                                const QStringList &suffixes, const std::stop_token &stop,
+                                                const std::function<bool()> &isGood) const
+{
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(1);
+    for (;;) {
+        QStringList made;
+        Copied copied = copyFile(source, target, stop);
+        if (copied)
+            made.append(target);
+        for (qsizetype i = 0; copied && i < suffixes.size(); ++i) {
+            const Copied besides = copyFile(source + suffixes[i], target + suffixes[i], stop);
+            if (besides)
+                made.append(target + suffixes[i]);
+            else if (besides.error().side == CopyError::Side::Target || stop.stop_requested())
+                copied = besides;
+        }
+        const bool isOver = !copied || !isGood || isGood() || std::chrono::steady_clock::now() >= deadline;
+        if (copied && isOver)
+            return copied;
+        for (const QString &file : made)
+            removeFile(file);
+        if (isOver)
+            return copied;
+    }
 }
 
 std::error_code LinuxFiles::makePrivateFolder(const QString &path) const
@@ -240,8 +333,15 @@ std::error_code LinuxFiles::makePrivateFolder(const QString &path) const
     return ::mkdir(folder.c_str(), onlyTheUserEnters) == 0 ? std::error_code{} : lastError();
 }
 
+void LinuxFiles::removeFile(const QString &path) const
+{
+    ::unlink(QFile::encodeName(path).constData());
+}
+
 void LinuxFiles::removeFolder(const QString &path) const
 {
+    if (::rmdir(QFile::encodeName(path).constData()) == 0)
+        return;
     std::error_code ignored;
     std::filesystem::remove_all(QFile::encodeName(path).toStdString(), ignored);
 }

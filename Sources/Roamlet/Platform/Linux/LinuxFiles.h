@@ -16,9 +16,13 @@ public:
     QString fileStamp(const QString &path) const override;
     QString lastingStamp(const QString &path) const override;
     std::expected<QByteArray, std::error_code> read(const QString &path) const override;
+    std::expected<QByteArray, std::error_code> readBeginning(const QString &path,
+                                                             qsizetype size) const override;
     std::expected<void, CopyError> copy(const QString &source, const QString &target,
-                                        const std::stop_token &stop) const override;
+                                        const QStringList &suffixes, const std::stop_token &stop,
+                                        const std::function<bool()> &isGood) const override;
     std::error_code makePrivateFolder(const QString &path) const override;
+    void removeFile(const QString &path) const override;
     void removeFolder(const QString &path) const override;
     QStringList names(const QString &folder) const override;
     bool isUsersAlone(const QString &folder) const override;

@@ -6,6 +6,7 @@
 #include <signal.h>
 #include <sys/eventfd.h>
 #include <sys/signalfd.h>
+#include <system_error>
 #include <unistd.h>
 
 #include <array>
@@ -40,13 +41,23 @@ StopSignals::StopSignals()
     pthread_sigmask(SIG_BLOCK, &signals, nullptr);
     m_signals = signalfd(-1, &signals, SFD_CLOEXEC);
     m_wake = eventfd(0, EFD_CLOEXEC);
-    m_listener = std::jthread([this] { listen(); });
+    try {
+        if (m_signals >= 0 && m_wake >= 0)
+            m_listener = std::jthread([this] { listen(); });
+    } catch (const std::system_error &) {
+        // There is no thread for it.
+    }
+    // With nobody to listen, they end the process at once.
+    if (!m_listener.joinable())
+        pthread_sigmask(SIG_UNBLOCK, &signals, nullptr);
 }
 
 StopSignals::~StopSignals()
 {
-    eventfd_write(m_wake, 1);
-    m_listener.join();
+    if (m_listener.joinable()) {
+        eventfd_write(m_wake, 1);
+        m_listener.join();
+    }
     close(m_wake);
     close(m_signals);
     const sigset_t signals = stopSignals();

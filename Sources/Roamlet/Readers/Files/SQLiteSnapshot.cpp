@@ -7,6 +7,7 @@
 #include "Platform/Files.h"
 #include "Platform/Processes.h"
 #include "Readers/Files/ConfinedFiles.h"
+#include "Readers/Files/DatabaseMoment.h"
 #include "Readers/Files/LiteralLike.h"
 #include "Readers/ReadContext.h"
 
@@ -18,7 +19,10 @@
 #include <sqlite3.h>
 
 #include <array>
+#include <chrono>
+#include <functional>
 #include <stop_token>
+#include <thread>
 #include <utility>
 
 namespace roamlet
@@ -30,8 +34,11 @@ namespace
 {
 
 constexpr int attempts = 3;
+/// Before all but the first of them. Whoever writes may be done by then.
+constexpr std::array pauses{std::chrono::milliseconds(2), std::chrono::milliseconds(8)};
 /// What SQLite keeps beside a database, by what it appends to the name.
-constexpr std::array sidecars{"-wal"_L1, "-shm"_L1, "-journal"_L1};
+constexpr QLatin1StringView journal = "-journal"_L1;
+constexpr std::array sidecars{"-wal"_L1, "-shm"_L1, journal};
 const QString folderPrefix = QString::fromLatin1(ConfinedFiles::folderPrefix);
 
 struct Finalize {
@@ -137,7 +144,7 @@ public:
     }
     Copy(const Copy &) = delete;
     Copy &operator=(const Copy &) = delete;
-    ~Copy() { m_files.removeFolder(m_folder); }
+    ~Copy() { remove(); }
 
     QString source() const { return m_source; }
     QString folder() const { return m_folder; }
@@ -146,28 +153,67 @@ public:
     std::expected<void, ReadError> make(const std::stop_token &stop)
     {
         for (int attempt = 1; attempt <= attempts; ++attempt) {
-            m_files.removeFolder(m_folder);
+            if (attempt > 1)
+                std::this_thread::sleep_for(pauses.at(static_cast<std::size_t>(attempt - 2)));
+            remove();
             if (const std::error_code error = m_files.makePrivateFolder(m_folder))
                 return std::unexpected(noRoom(error));
             const QString before = stamp(m_files, m_source);
-            if (const auto copied = m_files.copy(m_source, path(), stop); !copied)
+            const DatabaseMoment moment = DatabaseMoment::before(m_files, m_source);
+            if (const auto copied = attempt < attempts ? copyAll(stop, {}) : copyWhatNeverRests(stop);
+                !copied)
                 return std::unexpected(errorOf(copied.error()));
-            for (const QLatin1StringView suffix : sidecars) {
-                const auto copied = m_files.copy(m_source + suffix, path() + suffix, stop);
-                // Most often there is none. A copy without its logs is worse than none.
-                if (!copied && copied.error().side == CopyError::Side::Target)
-                    return std::unexpected(errorOf(copied.error()));
-            }
             if (stop.stop_requested())
                 return std::unexpected(
                     ReadError::wrap(std::make_error_code(std::errc::operation_canceled), m_source));
-            if (stamp(m_files, m_source) == before)
+            // Of a file that is written to without rest, equal stamps alone say too little.
+            if (DatabaseMoment::after(m_files, m_source) == moment && stamp(m_files, m_source) == before)
                 break;
         }
         return {};
     }
 
 private:
+    using Copied = std::expected<void, CopyError>;
+
+    /// By name, which takes no descriptor: there may be no more.
+    void remove() const
+    {
+        m_files.removeFile(path());
+        for (const QLatin1StringView suffix : sidecars)
+            m_files.removeFile(path() + suffix);
+        m_files.removeFolder(m_folder);
+    }
+
+    Copied copyAll(const std::stop_token &stop, const std::function<bool()> &isGood) const
+    {
+        QStringList suffixes;
+        for (const QLatin1StringView suffix : sidecars)
+            suffixes.append(suffix);
+        return m_files.copy(m_source, path(), suffixes, stop, isGood);
+    }
+
+    /// For the last copy, which is used whatever it is: while somebody writes without rest, the files are
+    /// copied between two commits.
+    Copied copyWhatNeverRests(const std::stop_token &stop) const
+    {
+        DatabaseMoment before = DatabaseMoment::before(m_files, m_source);
+        DatabaseMoment after;
+        bool isWhole = false;
+        const auto isGood = [&] {
+            after = DatabaseMoment::after(m_files, m_source);
+            isWhole = after == before || (!before.isWithinChange() && after.hasContentOf(before));
+            if (!isWhole)
+                before = DatabaseMoment::before(m_files, m_source);
+            return isWhole;
+        };
+        Copied copied = copyAll(stop, isGood);
+        // The journal of a change that has ended since would bring back what was before it.
+        if (isWhole && !after.isWithinChange())
+            m_files.removeFile(path() + journal);
+        return copied;
+    }
+
     ReadError errorOf(const CopyError &error) const
     {
         return error.side == CopyError::Side::Target ? noRoom(error.code)

@@ -1,0 +1,103 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "Readers/Files/DatabaseMoment.h"
+#include "Readers/Files/SQLiteSnapshotTest.h"
+
+#include <sqlite3.h>
+
+#include <chrono>
+#include <latch>
+#include <stop_token>
+#include <thread>
+
+namespace roamlet::testing
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+void execute(sqlite3 *database, const QByteArray &sql)
+{
+    EXPECT_EQ(sqlite3_exec(database, sql.constData(), nullptr, nullptr, nullptr), SQLITE_OK)
+        << sql.toStdString() << ": " << sqlite3_errmsg(database);
+}
+
+} // namespace
+
+/// A database whose rows all have the same number at every moment, and a writer that raises it without a
+/// rest.
+class RestlessDatabaseTest : public SQLiteSnapshotTest, public ::testing::WithParamInterface<const char *>
+{
+protected:
+    sqlite3 *open() const
+    {
+        sqlite3 *database = nullptr;
+        EXPECT_EQ(sqlite3_open(QFile::encodeName(source).constData(), &database), SQLITE_OK);
+        execute(database, QByteArray("PRAGMA synchronous = OFF; PRAGMA journal_mode = ") + GetParam());
+        return database;
+    }
+};
+
+TEST_P(RestlessDatabaseTest, everyCopyIsOfOneMoment)
+{
+    sample::makeFolderOf(source);
+    change([this] {
+        sqlite3 *database = open();
+        execute(database, "CREATE TABLE t(n, padding);"
+                          "WITH RECURSIVE c(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM c WHERE i < 60) "
+                          "INSERT INTO t SELECT 0, zeroblob(3000) FROM c");
+        std::latch hasBegun(1);
+        std::jthread writer([&](const std::stop_token &stop) {
+            execute(database, "UPDATE t SET n = n + 1");
+            hasBegun.count_down();
+            while (!stop.stop_requested()) {
+                execute(database, "UPDATE t SET n = n + 1");
+                // No browser commits a thousand times a second.
+                std::this_thread::sleep_for(std::chrono::milliseconds(1));
+            }
+        });
+        hasBegun.wait();
+        for (int round = 0; round < 100; ++round) {
+            EXPECT_EQ(read(u"SELECT count(*) || ' ' || (min(n) = max(n)) FROM t"_s), QStringList{u"60 1"_s})
+                << round;
+        }
+        writer.request_stop();
+        writer.join();
+        sqlite3_close(database);
+    });
+    EXPECT_GT(copies, 110) << "hardly any copy was made again";
+}
+
+TEST_P(RestlessDatabaseTest, whatACommitChangesTellsTwoMomentsApart)
+{
+    sample::makeFolderOf(source);
+    change([this] {
+        sqlite3 *database = open();
+        execute(database, "CREATE TABLE t(v); INSERT INTO t VALUES(1)");
+        const DatabaseMoment first = DatabaseMoment::before(home.files, source);
+        EXPECT_EQ(first, DatabaseMoment::after(home.files, source));
+        EXPECT_FALSE(first.isWithinChange());
+        const bool hasLog = GetParam() == QByteArrayView("WAL");
+        // A log holds a change by itself; it is another one once it was begun anew.
+        execute(database, "UPDATE t SET v = 2");
+        if (hasLog)
+            execute(database, "PRAGMA wal_checkpoint(RESTART); UPDATE t SET v = 3");
+        EXPECT_NE(first, DatabaseMoment::after(home.files, source));
+        // What a change does not fit into memory for is in the file before it ends.
+        execute(database, "PRAGMA cache_size = 1; BEGIN; UPDATE t SET v = zeroblob(100000);"
+                          "INSERT INTO t SELECT zeroblob(100000) FROM t; INSERT INTO t SELECT v FROM t");
+        EXPECT_EQ(DatabaseMoment::before(home.files, source).isWithinChange(), !hasLog);
+        execute(database, "ROLLBACK");
+        EXPECT_FALSE(DatabaseMoment::before(home.files, source).isWithinChange());
+        sqlite3_close(database);
+    });
+}
+
+INSTANTIATE_TEST_SUITE_P(Journals, RestlessDatabaseTest,
+                         ::testing::Values("DELETE", "TRUNCATE", "PERSIST", "WAL"),
+                         [](const auto &test) { return std::string(test.param); });
+
+} // namespace roamlet::testing
