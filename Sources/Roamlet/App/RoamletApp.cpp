@@ -31,7 +31,7 @@
 #include <QClipboard>
 #include <QDBusConnection>
 #include <QFile>
-#include <QFontDatabase>
+#include <QFont>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QPixmapCache>
@@ -79,9 +79,7 @@ void quit()
 void forgetPicturesAndFonts()
 {
     QPixmapCache::clear();
-    // Its fonts Qt forgets only when one of the program's own goes; what is no font is enough.
-    QFontDatabase::addApplicationFontFromData("no font");
-    QFontDatabase::removeAllApplicationFonts();
+    QFont::cleanup();
 }
 
 bool hasVisibleWindow()
