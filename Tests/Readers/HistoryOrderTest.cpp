@@ -5,7 +5,11 @@
 #include "Readers/HistoryRows.h"
 #include "SampleHome/SampleText.h"
 
+#include <array>
+#include <atomic>
 #include <optional>
+#include <stop_token>
+#include <thread>
 
 namespace roamlet::testing
 {
@@ -45,8 +49,8 @@ protected:
             "CREATE TABLE urls(id INTEGER PRIMARY KEY, url, title, last_visit_time, visit_count); "
             "CREATE TABLE bulk(v)");
         sample::Statement insert = database.prepare("INSERT INTO urls VALUES(?, ?, ?, ?, ?)");
-        // Numbers of rows may be below zero.
-        qint64 id = -rows;
+        // Numbers of rows may be below zero; then they are read as one part.
+        qint64 id = size == Size::Small ? -rows : 0;
         for (qint64 i = 0; i < rows; ++i) {
             id += 1 + random.below(3);
             const sample::Text url = sample::Text(u"https://a.test/%1"_s.arg(i));
@@ -157,6 +161,119 @@ TEST_F(HistoryOrderTest, aTableWhoseRowsHaveNoNumbersIsReadByTheDatabase)
             sample::Database(source).execute(tables);
         });
         expectTheOrderOfTheDatabase(random);
+    }
+}
+
+/// The text of a history that is read in halves.
+class HistoryHalvesTest : public SQLiteSnapshotTest
+{
+protected:
+    static constexpr qint64 rowCount = 20'000;
+
+    void SetUp() override
+    {
+        SQLiteSnapshotTest::SetUp();
+        if (std::thread::hardware_concurrency() < 2)
+            GTEST_SKIP() << "one core reads one part";
+    }
+
+    /// As many rows with whole times, of which `changes` makes others.
+    void write(const char *changes = "")
+    {
+        change([&] {
+            sample::makeFolderOf(source);
+            QFile::remove(source);
+            sample::Database database(source);
+            database.execute(
+                "PRAGMA synchronous = OFF; PRAGMA journal_mode = MEMORY; "
+                "CREATE TABLE urls(id INTEGER PRIMARY KEY, url, title, last_visit_time, visit_count); "
+                "CREATE TABLE bulk(v); INSERT INTO bulk VALUES(zeroblob(17000000))");
+            database.execute((u"WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < %1) "
+                              "INSERT INTO urls SELECT i, 'https://a.test/' || i, 'a', i, 1 FROM n"_s)
+                                 .arg(rowCount)
+                                 .toUtf8()
+                                 .constData());
+            database.execute(changes);
+        });
+    }
+
+    std::expected<std::shared_ptr<const HistoryText>, ReadError> text(LastVisit lastVisit,
+                                                                      std::stop_source stop = {})
+    {
+        ReadContext stoppable = context();
+        stoppable.stop = stop.get_token();
+        const auto copy = SQLiteSnapshot::copying(source, stoppable);
+        if (!copy)
+            return std::unexpected(copy.error());
+        if (isStoppedAfterTheCopy)
+            stop.request_stop();
+        return historyText(
+            *copy,
+            {.rows = u"SELECT id, url, title, last_visit_time, visit_count FROM urls WHERE 1"_s,
+             .order = {},
+             .table = u"urls"_s},
+            chrome(), {.lastVisit = lastVisit}, 1'000'000'000, stoppable.stop);
+    }
+
+    bool isStoppedAfterTheCopy = false;
+};
+
+TEST_F(HistoryHalvesTest, timesOfOneKindAreOneText)
+{
+    for (const char *changes : {"", "UPDATE urls SET last_visit_time = last_visit_time + 0.5"}) {
+        write(changes);
+        const auto text = this->text(visitAt);
+        ASSERT_TRUE(text) << text.error();
+        ASSERT_NE(*text, nullptr) << changes;
+        EXPECT_EQ((*text)->rowCount(), rowCount);
+    }
+}
+
+TEST_F(HistoryHalvesTest, halvesWithDifferentKindsOfTimeAreNoText)
+{
+    for (const char *changes : {"UPDATE urls SET last_visit_time = last_visit_time + 0.5 WHERE id <= 10000",
+                                "UPDATE urls SET last_visit_time = last_visit_time + 0.5 WHERE id > 10000"}) {
+        write(changes);
+        const auto text = this->text(visitAt);
+        ASSERT_TRUE(text) << text.error();
+        EXPECT_EQ(*text, nullptr) << changes;
+    }
+}
+
+TEST_F(HistoryHalvesTest, aReadThatIsStoppedWhileBothAreMeasuredEndsThere)
+{
+    write();
+    static std::atomic<int> rowsPut;
+    rowsPut = 0;
+    isStoppedAfterTheCopy = true;
+    const auto text = this->text([](const SQLiteSnapshot::Row &row, int column) {
+        ++rowsPut;
+        return visitAt(row, column);
+    });
+    EXPECT_FALSE(text);
+    EXPECT_EQ(rowsPut, 0) << "they are put into their places after that";
+}
+
+TEST_F(HistoryHalvesTest, aReadThatIsStoppedByOneHalfEndsForBoth)
+{
+    write();
+    static std::stop_source stop;
+    static std::atomic<int> rowsPut;
+    for (const bool isOfFirst : {true, false}) {
+        stop = std::stop_source();
+        rowsPut = 0;
+        static std::int64_t stopsAt;
+        stopsAt = isOfFirst ? 100 : (rowCount / 2) + 100;
+        const auto text = this->text(
+            [](const SQLiteSnapshot::Row &row, int column) {
+                ++rowsPut;
+                if (row.integer(column) == stopsAt)
+                    stop.request_stop();
+                return visitAt(row, column);
+            },
+            stop);
+        EXPECT_FALSE(text);
+        EXPECT_LT(rowsPut, rowCount);
     }
 }
 
