@@ -324,6 +324,50 @@ TEST_F(ListLoaderTest, anOutdatedListIsMadeAgainOfTheSameRows)
     EXPECT_THAT(listsOf(wish()), IsEmpty());
 }
 
+TEST_F(ListLoaderTest, whatWasTypedIsFoundOnceWhenMidnightPasses)
+{
+    EXPECT_THAT(listsOf(wish(u"a"_s), 250ms), ElementsAre("a1 a2 b1 e1"));
+    recordReads();
+    // Its rows are known, so nobody waits, and nobody is asked.
+    loader->outdate();
+    EXPECT_THAT(listsOf(wish(u"a"_s)), ElementsAre("same: a1 a2 b1 e1"));
+    EXPECT_TRUE(takeReads().isEmpty());
+
+    // What was typed a moment ago waits anew, and is looked for once.
+    lists.clear();
+    loader->load(wish(u"a1"_s));
+    home.clock.advance(200ms);
+    loader->outdate();
+    EXPECT_EQ(loader->progress(), Progress::Done);
+    loader->load(wish(u"a1"_s));
+    EXPECT_EQ(loader->progress(), Progress::Waiting);
+    home.clock.advance(200ms);
+    EXPECT_EQ(loader->progress(), Progress::Waiting);
+    EXPECT_THAT(lists, IsEmpty());
+    home.clock.advance(50ms);
+    finish();
+    EXPECT_THAT(lists, ElementsAre("a1"));
+}
+
+TEST_F(ListLoaderTest, whatIsBeingLookedForComesOnceWhenMidnightPasses)
+{
+    loader->load(wish(u"a1"_s));
+    home.clock.advance(250ms);
+    EXPECT_EQ(loader->progress(), Progress::Working);
+    loader->outdate();
+    EXPECT_THAT(listsOf(wish(u"a1"_s), 250ms), ElementsAre("a1"));
+}
+
+TEST_F(ListLoaderTest, aTypedWordIsInYesterdaysSectionOnceMidnightHasPassed)
+{
+    ListWish typed = wish(u"a1"_s);
+    typed.grouping = Grouping::Day;
+    EXPECT_THAT(listsOf(typed, 250ms), ElementsAre("Today a1"));
+    home.clock.advance(24h);
+    loader->outdate();
+    EXPECT_THAT(listsOf(typed), ElementsAre("same: Yesterday a1"));
+}
+
 TEST_F(ListLoaderTest, aWishMayComeWhileAListIsShown)
 {
     bool isAsked = false;
