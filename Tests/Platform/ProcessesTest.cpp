@@ -109,6 +109,42 @@ TEST(Processes, whatThreadsHaveFreedIsGivenBackOnceTheyHaveEnded)
     EXPECT_LT(memoryInUse(), before - 25'000);
 }
 
+TEST(Processes, withLimitedHeapsTheMemoryOfAnyNumberOfThreadsIsGivenBack)
+{
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+    GTEST_SKIP() << "a sanitizer keeps what was freed";
+#endif
+    // How many heaps there are counts for the whole process, and nothing takes one away.
+    const pid_t child = ::fork();
+    if (child == 0) {
+        Processes::limitHeaps();
+        // From here on a thread's heap keeps some MB that are free.
+        Processes::giveBackMemory();
+        const long before = memoryInUse();
+        constexpr std::size_t piece = 512;
+        constexpr int count = 24;
+        {
+            std::latch allAreThere(count);
+            std::vector<std::jthread> threads;
+            for (int i = 0; i < count; ++i) {
+                threads.emplace_back([&allAreThere] {
+                    std::vector<std::unique_ptr<std::array<char, piece>>> pieces(10'000);
+                    for (auto &each : pieces)
+                        each = std::make_unique<std::array<char, piece>>();
+                    allAreThere.arrive_and_wait();
+                });
+            }
+        }
+        Processes::giveBackMemory();
+        // Each had 5 MB.
+        _exit(memoryInUse() < before + 10'000 ? 0 : 1);
+    }
+    ASSERT_GT(child, 0);
+    int status = -1;
+    ASSERT_EQ(::waitpid(child, &status, 0), child);
+    EXPECT_EQ(status, 0);
+}
+
 TEST(Processes, noProcessHasANumberBeyondTheSystemsLimit)
 {
     EXPECT_FALSE(Processes::exists(std::numeric_limits<std::int32_t>::max()));
