@@ -135,8 +135,6 @@ private:
     bool m_canBeText = true;
 };
 
-static_assert(HistoryText::Builder::partCount == TableParts::most);
-
 /// What a row is put in order by.
 struct FoundRow {
     qint64 visitCount = 0;
@@ -242,14 +240,13 @@ private:
 
 /// Puts the rows in order without the database, or says nothing where it has to answer.
 std::expected<std::optional<QList<HistoryItem>>, ReadError>
-rowsOfTable(const SQLiteSnapshot &database, const HistoryStatement &statement, const HistoryQuery &query,
+rowsOfTable(const TableParts &table, const HistoryStatement &statement, const HistoryQuery &query,
             const Source &source, LastVisit lastVisit)
 {
     std::array<FirstRows, TableParts::most> parts{FirstRows(query, source, lastVisit),
                                                   FirstRows(query, source, lastVisit)};
-    const auto run = TableParts::forEach(
-        database, statement.table,
-        [&](std::size_t part, const SQLiteSnapshot &reader, const QString &condition) {
+    const auto run =
+        table.forEach([&](std::size_t part, const SQLiteSnapshot &reader, const QString &condition) {
             return reader.query(statement.rows % condition % u"\nORDER BY _rowid_ DESC", query.patterns(),
                                 [&rows = parts[part]](const SQLiteSnapshot::Row &row) { rows.read(row); });
         });
@@ -267,8 +264,8 @@ std::expected<QList<HistoryItem>, ReadError> historyRows(const SQLiteSnapshot &d
                                                          const HistoryQuery &query, const Source &source,
                                                          LastVisit lastVisit)
 {
-    if (!statement.table.isEmpty() && TableParts::hasRowNumbers(database, statement.table)) {
-        auto rows = rowsOfTable(database, statement, query, source, lastVisit);
+    if (const TableParts table(database, statement.table); table.hasRowNumbers()) {
+        auto rows = rowsOfTable(table, statement, query, source, lastVisit);
         if (!rows)
             return std::unexpected(rows.error());
         if (*rows)
@@ -297,9 +294,9 @@ historyText(const SQLiteSnapshot &database, const HistoryStatement &statement, c
         HistoryText::Builder builder(source, rules.ties, rules.pages, mostBytes);
         std::array<TextReader, TableParts::most> readers{TextReader(rules, builder.part(0)),
                                                          TextReader(rules, builder.part(1))};
+        const TableParts table(database, statement.table);
         const auto read = [&](auto step) {
-            return TableParts::forEach(
-                database, statement.table,
+            return table.forEach(
                 [&](std::size_t part, const SQLiteSnapshot &reader, const QString &condition) {
                     return (readers[part].*step)(reader, statement.rows % condition % statement.order);
                 });

@@ -166,7 +166,7 @@ void HistoryText::Builder::arrange()
     if (m_pages == Pages::SeveralRows)
         made.m_areOfSharedPage.resize(rows);
 
-    std::array<size_t, partCount> taken{};
+    std::array<size_t, TableParts::most> taken{};
     std::uint32_t start = 0;
     const auto &[first, second] = m_parts;
     for (RowNumber row = 0; row < rows; ++row) {

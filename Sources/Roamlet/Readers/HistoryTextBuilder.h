@@ -4,6 +4,7 @@
 #pragma once
 
 #include "Platform/LargeMemory.h"
+#include "Readers/Files/TableParts.h"
 #include "Readers/HistoryText.h"
 
 #include <array>
@@ -84,8 +85,6 @@ public:
         std::unordered_map<std::string, std::size_t> m_titles;
     };
 
-    static constexpr std::size_t partCount = 2;
-
     Builder(Source source, Ties ties, Pages pages, std::size_t mostBytes);
 
     /// The rows of the first part come before those of the second.
@@ -100,7 +99,7 @@ private:
     Ties m_ties;
     Pages m_pages;
     std::size_t m_mostBytes;
-    std::array<Part, partCount> m_parts;
+    std::array<Part, TableParts::most> m_parts;
 };
 
 } // namespace roamlet

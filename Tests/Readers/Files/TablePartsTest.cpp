@@ -34,13 +34,14 @@ protected:
         if (!snapshot)
             return std::unexpected(snapshot.error());
         std::array<QStringList, TableParts::most> values;
-        const auto run = TableParts::forEach(
-            *snapshot, table, [&](std::size_t part, const SQLiteSnapshot &reader, const QString &condition) {
-                return reader.query(u"SELECT v FROM "_s % table % u" WHERE 1"_s % condition, {},
-                                    [&values, part](const SQLiteSnapshot::Row &row) {
-                                        values[part].append(row.text(0).value_or(u"NULL"_s));
-                                    });
-            });
+        const auto run =
+            TableParts(*snapshot, table)
+                .forEach([&](std::size_t part, const SQLiteSnapshot &reader, const QString &condition) {
+                    return reader.query(u"SELECT v FROM "_s % table % u" WHERE 1"_s % condition, {},
+                                        [&values, part](const SQLiteSnapshot::Row &row) {
+                                            values[part].append(row.text(0).value_or(u"NULL"_s));
+                                        });
+                });
         if (!run)
             return std::unexpected(run.error());
         return values;
@@ -125,14 +126,14 @@ TEST_F(TablePartsTest, anErrorOfAnyPartIsTheErrorOfAll)
     for (const std::size_t failing : {0, 1}) {
         const auto error = ReadError::unreadable(u"part"_s, QString::number(failing));
         std::atomic<std::size_t> calls = 0;
-        const auto run = TableParts::forEach(
-            *snapshot, u"t"_s,
-            [&](std::size_t part, const SQLiteSnapshot &, const QString &) -> std::expected<void, ReadError> {
-                ++calls;
-                if (part == failing)
-                    return std::unexpected(error);
-                return {};
-            });
+        const auto run = TableParts(*snapshot, u"t"_s)
+                             .forEach([&](std::size_t part, const SQLiteSnapshot &,
+                                          const QString &) -> std::expected<void, ReadError> {
+                                 ++calls;
+                                 if (part == failing)
+                                     return std::unexpected(error);
+                                 return {};
+                             });
         if (calls == 2 || failing == 0) {
             EXPECT_EQ(run, std::unexpected(error));
         }

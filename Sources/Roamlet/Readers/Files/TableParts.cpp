@@ -3,15 +3,14 @@
 
 #include "Readers/Files/TableParts.h"
 
-#include "Readers/Files/SQLiteSnapshot.h"
-
 #include <system_error>
 
 #include <cstdint>
 #include <optional>
 #include <thread>
+#include <utility>
 
-namespace roamlet::TableParts
+namespace roamlet
 {
 
 using namespace Qt::StringLiterals;
@@ -25,8 +24,7 @@ constexpr std::int64_t largeDatabase = std::int64_t{16} << 20;
 /// The last row's number of the first part, or nothing where there shall be one part.
 std::optional<std::int64_t> middle(const SQLiteSnapshot &database, const QString &table)
 {
-    if (table.isEmpty() || std::thread::hardware_concurrency() < most || database.size() < largeDatabase ||
-        !hasRowNumbers(database, table))
+    if (std::thread::hardware_concurrency() < TableParts::most || database.size() < largeDatabase)
         return {};
     std::optional<std::int64_t> result;
     const auto ends = database.query(
@@ -42,10 +40,10 @@ std::optional<std::int64_t> middle(const SQLiteSnapshot &database, const QString
     return ends ? result : std::nullopt;
 }
 
-} // namespace
-
-bool hasRowNumbers(const SQLiteSnapshot &database, const QString &table)
+bool rowsHaveNumbers(const SQLiteSnapshot &database, const QString &table)
 {
+    if (table.isEmpty())
+        return false;
     // A column of this name would be read instead.
     bool hasColumn = false;
     const auto columns =
@@ -54,28 +52,36 @@ bool hasRowNumbers(const SQLiteSnapshot &database, const QString &table)
     return columns && !hasColumn && database.query(u"SELECT _rowid_ FROM "_s % table % u" LIMIT 0", {}, {});
 }
 
-std::expected<void, ReadError> forEach(const SQLiteSnapshot &database, const QString &table, const Read &read)
+} // namespace
+
+TableParts::TableParts(const SQLiteSnapshot &database, const QString &table)
+    : m_database(database), m_hasRowNumbers(rowsHaveNumbers(database, table))
 {
-    const std::optional<std::int64_t> last = middle(database, table);
+    const std::optional<std::int64_t> last = m_hasRowNumbers ? middle(database, table) : std::nullopt;
     if (!last)
-        return read(0, database, {});
-    const auto second = database.secondReader();
-    if (!second)
-        return read(0, database, {});
-    const QString number = QString::number(*last);
+        return;
+    m_middle = QString::number(*last);
+    if (auto second = database.secondReader())
+        m_second = std::move(*second);
+}
+
+std::expected<void, ReadError> TableParts::forEach(const Read &read) const
+{
+    if (!m_second)
+        return read(0, m_database, {});
     std::expected<void, ReadError> ofSecond;
     std::jthread thread;
-    const auto readSecond = [&] { ofSecond = read(1, *second, u" AND _rowid_ > " % number); };
+    const auto readSecond = [&] { ofSecond = read(1, *m_second, u" AND _rowid_ > " % m_middle); };
     try {
         thread = std::jthread(readSecond);
     } catch (const std::system_error &) {
         // There are too many threads already.
         readSecond();
     }
-    const std::expected<void, ReadError> ofFirst = read(0, database, u" AND _rowid_ <= " % number);
+    const std::expected<void, ReadError> ofFirst = read(0, m_database, u" AND _rowid_ <= " % m_middle);
     if (thread.joinable())
         thread.join();
     return ofFirst ? ofSecond : ofFirst;
 }
 
-} // namespace roamlet::TableParts
+} // namespace roamlet
