@@ -1,177 +1,359 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Photographs every window, menu and dialog on a sample home, light and dark, in several sizes, directions and scales,
-# on X11 and on Wayland, into the folder that is named (build/pictures when left out).
+# Photographs every window, menu and sheet on a sample home, light and dark, in several sizes, directions and scales, on
+# X11 and on Wayland, into the folder that is named (build/pictures when left out). What could not be photographed is
+# listed at the end, and then the script fails.
 set -euo pipefail
+target=$(realpath -m "${1:-$(dirname "$0")/../build/pictures}")
 cd "$(dirname "$0")/.."
-target=$(realpath -m "${1:-build/pictures}")
 
 Scripts/install-dependencies.sh build samples fonts pictures
 cmake --preset release >/dev/null
 cmake --build --preset release --target roamlet roamlet-sample-home
-work=$(mktemp -d)
-mkdir -p "$target" "$work/run" "$work/empty"
-chmod 700 "$work/run"
-export XDG_RUNTIME_DIR=$work/run LANG=C.UTF-8 LC_ALL=C.UTF-8
-build/release/roamlet-sample-home --layout linux --safari -1 --profiles firefox=1 --chrome 2 --edge 1 --rows 400 \
-  --newest "$(date -u +%Y-%m-%dT%H:%M:%SZ)" "$work/home" >/dev/null
+program=$PWD/build/release/roamlet
+sample_home=$PWD/build/release/roamlet-sample-home
 
-processes=()
+work=$(mktemp -d)
+mkdir -p "$target" "$work/run" "$work/desktop"
+chmod 700 "$work/run"
+problems=()
+# The program that is photographed, and everything that it needs.
+shown=
+started=()
+
+report() {
+  problems+=("$1")
+  echo "$1" >&2
+}
+
+# seconds, what is waited for, command that tells whether it is there
+wait_for() {
+  local limit=$((SECONDS + $1)) what=$2
+  shift 2
+  until "$@" >/dev/null 2>&1; do
+    if [ $SECONDS -ge $limit ]; then
+      report "${picture:+$picture: }waited in vain for $what"
+      return 1
+    fi
+    sleep 0.1
+  done
+}
+
+has_ended() { ! kill -0 "$1"; }
+
+# process, what it is
+end_process() {
+  kill -TERM "$1" 2>/dev/null || true
+  wait_for 10 "the end of $2" has_ended "$1" || kill -KILL "$1" 2>/dev/null || true
+  wait "$1" 2>/dev/null || true
+}
+
 clean_up() {
-  kill "${processes[@]}" 2>/dev/null || true
-  wait 2>/dev/null || true
+  picture=
+  [ -z "$shown" ] || end_process "$shown" "the program"
+  # What was started last needs what was started first.
+  for ((i = ${#started[@]} - 1; i >= 0; --i)); do end_process "${started[i]}" "a process of the desktop"; done
   rm -rf "$work"
 }
 trap clean_up EXIT
+trap 'exit 130' INT TERM
 
-# number of the display, size
+# command of the desktop, which has settings and folders of its own
+start() {
+  env HOME="$work/desktop" "$@" >/dev/null 2>&1 &
+  started+=($!)
+}
+
+# Nothing of the session that this script is called in.
+for name in "${!XDG_@}" "${!GTK_@}" "${!QT_@}" "${!WAYLAND_@}" "${!LC_@}" SWAYSOCK DISPLAY LANGUAGE; do unset "$name"; done
+export XDG_RUNTIME_DIR=$work/run LANG=C.UTF-8
+
+# Starts no services: they would outlive the pictures.
+cat >"$work/bus.conf" <<END
+<busconfig><type>session</type><listen>unix:path=$work/run/bus</listen>
+<policy context="default"><allow send_destination="*" eavesdrop="true"/><allow eavesdrop="true"/><allow own="*"/></policy>
+</busconfig>
+END
+start dbus-daemon --nofork --config-file="$work/bus.conf"
+export DBUS_SESSION_BUS_ADDRESS=unix:path=$work/run/bus
+wait_for 10 "the session bus" test -S "$work/run/bus"
+
+# size; on a display whose number is free
 begin_screen() {
-  export DISPLAY=:$1
-  Xvfb "$DISPLAY" -screen 0 "$2x24" >/dev/null 2>&1 &
-  processes+=($!)
-  until xdotool getdisplaygeometry >/dev/null 2>&1; do sleep 0.1; done
-  openbox >/dev/null 2>&1 &
-  processes+=($!)
-  trayer --edge top --align right --widthtype request --height 24 >/dev/null 2>&1 &
-  processes+=($!)
+  rm -f "$work/display"
+  Xvfb -displayfd 3 -screen 0 "$1x24" 3>"$work/display" >/dev/null 2>&1 &
+  started+=($!)
+  wait_for 20 "an X server" grep -q . "$work/display"
+  DISPLAY=:$(cat "$work/display")
+  export DISPLAY
+  start openbox
+  wait_for 20 "the window manager" xdotool get_desktop
+  start trayer --edge top --align right --widthtype request --height 24
+  wait_for 20 "the panel" xdotool search --onlyvisible --class trayer
 }
 
-# Waits until the screen has stopped changing.
-settle() {
-  local before='' now
-  for _ in $(seq 60); do
-    now=$(import -window root -depth 8 rgb:- | md5sum)
-    [ "$now" != "$before" ] || return 0
-    before=$now
-    sleep 0.4
-  done
-}
-screen() { settle && import -window root "$target/$theme-$1.png"; }
-# name of the picture, beginning of the window's title
-window() {
-  until xdotool search --onlyvisible --name "^$2" >/dev/null 2>&1; do sleep 0.2; done
-  settle && import -window "$(xdotool search --onlyvisible --name "^$2" | tail -n 1)" "$target/$theme-$1.png"
-}
-# width and height of the main window
-resize_to() { xdotool search --onlyvisible --name '^Recent History' windowsize --sync "$1" "$2"; }
-
-# GTK theme, home folder, further settings; leaves the process in $desktop
-begin_desktop() {
-  local gtk_theme=$1 home=$2
-  shift 2
-  local arguments=()
-  while [ $# -gt 0 ] && [[ $1 == -* ]]; do
-    arguments+=("$1")
-    shift
+# home folder, then settings of the environment and of the program, such as QT_SCALE_FACTOR=2 -reverse; grouping=site
+# and font="Sans 24" are the user's own settings
+begin() {
+  local home=$1 grouping=day font=
+  local environment=() arguments=()
+  shift
+  for word in "$@"; do
+    case $word in
+      grouping=*) grouping=${word#*=} ;;
+      font=*) font=${word#*=} ;;
+      -*) arguments+=("$word") ;;
+      *) environment+=("$word") ;;
+    esac
   done
   rm -rf "$home/.config/Roamlet"
-  mkdir -p "$home/.config/Roamlet"
-  printf '[General]\ngrouping.history=day\n' >"$home/.config/Roamlet/Roamlet.conf"
-  env HOME="$home" XDG_CONFIG_HOME="$home/.config" QT_QPA_PLATFORMTHEME=gtk3 GTK_THEME="$gtk_theme" "$@" \
-    dbus-run-session -- build/release/roamlet "${arguments[@]}" >/dev/null 2>&1 &
-  desktop=$!
+  mkdir -p "$home/.config/Roamlet" "$home/.config/gtk-3.0"
+  printf '[General]\ngrouping.history=%s\n' "$grouping" >"$home/.config/Roamlet/Roamlet.conf"
+  # A caret that blinks never stands still.
+  printf '[Settings]\ngtk-cursor-blink-time=1000000\n%s\n' "${font:+gtk-font-name=$font}" >"$home/.config/gtk-3.0/settings.ini"
+  env HOME="$home" QT_QPA_PLATFORMTHEME=gtk3 GTK_THEME="$gtk_theme" "${environment[@]}" "$program" "${arguments[@]}" \
+    >/dev/null 2>&1 &
+  shown=$!
 }
-end_desktop() {
-  pkill -TERM -P "$desktop" -x roamlet || true
-  wait "$desktop" 2>/dev/null || true
+end() {
+  end_process "$shown" "the program"
+  shown=
 }
 
+# The compositor is begun after all that is photographed on X11.
+is_wayland() { [ -n "${WAYLAND_DISPLAY:-}" ]; }
+active_title() {
+  if is_wayland; then
+    swaymsg -t get_tree | jq -r '.. | objects | select(.focused == true) | .name'
+  else
+    xdotool getactivewindow getwindowname
+  fi
+}
+is_active() { [[ $(active_title) == "$1"* ]]; }
+# beginning of the title of the window that has to get the keyboard
+has_come() { wait_for 15 "the window \"$1\"" is_active "$1"; }
+# The pictures that follow are taken all the same.
+await() { has_come "$1" || true; }
+
+# Until what the command shows has stopped changing.
+settle() {
+  local before='' now same=0
+  for _ in $(seq 60); do
+    now=$("$@" | md5sum)
+    if [ "$now" = "$before" ]; then same=$((same + 1)); else same=0; fi
+    [ $same -lt 2 ] || return 0
+    before=$now
+    sleep 0.3
+  done
+  report "$picture: never stood still"
+}
+
+# name of the picture, then the beginning of the window's title, or nothing for the whole screen
 photograph() {
-  begin_desktop "$1" "$work/home"
-  window history 'Recent History'
-  # The first day's heading lies below the header; the row under the pointer tells where it leads.
-  xdotool search --onlyvisible --name '^Recent History' mousemove --window %1 500 180 mousemove --window %1 502 182
-  window row 'Recent History'
-  xdotool key ctrl+f type clock
-  window search 'Recent History'
-  xdotool key ctrl+a type 'nothing like this'
-  window nothing-found 'Recent History'
-  xdotool key Escape Escape Down Down shift+Down Menu
-  screen link-menu
-  xdotool key Escape F10
-  screen main-menu
-  xdotool key Escape F9
-  window without-sidebar 'Recent History'
-  xdotool key F9 F10 Down Return
-  window export 'Recent History'
-  xdotool key Escape ctrl+comma
-  window settings-general Settings
-  xdotool key ctrl+Tab
-  window settings-profiles Settings
-  xdotool key Escape
-  xdotool mousemove 1268 12 click 3
-  screen tray-menu
-  xdotool key Down Down Right
-  screen tray-recent
-  xdotool key Escape Escape Escape
-  # The third row of the sidebar, and the first one.
-  xdotool search --onlyvisible --name '^Recent History' mousemove --window %1 80 101 click 1
-  window bookmarks 'All Bookmarks'
-  xdotool search --onlyvisible --name '^All Bookmarks' mousemove --window %1 80 48 click 1
-  until xdotool search --onlyvisible --name '^Recent History' >/dev/null; do sleep 0.2; done
+  picture=$theme-$1
+  local take=(import -window root)
+  local format=(-depth 8 rgb:-)
+  if [ $# -gt 1 ]; then
+    has_come "$2" || return 0
+    is_wayland || take=(import -window "$(xdotool getactivewindow)")
+  fi
+  if is_wayland; then
+    take=(grim)
+    format=(-t ppm -)
+  fi
+  settle "${take[@]}" "${format[@]}"
+  "${take[@]}" "$target/$picture.png" || report "$picture: could not be taken"
+  picture=
+}
+
+press() { xdotool key --clearmodifiers --delay 60 "$@"; }
+write() { xdotool type --delay 30 "$1"; }
+resize_to() { xdotool getactivewindow windowsize --sync "$1" "$2"; }
+# where in the active window, in hundredths of its width and height
+point_at() {
+  local WIDTH=0 HEIGHT=0 WINDOW
+  eval "$(xdotool getactivewindow getwindowgeometry --shell)"
+  # Moved twice: the first time it may only enter the window.
+  xdotool mousemove --window "$WINDOW" $((WIDTH * $1 / 100)) $((HEIGHT * $2 / 100))
+  xdotool mousemove_relative -- 2 1
+}
+point_away() { xdotool mousemove 0 899; }
+# The only icon stands in the middle of the panel.
+open_tray_menu() {
+  local X=0 Y=0 WIDTH=0 HEIGHT=0
+  eval "$(xdotool search --onlyvisible --class trayer getwindowgeometry --shell | head -n 6)"
+  xdotool mousemove $((X + WIDTH / 2)) $((Y + HEIGHT / 2)) click 3
+}
+
+photograph_usual_size() {
+  begin "$work/home"
+  photograph history 'Recent History'
+  point_at 60 26
+  photograph row 'Recent History'
+  point_away
+  # From the search field to the list.
+  press ctrl+f Escape Down Down shift+Down
+  photograph selection 'Recent History'
+  press Menu
+  photograph link-menu
+  # The last entry shows this site only.
+  press Escape Up Menu Up Return
+  photograph only-site 'Recent History'
+  press ctrl+f
+  write clock
+  photograph search-site 'Recent History'
+  end
+
+  begin "$work/home"
+  await 'Recent History'
+  press ctrl+f
+  write clock
+  photograph search 'Recent History'
+  press ctrl+a
+  write 'nothing like this'
+  photograph nothing-found 'Recent History'
+  press Escape Escape F10
+  photograph main-menu
+  press Escape F9
+  photograph without-sidebar 'Recent History'
+  press F9 F10 Down Return
+  photograph export 'Recent History'
+  press Escape ctrl+comma
+  photograph settings-general Settings
+  press ctrl+Tab
+  photograph settings-profiles Settings
+  end
+
+  begin "$work/home"
+  await 'Recent History'
+  open_tray_menu
+  photograph tray-menu
+  press Down Down Right
+  photograph tray-recent
+  press Escape Escape
+  point_away
+  end
+
+  begin "$work/home"
+  await 'Recent History'
   resize_to 820 480
-  window narrow 'Recent History'
-  end_desktop
-  begin_desktop "$1" "$work/empty"
-  window empty 'Recent History'
-  end_desktop
-  begin_desktop "$1" "$work/home" -reverse
-  window right-to-left 'Recent History'
-  xdotool key ctrl+comma
-  window right-to-left-settings Settings
-  end_desktop
+  photograph narrow 'Recent History'
+  end
+  begin "$work/home" grouping=site
+  photograph by-site 'Recent History'
+  end
+  begin "$work/home" font='Sans 14'
+  await 'Recent History'
+  resize_to 820 480
+  press F9
+  photograph sidebar-over-list 'Recent History'
+  end
+  # At first the sidebar has the keyboard.
+  begin "$work/home"
+  await 'Recent History'
+  press Down
+  photograph most-visited 'Most Visited'
+  press Down
+  photograph bookmarks 'All Bookmarks'
+  press ctrl+f
+  write clock
+  photograph bookmarks-search 'All Bookmarks'
+  end
+  begin "$work/empty"
+  photograph empty 'Recent History'
+  end
+
+  begin "$work/home" -reverse
+  photograph right-to-left 'Recent History'
+  press F10 Down Return
+  photograph right-to-left-export 'Recent History'
+  press Escape ctrl+comma
+  photograph right-to-left-settings Settings
+  press ctrl+Tab
+  photograph right-to-left-settings-profiles Settings
+  end
 }
 
 # What would look coarse on finer screens, or too tight with larger letters.
-photograph_sizes() {
+photograph_other_sizes() {
   for scale in 1.25 1.6 2 2.5; do
-    begin_desktop "$1" "$work/home" QT_SCALE_FACTOR=$scale
-    window "scale-$scale" 'Recent History'
-    end_desktop
+    begin "$work/home" QT_SCALE_FACTOR=$scale
+    photograph "scale-$scale" 'Recent History'
+    end
   done
-  # From 8 to 24 points, where 10 are usual.
-  for dots in 77 230; do
-    begin_desktop "$1" "$work/home" QT_FONT_DPI=$dots
-    window "letters-$dots" 'Recent History'
-    xdotool key ctrl+comma
-    window "letters-$dots-settings" Settings
-    end_desktop
+  for points in 8 24; do
+    begin "$work/home" font="Sans $points"
+    photograph "letters-$points" 'Recent History'
+    press F10 Down Return
+    photograph "letters-$points-export" 'Recent History'
+    press Escape ctrl+comma
+    photograph "letters-$points-settings" Settings
+    press ctrl+Tab
+    photograph "letters-$points-settings-profiles" Settings
+    end
   done
-  begin_desktop "$1" "$work/home"
-  window history 'Recent History'
+  begin "$work/home"
+  await 'Recent History'
   resize_to 2560 700
-  window wide 'Recent History'
-  end_desktop
+  photograph wide 'Recent History'
+  end
 }
 
 # A compositor without a screen of its own.
-photograph_wayland() {
-  printf 'output HEADLESS-1 resolution 1280x900\nfor_window [app_id=".*"] border none\n' >"$work/sway"
-  env -u DISPLAY WLR_BACKENDS=headless WLR_LIBINPUT_NO_DEVICES=1 WLR_RENDERER=pixman \
-    sway --config "$work/sway" >/dev/null 2>&1 &
-  processes+=($!)
-  until socket=$(find "$work/run" -maxdepth 1 -name 'wayland-?' | grep .); do sleep 0.1; done
-  begin_desktop "$1" "$work/home" QT_QPA_PLATFORM=wayland WAYLAND_DISPLAY="$(basename "$socket")"
-  export WAYLAND_DISPLAY
-  WAYLAND_DISPLAY=$(basename "$socket")
-  sleep 4
-  grim "$target/$theme-history.png"
-  wtype -M ctrl -k comma -m ctrl
-  sleep 2
-  grim "$target/$theme-settings.png"
-  wtype -k Escape
-  wtype -k F10 -s 300 -k Down -k Return
-  sleep 2
-  grim "$target/$theme-export.png"
-  end_desktop
-  unset WAYLAND_DISPLAY
+begin_wayland() {
+  local folder=$work/compositor
+  mkdir -m 700 "$folder"
+  cat >"$folder/config" <<END
+output HEADLESS-1 resolution 1280x900
+default_floating_border none
+for_window [app_id=".*"] floating enable
+END
+  # It refuses to be root's.
+  local as_somebody=()
+  if [ "$(id -u)" -eq 0 ]; then
+    as_somebody=(setpriv --reuid=65534 --regid=65534 --clear-groups)
+    chmod 711 "$work"
+    chown -R 65534:65534 "$folder"
+  fi
+  export SWAYSOCK=$folder/control
+  start "${as_somebody[@]}" env -u DISPLAY XDG_RUNTIME_DIR="$folder" WLR_BACKENDS=headless WLR_LIBINPUT_NO_DEVICES=1 \
+    WLR_RENDERER=pixman sway --config "$folder/config"
+  wait_for 20 "the compositor" swaymsg -t get_version
+  WAYLAND_DISPLAY=$(find "$folder" -maxdepth 1 -name 'wayland-?')
+  export WAYLAND_DISPLAY QT_QPA_PLATFORM=wayland
 }
 
-begin_screen 94 1280x900
-theme=light photograph Adwaita
-theme=dark photograph Adwaita:dark
-begin_screen 95 3000x2200
-theme=light photograph_sizes Adwaita
-theme=dark photograph_sizes Adwaita:dark
-theme=wayland photograph_wayland Adwaita
+# Each call brings a new keyboard, which the program has to notice first.
+press_on_wayland() { wtype -s 500 "$@"; }
+photograph_wayland() {
+  begin "$work/home"
+  photograph wayland-history 'Recent History'
+  press_on_wayland -M ctrl -k comma -m ctrl
+  photograph wayland-settings Settings
+  press_on_wayland -k Escape
+  await 'Recent History'
+  press_on_wayland -k F10 -s 500 -k Down -s 100 -k Return
+  photograph wayland-export 'Recent History'
+  end
+}
+
+# function that takes pictures; light and dark
+in_both_themes() {
+  theme=light gtk_theme=Adwaita "$1"
+  theme=dark gtk_theme=Adwaita:dark "$1"
+}
+
+"$sample_home" --layout linux --safari -1 --profiles firefox=1 --chrome 2 --edge 1 --rows 400 \
+  --newest "$(date -u +%Y-%m-%dT%H:%M:%SZ)" "$work/home" >/dev/null
+begin_screen 1280x900
+in_both_themes photograph_usual_size
+begin_screen 3000x2200
+in_both_themes photograph_other_sizes
+begin_wayland
+in_both_themes photograph_wayland
+
 echo "The pictures are in $target."
+[ ${#problems[@]} -eq 0 ] || {
+  printf '%s\n' "Not all of them:" "${problems[@]}" >&2
+  exit 1
+}
