@@ -7,6 +7,7 @@
 
 #include <QImage>
 #include <QPixmap>
+#include <QSet>
 
 namespace roamlet::testing
 {
@@ -35,6 +36,32 @@ TEST_F(RowIconsTest, aSiteWithoutAnIconGetsAGlobe)
     EXPECT_FALSE(icons.site(u"example.org"_s).isNull());
     EXPECT_TRUE(icons.siteIfKnown(u"example.org"_s).isNull());
     EXPECT_EQ(icons.site(u"example.org"_s).cacheKey(), icons.site(u"example.com"_s).cacheKey());
+}
+
+TEST_F(RowIconsTest, symbolsAreSeenOnThePureHighlight)
+{
+    // Its texts are too pale for a selection in a shade.
+    QPalette palette;
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::Text, QColor(0x71, 0x71, 0x71));
+    palette.setColor(QPalette::Highlight, QColor(0, 0, 0x80));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    widget.setPalette(palette);
+    const Look look = Look::of(widget);
+    ASSERT_EQ(look.list.selected.base, QColor(0, 0, 0x80));
+    const auto inks = [](const QIcon &icon, QIcon::Mode mode) {
+        const QImage image = icon.pixmap(QSize(64, 64), 1, mode).toImage();
+        QSet<QRgb> result;
+        for (int x = 0; x < image.width(); ++x) {
+            if (image.pixelColor(x, image.height() / 2).alpha() == 255)
+                result.insert(image.pixel(x, image.height() / 2));
+        }
+        return result;
+    };
+    const QIcon globe = icons.site(u"example.org"_s);
+    EXPECT_EQ(inks(globe, QIcon::Normal), QSet<QRgb>{look.list.quiet.rgb()});
+    EXPECT_EQ(inks(globe, QIcon::Selected), QSet<QRgb>{look.list.selected.quiet.rgb()});
+    EXPECT_EQ(inks(icons.folder(), QIcon::Selected), QSet<QRgb>{look.list.selected.ink.rgb()});
 }
 
 TEST_F(RowIconsTest, aSiteHasItsOwnIconAlsoInASelectedRow)

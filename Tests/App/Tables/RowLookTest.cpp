@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
+#include "App/Look/Contrast.h"
 #include "App/Look/Look.h"
 #include "App/Tables/HistoryTable.h"
 #include "App/Tables/RowBubble.h"
@@ -154,6 +155,30 @@ TEST_F(RowLookTest, aSelectedRowHasAGroundThatTellsWhetherItsWindowIsActive)
     other.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
     EXPECT_TRUE(has(cell(u"Clocks"_s), look.list.selectedInactive.base));
+}
+
+TEST_F(RowLookTest, aGlobeIsSeenInASelectedRowOfEveryTheme)
+{
+    QPalette palette;
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::Text, QColor(0x71, 0x71, 0x71));
+    palette.setColor(QPalette::Highlight, QColor(0, 0, 0x80));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    table.setPalette(palette);
+    click(table, u"Clocks"_s);
+    const Look look = Look::of(view());
+    ASSERT_EQ(look.list.selected.base, QColor(0, 0, 0x80));
+    const int side = look.measures.iconSide;
+    QRect place = cell(u"Clocks"_s);
+    place.setLeft(look.measures.alignmentLine);
+    place.setWidth(side);
+    const QImage image = picture();
+    double most = 0;
+    for (int y = place.top(); y <= place.bottom(); ++y) {
+        for (int x = place.left(); x <= place.right(); ++x)
+            most = std::max(most, contrastRatio(image.pixelColor(x, y), look.list.selected.base));
+    }
+    EXPECT_GT(most, contrastRatio(look.list.quiet, look.list.selected.base) + 0.5);
 }
 
 TEST_F(RowLookTest, theKeyboardsRowHasARingUntilTheMouseIsUsed)

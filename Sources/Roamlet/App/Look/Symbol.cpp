@@ -33,7 +33,16 @@ class SymbolEngine final : public QIconEngine
 public:
     SymbolEngine(QString path, const std::optional<QColor> &color, SymbolWeight weight,
                  QString themeName = {})
-        : m_path(std::move(path)), m_color(color), m_weight(weight), m_themeName(std::move(themeName))
+        : m_path(std::move(path)),
+          m_color(color),
+          m_colorInSelection(color),
+          m_weight(weight),
+          m_themeName(std::move(themeName))
+    {
+    }
+
+    SymbolEngine(QString path, const QColor &color, const QColor &colorInSelection)
+        : m_path(std::move(path)), m_color(color), m_colorInSelection(colorInSelection)
     {
     }
 
@@ -50,7 +59,8 @@ public:
 
     QPixmap scaledPixmap(const QSize &size, QIcon::Mode mode, QIcon::State /*state*/, qreal scale) override
     {
-        const QColor color = m_color.value_or(textColor(mode));
+        const std::optional<QColor> &own = mode == QIcon::Selected ? m_colorInSelection : m_color;
+        const QColor color = own.value_or(textColor(mode));
         const QString key = u"roamlet-symbol/%1/%2x%3@%4/%5/%6"_s.arg(m_path)
                                 .arg(size.width())
                                 .arg(size.height())
@@ -113,7 +123,8 @@ private:
 
     QString m_path;
     std::optional<QColor> m_color;
-    SymbolWeight m_weight;
+    std::optional<QColor> m_colorInSelection;
+    SymbolWeight m_weight = SymbolWeight::Usual;
     QString m_themeName;
 };
 
@@ -136,6 +147,15 @@ QIcon symbolIcon(const QString &name, const std::optional<QColor> &color, Symbol
     if (!QFile::exists(path))
         return {};
     return QIcon(new SymbolEngine(path, color, weight));
+}
+
+QIcon symbolIcon(const QString &name, const QColor &color, const QColor &colorInSelection)
+{
+    useDrawings();
+    const QString path = symbolPath(name);
+    if (!QFile::exists(path))
+        return {};
+    return QIcon(new SymbolEngine(path, color, colorInSelection));
 }
 
 QIcon panelIcon()

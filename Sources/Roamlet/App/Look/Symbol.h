@@ -23,6 +23,8 @@ enum class SymbolWeight {
 /// icon for a name that there is not.
 QIcon symbolIcon(const QString &name, const std::optional<QColor> &color = {},
                  SymbolWeight weight = SymbolWeight::Usual);
+/// The same in a list whose selection may be a colour on which the usual one is not seen.
+QIcon symbolIcon(const QString &name, const QColor &color, const QColor &colorInSelection);
 
 /// The program's sign for a panel. One that finds it by its name in the desktop's icon theme draws it in its
 /// own ink; others get it in a colour that is seen on light and on dark ones.

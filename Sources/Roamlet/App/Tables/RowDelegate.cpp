@@ -317,7 +317,9 @@ void RowDelegate::paintTitle(const Cell &cell) const
     if (const auto icon = cell.index.data(Qt::DecorationRole).value<QIcon>(); !icon.isNull()) {
         const QRect iconPlace(rest.left(), rest.top() + ((rest.height() - measures.iconSide) / 2),
                               measures.iconSide, measures.iconSide);
-        icon.paint(&cell.painter, cell.visual(iconPlace));
+        const bool isOnHighlight = &cell.ground == &m_look.list.selected;
+        icon.paint(&cell.painter, cell.visual(iconPlace), Qt::AlignCenter,
+                   isOnHighlight ? QIcon::Selected : QIcon::Normal);
     }
     rest.setLeft(rest.left() + iconAndGap());
     if (rest.width() <= 0)

@@ -54,13 +54,15 @@ void RowIcons::followDisplay()
 {
     const qreal ratio = m_widget.devicePixelRatioF();
     const Look look = Look::of(m_widget);
-    if (ratio == m_ratio && look.measures.iconSide == m_side && look.list.ink == m_ink)
+    const QList<QColor> inks{look.list.ink, look.list.quiet, look.list.selected.ink,
+                             look.list.selected.quiet};
+    if (ratio == m_ratio && look.measures.iconSide == m_side && inks == m_inks)
         return;
     m_ratio = ratio;
     m_side = look.measures.iconSide;
-    m_ink = look.list.ink;
-    m_globe = symbolIcon(u"globe"_s, look.list.quiet);
-    m_folder = symbolIcon(u"folder"_s, look.list.ink);
+    m_inks = inks;
+    m_globe = symbolIcon(u"globe"_s, look.list.quiet, look.list.selected.quiet);
+    m_folder = symbolIcon(u"folder"_s, look.list.ink, look.list.selected.ink);
     clear();
 }
 

@@ -8,6 +8,7 @@
 #include <QColor>
 #include <QHash>
 #include <QIcon>
+#include <QList>
 #include <QString>
 
 class QImage;
@@ -47,7 +48,8 @@ private:
     qreal m_ratio = 0;
     /// In points; larger texts have larger icons.
     int m_side = 0;
-    QColor m_ink;
+    /// What symbols are drawn with.
+    QList<QColor> m_inks;
     QHash<QString, QIcon> m_sites;
     QIcon m_globe;
     QIcon m_folder;
