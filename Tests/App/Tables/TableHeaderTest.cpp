@@ -5,8 +5,10 @@
 
 #include "App/Look/Look.h"
 #include "App/Tables/HistoryTable.h"
+#include "App/Tables/RowDelegate.h"
 #include "App/Tables/TableTest.h"
 #include "Lists/RowTree.h"
+#include "SampleHome/ChromiumFiles.h"
 
 #include <QMenu>
 #include <QTest>
@@ -106,6 +108,50 @@ TEST_F(TableHeaderTest, aNarrowListHasIconsForBrowsers)
     EXPECT_TRUE(header().isNarrow());
     EXPECT_LT(header().sectionSize(HistoryTable::Source), wide);
     EXPECT_EQ(header().length(), header().viewport()->width());
+}
+
+TEST_F(TableHeaderTest, longNamesOfSourcesAreNotCutWhileTitlesHaveRoom)
+{
+    const Measures measures = Look::of(*table).measures;
+    const auto widthIn = [this](int list) {
+        table->resize(list, 300);
+        return header().sectionSize(HistoryTable::Source);
+    };
+    const int tight = measures.units(37);
+    const int roomy = measures.units(56);
+    const int usual = widthIn(roomy);
+    const QString name = u"Firefox - default-release-of-mine"_s;
+    header().setSourceLabels({u"Chrome"_s, name});
+    header().fitColumns();
+    const int label = header().fontMetrics().horizontalAdvance(name);
+    EXPECT_GE(widthIn(roomy), label + measures.iconSide + measures.gapAfterIcon);
+    EXPECT_GT(widthIn(roomy), usual);
+    EXPECT_EQ(header().length(), header().viewport()->width());
+    ASSERT_LT(widthIn(tight), widthIn(roomy));
+    EXPECT_FALSE(header().isNarrow());
+    EXPECT_GE(header().sectionSize(HistoryTable::Title), measures.units(12));
+    EXPECT_EQ(header().length(), header().viewport()->width());
+
+    header().setSourceLabels({name.repeated(20)});
+    header().fitColumns();
+    EXPECT_LT(widthIn(measures.units(60)), measures.units(22)) << "nor does one push the titles away";
+}
+
+TEST_F(TableHeaderTest, aProfileWithANewNameHasRoomForIt)
+{
+    // So narrow that the column gets nothing that others leave.
+    table->resize(Look::of(*table).measures.units(60), 300);
+    const int before = header().sectionSize(HistoryTable::Source);
+    change([this] {
+        sample::writeLocalState(chromeFile(u"Local State"_s),
+                                {{u"Default"_s, sample::profileInfo(u"Everybody in this house"_s)}});
+    });
+    setPages(u"Default"_s, {page(u"Garden"_s, 1)});
+    reload(*table);
+    const auto &delegate = dynamic_cast<const RowDelegate &>(*table->view().itemDelegate());
+    const QModelIndex cell = find(*table, u"Garden"_s).siblingAtColumn(HistoryTable::Source);
+    ASSERT_GT(delegate.naturalWidth(cell), before);
+    EXPECT_FALSE(delegate.isCut(cell, header().sectionSize(HistoryTable::Source)));
 }
 
 TEST_F(TableHeaderTest, aColumnThatGetsNarrowerLeavesNoHole)

@@ -46,10 +46,12 @@ LinkTable::LinkTable(const WindowServices &services, const Kind &kind, QWidget *
     m_view.setAccessibleName(kind.accessibleName);
     m_model.setIcons(&m_icons);
     m_view.tableHeader().setColumnLayout(ColumnLayout::load(services.defaults, m_layoutKey));
+    nameSources();
     setOrder(m_defaultOrder);
 
     connect(&services.library, &Library::snapshotChanged, this, [this] {
         m_icons.clear();
+        nameSources();
         refresh();
     });
     connect(&m_loader, &ListLoader::listLoaded, this, &LinkTable::showList);
@@ -77,6 +79,14 @@ void LinkTable::setInputs(const TableInputs &inputs)
         return;
     m_inputs = inputs;
     refresh();
+}
+
+void LinkTable::nameSources()
+{
+    QStringList labels;
+    for (const Source &source : m_services.library.snapshot().sources)
+        labels.append(CellText::oneLine(source.label()));
+    m_view.tableHeader().setSourceLabels(labels);
 }
 
 void LinkTable::refresh()

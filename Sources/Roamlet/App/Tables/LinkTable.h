@@ -108,6 +108,7 @@ protected:
 private:
     /// Sees to it that what is shown is what is asked for, unless nobody looks.
     void refresh();
+    void nameSources();
     ListWish wish() const;
     void showList(const ShownList &list);
     /// The user wants this column to decide first, or the other way round if it already does.

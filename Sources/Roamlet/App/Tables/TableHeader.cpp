@@ -18,6 +18,7 @@
 #include <QStyle>
 
 #include <algorithm>
+#include <utility>
 
 namespace roamlet
 {
@@ -29,6 +30,9 @@ namespace
 
 /// In lines of text.
 constexpr double narrowestTitle = 12;
+/// What longer names of sources leave to the titles, and how far they reach themselves.
+constexpr double titleBesideNames = 16;
+constexpr double widestName = 16;
 constexpr double widestTitleInLines = 44;
 constexpr double narrowestColumn = 1.5;
 constexpr double narrowList = 36;
@@ -208,11 +212,24 @@ int TableHeader::suitableWidth(int column) const
     case TableColumn::Content::Source:
         if (isNarrow())
             return std::max(measures.iconSide, headingWidth(column)) + gap + edge;
-        break;
+        return sourceWidth(column, shown.width * fontMetrics().horizontalAdvance(u'0')) + edge;
     default:
         break;
     }
     return (shown.width * fontMetrics().horizontalAdvance(u'0')) + edge;
+}
+
+int TableHeader::sourceWidth(int column, int usual) const
+{
+    const Measures &measures = m_look.measures;
+    const int label = std::min(m_labelWidth, measures.units(widestName));
+    const int whole = measures.iconSide + measures.gapAfterIcon + label + measures.gapBetweenCells;
+    int rest = viewport()->width() - m_chosenWidths.value(titleColumn, measures.units(titleBesideNames));
+    for (int other = 0; other < count(); ++other) {
+        if (other != titleColumn && other != column && !isSectionHidden(other))
+            rest -= wantedWidth(other);
+    }
+    return std::max(usual, std::min(whole, rest));
 }
 
 int TableHeader::wantedWidth(int column) const
@@ -232,6 +249,9 @@ void TableHeader::fitColumns()
             m_dateWidth = std::max(m_dateWidth, tabularWidth(font, date));
     }
     m_visitsWidth = tabularWidth(font, local.number(m_model.tree()->mostVisits()));
+    m_labelWidth = 0;
+    for (const QString &label : std::as_const(m_sourceLabels))
+        m_labelWidth = std::max(m_labelWidth, QFontMetrics(font).horizontalAdvance(label));
     arrange();
 }
 

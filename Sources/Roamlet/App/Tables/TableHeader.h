@@ -9,6 +9,7 @@
 #include <QDate>
 #include <QHash>
 #include <QHeaderView>
+#include <QStringList>
 
 #include <optional>
 
@@ -36,6 +37,8 @@ public:
 
     /// The model has another list, font or day: columns are as wide as their texts ask for.
     void fitColumns();
+    /// The names that the column of sources has to have room for, once columns are fitted again.
+    void setSourceLabels(const QStringList &labels) { m_sourceLabels = labels; }
     /// In a tree, how far the outermost titles are moved in by the view.
     void setTitleIndent(int indent);
 
@@ -80,6 +83,8 @@ private:
     /// The user's choice, or else what suits the texts.
     int wantedWidth(int column) const;
     int suitableWidth(int column) const;
+    /// Wide enough for every name, as far as that leaves the titles what they need.
+    int sourceWidth(int column, int usual) const;
     /// How wide the heading is by itself, with its arrow.
     int headingWidth(int column) const;
     bool isRightAligned(int column) const;
@@ -107,6 +112,9 @@ private:
     int m_dateWidth = 0;
     QDate m_dateWidthOf;
     int m_visitsWidth = 0;
+    QStringList m_sourceLabels;
+    /// The widest of them.
+    int m_labelWidth = 0;
     bool m_isUnderPointer = false;
     /// With the mouse or the keys.
     bool m_isDragging = false;
