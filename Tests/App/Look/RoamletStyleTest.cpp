@@ -9,6 +9,7 @@
 #include <QCheckBox>
 #include <QHBoxLayout>
 #include <QImage>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
 
@@ -49,7 +50,7 @@ protected:
     QCheckBox *check = new QCheckBox(u"Other"_s);
 };
 
-TEST_F(RoamletStyleTest, isGivenToPushButtonsOnly)
+TEST_F(RoamletStyleTest, isGivenToPushButtonsAndToFieldsThatAskForIt)
 {
     EXPECT_NE(dynamic_cast<const RoamletStyle *>(first->style()), nullptr);
     EXPECT_EQ(first->style(), second->style());
@@ -58,6 +59,32 @@ TEST_F(RoamletStyleTest, isGivenToPushButtonsOnly)
     QPushButton alone;
     RoamletStyle::applyTo(alone);
     EXPECT_EQ(alone.style(), first->style());
+    QLineEdit field(&window);
+    RoamletStyle::applyTo(window);
+    EXPECT_NE(field.style(), first->style());
+    RoamletStyle::applyTo(field);
+    EXPECT_EQ(field.style(), first->style());
+}
+
+TEST_F(RoamletStyleTest, englishWordsAreReadFromLeftToRightEverywhere)
+{
+    second->setText(u"Export…"_s);
+    const QImage before = picture(*second);
+    second->setLayoutDirection(Qt::RightToLeft);
+    EXPECT_EQ(picture(*second), before);
+}
+
+TEST_F(RoamletStyleTest, iconsInAFieldGrowWithItsLetters)
+{
+    QLineEdit field;
+    RoamletStyle::applyTo(field);
+    for (const int points : {10, 24}) {
+        QFont font = field.font();
+        font.setPointSize(points);
+        field.setFont(font);
+        EXPECT_EQ(field.style()->pixelMetric(QStyle::PM_LineEditIconSize, nullptr, &field),
+                  Look::of(field).measures.iconSide);
+    }
 }
 
 TEST_F(RoamletStyleTest, buttonsAreAsHighAsOtherControlsAndHaveRoomForTheRing)

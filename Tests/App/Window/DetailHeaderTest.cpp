@@ -12,7 +12,9 @@
 
 #include <QAccessible>
 #include <QAction>
+#include <QFontInfo>
 #include <QTest>
+#include <QToolButton>
 
 #include <gtest/gtest.h>
 
@@ -92,6 +94,44 @@ TEST_F(DetailHeaderTest, isMirrored)
     header.setLayoutDirection(Qt::RightToLeft);
     EXPECT_EQ(search->geometry().right(), header.width() - 1 - before.left());
     EXPECT_GT(subtitle->geometry().left(), search->geometry().right());
+}
+
+TEST_F(DetailHeaderTest, whatIsTypedBeginsBesideTheMagnifierInBothDirections)
+{
+    const auto wordsIn = [this] {
+        const QString words = search->placeholderText();
+        const QImage with = search->grab().toImage();
+        search->setPlaceholderText({});
+        const QImage without = search->grab().toImage();
+        search->setPlaceholderText(words);
+        QRect result;
+        for (int y = 0; y < with.height(); ++y) {
+            for (int x = 0; x < with.width(); ++x) {
+                if (with.pixel(x, y) != without.pixel(x, y))
+                    result |= QRect(x, y, 1, 1);
+            }
+        }
+        return result;
+    };
+    const QRect leftToRight = wordsIn();
+    ASSERT_FALSE(leftToRight.isEmpty());
+    header.setLayoutDirection(Qt::RightToLeft);
+    const QRect rightToLeft = wordsIn();
+    EXPECT_EQ(rightToLeft.width(), leftToRight.width());
+    constexpr int sideBearings = 4;
+    EXPECT_NEAR(search->width() - rightToLeft.right(), leftToRight.left(), sideBearings);
+}
+
+TEST_F(DetailHeaderTest, theMagnifierGrowsWithTheLetters)
+{
+    const auto magnifierSide = [this] { return search->findChildren<QToolButton *>().first()->width(); };
+    const int before = magnifierSide();
+    QFont font = header.font();
+    font.setPointSizeF(3 * QFontInfo(font).pointSizeF());
+    header.setFont(font);
+    header.resize(3000, header.sizeHint().height());
+    EXPECT_GE(magnifierSide(), Look::of(header).measures.iconSide);
+    EXPECT_GT(magnifierSide(), 2 * before);
 }
 
 TEST_F(DetailHeaderTest, aProblemHasASignAndIsToldWhole)

@@ -65,9 +65,10 @@ void BoxedComboBox::paintEvent(QPaintEvent * /*event*/)
     painter.setPen(isEnabled() ? ink : look.card.faint);
     const auto alignment = static_cast<int>(
         QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter).toInt());
+    const QString words = isChosen ? currentText() : placeholderText();
+    readInOwnDirection(painter, words);
     painter.drawText(visual(inner), alignment | Qt::TextSingleLine,
-                     fontMetrics().elidedText(isChosen ? currentText() : placeholderText(), Qt::ElideRight,
-                                              inner.width()));
+                     fontMetrics().elidedText(words, Qt::ElideRight, inner.width()));
     if (showsFocus(*this))
         drawFocusRing(painter, rect(), measures.boxRadius, look);
 }

@@ -4,6 +4,7 @@
 #include "App/Look/ButtonRow.h"
 
 #include "App/Look/Look.h"
+#include "App/Look/Painting.h"
 
 #include <QEvent>
 #include <QPainter>
@@ -45,6 +46,7 @@ void ButtonRow::paintEvent(QPaintEvent * /*event*/)
     QPainter painter(this);
     painter.setFont(look.headingFont);
     painter.setPen(isEnabled() ? look.accentText : look.card.faint);
+    readInOwnDirection(painter, text());
     painter.drawText(rect(), Qt::AlignCenter | Qt::TextSingleLine,
                      painter.fontMetrics().elidedText(text(), Qt::ElideRight, width()));
 }

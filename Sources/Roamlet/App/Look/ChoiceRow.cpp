@@ -4,6 +4,7 @@
 #include "App/Look/ChoiceRow.h"
 
 #include "App/Look/Look.h"
+#include "App/Look/Painting.h"
 
 #include <QEvent>
 #include <QPainter>
@@ -96,6 +97,7 @@ void ChoiceRow::paintEvent(QPaintEvent * /*event*/)
     const auto draw = [&](const QString &words, const QFont &font, const QColor &ink) {
         painter.setFont(font);
         painter.setPen(isEnabled() ? ink : look.card.faint);
+        readInOwnDirection(painter, words);
         painter.drawText(QStyle::visualRect(layoutDirection(), rect(), line), alignment | Qt::TextSingleLine,
                          painter.fontMetrics().elidedText(words, Qt::ElideRight, line.width()));
     };

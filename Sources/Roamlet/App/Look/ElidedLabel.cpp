@@ -3,6 +3,8 @@
 
 #include "App/Look/ElidedLabel.h"
 
+#include "App/Look/Painting.h"
+
 #include <QHelpEvent>
 #include <QPainter>
 #include <QStyle>
@@ -85,8 +87,7 @@ void ElidedLabel::paintEvent(QPaintEvent * /*event*/)
         QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter);
     const auto draw = [&](const QString &text, int start) {
         const QRect place(start, 0, width() - start, height());
-        // A text is read in its own direction, wherever it stands.
-        painter.setLayoutDirection(text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
+        readInOwnDirection(painter, text);
         painter.drawText(QStyle::visualRect(layoutDirection(), rect(), place),
                          static_cast<int>(alignment) | Qt::TextSingleLine,
                          painter.fontMetrics().elidedText(text, Qt::ElideRight, place.width()));

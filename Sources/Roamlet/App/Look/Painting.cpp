@@ -48,6 +48,11 @@ void drawShadow(QPainter &painter, const QRectF &rect, qreal radius, const Look 
     painter.restore();
 }
 
+void readInOwnDirection(QPainter &painter, const QString &words)
+{
+    painter.setLayoutDirection(words.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
+}
+
 void alignToLine(QLabel &label)
 {
     label.setAlignment(QStyle::visualAlignment(label.layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter) |

@@ -8,6 +8,7 @@
 class QColor;
 class QLabel;
 class QPainter;
+class QString;
 class QWidget;
 
 namespace roamlet
@@ -28,5 +29,9 @@ void drawShadow(QPainter &painter, const QRectF &rect, qreal radius, const Look 
 /// Lets a label's text begin where lines begin in the program's language, whatever language the text is in.
 /// To be done again when that changes.
 void alignToLine(QLabel &label);
+
+/// Words are drawn in the direction in which they are read, wherever they stand: in a window from right to
+/// left, an English sentence would otherwise begin with its full stop.
+void readInOwnDirection(QPainter &painter, const QString &words);
 
 } // namespace roamlet

@@ -6,6 +6,7 @@
 #include "App/Look/Look.h"
 #include "App/Look/Painting.h"
 
+#include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
 #include <QStyleOptionButton>
@@ -79,6 +80,7 @@ void drawPushButton(const QStyleOptionButton &button, QPainter &painter, const Q
                              ? Qt::TextShowMnemonic
                              : Qt::TextHideMnemonic;
     painter.setPen(inkOf(button, look));
+    readInOwnDirection(painter, button.text);
     painter.drawText(QStyle::visualRect(button.direction, contents, contents.adjusted(icon + gap, 0, 0, 0)),
                      Qt::AlignCenter | Qt::TextSingleLine | mnemonic, button.text);
     painter.restore();
@@ -94,12 +96,14 @@ void RoamletStyle::applyTo(QWidget &root)
 {
     // Every window shares it, and it goes with the process.
     static auto *const style = new RoamletStyle;
-    QList<QPushButton *> buttons = root.findChildren<QPushButton *>();
-    if (auto *own = qobject_cast<QPushButton *>(&root))
-        buttons.append(own);
-    for (QPushButton *button : buttons) {
-        if (button->style() != style)
-            button->setStyle(style);
+    QWidgetList ours;
+    for (QPushButton *button : root.findChildren<QPushButton *>())
+        ours.append(button);
+    if (qobject_cast<QPushButton *>(&root) != nullptr || qobject_cast<QLineEdit *>(&root) != nullptr)
+        ours.append(&root);
+    for (QWidget *widget : ours) {
+        if (widget->style() != style)
+            widget->setStyle(style);
     }
 }
 
@@ -107,6 +111,14 @@ void RoamletStyle::polish(QWidget *widget)
 {
     QProxyStyle::polish(widget);
     widget->setAttribute(Qt::WA_Hover);
+}
+
+int RoamletStyle::pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const
+{
+    // The icons in a field are as large as all others.
+    if (metric == PM_LineEditIconSize && widget != nullptr)
+        return Measures(widget->font()).iconSide;
+    return QProxyStyle::pixelMetric(metric, option, widget);
 }
 
 void RoamletStyle::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,

@@ -15,12 +15,13 @@ class RoamletStyle final : public QProxyStyle
     Q_OBJECT
 
 public:
-    /// Gives it to the push buttons in `root`, which may be one itself. Those that come later have to be
-    /// given it, too.
+    /// Gives it to the push buttons in `root`, which may be one itself, or a field. Those that come later
+    /// have to be given it, too.
     static void applyTo(QWidget &root);
 
     void polish(QWidget *widget) override;
     using QProxyStyle::polish;
+    int pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const override;
     void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
                      const QWidget *widget) const override;
     QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &size,

@@ -4,6 +4,7 @@
 #include "App/Settings/ProfileDelegate.h"
 
 #include "App/Look/Look.h"
+#include "App/Look/Painting.h"
 #include "App/Look/Switch.h"
 #include "App/Look/Symbol.h"
 
@@ -65,6 +66,7 @@ void ProfileDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
         painter->setFont(font);
         line.setHeight(painter->fontMetrics().height());
         painter->setPen(ink);
+        readInOwnDirection(*painter, words);
         painter->drawText(visual(line), static_cast<int>(alignment.toInt()) | Qt::TextSingleLine,
                           painter->fontMetrics().elidedText(words, Qt::ElideRight, line.width()));
         line.translate(0, line.height());

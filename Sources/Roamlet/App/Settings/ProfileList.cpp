@@ -311,6 +311,7 @@ void ProfileList::paintEvent(QPaintEvent * /*event*/)
     const int count = model() != nullptr ? model()->rowCount() : 0;
     if (count == 0) {
         painter.setPen(look.card.quiet);
+        readInOwnDirection(painter, m_placeholderText);
         painter.drawText(rows, Qt::AlignCenter | Qt::TextWordWrap, m_placeholderText);
     }
 

@@ -4,12 +4,14 @@
 #include "App/Window/SearchField.h"
 
 #include "App/Look/Look.h"
+#include "App/Look/RoamletStyle.h"
 #include "App/Look/Symbol.h"
 
 #include <QAction>
 #include <QEvent>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QStyle>
 
 namespace roamlet
 {
@@ -23,6 +25,7 @@ SearchField::SearchField(QWidget *parent)
 {
     setObjectName(u"searchField"_s);
     setFrame(false);
+    RoamletStyle::applyTo(*this);
     constexpr int ring = Measures::focusRingWidth;
     setTextMargins(ring, 0, ring, 0);
     setPlaceholderText(tr("Title or URL"));
@@ -37,6 +40,13 @@ SearchField::SearchField(QWidget *parent)
     connect(this, &QLineEdit::textChanged, m_clear,
             [this](const QString &text) { m_clear->setVisible(!text.isEmpty()); });
     updateColors();
+    alignToMagnifier();
+}
+
+void SearchField::alignToMagnifier()
+{
+    // Also what is read from left to right, in a window that goes the other way.
+    setAlignment(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter));
 }
 
 QSize SearchField::sizeOfWidth(double units) const
@@ -118,6 +128,8 @@ void SearchField::changeEvent(QEvent *event)
     if (event->type() == QEvent::PaletteChange)
         updateColors();
     QLineEdit::changeEvent(event);
+    if (event->type() == QEvent::LayoutDirectionChange)
+        alignToMagnifier();
 }
 
 } // namespace roamlet

@@ -34,6 +34,8 @@ protected:
 
 private:
     void updateColors();
+    /// What is typed, and what says what for, begins beside the magnifier.
+    void alignToMagnifier();
     QSize sizeOfWidth(double units) const;
 
     QAction *m_magnifier;
