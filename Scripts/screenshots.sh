@@ -17,6 +17,8 @@ work=$(mktemp -d)
 mkdir -p "$target" "$work/run" "$work/desktop"
 chmod 700 "$work/run"
 problems=()
+theme=light
+gtk_theme=Adwaita
 # The program that is photographed, and everything that it needs.
 shown=
 started=()
@@ -66,7 +68,8 @@ start() {
 
 # Nothing of the session that this script is called in.
 for name in "${!XDG_@}" "${!GTK_@}" "${!QT_@}" "${!WAYLAND_@}" "${!LC_@}" SWAYSOCK DISPLAY LANGUAGE; do unset "$name"; done
-export XDG_RUNTIME_DIR=$work/run LANG=C.UTF-8
+# Letters of every language, also where this one is not installed.
+export XDG_RUNTIME_DIR=$work/run LANG=en_GB.UTF-8 LC_CTYPE=C.UTF-8
 
 # Starts no services: they would outlive the pictures.
 cat >"$work/bus.conf" <<END
@@ -92,23 +95,23 @@ begin_screen() {
   wait_for 20 "the panel" xdotool search --onlyvisible --class trayer
 }
 
-# home folder, then settings of the environment and of the program, such as QT_SCALE_FACTOR=2 -reverse; grouping=site
-# and font="Sans 24" are the user's own settings
+# home folder, then what is special: the environment (QT_SCALE_FACTOR=2), arguments (-reverse), what the program has been
+# told (sidebar.hidden=true) and the desktop's font (font="Sans 24")
 begin() {
-  local home=$1 grouping=day font=
-  local environment=() arguments=()
+  local home=$1 font=
+  local environment=() arguments=() settings=(grouping.history=day)
   shift
   for word in "$@"; do
     case $word in
-      grouping=*) grouping=${word#*=} ;;
       font=*) font=${word#*=} ;;
+      [a-z]*) settings+=("$word") ;;
       -*) arguments+=("$word") ;;
       *) environment+=("$word") ;;
     esac
   done
   rm -rf "$home/.config/Roamlet"
   mkdir -p "$home/.config/Roamlet" "$home/.config/gtk-3.0"
-  printf '[General]\ngrouping.history=%s\n' "$grouping" >"$home/.config/Roamlet/Roamlet.conf"
+  printf '%s\n' '[General]' "${settings[@]}" >"$home/.config/Roamlet/Roamlet.conf"
   # A caret that blinks never stands still.
   printf '[Settings]\ngtk-cursor-blink-time=1000000\n%s\n' "${font:+gtk-font-name=$font}" >"$home/.config/gtk-3.0/settings.ini"
   env HOME="$home" QT_QPA_PLATFORMTHEME=gtk3 GTK_THEME="$gtk_theme" "${environment[@]}" "$program" "${arguments[@]}" \
@@ -214,9 +217,7 @@ photograph_usual_size() {
   photograph nothing-found 'Recent History'
   press Escape Escape F10
   photograph main-menu
-  press Escape F9
-  photograph without-sidebar 'Recent History'
-  press F9 F10 Down Return
+  press Escape F10 Down Return
   photograph export 'Recent History'
   press Escape ctrl+comma
   photograph settings-general Settings
@@ -239,7 +240,10 @@ photograph_usual_size() {
   resize_to 820 480
   photograph narrow 'Recent History'
   end
-  begin "$work/home" grouping=site
+  begin "$work/home" sidebar.hidden=true
+  photograph without-sidebar 'Recent History'
+  end
+  begin "$work/home" grouping.history=site
   photograph by-site 'Recent History'
   end
   begin "$work/home" font='Sans 14'
@@ -305,8 +309,7 @@ begin_wayland() {
   mkdir -m 700 "$folder"
   cat >"$folder/config" <<END
 output HEADLESS-1 resolution 1280x900
-default_floating_border none
-for_window [app_id=".*"] floating enable
+for_window [app_id=".*"] floating enable, border none
 END
   # It refuses to be root's.
   local as_somebody=()
