@@ -324,6 +324,8 @@ END
   wait_for 20 "the compositor" swaymsg -t get_version
   WAYLAND_DISPLAY=$(find "$folder" -maxdepth 1 -name 'wayland-?')
   export WAYLAND_DISPLAY QT_QPA_PLATFORM=wayland
+  # Without any keyboard, no window would be the active one.
+  start wtype -s 3600000
 }
 
 # Each call brings a new keyboard, which the program has to notice first.
