@@ -34,6 +34,7 @@ struct DesktopFakes {
                 .savePanel = savePanel,
                 .alert = alert,
                 .updater = updater,
+                .desktopSettings = desktopSettings,
                 .hasTray = [this] { return hasTray; }};
     }
 
@@ -45,6 +46,7 @@ struct DesktopFakes {
     FakeAlert alert;
     FakeUpdateDriver *driver = new FakeUpdateDriver;
     Updater updater{BundleInformation(), std::unique_ptr<UpdateDriver>(driver)};
+    std::function<DesktopSettings()> desktopSettings = [] { return DesktopSettings(); };
     bool hasTray = true;
 };
 

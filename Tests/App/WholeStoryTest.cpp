@@ -3,6 +3,8 @@
 
 #include "App/DesktopFakes.h"
 #include "App/Export/ExportPanel.h"
+#include "App/Look/Look.h"
+#include "App/Look/Motion.h"
 #include "App/Tables/LinkTable.h"
 #include "App/Updates/UpdateWindows.h"
 #include "App/Window/ContentView.h"
@@ -26,6 +28,8 @@
 #include <QTreeView>
 
 #include <gmock/gmock.h>
+#include <semaphore>
+#include <thread>
 
 namespace roamlet::testing
 {
@@ -142,6 +146,34 @@ TEST_F(WholeStoryTest, aPageIsVisitedSearchedNarrowedToItsSiteOpenedAndTheBookma
     EXPECT_TRUE(exported.contains("https://mark.example/"));
     EXPECT_TRUE(exported.contains("https://smark.example/"));
     EXPECT_EQ(alert.problems, QStringList());
+}
+
+TEST_F(WholeStoryTest, theDesktopIsAskedBesideTheMainThreadAndFollowedWhenItAnswers)
+{
+    app.reset();
+    std::binary_semaphore mayAnswer(0);
+    std::thread::id asked;
+    int questions = 0;
+    desktopSettings = [&] {
+        mayAnswer.acquire();
+        asked = std::this_thread::get_id();
+        ++questions;
+        return DesktopSettings{.allowsMotion = false, .wantsMoreContrast = true};
+    };
+    app = std::make_unique<RoamletApp>(services(home.platform()));
+    app->start(false);
+    EXPECT_TRUE(eventually([this] { return shownTitles().size() == 5; })) << "nobody waits for the answer";
+    const QWidget &window = *app->mainWindow();
+    const QColor before = Look::of(window).list.quiet;
+    EXPECT_TRUE(isMotionWanted(window));
+    mayAnswer.release();
+    EXPECT_TRUE(waitUntil([&window] { return !isMotionWanted(window); }));
+    EXPECT_NE(Look::of(window).list.quiet, before);
+    app.reset();
+    EXPECT_EQ(questions, 1);
+    EXPECT_NE(asked, std::this_thread::get_id());
+    setMotionAllowed(true);
+    setContrast(Look::Contrast::Normal);
 }
 
 TEST_F(WholeStoryTest, itsIconsComeAfterItsWindow)

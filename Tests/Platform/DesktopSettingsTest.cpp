@@ -3,6 +3,10 @@
 
 #include "Platform/DesktopSettings.h"
 
+#include "Platform/FakePortal.h"
+#include "Support/SessionBus.h"
+#include "Support/Waiting.h"
+
 #include <QByteArray>
 #include <QDir>
 #include <QFile>
@@ -11,8 +15,10 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <cstdlib>
 #include <optional>
+#include <thread>
 
 namespace roamlet::testing
 {
@@ -26,22 +32,58 @@ namespace
 struct SettingsOnDisk {
     /// What stands there for animations; nothing for a user who never chose.
     std::optional<QByteArray> animations = {};
+    std::optional<QByteArray> highContrast = {};
+    /// What the desktop's portal says. No bus where there is nothing.
+    std::optional<QVariantMap> portal = {};
     bool hasRuntimeFolder = true;
     /// Whether it is known which settings there are.
     bool hasSchemas = true;
 };
 
+constexpr int strayFile = 2;
+
+/// The answer as the status of a process.
+int statusOf(const DesktopSettings &settings)
+{
+    return 10 + (settings.allowsMotion ? 1 : 0) + (settings.wantsMoreContrast ? 2 : 0);
+}
+
+/// Asks on a thread of its own, as in the program.
+DesktopSettings readElsewhere()
+{
+    std::atomic<bool> isDone = false;
+    DesktopSettings answer;
+    const std::jthread reader([&] {
+        answer = DesktopSettings::read();
+        isDone = true;
+    });
+    waitUntil([&isDone] { return isDone.load(); });
+    return answer;
+}
+
 [[noreturn]] void exitWithAnswer(const SettingsOnDisk &settings)
 {
-    bool answer = false;
+    DesktopSettings answer;
     {
+        SessionBus bus;
+        std::optional<FakePortal> portal;
+        if (settings.portal && bus.start()) {
+            portal.emplace(bus.address());
+            portal->settings = {{u"org.freedesktop.appearance"_s, *settings.portal}};
+        }
+        qputenv("DBUS_SESSION_BUS_ADDRESS",
+                portal ? bus.address().toUtf8() : QByteArray("unix:path=/nonexistent/bus"));
         const QTemporaryDir home;
         const QString folder = home.filePath(u"config/glib-2.0/settings"_s);
         QDir().mkpath(folder);
-        if (settings.animations) {
-            QFile file(folder % u"/keyfile"_s);
-            if (file.open(QIODevice::WriteOnly))
+        QFile file(folder % u"/keyfile"_s);
+        if (file.open(QIODevice::WriteOnly)) {
+            if (settings.animations)
                 file.write("[org/gnome/desktop/interface]\nenable-animations=" + *settings.animations + '\n');
+            if (settings.highContrast)
+                file.write("[org/gnome/desktop/a11y/interface]\nhigh-contrast=" + *settings.highContrast +
+                           '\n');
+            file.close();
         }
         qputenv("HOME", QFile::encodeName(home.path()));
         qputenv("XDG_CONFIG_HOME", QFile::encodeName(home.filePath(u"config"_s)));
@@ -55,18 +97,18 @@ struct SettingsOnDisk {
         }
         qputenv("XDG_DATA_HOME", QFile::encodeName(home.path()));
         qputenv("XDG_DATA_DIRS", settings.hasSchemas ? "/usr/share" : QFile::encodeName(home.path()));
-        answer = DesktopSettings::allowsMotion();
+        answer = readElsewhere();
         const QDir::Filters all = QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot;
         if (QDir(home.path()).entryList(all) != QStringList{u"config"_s})
-            std::exit(2);
+            std::exit(strayFile);
     }
-    std::exit(answer ? 1 : 0);
+    std::exit(statusOf(answer));
 }
 
 /// Asked in a process of its own: the library remembers the first settings that it sees.
-void expectAnswer(const SettingsOnDisk &settings, bool answer)
+void expectAnswer(const SettingsOnDisk &settings, const DesktopSettings &answer)
 {
-    EXPECT_EXIT(exitWithAnswer(settings), ::testing::ExitedWithCode(answer ? 1 : 0), "^$");
+    EXPECT_EXIT(exitWithAnswer(settings), ::testing::ExitedWithCode(statusOf(answer)), "^$");
 }
 
 } // namespace
@@ -81,23 +123,33 @@ private:
     const std::string m_style = GTEST_FLAG_GET(death_test_style);
 };
 
-TEST_F(DesktopSettingsTest, motionIsAsTheUserHasChosen)
+TEST_F(DesktopSettingsTest, motionAndContrastAreAsTheUserHasChosen)
 {
     if (!QFile::exists(u"/usr/share/glib-2.0/schemas/org.gnome.desktop.interface.gschema.xml"_s))
         GTEST_SKIP() << "the desktop's settings are not installed";
-    expectAnswer({.animations = "false"}, false);
-    expectAnswer({.animations = "true"}, true);
-    expectAnswer({}, true);
+    expectAnswer({.animations = "false"}, {.allowsMotion = false});
+    expectAnswer({.animations = "true", .highContrast = "false"}, {});
+    expectAnswer({.highContrast = "true"}, {.wantsMoreContrast = true});
+    expectAnswer({}, {});
 }
 
-TEST_F(DesktopSettingsTest, whereNoSuchSettingIsKnownThingsMove)
+TEST_F(DesktopSettingsTest, whereNoSuchSettingIsKnownAllIsAsUsual)
 {
-    expectAnswer({.animations = "false", .hasSchemas = false}, true);
+    expectAnswer({.animations = "false", .highContrast = "true", .hasSchemas = false}, {});
+}
+
+TEST_F(DesktopSettingsTest, whatThePortalSaysCountsAsMuch)
+{
+    if (!SessionBus::isAvailable())
+        GTEST_SKIP() << "dbus-daemon is not installed";
+    expectAnswer({.portal = QVariantMap{{u"reduced-motion"_s, 1U}}}, {.allowsMotion = false});
+    expectAnswer({.portal = QVariantMap{{u"contrast"_s, 1U}}, .hasRuntimeFolder = false},
+                 {.wantsMoreContrast = true});
 }
 
 TEST_F(DesktopSettingsTest, withoutADesktopNothingIsLeftInTheHome)
 {
-    expectAnswer({.hasRuntimeFolder = false}, true);
+    expectAnswer({.hasRuntimeFolder = false}, {});
 }
 
 } // namespace roamlet::testing

@@ -5,6 +5,7 @@
 
 #include "App/Export/FileSavePanel.h"
 #include "App/Export/MessageAlert.h"
+#include "App/Look/Look.h"
 #include "App/Look/Motion.h"
 #include "App/Look/Symbol.h"
 #include "App/Settings/LoginItem.h"
@@ -15,7 +16,6 @@
 #include "App/Updates/Updater.h"
 #include "App/Window/OpenWindows.h"
 #include "Platform/ActivationPolicy.h"
-#include "Platform/DesktopSettings.h"
 #include "Platform/Linux/AutostartLoginService.h"
 #include "Platform/Linux/DBusRunningInstance.h"
 #include "Platform/Linux/LinuxActivationPolicy.h"
@@ -212,8 +212,20 @@ void RoamletApp::rest()
     });
 }
 
+void RoamletApp::readDesktopSettings()
+{
+    m_tasks.run(
+        &m_context, [read = m_services.desktopSettings](const std::stop_token & /*stop*/) { return read(); },
+        [](const DesktopSettings &settings) {
+            setMotionAllowed(settings.allowsMotion);
+            setContrast(settings.wantsMoreContrast ? Look::Contrast::More : Look::Contrast::Normal);
+        });
+}
+
 void RoamletApp::start(bool isLaunchedAtLogin)
 {
+    // While the window is being made, so that it is drawn only once.
+    readDesktopSettings();
     LoginItem::setUpOnFirstLaunch(m_services.loginService, m_services.platform.defaults);
     m_delegate.applicationWillFinishLaunching(isLaunchedAtLogin);
     m_delegate.applicationDidFinishLaunching();
@@ -269,7 +281,6 @@ int RoamletApp::runUntilTheEnd(int argc, char **argv, const std::stop_token &sto
     QApplication::setDesktopFileName(u"org.roamlet.Roamlet"_s);
     QApplication::setQuitOnLastWindowClosed(false);
     QLocale::setDefault(UserLocale::formats());
-    setMotionSetting(DesktopSettings::allowsMotion);
     // The words of Qt's own buttons and menus, and with them the direction in which the language is read.
     QTranslator translator;
     if (translator.load(QLocale::system(), u"qtbase"_s, u"_"_s,
@@ -324,6 +335,7 @@ int RoamletApp::runUntilTheEnd(int argc, char **argv, const std::stop_token &sto
                                          .savePanel = savePanel,
                                          .alert = alert,
                                          .updater = updater,
+                                         .desktopSettings = DesktopSettings::read,
                                          .hasTray = MenuBarIcon::isAvailable});
         app->start(isLaunchedAtLogin);
     };

@@ -10,6 +10,8 @@
 #include "App/Window/MainWindow.h"
 #include "Library/Library.h"
 #include "Opening/Opener.h"
+#include "Platform/BackgroundTasks.h"
+#include "Platform/DesktopSettings.h"
 #include "Platform/Platform.h"
 
 #include <QList>
@@ -41,6 +43,8 @@ public:
         SavePanel &savePanel;
         Alert &alert;
         Updater &updater;
+        /// What the user has set for the desktop. Never asked on the main thread.
+        std::function<DesktopSettings()> desktopSettings;
         /// Whether this desktop has a tray at present.
         std::function<bool()> hasTray;
     };
@@ -77,6 +81,8 @@ private:
     static int runUntilTheEnd(int argc, char **argv, const std::stop_token &stop,
                               std::optional<QString> &successor);
 
+    /// Follows what the user has set for the desktop, as soon as that is known.
+    void readDesktopSettings();
     /// Where there is none.
     void makeMainWindow();
     void dropClosedWindow();
@@ -96,6 +102,7 @@ private:
     std::unique_ptr<SettingsWindow> m_settingsWindow;
     MenuBarMenu m_menu;
     MenuBarIcon m_icon;
+    BackgroundTasks m_tasks;
 };
 
 } // namespace roamlet

@@ -3,12 +3,21 @@
 
 #pragma once
 
-/// What the user has set for the whole desktop. On the main thread.
-namespace roamlet::DesktopSettings
+namespace roamlet
 {
 
-/// Whether things may move on the screen; yes where the desktop has no such setting. The first answer takes a
-/// few milliseconds.
-bool allowsMotion();
+/// What the user has set for the whole desktop and everything on it has to follow.
+struct DesktopSettings {
+    /// Whether things may move on the screen.
+    bool allowsMotion = true;
+    /// Whether texts and signs have to stand out more than usual.
+    bool wantsMoreContrast = false;
 
-} // namespace roamlet::DesktopSettings
+    /// As the desktop says it, with the values above where it has no such settings. Takes a few milliseconds,
+    /// half a second where the desktop does not answer. On any thread, but never on the main one.
+    static DesktopSettings read();
+
+    bool operator==(const DesktopSettings &) const = default;
+};
+
+} // namespace roamlet

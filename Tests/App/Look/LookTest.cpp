@@ -355,6 +355,40 @@ TEST(LookTest, isMadeAnewWhenAWidgetHasAnotherThemeOrFont)
     EXPECT_EQ(Look::of(widget).measures.unit, QFontMetrics(large).height());
 }
 
+/// What it was told, and how it looked then.
+class ToldWidget final : public QWidget
+{
+public:
+    QList<QColor> quietInks;
+
+protected:
+    void changeEvent(QEvent *event) override
+    {
+        if (event->type() == QEvent::PaletteChange)
+            quietInks.append(Look::of(*this).list.quiet);
+    }
+};
+
+TEST(LookTest, allWidgetsStandOutMoreOnceTheDesktopAsksForIt)
+{
+    ToldWidget widget;
+    widget.setPalette(themePalette(breezeLight));
+    ToldWidget child;
+    child.setParent(&widget);
+    widget.quietInks.clear();
+    child.quietInks.clear();
+    const Look more = lookOf(breezeLight, Look::Contrast::More);
+    setContrast(Look::Contrast::More);
+    EXPECT_EQ(colorsOf(Look::of(widget)), colorsOf(more));
+    EXPECT_NE(colorsOf(more), colorsOf(lookOf(breezeLight)));
+    EXPECT_EQ(widget.quietInks, QList<QColor>{more.list.quiet});
+    EXPECT_EQ(child.quietInks, QList<QColor>{more.list.quiet});
+    setContrast(Look::Contrast::More);
+    EXPECT_EQ(widget.quietInks.size(), 1) << "it knew that";
+    setContrast(Look::Contrast::Normal);
+    EXPECT_EQ(colorsOf(Look::of(widget)), colorsOf(lookOf(breezeLight)));
+}
+
 TEST(LookTest, aColourGivenToAWidgetHoldsInEveryWindow)
 {
     QLabel label;

@@ -5,6 +5,8 @@
 
 #include "App/Look/Contrast.h"
 
+#include <QApplication>
+#include <QEvent>
 #include <QFontMetrics>
 #include <QWidget>
 #include <QtMath>
@@ -135,6 +137,9 @@ QColor translucent(QColor color, double share)
     color.setAlphaF(static_cast<float>(share));
     return color;
 }
+
+/// What the desktop has asked for.
+Look::Contrast wantedContrast = Look::Contrast::Normal;
 
 QFont scaledFont(QFont font, double factor)
 {
@@ -308,13 +313,17 @@ Look Look::of(const QWidget &widget)
     struct Made {
         qint64 palette;
         QFont font;
+        Contrast contrast;
         Look look;
     };
     static std::optional<Made> last;
     const QPalette &palette = widget.palette();
-    if (!last || last->palette != palette.cacheKey() || last->font != widget.font()) {
-        last.emplace(
-            Made{.palette = palette.cacheKey(), .font = widget.font(), .look = Look(palette, widget.font())});
+    if (!last || last->palette != palette.cacheKey() || last->font != widget.font() ||
+        last->contrast != wantedContrast) {
+        last.emplace(Made{.palette = palette.cacheKey(),
+                          .font = widget.font(),
+                          .contrast = wantedContrast,
+                          .look = Look(palette, widget.font(), wantedContrast)});
     }
     return last->look;
 }
@@ -324,6 +333,17 @@ QColor Look::mark(const QColor &square) const
     if (!m_isDark)
         return square;
     return readableShade(square, {list.base, sidebar.base, card.base}, m_markContrast).value_or(square);
+}
+
+void setContrast(Look::Contrast contrast)
+{
+    if (std::exchange(wantedContrast, contrast) == contrast)
+        return;
+    for (QWidget *widget : QApplication::allWidgets()) {
+        QEvent event(QEvent::PaletteChange);
+        QCoreApplication::sendEvent(widget, &event);
+        widget->update();
+    }
 }
 
 void setPaletteColor(QWidget &widget, QPalette::ColorRole role, const QColor &color)

@@ -107,7 +107,7 @@ struct Look {
 
     Look(const QPalette &palette, const QFont &font, Contrast contrast = Contrast::Normal);
 
-    /// For what this widget draws.
+    /// For what this widget draws, with the contrast that was set last.
     static Look of(const QWidget &widget);
 
     /// The square behind the sign of a browser, light enough for a dark theme.
@@ -178,6 +178,9 @@ private:
     double m_markContrast;
     bool m_isDark;
 };
+
+/// How much all widgets have to stand out from now on. They are told as if their palettes had changed.
+void setContrast(Look::Contrast contrast);
 
 /// Gives a widget that Qt draws one of these colours, until the theme changes.
 void setPaletteColor(QWidget &widget, QPalette::ColorRole role, const QColor &color);

@@ -6,45 +6,25 @@
 #include <QStyle>
 #include <QWidget>
 
-#include <optional>
-#include <utility>
-
 namespace roamlet
 {
 
 namespace
 {
 
-struct MotionSetting {
-    std::function<bool()> ask;
-    std::optional<bool> answer;
-};
-
-MotionSetting &motionSetting()
-{
-    static MotionSetting setting;
-    return setting;
-}
-
-bool isMotionAllowed()
-{
-    MotionSetting &setting = motionSetting();
-    if (!setting.answer)
-        setting.answer = !setting.ask || setting.ask();
-    return *setting.answer;
-}
+bool isMotionAllowed = true;
 
 } // namespace
 
-void setMotionSetting(std::function<bool()> isMotionAllowed)
+void setMotionAllowed(bool isAllowed)
 {
-    motionSetting() = {.ask = std::move(isMotionAllowed), .answer = {}};
+    isMotionAllowed = isAllowed;
 }
 
 bool isMotionWanted(const QWidget &widget)
 {
-    return widget.style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, &widget) > 0 &&
-           isMotionAllowed();
+    return isMotionAllowed &&
+           widget.style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, &widget) > 0;
 }
 
 int motionTime(const QWidget &widget, int milliseconds)

@@ -3,15 +3,13 @@
 
 #pragma once
 
-#include <functional>
-
 class QWidget;
 
 namespace roamlet
 {
 
-/// Who knows what the user has set for the desktop. Asked once, and not before something is about to move.
-void setMotionSetting(std::function<bool()> isMotionAllowed);
+/// What the user has set for the desktop. Until it is known, things may move.
+void setMotionAllowed(bool isAllowed);
 
 /// Whether the style and the desktop let things move. Where they do not, things are at once where they would
 /// have gone.
