@@ -136,6 +136,19 @@ void EmptyState::setText(const QString &text)
     m_text->setVisible(!text.isEmpty());
 }
 
+void EmptyState::setBox(QWidget *box)
+{
+    auto *column = qobject_cast<QVBoxLayout *>(layout());
+    const int afterText = column->indexOf(m_text) + 1;
+    column->insertSpacing(afterText, Measures(font()).units(gapBetweenLines));
+    auto *line = new QHBoxLayout;
+    line->addStretch();
+    // As wide as it may get, in the middle.
+    line->addWidget(box, 1);
+    line->addStretch();
+    column->insertLayout(afterText + 1, line);
+}
+
 QPushButton *EmptyState::addAction(const QString &title, const QString &objectName)
 {
     auto *button = new QPushButton(title, this);

@@ -25,8 +25,9 @@ public:
     void setTitle(const QString &title);
     /// A longer text under the title; empty for none.
     void setText(const QString &text);
+    /// What stands under the text and belongs to it.
+    void setBox(QWidget *box);
     /// A button under the text that says what can be done.
-
     QPushButton *addAction(const QString &title, const QString &objectName);
     QString title() const;
     QString text() const;
