@@ -8,6 +8,7 @@
 #include "App/Tables/BookmarkTable.h"
 #include "App/Tables/BookmarkTree.h"
 #include "App/Tables/LocalText.h"
+#include "App/Window/BrowserPlaces.h"
 #include "App/Window/DetailHeader.h"
 #include "App/Window/EmptyState.h"
 #include "App/Window/FullDiskAccessBanner.h"
@@ -19,7 +20,6 @@
 #include "App/Window/SiteFilterBar.h"
 #include "Library/Library.h"
 #include "Lists/Refine.h"
-#include "Model/Browser.h"
 #include "Platform/Clock.h"
 #include "Platform/Folders.h"
 #include "Platform/UserDefaults.h"
@@ -65,31 +65,6 @@ protected:
                       layoutDirection() == Qt::RightToLeft ? Qt::LeftEdge : Qt::RightEdge, sidebar.hairline);
     }
 };
-
-/// Where we look for browsers, for a user who has none that we know.
-QString whereWeLooked(const Folders &folders)
-{
-    QStringList names;
-    QStringList places;
-    const QString home = folders.home() % u'/';
-    for (const Browser &browser : Browser::all()) {
-        names.append(browser.displayName);
-        QStringList ofBrowser = folders.dataFolders(browser.kind, {});
-        // A Mac's place stands first, beside those of this system.
-        if (ofBrowser.size() > 1)
-            ofBrowser.removeFirst();
-        for (QString &place : ofBrowser) {
-            if (place.startsWith(home))
-                place.replace(0, home.size(), u"~/"_s);
-        }
-        places.append(ofBrowser.join(u", "_s));
-    }
-    const QString last = names.takeLast();
-    return ContentView::tr("Roamlet looks for the data of %1 and %2 in these folders, in those of their beta "
-                           "versions, Flatpaks and snaps, and where a Mac keeps them:")
-               .arg(names.join(u", "_s), last) %
-           u"\n\n" % places.join(u'\n');
-}
 
 } // namespace
 
@@ -259,7 +234,8 @@ EmptyState *ContentView::noBrowsers()
 {
     if (m_noBrowsers == nullptr) {
         m_noBrowsers = new EmptyState(u"globe"_s, tr("No browsers found"), this);
-        m_noBrowsers->setText(whereWeLooked(m_services.folders));
+        m_noBrowsers->setText(BrowserPlaces::introduction());
+        m_noBrowsers->setBox(new BrowserPlaces(m_services.folders));
         QPushButton *reload = m_noBrowsers->addAction(tr("Reload"), u"noBrowsersReload"_s);
         reload->setDefault(true);
         connect(reload, &QPushButton::clicked, this, &ContentView::reload);
