@@ -7,7 +7,6 @@
 #include "App/Look/Painting.h"
 #include "App/Look/Symbol.h"
 
-#include <QFocusEvent>
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOptionToolButton>
@@ -44,15 +43,6 @@ QSize HeaderButton::sizeHint() const
     return {measures.iconSide + (2 * padding()), measures.controlHeight};
 }
 
-void HeaderButton::focusInEvent(QFocusEvent *event)
-{
-    const Qt::FocusReason reason = event->reason();
-    if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason)
-        m_hasRing = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
-                    reason == Qt::ShortcutFocusReason;
-    QToolButton::focusInEvent(event);
-}
-
 void HeaderButton::paintEvent(QPaintEvent * /*event*/)
 {
     QStyleOptionToolButton option;
@@ -66,7 +56,7 @@ void HeaderButton::paintEvent(QPaintEvent * /*event*/)
         painter.setBrush(isDown() ? look.list.pressed : look.list.hover);
         painter.drawRoundedRect(rect(), radius, radius);
     }
-    if (hasFocus() && m_hasRing)
+    if (showsFocus(*this))
         drawFocusRing(painter, rect(), radius, look);
     paintContent(painter, rect().adjusted(padding(), 0, -padding(), 0));
 }

@@ -23,7 +23,6 @@ public:
     QSize minimumSizeHint() const override { return sizeHint(); }
 
 protected:
-    void focusInEvent(QFocusEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     /// Draws what the button shows between its paddings.
     virtual void paintContent(QPainter &painter, const QRect &content);
@@ -35,8 +34,6 @@ protected:
 
 private:
     QString m_symbol;
-    /// A window that opens gives the focus to somebody; a ring tells of a key that was pressed.
-    bool m_hasRing = false;
 };
 
 } // namespace roamlet
