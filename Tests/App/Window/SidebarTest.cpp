@@ -188,7 +188,9 @@ TEST_F(SidebarTest, theSelectionTellsWhetherTheKeyboardIsInIt)
         const QRect row = sidebar.visualRect(sidebar.currentIndex());
         return image().pixelColor(row.right() - 16, row.center().y());
     };
-    sidebar.setFocus(Qt::TabFocusReason);
+    other.setFocus();
+    QTest::keyClick(&other, Qt::Key_Tab);
+    ASSERT_TRUE(sidebar.hasFocus());
     const QColor selected = Look::of(sidebar).sidebar.selected.base;
     const QImage withFocus = image();
     EXPECT_EQ(ground(), selected);
@@ -342,6 +344,42 @@ TEST_F(SidebarTest, aSourceIsDraggedToAnotherPlace)
     letGo(0);
     EXPECT_EQ(sections(), (QStringList{u"[Library]"_s, u"[Chrome - Personal]"_s, u"[Edge - Office]"_s}));
     EXPECT_TRUE(shown.isExpanded(shown.model()->index(1, 0))) << "a drag folds nothing";
+}
+
+TEST_F(SidebarTest, aSourceIsCarriedToAnotherPlaceByKey)
+{
+    addChromium();
+    loadNow(*library);
+    const auto sections = [this] { return texts(*sidebar.model()).filter(u"["_s).mid(1); };
+    const QStringList before{u"[Chrome - Personal]"_s, u"[Chrome - Work]"_s, u"[Edge - Office]"_s};
+    ASSERT_EQ(sections(), before);
+    sidebar.select(BookmarksPane{u"chrome/Default"_s});
+    QTest::keyClick(&sidebar, Qt::Key_Up, Qt::AltModifier);
+    EXPECT_EQ(sections(), before) << "nothing comes before the library";
+    QTest::keyClick(&sidebar, Qt::Key_Down, Qt::AltModifier);
+    QTest::keyClick(&sidebar, Qt::Key_Down, Qt::ControlModifier);
+    const QStringList carried{u"[Chrome - Work]"_s, u"[Edge - Office]"_s, u"[Chrome - Personal]"_s};
+    EXPECT_EQ(sections(), carried);
+    QTest::keyClick(&sidebar, Qt::Key_Down, Qt::AltModifier);
+    EXPECT_EQ(sections(), carried) << "it is the last one";
+    EXPECT_EQ(sidebar.pane(), Pane(BookmarksPane{u"chrome/Default"_s}));
+    EXPECT_EQ(sidebar.currentIndex().data(Qt::AccessibleTextRole), u"Chrome - Personal: Bookmarks"_s);
+
+    // A folded section is carried as a whole, while another one is shown.
+    QTest::keyClick(&sidebar, Qt::Key_Left);
+    sidebar.select(HistoryPane());
+    sidebar.setCurrentIndex(sidebar.model()->index(3, 0));
+    QTest::keyClick(&sidebar, Qt::Key_Up, Qt::AltModifier);
+    QTest::keyClick(&sidebar, Qt::Key_Up, Qt::AltModifier);
+    EXPECT_EQ(sections(), before);
+    EXPECT_EQ(sidebar.currentIndex(), sidebar.model()->index(1, 0));
+    EXPECT_TRUE(isFolded(1));
+    EXPECT_EQ(sidebar.pane(), Pane(HistoryPane()));
+
+    sidebar.select(MostVisitedPane());
+    QTest::keyClick(&sidebar, Qt::Key_Down, Qt::AltModifier);
+    EXPECT_EQ(sections(), before) << "the library stays";
+    EXPECT_EQ(sidebar.pane(), Pane(MostVisitedPane()));
 }
 
 TEST_F(SidebarTest, slidingOverRowsWithAButtonDownSelectsNoneOfThem)

@@ -4,6 +4,7 @@
 #include "App/Window/Sidebar.h"
 
 #include "App/Look/Look.h"
+#include "App/Look/Painting.h"
 #include "App/Look/Symbol.h"
 #include "App/Window/PaneText.h"
 #include "App/Window/SidebarDelegate.h"
@@ -183,10 +184,10 @@ bool Sidebar::viewportEvent(QEvent *event)
 
 void Sidebar::keyPressEvent(QKeyEvent *event)
 {
-    if (!m_isByKeyboard) {
-        m_isByKeyboard = true;
-        viewport()->update();
-    }
+    // From now on the current row is to be seen.
+    window()->setAttribute(Qt::WA_KeyboardFocusChange);
+    viewport()->update();
+    const bool carries = event->modifiers() == Qt::AltModifier || event->modifiers() == Qt::ControlModifier;
     const QModelIndex current = currentIndex();
     const QModelIndex section = isSection(current) ? current : current.parent();
     const bool isMirrored = isRightToLeft();
@@ -216,22 +217,18 @@ void Sidebar::keyPressEvent(QKeyEvent *event)
             Q_EMIT rowChosen();
         return;
     case Qt::Key_Up:
-        return move(MoveUp);
-    case Qt::Key_Down:
-        return move(MoveDown);
+    case Qt::Key_Down: {
+        const bool isUp = event->key() == Qt::Key_Up;
+        // The target counts places before the move.
+        if (carries)
+            carry(section, isUp ? section.row() - 1 : section.row() + 2);
+        else
+            move(isUp ? MoveUp : MoveDown);
+        return;
+    }
     default:
         QTreeView::keyPressEvent(event);
     }
-}
-
-void Sidebar::focusInEvent(QFocusEvent *event)
-{
-    using Reason = Qt::FocusReason;
-    const Reason reason = event->reason();
-    if (reason == Reason::TabFocusReason || reason == Reason::BacktabFocusReason ||
-        reason == Reason::ShortcutFocusReason)
-        m_isByKeyboard = true;
-    QTreeView::focusInEvent(event);
 }
 
 void Sidebar::focusOutEvent(QFocusEvent *event)
@@ -242,7 +239,7 @@ void Sidebar::focusOutEvent(QFocusEvent *event)
 
 void Sidebar::mousePressEvent(QMouseEvent *event)
 {
-    m_isByKeyboard = false;
+    window()->setAttribute(Qt::WA_KeyboardFocusChange, false);
     if (event->button() == Qt::LeftButton) {
         m_pressed = indexAt(event->position().toPoint());
         m_pressedAt = event->position().toPoint();
@@ -322,6 +319,22 @@ void Sidebar::drop(const QModelIndex &section, int target)
     m_services.library.moveProfiles({offset(section.row())}, destination);
 }
 
+void Sidebar::carry(const QModelIndex &section, int target)
+{
+    // The first section is of all sources, and stays where it is.
+    if (!m_model->source(section) || target < 1 || target > m_model->rowCount())
+        return;
+    const bool isAtSection = currentIndex() == section;
+    const QString id = m_model->sectionID(section);
+    drop(section, target);
+    for (int number = 0; isAtSection && number < m_model->rowCount(); ++number) {
+        const QModelIndex carried = m_model->index(number, 0);
+        if (m_model->sectionID(carried) == id)
+            selectionModel()->setCurrentIndex(carried, QItemSelectionModel::NoUpdate);
+    }
+    scrollTo(currentIndex());
+}
+
 void Sidebar::endDragging()
 {
     m_pressed = QPersistentModelIndex();
@@ -373,7 +386,7 @@ void Sidebar::drawRow(QPainter *painter, const QStyleOptionViewItem &option, con
     QStyleOptionViewItem row(option);
     row.widget = this;
     row.rect = QRect(0, option.rect.top(), viewport()->width(), option.rect.height());
-    const bool hasRing = hasFocus() && m_isByKeyboard && index == currentIndex();
+    const bool hasRing = showsFocus(*this) && index == currentIndex();
     row.state.setFlag(QStyle::State_Selected, selectionModel()->isSelected(index));
     row.state.setFlag(QStyle::State_MouseOver, index == m_hovered);
     row.state.setFlag(QStyle::State_Open, isExpanded(index));

@@ -19,7 +19,8 @@ namespace roamlet
 class SidebarModel;
 
 /// The list at the window's leading edge from which a pane is chosen. Its sections can be folded and those of
-/// the sources dragged into another order; both are remembered.
+/// the sources dragged into another order, or carried there
+/// with Alt and the arrow keys; both are remembered.
 class Sidebar final : public QTreeView
 {
     Q_OBJECT
@@ -52,7 +53,6 @@ protected:
     bool event(QEvent *event) override;
     bool viewportEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
-    void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
     /// Only the left button chooses, and only where it was pressed: a menu of another row leaves the shown
     /// one where it is.
@@ -80,6 +80,8 @@ private:
     /// Before which section, counted with the first one, something would be dropped here.
     int dropTarget(int y) const;
     void drop(const QModelIndex &section, int target);
+    /// The same by key, which the current row follows.
+    void carry(const QModelIndex &section, int target);
     void endDragging();
 
     WindowServices m_services;
@@ -87,8 +89,6 @@ private:
     SourceIcons m_sourceIcons;
     std::optional<Pane> m_pane;
     bool m_isRestoring = false;
-    /// The keyboard came here by itself, not with a click.
-    bool m_isByKeyboard = false;
     QPersistentModelIndex m_hovered;
     QPersistentModelIndex m_pressed;
     QPoint m_pressedAt;
