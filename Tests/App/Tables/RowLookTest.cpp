@@ -3,6 +3,7 @@
 
 #include "App/Look/Contrast.h"
 #include "App/Look/Look.h"
+#include "App/Look/StillStyle.h"
 #include "App/Tables/HistoryTable.h"
 #include "App/Tables/RowBubble.h"
 #include "App/Tables/RowDelegate.h"
@@ -232,6 +233,27 @@ TEST_F(RowLookTest, theBubbleTellsOfTheRowOnWhichThePointerRests)
     QEvent leave(QEvent::Leave);
     QCoreApplication::sendEvent(view().viewport(), &leave);
     EXPECT_FALSE(bubble().isVisible());
+}
+
+TEST_F(RowLookTest, theBubbleComesInByAndBy)
+{
+    RowBubble own(view().viewport());
+    const auto ground = [&own] {
+        QImage image(own.size(), QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::transparent);
+        own.render(&image, {}, {}, QWidget::DrawChildren);
+        return image.pixelColor(own.width() / 2, 3);
+    };
+    own.showRow(u"https://a.example/"_s, {});
+    ASSERT_TRUE(own.isVisible());
+    EXPECT_LT(ground().alpha(), 255);
+    EXPECT_TRUE(waitUntil([&ground] { return ground().alpha() == 255; }));
+    own.dismiss();
+    StillStyle style;
+    own.setStyle(&style);
+    own.showRow(u"https://a.example/"_s, {});
+    EXPECT_EQ(ground().alpha(), 255);
+    own.setStyle(nullptr);
 }
 
 TEST_F(RowLookTest, theBubbleMakesWayForThePointer)

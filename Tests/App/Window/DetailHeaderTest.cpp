@@ -204,6 +204,28 @@ TEST_F(DetailHeaderTest, aButtonHasARingOnlyAfterAKey)
     EXPECT_EQ(edge(), accent);
 }
 
+TEST_F(DetailHeaderTest, aButtonIsLitByAndByUnderThePointer)
+{
+    auto *reload = part<ReloadButton>(u"reloadButton"_s);
+    const auto ground = [reload] { return reload->grab().toImage().pixelColor(reload->width() / 2, 2); };
+    const auto enter = [reload] {
+        reload->setAttribute(Qt::WA_UnderMouse);
+        QHoverEvent event(QEvent::HoverEnter, QPointF(2, 2), QPointF(2, 2), QPointF());
+        QCoreApplication::sendEvent(reload, &event);
+    };
+    const RowGround list = Look::of(header).list;
+    enter();
+    EXPECT_NE(ground(), list.hover);
+    EXPECT_TRUE(waitUntil([&] { return ground() == list.hover; }));
+    reload->setAttribute(Qt::WA_UnderMouse, false);
+    EXPECT_NE(ground(), list.hover);
+    StillStyle style;
+    reload->setStyle(&style);
+    enter();
+    EXPECT_EQ(ground(), list.hover);
+    reload->setStyle(nullptr);
+}
+
 TEST_F(DetailHeaderTest, theArrowTurnsAtLeastOnce)
 {
     auto *reload = part<ReloadButton>(u"reloadButton"_s);

@@ -4,6 +4,7 @@
 #include "App/Window/Sidebar.h"
 
 #include "App/Look/Look.h"
+#include "App/Look/StillStyle.h"
 #include "App/Window/SidebarModel.h"
 #include "App/Window/WindowTest.h"
 #include "Support/Waiting.h"
@@ -16,6 +17,7 @@
 #include <QTest>
 
 #include <gmock/gmock.h>
+#include <utility>
 
 namespace roamlet::testing
 {
@@ -279,6 +281,56 @@ TEST_F(SidebarTest, theArrowKeysFoldAndOpenASection)
     EXPECT_TRUE(isFolded(1));
     QTest::keyClick(&sidebar, Qt::Key_Space);
     EXPECT_FALSE(isFolded(1));
+}
+
+TEST_F(SidebarTest, theArrowOfASectionTurnsAndRowsAreLitByAndBy)
+{
+    addChromium();
+    loadNow(*library);
+    sidebar.show();
+    sidebar.activateWindow();
+    ASSERT_TRUE(waitUntil([this] { return sidebar.isActiveWindow(); }));
+    sidebar.setFocus();
+    const auto image = [this](const QModelIndex &index) {
+        return sidebar.viewport()->grab(sidebar.visualRect(index)).toImage();
+    };
+    const QModelIndex section = sidebar.model()->index(1, 0);
+    sidebar.setCurrentIndex(section);
+    StillStyle style;
+    sidebar.viewport()->setStyle(&style);
+    QTest::keyClick(&sidebar, Qt::Key_Left);
+    const QImage folded = image(section);
+    QTest::keyClick(&sidebar, Qt::Key_Right);
+    const QImage open = image(section);
+    EXPECT_NE(folded, open);
+    sidebar.viewport()->setStyle(nullptr);
+    QTest::keyClick(&sidebar, Qt::Key_Left);
+    const QImage onTheWay = image(section);
+    EXPECT_NE(onTheWay, open);
+    EXPECT_NE(onTheWay, folded);
+    EXPECT_TRUE(waitUntil([&] { return image(section) == folded; }));
+
+    const QModelIndex row = line(*sidebar.model(), 2);
+    const auto ground = [&] {
+        return image(row).pixelColor(image(row).width() - 20, image(row).height() / 2);
+    };
+    const auto point = [&] {
+        const QPointF place = sidebar.visualRect(row).center();
+        QHoverEvent move(QEvent::HoverMove, place, place, QPointF());
+        QCoreApplication::sendEvent(sidebar.viewport(), &move);
+    };
+    const RowGround colors = Look::of(sidebar).sidebar;
+    point();
+    EXPECT_NE(ground(), colors.hover);
+    EXPECT_TRUE(waitUntil([&] { return ground() == colors.hover; }));
+    QHoverEvent leave(QEvent::HoverLeave, QPointF(), QPointF(), QPointF());
+    QCoreApplication::sendEvent(sidebar.viewport(), &leave);
+    EXPECT_EQ(ground(), colors.base);
+
+    sidebar.viewport()->setStyle(&style);
+    point();
+    EXPECT_EQ(ground(), colors.hover);
+    sidebar.viewport()->setStyle(nullptr);
 }
 
 TEST_F(SidebarTest, aProblemStandsAtItsSource)

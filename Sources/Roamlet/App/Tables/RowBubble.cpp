@@ -21,10 +21,11 @@ namespace
 {
 
 /// Of the list's width.
-constexpr double widest = 0.72;
+constexpr double widestShare = 0.72;
 constexpr double heightInLines = 1.5;
 constexpr double gapInLines = 1.5;
 constexpr double endInLines = 0.75;
+constexpr int comingTime = 100; // milliseconds
 
 /// Where the name of the host begins in an address, and how long it is.
 std::pair<qsizetype, qsizetype> hostOf(const QString &address)
@@ -36,7 +37,7 @@ std::pair<qsizetype, qsizetype> hostOf(const QString &address)
 
 } // namespace
 
-RowBubble::RowBubble(QWidget *viewport) : QWidget(viewport)
+RowBubble::RowBubble(QWidget *viewport) : QWidget(viewport), m_coming(*this, comingTime)
 {
     setObjectName(QStringLiteral("rowBubble"));
     setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -75,7 +76,7 @@ QRect RowBubble::placeAt(bool isTheEnd) const
     const int date =
         m_date.isEmpty() ? 0 : metrics.horizontalAdvance(m_date) + look.measures.units(gapInLines);
     const int wanted = look.measures.alignmentLine + address + date + look.measures.units(endInLines) + 1;
-    const int width = std::min(wanted, qRound(space.width() * widest));
+    const int width = std::min(wanted, qRound(space.width() * widestShare));
     const int height = look.measures.units(heightInLines);
     const int left = isTheEnd ? space.width() - width : 0;
     return QStyle::visualRect(layoutDirection(), space,
@@ -102,12 +103,19 @@ QString RowBubble::shownAddress(int width) const
     return QFontMetrics(Look::of(*parentWidget()).smallFont).elidedText(m_address, Qt::ElideMiddle, width);
 }
 
+void RowBubble::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    m_coming.begin();
+}
+
 void RowBubble::paintEvent(QPaintEvent * /*event*/)
 {
     const Look look = Look::of(*parentWidget());
     const Measures &measures = look.measures;
     const bool isMirrored = layoutDirection() == Qt::RightToLeft;
     QPainter painter(this);
+    painter.setOpacity(m_coming.share());
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF body = QRectF(rect()).adjusted(0.5, 0.5, -0.5, 0.5);
     const qreal radius = measures.fieldRadius;

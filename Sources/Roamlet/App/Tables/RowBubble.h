@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "App/Look/Fade.h"
+
 #include <QPoint>
 #include <QString>
 #include <QWidget>
@@ -31,6 +33,7 @@ public:
     const QString &date() const { return m_date; }
 
 protected:
+    void showEvent(QShowEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
@@ -42,6 +45,7 @@ private:
     QPoint m_pointer;
     bool m_isWanted = false;
     bool m_isAtTheEnd = false;
+    Fade m_coming;
 };
 
 } // namespace roamlet

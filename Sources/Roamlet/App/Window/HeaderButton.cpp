@@ -3,10 +3,12 @@
 
 #include "App/Window/HeaderButton.h"
 
+#include "App/Look/Contrast.h"
 #include "App/Look/Look.h"
 #include "App/Look/Painting.h"
 #include "App/Look/Symbol.h"
 
+#include <QEvent>
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOptionToolButton>
@@ -15,7 +17,7 @@ namespace roamlet
 {
 
 HeaderButton::HeaderButton(const QString &symbol, const QString &name, QWidget *parent)
-    : QToolButton(parent), m_symbol(symbol)
+    : QToolButton(parent), m_symbol(symbol), m_lighting(*this, Fade::hoverTime)
 {
     setText(name);
     setToolTip(name);
@@ -43,6 +45,13 @@ QSize HeaderButton::sizeHint() const
     return {measures.iconSide + (2 * padding()), measures.controlHeight};
 }
 
+bool HeaderButton::event(QEvent *event)
+{
+    if (event->type() == QEvent::HoverEnter)
+        m_lighting.begin();
+    return QToolButton::event(event);
+}
+
 void HeaderButton::paintEvent(QPaintEvent * /*event*/)
 {
     QStyleOptionToolButton option;
@@ -53,7 +62,8 @@ void HeaderButton::paintEvent(QPaintEvent * /*event*/)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     if (isEnabled() && (isDown() || option.state.testFlag(QStyle::State_MouseOver))) {
-        painter.setBrush(isDown() ? look.list.pressed : look.list.hover);
+        painter.setBrush(isDown() ? look.list.pressed
+                                  : mixedColor(look.list.base, look.list.hover, m_lighting.share()));
         painter.drawRoundedRect(rect(), radius, radius);
     }
     if (showsFocus(*this))

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "App/Look/Fade.h"
+
 #include <QString>
 #include <QToolButton>
 
@@ -23,6 +25,7 @@ public:
     QSize minimumSizeHint() const override { return sizeHint(); }
 
 protected:
+    bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     /// Draws what the button shows between its paddings.
     virtual void paintContent(QPainter &painter, const QRect &content);
@@ -34,6 +37,7 @@ protected:
 
 private:
     QString m_symbol;
+    Fade m_lighting;
 };
 
 } // namespace roamlet

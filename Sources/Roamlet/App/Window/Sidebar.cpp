@@ -33,6 +33,7 @@ namespace
 {
 
 const QString foldedKey = u"sidebar.folded"_s;
+constexpr int turningTime = 120; // milliseconds
 
 } // namespace
 
@@ -40,12 +41,15 @@ Sidebar::Sidebar(const WindowServices &services, QWidget *parent)
     : QTreeView(parent),
       m_services(services),
       m_model(new SidebarModel(services.library, this)),
-      m_sourceIcons(services.library, services.opener, *this)
+      m_sourceIcons(services.library, services.opener, *this),
+      m_delegate(new SidebarDelegate(m_sourceIcons, this)),
+      m_lighting(*viewport(), Fade::hoverTime),
+      m_turning(*viewport(), turningTime)
 {
     setObjectName(u"sidebar"_s);
     setAccessibleName(tr("Sidebar"));
     setModel(m_model);
-    setItemDelegate(new SidebarDelegate(m_sourceIcons, this));
+    setItemDelegate(m_delegate);
     setFrameShape(QFrame::NoFrame);
     setMinimumWidth(minimumWidthOfColumn);
     setSelectionMode(QAbstractItemView::SingleSelection);
@@ -63,10 +67,14 @@ Sidebar::Sidebar(const WindowServices &services, QWidget *parent)
     viewport()->setBackgroundRole(QPalette::Window);
     updateColors();
     restoreFolded();
-    connect(this, &QTreeView::collapsed, this,
-            [this](const QModelIndex &index) { storeFolded(index, true); });
-    connect(this, &QTreeView::expanded, this,
-            [this](const QModelIndex &index) { storeFolded(index, false); });
+    connect(this, &QTreeView::collapsed, this, [this](const QModelIndex &index) {
+        storeFolded(index, true);
+        turn(index);
+    });
+    connect(this, &QTreeView::expanded, this, [this](const QModelIndex &index) {
+        storeFolded(index, false);
+        turn(index);
+    });
     connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, &Sidebar::followSelection);
     // A reset empties the selection; the window's pane stays what it was.
     connect(m_model, &QAbstractItemModel::modelAboutToBeReset, this, [this] {
@@ -115,6 +123,15 @@ void Sidebar::setFolded(const QModelIndex &section, bool isFolded)
     if (isFolded && currentIndex().parent() == section)
         selectionModel()->setCurrentIndex(section, QItemSelectionModel::NoUpdate);
     setExpanded(section, !isFolded);
+}
+
+void Sidebar::turn(const QModelIndex &section)
+{
+    // What comes with its place has not moved.
+    if (m_isRestoring)
+        return;
+    m_turned = section;
+    m_turning.begin();
 }
 
 void Sidebar::storeFolded(const QModelIndex &section, bool isFolded)
@@ -176,6 +193,7 @@ bool Sidebar::viewportEvent(QEvent *event)
             isMoving ? indexAt(static_cast<QHoverEvent *>(event)->position().toPoint()) : QModelIndex();
         if (hovered != m_hovered) {
             m_hovered = hovered;
+            m_lighting.begin();
             viewport()->update();
         }
     }
@@ -391,7 +409,8 @@ void Sidebar::drawRow(QPainter *painter, const QStyleOptionViewItem &option, con
     row.state.setFlag(QStyle::State_MouseOver, index == m_hovered);
     row.state.setFlag(QStyle::State_Open, isExpanded(index));
     row.state.setFlag(QStyle::State_HasFocus, hasRing);
-    itemDelegate()->paint(painter, row, index);
+    m_delegate->setMotion({.lit = m_lighting.share(), .turned = m_turned == index ? m_turning.share() : 1});
+    m_delegate->paint(painter, row, index);
 }
 
 void Sidebar::updateColors()

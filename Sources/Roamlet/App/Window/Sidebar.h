@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "App/Look/Fade.h"
 #include "App/Look/SourceIcons.h"
 #include "App/Window/Pane.h"
 #include "App/Window/WindowServices.h"
@@ -16,6 +17,7 @@
 namespace roamlet
 {
 
+class SidebarDelegate;
 class SidebarModel;
 
 /// The list at the window's leading edge from which a pane is chosen. Its sections can be folded and those of
@@ -75,6 +77,7 @@ private:
     void followSelection();
     bool isSection(const QModelIndex &index) const;
     void setFolded(const QModelIndex &section, bool isFolded);
+    void turn(const QModelIndex &section);
     void storeFolded(const QModelIndex &section, bool isFolded);
     void restoreFolded();
     /// Before which section, counted with the first one, something would be dropped here.
@@ -89,7 +92,13 @@ private:
     SourceIcons m_sourceIcons;
     std::optional<Pane> m_pane;
     bool m_isRestoring = false;
+    SidebarDelegate *m_delegate;
     QPersistentModelIndex m_hovered;
+    /// It lights up the row under the pointer.
+    Fade m_lighting;
+    /// The section that was opened or folded last, and its arrow on the way.
+    QPersistentModelIndex m_turned;
+    Fade m_turning;
     QPersistentModelIndex m_pressed;
     QPoint m_pressedAt;
     std::optional<int> m_dropTarget;

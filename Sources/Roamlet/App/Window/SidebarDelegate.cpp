@@ -4,6 +4,7 @@
 #include "App/Window/SidebarDelegate.h"
 
 #include "App/Look/Chevron.h"
+#include "App/Look/Contrast.h"
 #include "App/Look/Look.h"
 #include "App/Look/Painting.h"
 #include "App/Look/SourceIcons.h"
@@ -117,7 +118,7 @@ void SidebarDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
     const int radius = look.measures.rowRadius;
     if (isSelected || (isHovered && !isHeading)) {
         painter->setPen(Qt::NoPen);
-        painter->setBrush(isSelected ? ground.base : sidebar.hover);
+        painter->setBrush(isSelected ? ground.base : mixedColor(sidebar.base, sidebar.hover, m_motion.lit));
         painter->drawRoundedRect(row.body(), radius, radius);
     }
     if (option.state.testFlag(QStyle::State_HasFocus)) {
@@ -139,11 +140,9 @@ void SidebarDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
         if (!index.data(SidebarModel::ProblemRole).toString().isEmpty())
             symbolIcon(u"exclamationmark.triangle"_s, look.warningMark).paint(painter, row.placeAtEnd());
         const bool isOpen = option.state.testFlag(QStyle::State_Open);
-        if (!isOpen || isHovered) {
-            const bool isMirrored = option.direction == Qt::RightToLeft;
-            const Qt::ArrowType folded = isMirrored ? Qt::LeftArrow : Qt::RightArrow;
-            drawChevron(*painter, row.placeAtEnd(), isOpen ? Qt::DownArrow : folded, sidebar.quiet);
-        }
+        if (!isOpen || isHovered || m_motion.turned < 1)
+            drawChevron(*painter, row.placeAtEnd(), isOpen ? m_motion.turned : 1 - m_motion.turned,
+                        option.direction, sidebar.quiet);
     } else {
         painter->setFont(option.font);
         const QColor color = !isSelected ? sidebar.quiet : isActive ? look.accent : ground.ink;

@@ -20,12 +20,21 @@ public:
     /// The icons outlive it.
     SidebarDelegate(SourceIcons &sourceIcons, QObject *parent);
 
+    /// How far the row that is painted next is lit by the pointer, and its arrow turned since the section was
+    /// opened or folded.
+    struct Motion {
+        double lit = 1;
+        double turned = 1;
+    };
+    void setMotion(const Motion &motion) { m_motion = motion; }
+
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
     void paint(QPainter *painter, const QStyleOptionViewItem &option,
                const QModelIndex &index) const override;
 
 private:
     SourceIcons &m_sourceIcons;
+    Motion m_motion;
 };
 
 } // namespace roamlet
