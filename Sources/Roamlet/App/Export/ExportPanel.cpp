@@ -8,11 +8,11 @@
 #include "App/Look/BoxedComboBox.h"
 #include "App/Look/BoxedList.h"
 #include "App/Look/ChoiceRow.h"
+#include "App/Look/ForeignText.h"
 #include "App/Look/Look.h"
 #include "App/Look/Painting.h"
 #include "App/Look/RoamletStyle.h"
 #include "App/Look/Symbol.h"
-#include "App/Tables/CellText.h"
 #include "Library/Library.h"
 #include "Platform/ActivationPolicy.h"
 #include "Platform/UserDefaults.h"
@@ -223,7 +223,7 @@ void ExportPanel::fillSources()
         // A profile's name has no limit; the list has.
         constexpr qsizetype longestLabel = 80;
         m_sources->addItem(
-            icon, tr("%1 (%2)").arg(CellText::oneLine(label, longestLabel), locale().toString(count)));
+            icon, tr("%1 (%2)").arg(ForeignText::oneLine(label, longestLabel), locale().toString(count)));
         m_choices.append(id);
         if (id == m_sourceID)
             m_sources->setCurrentIndex(m_sources->count() - 1);

@@ -3,6 +3,7 @@
 
 #include "App/Look/ElidedLabel.h"
 
+#include "App/Look/ForeignText.h"
 #include "App/Look/Painting.h"
 
 #include <QHelpEvent>
@@ -13,14 +14,6 @@
 namespace roamlet
 {
 
-namespace
-{
-
-/// More than fits on any screen. Measuring a text of a million characters takes seconds.
-constexpr qsizetype longestLine = 1000;
-
-} // namespace
-
 ElidedLabel::ElidedLabel(QWidget *parent) : QLabel(parent)
 {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
@@ -28,8 +21,8 @@ ElidedLabel::ElidedLabel(QWidget *parent) : QLabel(parent)
 
 void ElidedLabel::setText(const QString &text, const QString &strong)
 {
-    const QString line = text.left(longestLine).simplified();
-    const QString strongLine = strong.left(longestLine).simplified();
+    const QString line = ForeignText::inLabel(text);
+    const QString strongLine = ForeignText::inLabel(strong);
     if (text + strong == m_text && line == m_line && strongLine == m_strong)
         return;
     m_text = text + strong;
@@ -111,9 +104,8 @@ bool ElidedLabel::event(QEvent *event)
     if (!toolTip().isEmpty())
         return QLabel::event(event);
     if (signWidth() + textWidth() > width()) {
-        // Plain text: what comes from a file shall not be taken for HTML.
-        const QString tip = u"<qt>" % m_text.left(longestLine).toHtmlEscaped() % u"</qt>";
-        QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), tip, this);
+        QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), ForeignText::wrappedToolTip(m_text),
+                           this);
     }
     return true;
 }

@@ -3,8 +3,7 @@
 
 #include "App/Menu/MenuBarMenu.h"
 
-#include "App/Menu/MenuTitle.h"
-#include "App/Tables/CellText.h"
+#include "App/Look/ForeignText.h"
 #include "Library/Library.h"
 #include "Opening/Opener.h"
 #include "Platform/ActivationPolicy.h"
@@ -132,9 +131,9 @@ void MenuBarMenu::fill()
     if (library.menuRecent().isEmpty())
         addLine(u"nothingRecent"_s, updated ? tr("No history") : tr("Reading…"));
     for (const HistoryItem &item : library.menuRecent()) {
-        QAction *page = m_recent->addAction(m_icons.of(item.source), MenuTitle::inMenu(item.title));
+        QAction *page = m_recent->addAction(m_icons.of(item.source), ForeignText::titleInMenu(item.title));
         page->setObjectName(u"page"_s);
-        page->setToolTip(CellText::toolTip({item.title, item.url}));
+        page->setToolTip(ForeignText::toolTip({item.title, item.url}));
         connect(page, &QAction::triggered, this,
                 [this, item] { m_services.opener.openLinks({{.url = item.url, .source = item.source}}); });
     }

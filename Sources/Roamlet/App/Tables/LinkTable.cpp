@@ -3,7 +3,7 @@
 
 #include "App/Tables/LinkTable.h"
 
-#include "App/Tables/CellText.h"
+#include "App/Look/ForeignText.h"
 #include "App/Tables/RowDelegate.h"
 #include "App/Tables/TableHeader.h"
 #include "Library/Library.h"
@@ -85,7 +85,7 @@ void LinkTable::nameSources()
 {
     QStringList labels;
     for (const Source &source : m_services.library.snapshot().sources)
-        labels.append(CellText::oneLine(source.label()));
+        labels.append(ForeignText::oneLine(source.label()));
     m_view.tableHeader().setSourceLabels(labels);
 }
 
@@ -208,10 +208,10 @@ QString LinkTable::whyItIsEmpty() const
     if (library.snapshot().sources.isEmpty())
         return tr("All profiles are switched off in the settings.");
     if (m_inputs.sourceID && library.snapshot().problems.contains(*m_inputs.sourceID))
-        return CellText::oneLine(library.snapshot().problems.value(*m_inputs.sourceID));
-    const QString site = m_inputs.site ? CellText::oneLine(*m_inputs.site) : QString();
+        return ForeignText::oneLine(library.snapshot().problems.value(*m_inputs.sourceID));
+    const QString site = m_inputs.site ? ForeignText::oneLine(*m_inputs.site) : QString();
     if (isSearchText(m_inputs.search)) {
-        const QString words = CellText::oneLine(m_inputs.search.trimmed(), CellText::longestMenuText);
+        const QString words = ForeignText::oneLine(m_inputs.search.trimmed(), ForeignText::longestMenuText);
         return m_inputs.site ? tr("Nothing found for “%1” on %2").arg(words, site)
                              : tr("Nothing found for “%1”").arg(words);
     }
@@ -249,7 +249,7 @@ void LinkTable::showLinkMenu(const QPoint &place)
             menu->addSeparator();
             continue;
         }
-        QAction *action = menu->addAction(CellText::inMenu(entry.title), this,
+        QAction *action = menu->addAction(ForeignText::inMenu(entry.title), this,
                                           [this, entry, subject] { perform(entry, subject); });
         sayWhatCannotBe(*action, entry, subject);
     }
@@ -286,7 +286,8 @@ void LinkTable::showSiteMenu(const QString &site, const QPoint &place)
     auto *menu = new QMenu(this);
     menu->setObjectName(u"siteMenu"_s);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    menu->addAction(CellText::inMenu(entry.title), this, [this, entry, subject] { perform(entry, subject); });
+    menu->addAction(ForeignText::inMenu(entry.title), this,
+                    [this, entry, subject] { perform(entry, subject); });
     menu->popup(place);
 }
 

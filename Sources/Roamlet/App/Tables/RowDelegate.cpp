@@ -3,8 +3,8 @@
 
 #include "App/Tables/RowDelegate.h"
 
+#include "App/Look/ForeignText.h"
 #include "App/Look/Look.h"
-#include "App/Tables/CellText.h"
 #include "App/Tables/SearchMatches.h"
 #include "App/Tables/TableHeader.h"
 #include "App/Tables/TableModel.h"
@@ -229,7 +229,7 @@ QString RowDelegate::companion(const TableRow &row, int titleWidth) const
     if (row.kind != TableRow::Kind::Link || row.title.isEmpty() || row.title == row.url)
         return {};
     // Nobody sees more of it, and looking through megabytes would take its time.
-    const QString url = CellText::oneLine(row.url);
+    const QString url = ForeignText::oneLine(row.url);
     if (m_search.site)
         return pathOf(url);
     const QString address = shownAddress(url);
@@ -239,7 +239,7 @@ QString RowDelegate::companion(const TableRow &row, int titleWidth) const
                 return text;
         }
     }
-    return isWide(titleWidth) ? address : CellText::oneLine(row.site);
+    return isWide(titleWidth) ? address : ForeignText::oneLine(row.site);
 }
 
 RowDelegate::TitleLayout RowDelegate::titleLayout(const TableRow &row, const QString &title, int width,
@@ -254,7 +254,7 @@ RowDelegate::TitleLayout RowDelegate::titleLayout(const TableRow &row, const QSt
     if (companion.isEmpty())
         return alone;
     const int companionWanted = metrics.horizontalAdvance(companion);
-    const bool isSite = companion == CellText::oneLine(row.site);
+    const bool isSite = companion == ForeignText::oneLine(row.site);
     // A site is shown whole or not at all; an address gives way as a title does.
     const int share = isSite ? companionWanted : std::min(companionWanted, qRound(width * addressShare));
     const int titleWidth = std::min(wanted, width - gap - share);
@@ -339,7 +339,7 @@ void RowDelegate::paintTitle(const Cell &cell) const
         const int countWidth = tabularWidth(small, count);
         const int titleWidth = std::clamp(rest.width() - gap - countWidth, 0, wanted);
         draw(QRect(rest.topLeft(), QSize(titleWidth, rest.height())),
-             CellText::fitted(title, metrics, titleWidth), cell.ink);
+             ForeignText::fitted(title, metrics, titleWidth), cell.ink);
         cell.painter.setFont(small);
         cell.painter.setPen(cell.quiet);
         drawTabularText(
@@ -361,7 +361,7 @@ void RowDelegate::paintTitle(const Cell &cell) const
 
 void RowDelegate::paintText(const Cell &cell, const QString &text) const
 {
-    const QString shown = CellText::fitted(text, cell.painter.fontMetrics(), cell.place.width());
+    const QString shown = ForeignText::fitted(text, cell.painter.fontMetrics(), cell.place.width());
     drawMarkedText(cell.painter, cell.visual(cell.place), cell.option.direction, shown, cell.quiet,
                    {.words = m_search.words, .ground = cell.mark, .ink = cell.ink});
 }
@@ -371,7 +371,7 @@ void RowDelegate::paintNumber(const Cell &cell, const QString &text) const
     cell.painter.setPen(cell.quiet);
     const bool fits = tabularWidth(cell.painter.font(), text) <= cell.place.width();
     const QString shown =
-        fits ? text : CellText::fitted(text, cell.painter.fontMetrics(), cell.place.width());
+        fits ? text : ForeignText::fitted(text, cell.painter.fontMetrics(), cell.place.width());
     drawTabularText(cell.painter, cell.visual(cell.place), cell.option.direction, shown);
 }
 
@@ -388,7 +388,7 @@ void RowDelegate::paintSource(const Cell &cell, const QString &label) const
     if (m_header.isNarrow() || rest.width() < m_look.measures.units(1))
         return;
     drawMarkedText(cell.painter, cell.visual(rest), cell.option.direction,
-                   CellText::fitted(label, cell.painter.fontMetrics(), rest.width()), cell.quiet);
+                   ForeignText::fitted(label, cell.painter.fontMetrics(), rest.width()), cell.quiet);
 }
 
 int RowDelegate::naturalWidth(const QModelIndex &index) const

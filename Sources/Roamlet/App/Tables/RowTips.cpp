@@ -3,7 +3,7 @@
 
 #include "App/Tables/RowTips.h"
 
-#include "App/Tables/CellText.h"
+#include "App/Look/ForeignText.h"
 #include "App/Tables/RowBubble.h"
 #include "App/Tables/RowDelegate.h"
 #include "App/Tables/TableModel.h"
@@ -113,7 +113,7 @@ void RowTips::tellOf(const QModelIndex &index)
         return;
     }
     const TableRow &row = model.rowAt(index);
-    m_bubble.showRow(CellText::oneLine(row.url),
+    m_bubble.showRow(ForeignText::oneLine(row.url),
                      row.date ? model.localText().fullDate(*row.date) : QString());
 }
 

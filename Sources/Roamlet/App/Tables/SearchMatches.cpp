@@ -3,7 +3,7 @@
 
 #include "App/Tables/SearchMatches.h"
 
-#include "App/Tables/CellText.h"
+#include "App/Look/ForeignText.h"
 #include "Model/LowerCase.h"
 
 #include <QFontMetrics>
@@ -41,7 +41,7 @@ QList<TextRange> searchMatches(QStringView text, const QStringList &words)
 QString fittedAroundMatch(const QString &text, const QStringList &words, const QFontMetrics &metrics,
                           int width)
 {
-    QString fromTheBeginning = CellText::fitted(text, metrics, width);
+    QString fromTheBeginning = ForeignText::fitted(text, metrics, width);
     const QList<TextRange> matches =
         fromTheBeginning == text ? QList<TextRange>() : searchMatches(text, words);
     if (matches.isEmpty())

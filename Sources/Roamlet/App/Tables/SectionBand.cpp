@@ -4,9 +4,9 @@
 #include "App/Tables/SectionBand.h"
 
 #include "App/Look/Chevron.h"
+#include "App/Look/ForeignText.h"
 #include "App/Look/Hairline.h"
 #include "App/Look/Look.h"
-#include "App/Tables/CellText.h"
 #include "App/Tables/RowDelegate.h"
 
 #include <QFontMetrics>
@@ -112,7 +112,7 @@ void SectionBand::paint(QPainter &painter, const QRect &band, Qt::LayoutDirectio
         std::clamp(rest.width() - measures.gapAfterIcon - countWidth, 0, heading.horizontalAdvance(title));
     painter.setFont(look.headingFont);
     drawMarkedText(painter, visual(QRect(rest.left(), rest.top(), titleWidth, rest.height())), direction,
-                   CellText::fitted(title, heading, titleWidth), shown.ink);
+                   ForeignText::fitted(title, heading, titleWidth), shown.ink);
     painter.setFont(look.smallFont);
     painter.setPen(shown.quiet);
     drawTabularText(painter,

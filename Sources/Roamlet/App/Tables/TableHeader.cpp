@@ -4,10 +4,10 @@
 #include "App/Tables/TableHeader.h"
 
 #include "App/Look/Chevron.h"
+#include "App/Look/ForeignText.h"
 #include "App/Look/Hairline.h"
 #include "App/Look/Look.h"
 #include "App/Look/Painting.h"
-#include "App/Tables/CellText.h"
 #include "App/Tables/RowDelegate.h"
 #include "App/Tables/TableModel.h"
 
@@ -442,7 +442,7 @@ void TableHeader::paintSection(QPainter *painter, const QRect &rect, int column)
     // Words end where the digits below them end, so the arrow stands before them.
     const int left = isRightAligned(column) ? place.right() + 1 - width : place.left();
     drawMarkedText(*painter, visual(QRect(left, place.top(), width, place.height())), layoutDirection(),
-                   CellText::fitted(text, metrics, width), ink);
+                   ForeignText::fitted(text, metrics, width), ink);
     if (isSorted) {
         const int arrowLeft = isRightAligned(column) ? left - arrow : left + width;
         drawChevron(*painter,

@@ -3,7 +3,7 @@
 
 #include "App/Tables/TableModel.h"
 
-#include "App/Tables/CellText.h"
+#include "App/Look/ForeignText.h"
 #include "App/Tables/RowIcons.h"
 
 #include <QMimeData>
@@ -211,7 +211,7 @@ QString TableModel::text(const RowTree::Node &node, TableColumn::Content content
     switch (content) {
     case TableColumn::Content::Title:
         // A bookmark without a name is still a row that can be read.
-        return CellText::oneLine(row.title.isEmpty() ? row.url : row.title);
+        return ForeignText::oneLine(row.title.isEmpty() ? row.url : row.title);
     case TableColumn::Content::Date:
         if (!row.date)
             return {};
@@ -220,9 +220,9 @@ QString TableModel::text(const RowTree::Node &node, TableColumn::Content content
     case TableColumn::Content::Visits:
         return m_localText.number(row.visits);
     case TableColumn::Content::Folder:
-        return CellText::oneLine(row.folder);
+        return ForeignText::oneLine(row.folder);
     case TableColumn::Content::Source:
-        return CellText::oneLine(row.source.label());
+        return ForeignText::oneLine(row.source.label());
     }
     return {};
 }
@@ -248,8 +248,8 @@ QString TableModel::toolTip(const RowTree::Node &node, TableColumn::Content cont
         return row.date ? m_localText.fullDate(*row.date) : QString();
     const QString shown = text(node, content);
     if (content == TableColumn::Content::Title && row.kind == TableRow::Kind::Link && row.url != row.title)
-        return CellText::toolTip({shown, row.url});
-    return CellText::toolTip({shown});
+        return ForeignText::toolTip({shown, row.url});
+    return ForeignText::toolTip({shown});
 }
 
 QVariant TableModel::icon(const RowTree::Node &node, TableColumn::Content content) const

@@ -3,7 +3,7 @@
 
 #include "App/Updates/UpdateFoundDialog.h"
 
-#include "App/Tables/CellText.h"
+#include "App/Look/ForeignText.h"
 #include "App/Updates/ReleaseNotesView.h"
 #include "Platform/Update.h"
 
@@ -26,7 +26,7 @@ UpdateFoundDialog::UpdateFoundDialog(const Update &update, const QString &curren
           u"updateFound"_s, [choose] { choose(Choice::Later); }, parent),
       m_notes(new ReleaseNotesView(std::move(openLink)))
 {
-    const QString version = CellText::oneLine(update.displayVersion, CellText::longestMenuText);
+    const QString version = ForeignText::oneLine(update.displayVersion, ForeignText::longestMenuText);
     setHeading(tr("Roamlet %1 is available").arg(version));
     QStringList sentences{tr("You have version %1.").arg(currentVersion)};
     if (update.size)

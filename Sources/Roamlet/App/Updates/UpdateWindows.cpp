@@ -3,7 +3,7 @@
 
 #include "App/Updates/UpdateWindows.h"
 
-#include "App/Tables/CellText.h"
+#include "App/Look/ForeignText.h"
 #include "App/Updates/UpdateErrorText.h"
 #include "App/Updates/UpdateFoundDialog.h"
 #include "App/Updates/UpdateProgressDialog.h"
@@ -98,7 +98,7 @@ void UpdateWindows::showError(const UpdateError &error, std::function<void()> ac
     // The system's words can be anything, and of any length.
     constexpr qsizetype longestDetail = 500;
     const QString text =
-        updateErrorText({.code = error.code, .detail = CellText::oneLine(error.detail, longestDetail)});
+        updateErrorText({.code = error.code, .detail = ForeignText::oneLine(error.detail, longestDetail)});
     show(new UpdateMessageDialog(u"updateError"_s, tr("Roamlet could not be updated"), text, acknowledge));
 }
 

@@ -5,6 +5,7 @@
 
 #include "App/Look/BoxedList.h"
 #include "App/Look/BrowserMark.h"
+#include "App/Look/ForeignText.h"
 #include "App/Look/Look.h"
 #include "App/Look/Painting.h"
 #include "Model/Browser.h"
@@ -87,7 +88,7 @@ protected:
             updateGeometry();
         if (event->type() == QEvent::ToolTip && width() < sizeHint().width()) {
             QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(),
-                               u"<qt>" % m_places.toHtmlEscaped() % u"</qt>", this);
+                               ForeignText::wrappedToolTip(m_places), this);
             return true;
         }
         return QLabel::event(event);

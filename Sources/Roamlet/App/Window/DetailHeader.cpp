@@ -5,6 +5,7 @@
 
 #include "App/Look/BusyBar.h"
 #include "App/Look/ElidedLabel.h"
+#include "App/Look/ForeignText.h"
 #include "App/Look/Look.h"
 #include "App/Look/Symbol.h"
 #include "App/Window/GroupByButton.h"
@@ -166,13 +167,9 @@ void DetailHeader::updateSubtitle()
     const bool isProblem = m_subtitleKind == Subtitle::Problem;
     setPaletteColor(*m_subtitle, QPalette::WindowText, isProblem ? look.list.ink : look.list.quiet);
     m_subtitle->setSign(isProblem ? symbolIcon(u"exclamationmark.triangle"_s, look.warningMark) : QIcon());
-    // What comes from a file is never markup.
-    constexpr qsizetype longestTip = 1000;
-    const QString problem = isProblem ? m_subtitle->text().left(longestTip) : QString();
-    m_subtitle->setToolTip(
-        isProblem ? QString(u"<qt>" % problem.toHtmlEscaped().replace(u'\n', u"<br>"_s) % u"</qt>")
-                  : QString());
-    m_subtitle->setAccessibleDescription(problem);
+    const QString problem = isProblem ? m_subtitle->text() : QString();
+    m_subtitle->setToolTip(isProblem ? ForeignText::wrappedToolTipOfLines(problem) : QString());
+    m_subtitle->setAccessibleDescription(problem.left(ForeignText::longestText));
 }
 
 int DetailHeader::wordsStart() const

@@ -3,7 +3,7 @@
 
 #include "App/Window/PaneText.h"
 
-#include "App/Tables/CellText.h"
+#include "App/Look/ForeignText.h"
 #include "Lists/Refine.h"
 
 #include <QCoreApplication>
@@ -52,7 +52,8 @@ QString title(const std::optional<Pane> &pane, const Library &library)
         return words("Most Visited");
     const bool isHistory = std::holds_alternative<HistoryPane>(*pane);
     if (const std::optional<Source> source = library.source(sourceIDOf(*pane)))
-        return (isHistory ? words("%1 History") : words("%1 Bookmarks")).arg(CellText::oneLine(source->name));
+        return (isHistory ? words("%1 History") : words("%1 Bookmarks"))
+            .arg(ForeignText::oneLine(source->name));
     return isHistory ? words("Recent History") : words("All Bookmarks");
 }
 

@@ -3,7 +3,7 @@
 
 #include "App/Window/SidebarModel.h"
 
-#include "App/Tables/CellText.h"
+#include "App/Look/ForeignText.h"
 #include "Library/Library.h"
 
 #include <utility>
@@ -80,7 +80,7 @@ QVariant SidebarModel::data(const QModelIndex &index, int role) const
             return heading->text;
         case Qt::ToolTipRole: {
             const QString wrong = problem(*heading);
-            return CellText::toolTip(wrong.isEmpty() ? QStringList{heading->text} : wrong.split(u'\n'));
+            return ForeignText::toolTip(wrong.isEmpty() ? QStringList{heading->text} : wrong.split(u'\n'));
         }
         case Qt::AccessibleDescriptionRole:
         case ProblemRole:
@@ -157,7 +157,7 @@ QList<SidebarModel::Section> SidebarModel::sections() const
                                     {tr("Most Visited"), u"chart.bar"_s, MostVisitedPane()},
                                     {tr("All Bookmarks"), u"bookmark"_s, BookmarksPane()}}}};
     for (const Source &source : m_library.ordered(m_library.snapshot().sources)) {
-        result.append({.text = CellText::oneLine(source.label()),
+        result.append({.text = ForeignText::oneLine(source.label()),
                        .source = source,
                        .rows = {{tr("History"), u"clock"_s, HistoryPane{source.id()}},
                                 {tr("Bookmarks"), u"bookmark"_s, BookmarksPane{source.id()}}}});
