@@ -21,7 +21,7 @@
 #include <QPixmapCache>
 #include <QPointer>
 #include <QPushButton>
-#include <QSignalSpy>
+#include <QRegularExpression>
 #include <QSystemTrayIcon>
 #include <QTest>
 #include <QTimer>
@@ -220,6 +220,25 @@ TEST_F(WholeStoryTest, launchedAtLoginWithoutATrayItShowsAMinimisedWindow)
     ASSERT_TRUE(eventually([this] { return shownTitles().size() == 5; }));
 }
 
+namespace
+{
+
+/// The files of letters that this process has open.
+QStringList mappedFonts()
+{
+    QFile maps(u"/proc/self/maps"_s);
+    EXPECT_TRUE(maps.open(QIODevice::ReadOnly));
+    static const QRegularExpression font(u"/[^ ]*\\.(ttf|ttc|otf|pfb)$"_s,
+                                         QRegularExpression::MultilineOption);
+    QStringList result;
+    for (const QRegularExpressionMatch &match : font.globalMatch(QString::fromUtf8(maps.readAll())))
+        result.append(match.captured());
+    result.removeDuplicates();
+    return result;
+}
+
+} // namespace
+
 TEST_F(WholeStoryTest, onceAllWindowsAreClosedItLetsGoOfWhatOnlyTheyNeed)
 {
     app->start(false);
@@ -250,13 +269,17 @@ TEST_F(WholeStoryTest, onceAllWindowsAreClosedItLetsGoOfWhatOnlyTheyNeed)
     home.clock.advance(std::chrono::seconds(1));
     EXPECT_TRUE(QPixmapCache::find(picture, nullptr)) << "it did";
 
-    close(*app->mainWindow());
-    const QSignalSpy fonts(qApp, &QGuiApplication::fontDatabaseChanged);
-    home.clock.advance(std::chrono::seconds(1));
-    EXPECT_FALSE(QPixmapCache::find(picture, nullptr));
-    EXPECT_FALSE(fonts.isEmpty()) << "and the fonts go";
-    app->reopen();
-    EXPECT_TRUE(eventually([this] { return shownTitles().size() == 5; }));
+    // What was let go of once is read again, and has to go again.
+    for (int round = 0; round < 2; ++round) {
+        app->mainWindow()->grab();
+        EXPECT_NE(mappedFonts(), QStringList()) << round;
+        close(*app->mainWindow());
+        home.clock.advance(std::chrono::seconds(1));
+        EXPECT_FALSE(QPixmapCache::find(picture, nullptr));
+        EXPECT_EQ(mappedFonts(), QStringList()) << round;
+        app->reopen();
+        EXPECT_TRUE(eventually([this] { return shownTitles().size() == 5; }));
+    }
 }
 
 TEST_F(WholeStoryTest, aClosedWindowGoesWithTheProgramAtTheLatest)

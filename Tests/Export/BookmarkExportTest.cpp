@@ -10,9 +10,11 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <string>
 #include <utility>
@@ -211,6 +213,21 @@ TEST_F(BookmarkExportWriting, withoutPermissionTheOldFileStays)
     }
     EXPECT_EQ(content(u"closed/file"_s), "old");
     EXPECT_EQ(QDir(path(u"closed"_s)).entryList(QDir::Files | QDir::Hidden), QStringList{u"file"_s});
+}
+
+TEST_F(BookmarkExportWriting, whatIsNoFileIsLeftInItsPlace)
+{
+    ASSERT_EQ(::mkfifo(qPrintable(path(u"pipe"_s)), 0600), 0);
+    ASSERT_TRUE(QFile::link(path(u"circle"_s), path(u"circle"_s)));
+    ASSERT_TRUE(QFile::link(u"/dev/null"_s, path(u"device"_s)));
+    for (const QString &name : {u"pipe"_s, u"circle"_s, u"device"_s}) {
+        const auto written = BookmarkExport::write(u"new"_s, path(name));
+        ASSERT_FALSE(written) << qPrintable(name);
+        EXPECT_FALSE(written.error().isEmpty());
+    }
+    EXPECT_EQ(names(), (QStringList{u"circle"_s, u"device"_s, u"pipe"_s}));
+    EXPECT_TRUE(QFileInfo(path(u"circle"_s)).isSymLink());
+    EXPECT_EQ(QFileInfo(path(u"device"_s)).symLinkTarget(), u"/dev/null");
 }
 
 TEST_F(BookmarkExportWriting, withoutRoomTheOldFileStays)

@@ -6,10 +6,12 @@
 #include "Platform/Variable.h"
 #include "SampleHome/PlainFiles.h"
 
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 namespace roamlet::testing
 {
@@ -292,6 +294,25 @@ TEST_F(SettingsUserDefaultsTest, aDamagedFileHidesNothingThatIsWhole)
     const SettingsUserDefaults defaults = written(
         QByteArray("[General]\n\xff\xfe\x01 nonsense\nsourceOrder=a, b\n[broken\nx=") + QByteArray(5, '\0'));
     EXPECT_EQ(defaults.stringList(u"sourceOrder"_s), Strings(QStringList{u"a"_s, u"b"_s}));
+}
+
+TEST_F(SettingsUserDefaultsTest, whatIsNoFileOfSettingsIsLeftAlone)
+{
+    ASSERT_TRUE(QDir().mkpath(folder() % u"/Roamlet"));
+    ASSERT_EQ(::mkfifo(qPrintable(path()), 0600), 0);
+    {
+        SettingsUserDefaults defaults(path());
+        EXPECT_EQ(defaults.boolean(u"showDockIcon"_s), std::nullopt);
+        defaults.setBoolean(u"showDockIcon"_s, false);
+    }
+    struct stat attributes = {};
+    ASSERT_EQ(::stat(qPrintable(path()), &attributes), 0);
+    EXPECT_TRUE(S_ISFIFO(attributes.st_mode));
+    ASSERT_TRUE(QFile::remove(path()));
+
+    const QByteArray huge = "[General]\nshowDockIcon=false\n" + QByteArray(2 << 20, '#');
+    EXPECT_EQ(written(huge).boolean(u"showDockIcon"_s), std::nullopt);
+    EXPECT_EQ(content(), huge);
 }
 
 } // namespace roamlet::testing

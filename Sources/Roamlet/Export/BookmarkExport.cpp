@@ -5,6 +5,7 @@
 
 #include "Export/Renderers.h"
 
+#include <QFileInfo>
 #include <QMimeDatabase>
 #include <QSaveFile>
 
@@ -110,6 +111,11 @@ QString fileName(const std::optional<Source> &source)
 
 std::expected<void, QString> write(const QString &text, const QString &path)
 {
+    // Saving puts a new file in the place of what is there: a pipe, a device or a link in a circle would be
+    // gone.
+    const QFileInfo present(path);
+    if ((present.exists() || present.isSymLink()) && !present.isFile() && !present.isDir())
+        return std::unexpected(u"There is something else than a file at this place."_s);
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         return std::unexpected(file.errorString());

@@ -3,8 +3,10 @@
 
 #include "DiagnosticsTest.h"
 #include "EmptyDocuments.h"
+#include "SampleHome/ChromiumFiles.h"
 #include "SampleHome/PlainFiles.h"
 
+#include <algorithm>
 #include <gmock/gmock.h>
 
 namespace roamlet::testing
@@ -70,14 +72,23 @@ TEST_F(DiagnosticsExportTest, takesTheDefaultSafariSourceWhenNoneIsNamed)
               "# Bookmarks\n\n## Favorites\n\n- [Apple](<https://apple.example/>)\n");
 }
 
-TEST_F(DiagnosticsExportTest, showsControlCharactersAsStoredOnATerminalOrNot)
+TEST_F(DiagnosticsExportTest, whatIsStoredCannotCommandATerminal)
 {
     home.addProfiles();
     home.addBookmarks();
+    const QString title = u"a\x1b[31mb\x07"_s;
+    sample::writeBookmarks(
+        home.chrome(u"Default/Bookmarks"_s),
+        {{u"bookmark_bar"_s,
+          sample::folderNode(u"1"_s, u"Bar"_s,
+                             {sample::bookmarkNode(u"2"_s, title, u"https://a.example/"_s, 0)})}});
     const QStringList arguments{u"--export"_s, u"csv"_s, u"--source"_s, u"chrome/Default"_s};
-    const QByteArray piped = outputOf(arguments);
+    EXPECT_THAT(outputOf(arguments).toStdString(), HasSubstr("a\x1b[31mb\x07"));
     console.terminal = true;
-    EXPECT_EQ(outputOf(arguments), piped);
+    const QByteArray shown = outputOf(arguments);
+    EXPECT_THAT(shown.toStdString(), HasSubstr("a␛[31mb␇"));
+    EXPECT_TRUE(
+        std::ranges::none_of(shown, [](char byte) { return byte >= 0 && byte < ' ' && byte != '\n'; }));
 }
 
 TEST_F(DiagnosticsExportTest, ofAnUnknownSourceIsEmptyAndSaysWhy)

@@ -9,6 +9,7 @@
 #include "Support/Stranger.h"
 
 #include <QDir>
+#include <QProcess>
 
 #include <unistd.h>
 
@@ -164,13 +165,18 @@ TEST_F(ProgramHomesTest, withoutATemporaryFolderTheSummarySaysWhy)
     EXPECT_THAT(search.errors.toStdString(), StartsWith("roamlet: Chrome - Personal: Couldn't read "));
 }
 
-TEST_F(ProgramHomesTest, copiesOfOthersStayWhereTheyAre)
+TEST_F(ProgramHomesTest, copiesThatARunLeftBehindGoWithTheNextRun)
 {
     home.addPages();
-    sample::writeFile(home.temporary() % u"/Roamlet-999999999-OLD/History", "left by a run that died");
-    for (const QStringList &arguments : readingJobs)
-        EXPECT_EQ(program.run(arguments).status, 0);
-    EXPECT_EQ(home.leftovers(), QStringList(u"Roamlet-999999999-OLD"_s));
+    const QString ofALiveRun = u"Roamlet-%1-LIVE"_s.arg(::getpid());
+    sample::writeFile(home.temporary() % u'/' % ofALiveRun % u"/History", "being read");
+    for (const QStringList &arguments : readingJobs) {
+        sample::writeFile(home.temporary() % u"/Roamlet-999999999-OLD/History", "left by a run that died");
+        QProcess process;
+        program.start(process, arguments);
+        EXPECT_EQ(Program::end(process).status, 0);
+        EXPECT_EQ(home.leftovers(), QStringList{ofALiveRun}) << arguments.first().toStdString();
+    }
 }
 
 } // namespace roamlet::testing

@@ -284,8 +284,10 @@ TEST_F(MainWindowTest, theSidebarIsHiddenAndShownAndStaysSo)
         EXPECT_TRUE(sidebar->isVisible());
         EXPECT_FALSE(button->isVisible());
         EXPECT_TRUE(command->isChecked());
+        part<QWidget>(*window, u"sidebar"_s)->setFocus();
         QTest::keyClick(window.get(), Qt::Key_F9);
         EXPECT_FALSE(sidebar->isVisible());
+        EXPECT_TRUE(part<QWidget>(*window, u"historyTable"_s)->hasFocus());
         EXPECT_FALSE(command->isChecked());
         ASSERT_TRUE(button->isVisible());
         QTest::mouseClick(button, Qt::LeftButton);
@@ -332,6 +334,7 @@ TEST_F(MainWindowTest, besideANarrowListTheSidebarOpensOverItAndGoesWithAChoice)
     ASSERT_TRUE(sidebar->isVisible());
     QTest::keyClick(sidebar, Qt::Key_Escape);
     EXPECT_TRUE(waitUntil([sidebar] { return !sidebar->isVisible(); }));
+    EXPECT_TRUE(part<QWidget>(*window, u"mostVisitedTable"_s)->hasFocus());
     // With room for both it stands beside the list again.
     window->resize(1600, 600);
     EXPECT_TRUE(sidebar->isVisible());

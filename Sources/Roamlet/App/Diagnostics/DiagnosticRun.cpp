@@ -8,6 +8,7 @@
 #include "App/Diagnostics/Printing.h"
 #include "Platform/Linux/ConfigHome.h"
 #include "Platform/Linux/LinuxConsole.h"
+#include "Platform/Linux/LinuxIO.h"
 #include "Platform/Linux/LinuxPlatform.h"
 #include "Platform/Linux/StopSignals.h"
 #include "Platform/Linux/UnicodeLocale.h"
@@ -72,6 +73,15 @@ bool settleHome(Console &console)
     return true;
 }
 
+bool haveDescriptors(Console &console)
+{
+    if (ensureDescriptors())
+        return true;
+    complain(console,
+             u"the system lets this program open too few files at a time. ulimit -n 256 is enough."_s);
+    return false;
+}
+
 int runDiagnostics(const Command &command, int argc, char **argv)
 {
     StopSignals signals;
@@ -100,7 +110,7 @@ std::optional<int> run(int argc, char **argv)
     case Command::Job::Version:
         return printed(console, u"Roamlet " ROAMLET_VERSION "\n"_s);
     case Command::Job::Windows:
-        if (!settleHome(console))
+        if (!settleHome(console) || !haveDescriptors(console))
             return failure;
         if (hasDisplay())
             return {};
@@ -112,7 +122,7 @@ std::optional<int> run(int argc, char **argv)
                               u". roamlet --help lists what there is.");
         return misuse;
     default:
-        if (!settleHome(console))
+        if (!settleHome(console) || !haveDescriptors(console))
             return failure;
         return runDiagnostics(command, argc, argv);
     }

@@ -13,6 +13,7 @@
 #include "Platform/Console.h"
 #include "Platform/Folders.h"
 #include "Readers/BrowserReader.h"
+#include "Readers/Files/SQLiteSnapshot.h"
 
 #include <QDateTime>
 #include <QEventLoop>
@@ -105,6 +106,16 @@ private:
     QString text(const QString &stored) const
     {
         return m_console.isTerminal() ? TextLayout::shown(stored) : stored;
+    }
+    /// The same for a text of many lines.
+    QString lines(const QString &stored) const
+    {
+        if (!m_console.isTerminal())
+            return stored;
+        QStringList result = stored.split(u'\n');
+        for (QString &line : result)
+            line = TextLayout::shown(line.endsWith(u'\r') ? line.chopped(1) : line);
+        return result.join(u'\n');
     }
     int print(const QStringList &lines) { return write(lines.join(u'\n') % u'\n'); }
     int write(const QString &output);
@@ -226,7 +237,7 @@ int Job::exportBookmarks(const std::optional<QString> &formatName, const std::op
     QList<Bookmark> flat;
     if (*format == BookmarkExport::Format::Csv)
         flat = BookmarkNode::flattened(roots);
-    return write(BookmarkExport::render(*format, roots, flat));
+    return write(lines(BookmarkExport::render(*format, roots, flat)));
 }
 
 int Job::top()
@@ -330,11 +341,8 @@ int Job::watch(const std::optional<QString> &duration)
     return status;
 }
 
-} // namespace
-
-int run(const Command &command, const Platform &platform, Console &console, const std::stop_token &stop)
+int runJob(const Command &command, Job &job)
 {
-    Job job(platform, console, stop);
     switch (command.job) {
     case Command::Job::Summary:
         return job.summary();
@@ -356,6 +364,17 @@ int run(const Command &command, const Platform &platform, Console &console, cons
         break;
     }
     Q_UNREACHABLE();
+}
+
+} // namespace
+
+int run(const Command &command, const Platform &platform, Console &console, const std::stop_token &stop)
+{
+    Job job(platform, console, stop);
+    const int status = runJob(command, job);
+    // Copies that a run could not put away, because it was killed, wait for nobody's window.
+    SQLiteSnapshot::removeLeftovers(platform.files, platform.folders.temporary());
+    return status;
 }
 
 } // namespace roamlet::Diagnostics

@@ -118,13 +118,8 @@ ContentView::ContentView(const WindowServices &services, QWidget *parent)
     connect(m_header, &DetailHeader::exportRequested, this, [this] {
         Q_EMIT exportRequested({.sourceID = PaneText::exportSourceID(m_pane, m_services.library.snapshot())});
     });
-    connect(m_header, &DetailHeader::listRequested, this, [this] {
-        // Who comes with a key sees where it led.
-        if (m_lists->cover() != nullptr && m_lists->cover() == m_emptyList)
-            m_emptyList->setFocus(Qt::ShortcutFocusReason);
-        else
-            shownList()->setFocus(Qt::ShortcutFocusReason);
-    });
+    connect(m_header, &DetailHeader::listRequested, this, &ContentView::focusList);
+    connect(m_sidebarPlace, &SidebarPlace::listRequested, this, &ContentView::focusList);
 
     const Library *library = &services.library;
     connect(library, &Library::snapshotChanged, this, [this] {
@@ -379,6 +374,15 @@ std::optional<ExportAction> ContentView::exportAction()
 QMenu *ContentView::groupingMenu() const
 {
     return m_header->groupingMenu();
+}
+
+void ContentView::focusList()
+{
+    // Who comes with a key sees where it led.
+    if (m_lists->cover() != nullptr && m_lists->cover() == m_emptyList)
+        m_emptyList->setFocus(Qt::ShortcutFocusReason);
+    else
+        shownList()->setFocus(Qt::ShortcutFocusReason);
 }
 
 void ContentView::openMainMenu()

@@ -118,6 +118,8 @@ private:
     void updateCover();
     EmptyListPage::Reason whyEmpty(const LinkTable &table) const;
     EmptyListPage *emptyListPage();
+    /// Brings the keyboard to the list, or to what helps where it is empty.
+    void focusList();
     QWidget *shownList();
     void setGrouping(Grouping grouping);
 

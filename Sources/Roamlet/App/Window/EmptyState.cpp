@@ -147,6 +147,7 @@ void EmptyState::setBox(QWidget *box)
     line->addWidget(box, 1);
     line->addStretch();
     column->insertLayout(afterText + 1, line);
+    column->insertSpacing(afterText + 2, Measures(font()).units(gapBetweenLines));
 }
 
 QPushButton *EmptyState::addAction(const QString &title, const QString &objectName)

@@ -3,6 +3,7 @@
 
 #include "App/Window/Sidebar.h"
 
+#include "App/Look/Hairline.h"
 #include "App/Look/Look.h"
 #include "App/Look/Painting.h"
 #include "App/Look/Symbol.h"
@@ -383,19 +384,23 @@ void Sidebar::contextMenuEvent(QContextMenuEvent *event)
 void Sidebar::paintEvent(QPaintEvent *event)
 {
     QTreeView::paintEvent(event);
+    const Look look = Look::of(*this);
+    QPainter painter(viewport());
+    if (m_isOverList)
+        paintHairline(painter, viewport()->rect(),
+                      layoutDirection() == Qt::RightToLeft ? Qt::LeftEdge : Qt::RightEdge,
+                      look.sidebar.hairline);
     if (!m_dropTarget)
         return;
     const bool isLast = *m_dropTarget == m_model->rowCount();
     QModelIndex next = m_model->index(isLast ? *m_dropTarget - 1 : *m_dropTarget, 0);
     if (isLast && isExpanded(next))
         next = m_model->index(m_model->rowCount(next) - 1, 0, next);
-    const Look look = Look::of(*this);
     const QRect row = visualRect(next);
     const int y = isLast ? row.bottom() : row.top() + (look.measures.gapAroundGroups / 2);
     const int margin = look.measures.gapAroundGroups;
-    QPainter(viewport())
-        .fillRect(QRect(margin, y, viewport()->width() - (2 * margin), Measures::focusRingWidth),
-                  look.accent);
+    painter.fillRect(QRect(margin, y, viewport()->width() - (2 * margin), Measures::focusRingWidth),
+                     look.accent);
 }
 
 void Sidebar::drawRow(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const

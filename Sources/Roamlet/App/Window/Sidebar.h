@@ -34,6 +34,9 @@ public:
 
     explicit Sidebar(const WindowServices &services, QWidget *parent = nullptr);
 
+    /// Over a list it ends in a line.
+    void setIsOverList(bool isOverList) { m_isOverList = isOverList; }
+
     /// Selects the pane's row; nothing is selected when there is none. Emits nothing.
     void select(const std::optional<Pane> &pane);
     /// What is selected, also while there is no row for it.
@@ -102,6 +105,7 @@ private:
     QPersistentModelIndex m_pressed;
     QPoint m_pressedAt;
     std::optional<int> m_dropTarget;
+    bool m_isOverList = false;
 };
 
 } // namespace roamlet

@@ -84,8 +84,11 @@ void SidebarPlace::setShown(bool isShown)
 
 void SidebarPlace::bringBack()
 {
+    if (m_sidebar.hasFocus() && !isBeside())
+        Q_EMIT listRequested();
     if (m_isOver) {
         m_isOver = false;
+        m_sidebar.setIsOverList(false);
         layout()->addWidget(&m_sidebar);
         m_sidebar.show();
     }
@@ -96,6 +99,7 @@ void SidebarPlace::showOver()
 {
     m_isOver = true;
     m_sidebar.setParent(m_list);
+    m_sidebar.setIsOverList(true);
     follow();
     m_sidebar.show();
     m_sidebar.raise();

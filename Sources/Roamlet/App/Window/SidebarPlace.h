@@ -35,6 +35,8 @@ public:
 
 Q_SIGNALS:
     void changed();
+    /// The keyboard was in the sidebar, which goes.
+    void listRequested();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

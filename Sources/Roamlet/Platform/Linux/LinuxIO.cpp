@@ -4,8 +4,10 @@
 #include "Platform/Linux/LinuxIO.h"
 
 #include <signal.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 
 namespace roamlet
@@ -26,6 +28,19 @@ std::error_code writeAll(int descriptor, QByteArrayView bytes)
             return lastError();
     }
     return {};
+}
+
+bool ensureDescriptors()
+{
+    // For several sources that are read at the same time, each with a source, a copy and its logs.
+    constexpr rlim_t usual = 256;
+    constexpr rlim_t fewest = 20;
+    rlimit limit{};
+    if (::getrlimit(RLIMIT_NOFILE, &limit) != 0 || limit.rlim_cur >= usual)
+        return true;
+    limit.rlim_cur = std::min(usual, limit.rlim_max);
+    ::setrlimit(RLIMIT_NOFILE, &limit);
+    return limit.rlim_cur >= fewest;
 }
 
 void ignoreFileSizeSignal()

@@ -14,6 +14,9 @@ namespace roamlet
 std::error_code lastError();
 /// Writes all the bytes to a file descriptor, however many calls that takes.
 std::error_code writeAll(int descriptor, QByteArrayView bytes);
+/// Sees to it that the process may have as many files open as it needs, as far as the system lets it. False
+/// where that is so few that nothing could be read.
+bool ensureDescriptors();
 /// Lets a file that may not grow any more (RLIMIT_FSIZE) be an error to its writer, as a full disk is.
 /// Otherwise the system ends the process in the middle of its work. For the whole process, and what it starts
 /// inherits it.

@@ -18,7 +18,25 @@ SettingsUserDefaults::SettingsUserDefaults() : SettingsUserDefaults(configHome()
 {
 }
 
-SettingsUserDefaults::SettingsUserDefaults(const QString &path) : m_settings(path, QSettings::IniFormat)
+namespace
+{
+
+/// The file, or where it cannot be one of ours, a place where none can be: then the settings are those of a
+/// first start and are forgotten at the end. A pipe would never end, and a huge file take long.
+QString usable(const QString &path)
+{
+    constexpr qint64 largest = qint64{1} << 20;
+    const QFileInfo file(path);
+    if (!file.exists() || file.isDir() || (file.isFile() && file.size() <= largest))
+        return path;
+    qWarning("roamlet: %s is no file of settings and is left alone", qPrintable(path));
+    return path % u"/none";
+}
+
+} // namespace
+
+SettingsUserDefaults::SettingsUserDefaults(const QString &path)
+    : m_settings(usable(path), QSettings::IniFormat)
 {
     // Only this file: another program's or the system's settings are not ours.
     m_settings.setFallbacksEnabled(false);
