@@ -28,7 +28,15 @@ std::stop_source BackgroundTasks::start(std::function<void(std::stop_token)> wor
     try {
         task.thread = std::jthread(perform);
     } catch (const std::system_error &) {
-        QMetaObject::invokeMethod(&m_receiver, perform, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            &m_receiver,
+            [this, id, perform, stop = task.stop.get_token()] {
+                if (stop.stop_requested())
+                    finish(id);
+                else
+                    perform();
+            },
+            Qt::QueuedConnection);
     }
     return task.stop;
 }

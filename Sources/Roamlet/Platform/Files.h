@@ -32,6 +32,8 @@ struct CopyError {
 class Files
 {
 public:
+    static constexpr int mostCopies = 200;
+
     Files() = default;
     Files(const Files &) = delete;
     Files &operator=(const Files &) = delete;
@@ -54,7 +56,7 @@ public:
     /// then in the same way what stands beside it with one of the `suffixes`, where there is something that can
     /// be read. A copy that fails, or that `stop` interrupts (std::errc::operation_canceled), leaves no file
     /// of the name `target`. Whoever names `isGood` is asked when all is copied, and where it says no all is
-    /// copied again, as long as that takes no more than a second.
+    /// copied again, `mostCopies` times in all.
     virtual std::expected<void, CopyError> copy(const QString &source, const QString &target,
                                                 const QStringList &suffixes, const std::stop_token &stop,
                                                 const std::function<bool()> &isGood) const = 0;

@@ -168,24 +168,24 @@ Copied copyContent(int source, int target, const std::stop_token &stop)
         return failed(CopyError::Side::Target, error);
     off_t place = 0;
     for (;;) {
-        const off_t begin = ::lseek(source, place, SEEK_DATA);
-        // Nothing but a hole is left, or the file system knows no holes.
-        if (begin < 0 && errno == ENXIO)
-            break;
-        const off_t end = begin < 0 ? std::numeric_limits<off_t>::max() : ::lseek(source, begin, SEEK_HOLE);
-        if (end < 0)
+        // Before looking for more: what is appended later is not copied, or else it is found.
+        struct stat attributes = {};
+        if (fstat(source, &attributes) != 0)
             return failed(CopyError::Side::Source, lastError());
-        if (Copied copied = copyBytes(source, target, std::max<off_t>(begin, 0), end, stop); !copied)
+        const off_t begin = ::lseek(source, place, SEEK_DATA);
+        const bool hasHoles = begin >= 0 || errno == ENXIO;
+        if (!hasHoles)
+            return copyBytes(source, target, place, std::numeric_limits<off_t>::max(), stop);
+        // Nothing but a hole is left, also where the file has just become shorter.
+        const off_t end = begin < 0 ? begin : ::lseek(source, begin, SEEK_HOLE);
+        if (end < 0)
+            return ::ftruncate(target, attributes.st_size) == 0
+                       ? Copied()
+                       : failed(CopyError::Side::Target, lastError());
+        if (Copied copied = copyBytes(source, target, begin, end, stop); !copied)
             return copied;
-        if (begin < 0)
-            return {};
         place = end;
     }
-    struct stat attributes = {};
-    if (fstat(source, &attributes) != 0)
-        return failed(CopyError::Side::Source, lastError());
-    return ::ftruncate(target, attributes.st_size) == 0 ? Copied()
-                                                        : failed(CopyError::Side::Target, lastError());
 }
 
 Copied copyFile(const QString &source, const QString &target, const std::stop_token &stop)
@@ -300,8 +300,7 @@ std::expected<void, CopyError> LinuxFiles::copy(const QString &source, const QSt
                                                 const QStringList &suffixes, const std::stop_token &stop,
                                                 const std::function<bool()> &isGood) const
 {
-    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(1);
-    for (;;) {
+    for (int count = 1;; ++count) {
         QStringList made;
         Copied copied = copyFile(source, target, stop);
         if (copied)
@@ -313,7 +312,7 @@ std::expected<void, CopyError> LinuxFiles::copy(const QString &source, const QSt
             else if (besides.error().side == CopyError::Side::Target || stop.stop_requested())
                 copied = besides;
         }
-        const bool isOver = !copied || !isGood || isGood() || std::chrono::steady_clock::now() >= deadline;
+        const bool isOver = !copied || !isGood || count == mostCopies || isGood();
         if (copied && isOver)
             return copied;
         for (const QString &file : made)

@@ -23,6 +23,7 @@ QByteArray beginning(const Files &files, const QString &path, qsizetype size)
 DatabaseMoment DatabaseMoment::before(const Files &files, const QString &database)
 {
     DatabaseMoment moment;
+    moment.m_stamp = files.fileStamp(database);
     moment.lookAtDatabase(files, database);
     moment.lookAtJournal(files, database);
     return moment;
@@ -33,7 +34,13 @@ DatabaseMoment DatabaseMoment::after(const Files &files, const QString &database
     DatabaseMoment moment;
     moment.lookAtJournal(files, database);
     moment.lookAtDatabase(files, database);
+    moment.m_stamp = files.fileStamp(database);
     return moment;
+}
+
+bool DatabaseMoment::hasContentOf(const DatabaseMoment &other) const
+{
+    return m_stamp == other.m_stamp && m_counter == other.m_counter && m_log == other.m_log;
 }
 
 void DatabaseMoment::lookAtDatabase(const Files &files, const QString &database)

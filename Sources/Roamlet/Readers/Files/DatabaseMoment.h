@@ -11,9 +11,10 @@ namespace roamlet
 
 class Files;
 
-/// What tells two moments of a database apart by a look at its files: a commit counts up in the database's
-/// header, before it exchanges any other page; a log that is begun anew has another header; a change that is
-/// under way has a journal of its own.
+/// What tells two moments of a database apart by a look at its files. Each of them alone can miss a change:
+/// a file's time does when it was written to an instant before, the count of commits in the header does where
+/// a browser keeps the file locked for itself. A log that is begun anew has another header, and a change that
+/// is under way has a journal of its own.
 class DatabaseMoment
 {
 public:
@@ -24,12 +25,16 @@ public:
     static DatabaseMoment before(const Files &files, const QString &database);
     static DatabaseMoment after(const Files &files, const QString &database);
 
-    /// Whether nothing was committed to the database itself in between. What a change has put into it early,
-    /// because it is too large for its writer's memory, is in its journal.
-    bool hasContentOf(const DatabaseMoment &other) const
+    /// Whether nothing was written to the database itself in between.
+    bool hasContentOf(const DatabaseMoment &other) const;
+    /// Whether the header tells every commit, as the one between these two looks: not where one program keeps
+    /// the file locked for itself.
+    bool tellsCommitsSince(const DatabaseMoment &earlier) const
     {
-        return m_counter == other.m_counter && m_log == other.m_log;
+        return !m_log.isEmpty() || m_counter != earlier.m_counter;
     }
+    /// The database's own file stamp.
+    const QString &stamp() const { return m_stamp; }
     /// Whether there is a journal that has to be rolled back.
     bool isWithinChange() const { return !m_journal.isEmpty(); }
 
@@ -39,6 +44,7 @@ private:
     void lookAtDatabase(const Files &files, const QString &database);
     void lookAtJournal(const Files &files, const QString &database);
 
+    QString m_stamp;
     QByteArray m_counter;
     QByteArray m_log;
     /// Empty where there is none to be rolled back.

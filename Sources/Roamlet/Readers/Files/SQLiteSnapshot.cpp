@@ -37,8 +37,7 @@ constexpr int attempts = 3;
 /// Before all but the first of them. Whoever writes may be done by then.
 constexpr std::array pauses{std::chrono::milliseconds(2), std::chrono::milliseconds(8)};
 /// What SQLite keeps beside a database, by what it appends to the name.
-constexpr QLatin1StringView journal = "-journal"_L1;
-constexpr std::array sidecars{"-wal"_L1, "-shm"_L1, journal};
+constexpr std::array sidecars{"-wal"_L1, "-shm"_L1, "-journal"_L1};
 const QString folderPrefix = QString::fromLatin1(ConfinedFiles::folderPrefix);
 
 struct Finalize {
@@ -152,6 +151,7 @@ public:
 
     std::expected<void, ReadError> make(const std::stop_token &stop)
     {
+        DatabaseMoment moment;
         for (int attempt = 1; attempt <= attempts; ++attempt) {
             if (attempt > 1)
                 std::this_thread::sleep_for(pauses.at(static_cast<std::size_t>(attempt - 2)));
@@ -159,15 +159,16 @@ public:
             if (const std::error_code error = m_files.makePrivateFolder(m_folder))
                 return std::unexpected(noRoom(error));
             const QString before = stamp(m_files, m_source);
-            const DatabaseMoment moment = DatabaseMoment::before(m_files, m_source);
-            if (const auto copied = attempt < attempts ? copyAll(stop, {}) : copyWhatNeverRests(stop);
+            const DatabaseMoment earlier = std::exchange(moment, DatabaseMoment::before(m_files, m_source));
+            if (const auto copied =
+                    attempt < attempts ? copyAll(stop, {}) : copyWhatNeverRests(earlier, stop);
                 !copied)
                 return std::unexpected(errorOf(copied.error()));
             if (stop.stop_requested())
                 return std::unexpected(
                     ReadError::wrap(std::make_error_code(std::errc::operation_canceled), m_source));
             // Of a file that is written to without rest, equal stamps alone say too little.
-            if (DatabaseMoment::after(m_files, m_source) == moment && stamp(m_files, m_source) == before)
+            if (stamp(m_files, m_source) == before && DatabaseMoment::after(m_files, m_source) == moment)
                 break;
         }
         return {};
@@ -194,24 +195,20 @@ private:
     }
 
     /// For the last copy, which is used whatever it is: while somebody writes without rest, the files are
-    /// copied between two commits.
-    Copied copyWhatNeverRests(const std::stop_token &stop) const
+    /// copied between two commits, or within one change with its journal.
+    Copied copyWhatNeverRests(const DatabaseMoment &earlier, const std::stop_token &stop) const
     {
         DatabaseMoment before = DatabaseMoment::before(m_files, m_source);
-        DatabaseMoment after;
-        bool isWhole = false;
-        const auto isGood = [&] {
-            after = DatabaseMoment::after(m_files, m_source);
-            isWhole = after == before || (!before.isWithinChange() && after.hasContentOf(before));
-            if (!isWhole)
-                before = DatabaseMoment::before(m_files, m_source);
-            return isWhole;
-        };
-        Copied copied = copyAll(stop, isGood);
-        // The journal of a change that has ended since would bring back what was before it.
-        if (isWhole && !after.isWithinChange())
-            m_files.removeFile(path() + journal);
-        return copied;
+        bool isCounted = before.tellsCommitsSince(earlier);
+        return copyAll(stop, [&] {
+            const DatabaseMoment after = DatabaseMoment::after(m_files, m_source);
+            const bool isSame = after == before || (!before.isWithinChange() && after.hasContentOf(before));
+            if (isSame && (isCounted || m_files.lastingStamp(m_source) == after.stamp()))
+                return true;
+            isCounted = isCounted || after.tellsCommitsSince(before);
+            before = DatabaseMoment::before(m_files, m_source);
+            return false;
+        });
     }
 
     ReadError errorOf(const CopyError &error) const
