@@ -448,13 +448,4 @@ TEST_F(WholeStoryTest, withoutATrayAnUpdateThatWaitsIsShownWhenTheUserComesBack)
     EXPECT_EQ(driver->checks, 1);
 }
 
-TEST(SuccessorTest, aSuccessorThatCannotBeStartedIsAFailureInTheSystemsWords)
-{
-    ::testing::internal::CaptureStderr();
-    const int status = RoamletApp::giveWayTo(u"/nonexistent/Roamlet.AppImage"_s);
-    EXPECT_EQ(::testing::internal::GetCapturedStderr(),
-              "roamlet: cannot start /nonexistent/Roamlet.AppImage: No such file or directory\n");
-    EXPECT_NE(status, 0);
-}
-
 } // namespace roamlet::testing

@@ -3,9 +3,6 @@
 
 #include "Platform/Linux/AppImage.h"
 
-#include "Platform/Linux/Updates/UpdateChoice.h"
-#include "Platform/Linux/Updates/UpdateInstaller.h"
-
 #include <QCoreApplication>
 #include <QTemporaryDir>
 
@@ -33,8 +30,6 @@ TEST_F(AppImageTest, theProgramInsideIsTheAppImage)
 {
     qputenv("APPDIR", QCoreApplication::applicationDirPath().toUtf8());
     EXPECT_EQ(ownAppImage(), u"/home/anna/Some.AppImage"_s);
-    EXPECT_EQ(UpdateHost::ofThisProcess({}).kind, PackageKind::AppImage);
-    EXPECT_EQ(UpdateInstaller::Environment::ofThisProcess().appImage, u"/home/anna/Some.AppImage"_s);
 }
 
 TEST_F(AppImageTest, aProgramThatAnotherAppImageStartedIsNone)
@@ -44,8 +39,6 @@ TEST_F(AppImageTest, aProgramThatAnotherAppImageStartedIsNone)
                                       QCoreApplication::applicationFilePath().chopped(1).toUtf8()}) {
         qputenv("APPDIR", content);
         EXPECT_EQ(ownAppImage(), QString()) << content.constData();
-        EXPECT_EQ(UpdateHost::ofThisProcess({}).kind, PackageKind::Debian);
-        EXPECT_EQ(UpdateInstaller::Environment::ofThisProcess().appImage, QString());
     }
 }
 

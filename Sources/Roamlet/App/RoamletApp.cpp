@@ -19,7 +19,6 @@
 #include "Platform/Linux/AutostartLoginService.h"
 #include "Platform/Linux/DBusRunningInstance.h"
 #include "Platform/Linux/LinuxActivationPolicy.h"
-#include "Platform/Linux/LinuxIO.h"
 #include "Platform/Linux/LinuxPlatform.h"
 #include "Platform/Linux/LinuxWorkspace.h"
 #include "Platform/Linux/PanelTray.h"
@@ -30,7 +29,6 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QDBusConnection>
-#include <QFile>
 #include <QFont>
 #include <QLibraryInfo>
 #include <QLocale>
@@ -40,8 +38,6 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <cstdio>
-#include <cstdlib>
 #include <optional>
 
 namespace roamlet
@@ -249,31 +245,19 @@ void RoamletApp::reopen()
 
 int RoamletApp::run(int argc, char **argv)
 {
-    std::optional<QString> successor;
     int status = 0;
     Processes::limitHeaps();
     {
         // Before any other thread: each of them leaves the signals to this one.
         StopSignals signals;
-        status = runUntilTheEnd(argc, argv, signals.token(), successor);
+        status = runUntilTheEnd(argc, argv, signals.token());
         // Everything is gone by now, and with it every private copy and every half download.
         signals.endProcessIfAsked();
     }
-    return successor ? giveWayTo(*successor) : status;
+    return status;
 }
 
-int RoamletApp::giveWayTo(const QString &path)
-{
-    const QByteArray name = QFile::encodeName(path);
-    execl(name.constData(), name.constData(), nullptr);
-    const QString problem = QString::fromStdString(lastError().message());
-    std::fputs(QString(u"roamlet: cannot start "_s % path % u": " % problem % u'\n').toUtf8().constData(),
-               stderr);
-    return EXIT_FAILURE;
-}
-
-int RoamletApp::runUntilTheEnd(int argc, char **argv, const std::stop_token &stop,
-                               std::optional<QString> &successor)
+int RoamletApp::runUntilTheEnd(int argc, char **argv, const std::stop_token &stop)
 {
     const QApplication application(argc, argv);
     QApplication::setApplicationDisplayName(u"Roamlet"_s);
@@ -318,11 +302,7 @@ int RoamletApp::runUntilTheEnd(int argc, char **argv, const std::stop_token &sto
     const BundleInformation information = BundleInformation::ofThisProgram();
     UpdateWindows updateWindows(information.version,
                                 [&workspace](const QString &url) { workspace.openSystemURL(url); });
-    Updater updater(information, platformUpdateDriver(information, services, updateWindows,
-                                                      [&successor](const QString &path) {
-                                                          successor = path;
-                                                          quit();
-                                                      }));
+    Updater updater(information, platformUpdateDriver(information, services, updateWindows));
     std::optional<RoamletApp> app;
     const auto start = [&] {
         if (app)

@@ -72,14 +72,10 @@ public:
 
     /// Runs the program until the user quits, and returns the process's status.
     static int run(int argc, char **argv);
-    /// Becomes the program at `path`. Returns only when that fails, and then the process's status.
-    static int giveWayTo(const QString &path);
 
 private:
-    /// Runs until the user quits or `stop` asks for the end. `successor` is the program that is to take this
-    /// one's place.
-    static int runUntilTheEnd(int argc, char **argv, const std::stop_token &stop,
-                              std::optional<QString> &successor);
+    /// Runs until the user quits or `stop` asks for the end.
+    static int runUntilTheEnd(int argc, char **argv, const std::stop_token &stop);
 
     /// Follows what the user has set for the desktop, as soon as that is known.
     void readDesktopSettings();

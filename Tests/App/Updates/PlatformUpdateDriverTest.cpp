@@ -7,6 +7,7 @@
 #include "App/Updates/Updater.h"
 #include "Platform/Update.h"
 #include "Support/FakeUpdateUserInterface.h"
+#include "Support/HttpServer.h"
 #include "Support/TestHome.h"
 #include "Support/Waiting.h"
 
@@ -24,8 +25,7 @@ protected:
     /// What the user is told when they check for updates.
     UpdateError errorOf(const BundleInformation &information)
     {
-        Updater updater(information,
-                        platformUpdateDriver(information, home.platform(), windows, [](const QString &) {}));
+        Updater updater(information, platformUpdateDriver(information, home.platform(), windows));
         updater.checkForUpdates();
         EXPECT_TRUE(waitUntil([this] { return windows.events.contains(u"error"_s); }));
         EXPECT_EQ(windows.events, (QStringList{u"checking"_s, u"error"_s}));
@@ -51,6 +51,20 @@ TEST_F(PlatformUpdateDriverTest, aFeedIsAskedForOverTheNetwork)
                        .publicKey = u"11qYAYKxCrfVS/7TyWQHOg7hcvPapiMlrwIaaPcHURo="_s})
                   .code,
               UpdateError::Code::NetworkFailed);
+}
+
+TEST_F(PlatformUpdateDriverTest, theSystemsProxyIsAsked)
+{
+    const HttpServer proxy;
+    qputenv("https_proxy", proxy.address(QString()).toEncoded());
+    EXPECT_EQ(errorOf({.name = u"Roamlet"_s,
+                       .version = u"1.0"_s,
+                       .feedURL = u"https://updates.invalid/feed.xml"_s,
+                       .publicKey = u"11qYAYKxCrfVS/7TyWQHOg7hcvPapiMlrwIaaPcHURo="_s})
+                  .code,
+              UpdateError::Code::NetworkFailed);
+    qunsetenv("https_proxy");
+    EXPECT_EQ(proxy.requests(u"updates.invalid:443"_s), 1);
 }
 
 } // namespace roamlet::testing

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
-#include "Platform/Linux/Updates/Feed.h"
+#include "Platform/Linux/Updates/Session/Feed.h"
 
 #include "FeedText.h"
 
@@ -227,19 +227,8 @@ TEST(FeedTest, whatIsNoElementIsNotNested)
     EXPECT_EQ(item(QByteArray("<a b='/>'/><c d=\"'>\"></c>").repeated(1'000)).version, u"2.0"_s);
 }
 
-TEST(FeedTest, whatWouldTakeLongToReadIsRefused)
+TEST(FeedTest, aFeedThatIsTooLongIsRefused)
 {
-    const auto many = [](qsizetype count, const QByteArray &before) -> QByteArray {
-        QByteArray result;
-        for (qsizetype i = 0; i < count; ++i)
-            result += ' ' + before + QByteArray::number(i) + "='='";
-        return result;
-    };
-    EXPECT_EQ(item("<a" + many(40, "b") + "/>").version, u"2.0"_s);
-    expectMalformed(feedText(itemText("2.0", "<a" + many(60, "b") + "/>")));
-    expectMalformed("<rss" + many(60, "xmlns:b") + "/>");
-    EXPECT_EQ(item(QByteArray("<a/>").repeated(10'000)).version, u"2.0"_s);
-    expectMalformed(feedText(itemText("2.0", QByteArray("<a/>").repeated(30'000))));
     EXPECT_EQ(item(QByteArray(Feed::longest - 1'000, ' ')).version, u"2.0"_s);
     expectMalformed(feedText(itemText("2.0", QByteArray(Feed::longest, ' '))));
 }

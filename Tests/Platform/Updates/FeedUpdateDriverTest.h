@@ -50,7 +50,6 @@ protected:
     void SetUp() override
     {
         server.add(QStringLiteral("/Roamlet.deb"), {.body = package});
-        server.add(QStringLiteral("/Roamlet.AppImage"), {.body = package});
         offer("2.0");
     }
 
@@ -60,41 +59,32 @@ protected:
     }
     QByteArray enclosures() const
     {
-        const QByteArray rest = "\" length=\"" + QByteArray::number(package.size()) +
-                                "\" sparkle:edSignature=\"" + signer.signature(package) + "\"/>";
-        return "<enclosure url=\"Roamlet.deb" + rest + "<enclosure url=\"Roamlet.AppImage" + rest;
+        return "<enclosure url=\"Roamlet.deb\" length=\"" + QByteArray::number(package.size()) +
+               "\" sparkle:edSignature=\"" + signer.signature(package) + "\"/>";
     }
 
     void open(UpdateDriver::Scheduler scheduler = UpdateDriver::Scheduler::Started)
     {
         driver = std::make_unique<FeedUpdateDriver>(
-            FeedUpdateDriver::Configuration{
-                .feed = feed,
-                .publicKey = publicKey,
-                .host = {.version = QStringLiteral("1.0"),
-                         .kind = appImage.isEmpty() ? PackageKind::Debian : PackageKind::AppImage,
-                         .systemVersion = QStringLiteral("6.1"),
-                         .architecture = QStringLiteral("x86_64")},
-                .http = options},
+            FeedUpdateDriver::Configuration{.feed = feed,
+                                            .publicKey = publicKey,
+                                            .host = {.version = QStringLiteral("1.0"),
+                                                     .systemVersion = QStringLiteral("6.1"),
+                                                     .architecture = QStringLiteral("x86_64")},
+                                            .http = options},
             FeedUpdateDriver::Services{.clock = clock,
                                        .defaults = defaults,
                                        .userInterface = windows,
                                        .isInFront = [this] { return isInFront; },
                                        .makeSession = makeSession},
-            UpdateInstaller::Environment{
-                .appImage = appImage,
-                .program = program,
-                .packageFolder = folder.filePath(QStringLiteral("packages")),
-                .openPackage =
-                    [this](const QString &path) {
-                        events.append(QStringLiteral("open ") % QFileInfo(path).fileName());
-                        opened = contentOf(path);
-                        return hasInstaller;
-                    },
-                .restart =
-                    [this](const QString &path) {
-                        events.append(QStringLiteral("restart ") % QFileInfo(path).fileName());
-                    }});
+            UpdateInstaller::Environment{.program = program,
+                                         .packageFolder = folder.filePath(QStringLiteral("packages")),
+                                         .openPackage = [this](const QString &path) {
+                                             events.append(QStringLiteral("open ") %
+                                                           QFileInfo(path).fileName());
+                                             opened = contentOf(path);
+                                             return hasInstaller;
+                                         }});
         driver->open(delegate, scheduler);
     }
 
@@ -129,7 +119,6 @@ protected:
     QByteArray package = QByteArray("a package ").repeated(50'000);
     QString feed = server.address(QStringLiteral("/feed.xml")).toString();
     QString publicKey = QString::fromLatin1(signer.publicKey());
-    QString appImage;
     QString program = folder.filePath(QStringLiteral("roamlet"));
     bool isInFront = true;
     bool hasInstaller = true;

@@ -19,9 +19,9 @@ using Code = UpdateError::Code;
 class HttpTransferTest : public UpdatesTest
 {
 protected:
-    void start(const QUrl &address, std::optional<Clock::Duration> limit = {})
+    void start(const QUrl &address)
     {
-        transfer = std::make_unique<HttpTransfer>(network, clock, options, address,
+        transfer = std::make_unique<HttpTransfer>(network, options, address,
                                                   HttpTransfer::Handlers{
                                                       .begin =
                                                           [this](const HttpTransfer::Head &begun) {
@@ -40,8 +40,7 @@ protected:
                                                               error = ended;
                                                               transfer.reset();
                                                           },
-                                                  },
-                                                  limit);
+                                                  });
     }
 
     /// The error that fetching ends in, or nothing.
@@ -173,34 +172,18 @@ TEST_F(HttpTransferTest, aRedirectToAnAddressWithoutEncryptionIsRefused)
 
 TEST_F(HttpTransferTest, aServerThatNeverAnswersTimesOut)
 {
+    options.patience = 50ms;
     server.add(u"/x"_s, {.claimedLength = 10, .end = HttpServer::End::Hang});
-    start(server.address(u"/x"_s));
-    ASSERT_TRUE(settle([this] { return server.requests(u"/x"_s) == 1; }));
-    clock.advance(29s);
-    EXPECT_EQ(finishes, 0);
-    clock.advance(1s);
-    EXPECT_EQ(finishes, 1);
-    EXPECT_EQ(error, (UpdateError{Code::TimedOut, {}}));
+    EXPECT_EQ(fetch(u"/x"_s), (UpdateError{Code::TimedOut, {}}));
+    EXPECT_EQ(server.requests(u"/x"_s), 1);
 }
 
 TEST_F(HttpTransferTest, aServerThatFallsSilentTimesOut)
 {
+    options.patience = 50ms;
     server.add(u"/x"_s, {.body = "a little", .claimedLength = 100, .end = HttpServer::End::Hang});
-    start(server.address(u"/x"_s));
-    ASSERT_TRUE(settle([this] { return received == "a little"; }));
-    clock.advance(30s);
-    EXPECT_EQ(finishes, 0) << "something came in this time";
-    clock.advance(30s);
-    EXPECT_EQ(error, (UpdateError{Code::TimedOut, {}}));
-}
-
-TEST_F(HttpTransferTest, withALimitDripsDoNotKeepItAlive)
-{
-    server.add(u"/x"_s, {.body = "a little", .claimedLength = 100, .end = HttpServer::End::Hang});
-    start(server.address(u"/x"_s), 20s);
-    ASSERT_TRUE(settle([this] { return received == "a little"; }));
-    clock.advance(20s);
-    EXPECT_EQ(error, (UpdateError{Code::TimedOut, {}}));
+    EXPECT_EQ(fetch(u"/x"_s), (UpdateError{Code::TimedOut, {}}));
+    EXPECT_EQ(received, "a little");
 }
 
 TEST_F(HttpTransferTest, whoeverDoesNotLikeTheHeadEndsIt)
@@ -209,6 +192,68 @@ TEST_F(HttpTransferTest, whoeverDoesNotLikeTheHeadEndsIt)
     refusal = UpdateError{Code::FeedTooLarge, {}};
     EXPECT_EQ(fetch(u"/x"_s), refusal);
     EXPECT_EQ(received, "");
+}
+
+/// Short texts, in memory.
+class DocumentTest : public UpdatesTest
+{
+protected:
+    std::expected<HttpTransfer::Document, UpdateError> fetch(const QString &path)
+    {
+        std::optional<std::expected<HttpTransfer::Document, UpdateError>> result;
+        std::unique_ptr<HttpTransfer> transfer;
+        transfer = HttpTransfer::document(network, options, server.address(path), longest,
+                                          [&](std::expected<HttpTransfer::Document, UpdateError> finished) {
+                                              result = std::move(finished);
+                                              transfer.reset();
+                                          });
+        EXPECT_TRUE(settle([&result] { return result.has_value(); }));
+        return *result;
+    }
+
+    static constexpr qint64 longest = 1'000'000;
+};
+
+TEST_F(DocumentTest, aDocumentArrivesAsItIs)
+{
+    const QByteArray body("\0\xff\r\n binary", 11);
+    server.add(u"/x"_s, {.body = body, .headers = "Content-Type: text/plain\r\n"});
+    const auto document = fetch(u"/x"_s);
+    ASSERT_TRUE(document);
+    EXPECT_EQ(document->content, body);
+    EXPECT_EQ(document->head.contentType, u"text/plain"_s);
+}
+
+TEST_F(DocumentTest, aDocumentOfTheGreatestLengthArrives)
+{
+    server.add(u"/x"_s, {.body = QByteArray(1000, 'x'), .repetitions = 1000});
+    const auto document = fetch(u"/x"_s);
+    ASSERT_TRUE(document);
+    EXPECT_EQ(document->content.size(), longest);
+}
+
+TEST_F(DocumentTest, anErrorIsHandedOn)
+{
+    EXPECT_EQ(fetch(u"/missing"_s).error(), (UpdateError{Code::ServerRefused, u"404"_s}));
+}
+
+TEST_F(DocumentTest, aHundredMegabytesEndBeforeTheyAreFetched)
+{
+    constexpr qint64 megabyte = 1'000'000;
+    const QByteArray body(megabyte, 'x');
+    for (const std::optional<qint64> claimed : {std::optional<qint64>(), std::optional<qint64>(-1)}) {
+        const qint64 before = server.sent();
+        server.add(u"/x"_s, {.body = body, .claimedLength = claimed, .repetitions = 100});
+        EXPECT_EQ(fetch(u"/x"_s).error(), (UpdateError{Code::FeedTooLarge, {}}));
+        EXPECT_LT(server.sent() - before, 20 * megabyte);
+    }
+}
+
+TEST_F(DocumentTest, dripsDoNotKeepItAlive)
+{
+    options.documentTime = 50ms;
+    server.add(u"/x"_s, {.body = "x", .claimedLength = 10, .end = HttpServer::End::Hang});
+    EXPECT_EQ(fetch(u"/x"_s).error(), (UpdateError{Code::TimedOut, {}}));
 }
 
 TEST_F(HttpTransferTest, aTransferThatIsDestroyedSaysNothingMore)

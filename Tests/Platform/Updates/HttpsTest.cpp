@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
-#include "Platform/Linux/Updates/Session/DocumentDownload.h"
+#include "Platform/Linux/Updates/Session/HttpTransfer.h"
 #include "UpdatesTest.h"
 
 #include <QProcess>
@@ -64,16 +64,16 @@ protected:
         QSslConfiguration::setDefaultConfiguration(trusting);
     }
 
-    std::expected<DocumentDownload::Document, UpdateError> fetch(const QString &path)
+    std::expected<HttpTransfer::Document, UpdateError> fetch(const QString &path)
     {
         QUrl address = secureServer->address(path);
         address.setScheme(u"https"_s);
-        std::optional<std::expected<DocumentDownload::Document, UpdateError>> result;
-        const DocumentDownload download(
-            network, clock, options, address, 1000,
-            [&result](std::expected<DocumentDownload::Document, UpdateError> finished) {
-                result = std::move(finished);
-            });
+        std::optional<std::expected<HttpTransfer::Document, UpdateError>> result;
+        const auto transfer =
+            HttpTransfer::document(network, options, address, 1000,
+                                   [&result](std::expected<HttpTransfer::Document, UpdateError> finished) {
+                                       result = std::move(finished);
+                                   });
         EXPECT_TRUE(settle([&] { return result.has_value(); }));
         return *result;
     }

@@ -3,7 +3,6 @@
 
 #include "Platform/Linux/Updates/UpdateInstaller.h"
 
-#include "../WithoutPrivileges.h"
 #include "UpdatesTest.h"
 
 #include <QDateTime>
@@ -26,22 +25,12 @@ class UpdateInstallerTest : public UpdatesTest
 protected:
     UpdateInstaller installer()
     {
-        return UpdateInstaller({.appImage = appImage,
-                                .program = folder.filePath(u"roamlet"_s),
+        return UpdateInstaller({.program = folder.filePath(u"roamlet"_s),
                                 .packageFolder = folder.filePath(u"cache/Roamlet/Updates"_s),
-                                .openPackage =
-                                    [this](const QString &path) {
-                                        opened.append(path);
-                                        return hasInstaller;
-                                    },
-                                .restart = [this](const QString &path) { restarted.append(path); }});
-    }
-
-    void makeAppImage(mode_t mode)
-    {
-        appImage = folder.filePath(u"Roamlet.AppImage"_s);
-        write(appImage, "old program");
-        ASSERT_EQ(::chmod(QFile::encodeName(appImage).constData(), mode), 0);
+                                .openPackage = [this](const QString &path) {
+                                    opened.append(path);
+                                    return hasInstaller;
+                                }});
     }
 
     static mode_t modeOf(const QString &path)
@@ -51,10 +40,8 @@ protected:
         return attributes.st_mode & 07777U;
     }
 
-    QString appImage;
     bool hasInstaller = true;
     QStringList opened;
-    QStringList restarted;
 };
 
 TEST_F(UpdateInstallerTest, aPackageIsHandedToTheDesktop)
@@ -65,7 +52,6 @@ TEST_F(UpdateInstallerTest, aPackageIsHandedToTheDesktop)
     write(*path, "package");
     EXPECT_EQ(installer().install(), std::nullopt);
     EXPECT_EQ(opened, QStringList{*path});
-    EXPECT_EQ(restarted, QStringList());
     EXPECT_EQ(contentOf(*path), "package") << "the desktop reads it when it gets to it";
 }
 
@@ -128,83 +114,6 @@ TEST_F(UpdateInstallerTest, aFolderThatCannotBeMadeIsAnErrorInTheSystemsWords)
     ASSERT_FALSE(path);
     EXPECT_EQ(path.error().code, Code::CannotWrite);
     EXPECT_FALSE(path.error().detail.isEmpty());
-    EXPECT_EQ(installer().install(), path.error());
-}
-
-TEST_F(UpdateInstallerTest, anAppImageIsReplacedInItsPlaceAndRestarted)
-{
-    makeAppImage(0750);
-    const auto path = installer().packagePath();
-    ASSERT_TRUE(path);
-    EXPECT_EQ(*path, folder.filePath(u".Roamlet.AppImage.update"_s));
-    write(*path, "new program");
-    ASSERT_EQ(::chmod(QFile::encodeName(*path).constData(), 0600), 0);
-    EXPECT_EQ(installer().install(), std::nullopt);
-    EXPECT_EQ(contentOf(appImage), "new program");
-    EXPECT_EQ(modeOf(appImage), 0750U);
-    EXPECT_EQ(names(), QStringList{u"Roamlet.AppImage"_s});
-    EXPECT_EQ(restarted, QStringList{appImage});
-    EXPECT_EQ(opened, QStringList());
-}
-
-TEST_F(UpdateInstallerTest, aNewAppImageCanBeStartedByItsOwner)
-{
-    makeAppImage(0644);
-    write(*installer().packagePath(), "new program");
-    EXPECT_EQ(installer().install(), std::nullopt);
-    EXPECT_EQ(modeOf(appImage), 0744U);
-}
-
-TEST_F(UpdateInstallerTest, theProgramThatRunsKeepsItsOldFile)
-{
-    makeAppImage(0755);
-    QFile running(appImage);
-    ASSERT_TRUE(running.open(QIODevice::ReadOnly));
-    write(*installer().packagePath(), "new program");
-    EXPECT_EQ(installer().install(), std::nullopt);
-    EXPECT_EQ(running.readAll(), "old program");
-}
-
-TEST_F(UpdateInstallerTest, aLinkStaysALink)
-{
-    makeAppImage(0755);
-    const QString real = appImage;
-    ASSERT_TRUE(QDir(folder.path()).mkdir(u"bin"_s));
-    appImage = folder.filePath(u"bin/roamlet"_s);
-    ASSERT_TRUE(QFile::link(real, appImage));
-    write(*installer().packagePath(), "new program");
-    EXPECT_EQ(installer().install(), std::nullopt);
-    EXPECT_EQ(contentOf(real), "new program");
-    EXPECT_TRUE(QFileInfo(appImage).isSymLink());
-    EXPECT_EQ(restarted, QStringList{appImage});
-}
-
-TEST_F(UpdateInstallerTest, anAppImageThatWentAwayIsNotReplaced)
-{
-    appImage = folder.filePath(u"gone.AppImage"_s);
-    EXPECT_EQ(installer().packagePath().error().code, Code::CannotInstall);
-    EXPECT_EQ(installer().install()->code, Code::CannotInstall);
-    EXPECT_EQ(names(), QStringList());
-    EXPECT_EQ(restarted, QStringList());
-}
-
-TEST_F(UpdateInstallerTest, aReadOnlyFolderIsAnErrorAndTheOldProgramStays)
-{
-    makeAppImage(0755);
-    write(*installer().packagePath(), "new program");
-    ASSERT_EQ(::chmod(QFile::encodeName(folder.path()).constData(), 0555), 0);
-    {
-        const WithoutPrivileges nobody;
-        if (!nobody.arePermissionsChecked())
-            GTEST_SKIP() << "permissions stop nobody here";
-        const auto error = installer().install();
-        ASSERT_TRUE(error);
-        EXPECT_EQ(error->code, Code::CannotInstall);
-        EXPECT_FALSE(error->detail.isEmpty());
-    }
-    ASSERT_EQ(::chmod(QFile::encodeName(folder.path()).constData(), 0755), 0);
-    EXPECT_EQ(contentOf(appImage), "old program");
-    EXPECT_EQ(restarted, QStringList());
 }
 
 TEST_F(UpdateInstallerTest, thisProcessKeepsPackagesAmongItsCaches)
@@ -213,7 +122,6 @@ TEST_F(UpdateInstallerTest, thisProcessKeepsPackagesAmongItsCaches)
     qputenv("XDG_CACHE_HOME", "/home/anna/cache");
     const auto here = UpdateInstaller::Environment::ofThisProcess();
     EXPECT_EQ(here.packageFolder, u"/home/anna/cache/Roamlet/Updates"_s);
-    EXPECT_EQ(here.appImage, QString());
     qputenv("XDG_CACHE_HOME", before);
 }
 

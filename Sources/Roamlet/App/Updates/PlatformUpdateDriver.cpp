@@ -6,12 +6,10 @@
 #include "App/Updates/BundleInformation.h"
 #include "Platform/Linux/ProgramModule.h"
 #include "Platform/Linux/Updates/FeedUpdateDriver.h"
-#include "Platform/Linux/Updates/Session/SessionModule.h"
 #include "Platform/Platform.h"
 
 #include <QGuiApplication>
-
-#include <utility>
+#include <QSysInfo>
 
 namespace roamlet
 {
@@ -31,7 +29,7 @@ makeSession(const UpdateSession::Setup &setup, UpdateSession::Origin origin,
         // The module beside a newer program is none of ours.
         if (setup.installer.isProgramReplaced())
             return std::unexpected(UpdateError{UpdateError::Code::RestartNeeded, {}});
-        const auto function = ProgramModule::function(u"roamlet-updates.so"_s, sessionModuleEntry);
+        const auto function = ProgramModule::function(u"roamlet-updates.so"_s, ROAMLET_SESSION_ENTRY_NAME);
         if (!function)
             return std::unexpected(UpdateError{UpdateError::Code::NotConfigured, function.error()});
         entry = reinterpret_cast<SessionModuleEntry *>(*function);
@@ -43,16 +41,15 @@ makeSession(const UpdateSession::Setup &setup, UpdateSession::Origin origin,
 
 std::unique_ptr<UpdateDriver> platformUpdateDriver(const BundleInformation &information,
                                                    const Platform &platform,
-                                                   UpdateUserInterface &userInterface,
-                                                   std::function<void(const QString &path)> restart)
+                                                   UpdateUserInterface &userInterface)
 {
-    UpdateInstaller::Environment installer = UpdateInstaller::Environment::ofThisProcess();
-    installer.restart = std::move(restart);
     const QString userAgent = information.name % u'/' % information.version;
     return std::make_unique<FeedUpdateDriver>(
         FeedUpdateDriver::Configuration{.feed = information.feedURL,
                                         .publicKey = information.publicKey,
-                                        .host = UpdateHost::ofThisProcess(information.version),
+                                        .host = {.version = information.version,
+                                                 .systemVersion = QSysInfo::kernelVersion(),
+                                                 .architecture = QSysInfo::currentCpuArchitecture()},
                                         .http = {.userAgent = userAgent.toUtf8()}},
         FeedUpdateDriver::Services{
             .clock = platform.clock,
@@ -60,7 +57,7 @@ std::unique_ptr<UpdateDriver> platformUpdateDriver(const BundleInformation &info
             .userInterface = userInterface,
             .isInFront = [] { return QGuiApplication::applicationState() == Qt::ApplicationActive; },
             .makeSession = makeSession},
-        std::move(installer));
+        UpdateInstaller::Environment::ofThisProcess());
 }
 
 } // namespace roamlet

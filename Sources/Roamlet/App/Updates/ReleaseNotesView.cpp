@@ -3,13 +3,15 @@
 
 #include "App/Updates/ReleaseNotesView.h"
 
-#include "App/Updates/SimpleHtml.h"
 #include "Platform/Update.h"
 
 #include <QImage>
 #include <QLatin1StringView>
+#include <QRegularExpression>
+#include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
+#include <QTextFrame>
 
 #include <algorithm>
 #include <utility>
@@ -25,12 +27,49 @@ namespace
 /// More than anybody reads.
 constexpr qsizetype longestNotes = 20'000;
 
-/// Whether Markdown has so many marks that laying it out would keep the window waiting.
-bool isHeavy(const QString &markdown)
+/// Whether a text has so many marks that laying it out would keep the window waiting.
+bool isHeavy(const QString &text)
 {
     constexpr qsizetype mostMarks = 2'000;
-    return std::ranges::count_if(markdown, [](QChar each) { return "\n*_`[<&"_L1.contains(each); }) >
-           mostMarks;
+    return std::ranges::count_if(text, [](QChar each) { return "\n*_`[<&"_L1.contains(each); }) > mostMarks;
+}
+
+/// Tables take twice as long to lay out with each level of nesting: their rows become lines. What is of no
+/// use without colours and pictures goes, too.
+QString withoutTables(QString html)
+{
+    using Option = QRegularExpression::PatternOption;
+    constexpr auto options = Option::CaseInsensitiveOption | Option::DotMatchesEverythingOption;
+    static const QRegularExpression hidden(u"<(style|script|title)\\b.*?(</\\1\\s*>|$)|<img\\b[^>]*>"_s,
+                                           options);
+    static const QRegularExpression row(u"<tr\\b[^>]*>"_s, options);
+    static const QRegularExpression rest(u"</?(table|caption|thead|tbody|tfoot|tr|td|th|col)\\b[^>]*>"_s,
+                                         options);
+    return html.remove(hidden).replace(row, u"<br>"_s).replace(rest, u" "_s);
+}
+
+/// The author knows nothing of the ground that the notes are shown on.
+void removeColours(QTextDocument &document)
+{
+    QTextFrameFormat frame = document.rootFrame()->frameFormat();
+    frame.clearBackground();
+    document.rootFrame()->setFrameFormat(frame);
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        QTextCursor cursor(block);
+        QTextBlockFormat ground = block.blockFormat();
+        ground.clearBackground();
+        cursor.setBlockFormat(ground);
+        for (auto piece = block.begin(); !piece.atEnd(); ++piece) {
+            QTextCharFormat ink = piece.fragment().charFormat();
+            ink.clearBackground();
+            if (!ink.isAnchor())
+                ink.clearForeground();
+            cursor.setPosition(piece.fragment().position());
+            cursor.setPosition(piece.fragment().position() + piece.fragment().length(),
+                               QTextCursor::KeepAnchor);
+            cursor.setCharFormat(ink);
+        }
+    }
 }
 
 } // namespace
@@ -48,15 +87,16 @@ ReleaseNotesView::ReleaseNotesView(std::function<void(const QString &url)> openL
 void ReleaseNotesView::show(const ReleaseNotes &notes)
 {
     const QString text = notes.text.left(longestNotes);
-    if (notes.format == ReleaseNotes::Format::Html) {
-        setHtml(simpleHtml(notes.text));
-    } else if (notes.format == ReleaseNotes::Format::Markdown && !isHeavy(text)) {
+    if (notes.format == ReleaseNotes::Format::Plain || isHeavy(text)) {
+        setPlainText(text);
+    } else if (notes.format == ReleaseNotes::Format::Html) {
+        setHtml(withoutTables(text));
+        removeColours(*document());
+    } else {
         // Without tables, the layout of which takes longest.
         document()->setMarkdown(text,
                                 QTextDocument::MarkdownFeatures(QTextDocument::MarkdownDialectCommonMark) |
                                     QTextDocument::MarkdownNoHTML);
-    } else {
-        setPlainText(text);
     }
     moveCursor(QTextCursor::Start);
 }

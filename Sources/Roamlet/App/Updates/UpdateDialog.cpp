@@ -10,9 +10,11 @@
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QLabel>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 namespace roamlet
@@ -20,9 +22,8 @@ namespace roamlet
 
 using namespace Qt::StringLiterals;
 
-UpdateDialog::UpdateDialog(const QString &name, Answer closed, QWidget *parent)
-    : QDialog(parent),
-      m_closed(std::move(closed)),
+UpdateDialog::UpdateDialog(const QString &name, const QString &heading, Answer closed)
+    : m_closed(std::move(closed)),
       m_heading(new QLabel),
       m_text(new NoteLabel),
       m_contents(new QVBoxLayout),
@@ -31,6 +32,7 @@ UpdateDialog::UpdateDialog(const QString &name, Answer closed, QWidget *parent)
     setObjectName(name);
     setWindowTitle(tr("Software Update"));
     m_heading->setObjectName(u"updateHeading"_s);
+    m_heading->setText(heading);
     m_heading->setTextFormat(Qt::PlainText);
     m_heading->setWordWrap(true);
     QFont bold = m_heading->font();
@@ -73,6 +75,22 @@ void UpdateDialog::setText(const QString &text)
     m_text->setHidden(text.isEmpty());
 }
 
+void UpdateDialog::setProgress(std::optional<double> share)
+{
+    if (m_bar == nullptr) {
+        m_bar = new QProgressBar;
+        m_bar->setObjectName(u"updateProgress"_s);
+        m_bar->setAccessibleName(m_heading->text());
+        m_bar->setTextVisible(false);
+        m_contents->addWidget(m_bar);
+    }
+    // The bar counts in ints, and a file can be larger.
+    constexpr int barLength = 1000;
+    m_bar->setRange(0, share ? barLength : 0);
+    if (share)
+        m_bar->setValue(static_cast<int>(std::clamp(*share, 0.0, 1.0) * barLength));
+}
+
 void UpdateDialog::withdraw()
 {
     give({});
@@ -83,7 +101,7 @@ void UpdateDialog::reject()
     give(m_closed);
 }
 
-QPushButton *UpdateDialog::addButton(const QString &name, const QString &text, Role role, Answer answer)
+void UpdateDialog::addButton(const QString &name, const QString &text, Role role, Answer answer)
 {
     auto *button = new QPushButton(text);
     button->setObjectName(name);
@@ -96,7 +114,6 @@ QPushButton *UpdateDialog::addButton(const QString &name, const QString &text, R
     connect(button, &QPushButton::clicked, this, [this, answer = std::move(answer)] { give(answer); });
     if (role == Role::Default)
         button->setFocus();
-    return button;
 }
 
 void UpdateDialog::addButtonSpace()
@@ -112,16 +129,6 @@ void UpdateDialog::give(const Answer &answer)
     // The answer may open the next window in the place of this one.
     if (answer)
         answer();
-}
-
-UpdateMessageDialog::UpdateMessageDialog(const QString &name, const QString &heading, const QString &text,
-                                         const Answer &read, QWidget *parent)
-    : UpdateDialog(name, read, parent)
-{
-    setHeading(heading);
-    setText(text);
-    addButtonSpace();
-    addButton(u"updateOk"_s, tr("OK"), Role::Default, read);
 }
 
 } // namespace roamlet

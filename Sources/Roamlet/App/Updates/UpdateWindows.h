@@ -6,6 +6,7 @@
 #include "Platform/UpdateUserInterface.h"
 
 #include <QCoreApplication>
+#include <QPointer>
 #include <QString>
 
 #include <memory>
@@ -13,6 +14,7 @@
 namespace roamlet
 {
 
+class ReleaseNotesView;
 class UpdateDialog;
 
 /// The windows that show a check for updates and what comes of it.
@@ -43,10 +45,15 @@ private:
     };
 
     void show(UpdateDialog *window);
+    void showProgress(const QString &name, const QString &heading, const std::function<void()> &cancel);
+    void showMessage(const QString &name, const QString &heading, const QString &text,
+                     const std::function<void()> &read);
 
     QString m_currentVersion;
     std::function<void(const QString &url)> m_openLink;
     std::unique_ptr<UpdateDialog, DeleteLater> m_window;
+    /// Where the notes of the window that is open go, if it is about an update.
+    QPointer<ReleaseNotesView> m_notes;
 };
 
 } // namespace roamlet

@@ -53,7 +53,6 @@ void FeedUpdateDriver::begin(UpdateSession::Origin origin)
     m_schedule.beginCheck();
     auto session = m_services.makeSession(
         UpdateSession::Setup{
-            .clock = m_services.clock,
             .checks = m_checks,
             .userInterface = m_services.userInterface,
             .delegate = *m_delegate,

@@ -18,7 +18,7 @@ class UpdateUserInterface;
 class UserDefaults;
 
 /// Updates from a feed of the widespread kind, signed with Ed25519: looked for once a day, fetched over HTTPS
-/// and installed as a Debian package or an AppImage.
+/// and installed as a Debian package.
 class FeedUpdateDriver final : public UpdateDriver
 {
 public:

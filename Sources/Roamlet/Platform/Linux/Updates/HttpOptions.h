@@ -3,9 +3,9 @@
 
 #pragma once
 
-#include "Platform/Clock.h"
-
 #include <QByteArray>
+
+#include <chrono>
 
 namespace roamlet
 {
@@ -18,7 +18,9 @@ struct HttpOptions {
     /// need it.
     Loopback loopback = Loopback::Refused;
     /// The longest time in which nothing comes.
-    Clock::Duration patience = std::chrono::seconds(30);
+    std::chrono::milliseconds patience = std::chrono::seconds(30);
+    /// The longest time that a document takes: a server that lets its bytes drip must not hold a check up.
+    std::chrono::milliseconds documentTime = std::chrono::minutes(5);
     /// How the program calls itself.
     QByteArray userAgent;
 };

@@ -3,10 +3,9 @@
 
 #include "Platform/Linux/Updates/UpdateInstaller.h"
 
-#include "Platform/Linux/AppImage.h"
 #include "Platform/Linux/LinuxIO.h"
-#include "Platform/Linux/Updates/FileOpening.h"
-#include "Platform/Linux/Updates/UnfinishedPackage.h"
+#include "Platform/Linux/Workspace/DesktopEntry.h"
+#include "Platform/Linux/Workspace/GLibPointer.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -14,10 +13,10 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
+#include <QUrl>
 
 #include <sys/stat.h>
 
-#include <cstdio>
 #include <utility>
 
 namespace roamlet
@@ -26,32 +25,30 @@ namespace roamlet
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
-namespace
-{
-
-UpdateError lastErrorAs(UpdateError::Code code)
-{
-    return {code, QString::fromStdString(lastError().message())};
-}
-
-} // namespace
-
 UpdateInstaller::Environment UpdateInstaller::Environment::ofThisProcess()
 {
-    const QString appImage = ownAppImage();
-    return {
-        .appImage = appImage,
-        .program = appImage.isEmpty() ? QCoreApplication::applicationFilePath() : appImage,
-        .packageFolder =
-            QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) % u"/Roamlet/Updates",
-        .openPackage =
-            [](const QString &path) { return openFile(path, u"application/vnd.debian.binary-package"_s); },
-        .restart = {}};
+    return {.program = QCoreApplication::applicationFilePath(),
+            .packageFolder =
+                QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) % u"/Roamlet/Updates",
+            .openPackage = [](const QString &path) {
+                return openFile(path, u"application/vnd.debian.binary-package"_s);
+            }};
 }
 
 UpdateInstaller::UpdateInstaller(Environment environment)
     : m_environment(std::move(environment)), m_program(identityOf(m_environment.program))
 {
+}
+
+bool UpdateInstaller::openFile(const QString &path, const QString &type)
+{
+    const GLibPointer<GAppInfo> info(g_app_info_get_default_for_type(type.toUtf8().constData(), FALSE));
+    if (!info || G_IS_DESKTOP_APP_INFO(info.get()) == FALSE)
+        return false;
+    DesktopEntry entry;
+    entry.path = QFile::decodeName(g_desktop_app_info_get_filename(G_DESKTOP_APP_INFO(info.get())));
+    entry.launch({QUrl::fromLocalFile(path).toString(QUrl::FullyEncoded)});
+    return true;
 }
 
 bool UpdateInstaller::isProgramReplaced() const
@@ -70,67 +67,28 @@ UpdateInstaller::FileIdentity UpdateInstaller::identityOf(const QString &path)
 
 std::expected<QString, UpdateError> UpdateInstaller::packagePath() const
 {
-    if (m_environment.appImage.isEmpty()) {
-        const QString folder = m_environment.packageFolder;
-        if (!QDir().mkpath(folder) || ::chmod(QFile::encodeName(folder).constData(), S_IRWXU) != 0)
-            return std::unexpected(lastErrorAs(UpdateError::Code::CannotWrite));
-    }
+    const QString folder = m_environment.packageFolder;
+    if (!QDir().mkpath(folder) || ::chmod(QFile::encodeName(folder).constData(), S_IRWXU) != 0)
+        return std::unexpected(
+            UpdateError{UpdateError::Code::CannotWrite, QString::fromStdString(lastError().message())});
     return target();
 }
 
 void UpdateInstaller::removeLeftovers(PointInTime now) const
 {
-    const auto path = target();
-    if (!path)
-        return;
-    QFile::remove(unfinishedPackage(*path));
-    // The user may still be asked by the installer whether they want it.
+    QFile::remove(unfinished(target()));
+    // The user may still be asked by the desktop's program whether they want it.
     constexpr std::chrono::hours patience = 24h;
-    const QDateTime written = QFileInfo(*path).lastModified();
+    const QDateTime written = QFileInfo(target()).lastModified();
     if (written.isValid() &&
         now - pointInTime(static_cast<double>(written.toMSecsSinceEpoch()) / 1000) >= patience)
-        QFile::remove(*path);
+        QFile::remove(target());
 }
 
-std::expected<QString, UpdateError> UpdateInstaller::target() const
+std::optional<UpdateError> UpdateInstaller::install() const
 {
-    if (m_environment.appImage.isEmpty())
-        return QString(m_environment.packageFolder % u"/Roamlet.deb");
-    // In the same folder, so that it takes a mere renaming to put it in its place.
-    const QFileInfo program(QFileInfo(m_environment.appImage).canonicalFilePath());
-    if (!program.isFile())
-        return std::unexpected(UpdateError{UpdateError::Code::CannotInstall, m_environment.appImage});
-    return QString(program.path() % u"/." % program.fileName() % u".update");
-}
-
-std::optional<UpdateError> UpdateInstaller::install()
-{
-    const auto package = packagePath();
-    if (!package)
-        return package.error();
-    if (!m_environment.appImage.isEmpty())
-        return replaceAppImage(*package);
-    if (!m_environment.openPackage(*package))
-        return UpdateError{UpdateError::Code::NoInstaller, *package};
-    return {};
-}
-
-std::optional<UpdateError> UpdateInstaller::replaceAppImage(const QString &package) const
-{
-    const QString program = QFileInfo(m_environment.appImage).canonicalFilePath();
-    const QByteArray oldName = QFile::encodeName(program);
-    const QByteArray newName = QFile::encodeName(package);
-    struct stat attributes = {};
-    constexpr mode_t permissions = S_IRWXU | S_IRWXG | S_IRWXO;
-    // The program that runs keeps its own file open; what it started from may go.
-    if (::stat(oldName.constData(), &attributes) != 0 ||
-        ::chmod(newName.constData(), (attributes.st_mode & permissions) | S_IXUSR) != 0 ||
-        std::rename(newName.constData(), oldName.constData()) != 0) {
-        UpdateError error = lastErrorAs(UpdateError::Code::CannotInstall);
-        QFile::remove(package);
-        return error;
-    }
-    m_environment.restart(m_environment.appImage);
+    if (!m_environment.openPackage(target()))
+        return UpdateError{UpdateError::Code::NoInstaller, target()};
     return {};
 }
 

@@ -4,10 +4,10 @@
 #pragma once
 
 #include "Platform/Linux/Updates/HttpOptions.h"
-#include "Platform/Linux/Updates/UpdateChoice.h"
 #include "Platform/Linux/Updates/UpdateInstaller.h"
 
 #include <QObject>
+#include <QString>
 #include <QUrl>
 
 #include <expected>
@@ -21,13 +21,23 @@ class BackgroundTasks;
 class UpdateDriverDelegate;
 class UpdateUserInterface;
 
+/// The program that is to be updated, and the machine that it runs on.
+struct UpdateHost {
+    QString version;
+    /// The kernel's version: the only number that means the same on every distribution.
+    QString systemVersion;
+    /// The processor, as "x86_64" or "arm64".
+    QString architecture;
+    /// What the program's Debian package is called.
+    QString package = QStringLiteral("roamlet");
+};
+
 /// One check, from the feed to the installation. On the main thread.
 class UpdateSession : public QObject
 {
 public:
     enum class Origin { User, Schedule };
     struct Setup {
-        const Clock &clock;
         /// Where packages are checked; it outlives the session, which does not wait for a check.
         BackgroundTasks &checks;
         UpdateUserInterface &userInterface;
@@ -60,5 +70,11 @@ public:
     /// The user asks for a check while this one is under way: shows what there is.
     virtual void bringToFront() = 0;
 };
+
+/// The one function of the module that fetches updates: makes a session, which the caller owns. What it needs
+/// of the network takes long to load and much memory, and most runs of the program never check for updates.
+/// Its name has the version in it: a module that came with another version is none for this program.
+using SessionModuleEntry = UpdateSession *(const UpdateSession::Setup *setup, UpdateSession::Origin origin,
+                                           const UpdateSession::Handlers *handlers);
 
 } // namespace roamlet

@@ -18,7 +18,7 @@ namespace
 
 constexpr qint64 longestNotes = qint64{1} << 20U;
 
-ReleaseNotes notesOf(const DocumentDownload::Document &document)
+ReleaseNotes notesOf(const HttpTransfer::Document &document)
 {
     ReleaseNotes result;
     const QString path = document.head.address.path();
@@ -64,9 +64,9 @@ void FeedUpdateSession::start()
         failToRead({UpdateError::Code::NotConfigured, {}});
         return;
     }
-    m_document = std::make_unique<DocumentDownload>(
-        m_network, m_setup.clock, m_setup.http, m_setup.feed, Feed::longest,
-        [this](const std::expected<DocumentDownload::Document, UpdateError> &feed) { readFeed(feed); });
+    m_document = HttpTransfer::document(
+        m_network, m_setup.http, m_setup.feed, Feed::longest,
+        [this](const std::expected<HttpTransfer::Document, UpdateError> &feed) { readFeed(feed); });
 }
 
 void FeedUpdateSession::bringToFront()
@@ -92,7 +92,7 @@ void FeedUpdateSession::bringToFront()
     m_setup.userInterface.showChecking(inThisStep([this] { finish(); }));
 }
 
-void FeedUpdateSession::readFeed(const std::expected<DocumentDownload::Document, UpdateError> &feed)
+void FeedUpdateSession::readFeed(const std::expected<HttpTransfer::Document, UpdateError> &feed)
 {
     if (!feed) {
         failToRead(feed.error());
@@ -169,14 +169,14 @@ void FeedUpdateSession::showUpdate()
 
 void FeedUpdateSession::fetchNotes()
 {
-    m_document = std::make_unique<DocumentDownload>(
-        m_network, m_setup.clock, m_setup.http, m_choice->item.notesAddress, longestNotes,
-        // The update is as good without its notes.
-        [this](const std::expected<DocumentDownload::Document, UpdateError> &document) {
-            if (document)
-                m_setup.userInterface.showReleaseNotes(notesOf(*document));
-            m_document.reset();
-        });
+    m_document =
+        HttpTransfer::document(m_network, m_setup.http, m_choice->item.notesAddress, longestNotes,
+                               // The update is as good without its notes.
+                               [this](const std::expected<HttpTransfer::Document, UpdateError> &document) {
+                                   if (document)
+                                       m_setup.userInterface.showReleaseNotes(notesOf(*document));
+                                   m_document.reset();
+                               });
 }
 
 void FeedUpdateSession::choose(UpdateUserInterface::Choice choice)
@@ -206,12 +206,8 @@ void FeedUpdateSession::download()
         return;
     }
     m_setup.userInterface.showDownload(m_choice->update(), inThisStep([this] { finish(); }));
-    const FeedItem::Package &package = m_choice->package;
     m_package = std::make_unique<PackageDownload>(
-        m_network, m_setup.clock, m_setup.checks, m_setup.http,
-        PackageDownload::Package{
-            .address = package.address, .length = package.length, .signature = package.signature},
-        m_publicKey, *path,
+        m_network, m_setup.checks, m_setup.http, m_choice->package, m_publicKey, *path,
         PackageDownload::Handlers{
             .progress =
                 [this](qint64 received, std::optional<qint64> total) {

@@ -3,10 +3,9 @@
 
 #pragma once
 
-#include "Platform/Linux/Updates/Session/DocumentDownload.h"
+#include "Platform/Linux/Updates/Session/Feed.h"
 #include "Platform/Linux/Updates/Session/HttpTransfer.h"
 #include "Platform/Linux/Updates/Session/PackageDownload.h"
-#include "Platform/Linux/Updates/UpdateChoice.h"
 #include "Platform/Linux/Updates/UpdateSession.h"
 #include "Platform/UpdateUserInterface.h"
 
@@ -32,7 +31,7 @@ public:
     void bringToFront() override;
 
 private:
-    void readFeed(const std::expected<DocumentDownload::Document, UpdateError> &feed);
+    void readFeed(const std::expected<HttpTransfer::Document, UpdateError> &feed);
     void failToRead(const UpdateError &error);
     void offer(const UpdateChoice &choice);
     void offerBySchedule();
@@ -63,7 +62,7 @@ private:
     /// Present from when an update was found.
     std::optional<UpdateChoice> m_choice;
     QNetworkAccessManager m_network;
-    std::unique_ptr<DocumentDownload> m_document;
+    std::unique_ptr<HttpTransfer> m_document;
     std::unique_ptr<PackageDownload> m_package;
     std::unique_ptr<QObject> m_step;
 };

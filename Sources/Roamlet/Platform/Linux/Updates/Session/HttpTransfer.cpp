@@ -7,6 +7,7 @@
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
 #include <QNetworkRequest>
+#include <QTimer>
 
 #include <utility>
 
@@ -28,13 +29,27 @@ int statusOf(const QNetworkReply &reply)
     return reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
 }
 
-/// Where the answer sends us, when it does.
-std::optional<QUrl> redirection(const QNetworkReply &reply)
+UpdateError insecure(const QUrl &address)
 {
-    const QVariant target = reply.attribute(QNetworkRequest::RedirectionTargetAttribute);
-    if (!target.isValid())
-        return {};
-    return reply.url().resolved(target.toUrl());
+    return {UpdateError::Code::InsecureAddress, address.toDisplayString()};
+}
+
+QNetworkRequest requestFor(const QUrl &address, const HttpOptions &options)
+{
+    QNetworkRequest request(address);
+    request.setHeader(QNetworkRequest::UserAgentHeader, options.userAgent);
+    // Packed, a small answer could unfold to any size, and its length would say nothing.
+    request.setRawHeader("Accept-Encoding", "identity");
+    // Nobody needs to recognise us.
+    request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
+    request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
+    request.setAttribute(QNetworkRequest::AuthenticationReuseAttribute, QNetworkRequest::Manual);
+    // From encryption to none it never goes. The policy that asks for each redirect loses its way at the
+    // second one (Qt 6.4).
+    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::NoLessSafeRedirectPolicy);
+    request.setMaximumRedirectsAllowed(mostRedirects);
+    request.setTransferTimeout(static_cast<int>(options.patience.count()));
+    return request;
 }
 
 } // namespace
@@ -49,20 +64,23 @@ bool isAllowed(const QUrl &address, HttpOptions::Loopback loopback)
            QHostAddress(address.host()).isLoopback();
 }
 
-HttpTransfer::HttpTransfer(QNetworkAccessManager &network, const Clock &clock, HttpOptions options,
-                           const QUrl &address, Handlers handlers, std::optional<Clock::Duration> limit)
-    : m_network(network), m_clock(clock), m_options(std::move(options)), m_handlers(std::move(handlers))
+HttpTransfer::HttpTransfer(QNetworkAccessManager &network, const HttpOptions &options, const QUrl &address,
+                           Handlers handlers)
+    : m_loopback(options.loopback), m_handlers(std::move(handlers))
 {
-    if (!isAllowed(address, m_options.loopback)) {
-        m_clock.after(Clock::Duration::zero(), this, [this, address] {
-            finish(UpdateError{UpdateError::Code::InsecureAddress, address.toDisplayString()});
-        });
+    if (!isAllowed(address, m_loopback)) {
+        QMetaObject::invokeMethod(this, [this, address] { finish(insecure(address)); }, Qt::QueuedConnection);
         return;
     }
-    send(address);
-    watch();
-    if (limit)
-        m_clock.after(*limit, this, [this] { finish(UpdateError{UpdateError::Code::TimedOut, {}}); });
+    m_reply = network.get(requestFor(address, options));
+    // What nobody has read yet stays with the server.
+    m_reply->setReadBufferSize(4 * bytesPerPiece);
+    connect(m_reply, &QNetworkReply::redirected, this, [this](const QUrl &target) {
+        if (!isAllowed(target, m_loopback))
+            finish(insecure(target));
+    });
+    connect(m_reply, &QNetworkReply::readyRead, this, &HttpTransfer::readPieces);
+    connect(m_reply, &QNetworkReply::finished, this, &HttpTransfer::complete);
 }
 
 HttpTransfer::~HttpTransfer()
@@ -70,51 +88,38 @@ HttpTransfer::~HttpTransfer()
     letGo();
 }
 
-void HttpTransfer::send(const QUrl &address)
+std::unique_ptr<HttpTransfer>
+HttpTransfer::document(QNetworkAccessManager &network, const HttpOptions &options, const QUrl &address,
+                       qint64 longest, std::function<void(std::expected<Document, UpdateError>)> finish)
 {
-    QNetworkRequest request(address);
-    request.setHeader(QNetworkRequest::UserAgentHeader, m_options.userAgent);
-    // Packed, a small answer could unfold to any size, and its length would say nothing.
-    request.setRawHeader("Accept-Encoding", "identity");
-    // Nobody needs to recognise us.
-    request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
-    request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
-    request.setAttribute(QNetworkRequest::AuthenticationReuseAttribute, QNetworkRequest::Manual);
-    // Each redirect is looked at here: Qt itself would follow one to anything that is no worse.
-    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
-
-    m_reply = m_network.get(request);
-    // What nobody has read yet stays with the server.
-    m_reply->setReadBufferSize(4 * bytesPerPiece);
-    connect(m_reply, &QNetworkReply::readyRead, this, &HttpTransfer::readPieces);
-    connect(m_reply, &QNetworkReply::finished, this, &HttpTransfer::complete);
-}
-
-void HttpTransfer::watch()
-{
-    m_hasHeardSomething = false;
-    m_clock.after(m_options.patience, this, [this] {
-        if (m_reply == nullptr)
-            return;
-        if (m_hasHeardSomething)
-            watch();
-        else
-            finish(UpdateError{UpdateError::Code::TimedOut, {}});
+    const auto document = std::make_shared<Document>();
+    const auto tooLarge = [longest](qint64 length) {
+        return length > longest ? std::optional<UpdateError>({UpdateError::Code::FeedTooLarge, {}})
+                                : std::nullopt;
+    };
+    auto transfer = std::make_unique<HttpTransfer>(
+        network, options, address,
+        Handlers{.begin =
+                     [document, tooLarge](const Head &head) {
+                         document->head = head;
+                         return tooLarge(head.length.value_or(0));
+                     },
+                 .receive =
+                     [document, tooLarge](const QByteArray &piece) {
+                         document->content += piece;
+                         return tooLarge(document->content.size());
+                     },
+                 .finish =
+                     [document, finish = std::move(finish)](const std::optional<UpdateError> &error) {
+                         if (error)
+                             finish(std::unexpected(*error));
+                         else
+                             finish(std::move(*document));
+                     }});
+    QTimer::singleShot(options.documentTime, transfer.get(), [transfer = transfer.get()] {
+        transfer->finish(UpdateError{UpdateError::Code::TimedOut, {}});
     });
-}
-
-void HttpTransfer::follow(const QUrl &address)
-{
-    if (++m_redirects > mostRedirects) {
-        finish(UpdateError{UpdateError::Code::TooManyRedirects, {}});
-        return;
-    }
-    if (!isAllowed(address, m_options.loopback)) {
-        finish(UpdateError{UpdateError::Code::InsecureAddress, address.toDisplayString()});
-        return;
-    }
-    letGo();
-    send(address);
+    return transfer;
 }
 
 std::optional<UpdateError> HttpTransfer::begin()
@@ -130,21 +135,14 @@ std::optional<UpdateError> HttpTransfer::begin()
     if (isNumber && length >= 0)
         head.length = length;
     m_length = head.length;
-    head.contentType = m_reply->header(QNetworkRequest::ContentTypeHeader)
-                           .toString()
-                           .section(u';', 0, 0)
-                           .trimmed()
-                           .toLower();
+    const QString type = m_reply->header(QNetworkRequest::ContentTypeHeader).toString();
+    head.contentType = type.section(u';', 0, 0).trimmed().toLower();
     head.address = m_reply->url();
-    return m_handlers.begin ? m_handlers.begin(head) : std::nullopt;
+    return m_handlers.begin(head);
 }
 
 void HttpTransfer::readPieces()
 {
-    m_hasHeardSomething = true;
-    // The page that a redirect brings with it is for browsers.
-    if (redirection(*m_reply))
-        return;
     while (m_reply != nullptr && m_reply->bytesAvailable() > 0) {
         std::optional<UpdateError> error = begin();
         if (!error) {
@@ -165,10 +163,6 @@ void HttpTransfer::complete()
         finish(replyError());
         return;
     }
-    if (const auto address = redirection(*m_reply)) {
-        follow(*address);
-        return;
-    }
     readPieces();
     // Reading may have ended it with an error.
     if (m_reply == nullptr)
@@ -182,6 +176,20 @@ void HttpTransfer::complete()
 
 UpdateError HttpTransfer::replyError() const
 {
+    switch (m_reply->error()) {
+    case QNetworkReply::TooManyRedirectsError:
+        return {UpdateError::Code::TooManyRedirects, {}};
+    case QNetworkReply::ProtocolUnknownError:
+    case QNetworkReply::InsecureRedirectError:
+        // Qt itself refuses a redirect to what is no web page at all.
+        return insecure(m_reply->header(QNetworkRequest::LocationHeader).toUrl());
+    case QNetworkReply::OperationCanceledError:
+    case QNetworkReply::TimeoutError:
+        // What we cancel is not heard any more, so this is Qt's own limit.
+        return {UpdateError::Code::TimedOut, {}};
+    default:
+        break;
+    }
     if (const int status = statusOf(*m_reply); status >= firstRefusal)
         return {UpdateError::Code::ServerRefused, QString::number(status)};
     return {UpdateError::Code::NetworkFailed, m_reply->errorString()};

@@ -10,7 +10,9 @@
 #include <QPointer>
 #include <QUrl>
 
+#include <expected>
 #include <functional>
+#include <memory>
 #include <optional>
 
 class QNetworkAccessManager;
@@ -35,6 +37,10 @@ public:
         /// Where the redirects ended.
         QUrl address;
     };
+    struct Document {
+        Head head;
+        QByteArray content;
+    };
     struct Handlers {
         /// Called once, before the first piece. An error that it returns ends the transfer.
         std::function<std::optional<UpdateError>(const Head &)> begin;
@@ -44,16 +50,18 @@ public:
         std::function<void(const std::optional<UpdateError> &)> finish;
     };
 
-    /// Starts at once; the handlers are called from the event loop. With a `limit` everything has to be there
-    /// within that time.
-    HttpTransfer(QNetworkAccessManager &network, const Clock &clock, HttpOptions options, const QUrl &address,
-                 Handlers handlers, std::optional<Clock::Duration> limit = {});
+    /// Starts at once; the handlers are called from the event loop.
+    HttpTransfer(QNetworkAccessManager &network, const HttpOptions &options, const QUrl &address,
+                 Handlers handlers);
     ~HttpTransfer() override;
 
+    /// Fetches a short text into memory. One with more than `longest` bytes, or one that takes too long, ends
+    /// in an error as soon as that shows. `finish` may destroy the transfer.
+    static std::unique_ptr<HttpTransfer>
+    document(QNetworkAccessManager &network, const HttpOptions &options, const QUrl &address, qint64 longest,
+             std::function<void(std::expected<Document, UpdateError>)> finish);
+
 private:
-    void send(const QUrl &address);
-    void watch();
-    void follow(const QUrl &address);
     void readPieces();
     std::optional<UpdateError> begin();
     void complete();
@@ -61,17 +69,13 @@ private:
     void finish(const std::optional<UpdateError> &error);
     void letGo();
 
-    QNetworkAccessManager &m_network;
-    const Clock &m_clock;
-    HttpOptions m_options;
+    HttpOptions::Loopback m_loopback;
     Handlers m_handlers;
     QPointer<QNetworkReply> m_reply;
     /// The length of what comes, when the server says.
     std::optional<qint64> m_length;
     qint64 m_received = 0;
-    int m_redirects = 0;
     bool m_hasBegun = false;
-    bool m_hasHeardSomething = false;
 };
 
 } // namespace roamlet

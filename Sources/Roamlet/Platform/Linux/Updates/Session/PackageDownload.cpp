@@ -5,7 +5,7 @@
 
 #include "Platform/Linux/LinuxIO.h"
 #include "Platform/Linux/Updates/Session/PackageSignature.h"
-#include "Platform/Linux/Updates/UnfinishedPackage.h"
+#include "Platform/Linux/Updates/UpdateInstaller.h"
 
 #include <unistd.h>
 
@@ -51,22 +51,22 @@ std::optional<UpdateError> check(const QString &path, qint64 length, const QByte
 
 } // namespace
 
-PackageDownload::PackageDownload(QNetworkAccessManager &network, const Clock &clock, BackgroundTasks &checks,
-                                 const HttpOptions &options, Package package, const QByteArray &key,
+PackageDownload::PackageDownload(QNetworkAccessManager &network, BackgroundTasks &checks,
+                                 const HttpOptions &options, FeedItem::Package package, const QByteArray &key,
                                  const QString &target, Handlers handlers)
     : m_checks(checks),
       m_package(std::move(package)),
       m_key(key),
       m_target(target),
       m_handlers(std::move(handlers)),
-      m_file(unfinishedPackage(target))
+      m_file(UpdateInstaller::unfinished(target))
 {
     if (const auto error = prepare()) {
-        clock.after(Clock::Duration::zero(), this, [this, error] { finish(error); });
+        QMetaObject::invokeMethod(this, [this, error] { finish(error); }, Qt::QueuedConnection);
         return;
     }
     m_transfer = std::make_unique<HttpTransfer>(
-        network, clock, options, m_package.address,
+        network, options, m_package.address,
         HttpTransfer::Handlers{
             .begin = [this](const HttpTransfer::Head &head) { return begin(head); },
             .receive = [this](const QByteArray &piece) { return receive(piece); },

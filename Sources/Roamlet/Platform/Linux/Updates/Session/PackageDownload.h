@@ -4,6 +4,7 @@
 #pragma once
 
 #include "Platform/BackgroundTasks.h"
+#include "Platform/Linux/Updates/Session/Feed.h"
 #include "Platform/Linux/Updates/Session/HttpTransfer.h"
 
 #include <QFile>
@@ -20,13 +21,6 @@ namespace roamlet
 class PackageDownload final : public QObject
 {
 public:
-    struct Package {
-        QUrl address;
-        /// In bytes, when the feed says.
-        std::optional<qint64> length;
-        /// In Base64, as the feed has it.
-        QByteArray signature;
-    };
     struct Handlers {
         /// How far it is. The total is absent when nobody said how much there is.
         std::function<void(qint64 received, std::optional<qint64> total)> progress;
@@ -39,8 +33,8 @@ public:
     /// `key` is the decoded public key; `target` the path of the file, in a folder that exists. The package
     /// is checked among `checks`, so that who cancels a download does not wait for its check: that goes on to
     /// its end, and nobody hears of it.
-    PackageDownload(QNetworkAccessManager &network, const Clock &clock, BackgroundTasks &checks,
-                    const HttpOptions &options, Package package, const QByteArray &key, const QString &target,
+    PackageDownload(QNetworkAccessManager &network, BackgroundTasks &checks, const HttpOptions &options,
+                    FeedItem::Package package, const QByteArray &key, const QString &target,
                     Handlers handlers);
     ~PackageDownload() override;
 
@@ -53,7 +47,7 @@ private:
     UpdateError writeError() const;
 
     BackgroundTasks &m_checks;
-    Package m_package;
+    FeedItem::Package m_package;
     QByteArray m_key;
     QByteArray m_signature;
     QString m_target;

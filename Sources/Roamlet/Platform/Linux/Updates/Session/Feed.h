@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "Platform/Linux/Updates/UpdateSession.h"
 #include "Platform/Update.h"
 
 #include <QByteArray>
@@ -47,6 +48,19 @@ struct FeedItem {
     std::optional<QString> criticalBefore;
 };
 
+/// A release, and the one of its packages that fits.
+struct UpdateChoice {
+    FeedItem item;
+    FeedItem::Package package;
+    bool isCritical = false;
+
+    /// The newest release for `host`, when there is one that is newer than what it has. Releases on channels
+    /// are left out.
+    static std::optional<UpdateChoice> best(const QList<FeedItem> &items, const UpdateHost &host);
+    /// What is told about it.
+    Update update() const;
+};
+
 namespace Feed
 {
 
@@ -54,8 +68,8 @@ namespace Feed
 constexpr qint64 longest = qint64{1} << 20U;
 
 /// The releases in the order of the feed, those that carry no version left out. Addresses may be relative to
-/// the feed's own. Document types are refused, so that nothing in a feed can expand, and so is what would
-/// take long to read: no feed keeps the main thread busy for long.
+/// the feed's own. Document types are refused, so that nothing in a feed can expand, and so is what is nested
+/// too deep.
 std::expected<QList<FeedItem>, UpdateError> parse(const QByteArray &bytes, const QUrl &address);
 
 } // namespace Feed

@@ -1,17 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
-#include "Platform/Linux/Updates/Feed.h"
+#include "Platform/Linux/Updates/Session/Feed.h"
 
 #include "Platform/Linux/Updates/Versions.h"
-#include "Platform/Linux/Updates/XmlWeight.h"
 
 #include <QStringDecoder>
 #include <QXmlStreamReader>
 
+#include <algorithm>
 #include <utility>
 
-namespace roamlet::Feed
+namespace roamlet
 {
 
 using namespace Qt::StringLiterals;
@@ -22,35 +22,55 @@ namespace
 /// The names of the feed format that are not RSS's own.
 constexpr QLatin1StringView extensions("http://www.andymatuschak.org/xml-namespaces/sparkle");
 
-/// Notes can hold elements of their own, but no feed comes near to this; and what stays below is read at
-/// once.
-constexpr XmlWeight heaviestFeed{.elements = 20'000, .attributes = 50, .depth = 50};
+/// Notes can hold elements of their own, but no feed comes near to this. Reading the text of an element takes
+/// a call for each level below it.
+constexpr int deepest = 50;
 
+/// What is wrong with the whole document, if anything is; what follows the end of the feed counts as well.
+QString problemOf(const QString &text)
+{
+    QXmlStreamReader xml(text);
+    int depth = 0;
+    while (!xml.atEnd()) {
+        switch (xml.readNext()) {
+        case QXmlStreamReader::DTD:
+            // A document type can define entities that unfold to anything; no feed needs one.
+            return u"Document type declaration"_s;
+        case QXmlStreamReader::StartElement:
+            if (depth == 0 && (!xml.namespaceUri().isEmpty() || xml.name() != "rss"_L1))
+                return u"No feed"_s;
+            if (++depth > deepest)
+                return u"Elements nested too deep"_s;
+            break;
+        case QXmlStreamReader::EndElement:
+            --depth;
+            break;
+        default:
+            break;
+        }
+    }
+    return xml.hasError() ? xml.errorString() : QString();
+}
+
+/// Reads a document that is known to be a feed.
 class Parser
 {
 public:
     Parser(const QString &text, QUrl address) : m_xml(text), m_address(std::move(address)) {}
 
-    std::expected<QList<FeedItem>, UpdateError> parse()
+    QList<FeedItem> parse()
     {
-        // A document type can define entities that unfold to anything; no feed needs one.
-        while (!m_xml.atEnd() && !m_xml.isStartElement()) {
-            if (m_xml.readNext() == QXmlStreamReader::DTD)
-                m_xml.raiseError(u"Document type declaration"_s);
-        }
-        if (!m_xml.hasError() && !isPlain("rss"_L1))
-            m_xml.raiseError(u"No feed"_s);
+        m_xml.readNextStartElement();
         readChildren([this] {
-            if (isPlain("channel"_L1))
-                readChannel();
-            else
-                m_xml.skipCurrentElement();
+            if (!isPlain("channel"_L1))
+                return m_xml.skipCurrentElement();
+            readChildren([this] {
+                if (isPlain("item"_L1))
+                    readItem();
+                else
+                    m_xml.skipCurrentElement();
+            });
         });
-        // What follows the end of the feed counts as well.
-        while (!m_xml.atEnd())
-            m_xml.readNext();
-        if (m_xml.hasError())
-            return std::unexpected(UpdateError{UpdateError::Code::FeedMalformed, m_xml.errorString()});
         return std::move(m_items);
     }
 
@@ -78,16 +98,6 @@ private:
     {
         const QUrl url(address.trimmed(), QUrl::TolerantMode);
         return url.isValid() && !url.isEmpty() ? m_address.resolved(url) : QUrl();
-    }
-
-    void readChannel()
-    {
-        readChildren([this] {
-            if (isPlain("item"_L1))
-                readItem();
-            else
-                m_xml.skipCurrentElement();
-        });
     }
 
     void readItem()
@@ -192,26 +202,91 @@ private:
     QList<FeedItem> m_items;
 };
 
+/// Feeds use either of each processor's two common names.
+QString canonicalArchitecture(const QString &name)
+{
+    if (name == u"x64" || name == u"amd64")
+        return u"x86_64"_s;
+    return name == u"aarch64" ? u"arm64"_s : name;
+}
+
+bool fits(const FeedItem::Package &package, const UpdateHost &host)
+{
+    // One feed serves every system: what does not say is told by its name.
+    if (!package.system.isEmpty()) {
+        const QString architecture = package.system.section(u'-', 1);
+        if (package.system.section(u'-', 0, 0) != u"linux" ||
+            (!architecture.isEmpty() &&
+             canonicalArchitecture(architecture) != canonicalArchitecture(host.architecture)))
+            return false;
+    }
+    return package.address.path().endsWith(".deb"_L1, Qt::CaseInsensitive);
+}
+
+bool suits(const FeedItem &item, const UpdateHost &host)
+{
+    const auto isLimit = [](const QString &limit) { return limit.isEmpty() || Versions::isVersion(limit); };
+    // A release for systems that nobody can tell is for none.
+    if (!isLimit(item.minimumSystemVersion) || !isLimit(item.maximumSystemVersion))
+        return false;
+    const auto system = [&host](const QString &limit) {
+        return Versions::compare(host.systemVersion, limit);
+    };
+    return item.channel.isEmpty() && Versions::compare(item.version, host.version) > 0 &&
+           (item.minimumSystemVersion.isEmpty() || system(item.minimumSystemVersion) >= 0) &&
+           (item.maximumSystemVersion.isEmpty() || system(item.maximumSystemVersion) <= 0);
+}
+
+/// Whether the release is critical for those who have this version.
+bool isCriticalFor(const QString &version, const FeedItem &item)
+{
+    if (!item.criticalBefore)
+        return false;
+    // Where nobody can tell whom it concerns, it concerns everybody.
+    return !Versions::isVersion(*item.criticalBefore) || Versions::compare(version, *item.criticalBefore) < 0;
+}
+
 } // namespace
 
-std::expected<QList<FeedItem>, UpdateError> parse(const QByteArray &bytes, const QUrl &address)
+std::expected<QList<FeedItem>, UpdateError> Feed::parse(const QByteArray &bytes, const QUrl &address)
 {
-    const auto malformed = [](const QString &detail) {
-        return std::unexpected(UpdateError{UpdateError::Code::FeedMalformed, detail});
+    const auto malformed = [](const QString &problem) {
+        return std::unexpected(UpdateError{UpdateError::Code::FeedMalformed, problem});
     };
     if (bytes.size() > longest)
         return malformed(u"Too long"_s);
-    // In the two encodings that XML asks for, so that what is weighed is what is read.
     QStringDecoder decoder(QStringConverter::encodingForData(bytes, u'<').value_or(QStringConverter::Utf8));
     const QString text = decoder(bytes);
     if (decoder.hasError())
         return malformed(u"Characters in an unknown encoding"_s);
-    const XmlWeight weight = XmlWeight::of(text);
-    if (weight.depth > heaviestFeed.depth)
-        return malformed(u"Elements nested too deep"_s);
-    if (weight.elements > heaviestFeed.elements || weight.attributes > heaviestFeed.attributes)
-        return malformed(u"Too many elements or attributes"_s);
+    if (const QString problem = problemOf(text); !problem.isEmpty())
+        return malformed(problem);
     return Parser(text, address).parse();
 }
 
-} // namespace roamlet::Feed
+std::optional<UpdateChoice> UpdateChoice::best(const QList<FeedItem> &items, const UpdateHost &host)
+{
+    std::optional<UpdateChoice> result;
+    for (const FeedItem &item : items) {
+        if (!suits(item, host) || (result && Versions::compare(item.version, result->item.version) <= 0))
+            continue;
+        const auto package = std::ranges::find_if(
+            item.packages, [&host](const FeedItem::Package &candidate) { return fits(candidate, host); });
+        if (package == item.packages.cend())
+            continue;
+        result =
+            UpdateChoice{.item = item, .package = *package, .isCritical = isCriticalFor(host.version, item)};
+    }
+    return result;
+}
+
+Update UpdateChoice::update() const
+{
+    return {.version = item.version,
+            .displayVersion = item.displayVersion,
+            .notes = item.notes,
+            .size = package.length,
+            .isCritical = isCritical};
+}
+
+} // namespace roamlet
