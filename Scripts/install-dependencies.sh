@@ -3,8 +3,8 @@
 # Installs what is missing for each of the purposes named: build, samples, test, lint, bench, fonts, pictures, packaging.
 set -euo pipefail
 
-build=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-svg-dev libsqlite3-dev libicu-dev libsodium-dev nlohmann-json3-dev
-  libglib2.0-dev libx11-dev libxdo-dev tzdata)
+build=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-svg-dev libsqlite3-dev libicu-dev libsodium-dev libarchive-dev
+  nlohmann-json3-dev libglib2.0-dev libx11-dev libxdo-dev tzdata)
 # What writes sample homes.
 samples=(libplist-dev)
 test=(libgtest-dev libgmock-dev sqlite3 dbus-daemon desktop-file-utils appstream groff-base)

@@ -53,6 +53,7 @@ struct UpdateError {
         PackageTooLarge,  ///< the package is larger than any honest one
         WrongLength,      ///< the package is not as long as the feed says
         WrongSignature,   ///< the package is not what was signed
+        WrongPackage,     ///< it is signed, but is not what was announced; the detail says what it is
         CannotWrite,      ///< the detail is the system's words
         CannotInstall,    ///< the package cannot be put in its place; the detail is the system's words
         RestartNeeded,    ///< another version was installed while this one runs

@@ -116,6 +116,20 @@ TEST_F(FeedUpdateDriverTest, aWrongSignatureIsAClearErrorAndNothingIsOfferedToBe
     EXPECT_TRUE(events.filter(u"start"_s).isEmpty());
 }
 
+TEST_F(FeedUpdateDriverTest, anOldSignedPackageThatIsOfferedAsNewInstallsNothing)
+{
+    package = debianPackage("Package: roamlet\nVersion: 0.9-1\n");
+    server.add(u"/Roamlet.deb"_s, {.body = package});
+    offer("2.0");
+    open();
+    check(u"attention 2.0"_s);
+    windows.choose(Choice::Install);
+    ASSERT_TRUE(comesTo(u"error"_s));
+    EXPECT_EQ(windows.error, (UpdateError{Code::WrongPackage, u"roamlet 0.9-1"_s}));
+    EXPECT_EQ(opened, QByteArray());
+    EXPECT_TRUE(QDir(folder.filePath(u"packages"_s)).isEmpty());
+}
+
 TEST_F(FeedUpdateDriverTest, aWrongLengthIsAClearError)
 {
     server.add(u"/Roamlet.deb"_s, {.body = package + "x"});

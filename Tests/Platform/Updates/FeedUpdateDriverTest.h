@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "DebianPackage.h"
 #include "FeedText.h"
 #include "Platform/Linux/Updates/FeedUpdateDriver.h"
 #include "Platform/Linux/Updates/Session/FeedUpdateSession.h"
@@ -116,7 +117,8 @@ protected:
     int feedRequests() const { return server.requests(QStringLiteral("/feed.xml")); }
 
     PackageSigner signer;
-    QByteArray package = QByteArray("a package ").repeated(50'000);
+    QByteArray package =
+        debianPackage("Package: roamlet\nVersion: 2.0-1\n", QByteArray("content ").repeated(50'000));
     QString feed = server.address(QStringLiteral("/feed.xml")).toString();
     QString publicKey = QString::fromLatin1(signer.publicKey());
     QString program = folder.filePath(QStringLiteral("roamlet"));

@@ -4,7 +4,7 @@
 #include "Platform/Linux/Updates/Session/PackageDownload.h"
 
 #include "../FileSizeLimit.h"
-#include "Platform/Linux/Updates/Session/PackageSignature.h"
+#include "DebianPackage.h"
 #include "UpdatesTest.h"
 
 #include <fcntl.h>
@@ -56,9 +56,8 @@ protected:
                     download.reset();
                 },
         };
-        download = std::make_unique<PackageDownload>(network, checks, options, package,
-                                                     *PackageSignature::decodedKey(signer.publicKey()),
-                                                     target, handlers);
+        download =
+            std::make_unique<PackageDownload>(network, checks, options, package, check, target, handlers);
     }
 
     /// The error that fetching ends in, or nothing. After an error there is nothing left.
@@ -78,7 +77,13 @@ protected:
     };
 
     PackageSigner signer;
-    QByteArray content = QByteArray("package ").repeated(200'000);
+    QByteArray content =
+        debianPackage("Package: roamlet\nVersion: 2.0-1\n", QByteArray("content ").repeated(200'000));
+    PackageCheck check{.key = *PackageSignature::decodedKey(signer.publicKey()),
+                       .signature = {},
+                       .name = u"roamlet"_s,
+                       .version = u"2.0"_s,
+                       .installedVersion = u"1.0"_s};
     FeedItem::Package package;
     QString target = folder.filePath(u"Roamlet.deb"_s);
     BackgroundTasks checks;
@@ -134,6 +139,15 @@ TEST_F(PackageDownloadTest, oneChangedByteIsRefused)
     changed[content.size() - 1] = '!';
     server.add(u"/x.deb"_s, {.body = changed});
     EXPECT_EQ(fetch(), (UpdateError{Code::WrongSignature, {}}));
+}
+
+TEST_F(PackageDownloadTest, aSignedPackageThatIsNotTheAnnouncedOneIsRefusedAndDeleted)
+{
+    content = debianPackage("Package: roamlet\nVersion: 1.5-1\n");
+    server.add(u"/x.deb"_s, {.body = content});
+    package.length = content.size();
+    package.signature = signer.signature(content);
+    EXPECT_EQ(fetch(), (UpdateError{Code::WrongPackage, u"roamlet 1.5-1"_s}));
 }
 
 TEST_F(PackageDownloadTest, aPackageWithoutASignatureIsNotEvenFetched)

@@ -1,9 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
-#include "Platform/Linux/Updates/Session/PackageSignature.h"
-
 #include "PackageSigner.h"
+#include "Platform/Linux/Updates/Session/PackageCheck.h"
 
 #include <QString>
 

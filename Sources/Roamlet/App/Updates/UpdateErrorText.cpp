@@ -53,6 +53,8 @@ QString Sentences::of(UpdateError::Code code)
         return tr("The update was refused and deleted because its length is not the announced one.");
     case UpdateError::Code::WrongSignature:
         return tr("The update was refused and deleted because its signature is wrong.");
+    case UpdateError::Code::WrongPackage:
+        return tr("The update was refused and deleted because it is not the version that was announced.");
     case UpdateError::Code::CannotWrite:
         return tr("The update cannot be saved.");
     case UpdateError::Code::CannotInstall:

@@ -3,7 +3,7 @@
 
 #include "Platform/Linux/Updates/Session/FeedUpdateSession.h"
 
-#include "Platform/Linux/Updates/Session/PackageSignature.h"
+#include "Platform/Linux/Updates/Session/PackageCheck.h"
 #include "Platform/UpdateDriver.h"
 
 #include <utility>
@@ -207,7 +207,13 @@ void FeedUpdateSession::download()
     }
     m_setup.userInterface.showDownload(m_choice->update(), inThisStep([this] { finish(); }));
     m_package = std::make_unique<PackageDownload>(
-        m_network, m_setup.checks, m_setup.http, m_choice->package, m_publicKey, *path,
+        m_network, m_setup.checks, m_setup.http, m_choice->package,
+        PackageCheck{.key = m_publicKey,
+                     .signature = {},
+                     .name = m_setup.host.package,
+                     .version = m_choice->item.version,
+                     .installedVersion = m_setup.host.version},
+        *path,
         PackageDownload::Handlers{
             .progress =
                 [this](qint64 received, std::optional<qint64> total) {

@@ -4,7 +4,6 @@
 #include "Platform/Linux/Updates/Session/PackageDownload.h"
 
 #include "Platform/Linux/LinuxIO.h"
-#include "Platform/Linux/Updates/Session/PackageSignature.h"
 #include "Platform/Linux/Updates/UpdateInstaller.h"
 
 #include <unistd.h>
@@ -28,10 +27,9 @@ UpdateError systemError(UpdateError::Code code)
     return {code, QString::fromStdString(lastError().message())};
 }
 
-/// Checks the file against the signature and sees to it that it survives a power cut. It is read from the
-/// disk again: what was written is what counts.
-std::optional<UpdateError> check(const QString &path, qint64 length, const QByteArray &signature,
-                                 const QByteArray &key)
+/// Checks the file and sees to it that it survives a power cut. It is read from the disk again: what was
+/// written is what counts.
+std::optional<UpdateError> problemOf(const QString &path, qint64 length, const PackageCheck &check)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
@@ -41,9 +39,9 @@ std::optional<UpdateError> check(const QString &path, qint64 length, const QByte
     const uchar *bytes = length > 0 ? file.map(0, length) : nullptr;
     if (bytes == nullptr && length > 0)
         return UpdateError{UpdateError::Code::CannotWrite, file.errorString()};
-    const QByteArray content = QByteArray::fromRawData(reinterpret_cast<const char *>(bytes), length);
-    if (!PackageSignature::isValid(content, signature, key))
-        return UpdateError{UpdateError::Code::WrongSignature, {}};
+    if (auto problem =
+            check.problemOf(QByteArray::fromRawData(reinterpret_cast<const char *>(bytes), length)))
+        return problem;
     if (::fsync(file.handle()) != 0)
         return systemError(UpdateError::Code::CannotWrite);
     return {};
@@ -52,11 +50,11 @@ std::optional<UpdateError> check(const QString &path, qint64 length, const QByte
 } // namespace
 
 PackageDownload::PackageDownload(QNetworkAccessManager &network, BackgroundTasks &checks,
-                                 const HttpOptions &options, FeedItem::Package package, const QByteArray &key,
+                                 const HttpOptions &options, FeedItem::Package package, PackageCheck check,
                                  const QString &target, Handlers handlers)
     : m_checks(checks),
       m_package(std::move(package)),
-      m_key(key),
+      m_check(std::move(check)),
       m_target(target),
       m_handlers(std::move(handlers)),
       m_file(UpdateInstaller::unfinished(target))
@@ -92,7 +90,7 @@ std::optional<UpdateError> PackageDownload::prepare()
     const auto signature = PackageSignature::decodedSignature(m_package.signature);
     if (!signature)
         return UpdateError{UpdateError::Code::PackageUnsigned, {}};
-    m_signature = *signature;
+    m_check.signature = *signature;
     if (m_package.length.value_or(0) > largestPackage)
         return UpdateError{UpdateError::Code::PackageTooLarge, {}};
     // What an earlier download left, or what somebody else put there, is neither kept nor written into.
@@ -137,8 +135,9 @@ void PackageDownload::verify()
     // Hashing a large package takes longer than a window may stand still.
     m_checks.run(
         this,
-        [path = m_file.fileName(), length = m_received, signature = m_signature,
-         key = m_key](const std::stop_token &) { return check(path, length, signature, key); },
+        [path = m_file.fileName(), length = m_received, check = m_check](const std::stop_token &) {
+            return problemOf(path, length, check);
+        },
         [this](const std::optional<UpdateError> &verdict) { finish(verdict); });
 }
 

@@ -6,6 +6,7 @@
 #include "Platform/BackgroundTasks.h"
 #include "Platform/Linux/Updates/Session/Feed.h"
 #include "Platform/Linux/Updates/Session/HttpTransfer.h"
+#include "Platform/Linux/Updates/Session/PackageCheck.h"
 
 #include <QFile>
 #include <QObject>
@@ -15,8 +16,8 @@
 namespace roamlet
 {
 
-/// A package that is being fetched into a file and checked. The file gets its name only when its length and
-/// its signature are right; before, and after any failure, there is no such file. Destroying the download
+/// A package that is being fetched into a file and checked. The file gets its name only when it is the
+/// package that was announced; before, and after any failure, there is no such file. Destroying the download
 /// cancels it. On the main thread.
 class PackageDownload final : public QObject
 {
@@ -30,12 +31,11 @@ public:
         std::function<void(const std::optional<UpdateError> &)> finish;
     };
 
-    /// `key` is the decoded public key; `target` the path of the file, in a folder that exists. The package
-    /// is checked among `checks`, so that who cancels a download does not wait for its check: that goes on to
-    /// its end, and nobody hears of it.
+    /// `check` is complete but for the signature, which the feed has; `target` the path of the file, in a
+    /// folder that exists. The package is checked among `checks`, so that who cancels a download does not
+    /// wait for its check: that goes on to its end, and nobody hears of it.
     PackageDownload(QNetworkAccessManager &network, BackgroundTasks &checks, const HttpOptions &options,
-                    FeedItem::Package package, const QByteArray &key, const QString &target,
-                    Handlers handlers);
+                    FeedItem::Package package, PackageCheck check, const QString &target, Handlers handlers);
     ~PackageDownload() override;
 
 private:
@@ -48,8 +48,7 @@ private:
 
     BackgroundTasks &m_checks;
     FeedItem::Package m_package;
-    QByteArray m_key;
-    QByteArray m_signature;
+    PackageCheck m_check;
     QString m_target;
     Handlers m_handlers;
     QFile m_file;
