@@ -51,6 +51,22 @@ public:
             onProgress();
     }
     void showVerifying() override { note(QStringLiteral("verifying")); }
+    void showInstalling(std::function<void()> cancelAction) override
+    {
+        note(QStringLiteral("installing"));
+        cancel = std::move(cancelAction);
+    }
+    void setInstallProgress(std::optional<int> percent) override { installProgress.append(percent); }
+    void showInstalled(const Update & /*update*/, std::function<void()> acknowledgeAction) override
+    {
+        note(QStringLiteral("installed"));
+        acknowledge = std::move(acknowledgeAction);
+    }
+    void showHandedOver(const Update & /*update*/, std::function<void()> acknowledgeAction) override
+    {
+        note(QStringLiteral("handed over"));
+        acknowledge = std::move(acknowledgeAction);
+    }
     void showError(const UpdateError &shownError, std::function<void()> acknowledgeAction) override
     {
         note(QStringLiteral("error"));
@@ -72,7 +88,8 @@ public:
     ReleaseNotes notes;
     UpdateError error;
     QList<std::pair<std::int64_t, std::optional<std::int64_t>>> progress;
-    /// Called with each progress.
+    QList<std::optional<int>> installProgress;
+    /// Called with each progress of a download.
     std::function<void()> onProgress;
     std::function<void()> cancel;
     std::function<void()> acknowledge;

@@ -55,7 +55,8 @@ struct UpdateError {
         WrongSignature,   ///< the package is not what was signed
         WrongPackage,     ///< it is signed, but is not what was announced; the detail says what it is
         CannotWrite,      ///< the detail is the system's words
-        CannotInstall,    ///< the package cannot be put in its place; the detail is the system's words
+        InstallRefused,   ///< the system did not get the permission to install it
+        CannotInstall,    ///< the system could not install it; the detail is its words
         RestartNeeded,    ///< another version was installed while this one runs
         NoInstaller,      ///< the package arrived and nobody takes it; the detail is its path
     };

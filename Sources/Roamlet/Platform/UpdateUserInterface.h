@@ -48,6 +48,16 @@ public:
     virtual void setDownloadProgress(std::int64_t received, std::optional<std::int64_t> total) = 0;
     /// The download is complete and is being checked; the button to cancel still holds.
     virtual void showVerifying() = 0;
+    /// The update is being installed, with a button to cancel. The system may ask for a password. Closed:
+    /// cancelled.
+    virtual void showInstalling(std::function<void()> cancel) = 0;
+    /// How far that is, of a hundred; absent when nobody knows.
+    virtual void setInstallProgress(std::optional<int> percent) = 0;
+    /// The update is installed, and the next start runs it. Closed: acknowledged.
+    virtual void showInstalled(const Update &update, std::function<void()> acknowledge) = 0;
+    /// The desktop's program for packages has opened the update: the rest is the user's. Closed:
+    /// acknowledged.
+    virtual void showHandedOver(const Update &update, std::function<void()> acknowledge) = 0;
     /// Something failed. Closed: acknowledged.
     virtual void showError(const UpdateError &error, std::function<void()> acknowledge) = 0;
     /// Brings the window that is open before the user's eyes.

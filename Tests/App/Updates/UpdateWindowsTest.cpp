@@ -324,6 +324,40 @@ TEST_F(UpdateWindowsTest, theCheckOfTheDownloadCanBeCancelled)
     EXPECT_EQ(answers, 1);
 }
 
+TEST_F(UpdateWindowsTest, anInstallationShowsHowFarItIs)
+{
+    windows.showInstalling(count());
+    EXPECT_EQ(heading(), u"Installing the update…"_s);
+    EXPECT_EQ(text(), u"Your system may ask for your password."_s);
+    EXPECT_EQ(bar().maximum(), 0);
+    windows.setInstallProgress(40);
+    EXPECT_EQ(bar().maximum(), 1000);
+    EXPECT_EQ(bar().value(), 400);
+    windows.setInstallProgress({});
+    EXPECT_EQ(bar().maximum(), 0);
+    press(u"updateCancel"_s);
+    EXPECT_EQ(answers, 1);
+    windows.setInstallProgress(50);
+}
+
+TEST_F(UpdateWindowsTest, afterTheInstallationItSaysHowToRunTheNewVersion)
+{
+    windows.showInstalled(update, count());
+    EXPECT_EQ(heading(), u"Roamlet 2.0 is installed"_s);
+    EXPECT_EQ(text(), u"Quit Roamlet and open it again to use the new version."_s);
+    press(u"updateOk"_s);
+    EXPECT_EQ(answers, 1);
+}
+
+TEST_F(UpdateWindowsTest, aHandedOverUpdateIsNotCalledInstalled)
+{
+    windows.showHandedOver(update, count());
+    EXPECT_EQ(heading(), u"Roamlet 2.0 is not installed yet"_s);
+    EXPECT_TRUE(text().contains(u"Install it there")) << qPrintable(text());
+    press(u"updateOk"_s);
+    EXPECT_EQ(answers, 1);
+}
+
 TEST_F(UpdateWindowsTest, eachWindowTakesThePlaceOfTheOneBeforeUnanswered)
 {
     windows.showChecking(count());

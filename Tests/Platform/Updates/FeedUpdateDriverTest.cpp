@@ -79,10 +79,14 @@ TEST_F(FeedUpdateDriverTest, aPackageIsDownloadedCheckedAndHandedToTheDesktop)
     check(u"attention 2.0"_s);
     events.clear();
     windows.choose(Choice::Install);
-    ASSERT_TRUE(comesTo(u"finish"_s));
-    EXPECT_EQ(events,
-              (QStringList{u"download"_s, u"verifying"_s, u"open Roamlet.deb"_s, u"close"_s, u"finish"_s}));
+    ASSERT_TRUE(comesTo(u"handed over"_s));
+    EXPECT_EQ(events, (QStringList{u"download"_s, u"verifying"_s, u"installing"_s, u"open Roamlet.deb"_s,
+                                   u"handed over"_s}));
     EXPECT_EQ(opened, package);
+    windows.acknowledge();
+    EXPECT_EQ(events.mid(5), (QStringList{u"close"_s, u"finish"_s}));
+    EXPECT_TRUE(QFile::exists(folder.filePath(u"packages/Roamlet.deb"_s)))
+        << "it is read when they get to it";
     ASSERT_FALSE(windows.progress.isEmpty());
     EXPECT_EQ(windows.progress.last().first, package.size());
     EXPECT_EQ(windows.progress.last().second, package.size());
@@ -281,7 +285,7 @@ TEST_F(FeedUpdateDriverTest, anUpdateIsAsGoodWithoutItsNotes)
     open();
     check(u"attention 2.0"_s);
     windows.choose(Choice::Install);
-    ASSERT_TRUE(comesTo(u"finish"_s));
+    ASSERT_TRUE(comesTo(u"handed over"_s));
     EXPECT_EQ(opened, package);
 }
 

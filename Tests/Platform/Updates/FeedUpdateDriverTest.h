@@ -80,12 +80,15 @@ protected:
                                        .makeSession = makeSession},
             UpdateInstaller::Environment{.program = program,
                                          .packageFolder = folder.filePath(QStringLiteral("packages")),
-                                         .openPackage = [this](const QString &path) {
-                                             events.append(QStringLiteral("open ") %
-                                                           QFileInfo(path).fileName());
-                                             opened = contentOf(path);
-                                             return hasInstaller;
-                                         }});
+                                         .openPackage =
+                                             [this](const QString &path) {
+                                                 events.append(QStringLiteral("open ") %
+                                                               QFileInfo(path).fileName());
+                                                 opened = contentOf(path);
+                                                 return hasInstaller;
+                                             },
+                                         .systemBus = [this] { return systemBus; },
+                                         .patience = servicePatience});
         driver->open(delegate, scheduler);
     }
 
@@ -124,6 +127,9 @@ protected:
     QString program = folder.filePath(QStringLiteral("roamlet"));
     bool isInFront = true;
     bool hasInstaller = true;
+    /// Not connected to any.
+    QDBusConnection systemBus{QStringLiteral("no bus")};
+    std::chrono::milliseconds servicePatience = patience;
     QByteArray opened;
     MemoryUserDefaults defaults;
     FakeUpdateUserInterface windows;

@@ -27,10 +27,12 @@ protected:
     {
         return UpdateInstaller({.program = folder.filePath(u"roamlet"_s),
                                 .packageFolder = folder.filePath(u"cache/Roamlet/Updates"_s),
-                                .openPackage = [this](const QString &path) {
-                                    opened.append(path);
-                                    return hasInstaller;
-                                }});
+                                .openPackage =
+                                    [this](const QString &path) {
+                                        opened.append(path);
+                                        return hasInstaller;
+                                    },
+                                .systemBus = {}});
     }
 
     static mode_t modeOf(const QString &path)
@@ -50,7 +52,7 @@ TEST_F(UpdateInstallerTest, aPackageIsHandedToTheDesktop)
     ASSERT_TRUE(path);
     EXPECT_EQ(*path, folder.filePath(u"cache/Roamlet/Updates/Roamlet.deb"_s));
     write(*path, "package");
-    EXPECT_EQ(installer().install(), std::nullopt);
+    EXPECT_EQ(installer().handOver(), std::nullopt);
     EXPECT_EQ(opened, QStringList{*path});
     EXPECT_EQ(contentOf(*path), "package") << "the desktop reads it when it gets to it";
 }
@@ -104,7 +106,7 @@ TEST_F(UpdateInstallerTest, aDesktopWithoutAnInstallerIsAnErrorThatTellsWhereThe
 {
     hasInstaller = false;
     const QString path = installer().packagePath().value();
-    EXPECT_EQ(installer().install(), (UpdateError{Code::NoInstaller, path}));
+    EXPECT_EQ(installer().handOver(), (UpdateError{Code::NoInstaller, path}));
 }
 
 TEST_F(UpdateInstallerTest, aFolderThatCannotBeMadeIsAnErrorInTheSystemsWords)

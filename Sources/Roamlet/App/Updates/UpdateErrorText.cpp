@@ -57,6 +57,8 @@ QString Sentences::of(UpdateError::Code code)
         return tr("The update was refused and deleted because it is not the version that was announced.");
     case UpdateError::Code::CannotWrite:
         return tr("The update cannot be saved.");
+    case UpdateError::Code::InstallRefused:
+        return tr("The update was not installed because nobody gave permission to do so.");
     case UpdateError::Code::CannotInstall:
         return tr("The update cannot be installed.");
     case UpdateError::Code::RestartNeeded:

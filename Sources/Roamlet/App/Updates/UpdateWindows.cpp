@@ -22,6 +22,17 @@ namespace roamlet
 using namespace Qt::StringLiterals;
 using Role = UpdateDialog::Role;
 
+namespace
+{
+
+/// A version comes from elsewhere, and can be of any length.
+QString shortened(const QString &version)
+{
+    return ForeignText::oneLine(version, ForeignText::longestMenuText);
+}
+
+} // namespace
+
 UpdateWindows::UpdateWindows(QString currentVersion, std::function<void(const QString &url)> openLink)
     : m_currentVersion(std::move(currentVersion)), m_openLink(std::move(openLink))
 {
@@ -88,9 +99,9 @@ void UpdateWindows::showUpToDate(std::function<void()> acknowledge)
 void UpdateWindows::showUpdate(const Update &update, std::function<void(Choice)> choose)
 {
     const auto answer = [&choose](Choice choice) { return [choose, choice] { choose(choice); }; };
-    const QString version = ForeignText::oneLine(update.displayVersion, ForeignText::longestMenuText);
-    auto *window =
-        new UpdateDialog(u"updateFound"_s, tr("Roamlet %1 is available").arg(version), answer(Choice::Later));
+    auto *window = new UpdateDialog(u"updateFound"_s,
+                                    tr("Roamlet %1 is available").arg(shortened(update.displayVersion)),
+                                    answer(Choice::Later));
     QStringList sentences{tr("You have version %1.").arg(m_currentVersion)};
     if (update.size)
         sentences.append(tr("The download takes %1.").arg(window->locale().formattedDataSize(*update.size)));
@@ -152,6 +163,33 @@ void UpdateWindows::showVerifying()
     m_window->setHeading(tr("Checking the update…"));
     m_window->setText({});
     m_window->setProgress({});
+}
+
+void UpdateWindows::showInstalling(std::function<void()> cancel)
+{
+    showProgress(u"updateInstalling"_s, tr("Installing the update…"), cancel);
+    m_window->setText(tr("Your system may ask for your password."));
+}
+
+void UpdateWindows::setInstallProgress(std::optional<int> percent)
+{
+    if (m_window && m_window->hasProgress())
+        m_window->setProgress(percent ? std::optional(*percent / 100.0) : std::nullopt);
+}
+
+void UpdateWindows::showInstalled(const Update &update, std::function<void()> acknowledge)
+{
+    showMessage(u"updateInstalled"_s, tr("Roamlet %1 is installed").arg(shortened(update.displayVersion)),
+                tr("Quit Roamlet and open it again to use the new version."), acknowledge);
+}
+
+void UpdateWindows::showHandedOver(const Update &update, std::function<void()> acknowledge)
+{
+    showMessage(u"updateHandedOver"_s,
+                tr("Roamlet %1 is not installed yet").arg(shortened(update.displayVersion)),
+                tr("It was opened with your program for packages. Install it there, then quit Roamlet and "
+                   "open it again to use the new version."),
+                acknowledge);
 }
 
 void UpdateWindows::showError(const UpdateError &error, std::function<void()> acknowledge)

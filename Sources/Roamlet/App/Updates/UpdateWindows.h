@@ -34,6 +34,10 @@ public:
     void showDownload(const Update &update, std::function<void()> cancel) override;
     void setDownloadProgress(std::int64_t received, std::optional<std::int64_t> total) override;
     void showVerifying() override;
+    void showInstalling(std::function<void()> cancel) override;
+    void setInstallProgress(std::optional<int> percent) override;
+    void showInstalled(const Update &update, std::function<void()> acknowledge) override;
+    void showHandedOver(const Update &update, std::function<void()> acknowledge) override;
     void showError(const UpdateError &error, std::function<void()> acknowledge) override;
     void focus() override;
     void close() override;

@@ -27,12 +27,13 @@ using namespace std::chrono_literals;
 
 UpdateInstaller::Environment UpdateInstaller::Environment::ofThisProcess()
 {
-    return {.program = QCoreApplication::applicationFilePath(),
-            .packageFolder =
-                QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) % u"/Roamlet/Updates",
-            .openPackage = [](const QString &path) {
-                return openFile(path, u"application/vnd.debian.binary-package"_s);
-            }};
+    return {
+        .program = QCoreApplication::applicationFilePath(),
+        .packageFolder =
+            QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) % u"/Roamlet/Updates",
+        .openPackage =
+            [](const QString &path) { return openFile(path, u"application/vnd.debian.binary-package"_s); },
+        .systemBus = QDBusConnection::systemBus};
 }
 
 UpdateInstaller::UpdateInstaller(Environment environment)
@@ -85,7 +86,7 @@ void UpdateInstaller::removeLeftovers(PointInTime now) const
         QFile::remove(target());
 }
 
-std::optional<UpdateError> UpdateInstaller::install() const
+std::optional<UpdateError> UpdateInstaller::handOver() const
 {
     if (!m_environment.openPackage(target()))
         return UpdateError{UpdateError::Code::NoInstaller, target()};

@@ -221,24 +221,53 @@ void FeedUpdateSession::download()
                 },
             .verifying = [this] { m_setup.userInterface.showVerifying(); },
             .finish =
-                [this](const std::optional<UpdateError> &error) {
+                [this, path = *path](const std::optional<UpdateError> &error) {
                     if (error)
                         fail(*error);
                     else
-                        install();
+                        install(path);
                 },
         });
 }
 
-void FeedUpdateSession::install()
+void FeedUpdateSession::install(const QString &package)
 {
     m_package.reset();
     beginStep();
-    if (const auto error = m_setup.installer.install()) {
-        fail(*error);
-        return;
+    const UpdateInstaller::Environment &environment = m_setup.installer.environment();
+    m_setup.userInterface.showInstalling(inThisStep([this] { finish(); }));
+    m_installation = std::make_unique<PackageKitInstallation>(
+        environment.systemBus(), environment.patience, package,
+        PackageKitInstallation::Handlers{
+            .progress =
+                [this](std::optional<int> percent) { m_setup.userInterface.setInstallProgress(percent); },
+            .finish = [this](PackageKitInstallation::End end,
+                             const QString &text) { endInstallation(end, text); }});
+}
+
+void FeedUpdateSession::endInstallation(PackageKitInstallation::End end, const QString &text)
+{
+    using End = PackageKitInstallation::End;
+    m_installation.reset();
+    beginStep();
+    switch (end) {
+    case End::Installed:
+        m_setup.installer.removePackage();
+        m_setup.userInterface.showInstalled(m_choice->update(), inThisStep([this] { finish(); }));
+        break;
+    case End::Refused:
+        fail({UpdateError::Code::InstallRefused, {}});
+        break;
+    case End::Failed:
+        fail({UpdateError::Code::CannotInstall, text});
+        break;
+    case End::Unavailable:
+        if (const auto error = m_setup.installer.handOver())
+            fail(*error);
+        else
+            m_setup.userInterface.showHandedOver(m_choice->update(), inThisStep([this] { finish(); }));
+        break;
     }
-    finish();
 }
 
 void FeedUpdateSession::fail(const UpdateError &error)
@@ -258,6 +287,7 @@ void FeedUpdateSession::finish()
 {
     m_document.reset();
     m_package.reset();
+    m_installation.reset();
     m_step.reset();
     if (m_sight == Sight::Window)
         m_setup.userInterface.close();

@@ -6,6 +6,7 @@
 #include "Platform/Linux/Updates/Session/Feed.h"
 #include "Platform/Linux/Updates/Session/HttpTransfer.h"
 #include "Platform/Linux/Updates/Session/PackageDownload.h"
+#include "Platform/Linux/Updates/Session/PackageKitInstallation.h"
 #include "Platform/Linux/Updates/UpdateSession.h"
 #include "Platform/UpdateUserInterface.h"
 
@@ -39,7 +40,8 @@ private:
     void fetchNotes();
     void choose(UpdateUserInterface::Choice choice);
     void download();
-    void install();
+    void install(const QString &package);
+    void endInstallation(PackageKitInstallation::End end, const QString &text);
     void fail(const UpdateError &error);
     void finish();
     void giveAttention();
@@ -64,6 +66,7 @@ private:
     QNetworkAccessManager m_network;
     std::unique_ptr<HttpTransfer> m_document;
     std::unique_ptr<PackageDownload> m_package;
+    std::unique_ptr<PackageKitInstallation> m_installation;
     std::unique_ptr<QObject> m_step;
 };
 
