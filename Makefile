@@ -3,7 +3,7 @@
 
 PREFIX ?= /usr/local
 
-.PHONY: run install package test check lint format sanitizers bench clean
+.PHONY: run install package release test check lint format sanitizers bench clean
 
 run: ## Build Roamlet and start it
 	@Scripts/run.sh
@@ -13,6 +13,9 @@ install: ## Build Roamlet and install it below PREFIX, or into DESTDIR
 
 package: ## Make a Debian package of Roamlet
 	@Scripts/package.sh
+
+release: ## Make a package, its signature and its feed, with ROAMLET_KEY_FILE for ROAMLET_BASE_ADDRESS
+	@Scripts/release.sh
 
 test: ## Build and run every test
 	@Scripts/test.sh dev

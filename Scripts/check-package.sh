@@ -4,20 +4,11 @@
 # the one that "make package" made. Needs Docker or Podman, or root and debootstrap; without them it says so and ends
 # with status 77.
 set -euo pipefail
+. "$(dirname "$0")/fresh-debian.sh"
 
 on_fresh_system() {
-  export DEBIAN_FRONTEND=noninteractive LC_ALL=C.UTF-8
-  step() { echo "== $*"; }
-  fail() { echo "FAILED: $*" >&2; exit 1; }
   traces() { find / -xdev \( -path /proc -o -path /sys -o -path /check -o -path /home \) -prune -o -iname '*roamlet*' -print; }
-  # As a person who has just come to this machine.
-  as_user() { runuser -u visitor -- env HOME=/home/visitor TMPDIR=/tmp/visitor "$@"; }
-
-  printf '#!/bin/sh\nexit 101\n' >/usr/sbin/policy-rc.d
-  chmod +x /usr/sbin/policy-rc.d
-  apt-get update -q >/dev/null
-  useradd --create-home visitor
-  install -d -o visitor /tmp/visitor
+  prepare_fresh_debian
   [ ! -d /check/home ] || { cp -r /check/home/. /home/visitor && chown -R visitor: /home/visitor; }
 
   step "Install, without anything that is only recommended"
@@ -76,36 +67,9 @@ work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 mkdir "$work/check"
 cp "$package" "$work/check/roamlet.deb"
-cp "$0" "$work/check/check-package.sh"
+cp Scripts/check-package.sh Scripts/fresh-debian.sh "$work/check/"
 # Something to read, where it has been built.
 if [ -x build/release/roamlet-sample-home ]; then
   build/release/roamlet-sample-home --layout mac "$work/check/home" >/dev/null
 fi
-chmod -R a+rX "$work"
-
-for engine in podman docker; do
-  if command -v $engine >/dev/null && $engine info >/dev/null 2>&1; then
-    echo "In a $engine container:"
-    $engine run --rm --volume "$work/check:/check:ro" docker.io/library/debian:12 \
-      bash /check/check-package.sh --on-fresh-system
-    exit
-  fi
-done
-
-if [ "$(id -u)" -ne 0 ] || ! command -v debootstrap >/dev/null || ! unshare --mount --pid --fork true 2>/dev/null; then
-  echo "Cannot make a fresh Debian here: that takes Docker, Podman, or debootstrap as root with the right to mount." >&2
-  exit 77
-fi
-base=$PWD/build/fresh-debian
-if [ ! -d "$base" ]; then
-  echo "Making a fresh Debian in ${base#"$PWD"/} …"
-  rm -rf "$base.part"
-  debootstrap --variant=minbase bookworm "$base.part" "${ROAMLET_DEBIAN_MIRROR:-http://deb.debian.org/debian}" >/dev/null
-  mv "$base.part" "$base"
-fi
-echo "In a chroot:"
-cp -a --reflink=auto "$base" "$work/root"
-cp -r "$work/check" "$work/root/check"
-# What is mounted and started in there ends with it.
-unshare --mount --pid --fork --kill-child chroot "$work/root" bash -c \
-  'mount -t proc proc /proc && bash /check/check-package.sh --on-fresh-system'
+on_fresh_debian "$work/check" check-package.sh --on-fresh-system
