@@ -3,86 +3,60 @@
 
 #include "Platform/Linux/Updates/Versions.h"
 
+#include <QList>
+
 #include <algorithm>
-#include <vector>
 
 namespace roamlet::Versions
 {
 
-using namespace Qt::StringLiterals;
-
 namespace
 {
 
-enum class Kind {
-    Number,
-    Period,
-    /// A space, a bracket and their like; in comparisons it is as good as a period.
-    Separator,
-    Word,
-};
-
-struct Part {
-    Kind kind;
-    QStringView text;
-};
+// From old to new, what may stand in one place.
+enum class Kind { Word, End, Separator, Number };
 
 bool isDigit(QChar c)
 {
     return c >= u'0' && c <= u'9';
 }
 
-Kind kindOf(QChar c)
+Kind kindOf(QStringView part)
 {
-    if (isDigit(c))
+    if (part.isEmpty())
+        return Kind::End;
+    if (isDigit(part.front()))
         return Kind::Number;
-    if (c == u'.')
-        return Kind::Period;
-    return c.isSpace() || c.isPunct() ? Kind::Separator : Kind::Word;
+    return part.front().isSpace() || part.front().isPunct() ? Kind::Separator : Kind::Word;
 }
 
-std::vector<Part> parts(QStringView version)
+/// Takes the next number, word or separator away from `rest`.
+QStringView takePart(QStringView &rest)
 {
-    // A hyphen begins a note, such as the revision that was built. At the very beginning it is no such thing.
-    const qsizetype hyphen = version.indexOf(u'-', 1);
-    if (hyphen > 0)
-        version = version.first(hyphen);
-    std::vector<Part> result;
-    while (!version.isEmpty()) {
-        const Kind kind = kindOf(version.front());
-        qsizetype length = 1;
-        if (kind == Kind::Number || kind == Kind::Word) {
-            while (length < version.size() && kindOf(version[length]) == kind)
-                ++length;
-        }
-        result.push_back({kind, version.first(length)});
-        version = version.sliced(length);
-    }
+    const Kind kind = kindOf(rest);
+    qsizetype length = std::min<qsizetype>(rest.size(), 1);
+    while (kind != Kind::Separator && length < rest.size() && kindOf(rest.sliced(length)) == kind)
+        ++length;
+    const QStringView result = rest.first(length);
+    rest = rest.sliced(length);
     return result;
 }
 
-/// Gives `shorter` the zeros that it lacks behind its leading numbers: "1.0b1" becomes "1.0.0b1" beside
-/// "1.0.0".
-void fillUp(std::vector<Part> &shorter, const std::vector<Part> &longer)
+/// Takes the numbers with periods between them away from the beginning of `rest`.
+QList<QStringView> takeNumbers(QStringView &rest)
 {
-    const auto isWordLike = [](const Part &part) {
-        return part.kind != Kind::Number && part.kind != Kind::Period;
-    };
-    const auto place = std::ranges::find_if(shorter, isWordLike) - shorter.begin();
-    const auto end = std::ranges::find_if(longer, isWordLike) - longer.begin();
-    for (auto i = place; i < end; ++i) {
-        const bool isNumber = longer[static_cast<std::size_t>(i)].kind == Kind::Number;
-        shorter.insert(shorter.begin() + i, isNumber ? Part{Kind::Number, u"0"} : Part{Kind::Period, u"."});
-    }
+    const QChar *end = std::ranges::find_if_not(rest, [](QChar c) { return isDigit(c) || c == u'.'; });
+    const QStringView numbers = rest.first(end - rest.begin());
+    rest = rest.sliced(numbers.size());
+    return numbers.split(u'.');
 }
 
-/// Numbers of any length, without a type that could overflow.
+/// Numbers of any length, without a type that could overflow. What is missing is nothing.
 std::weak_ordering compareNumbers(QStringView left, QStringView right)
 {
     const auto withoutZeros = [](QStringView digits) {
-        while (digits.startsWith(u'0'))
-            digits = digits.sliced(1);
-        return digits;
+        return digits.sliced(std::ranges::find_if(digits, [](QChar c) { return c != u'0'; }) -
+                             digits.begin());
     };
     left = withoutZeros(left);
     right = withoutZeros(right);
@@ -91,24 +65,11 @@ std::weak_ordering compareNumbers(QStringView left, QStringView right)
     return left.compare(right) <=> 0;
 }
 
-std::weak_ordering compareParts(const Part &left, const Part &right)
+/// A hyphen begins a note, such as the revision that was built. At the very beginning it is no such thing.
+QStringView withoutNote(QStringView version)
 {
-    // From old to new, what may stand in one place.
-    const auto rank = [](Kind kind) {
-        if (kind == Kind::Word)
-            return 0;
-        return kind == Kind::Number ? 2 : 1;
-    };
-    if (const std::weak_ordering order = rank(left.kind) <=> rank(right.kind); order != 0)
-        return order;
-    switch (left.kind) {
-    case Kind::Number:
-        return compareNumbers(left.text, right.text);
-    case Kind::Word:
-        return left.text.compare(right.text) <=> 0;
-    default:
-        return std::weak_ordering::equivalent;
-    }
+    const qsizetype hyphen = version.indexOf(u'-', 1);
+    return hyphen > 0 ? version.first(hyphen) : version;
 }
 
 } // namespace
@@ -121,23 +82,23 @@ bool isVersion(QStringView text)
 
 std::weak_ordering compare(QStringView left, QStringView right)
 {
-    std::vector<Part> leftParts = parts(left);
-    std::vector<Part> rightParts = parts(right);
-    fillUp(leftParts, rightParts);
-    fillUp(rightParts, leftParts);
-    for (std::size_t i = 0; i < std::min(leftParts.size(), rightParts.size()); ++i) {
-        if (const std::weak_ordering order = compareParts(leftParts[i], rightParts[i]); order != 0)
-            return order;
+    left = withoutNote(left);
+    right = withoutNote(right);
+    const QList<QStringView> leftNumbers = takeNumbers(left);
+    const QList<QStringView> rightNumbers = takeNumbers(right);
+    std::weak_ordering order = std::weak_ordering::equivalent;
+    for (qsizetype i = 0; i < std::max(leftNumbers.size(), rightNumbers.size()) && order == 0; ++i)
+        order = compareNumbers(leftNumbers.value(i), rightNumbers.value(i));
+    while (order == 0 && !(left.isEmpty() && right.isEmpty())) {
+        const QStringView leftPart = takePart(left);
+        const QStringView rightPart = takePart(right);
+        order = kindOf(leftPart) <=> kindOf(rightPart);
+        if (order == 0 && kindOf(leftPart) == Kind::Number)
+            order = compareNumbers(leftPart, rightPart);
+        else if (order == 0 && kindOf(leftPart) == Kind::Word)
+            order = leftPart.compare(rightPart) <=> 0;
     }
-    const std::weak_ordering order = leftParts.size() <=> rightParts.size();
-    if (order == 0)
-        return order;
-    // A word more makes it older ("1.0b"), anything else newer ("1.0 (5)").
-    const std::vector<Part> &longer = order > 0 ? leftParts : rightParts;
-    const Part &first = longer[std::min(leftParts.size(), rightParts.size())];
-    if (first.kind != Kind::Word)
-        return order;
-    return order > 0 ? std::weak_ordering::less : std::weak_ordering::greater;
+    return order;
 }
 
 } // namespace roamlet::Versions
