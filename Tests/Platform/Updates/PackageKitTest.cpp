@@ -94,6 +94,7 @@ protected:
         if (!SessionBus::isAvailable())
             GTEST_SKIP() << "dbus-daemon is not installed";
         FeedUpdateDriverTest::SetUp();
+        write(program, "version 1.0");
         ASSERT_TRUE(daemon.start());
         systemBus = QDBusConnection::connectToBus(daemon.address(), u"program"_s);
         service =
@@ -120,6 +121,14 @@ protected:
         EXPECT_EQ(events.first(3), (QStringList{u"download"_s, u"verifying"_s, u"installing"_s}));
         return events.mid(3).join(u", ");
     }
+    /// As dpkg does it.
+    void replaceProgram() const
+    {
+        write(program % u".dpkg-new", "version 2.0");
+        ASSERT_EQ(std::rename(QFile::encodeName(program % u".dpkg-new").constData(),
+                              QFile::encodeName(program).constData()),
+                  0);
+    }
     bool isPackageKept() const { return QFile::exists(folder.filePath(u"packages/Roamlet.deb"_s)); }
 
     SessionBus daemon;
@@ -134,6 +143,7 @@ TEST_F(PackageKitTest, theSystemInstallsTheUpdate)
         service->bus.send(message.createReply());
         service->tellPercentage(40);
         service->tellPercentage(101);
+        replaceProgram();
         service->end(1);
     };
     EXPECT_EQ(install(), u"installed"_s);
@@ -147,6 +157,30 @@ TEST_F(PackageKitTest, theSystemInstallsTheUpdate)
     EXPECT_FALSE(isPackageKept());
     windows.acknowledge();
     EXPECT_EQ(events.mid(4), (QStringList{u"close"_s, u"finish"_s}));
+}
+
+TEST_F(PackageKitTest, aServiceThatDidNothingIsNoSuccess)
+{
+    service->install = [this](const QDBusMessage &message) {
+        service->bus.send(message.createReply());
+        service->end(1);
+    };
+    EXPECT_EQ(install(), u"error"_s);
+    EXPECT_EQ(windows.error, (UpdateError{Code::CannotInstall, {}}));
+}
+
+TEST_F(PackageKitTest, aProgramThatWasReplacedDuringTheDownloadIsNotReplacedAgain)
+{
+    open();
+    check(u"attention 2.0"_s);
+    windows.onProgress = [this, isReplaced = false]() mutable {
+        if (!std::exchange(isReplaced, true))
+            replaceProgram();
+    };
+    windows.choose(Choice::Install);
+    ASSERT_TRUE(comesTo(u"error"_s));
+    EXPECT_EQ(windows.error, (UpdateError{Code::RestartNeeded, {}}));
+    EXPECT_EQ(service->calls, QStringList());
 }
 
 TEST_F(PackageKitTest, aPermissionThatIsNotGivenIsNoSuccess)

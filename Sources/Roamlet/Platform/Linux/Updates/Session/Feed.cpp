@@ -62,8 +62,10 @@ public:
     {
         m_xml.readNextStartElement();
         readChildren([this] {
-            if (!isPlain("channel"_L1))
-                return m_xml.skipCurrentElement();
+            if (!isPlain("channel"_L1)) {
+                m_xml.skipCurrentElement();
+                return;
+            }
             readChildren([this] {
                 if (isPlain("item"_L1))
                     readItem();

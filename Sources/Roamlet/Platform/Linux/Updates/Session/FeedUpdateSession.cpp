@@ -57,7 +57,7 @@ void FeedUpdateSession::start()
 {
     beginStep();
     if (m_origin == Origin::User) {
-        m_sight = Sight::Window;
+        m_isSeen = true;
         m_setup.userInterface.showChecking(inThisStep([this] { finish(); }));
     }
     if (m_setup.feed.isEmpty() || m_publicKey.isEmpty()) {
@@ -72,7 +72,7 @@ void FeedUpdateSession::start()
 void FeedUpdateSession::bringToFront()
 {
     m_origin = Origin::User;
-    if (m_sight == Sight::Window) {
+    if (m_isSeen) {
         m_setup.userInterface.focus();
         if (m_choice)
             giveAttention();
@@ -80,7 +80,7 @@ void FeedUpdateSession::bringToFront()
     }
     if (m_choice) {
         if (m_setup.installer.isProgramReplaced()) {
-            m_sight = Sight::Window;
+            m_isSeen = true;
             giveAttention();
             fail({UpdateError::Code::RestartNeeded, {}});
         } else {
@@ -88,7 +88,7 @@ void FeedUpdateSession::bringToFront()
         }
         return;
     }
-    m_sight = Sight::Window;
+    m_isSeen = true;
     m_setup.userInterface.showChecking(inThisStep([this] { finish(); }));
 }
 
@@ -135,21 +135,13 @@ void FeedUpdateSession::offer(const UpdateChoice &choice)
     }
     m_choice = choice;
     beginStep();
-    if (m_origin == Origin::Schedule) {
-        offerBySchedule();
-        return;
-    }
-    m_setup.delegate.willHandleShowingUpdate(true, choice.update(), state());
-    showUpdate();
-}
-
-void FeedUpdateSession::offerBySchedule()
-{
     UpdateDriverDelegate &delegate = m_setup.delegate;
-    const Update update = m_choice->update();
-    const bool handlesShowing = !delegate.supportsGentleScheduledUpdateReminders() ||
+    const Update update = choice.update();
+    const bool isAskedFor = m_origin == Origin::User;
+    const bool handlesShowing = isAskedFor || !delegate.supportsGentleScheduledUpdateReminders() ||
                                 delegate.shouldHandleShowingScheduledUpdate(update, m_setup.isInFront());
-    delegate.willHandleShowingUpdate(handlesShowing, update, state());
+    delegate.willHandleShowingUpdate(
+        handlesShowing, update, {.stage = UpdateState::Stage::NotDownloaded, .isUserInitiated = isAskedFor});
     // Otherwise it waits until the user asks.
     if (handlesShowing)
         showUpdate();
@@ -157,7 +149,7 @@ void FeedUpdateSession::offerBySchedule()
 
 void FeedUpdateSession::showUpdate()
 {
-    m_sight = Sight::Window;
+    m_isSeen = true;
     const Update update = m_choice->update();
     m_setup.userInterface.showUpdate(
         update, inThisStep([this](UpdateUserInterface::Choice choice) { choose(choice); }));
@@ -233,6 +225,11 @@ void FeedUpdateSession::download()
 void FeedUpdateSession::install(const QString &package)
 {
     m_package.reset();
+    // Somebody may have been quicker.
+    if (m_setup.installer.isProgramReplaced()) {
+        fail({UpdateError::Code::RestartNeeded, {}});
+        return;
+    }
     beginStep();
     const UpdateInstaller::Environment &environment = m_setup.installer.environment();
     m_setup.userInterface.showInstalling(inThisStep([this] { finish(); }));
@@ -252,6 +249,11 @@ void FeedUpdateSession::endInstallation(PackageKitInstallation::End end, const Q
     beginStep();
     switch (end) {
     case End::Installed:
+        // Some services call it a success that they did nothing.
+        if (!m_setup.installer.isProgramReplaced()) {
+            fail({UpdateError::Code::CannotInstall, text});
+            break;
+        }
         m_setup.installer.removePackage();
         m_setup.userInterface.showInstalled(m_choice->update(), inThisStep([this] { finish(); }));
         break;
@@ -270,13 +272,19 @@ void FeedUpdateSession::endInstallation(PackageKitInstallation::End end, const Q
     }
 }
 
-void FeedUpdateSession::fail(const UpdateError &error)
+void FeedUpdateSession::endWork()
 {
     m_document.reset();
     m_package.reset();
+    m_installation.reset();
+}
+
+void FeedUpdateSession::fail(const UpdateError &error)
+{
+    endWork();
     beginStep();
     // Nobody asked, so nobody is bothered; the next check tries again.
-    if (m_sight == Sight::Nothing) {
+    if (!m_isSeen) {
         finish();
         return;
     }
@@ -285,11 +293,9 @@ void FeedUpdateSession::fail(const UpdateError &error)
 
 void FeedUpdateSession::finish()
 {
-    m_document.reset();
-    m_package.reset();
-    m_installation.reset();
+    endWork();
     m_step.reset();
-    if (m_sight == Sight::Window)
+    if (m_isSeen)
         m_setup.userInterface.close();
     m_setup.delegate.willFinishUpdateSession();
     m_handlers.finish();
@@ -299,11 +305,6 @@ void FeedUpdateSession::giveAttention()
 {
     if (!std::exchange(m_hasAttention, true))
         m_setup.delegate.didReceiveUserAttention(m_choice->update());
-}
-
-UpdateState FeedUpdateSession::state() const
-{
-    return {.stage = UpdateState::Stage::NotDownloaded, .isUserInitiated = m_origin == Origin::User};
 }
 
 } // namespace roamlet

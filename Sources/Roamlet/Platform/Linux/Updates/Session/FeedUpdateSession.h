@@ -20,8 +20,6 @@
 namespace roamlet
 {
 
-struct UpdateState;
-
 /// A check with a feed of the widespread kind, over HTTPS.
 class FeedUpdateSession final : public UpdateSession
 {
@@ -35,7 +33,6 @@ private:
     void readFeed(const std::expected<HttpTransfer::Document, UpdateError> &feed);
     void failToRead(const UpdateError &error);
     void offer(const UpdateChoice &choice);
-    void offerBySchedule();
     void showUpdate();
     void fetchNotes();
     void choose(UpdateUserInterface::Choice choice);
@@ -45,21 +42,19 @@ private:
     void fail(const UpdateError &error);
     void finish();
     void giveAttention();
-    UpdateState state() const;
+    void endWork();
     /// Ends the step before: what it was handed to others for answering has no effect any more.
     void beginStep() { m_step = std::make_unique<QObject>(); }
     template<typename Action>
     auto inThisStep(Action action) const;
-
-    /// What the user sees of it.
-    enum class Sight { Nothing, Window };
 
     Setup m_setup;
     /// Decoded; empty when it is no key.
     QByteArray m_publicKey;
     Handlers m_handlers;
     Origin m_origin;
-    Sight m_sight = Sight::Nothing;
+    /// Whether the user has a window of it.
+    bool m_isSeen = false;
     bool m_hasAttention = false;
     /// Present from when an update was found.
     std::optional<UpdateChoice> m_choice;

@@ -5,6 +5,8 @@
 
 #include "Platform/Linux/Updates/Versions.h"
 
+#include <QStringList>
+
 #include <archive.h>
 #include <archive_entry.h>
 #include <memory>

@@ -101,7 +101,7 @@ void PackageKitInstallation::begin(const QDBusMessage &reply, const QString &pac
     });
 }
 
-void PackageKitInstallation::hearChange(const QString & /*interface*/, const QVariantMap &values)
+void PackageKitInstallation::hearChange(const QString & /*interface*/, const QVariantMap &values) const
 {
     const auto percentage = values.constFind(u"Percentage"_s);
     if (percentage == values.cend() || !m_handlers.finish)
@@ -128,13 +128,13 @@ void PackageKitInstallation::hearEnd(uint status)
         finish(End::Failed, m_details);
 }
 
-void PackageKitInstallation::finish(End end, QString text)
+void PackageKitInstallation::finish(End end, const QString &text)
 {
     if (!m_handlers.finish)
         return;
-    // The handler may destroy this, and with it what the text was taken from.
+    // The handler may destroy this, and with it the text.
     const auto handler = std::exchange(m_handlers.finish, nullptr);
-    handler(end, std::move(text));
+    handler(end, QString(text));
 }
 
 } // namespace roamlet

@@ -41,14 +41,14 @@ public:
     ~PackageKitInstallation() override;
 
 private Q_SLOTS:
-    void hearChange(const QString &interface, const QVariantMap &values);
+    void hearChange(const QString &interface, const QVariantMap &values) const;
     void hearError(uint code, const QString &details);
     void hearEnd(uint status);
 
 private:
     void begin(const QDBusMessage &reply, const QString &package);
     QDBusMessage call(const QString &method, const QVariantList &arguments) const;
-    void finish(End end, QString text = {});
+    void finish(End end, const QString &text = {});
 
     QDBusConnection m_bus;
     Handlers m_handlers;
