@@ -31,7 +31,7 @@ on_fresh_debian() {
   cp -r "$folder" "$root/check"
   # What is mounted and started in there ends with it.
   unshare --mount --pid --fork --kill-child chroot "$root" bash -c \
-    'mount -t proc proc /proc && bash "/check/$0" "$@"' "$@" || status=$?
+    'mount -t proc proc /proc && mount -t devpts devpts /dev/pts && bash "/check/$0" "$@"' "$@" || status=$?
   rm -rf "$root"
   return $status
 }

@@ -11,7 +11,7 @@ test=(libgtest-dev libgmock-dev sqlite3 dbus-daemon desktop-file-utils appstream
 # Without these the tests that need them say that they were skipped.
 optional_test=(chromium firefox-esr openssl xvfb openbox at-spi2-core)
 lint=(git clang-format-19 clang-tidy-19)
-packaging=(dpkg-dev file)
+packaging=(dpkg-dev file openssl)
 pictures=(xvfb openbox trayer xdotool imagemagick dbus-daemon qt6-gtk-platformtheme qt6-wayland sway grim wtype jq
   fonts-dejavu)
 bench=(libbenchmark-dev hyperfine sqlite3 time xvfb trayer xdotool dbus-daemon)

@@ -7,6 +7,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 fail() { echo "$*" >&2; exit 1; }
+command -v openssl >/dev/null || Scripts/install-dependencies.sh packaging
 
 key=${ROAMLET_KEY_FILE:-}
 base=${ROAMLET_BASE_ADDRESS:-}
