@@ -38,6 +38,27 @@ TEST(ForeignTextTest, noCharacterIsCutInHalf)
 {
     EXPECT_EQ(ForeignText::oneLine(u"ab\U0001F600c", 3), u"ab…");
     EXPECT_EQ(ForeignText::oneLine(u"ab\U0001F600c", 4), u"ab\U0001F600…");
+    const QString before(ForeignText::longestText - 1, u'x');
+    const QString text = before % u"\U0001F600c";
+    EXPECT_EQ(ForeignText::shownBeginning(text), before + u'…');
+    EXPECT_EQ(ForeignText::inLabel(text), before + u'…');
+    EXPECT_EQ(ForeignText::wrappedToolTip(text), QString(u"<qt>" % before % u"…</qt>"));
+    EXPECT_EQ(ForeignText::wrappedToolTipOfLines(text), QString(u"<qt>" % before % u"…</qt>"));
+}
+
+TEST(ForeignTextTest, nothingTurnsTheWordsThatFollow)
+{
+    const QString text = u"\u202Aa\u202B\u202Cb\u202D\u202E\u2066c\u2067\u2068\u2069"_s;
+    EXPECT_EQ(ForeignText::oneLine(text), u"abc");
+    EXPECT_EQ(ForeignText::inLabel(text), u"abc");
+    EXPECT_EQ(ForeignText::inMenu(text), u"abc");
+    EXPECT_EQ(ForeignText::titleInMenu(text), u"abc");
+    EXPECT_EQ(ForeignText::toolTip({text}), u"<p style='white-space:pre'>abc</p>");
+    EXPECT_EQ(ForeignText::wrappedToolTip(text), u"<qt>abc</qt>");
+    EXPECT_EQ(ForeignText::wrappedToolTipOfLines(text), u"<qt>abc</qt>");
+    const QString harmless = u"a\u200E\u200Fb\u200C\u200Dc"_s;
+    EXPECT_EQ(ForeignText::oneLine(harmless), harmless) << "marks and joiners belong to the words";
+    EXPECT_EQ(ForeignText::inLabel(harmless), harmless);
 }
 
 TEST(ForeignTextTest, aMenuShowsEveryAmpersand)
@@ -62,7 +83,7 @@ TEST(ForeignTextTest, aToolTipBreaksLongAddresses)
 TEST(ForeignTextTest, aLabelHasNoBlanksThatNobodySees)
 {
     EXPECT_EQ(ForeignText::inLabel(u" a \n b\t\u2028c "_s), u"a b c");
-    EXPECT_EQ(ForeignText::inLabel(QString(1'000'000, u'x')), QString(ForeignText::longestText, u'x'));
+    EXPECT_EQ(ForeignText::inLabel(QString(1'000'000, u'x')), QString(ForeignText::longestText, u'x') + u'…');
 }
 
 TEST(ForeignTextTest, aToolTipThatWrapsIsNoMarkUpEither)
@@ -70,9 +91,9 @@ TEST(ForeignTextTest, aToolTipThatWrapsIsNoMarkUpEither)
     EXPECT_EQ(ForeignText::wrappedToolTip(u"<b>a</b> &\nb"_s), u"<qt>&lt;b&gt;a&lt;/b&gt; &amp;\nb</qt>");
     EXPECT_EQ(ForeignText::wrappedToolTipOfLines(u"<b>a</b> &\nb"_s),
               u"<qt>&lt;b&gt;a&lt;/b&gt; &amp;<br>b</qt>");
-    const qsizetype longest = ForeignText::longestText + QString(u"<qt></qt>"_s).size();
-    EXPECT_EQ(ForeignText::wrappedToolTip(QString(1'000'000, u'x')).size(), longest);
-    EXPECT_EQ(ForeignText::wrappedToolTipOfLines(QString(1'000'000, u'x')).size(), longest);
+    const QString cut = u"<qt>" % QString(ForeignText::longestText, u'x') % u"…</qt>";
+    EXPECT_EQ(ForeignText::wrappedToolTip(QString(1'000'000, u'x')), cut);
+    EXPECT_EQ(ForeignText::wrappedToolTipOfLines(QString(1'000'000, u'x')), cut);
 }
 
 TEST(ForeignTitleTest, sixtyCharactersAreShownWholeAndOneMoreIsCut)

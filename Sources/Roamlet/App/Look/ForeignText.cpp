@@ -7,6 +7,7 @@
 #include <QTextBoundaryFinder>
 
 #include <algorithm>
+#include <iterator>
 #include <optional>
 
 namespace roamlet::ForeignText
@@ -25,6 +26,14 @@ bool isShownAsBlank(QChar character)
     const QChar::Category category = character.category();
     return category == QChar::Other_Control || category == QChar::Separator_Line ||
            category == QChar::Separator_Paragraph;
+}
+
+/// Overrides, embeddings and isolates turn what comes after them, too, and that may be words of ours. The
+/// marks that only give a single place a direction stay.
+bool turnsWhatFollows(QChar character)
+{
+    return (character >= u'\u202A' && character <= u'\u202E') ||
+           (character >= u'\u2066' && character <= u'\u2069');
 }
 
 /// The beginning of `text`, not ending within a character.
@@ -65,15 +74,21 @@ QString markedUp(const QString &html)
 
 } // namespace
 
-QString oneLine(QStringView text, qsizetype longest)
+QString shownBeginning(QStringView text, qsizetype longest)
 {
     const QStringView shown = beginning(text, longest);
     QString result;
     result.reserve(shown.size() + 1);
-    for (const QChar character : shown)
-        result.append(isShownAsBlank(character) ? QChar(u' ') : character);
+    std::ranges::remove_copy_if(shown, std::back_inserter(result), turnsWhatFollows);
     if (shown.size() < text.size())
         result.append(u'…');
+    return result;
+}
+
+QString oneLine(QStringView text, qsizetype longest)
+{
+    QString result = shownBeginning(text, longest);
+    std::ranges::replace_if(result, isShownAsBlank, QChar(u' '));
     return result;
 }
 
@@ -84,7 +99,7 @@ QString fitted(const QString &text, const QFontMetrics &metrics, int width)
 
 QString inLabel(const QString &text)
 {
-    return text.left(longestText).simplified();
+    return shownBeginning(text, longestText).simplified();
 }
 
 QString inMenu(QStringView text)
@@ -135,12 +150,12 @@ QString toolTip(const QStringList &lines)
 
 QString wrappedToolTip(const QString &text)
 {
-    return markedUp(text.left(longestText).toHtmlEscaped());
+    return markedUp(shownBeginning(text, longestText).toHtmlEscaped());
 }
 
 QString wrappedToolTipOfLines(const QString &text)
 {
-    return markedUp(text.left(longestText).toHtmlEscaped().replace(u'\n', u"<br>"_s));
+    return markedUp(shownBeginning(text, longestText).toHtmlEscaped().replace(u'\n', u"<br>"_s));
 }
 
 } // namespace roamlet::ForeignText

@@ -9,8 +9,8 @@
 
 class QFontMetrics;
 
-/// Foreign texts in a form that windows can show: they may be of any length, hold line ends and marks, and
-/// look like mark-up. Pure functions.
+/// Foreign texts in a form that windows can show: they may be of any length, hold line ends and marks, turn
+/// the words around them, and look like mark-up. Pure functions.
 namespace roamlet::ForeignText
 {
 
@@ -19,6 +19,8 @@ constexpr qsizetype longestText = 1000;
 /// What still fits into a menu.
 constexpr qsizetype longestMenuText = 80;
 
+/// The beginning of `text` with its lines, and an ellipsis for the rest.
+QString shownBeginning(QStringView text, qsizetype longest = longestText);
 /// The beginning of `text` on one line: line ends, tabs and control characters become blanks.
 QString oneLine(QStringView text, qsizetype longest = longestText);
 /// As much of a text as fits into so many pixels, with an ellipsis for the rest. All of it where it is as

@@ -169,7 +169,7 @@ void DetailHeader::updateSubtitle()
     m_subtitle->setSign(isProblem ? symbolIcon(u"exclamationmark.triangle"_s, look.warningMark) : QIcon());
     const QString problem = isProblem ? m_subtitle->text() : QString();
     m_subtitle->setToolTip(isProblem ? ForeignText::wrappedToolTipOfLines(problem) : QString());
-    m_subtitle->setAccessibleDescription(problem.left(ForeignText::longestText));
+    m_subtitle->setAccessibleDescription(ForeignText::shownBeginning(problem));
 }
 
 int DetailHeader::wordsStart() const
