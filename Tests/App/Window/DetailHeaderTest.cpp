@@ -4,6 +4,7 @@
 #include "App/Window/DetailHeader.h"
 
 #include "App/Look/Look.h"
+#include "App/Look/Motion.h"
 #include "App/Look/StillStyle.h"
 #include "App/Window/GroupByButton.h"
 #include "App/Window/ReloadButton.h"
@@ -234,6 +235,17 @@ TEST_F(DetailHeaderTest, theArrowTurnsAtLeastOnce)
     EXPECT_FALSE(header.isReloading());
     EXPECT_TRUE(reload->isTurning());
     EXPECT_TRUE(waitUntil([reload] { return !reload->isTurning(); }));
+}
+
+TEST_F(DetailHeaderTest, aWishForStillnessThatComesLateStopsTheArrow)
+{
+    const auto *reload = part<ReloadButton>(u"reloadButton"_s);
+    header.setReloading(true);
+    ASSERT_TRUE(reload->isTurning());
+    setMotionAllowed(false);
+    EXPECT_TRUE(waitUntil([reload] { return !reload->isTurning(); }));
+    EXPECT_TRUE(header.isReloading());
+    setMotionAllowed(true);
 }
 
 TEST_F(DetailHeaderTest, whereNothingMovesTheArrowOnlyDims)

@@ -22,7 +22,12 @@ BusyBar::BusyBar(QWidget *parent) : QWidget(parent)
     m_running.setEndValue(1.0);
     m_running.setDuration(onePass);
     m_running.setLoopCount(-1);
-    connect(&m_running, &QVariantAnimation::valueChanged, this, qOverload<>(&QWidget::update));
+    connect(&m_running, &QVariantAnimation::valueChanged, this, [this] {
+        // What the desktop wants may become known late, or change.
+        if (!isMotionWanted(*this))
+            m_running.stop();
+        update();
+    });
 }
 
 void BusyBar::showEvent(QShowEvent *event)

@@ -8,7 +8,8 @@ class QWidget;
 namespace roamlet
 {
 
-/// What the user has set for the desktop. Until it is known, things may move.
+/// What the user has set for the desktop. Until it is known, things may move; what runs without an end looks
+/// here at each step.
 void setMotionAllowed(bool isAllowed);
 
 /// Whether the style and the desktop let things move. Where they do not, things are at once where they would

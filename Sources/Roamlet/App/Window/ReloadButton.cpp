@@ -19,9 +19,14 @@ ReloadButton::ReloadButton(QWidget *parent) : HeaderButton(u"arrow.clockwise"_s,
     m_turning.setStartValue(0.0);
     m_turning.setEndValue(360.0);
     m_turning.setDuration(oneTurn);
-    connect(&m_turning, &QVariantAnimation::valueChanged, this, qOverload<>(&QWidget::update));
+    connect(&m_turning, &QVariantAnimation::valueChanged, this, [this] {
+        // What the desktop wants may become known late, or change.
+        if (!isMotionWanted(*this))
+            m_turning.stop();
+        update();
+    });
     connect(&m_turning, &QVariantAnimation::finished, this, [this] {
-        if (m_isReloading)
+        if (m_isReloading && isMotionWanted(*this))
             m_turning.start();
     });
 }
