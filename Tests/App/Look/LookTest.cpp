@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <memory>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -387,6 +388,38 @@ TEST(LookTest, allWidgetsStandOutMoreOnceTheDesktopAsksForIt)
     EXPECT_EQ(widget.quietInks.size(), 1) << "it knew that";
     setContrast(Look::Contrast::Normal);
     EXPECT_EQ(colorsOf(Look::of(widget)), colorsOf(lookOf(breezeLight)));
+}
+
+TEST(LookTest, aWidgetMayEndOthersWhenItHearsOfTheContrast)
+{
+    /// Stays alone.
+    class Rival final : public QWidget
+    {
+    public:
+        explicit Rival(QList<Rival *> &all) : m_all(all) { all.append(this); }
+
+    protected:
+        void changeEvent(QEvent *event) override
+        {
+            QWidget::changeEvent(event);
+            if (event->type() != QEvent::PaletteChange)
+                return;
+            m_all.removeOne(this);
+            qDeleteAll(m_all);
+            m_all = {this};
+        }
+
+    private:
+        QList<Rival *> &m_all;
+    };
+    QList<Rival *> rivals;
+    for (int i = 0; i < 20; ++i)
+        std::make_unique<Rival>(rivals).release();
+    setContrast(Look::Contrast::More);
+    EXPECT_EQ(rivals.size(), 1);
+    setContrast(Look::Contrast::Normal);
+    ASSERT_EQ(rivals.size(), 1);
+    delete rivals.first();
 }
 
 TEST(LookTest, aColourGivenToAWidgetHoldsInEveryWindow)

@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QEvent>
 #include <QFontMetrics>
+#include <QPointer>
 #include <QWidget>
 #include <QtMath>
 
@@ -339,10 +340,16 @@ void setContrast(Look::Contrast contrast)
 {
     if (std::exchange(wantedContrast, contrast) == contrast)
         return;
-    for (QWidget *widget : QApplication::allWidgets()) {
+    const QWidgetList all = QApplication::allWidgets();
+    const QList<QPointer<QWidget>> widgets(all.begin(), all.end());
+    for (const QPointer<QWidget> &widget : widgets) {
+        // One may end others when it hears of it.
+        if (!widget)
+            continue;
         QEvent event(QEvent::PaletteChange);
         QCoreApplication::sendEvent(widget, &event);
-        widget->update();
+        if (widget)
+            widget->update();
     }
 }
 
