@@ -225,7 +225,7 @@ void DetailHeader::arrange()
         widget->setGeometry(QStyle::visualRect(layoutDirection(), rect(), wanted));
         start = from + size.width();
     };
-    place(m_sidebar, measures.alignmentLine - measures.units(0.43), m_sidebar->sizeHint());
+    place(m_sidebar, measures.alignmentLine - m_sidebar->padding(), m_sidebar->sizeHint());
     const int wordsWidth = std::max(0, free - m_groupBy->widthWhen(isCompact) - search);
     const int titleHeight = m_title->sizeHint().height();
     const int subtitleHeight = m_subtitle->sizeHint().height();

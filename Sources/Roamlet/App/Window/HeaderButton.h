@@ -23,6 +23,8 @@ public:
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
+    /// Before and after the content.
+    int padding() const;
 
 protected:
     bool event(QEvent *event) override;
@@ -32,8 +34,6 @@ protected:
     virtual void paintSymbol(QPainter &painter, const QRect &place);
     /// The colour of what is drawn.
     QColor ink() const;
-    /// Before and after the content.
-    int padding() const;
 
 private:
     QString m_symbol;

@@ -63,8 +63,7 @@ public:
     {
         const QRect place(m_start, m_body.top(), m_end - m_start, m_body.height());
         const auto alignment = QStyle::visualAlignment(m_option.direction, Qt::AlignLeft | Qt::AlignVCenter);
-        // A profile's name is read in its own direction, wherever it stands.
-        m_painter.setLayoutDirection(text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
+        readInOwnDirection(m_painter, text);
         m_painter.drawText(QStyle::visualRect(m_option.direction, m_option.rect, place),
                            static_cast<int>(alignment) | Qt::TextSingleLine,
                            m_painter.fontMetrics().elidedText(text, Qt::ElideRight, place.width()));
@@ -145,7 +144,9 @@ void SidebarDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
                         option.direction, sidebar.quiet);
     } else {
         painter->setFont(option.font);
-        const QColor color = !isSelected ? sidebar.quiet : isActive ? look.accent : ground.ink;
+        QColor color = sidebar.quiet;
+        if (isSelected)
+            color = isActive ? look.accent : ground.ink;
         // Where the selection is the theme's highlight itself, the accent would not be seen on it.
         const bool isShade = ground.ink == sidebar.ink;
         row.addIcon(
