@@ -212,19 +212,20 @@ int TableHeader::suitableWidth(int column) const
     case TableColumn::Content::Source:
         if (isNarrow())
             return std::max(measures.iconSide, headingWidth(column)) + gap + edge;
-        return sourceWidth(column, shown.width * fontMetrics().horizontalAdvance(u'0')) + edge;
+        return sourceWidth(column, shown.width * fontMetrics().horizontalAdvance(u'0'), edge) + edge;
     default:
         break;
     }
     return (shown.width * fontMetrics().horizontalAdvance(u'0')) + edge;
 }
 
-int TableHeader::sourceWidth(int column, int usual) const
+int TableHeader::sourceWidth(int column, int usual, int edge) const
 {
     const Measures &measures = m_look.measures;
     const int label = std::min(m_labelWidth, measures.units(widestName));
     const int whole = measures.iconSide + measures.gapAfterIcon + label + measures.gapBetweenCells;
-    int rest = viewport()->width() - m_chosenWidths.value(titleColumn, measures.units(titleBesideNames));
+    int rest =
+        viewport()->width() - edge - m_chosenWidths.value(titleColumn, measures.units(titleBesideNames));
     for (int other = 0; other < count(); ++other) {
         if (other != titleColumn && other != column && !isSectionHidden(other))
             rest -= wantedWidth(other);
@@ -349,14 +350,16 @@ void TableHeader::followArrow(int direction, Qt::KeyboardModifiers modifiers)
 {
     constexpr int grain = 2;
     const int column = keyColumn();
-    const int next = neighbour(column, isRightToLeft() ? -direction : direction);
+    // Columns go on and get wider in the direction of reading.
+    const int forward = isRightToLeft() ? -direction : direction;
+    const int next = neighbour(column, forward);
     m_isDragging = true;
     if (modifiers.testFlag(Qt::ControlModifier))
         moveSection(visualIndex(column), visualIndex(next));
     else if (modifiers.testFlag(Qt::ShiftModifier))
-        resizeSection(
-            column, std::max(sectionSize(column) + direction * grain * fontMetrics().horizontalAdvance(u'0'),
-                             minimumSectionSize()));
+        resizeSection(column,
+                      std::max(sectionSize(column) + forward * grain * fontMetrics().horizontalAdvance(u'0'),
+                               minimumSectionSize()));
     else
         m_keyColumn = next;
     finishDragging();

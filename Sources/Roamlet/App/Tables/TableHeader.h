@@ -83,8 +83,9 @@ private:
     /// The user's choice, or else what suits the texts.
     int wantedWidth(int column) const;
     int suitableWidth(int column) const;
-    /// Wide enough for every name, as far as that leaves the titles what they need.
-    int sourceWidth(int column, int usual) const;
+    /// Wide enough for every name, as far as that leaves the titles what they need. `edge` is what it gets
+    /// besides as the last column.
+    int sourceWidth(int column, int usual, int edge) const;
     /// How wide the heading is by itself, with its arrow.
     int headingWidth(int column) const;
     bool isRightAligned(int column) const;
@@ -96,7 +97,7 @@ private:
     void finishDragging();
     /// The column that the keys are about.
     int keyColumn() const { return isSectionHidden(m_keyColumn) ? titleColumn : m_keyColumn; }
-    /// To the next shown column, 1 for the right one and -1 for the left; it may stay where it is.
+    /// To the next shown column, 1 for the one behind it and -1 for the one before; it may stay where it is.
     int neighbour(int column, int direction) const;
     /// Which heading the keys are about now.
     void tellFocus();
