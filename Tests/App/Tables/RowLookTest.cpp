@@ -267,6 +267,43 @@ TEST_F(RowLookTest, theBubbleMakesWayForThePointer)
     EXPECT_TRUE(bubble().testAttribute(Qt::WA_TransparentForMouseEvents));
 }
 
+TEST_F(RowLookTest, theBubbleDoesNotFleeAPointerThatIsGone)
+{
+    press(table, Qt::Key_Down);
+    press(table, Qt::Key_Down);
+    ASSERT_TRUE(bubble().isVisible());
+    const int left = bubble().x();
+    const QPoint corner = bubble().geometry().center();
+    QTest::mouseMove(view().viewport(), corner + QPoint(1, 0));
+    QTest::mouseMove(view().viewport(), corner);
+    ASSERT_TRUE(waitUntil([&] { return bubble().x() > left; }));
+    press(table, Qt::Key_Up);
+    ASSERT_TRUE(bubble().isVisible());
+    EXPECT_EQ(bubble().x(), left) << "the keys are used now";
+
+    QTest::mouseMove(view().viewport(), corner + QPoint(1, 0));
+    ASSERT_TRUE(waitUntil([&] { return bubble().x() > left; }));
+    QEvent leave(QEvent::Leave);
+    QCoreApplication::sendEvent(view().viewport(), &leave);
+    ASSERT_FALSE(bubble().isVisible());
+    view().clearFocus();
+    view().setFocus(Qt::TabFocusReason);
+    ASSERT_TRUE(bubble().isVisible());
+    EXPECT_EQ(bubble().x(), left) << "the pointer is somewhere else";
+}
+
+TEST_F(RowLookTest, theBubbleGoesWhenSeveralRowsAreSelected)
+{
+    QTest::mouseMove(view().viewport(), cell(u"Clocks"_s).center());
+    QTest::mouseMove(view().viewport(), cell(u"Trams"_s).center());
+    ASSERT_TRUE(waitUntil([this] { return bubble().isVisible(); }));
+    click(table, u"Garden"_s);
+    click(table, u"Trams"_s, Qt::ControlModifier);
+    EXPECT_TRUE(bubble().isVisible());
+    click(table, u"Clocks"_s, Qt::ControlModifier);
+    EXPECT_FALSE(bubble().isVisible());
+}
+
 TEST_F(RowLookTest, aTooltipSaysOnlyWhatCannotBeRead)
 {
     EXPECT_EQ(toolTipAt(cell(u"Clocks"_s).center()), QString());

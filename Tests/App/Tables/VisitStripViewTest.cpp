@@ -9,6 +9,7 @@
 
 #include <QHelpEvent>
 #include <QImage>
+#include <QScrollBar>
 #include <QTest>
 #include <QToolTip>
 
@@ -136,6 +137,25 @@ TEST_F(VisitStripViewTest, theBarUnderThePointerIsLit)
 {
     hover(bar(5));
     EXPECT_EQ(barColor(5), Look::of(view()).accent);
+}
+
+TEST_F(VisitStripViewTest, theBarThatIsScrolledUnderThePointerIsLit)
+{
+    QScrollBar *scroll = view().verticalScrollBar();
+    scroll->setValue(scroll->maximum());
+    const QPoint point = bar(6, u"Yesterday"_s);
+    ASSERT_NE(point, QPoint());
+    const int height = Look::of(view()).measures.units(14.0 / 18);
+    const QPoint lower = point + QPoint(0, height / 2 - 2);
+    scroll->setValue(0);
+    ASSERT_NE(view().indexAt(point), find(table, u"Yesterday"_s));
+    hover(point);
+    scroll->setValue(scroll->maximum());
+    EXPECT_EQ(colorAt(lower), Look::of(view()).accent);
+    scroll->setValue(0);
+    const QModelIndex row = view().indexAt(point);
+    ASSERT_TRUE(row.isValid());
+    EXPECT_EQ(barColor(5), Look::of(view()).accent) << "the row's hour again";
 }
 
 TEST_F(VisitStripViewTest, itIsMirroredWhereOneReadsFromRightToLeft)

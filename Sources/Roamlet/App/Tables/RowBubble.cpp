@@ -61,7 +61,7 @@ void RowBubble::dismiss()
     hide();
 }
 
-void RowBubble::avoid(const QPoint &pointer)
+void RowBubble::avoid(const std::optional<QPoint> &pointer)
 {
     m_pointer = pointer;
     place();
@@ -89,7 +89,7 @@ void RowBubble::place()
         return;
     const int near = Look::of(*parentWidget()).measures.rowHeight;
     const auto isInTheWay = [&](const QRect &place) {
-        return place.adjusted(-near, -near, near, near).contains(m_pointer);
+        return m_pointer && place.adjusted(-near, -near, near, near).contains(*m_pointer);
     };
     const QRect leading = placeAt(false);
     m_isAtTheEnd = isInTheWay(leading);

@@ -9,6 +9,8 @@
 #include <QString>
 #include <QWidget>
 
+#include <optional>
+
 namespace roamlet
 {
 
@@ -25,7 +27,8 @@ public:
     /// There is nothing more to tell.
     void dismiss();
     /// Goes out of the pointer's way: into the other corner, and where that is near, too, out of sight.
-    void avoid(const QPoint &pointer);
+    /// Without a pointer nothing is in the way.
+    void avoid(const std::optional<QPoint> &pointer);
     /// The viewport has another size, or was scrolled with all that lies in it.
     void place();
 
@@ -42,7 +45,7 @@ private:
 
     QString m_address;
     QString m_date;
-    QPoint m_pointer;
+    std::optional<QPoint> m_pointer;
     bool m_isWanted = false;
     bool m_isAtTheEnd = false;
     Fade m_coming;

@@ -56,18 +56,15 @@ std::optional<std::size_t> RowTips::litTick(const QModelIndex &section) const
 void RowTips::movePointer(const QPoint &point)
 {
     m_isPointerUsed = true;
-    setHovered(m_view.indexAt(point));
-    if (const std::optional tick = m_view.tickAt(point); tick != m_hoveredTick) {
-        m_hoveredTick = tick;
-        m_view.updateRow(m_hovered);
-    }
+    setHovered(m_view.indexAt(point), m_view.tickAt(point));
     m_bubble.avoid(point);
 }
 
 void RowTips::leave()
 {
-    setHovered({});
+    setHovered({}, {});
     m_bubble.dismiss();
+    m_bubble.avoid({});
 }
 
 void RowTips::followRows()
@@ -75,46 +72,64 @@ void RowTips::followRows()
     // Qt moves what lies in the viewport together with the rows.
     m_bubble.place();
     const QWidget &viewport = *m_view.viewport();
-    if (m_isPointerUsed && viewport.underMouse())
-        setHovered(m_view.indexAt(viewport.mapFromGlobal(QCursor::pos())));
+    if (!m_isPointerUsed || !viewport.underMouse())
+        return;
+    const QPoint point = viewport.mapFromGlobal(QCursor::pos());
+    setHovered(m_view.indexAt(point), m_view.tickAt(point));
 }
 
 void RowTips::useKeys()
 {
     m_isPointerUsed = false;
-    setHovered({});
+    setHovered({}, {});
+    m_bubble.avoid({});
 }
 
-void RowTips::setHovered(const QModelIndex &index)
+void RowTips::setHovered(const QModelIndex &index, std::optional<std::size_t> tick)
 {
     const QModelIndex first = index.siblingAtColumn(0);
-    if (m_hovered == first)
+    const bool isSameRow = m_hovered == first;
+    if (isSameRow && m_hoveredTick == tick)
         return;
     m_view.updateRow(m_hovered);
     m_hovered = first;
+    m_hoveredTick = tick;
     m_view.updateRow(m_hovered);
+    if (isSameRow)
+        return;
     if (m_hovered.isValid())
         m_wait.start();
     else
         m_wait.stop();
 }
 
-void RowTips::tellOf(const QModelIndex &index)
+bool RowTips::areSeveralSelected() const
 {
     int selected = 0;
     for (const QItemSelectionRange &range : m_view.selectionModel()->selection()) {
         selected += range.height();
         if (selected >= severalRows)
-            break;
+            return true;
     }
+    return false;
+}
+
+void RowTips::tellOf(const QModelIndex &index)
+{
     const TableModel &model = m_view.tableModel();
-    if (!index.isValid() || model.rowAt(index).kind != TableRow::Kind::Link || selected >= severalRows) {
+    if (!index.isValid() || model.rowAt(index).kind != TableRow::Kind::Link || areSeveralSelected()) {
         m_bubble.dismiss();
         return;
     }
     const TableRow &row = model.rowAt(index);
     m_bubble.showRow(ForeignText::oneLine(row.url),
                      row.date ? model.localText().fullDate(*row.date) : QString());
+}
+
+void RowTips::followSelection()
+{
+    if (areSeveralSelected())
+        m_bubble.dismiss();
 }
 
 void RowTips::fallSilent()

@@ -42,6 +42,8 @@ public:
 
     /// Shows the bubble of a row, or none where there is nothing to tell.
     void tellOf(const QModelIndex &index);
+    /// Other rows are selected.
+    void followSelection();
     /// The bubble goes.
     void fallSilent();
     /// Nothing more is said of what the keyboard was at.
@@ -52,7 +54,10 @@ public:
     void showToolTip(const QPoint &point, const QPoint &onScreen) const;
 
 private:
-    void setHovered(const QModelIndex &index);
+    /// The pointer is over this row, and in a strip at this bar.
+    void setHovered(const QModelIndex &index, std::optional<std::size_t> tick);
+    /// There is no one row to tell about.
+    bool areSeveralSelected() const;
 
     TableView &m_view;
     const RowDelegate &m_delegate;

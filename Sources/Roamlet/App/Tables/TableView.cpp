@@ -353,6 +353,7 @@ void TableView::selectionChanged(const QItemSelection &selected, const QItemSele
     QTreeView::selectionChanged(selected, deselected);
     // The corners of its neighbours change with a row.
     viewport()->update();
+    m_tips.followSelection();
 }
 
 void TableView::focusInEvent(QFocusEvent *event)
