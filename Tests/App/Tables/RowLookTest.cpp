@@ -193,6 +193,16 @@ TEST_F(RowLookTest, theKeyboardsRowHasARingUntilTheMouseIsUsed)
     EXPECT_FALSE(has(cell(u"Trams"_s), accent));
 }
 
+TEST_F(RowLookTest, aKeyThatIsHeldDownForAnotherBringsNoRing)
+{
+    const QColor accent = Look::of(view()).accent;
+    click(table, u"Garden"_s);
+    for (const Qt::Key key : {Qt::Key_Control, Qt::Key_Shift, Qt::Key_Alt, Qt::Key_Meta})
+        press(table, key);
+    EXPECT_FALSE(has(cell(u"Garden"_s), accent));
+    EXPECT_FALSE(bubble().isVisible());
+}
+
 TEST_F(RowLookTest, numbersEndOnOneLine)
 {
     const auto lastInk = [this](const QString &title) {

@@ -62,6 +62,7 @@ protected:
         QScrollBar *bar = table.view().verticalScrollBar();
         bar->setValue(bar->maximum() / 2 + 3);
     }
+    TableView &view() const { return table.view(); }
     QString topTitle() const { return table.view().indexAt({0, 0}).data().toString(); }
     QStringList requested(int i) const { return workspace.requests.value(i); }
 
@@ -419,6 +420,29 @@ TEST_F(TableViewTest, openingEverythingBelowStopsBeforeTheStackEnds)
     for (int depth = 0; depth < 50; ++depth)
         inner = inner.model()->index(0, 0, inner);
     EXPECT_TRUE(table.view().isExpanded(inner));
+}
+
+TEST_F(TableViewTest, withoutACurrentRowNothingIsOpenedBelowIt)
+{
+    show(table, {.grouping = Grouping::Day});
+    view().setExpanded(find(table, u"Today"_s), false);
+    view().setCurrentIndex({});
+    press(table, Qt::Key_Asterisk);
+    EXPECT_EQ(titles(table), "Today + Yesterday w");
+}
+
+TEST_F(TableViewTest, whatIsTypedIsSearchedForAndJumpsNowhere)
+{
+    show(table);
+    click(table, u"a"_s);
+    QSignalSpy searches(&table, &LinkTable::searchRequested);
+    press(table, Qt::Key_C);
+    press(table, Qt::Key_Space);
+    press(table, Qt::Key_Escape);
+    press(table, Qt::Key_Backspace);
+    EXPECT_EQ(searches, QList<QVariantList>{{u"c"_s}});
+    EXPECT_EQ(currentTitle(table), u"a");
+    EXPECT_EQ(selectedTitles(table), QStringList{u"a"_s});
 }
 
 TEST_F(TableViewTest, aReloadThatBringsNothingNewChangesNothing)

@@ -392,6 +392,25 @@ TEST_F(ContentViewTest, theKeyboardGoesFromTheSearchToTheListAndBack)
     EXPECT_EQ(reasons.seen, QList<Qt::FocusReason>(3, Qt::ShortcutFocusReason)) << "a key led there";
 }
 
+TEST_F(ContentViewTest, whoTypesInTheListSearches)
+{
+    addChromium();
+    loadNow(*library);
+    const auto content = makeContent();
+    expectSubtitle(*content, u"4 items"_s);
+    content->activateWindow();
+    auto *field = part<QLineEdit>(*content, u"searchField"_s);
+    auto *table = part<QTreeView>(*content, u"historyTable"_s);
+    for (const QString &word : {u"a1"_s, u"b"_s}) {
+        table->setFocus();
+        ASSERT_TRUE(waitUntil([table] { return table->hasFocus(); }));
+        for (const QChar letter : word)
+            QTest::keyClick(QApplication::focusWidget(), letter.toLatin1());
+        EXPECT_TRUE(field->hasFocus());
+        EXPECT_EQ(field->text(), word) << "instead of what was searched for before";
+    }
+}
+
 TEST_F(ContentViewTest, nothingIsReadIntoMemoryBeforeAnybodySearches)
 {
     addChromium();

@@ -58,6 +58,7 @@ LinkTable::LinkTable(const WindowServices &services, const Kind &kind, QWidget *
     connect(&m_loader, &ListLoader::progressChanged, this, &LinkTable::updateIsWorking);
     connect(&m_view, &TableView::openRequested, this, &LinkTable::openSelection);
     connect(&m_view, &TableView::copyRequested, this, &LinkTable::copySelection);
+    connect(&m_view, &TableView::searchRequested, this, &LinkTable::searchRequested);
     connect(&m_view, &TableView::linkMenuRequested, this, &LinkTable::showLinkMenu);
     connect(&m_view, &TableView::siteMenuRequested, this, &LinkTable::showSiteMenu);
     TableHeader &header = m_view.tableHeader();

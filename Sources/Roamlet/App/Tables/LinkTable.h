@@ -72,6 +72,8 @@ Q_SIGNALS:
     void rowCountChanged(qsizetype count);
     /// The user wants to see this site only.
     void onlySiteRequested(QString site);
+    /// The user has begun to type what shall be found.
+    void searchRequested(QString typed);
     void isWorkingChanged();
 
 protected:

@@ -32,6 +32,25 @@ using RowKind = TableRow::Kind;
 namespace
 {
 
+/// Held down for another key or a click, or by chance: it leads nowhere by itself.
+bool isModifier(int key)
+{
+    switch (key) {
+    case Qt::Key_Shift:
+    case Qt::Key_Control:
+    case Qt::Key_Meta:
+    case Qt::Key_Alt:
+    case Qt::Key_AltGr:
+    case Qt::Key_Super_L:
+    case Qt::Key_Super_R:
+    case Qt::Key_CapsLock:
+    case Qt::Key_NumLock:
+        return true;
+    default:
+        return false;
+    }
+}
+
 /// How many levels of folders one key opens.
 constexpr int deepestOpening = 100;
 
@@ -465,6 +484,10 @@ void TableView::keyPressEvent(QKeyEvent *event)
         Q_EMIT copyRequested();
         return;
     }
+    if (isModifier(event->key())) {
+        QTreeView::keyPressEvent(event);
+        return;
+    }
     m_isByKeyboard = true;
     m_tips.useKeys();
     const QModelIndex current = currentIndex();
@@ -487,7 +510,9 @@ void TableView::keyPressEvent(QKeyEvent *event)
         return;
     case Qt::Key_Asterisk:
         // Qt lays out what is open by calling itself for each level, and foreign folders may be that deep.
-        expandRecursively(current, deepestOpening);
+        // Without a current row it would open everything.
+        if (current.isValid())
+            expandRecursively(current, deepestOpening);
         return;
     default:
         break;
@@ -495,6 +520,14 @@ void TableView::keyPressEvent(QKeyEvent *event)
     QTreeView::keyPressEvent(event);
     followCurrentRow();
     updateRow(currentIndex());
+}
+
+void TableView::keyboardSearch(const QString &typed)
+{
+    // Escape and Delete come along as characters, too.
+    const auto isControl = [](QChar character) { return character.category() == QChar::Other_Control; };
+    if (!typed.trimmed().isEmpty() && std::ranges::none_of(typed, isControl))
+        Q_EMIT searchRequested(typed);
 }
 
 void TableView::contextMenuEvent(QContextMenuEvent *event)

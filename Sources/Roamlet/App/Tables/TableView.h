@@ -54,8 +54,12 @@ public:
     const VisitStrip *stripOf(const QModelIndex &section) const;
     /// The bar of a strip at this place of the viewport.
     std::optional<std::size_t> tickAt(const QPoint &point) const;
+    /// Qt's own search jumps to whatever title begins so. Here, what is typed is searched for.
+    void keyboardSearch(const QString &typed) override;
 
 Q_SIGNALS:
+    /// Somebody has typed a letter.
+    void searchRequested(QString typed);
     /// Return or a double-click on links.
     void openRequested();
     void copyRequested();

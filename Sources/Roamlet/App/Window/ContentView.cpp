@@ -297,6 +297,11 @@ void ContentView::addTable(LinkTable *table)
 {
     connect(table, &LinkTable::isWorkingChanged, this, &ContentView::updateWork);
     connect(table, &LinkTable::onlySiteRequested, this, [this](const QString &site) { setSite(site); });
+    connect(table, &LinkTable::searchRequested, this, [this](const QString &typed) {
+        startSearch();
+        // In the place of what was searched for before, to which an undo leads back.
+        m_header->searchField()->insert(typed);
+    });
     connect(table, &LinkTable::rowCountChanged, this, [this, table](qsizetype count) {
         if (m_lists->currentWidget() != table)
             return;
