@@ -24,6 +24,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QSet>
+#include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
 #include <QToolButton>
@@ -340,6 +341,51 @@ TEST_F(MainWindowTest, besideANarrowListTheSidebarOpensOverItAndGoesWithAChoice)
     EXPECT_TRUE(sidebar->isVisible());
     const auto *shown = part<QWidget>(*window, u"mostVisitedTable"_s);
     EXPECT_TRUE(waitUntil([&] { return shown->mapTo(window.get(), QPoint()).x() >= sidebar->width(); }));
+}
+
+TEST_F(MainWindowTest, theSidebarOverTheListGoesOnceAndOnlyAKeyBringsTheKeyboardsRing)
+{
+    addChromium();
+    loadNow(*library);
+    QFont font = QApplication::font();
+    font.setPixelSize(24);
+    const auto window = makeWindow();
+    window->setFont(font);
+    window->resize(820, 600);
+    window->open();
+    window->activateWindow();
+    ASSERT_TRUE(waitUntil([&window] { return window->isActiveWindow(); }));
+    auto *sidebar = part<Sidebar>(*window, u"sidebar"_s);
+    auto *table = part<QTreeView>(*window, u"historyTable"_s);
+    const auto *bubble = table->viewport()->findChild<QWidget *>(u"rowBubble"_s);
+    ASSERT_TRUE(waitUntil([table] { return table->model()->rowCount() > 0; }));
+    table->setCurrentIndex(table->model()->index(0, 0));
+    const auto chosen = [sidebar] {
+        return sidebar->visualRect(sidebar->model()->index(0, 0, sidebar->model()->index(0, 0))).center();
+    };
+    const QSignalSpy changes(window->content(), &ContentView::sidebarShownChanged);
+    const auto changesUntilNow = [&changes] {
+        QCoreApplication::processEvents();
+        return changes.size();
+    };
+
+    QTest::keyClick(window.get(), Qt::Key_F9);
+    ASSERT_TRUE(sidebar->hasFocus());
+    ASSERT_EQ(changesUntilNow(), 1);
+    QTest::keyClick(sidebar, Qt::Key_Return);
+    EXPECT_FALSE(sidebar->isVisible());
+    EXPECT_TRUE(table->hasFocus());
+    EXPECT_TRUE(bubble->isVisible());
+    EXPECT_EQ(changesUntilNow(), 2);
+
+    QTest::keyClick(window.get(), Qt::Key_F9);
+    ASSERT_TRUE(sidebar->hasFocus());
+    EXPECT_FALSE(bubble->isVisible());
+    QTest::mouseClick(sidebar->viewport(), Qt::LeftButton, {}, chosen());
+    EXPECT_FALSE(sidebar->isVisible());
+    EXPECT_TRUE(table->hasFocus());
+    EXPECT_FALSE(bubble->isVisible()) << "the mouse led here";
+    EXPECT_EQ(changesUntilNow(), 4);
 }
 
 TEST_F(MainWindowTest, aSidebarThatWasMadeWiderLeavesTheListItsRoom)

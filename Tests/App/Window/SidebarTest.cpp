@@ -70,6 +70,37 @@ protected:
     Sidebar sidebar{services()};
 };
 
+TEST_F(SidebarTest, isDrawnWithItsEdgeAsSoonAsItLiesOverAList)
+{
+    class Drawings final : public QObject
+    {
+    public:
+        bool eventFilter(QObject * /*watched*/, QEvent *event) override
+        {
+            count += event->type() == QEvent::Paint ? 1 : 0;
+            return false;
+        }
+        int count = 0;
+    };
+    Drawings drawings;
+    sidebar.show();
+    sidebar.viewport()->installEventFilter(&drawings);
+    sidebar.activateWindow();
+    ASSERT_TRUE(waitUntil([this] { return sidebar.isActiveWindow(); }));
+    // Until nothing else has to be drawn.
+    int drawn = 0;
+    ASSERT_TRUE(
+        waitUntil([&] { return std::exchange(drawn, drawings.count) == drawings.count && drawn > 0; }));
+    const QPoint edge(sidebar.viewport()->width() - 1, sidebar.viewport()->height() - 1);
+    const auto atTheEdge = [&] { return sidebar.viewport()->grab().toImage().pixelColor(edge); };
+    const QColor line = Look::of(sidebar).sidebar.hairline;
+    EXPECT_NE(atTheEdge(), line);
+    const int before = drawings.count;
+    sidebar.setIsOverList(true);
+    EXPECT_TRUE(waitUntil([&] { return drawings.count > before; }));
+    EXPECT_EQ(atTheEdge(), line);
+}
+
 TEST_F(SidebarTest, listsAllSourcesTogetherAndThenEachOne)
 {
     addChromium();

@@ -381,6 +381,8 @@ void TableView::focusInEvent(QFocusEvent *event)
     if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason ||
         event->reason() == Qt::ShortcutFocusReason)
         m_isByKeyboard = true;
+    else if (event->reason() == Qt::MouseFocusReason || event->reason() == Qt::OtherFocusReason)
+        m_isByKeyboard = false;
     followCurrentRow();
 }
 

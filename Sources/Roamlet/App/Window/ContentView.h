@@ -118,8 +118,9 @@ private:
     void updateCover();
     EmptyListPage::Reason whyEmpty(const LinkTable &table) const;
     EmptyListPage *emptyListPage();
-    /// Brings the keyboard to the list, or to what helps where it is empty.
-    void focusList();
+    /// Brings the keyboard to the list, or to what helps where it is empty. Who comes with a key
+    /// (Qt::ShortcutFocusReason) sees where it led.
+    void focusList(Qt::FocusReason reason);
     QWidget *shownList();
     void setGrouping(Grouping grouping);
 

@@ -88,6 +88,12 @@ Sidebar::Sidebar(const WindowServices &services, QWidget *parent)
     });
 }
 
+void Sidebar::setIsOverList(bool isOverList)
+{
+    m_isOverList = isOverList;
+    viewport()->update();
+}
+
 void Sidebar::select(const std::optional<Pane> &pane)
 {
     m_isRestoring = true;
@@ -233,7 +239,7 @@ void Sidebar::keyPressEvent(QKeyEvent *event)
         if (isSection(current))
             setFolded(current, isExpanded(current));
         else
-            Q_EMIT rowChosen();
+            Q_EMIT rowChosen(Qt::ShortcutFocusReason);
         return;
     case Qt::Key_Up:
     case Qt::Key_Down: {
@@ -307,7 +313,7 @@ void Sidebar::mouseReleaseEvent(QMouseEvent *event)
         setFolded(pressed, isExpanded(pressed));
     else {
         setCurrentIndex(pressed);
-        Q_EMIT rowChosen();
+        Q_EMIT rowChosen(Qt::OtherFocusReason);
     }
 }
 

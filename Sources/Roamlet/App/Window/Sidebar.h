@@ -35,7 +35,7 @@ public:
     explicit Sidebar(const WindowServices &services, QWidget *parent = nullptr);
 
     /// Over a list it ends in a line.
-    void setIsOverList(bool isOverList) { m_isOverList = isOverList; }
+    void setIsOverList(bool isOverList);
 
     /// Selects the pane's row; nothing is selected when there is none. Emits nothing.
     void select(const std::optional<Pane> &pane);
@@ -46,8 +46,9 @@ public:
 Q_SIGNALS:
     /// The user has selected something else, or nothing.
     void paneSelected();
-    /// The user has chosen a row, which may be the selected one.
-    void rowChosen();
+    /// The user has chosen a row, which may be the selected one, with a key or the mouse: `reason` is why the
+    /// focus would go on from here.
+    void rowChosen(Qt::FocusReason reason);
     /// The user wants to export these bookmarks; of all sources when the id is absent.
     void exportRequested(const std::optional<QString> &sourceID);
 

@@ -11,6 +11,8 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace roamlet
 {
 
@@ -36,12 +38,7 @@ SidebarPlace::SidebarPlace(Sidebar &sidebar, UserDefaults &defaults, QWidget *pa
     layout->addWidget(&sidebar);
     setVisible(isBeside());
     sidebar.installEventFilter(this);
-    connect(&sidebar, &Sidebar::rowChosen, this, [this] {
-        if (!m_isOver)
-            return;
-        bringBack();
-        Q_EMIT changed();
-    });
+    connect(&sidebar, &Sidebar::rowChosen, this, &SidebarPlace::leave);
 }
 
 int SidebarPlace::widthBeside() const
@@ -64,7 +61,7 @@ void SidebarPlace::setRoom(int width)
     if (hasRoom == m_hasRoom)
         return;
     m_hasRoom = hasRoom;
-    bringBack();
+    bringBack(Qt::OtherFocusReason);
     Q_EMIT changed();
 }
 
@@ -73,21 +70,30 @@ void SidebarPlace::setShown(bool isShown)
     if (m_hasRoom) {
         m_isHiddenByUser = !isShown;
         m_defaults.setBoolean(hiddenKey, m_isHiddenByUser);
-        bringBack();
+        bringBack(Qt::ShortcutFocusReason);
     } else if (isShown) {
         showOver();
     } else {
-        bringBack();
+        bringBack(Qt::ShortcutFocusReason);
     }
     Q_EMIT changed();
 }
 
-void SidebarPlace::bringBack()
+void SidebarPlace::leave(Qt::FocusReason reason)
 {
+    if (!m_isOver)
+        return;
+    bringBack(reason);
+    Q_EMIT changed();
+}
+
+void SidebarPlace::bringBack(Qt::FocusReason reason)
+{
+    // First of all: the sidebar is told when it loses the focus, and would be brought back once more.
+    const bool wasOver = std::exchange(m_isOver, false);
     if (m_sidebar.hasFocus() && !isBeside())
-        Q_EMIT listRequested();
-    if (m_isOver) {
-        m_isOver = false;
+        Q_EMIT listRequested(reason);
+    if (wasOver) {
         m_sidebar.setIsOverList(false);
         layout()->addWidget(&m_sidebar);
         m_sidebar.show();
@@ -123,13 +129,7 @@ bool SidebarPlace::eventFilter(QObject *watched, QEvent *event)
                         static_cast<QFocusEvent *>(event)->reason() != Qt::PopupFocusReason;
     if (isEscape || isLeft) {
         // The focus is on its way: nothing may change its parent now.
-        QMetaObject::invokeMethod(
-            this,
-            [this] {
-                bringBack();
-                Q_EMIT changed();
-            },
-            Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, [this] { leave(Qt::ShortcutFocusReason); }, Qt::QueuedConnection);
     }
     return isEscape;
 }

@@ -35,8 +35,8 @@ public:
 
 Q_SIGNALS:
     void changed();
-    /// The keyboard was in the sidebar, which goes.
-    void listRequested();
+    /// The keyboard was in the sidebar, which goes, and is to be in the list now, for this reason.
+    void listRequested(Qt::FocusReason reason);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -44,7 +44,10 @@ protected:
 
 private:
     int widthBeside() const;
-    void bringBack();
+    /// From over the list. If it has the keyboard, that goes to the list for this reason.
+    void bringBack(Qt::FocusReason reason);
+    /// The same, when it is no longer wanted there.
+    void leave(Qt::FocusReason reason);
     void showOver();
     void follow();
 
