@@ -147,6 +147,11 @@ TEST_F(ContentPagesTest, withoutAnyBrowserItSaysWhereItLooked)
     const auto *places = part<QWidget>(*content, u"browserPlaces"_s);
     EXPECT_TRUE(places->isVisible());
     EXPECT_EQ(places->findChildren<QLabel *>(u"browserPlace"_s).size(), Browser::all().size());
+    content->activateWindow();
+    content->startSearch();
+    QTest::keyClick(part<QLineEdit>(*content, u"searchField"_s), Qt::Key_Down);
+    const auto *reload = part<QWidget>(*content, u"noBrowsersReload"_s);
+    EXPECT_TRUE(waitUntil([reload] { return reload->hasFocus(); }));
 }
 
 TEST_F(ContentPagesTest, ofEncryptedBookmarksItSaysSoAndOffersTheirManager)
@@ -172,6 +177,10 @@ TEST_F(ContentPagesTest, ofEncryptedBookmarksItSaysSoAndOffersTheirManager)
     EXPECT_EQ(workspace.requests,
               QList<QStringList>({{u"page"_s, u"chrome"_s, u"Profile 1"_s, u"chrome://bookmarks/"_s}}));
     EXPECT_TRUE(library->snapshot().problems.isEmpty()) << "it is no problem of the source";
+    content->activateWindow();
+    content->startSearch();
+    QTest::keyClick(part<QLineEdit>(*content, u"searchField"_s), Qt::Key_Down);
+    EXPECT_TRUE(waitUntil([button] { return button->hasFocus(); }));
     // As soon as there is a file that can be read, its bookmarks are shown.
     change([this] { sample::writeBookmarks(chromeFile(u"Profile 1/Bookmarks"_s), {}); });
     loadNow(*library);
@@ -211,6 +220,24 @@ TEST_F(ContentPagesTest, theKeyboardGoesFromTheSearchToWhatHelpsWhereNothingIsFo
     QTest::keyClick(field, Qt::Key_Down);
     EXPECT_TRUE(clear->hasFocus());
     EXPECT_EQ(reasons.seen, QList<Qt::FocusReason>{Qt::ShortcutFocusReason});
+}
+
+TEST_F(ContentPagesTest, theKeyboardDoesNotGoToAPageOnWhichThereIsNothingToDo)
+{
+    addChromium();
+    loadNow(*library);
+    const auto content = makeContent();
+    content->activateWindow();
+    content->setPane(BookmarksPane{u"edge/Default"_s});
+    ASSERT_TRUE(waitUntil([&] { return isShown(*content, u"emptyListPage"_s); }));
+    content->startSearch();
+    auto *field = part<QLineEdit>(*content, u"searchField"_s);
+    ASSERT_TRUE(waitUntil([&] { return field->hasFocus(); }));
+    QTest::keyClick(field, Qt::Key_Down);
+    EXPECT_TRUE(field->hasFocus());
+    part<QWidget>(*content, u"sidebar"_s)->setFocus();
+    content->setSidebarShown(false);
+    EXPECT_TRUE(field->hasFocus());
 }
 
 } // namespace roamlet::testing

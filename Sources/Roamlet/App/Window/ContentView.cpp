@@ -233,6 +233,7 @@ EmptyState *ContentView::noBrowsers()
         m_noBrowsers->setBox(new BrowserPlaces(m_services.folders));
         QPushButton *reload = m_noBrowsers->addAction(tr("Reload"), u"noBrowsersReload"_s);
         reload->setDefault(true);
+        m_noBrowsers->setFocusProxy(reload);
         connect(reload, &QPushButton::clicked, this, &ContentView::reload);
         m_lists->addWidget(m_noBrowsers);
     }
@@ -244,6 +245,7 @@ EmptyState *ContentView::encryptedBookmarks(const Source &source)
     if (m_encrypted == nullptr) {
         m_encrypted = new EmptyState(u"lock.fill"_s, tr("Bookmarks are encrypted"), this);
         m_editEncrypted = m_encrypted->addAction(QString(), u"emptyStateAction"_s);
+        m_encrypted->setFocusProxy(m_editEncrypted);
         connect(m_editEncrypted, &QPushButton::clicked, this, [this] {
             if (const std::optional<Source> shown = encryptedSource())
                 m_services.opener.editBookmarks(*shown, {});

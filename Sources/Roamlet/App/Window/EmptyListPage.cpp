@@ -36,8 +36,11 @@ void EmptyListPage::setReason(const Reason &reason)
     m_allSites->setVisible(reason.hasSite && !reason.isProblem);
     m_clearSearch->setVisible(reason.hasSearch && !reason.isProblem);
     m_reload->setVisible(reason.isProblem);
-    QPushButton *const wider = reason.hasSite ? m_allSites : m_clearSearch;
-    setFocusProxy(reason.isProblem ? m_reload : wider);
+    // The first that is there, if any.
+    QPushButton *first = nullptr;
+    for (QPushButton *button : {m_reload, m_clearSearch, m_allSites})
+        first = button->isHidden() ? first : button;
+    setFocusProxy(first);
 }
 
 } // namespace roamlet
