@@ -3,6 +3,7 @@
 
 #include "App/Look/Contrast.h"
 #include "App/Look/Look.h"
+#include "App/Look/Motion.h"
 #include "App/Look/StillStyle.h"
 #include "App/Tables/HistoryTable.h"
 #include "App/Tables/RowBubble.h"
@@ -139,11 +140,44 @@ TEST_F(RowLookTest, theRowUnderThePointerHasAGroundOfItsOwn)
     };
     EXPECT_EQ(ground(u"Trams"_s), look.list.base);
     QTest::mouseMove(view().viewport(), cell(u"Trams"_s).center());
-    EXPECT_EQ(ground(u"Trams"_s), look.list.hover);
+    EXPECT_NE(ground(u"Trams"_s), look.list.hover) << "it takes its moment";
+    EXPECT_TRUE(waitUntil([&] { return ground(u"Trams"_s) == look.list.hover; }));
     EXPECT_EQ(ground(u"Garden"_s), look.list.base);
     QEvent leave(QEvent::Leave);
     QCoreApplication::sendEvent(view().viewport(), &leave);
     EXPECT_EQ(ground(u"Trams"_s), look.list.base);
+}
+
+TEST_F(RowLookTest, whereNothingMovesTheRowUnderThePointerIsLitAtOnce)
+{
+    setMotionAllowed(false);
+    QTest::mouseMove(view().viewport(), cell(u"Clocks"_s).center());
+    QTest::mouseMove(view().viewport(), cell(u"Trams"_s).center());
+    const QRect place = cell(u"Trams"_s);
+    EXPECT_EQ(picture().pixelColor(place.right() - 2, place.center().y()), Look::of(view()).list.hover);
+    setMotionAllowed(true);
+}
+
+TEST_F(RowLookTest, theArrowOfASectionTurnsByAndBy)
+{
+    awaitList(table, [this] { table.setInputs({.grouping = Grouping::Day}); });
+    const QModelIndex band = find(table, u"Today"_s);
+    const Measures measures = Look::of(view()).measures;
+    const auto arrow = [&] {
+        const QRect row = view().visualRect(band);
+        return picture().copy(measures.gutter, row.top(), measures.chevronSide, row.height());
+    };
+    setMotionAllowed(false);
+    const QImage open = arrow();
+    view().setExpanded(band, false);
+    const QImage closed = arrow();
+    EXPECT_NE(closed, open);
+    view().setExpanded(band, true);
+    EXPECT_EQ(arrow(), open);
+    setMotionAllowed(true);
+    view().setExpanded(band, false);
+    EXPECT_NE(arrow(), closed);
+    EXPECT_TRUE(waitUntil([&] { return arrow() == closed; }));
 }
 
 TEST_F(RowLookTest, aSelectedRowHasAGroundThatTellsWhetherItsWindowIsActive)

@@ -10,12 +10,14 @@
 namespace roamlet
 {
 
-Fade::Fade(QWidget &widget, int milliseconds) : m_widget(widget), m_milliseconds(milliseconds)
+Fade::Fade(QWidget &widget, int milliseconds) : Fade(widget, milliseconds, [&widget] { widget.update(); }) {}
+
+Fade::Fade(QWidget &widget, int milliseconds, const std::function<void()> &draw)
+    : m_widget(widget), m_milliseconds(milliseconds)
 {
     m_animation.setStartValue(0.0);
     m_animation.setEndValue(1.0);
     m_animation.setEasingCurve(QEasingCurve::OutCubic);
-    const auto draw = [this] { m_widget.update(); };
     QObject::connect(&m_animation, &QVariantAnimation::valueChanged, &m_animation, draw);
     QObject::connect(&m_animation, &QVariantAnimation::finished, &m_animation, draw);
 }

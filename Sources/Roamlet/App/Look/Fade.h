@@ -5,6 +5,8 @@
 
 #include <QVariantAnimation>
 
+#include <functional>
+
 class QWidget;
 
 namespace roamlet
@@ -17,9 +19,13 @@ class Fade final
 public:
     /// What lies under the pointer is lit; it is dark at once when the pointer leaves it.
     static constexpr int hoverTime = 80; // milliseconds
+    /// The arrow of what opens and closes.
+    static constexpr int turningTime = 120; // milliseconds
 
-    /// Draws this widget again on the way, which takes so many milliseconds.
+    /// Draws this widget again on the way, which takes so many milliseconds,
     Fade(QWidget &widget, int milliseconds);
+    /// or that part of it which `draw` knows.
+    Fade(QWidget &widget, int milliseconds, const std::function<void()> &draw);
 
     /// From where it was.
     void begin();

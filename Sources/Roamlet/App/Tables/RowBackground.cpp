@@ -3,6 +3,7 @@
 
 #include "App/Tables/RowBackground.h"
 
+#include "App/Look/Contrast.h"
 #include "App/Look/Look.h"
 #include "App/Look/Painting.h"
 
@@ -47,8 +48,8 @@ void RowBackground::paint(QPainter &painter, const QRect &row, const Look &look)
     if (isSelected) {
         painter.setBrush(look.list.of(isSelected, isInActiveWindow).base);
         painter.drawPath(roundedRow(body, radius, !isSelectedAbove, !isSelectedBelow));
-    } else if (isHovered) {
-        painter.setBrush(look.list.hover);
+    } else if (lit > 0) {
+        painter.setBrush(mixedColor(look.list.base, look.list.hover, lit));
         painter.drawRoundedRect(body, radius, radius);
     }
     if (hasRing) {

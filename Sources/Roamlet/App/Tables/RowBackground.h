@@ -16,7 +16,8 @@ struct Look;
 struct RowBackground {
     bool isSelected = false;
     bool isInActiveWindow = true;
-    bool isHovered = false;
+    /// By how much the pointer over it lights it.
+    double lit = 0;
     bool hasRing = false;
     /// Selected neighbours are one piece, without corners in between.
     bool isSelectedAbove = false;

@@ -28,16 +28,21 @@ constexpr int severalRows = 3;
 } // namespace
 
 RowTips::RowTips(TableView &view, const RowDelegate &delegate)
-    : QObject(&view), m_view(view), m_delegate(delegate), m_bubble(*new RowBubble(view.viewport()))
+    : QObject(&view),
+      m_view(view),
+      m_delegate(delegate),
+      m_bubble(*new RowBubble(view.viewport())),
+      m_lighting(*view.viewport(), Fade::hoverTime, [this] { m_view.updateRow(m_hovered); })
 {
     m_wait.setSingleShot(true);
     m_wait.setInterval(bubbleDelay);
     connect(&m_wait, &QTimer::timeout, this, [this] { tellOf(m_hovered); });
 }
 
-bool RowTips::isHovered(const QModelIndex &index) const
+double RowTips::lit(const QModelIndex &index) const
 {
-    return m_hovered.isValid() && m_hovered == index.siblingAtColumn(0);
+    const bool isHovered = m_hovered.isValid() && m_hovered == index.siblingAtColumn(0);
+    return isHovered ? m_lighting.share() : 0;
 }
 
 std::optional<std::size_t> RowTips::litTick(const QModelIndex &section) const
@@ -97,6 +102,7 @@ void RowTips::setHovered(const QModelIndex &index, std::optional<std::size_t> ti
     m_view.updateRow(m_hovered);
     if (isSameRow)
         return;
+    m_lighting.begin();
     if (m_hovered.isValid())
         m_wait.start();
     else

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "App/Look/Fade.h"
+
 #include <QObject>
 #include <QPersistentModelIndex>
 #include <QPoint>
@@ -26,8 +28,8 @@ public:
     /// Lives with the view. The delegate outlives it.
     RowTips(TableView &view, const RowDelegate &delegate);
 
-    /// The pointer is over this row.
-    bool isHovered(const QModelIndex &index) const;
+    /// By how much a row is lit: the one that the pointer is over gets there by and by.
+    double lit(const QModelIndex &index) const;
     /// The hour or day of a section that the row is in which the pointer or the keyboard is at.
     std::optional<std::size_t> litTick(const QModelIndex &section) const;
 
@@ -65,6 +67,7 @@ private:
     /// The row under the pointer, and in a strip the bar.
     QPersistentModelIndex m_hovered;
     std::optional<std::size_t> m_hoveredTick;
+    Fade m_lighting;
     QTimer m_wait;
     /// The mouse was moved since the last key.
     bool m_isPointerUsed = false;

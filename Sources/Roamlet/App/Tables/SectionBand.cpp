@@ -92,8 +92,7 @@ void SectionBand::paint(QPainter &painter, const QRect &band, Qt::LayoutDirectio
     const int arrow = measures.chevronSide;
     const QRect arrowPlace = visual(
         QRect(band.left() + measures.gutter, band.top() + ((band.height() - arrow) / 2), arrow, arrow));
-    const Qt::ArrowType closed = isMirrored ? Qt::LeftArrow : Qt::RightArrow;
-    drawChevron(painter, arrowPlace, isOpen ? Qt::DownArrow : closed, shown.quiet);
+    drawChevron(painter, arrowPlace, opened, direction, shown.quiet);
 
     QRect rest = band.adjusted(measures.alignmentLine, 0, -measures.alignmentLine, 0);
     if (visits != nullptr) {

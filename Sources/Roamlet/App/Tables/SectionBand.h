@@ -28,7 +28,8 @@ struct SectionBand {
     QString title;
     QString count;
     QIcon icon;
-    bool isOpen = true;
+    /// By which share its arrow has turned to where it is open.
+    double opened = 1;
     /// A line parts it from what stands above.
     bool isFirst = false;
     /// What it is painted on, where that is there already: it can be selected.

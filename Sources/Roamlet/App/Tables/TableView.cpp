@@ -71,7 +71,8 @@ TableView::TableView(TableModel &model, Shape shape, QWidget *parent)
       m_header(*new TableHeader(model, this)),
       m_look(Look::of(*this)),
       m_delegate(*new RowDelegate(model, m_header, m_look, this)),
-      m_tips(*new RowTips(*this, m_delegate))
+      m_tips(*new RowTips(*this, m_delegate)),
+      m_turning(*viewport(), Fade::turningTime, [this] { updateRow(m_turned); })
 {
     setHeader(&m_header);
     setModel(&model);
@@ -99,9 +100,13 @@ TableView::TableView(TableModel &model, Shape shape, QWidget *parent)
     }
     updateLook();
 
-    connect(this, &QTreeView::expanded, this, [this](const QModelIndex &index) { noteToggled(index, true); });
+    connect(this, &QTreeView::expanded, this, [this](const QModelIndex &index) {
+        noteToggled(index, true);
+        turn(index);
+    });
     connect(this, &QTreeView::collapsed, this, [this](const QModelIndex &index) {
         noteToggled(index, false);
+        turn(index);
         leaveBelow(index);
     });
 }
@@ -131,6 +136,21 @@ void TableView::noteToggled(const QModelIndex &index, bool isNowOpen)
 void TableView::toggle(const QModelIndex &index)
 {
     setExpanded(index.siblingAtColumn(0), !isExpanded(index.siblingAtColumn(0)));
+}
+
+void TableView::turn(const QModelIndex &index)
+{
+    // What comes with its place has not moved, and of thousands of folders only a few are in sight.
+    if (m_isRestoring || m_isOpeningAll)
+        return;
+    m_turned = index;
+    m_turning.begin();
+}
+
+double TableView::openedShare(const QModelIndex &index) const
+{
+    const double share = m_turned == index.siblingAtColumn(0) ? m_turning.share() : 1;
+    return isExpanded(index.siblingAtColumn(0)) ? share : 1 - share;
 }
 
 void TableView::leaveBelow(const QModelIndex &closed)
@@ -241,9 +261,8 @@ void TableView::drawRow(QPainter *painter, const QStyleOptionViewItem &option, c
                 const int before = m_look.measures.alignmentLine - m_look.measures.gutter;
                 const QRect place(cell.rect.left() + line - before,
                                   cell.rect.top() + ((cell.rect.height() - arrow) / 2), arrow, arrow);
-                const Qt::ArrowType closed = isRightToLeft() ? Qt::LeftArrow : Qt::RightArrow;
                 drawChevron(*painter, QStyle::visualRect(layoutDirection(), cell.rect, place),
-                            isExpanded(index) ? Qt::DownArrow : closed, groundOf(index).quiet);
+                            openedShare(index), layoutDirection(), groundOf(index).quiet);
             }
             if (isRightToLeft())
                 cell.rect.setRight(cell.rect.right() - indent);
@@ -275,7 +294,7 @@ void TableView::drawGround(QPainter *painter, const QRect &row, const QModelInde
     const bool isSelected = isSelectedRow(index);
     const RowBackground background{.isSelected = isSelected,
                                    .isInActiveWindow = isActiveWindow(),
-                                   .isHovered = m_tips.isHovered(index),
+                                   .lit = m_tips.lit(index),
                                    .hasRing = hasRing(index),
                                    .isSelectedAbove = isSelected && isSelectedRow(indexAbove(index)),
                                    .isSelectedBelow = isSelected && isSelectedRow(indexBelow(index))};
@@ -290,7 +309,7 @@ void TableView::drawBand(QPainter *painter, const QRect &band, const QModelIndex
     const SectionBand content{.title = index.siblingAtColumn(0).data().toString(),
                               .count = m_model.localText().number(tree.node(number).linksBelow),
                               .icon = index.siblingAtColumn(0).data(Qt::DecorationRole).value<QIcon>(),
-                              .isOpen = isExpanded(index),
+                              .opened = openedShare(index),
                               .isFirst = index.row() == 0,
                               .ground = isSource ? &groundOf(index) : nullptr,
                               .visits = stripOf(index),
@@ -513,8 +532,11 @@ void TableView::keyPressEvent(QKeyEvent *event)
     case Qt::Key_Asterisk:
         // Qt lays out what is open by calling itself for each level, and foreign folders may be that deep.
         // Without a current row it would open everything.
-        if (current.isValid())
+        if (current.isValid()) {
+            m_isOpeningAll = true;
             expandRecursively(current, deepestOpening);
+            m_isOpeningAll = false;
+        }
         return;
     default:
         break;

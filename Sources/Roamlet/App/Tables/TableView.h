@@ -3,9 +3,11 @@
 
 #pragma once
 
+#include "App/Look/Fade.h"
 #include "App/Look/Look.h"
 #include "Lists/RowTree.h"
 
+#include <QPersistentModelIndex>
 #include <QPoint>
 #include <QSet>
 #include <QString>
@@ -98,6 +100,10 @@ private:
     bool isKind(const QModelIndex &index, TableRow::Kind kind) const;
     void noteToggled(const QModelIndex &index, bool isNowOpen);
     void toggle(const QModelIndex &index);
+    /// Turns the arrow of what has been opened or closed.
+    void turn(const QModelIndex &index);
+    /// By which share its arrow has turned to where it is open.
+    double openedShare(const QModelIndex &index) const;
     /// Nothing below what is closed stays selected or current.
     void leaveBelow(const QModelIndex &closed);
     bool selectsLinks() const;
@@ -122,6 +128,10 @@ private:
     /// The folders and sections whose state differs from how they come: outermost ones open, others closed.
     QSet<QString> m_toggled;
     bool m_isRestoring = false;
+    bool m_isOpeningAll = false;
+    /// What was opened or closed last, and its arrow on the way.
+    QPersistentModelIndex m_turned;
+    Fade m_turning;
 };
 
 } // namespace roamlet

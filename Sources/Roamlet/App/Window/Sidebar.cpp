@@ -34,7 +34,6 @@ namespace
 {
 
 const QString foldedKey = u"sidebar.folded"_s;
-constexpr int turningTime = 120; // milliseconds
 
 } // namespace
 
@@ -45,7 +44,7 @@ Sidebar::Sidebar(const WindowServices &services, QWidget *parent)
       m_sourceIcons(services.library, services.opener, *this),
       m_delegate(new SidebarDelegate(m_sourceIcons, this)),
       m_lighting(*viewport(), Fade::hoverTime),
-      m_turning(*viewport(), turningTime)
+      m_turning(*viewport(), Fade::turningTime)
 {
     setObjectName(u"sidebar"_s);
     setAccessibleName(tr("Sidebar"));
