@@ -12,9 +12,11 @@
 #include <QTextCursor>
 #include <QTextDocument>
 #include <QTextFrame>
+#include <QTextLayout>
 
 #include <algorithm>
 #include <utility>
+#include <vector>
 
 namespace roamlet
 {
@@ -59,15 +61,21 @@ void removeColours(QTextDocument &document)
         QTextBlockFormat ground = block.blockFormat();
         ground.clearBackground();
         cursor.setBlockFormat(ground);
+        // Pieces that become alike are joined, and an iterator would be lost: first all of them are looked
+        // for.
+        std::vector<QTextLayout::FormatRange> inks;
         for (auto piece = block.begin(); !piece.atEnd(); ++piece) {
-            QTextCharFormat ink = piece.fragment().charFormat();
+            const QTextFragment fragment = piece.fragment();
+            QTextCharFormat ink = fragment.charFormat();
             ink.clearBackground();
             if (!ink.isAnchor())
                 ink.clearForeground();
-            cursor.setPosition(piece.fragment().position());
-            cursor.setPosition(piece.fragment().position() + piece.fragment().length(),
-                               QTextCursor::KeepAnchor);
-            cursor.setCharFormat(ink);
+            inks.push_back({.start = fragment.position(), .length = fragment.length(), .format = ink});
+        }
+        for (const QTextLayout::FormatRange &ink : inks) {
+            cursor.setPosition(ink.start);
+            cursor.setPosition(ink.start + ink.length, QTextCursor::KeepAnchor);
+            cursor.setCharFormat(ink.format);
         }
     }
 }
