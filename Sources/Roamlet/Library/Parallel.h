@@ -37,8 +37,8 @@ private:
 };
 
 /// Calls work(0, turns) … work(count - 1, turns), each on a thread of its own as far as the system has that
-/// many, and returns when all have ended. Work that keeps a core busy takes a turn first; work that only waits
-/// takes none, so that it keeps nobody waiting.
+/// many, and returns when all have ended. Work that keeps a core busy takes a turn first; work that only
+/// waits takes none, so that it keeps nobody waiting.
 template<typename Work>
 void forEachInParallel(std::size_t count, Work work)
 {

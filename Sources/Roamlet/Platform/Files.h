@@ -53,10 +53,10 @@ public:
     virtual std::expected<QByteArray, std::error_code> readBeginning(const QString &path,
                                                                      qsizetype size) const = 0;
     /// Copies the bytes of `source` into a new file that only the user can read, as sparse as they are, and
-    /// then in the same way what stands beside it with one of the `suffixes`, where there is something that can
-    /// be read. A copy that fails, or that `stop` interrupts (std::errc::operation_canceled), leaves no file
-    /// of the name `target`. Whoever names `isGood` is asked when all is copied, and where it says no all is
-    /// copied again, `mostCopies` times in all.
+    /// then in the same way what stands beside it with one of the `suffixes`, where there is something that
+    /// can be read. A copy that fails, or that `stop` interrupts (std::errc::operation_canceled), leaves no
+    /// file of the name `target`. Whoever names `isGood` is asked when all is copied, and where it says no
+    /// all is copied again, `mostCopies` times in all.
     virtual std::expected<void, CopyError> copy(const QString &source, const QString &target,
                                                 const QStringList &suffixes, const std::stop_token &stop,
                                                 const std::function<bool()> &isGood) const = 0;
