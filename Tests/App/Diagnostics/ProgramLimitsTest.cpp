@@ -102,6 +102,28 @@ TEST_F(ProgramLimitsTest, anOutputBeyondTheLimitIsAFailureWithAReason)
     }
 }
 
+TEST_F(ProgramLimitsTest, wherePracticallyNoFilesMayBeOpenItSaysSo)
+{
+    home.addPages();
+    program.prepare = [] {
+        constexpr rlimit limit{10, 10};
+        if (::setrlimit(RLIMIT_NOFILE, &limit) != 0)
+            _exit(99);
+    };
+    for (const QStringList &arguments : readingJobs) {
+        const Ended ended = program.run(arguments);
+        EXPECT_EQ(ended.status, 1) << arguments.first().toStdString();
+        EXPECT_THAT(ended.errors.toStdString(), HasSubstr("too few files at a time"));
+    }
+    // What it may ask for itself is no matter of its user's.
+    program.prepare = [] {
+        constexpr rlimit limit{10, 1024};
+        if (::setrlimit(RLIMIT_NOFILE, &limit) != 0)
+            _exit(99);
+    };
+    EXPECT_EQ(program.run({u"--summary"_s}).status, 0);
+}
+
 TEST_F(ProgramLimitsTest, theWindowsTakeItForAnErrorToo)
 {
     home.addPages();

@@ -207,10 +207,7 @@ TEST_F(ContentPagesTest, theKeyboardGoesFromTheSearchToWhatHelpsWhereNothingIsFo
     addChromium();
     loadNow(*library);
     const auto content = makeContent();
-    content->activateWindow();
-    content->startSearch();
-    auto *field = part<QLineEdit>(*content, u"searchField"_s);
-    EXPECT_TRUE(waitUntil([&] { return field->hasFocus(); }));
+    auto *field = beginSearch(*content);
     QTest::keyClicks(field, u"zeppelin"_s);
     expectSubtitle(*content, u"0 items"_s);
     auto *clear = part<QPushButton>(*content, u"emptyListClearSearch"_s);

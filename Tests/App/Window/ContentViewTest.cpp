@@ -376,10 +376,7 @@ TEST_F(ContentViewTest, theKeyboardGoesFromTheSearchToTheListAndBack)
     addChromium();
     loadNow(*library);
     const auto content = makeContent();
-    content->activateWindow();
-    content->startSearch();
-    auto *field = part<QLineEdit>(*content, u"searchField"_s);
-    EXPECT_TRUE(waitUntil([&] { return field->hasFocus(); }));
+    auto *field = beginSearch(*content);
     auto *table = part<QWidget>(*content, u"historyTable"_s);
     FocusReasons reasons;
     table->installEventFilter(&reasons);

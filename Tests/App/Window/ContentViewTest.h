@@ -9,6 +9,7 @@
 
 #include <QFocusEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QTreeView>
 
 #include <gtest/gtest.h>
@@ -45,6 +46,15 @@ protected:
         return content;
     }
 
+    /// The search field, which has the keyboard.
+    static QLineEdit *beginSearch(ContentView &content)
+    {
+        content.activateWindow();
+        content.startSearch();
+        auto *field = part<QLineEdit>(content, QStringLiteral("searchField"));
+        EXPECT_TRUE(waitUntil([field] { return field->hasFocus(); }));
+        return field;
+    }
     static QString title(const ContentView &content)
     {
         return part<QWidget>(content, QStringLiteral("listTitle"))->accessibleName();

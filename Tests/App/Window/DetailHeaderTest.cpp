@@ -118,7 +118,8 @@ TEST_F(DetailHeaderTest, whatIsTypedBeginsBesideTheMagnifierInBothDirections)
     ASSERT_FALSE(leftToRight.isEmpty());
     header.setLayoutDirection(Qt::RightToLeft);
     const QRect rightToLeft = wordsIn();
-    EXPECT_EQ(rightToLeft.width(), leftToRight.width());
+    // Where a letter's soft edge falls within a pixel depends on the font.
+    EXPECT_NEAR(rightToLeft.width(), leftToRight.width(), 2);
     constexpr int sideBearings = 4;
     EXPECT_NEAR(search->width() - rightToLeft.right(), leftToRight.left(), sideBearings);
 }

@@ -60,6 +60,19 @@ QList<QAction *> commandsIn(const QWidget &menu)
 class MainWindowTest : public WindowTest
 {
 protected:
+    /// A window in which the list has no room beside the sidebar.
+    std::unique_ptr<MainWindow> openNarrowWindow()
+    {
+        QFont font = QApplication::font();
+        font.setPixelSize(24);
+        auto window = makeWindow();
+        window->setFont(font);
+        window->resize(820, 600);
+        window->open();
+        window->activateWindow();
+        EXPECT_TRUE(waitUntil([&window] { return window->isActiveWindow(); }));
+        return window;
+    }
     std::unique_ptr<MainWindow> makeWindow()
     {
         return std::make_unique<MainWindow>(MainWindow::Services{.content = services(),
@@ -308,14 +321,7 @@ TEST_F(MainWindowTest, besideANarrowListTheSidebarOpensOverItAndGoesWithAChoice)
 {
     addChromium();
     loadNow(*library);
-    QFont font = QApplication::font();
-    font.setPixelSize(24);
-    const auto window = makeWindow();
-    window->setFont(font);
-    window->resize(820, 600);
-    window->open();
-    window->activateWindow();
-    ASSERT_TRUE(waitUntil([&window] { return window->isActiveWindow(); }));
+    const auto window = openNarrowWindow();
     auto *sidebar = part<Sidebar>(*window, u"sidebar"_s);
     const auto *list = part<QWidget>(*window, u"historyTable"_s);
     ASSERT_FALSE(sidebar->isVisible());
@@ -347,14 +353,7 @@ TEST_F(MainWindowTest, theSidebarOverTheListGoesOnceAndOnlyAKeyBringsTheKeyboard
 {
     addChromium();
     loadNow(*library);
-    QFont font = QApplication::font();
-    font.setPixelSize(24);
-    const auto window = makeWindow();
-    window->setFont(font);
-    window->resize(820, 600);
-    window->open();
-    window->activateWindow();
-    ASSERT_TRUE(waitUntil([&window] { return window->isActiveWindow(); }));
+    const auto window = openNarrowWindow();
     auto *sidebar = part<Sidebar>(*window, u"sidebar"_s);
     auto *table = part<QTreeView>(*window, u"historyTable"_s);
     const auto *bubble = table->viewport()->findChild<QWidget *>(u"rowBubble"_s);
