@@ -246,7 +246,7 @@ void RoamletApp::reopen()
 int RoamletApp::run(int argc, char **argv)
 {
     int status = 0;
-    Processes::limitHeaps();
+    Processes::useOneHeap();
     {
         // Before any other thread: each of them leaves the signals to this one.
         StopSignals signals;
