@@ -261,7 +261,7 @@ TEST_F(LibrarySearchTest, theLatestRowsOfARenamedProfileBearItsNewName)
     loadNow(library, QSet<QString>{u"chrome/Default"_s});
     const HistoryResults results = ask(library, u"edge/Default"_s);
     ASSERT_EQ(titles(results.items), QStringList{u"e1"_s});
-    EXPECT_EQ(results.items.first().source.name, u"Elsewhere");
+    EXPECT_EQ(results.items.first().source->name, u"Elsewhere");
 }
 
 TEST_F(LibrarySearchTest, theLatestRowsThatCouldNotBeReadAreAskedForAgain)

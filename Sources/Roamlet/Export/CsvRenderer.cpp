@@ -93,8 +93,8 @@ QString renderCsv(const QList<Bookmark> &flat)
     QString text = u"Browser,Profile,Folder,Title,URL,Added\r\n"_s;
     const Characters characters;
     for (const Bookmark &bookmark : flat) {
-        const QString browser = Source::displayName(bookmark.source.kind);
-        const QString profile = bookmark.source.name == browser ? QString() : bookmark.source.name;
+        const QString browser = Source::displayName(bookmark.source->kind);
+        const QString profile = bookmark.source->name == browser ? QString() : bookmark.source->name;
         const QStringList values{browser,        profile,      bookmark.folder,
                                  bookmark.title, bookmark.url, isoDate(bookmark.dateAdded)};
         for (qsizetype i = 0; i < values.size(); ++i)

@@ -12,8 +12,7 @@ std::vector<qsizetype> siteOrder(const QStringList &sites, const Collation &coll
 {
     const SortLevel emptyLast{SortOrder::Forward,
                               [&sites](qsizetype site) -> quint64 { return sites[site].isEmpty() ? 1 : 0; }};
-    const SortLevel byName{SortOrder::Forward,
-                           [&sites](qsizetype site, QString & /*made*/) { return QStringView(sites[site]); }};
+    const SortLevel byName{SortOrder::Forward, [&sites](qsizetype site) { return QStringView(sites[site]); }};
     return *sortedRowNumbers(sites.size(), {emptyLast, byName}, collation);
 }
 

@@ -15,16 +15,15 @@ namespace
 constexpr quint64 signBit = quint64{1} << 63;
 
 template<typename Row>
-QStringView title(const Row &row, QString & /*made*/)
+QStringView title(const Row &row)
 {
     return row.title;
 }
 
 template<typename Row>
-QStringView sourceLabel(const Row &row, QString &made)
+QStringView sourceLabel(const Row &row)
 {
-    made = row.source.label();
-    return made;
+    return row.source.label();
 }
 
 template<typename Row>
@@ -90,7 +89,7 @@ SortField<Bookmark> sortField(SortColumn column)
     case SortColumn::Date:
         return dateAdded<Bookmark>;
     case SortColumn::Folder:
-        return [](const Bookmark &bookmark, QString & /*made*/) { return QStringView(bookmark.folder); };
+        return [](const Bookmark &bookmark) { return QStringView(bookmark.folder); };
     case SortColumn::Source:
         return sourceLabel<Bookmark>;
     case SortColumn::Visits:

@@ -36,10 +36,10 @@ quint64 sortRank(std::optional<PointInTime> date);
 /// What a column gives of a row for sorting: a rank,
 template<typename Row>
 using SortRank = quint64 (*)(const Row &row);
-/// or a text that is compared as the user's language does. It lies in the row, or in `made` when it had to be
-/// put together: counting references to a string of each row takes longer than sorting them.
+/// or a text that is compared as the user's language does. It lies in the row: counting references to a
+/// string of each row takes longer than sorting them.
 template<typename Row>
-using SortText = QStringView (*)(const Row &row, QString &made);
+using SortText = QStringView (*)(const Row &row);
 template<typename Row>
 using SortField = std::variant<SortRank<Row>, SortText<Row>>;
 

@@ -62,10 +62,9 @@ public:
     {
         m_entries.clear();
         m_keys.clear();
-        QString made;
         for (const qsizetype row : run) {
             m_entries.push_back({0, m_keys.size(), row});
-            m_collation.appendSortKey(text(row, made), m_keys);
+            m_collation.appendSortKey(text(row), m_keys);
         }
         // Eight bytes of all keys at a time, and the next eight only where these are equal: comparing whole
         // keys in pairs would wait for memory in each comparison.

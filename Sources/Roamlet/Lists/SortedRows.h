@@ -22,8 +22,7 @@ namespace roamlet
 /// One comparator over rows that are known by their numbers only.
 struct SortLevel {
     using Rank = std::function<quint64(qsizetype row)>;
-    /// The text lies in the row, or in `made` when it had to be put together.
-    using Text = std::function<QStringView(qsizetype row, QString &made)>;
+    using Text = std::function<QStringView(qsizetype row)>;
 
     using Value = std::variant<Rank, Text>;
 
@@ -37,8 +36,8 @@ SortLevel::Value sortValue(const SortField<Row> &field, const RowPointers<Row> &
 {
     if (const auto *rank = std::get_if<SortRank<Row>>(&field))
         return [rank = *rank, pointers = rows.data()](qsizetype row) { return rank(*pointers[row]); };
-    return [text = std::get<SortText<Row>>(field), pointers = rows.data()](qsizetype row, QString &made) {
-        return text(*pointers[row], made);
+    return [text = std::get<SortText<Row>>(field), pointers = rows.data()](qsizetype row) {
+        return text(*pointers[row]);
     };
 }
 

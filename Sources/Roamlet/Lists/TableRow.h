@@ -6,7 +6,7 @@
 #include "Model/Bookmark.h"
 #include "Model/HistoryItem.h"
 #include "Model/PointInTime.h"
-#include "Model/Source.h"
+#include "Model/SharedSource.h"
 
 #include <QString>
 
@@ -38,7 +38,7 @@ struct TableRow {
     std::optional<PointInTime> date;
     qint64 visits = 0;
     /// Of a section it says nothing.
-    Source source;
+    SharedSource source;
 
     bool operator==(const TableRow &) const = default;
 

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "Model/PointInTime.h"
-#include "Model/Source.h"
+#include "Model/SharedSource.h"
 
 #include <QList>
 #include <QString>
@@ -27,7 +27,7 @@ struct Bookmark {
     /// The id of the folder that directly encloses it.
     std::optional<QString> folderID;
     std::optional<PointInTime> dateAdded;
-    Source source;
+    SharedSource source;
     /// Lower-cased title, line feed, URL, line feed, folder.
     QString searchKey;
     /// Site::name of the URL, or empty.
@@ -57,7 +57,7 @@ public:
     QString title;
     std::optional<QString> url;
     std::optional<PointInTime> dateAdded;
-    Source source;
+    SharedSource source;
     std::optional<QList<BookmarkNode>> children;
     /// Whether this is the folder that the browser shows as its bookmarks bar.
     bool isBar = false;

@@ -10,7 +10,7 @@ namespace roamlet
 {
 
 HistoryItem HistoryItem::ofRow(qint64 rowID, const QString &rowTitle, const QString &rowUrl,
-                               PointInTime visitedAt, qint64 visits, const Source &from)
+                               PointInTime visitedAt, qint64 visits, const SharedSource &from)
 {
     const QString shownTitle = rowTitle.isEmpty() ? rowUrl : rowTitle;
     return {.id = from.id() % u'/' % QString::number(rowID),

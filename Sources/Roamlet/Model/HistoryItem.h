@@ -4,7 +4,7 @@
 #pragma once
 
 #include "Model/PointInTime.h"
-#include "Model/Source.h"
+#include "Model/SharedSource.h"
 
 #include <QString>
 
@@ -20,7 +20,7 @@ struct HistoryItem {
     QString url;
     PointInTime lastVisit;
     qint64 visitCount = 0;
-    Source source;
+    SharedSource source;
     /// Site::name of the URL, or empty.
     QString site;
 
@@ -33,7 +33,7 @@ struct HistoryItem {
     /// The row `rowID` of the history table of `from`. An empty title is replaced by the URL; the site is
     /// derived here, once.
     static HistoryItem ofRow(qint64 rowID, const QString &rowTitle, const QString &rowUrl,
-                             PointInTime visitedAt, qint64 visits, const Source &from);
+                             PointInTime visitedAt, qint64 visits, const SharedSource &from);
 };
 
 size_t qHash(const HistoryItem &item, size_t seed = 0);

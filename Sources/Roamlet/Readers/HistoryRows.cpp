@@ -145,7 +145,7 @@ struct FoundRow {
     std::size_t item = 0;
 };
 
-HistoryItem itemOf(const SQLiteSnapshot::Row &row, const Source &source, const PointInTime &lastVisit)
+HistoryItem itemOf(const SQLiteSnapshot::Row &row, const SharedSource &source, const PointInTime &lastVisit)
 {
     return HistoryItem::ofRow(row.integer(RowColumn::Id), row.text(RowColumn::Title).value_or(QString()),
                               row.text(RowColumn::Url).value_or(QString()), lastVisit,
@@ -157,7 +157,7 @@ HistoryItem itemOf(const SQLiteSnapshot::Row &row, const Source &source, const P
 class FirstRows
 {
 public:
-    FirstRows(const HistoryQuery &query, const Source &source, LastVisit lastVisit)
+    FirstRows(const HistoryQuery &query, const SharedSource &source, LastVisit lastVisit)
         : m_query(query), m_source(source), m_lastVisit(lastVisit)
     {
     }
@@ -228,7 +228,7 @@ private:
     }
 
     const HistoryQuery &m_query;
-    const Source &m_source;
+    const SharedSource &m_source;
     LastVisit m_lastVisit;
     /// A heap: the last in the order is at its front.
     std::vector<FoundRow> m_rows;
@@ -241,7 +241,7 @@ private:
 /// Puts the rows in order without the database, or says nothing where it has to answer.
 std::expected<std::optional<QList<HistoryItem>>, ReadError>
 rowsOfTable(const TableParts &table, const HistoryStatement &statement, const HistoryQuery &query,
-            const Source &source, LastVisit lastVisit)
+            const SharedSource &source, LastVisit lastVisit)
 {
     std::array<FirstRows, TableParts::most> parts{FirstRows(query, source, lastVisit),
                                                   FirstRows(query, source, lastVisit)};
@@ -261,8 +261,8 @@ rowsOfTable(const TableParts &table, const HistoryStatement &statement, const Hi
 
 std::expected<QList<HistoryItem>, ReadError> historyRows(const SQLiteSnapshot &database,
                                                          const HistoryStatement &statement,
-                                                         const HistoryQuery &query, const Source &source,
-                                                         LastVisit lastVisit)
+                                                         const HistoryQuery &query,
+                                                         const SharedSource &source, LastVisit lastVisit)
 {
     if (const TableParts table(database, statement.table); table.hasRowNumbers()) {
         auto rows = rowsOfTable(table, statement, query, source, lastVisit);

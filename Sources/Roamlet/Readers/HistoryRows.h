@@ -39,8 +39,8 @@ struct HistoryStatement {
 /// It takes the patterns of `query`. Any thread.
 std::expected<QList<HistoryItem>, ReadError> historyRows(const SQLiteSnapshot &database,
                                                          const HistoryStatement &statement,
-                                                         const HistoryQuery &query, const Source &source,
-                                                         LastVisit lastVisit);
+                                                         const HistoryQuery &query,
+                                                         const SharedSource &source, LastVisit lastVisit);
 
 /// How a family's history is searched, beyond the words.
 struct HistoryRules {

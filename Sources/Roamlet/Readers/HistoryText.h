@@ -72,7 +72,7 @@ public:
     std::optional<Answer> search(const HistoryQuery &query, const RowNumbers *among = nullptr) const;
 
     /// The text of a source that has no history.
-    static std::shared_ptr<const HistoryText> empty(const Source &source);
+    static std::shared_ptr<const HistoryText> empty(const SharedSource &source);
 
     RowNumber rowCount() const { return static_cast<RowNumber>(m_rows.size()); }
     /// The bytes of its addresses and titles,
@@ -96,7 +96,7 @@ private:
         RowNumber end = 0;
     };
 
-    explicit HistoryText(Source source) : m_source(std::move(source)) {}
+    explicit HistoryText(SharedSource source) : m_source(std::move(source)) {}
 
     static std::optional<std::vector<Literal>> wordsOf(const HistoryQuery &query);
     std::optional<Condition> conditionOf(const HistoryQuery &query) const;
@@ -119,7 +119,7 @@ private:
     size_t urlEnd(RowNumber row) const { return m_starts[row] + m_urlSizes[row]; }
     std::string_view text() const { return {m_text.data(), m_text.size()}; }
 
-    Source m_source;
+    SharedSource m_source;
     /// Of each row the address, a separator, the title and a NUL, as they stand in the database.
     LargeVector<char> m_text{&largeMemory()};
     /// Where each row begins, and after them the end of the last one.

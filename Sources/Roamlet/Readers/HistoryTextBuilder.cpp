@@ -130,14 +130,14 @@ void HistoryText::Builder::Part::put(const HistoryTextRow &row)
         m_broken.push_back(place);
 }
 
-std::shared_ptr<const HistoryText> HistoryText::empty(const Source &source)
+std::shared_ptr<const HistoryText> HistoryText::empty(const SharedSource &source)
 {
     Builder builder(source, Builder::Ties::FirstRead, Builder::Pages::OneRow, 1024);
     builder.arrange();
     return builder.finish();
 }
 
-HistoryText::Builder::Builder(Source source, Ties ties, Pages pages, size_t mostBytes)
+HistoryText::Builder::Builder(SharedSource source, Ties ties, Pages pages, size_t mostBytes)
     : m_made(new HistoryText(std::move(source))), m_ties(ties), m_pages(pages), m_mostBytes(mostBytes)
 {
     for (Part &part : m_parts)

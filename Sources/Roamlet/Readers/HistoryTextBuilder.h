@@ -85,7 +85,7 @@ public:
         std::unordered_map<std::string, std::size_t> m_titles;
     };
 
-    Builder(Source source, Ties ties, Pages pages, std::size_t mostBytes);
+    Builder(SharedSource source, Ties ties, Pages pages, std::size_t mostBytes);
 
     /// The rows of the first part come before those of the second.
     Part &part(std::size_t index) { return m_parts[index]; }

@@ -250,7 +250,7 @@ int Job::top()
     // No columns: the line is the same on a terminal and in a pipe.
     QStringList lines;
     for (const HistoryItem &row : rows.first(std::min(rows.size(), topLength)))
-        lines.append(QString::number(row.visitCount) % u"  " % text(row.source.name) % u"  " %
+        lines.append(QString::number(row.visitCount) % u"  " % text(row.source->name) % u"  " %
                      text(row.site) % u"  " % text(row.title));
     lines.append(QString::number(rows.size()) % u" URLs in " % stopwatch.seconds() % u's');
     return print(lines);

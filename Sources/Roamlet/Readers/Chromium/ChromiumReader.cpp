@@ -92,7 +92,7 @@ std::vector<const Json::Value *> childEntries(const Json::Value *folder)
 
 /// The node of one entry, a folder still without its children; nothing for what is neither folder nor
 /// bookmark.
-std::optional<BookmarkNode> nodeWithoutChildren(const Json::Value &entry, const Source &source,
+std::optional<BookmarkNode> nodeWithoutChildren(const Json::Value &entry, const SharedSource &source,
                                                 const QString &idPrefix)
 {
     const std::optional<QString> type = Json::text(Json::member(entry, "type"));
@@ -214,7 +214,10 @@ struct Root {
 class RootReader
 {
 public:
-    RootReader(const Source &source, QString idPrefix) : m_source(source), m_idPrefix(std::move(idPrefix)) {}
+    RootReader(const SharedSource &source, QString idPrefix)
+        : m_source(source), m_idPrefix(std::move(idPrefix))
+    {
+    }
 
     /// The roots in one file that hold a bookmark; none where there is no file.
     std::expected<QList<Root>, ReadError> read(const QString &file, const Files &files) const
@@ -233,7 +236,7 @@ public:
             return result;
         for (const char *key : {"bookmark_bar", "other", "synced"})
             append(QString::fromLatin1(key), Json::objectMember(*roots, key), result);
-        if (Browser::of(m_source.kind).hasOperaLayout)
+        if (Browser::of(m_source->kind).hasOperaLayout)
             appendCustomRoots(Json::objectMember(*roots, "custom_root"), result);
         return result;
     }
@@ -269,7 +272,7 @@ private:
         }
     }
 
-    const Source &m_source;
+    SharedSource m_source;
     QString m_idPrefix;
 };
 

@@ -102,7 +102,7 @@ std::expected<void, ReadError> Entries::read(const SQLiteSnapshot &places)
 }
 
 /// The node of an entry, a folder still without its children.
-BookmarkNode nodeOf(const Entry &entry, const Source &source)
+BookmarkNode nodeOf(const Entry &entry, const SharedSource &source)
 {
     BookmarkNode node;
     node.id = source.id() % u'/' % entry.guid;
@@ -121,7 +121,7 @@ BookmarkNode nodeOf(const Entry &entry, const Source &source)
 
 } // namespace
 
-std::expected<QList<BookmarkNode>, ReadError> read(const SQLiteSnapshot &places, const Source &source)
+std::expected<QList<BookmarkNode>, ReadError> read(const SQLiteSnapshot &places, const SharedSource &source)
 {
     Entries entries;
     if (const auto run = entries.read(places); !run)

@@ -21,7 +21,7 @@ namespace FirefoxBookmarks
 {
 
 /// One tree for each of the browser's root folders that holds a bookmark, the bookmarks bar first.
-std::expected<QList<BookmarkNode>, ReadError> read(const SQLiteSnapshot &places, const Source &source);
+std::expected<QList<BookmarkNode>, ReadError> read(const SQLiteSnapshot &places, const SharedSource &source);
 
 } // namespace FirefoxBookmarks
 

@@ -92,7 +92,7 @@ PropertyListValue find(PropertyListValue root, const QString &id)
 class TreeBuilder
 {
 public:
-    TreeBuilder(Source source, QSet<QString> excludedIDs)
+    TreeBuilder(SharedSource source, QSet<QString> excludedIDs)
         : m_source(std::move(source)), m_excludedIDs(std::move(excludedIDs))
     {
     }
@@ -136,12 +136,12 @@ private:
         return {};
     }
 
-    Source m_source;
+    SharedSource m_source;
     QSet<QString> m_excludedIDs;
 };
 
 /// The one folder that is a named profile's favourites; it plays the part of the bookmarks bar.
-QList<BookmarkNode> favourites(PropertyListValue root, const QString &folderID, const Source &source)
+QList<BookmarkNode> favourites(PropertyListValue root, const QString &folderID, const SharedSource &source)
 {
     const PropertyListValue entry = find(root, folderID);
     std::optional<BookmarkNode> node = TreeBuilder(source, {}).node(entry);
@@ -152,7 +152,7 @@ QList<BookmarkNode> favourites(PropertyListValue root, const QString &folderID, 
 }
 
 QList<BookmarkNode> allBookmarks(PropertyListValue root, const QSet<QString> &excludedIDs,
-                                 const Source &source)
+                                 const SharedSource &source)
 {
     const TreeBuilder builder(source, excludedIDs);
     QList<BookmarkNode> result;
