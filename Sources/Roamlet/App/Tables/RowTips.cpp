@@ -61,7 +61,7 @@ std::optional<std::size_t> RowTips::litTick(const QModelIndex &section) const
 void RowTips::movePointer(const QPoint &point)
 {
     m_isPointerUsed = true;
-    setHovered(m_view.indexAt(point), m_view.tickAt(point));
+    setHovered(m_view.indexAt(point), m_view.rowPainter().tickAt(point));
     m_bubble.avoid(point);
 }
 
@@ -80,7 +80,7 @@ void RowTips::followRows()
     if (!m_isPointerUsed || !viewport.underMouse())
         return;
     const QPoint point = viewport.mapFromGlobal(QCursor::pos());
-    setHovered(m_view.indexAt(point), m_view.tickAt(point));
+    setHovered(m_view.indexAt(point), m_view.rowPainter().tickAt(point));
 }
 
 void RowTips::useKeys()
@@ -159,8 +159,8 @@ void RowTips::showToolTip(const QPoint &point, const QPoint &onScreen) const
 {
     const QModelIndex index = m_view.indexAt(point);
     const TableModel &model = m_view.tableModel();
-    if (const std::optional tick = m_view.tickAt(point)) {
-        const VisitStrip &visits = *m_view.stripOf(index);
+    if (const std::optional tick = m_view.rowPainter().tickAt(point)) {
+        const VisitStrip &visits = *m_view.rowPainter().stripOf(index);
         const VisitStrip::Tick &shown = visits.ticks[*tick];
         // An hour that clocks leave out, or a day that has a section of its own.
         if (shown.begin == shown.end || shown.begin >= visits.end) {

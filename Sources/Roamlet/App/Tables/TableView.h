@@ -3,23 +3,20 @@
 
 #pragma once
 
-#include "App/Look/Fade.h"
 #include "App/Look/Look.h"
+#include "App/Tables/RowPainter.h"
 #include "Lists/RowTree.h"
 
-#include <QPersistentModelIndex>
 #include <QPoint>
-#include <QSet>
 #include <QString>
 #include <QTreeView>
-
-#include <cstddef>
-#include <optional>
 
 namespace roamlet
 {
 
 class RowDelegate;
+class RowFolds;
+class RowSelectionModel;
 class RowTips;
 class TableHeader;
 class TableModel;
@@ -43,6 +40,7 @@ public:
 
     TableHeader &tableHeader() const { return m_header; }
     const TableModel &tableModel() const { return m_model; }
+    const RowPainter &rowPainter() const { return m_rowPainter; }
     /// Shows a newer list. Rows that are in it too stay selected and open or closed; with Scrolling::Stay
     /// most of those in sight also stay where they are.
     void showTree(const SharedRowTree &tree, Scrolling scrolling);
@@ -52,10 +50,10 @@ public:
     QList<TableRow> selectedRows() const;
     /// Paints a row again, and the strip of its section.
     void updateRow(const QModelIndex &index);
-    /// The strip of a section that shows one, or null.
-    const VisitStrip *stripOf(const QModelIndex &section) const;
-    /// The bar of a strip at this place of the viewport.
-    std::optional<std::size_t> tickAt(const QPoint &point) const;
+    /// The whole width of a row.
+    QRect rowRect(const QModelIndex &index) const;
+    /// Whether the keyboard is at this row.
+    bool hasRing(const QModelIndex &index) const;
     /// Qt's own search jumps to whatever title begins so. Here, what is typed is searched for.
     void keyboardSearch(const QString &typed) override;
 
@@ -95,43 +93,22 @@ protected:
 
 private:
     void updateLook();
-    void openFoldersAndSections();
-    bool isOpen(const RowTree::Node &node) const;
     bool isKind(const QModelIndex &index, TableRow::Kind kind) const;
-    void noteToggled(const QModelIndex &index, bool isNowOpen);
-    void toggle(const QModelIndex &index);
-    /// Turns the arrow of what has been opened or closed.
-    void turn(const QModelIndex &index);
-    /// By which share its arrow has turned to where it is open.
-    double openedShare(const QModelIndex &index) const;
-    /// Nothing below what is closed stays selected or current.
-    void leaveBelow(const QModelIndex &closed);
     bool selectsLinks() const;
-    void drawBand(QPainter *painter, const QRect &band, const QModelIndex &index) const;
-    void drawGround(QPainter *painter, const QRect &row, const QModelIndex &index) const;
-    bool isSelectedRow(const QModelIndex &index) const;
-    const Ground &groundOf(const QModelIndex &index) const;
-    bool hasRing(const QModelIndex &index) const;
-    /// The whole width of a row.
-    QRect rowRect(const QModelIndex &index) const;
     void goToTick(const QModelIndex &section, std::size_t tick);
     void followCurrentRow();
 
     TableModel &m_model;
     TableHeader &m_header;
+    RowSelectionModel &m_selection;
     Look m_look;
     RowDelegate &m_delegate;
     RowTips &m_tips;
+    RowFolds &m_folds;
+    RowPainter m_rowPainter;
     /// Keys move the current row, not the mouse.
     bool m_isByKeyboard = false;
     bool m_isBandPressed = false;
-    /// The folders and sections whose state differs from how they come: outermost ones open, others closed.
-    QSet<QString> m_toggled;
-    bool m_isRestoring = false;
-    bool m_isOpeningAll = false;
-    /// What was opened or closed last, and its arrow on the way.
-    QPersistentModelIndex m_turned;
-    Fade m_turning;
 };
 
 } // namespace roamlet
