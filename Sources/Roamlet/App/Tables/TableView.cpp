@@ -17,6 +17,8 @@
 #include <QScrollBar>
 
 #include <algorithm>
+#include <cstddef>
+#include <optional>
 #include <utility>
 
 namespace roamlet

@@ -11,6 +11,8 @@
 #include <QString>
 #include <QTreeView>
 
+#include <cstddef>
+
 namespace roamlet
 {
 

@@ -23,19 +23,19 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-/// Above the first section. In heights of a line, as all others.
-constexpr double topMargin = 0.5;
+/// In heights of a line.
+constexpr double aboveFirstSection = 0.5;
 
 int gapAbove(const Measures &measures, const QModelIndex &section)
 {
-    return section.row() == 0 ? measures.units(topMargin) : measures.gapAroundGroups;
+    return section.row() == 0 ? measures.units(aboveFirstSection) : measures.gapAroundGroups;
 }
 
 /// What is drawn into one row, from its start to its end.
-class RowPainter
+class RowContents
 {
 public:
-    RowPainter(QPainter &painter, const QStyleOptionViewItem &option, const Measures &measures, int gap)
+    RowContents(QPainter &painter, const QStyleOptionViewItem &option, const Measures &measures, int gap)
         : m_painter(painter),
           m_option(option),
           m_measures(measures),
@@ -110,7 +110,7 @@ void SidebarDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
     const bool isActive = option.widget->isActiveWindow();
     const Ground &ground = sidebar.of(isSelected, isActive);
     const bool isHovered = option.state.testFlag(QStyle::State_MouseOver);
-    RowPainter row(*painter, option, look.measures, isHeading ? gapAbove(look.measures, index) : 0);
+    RowContents row(*painter, option, look.measures, isHeading ? gapAbove(look.measures, index) : 0);
 
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
