@@ -182,6 +182,11 @@ Measures::Measures(const QFont &font)
       comboBoxHeight(units(2.2)),
       controlHeight(units(1.75)),
       buttonWidth(units(5)),
+      toolButtonPadding(units(0.43)),
+      gapInToolButton(units(0.4)),
+      searchWidth(units(12.5)),
+      narrowSearchWidth(units(9)),
+      leastSearchWidth(units(5)),
       tabHeight(units(1.6)),
       tabInset(units(0.18)),
       switchWidth(units(2.1)),
@@ -189,11 +194,13 @@ Measures::Measures(const QFont &font)
       radioSide(units(0.95)),
       iconSide(2 * std::max(1, units(0.89 / 2))),
       chevronSide(units(0.8)),
+      signSide(units(1.2)),
       gapAfterIcon(units(0.5)),
       gapBetweenCells(units(1.6)),
       gapAroundGroups(units(0.45)),
       boxPadding(units(0.8)),
       rowPadding(units(0.33)),
+      barPadding(units(0.3)),
       sheetWidth(units(31)),
       sheetPadding(units(1.3)),
       settingsWidth(units(27.8)),
@@ -270,10 +277,10 @@ Look::Look(const QPalette &palette, const QFont &font, Contrast contrast)
     const QColor away = relativeLuminance(fillInk) > relativeLuminance(fill) ? Qt::black : Qt::white;
     fillHover = mixedColor(fill, away, 0.10);
     fillPressed = mixedColor(fill, away, 0.20);
-    on = shade(accent, {Qt::white}, m_markContrast, accent);
+    on = shade(accent, {knob}, m_markContrast, accent);
     // On a dark ground no colour may be that far from the knob and still be seen itself.
     if (lowestContrast(on, {base, card.base}) < leastMarkContrast)
-        on = shade(accent, {Qt::white}, leastMarkContrast, accent);
+        on = shade(accent, {knob}, leastMarkContrast, accent);
 
     constexpr int stepsToSelected = 11;
     double share = 0.28;

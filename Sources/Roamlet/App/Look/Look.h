@@ -65,6 +65,13 @@ struct Measures {
     int controlHeight;
     /// What a button is as wide as, however short its words are.
     int buttonWidth;
+    /// From the edge of a tool button to its symbol, and from there to its words.
+    int toolButtonPadding;
+    int gapInToolButton;
+    int searchWidth;
+    /// As far as it gives way to others, and as far as it does for the title of the page.
+    int narrowSearchWidth;
+    int leastSearchWidth;
     int tabHeight;
     /// Between the edge of the track and the section on it.
     int tabInset;
@@ -75,6 +82,8 @@ struct Measures {
     int iconSide;
     /// The arrow of what opens and closes.
     int chevronSide;
+    /// The sign of a bar that asks for something.
+    int signSide;
     int gapAfterIcon;
     int gapBetweenCells;
     int gapAroundGroups;
@@ -82,6 +91,8 @@ struct Measures {
     int boxPadding;
     /// Above and below what would fill such a row.
     int rowPadding;
+    /// Above and below what would fill a bar over the list.
+    int barPadding;
     int sheetWidth;
     int sheetPadding;
     int settingsWidth;
@@ -126,6 +137,8 @@ struct Look {
     RowGround sidebar;
     /// What is typed into.
     Ground field;
+    /// In place of a ground that is painted already.
+    QColor noGround = Qt::transparent;
     /// The rows of a boxed list.
     Ground card;
     /// Behind boxed lists and whole windows.
@@ -151,8 +164,9 @@ struct Look {
     QColor shadow;
     /// What a control that is off consists of, or its outline.
     QColor edge;
-    /// A control that is on; its knob is white.
+    /// A control that is on, and what stands out on it.
     QColor on;
+    QColor knob = Qt::white;
     /// The focus ring, and all else that shows where the user is.
     QColor accent;
     /// Words that do something.

@@ -37,7 +37,7 @@ void SwitchLook::paint(QPainter &painter, const QRectF &rect, const Look &look) 
     const qreal share = isOn ? way : 1 - way;
     const qreal length = track.width() - track.height();
     knob.translate(length * (direction == Qt::LeftToRight ? share : 1 - share), 0);
-    painter.setBrush(Qt::white);
+    painter.setBrush(look.knob);
     painter.drawEllipse(knob);
     painter.restore();
 

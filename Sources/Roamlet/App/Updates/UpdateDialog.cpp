@@ -3,6 +3,7 @@
 
 #include "App/Updates/UpdateDialog.h"
 
+#include "App/Look/Look.h"
 #include "App/Look/NoteLabel.h"
 #include "App/Look/RoamletStyle.h"
 
@@ -51,13 +52,15 @@ UpdateDialog::UpdateDialog(const QString &name, const QString &heading, Answer c
     icon->setPixmap(QGuiApplication::windowIcon().pixmap(iconSide));
     icon->setAlignment(Qt::AlignTop);
     auto *top = new QHBoxLayout;
-    top->setSpacing(16);
+    const Measures measures(font());
+    top->setSpacing(measures.boxPadding);
     if (!QGuiApplication::windowIcon().isNull())
         top->addWidget(icon);
     top->addLayout(words, 1);
     auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(20, 20, 20, 20);
-    layout->setSpacing(16);
+    const int margin = measures.sheetPadding;
+    layout->setContentsMargins(margin, margin, margin, margin);
+    layout->setSpacing(measures.boxPadding);
     layout->addLayout(top, 1);
     layout->addLayout(m_buttons);
     constexpr int narrowest = 400;

@@ -67,7 +67,7 @@ void FullDiskAccessBanner::updateLook()
 {
     Strip::updateLook();
     const Look look = Look::of(*this);
-    const int side = look.measures.units(1.2);
+    const int side = look.measures.signSide;
     m_lock->setPixmap(
         symbolIcon(u"lock.fill"_s, look.warningMark).pixmap(QSize(side, side), devicePixelRatioF()));
     m_heading->setFont(look.headingFont);

@@ -46,7 +46,7 @@ void GroupByButton::updateWords()
 int GroupByButton::widthWhen(bool isCompact) const
 {
     const Measures measures(font());
-    const int gap = measures.units(0.4);
+    const int gap = measures.gapInToolButton;
     const int signs = measures.iconSide + gap + measures.chevronSide + (2 * padding());
     if (isCompact)
         return signs;
@@ -64,7 +64,7 @@ void GroupByButton::paintContent(QPainter &painter, const QRect &content)
 {
     HeaderButton::paintContent(painter, content);
     const Look look = Look::of(*this);
-    const int gap = look.measures.units(0.4);
+    const int gap = look.measures.gapInToolButton;
     const QColor quiet = isEnabled() ? look.list.quiet : look.list.faint;
     if (!m_isCompact) {
         int start = content.left() + look.measures.iconSide + gap;

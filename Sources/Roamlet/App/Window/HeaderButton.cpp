@@ -30,7 +30,7 @@ HeaderButton::HeaderButton(const QString &symbol, const QString &name, QWidget *
 
 int HeaderButton::padding() const
 {
-    return Look::of(*this).measures.units(0.43);
+    return Look::of(*this).measures.toolButtonPadding;
 }
 
 QColor HeaderButton::ink() const

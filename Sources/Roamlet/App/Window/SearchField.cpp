@@ -49,21 +49,20 @@ void SearchField::alignToMagnifier()
     setAlignment(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter));
 }
 
-QSize SearchField::sizeOfWidth(double units) const
+QSize SearchField::sizeOfWidth(int width) const
 {
-    const Measures measures(font());
     constexpr int rings = 2 * Measures::focusRingWidth;
-    return {measures.units(units) + rings, measures.controlHeight + rings};
+    return {width + rings, Measures(font()).controlHeight + rings};
 }
 
 QSize SearchField::sizeHint() const
 {
-    return sizeOfWidth(12.5);
+    return sizeOfWidth(Measures(font()).searchWidth);
 }
 
 QSize SearchField::minimumSizeHint() const
 {
-    return sizeOfWidth(9);
+    return sizeOfWidth(Measures(font()).narrowSearchWidth);
 }
 
 void SearchField::updateColors()
@@ -71,7 +70,7 @@ void SearchField::updateColors()
     // Not from this field's own palette, which has no ground.
     const Look look = Look::of(*parentWidget());
     // The ground is drawn here, with round corners.
-    setPaletteColor(*this, QPalette::Base, QColor(Qt::transparent));
+    setPaletteColor(*this, QPalette::Base, look.noGround);
     setPaletteColor(*this, QPalette::PlaceholderText, look.field.quiet);
     m_magnifier->setIcon(symbolIcon(u"magnifyingglass"_s, look.field.quiet));
     m_clear->setIcon(symbolIcon(u"xmark.circle"_s, look.field.quiet));

@@ -36,7 +36,7 @@ private:
     void updateColors();
     /// What is typed, and what says what for, begins beside the magnifier.
     void alignToMagnifier();
-    QSize sizeOfWidth(double units) const;
+    QSize sizeOfWidth(int width) const;
 
     QAction *m_magnifier;
     QAction *m_clear;

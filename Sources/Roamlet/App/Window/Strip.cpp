@@ -78,8 +78,8 @@ bool Strip::event(QEvent *event)
 void Strip::updateLook()
 {
     const Measures measures(font());
-    const int margin = measures.units(0.3);
-    m_row->setContentsMargins(measures.alignmentLine, margin, measures.units(endMargin), margin);
+    m_row->setContentsMargins(measures.alignmentLine, measures.barPadding, measures.units(endMargin),
+                              measures.barPadding);
     m_row->setSpacing(measures.gapAfterIcon);
 }
 
