@@ -3,6 +3,7 @@
 
 #include "App/Settings/ProfileListModel.h"
 
+#include "App/Look/ForeignText.h"
 #include "Library/Library.h"
 
 #include <QWidget>
@@ -32,11 +33,8 @@ QVariant ProfileListModel::data(const QModelIndex &index, int role) const
         return {};
     const Source &source = m_profiles[index.row()];
     switch (role) {
-    case Qt::DisplayRole: {
-        // A profile's name has no limit; a screen has.
-        constexpr qsizetype longestLabel = 1000;
-        return source.label().left(longestLabel).simplified();
-    }
+    case Qt::DisplayRole:
+        return ForeignText::inLabel(source.label());
     case Qt::DecorationRole:
         return m_icons.of(source);
     case Qt::CheckStateRole:
