@@ -99,7 +99,8 @@ TEST_F(BoxedListTest, theRowWithTheKeyboardHasARingAndNoFill)
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     const Look look = Look::of(*list);
     first->setChecked(true);
-    first->setFocus(Qt::MouseFocusReason);
+    first->setFocus();
+    QTest::mouseClick(&window, Qt::LeftButton);
     EXPECT_NE(at(180, 2), look.accent) << "nobody uses keys";
     QTest::keyClick(first, Qt::Key_Down);
     ASSERT_TRUE(second->hasFocus());

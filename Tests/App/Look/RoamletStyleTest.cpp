@@ -128,7 +128,8 @@ TEST_F(RoamletStyleTest, theFocusRingComesWithTheFirstKey)
     window.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     const QImage before = picture(*first);
-    first->setFocus(Qt::MouseFocusReason);
+    first->setFocus();
+    QTest::mouseClick(&window, Qt::LeftButton);
     EXPECT_EQ(picture(*first), before);
     QTest::keyClick(first, Qt::Key_Tab);
     QTest::keyClick(second, Qt::Key_Backtab);

@@ -4,6 +4,7 @@
 #include "App/Look/Sheet.h"
 
 #include "App/Look/Look.h"
+#include "App/Look/RoamletStyle.h"
 #include "App/Look/StillStyle.h"
 #include "Support/Waiting.h"
 
@@ -66,6 +67,27 @@ protected:
     QPushButton *other = nullptr;
     QPushButton *standard = nullptr;
 };
+
+TEST_F(SheetTest, whatAKeyHasBroughtHasARingAtOnce)
+{
+    RoamletStyle::applyTo(*below);
+    const auto hasRing = [](QWidget &button) {
+        return button.grab().toImage().pixelColor(button.width() / 2, 0) == Look::of(button).accent;
+    };
+    for (const bool isKey : {false, true}) {
+        make();
+        RoamletStyle::applyTo(*sheet);
+        standard->setFocus();
+        if (isKey)
+            QTest::keyClick(below, Qt::Key_Down);
+        else
+            QTest::mouseClick(&window, Qt::LeftButton);
+        sheet->open();
+        ASSERT_TRUE(standard->hasFocus());
+        EXPECT_EQ(hasRing(*standard), isKey);
+        delete sheet;
+    }
+}
 
 TEST_F(SheetTest, comesDownFromUnderTheFrame)
 {

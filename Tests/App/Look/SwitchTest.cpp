@@ -133,7 +133,8 @@ TEST(SwitchTest, theRingComesWithTheFirstKey)
     window.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     const QImage without = one->grab().toImage();
-    one->setFocus(Qt::MouseFocusReason);
+    one->setFocus();
+    QTest::mouseClick(&window, Qt::LeftButton);
     EXPECT_EQ(one->grab().toImage(), without);
     QTest::keyClick(one, Qt::Key_Tab);
     QTest::keyClick(two, Qt::Key_Backtab);

@@ -122,11 +122,11 @@ TEST_F(BrowserPlacesTest, whereThereIsNoRoomForAllItScrollsByKey)
     ASSERT_TRUE(waitUntil([this] { return page.isActiveWindow(); }));
     const auto edge = [this] { return places->grab().toImage().pixelColor(places->width() / 2, 0); };
     places->setFocus();
+    QTest::mouseClick(&page, Qt::LeftButton);
     const QColor accent = Look::of(page).accent;
     EXPECT_NE(edge(), accent);
-    page.setAttribute(Qt::WA_KeyboardFocusChange);
-    EXPECT_EQ(edge(), accent);
     QTest::keyClick(places, Qt::Key_PageDown);
+    EXPECT_EQ(edge(), accent);
     EXPECT_GT(bar->value(), 0);
 }
 

@@ -3,6 +3,7 @@
 
 #include "App/Look/Painting.h"
 
+#include "App/Look/LastInput.h"
 #include "App/Look/Look.h"
 
 #include <QLabel>
@@ -16,7 +17,7 @@ namespace roamlet
 
 bool showsFocus(const QWidget &widget)
 {
-    return widget.hasFocus() && widget.window()->testAttribute(Qt::WA_KeyboardFocusChange);
+    return widget.hasFocus() && isKeyboardUsed();
 }
 
 void drawFocusRing(QPainter &painter, const QRectF &outline, qreal radius, const Look &look)

@@ -85,8 +85,7 @@ void drawPushButton(const QStyleOptionButton &button, QPainter &painter, const Q
                      Qt::AlignCenter | Qt::TextSingleLine | mnemonic, button.text);
     painter.restore();
 
-    if (button.state.testFlag(QStyle::State_HasFocus) &&
-        button.state.testFlag(QStyle::State_KeyboardFocusChange))
+    if (showsFocus(widget))
         drawFocusRing(painter, button.rect, look.measures.rowRadius + roomForRing - 1, look);
 }
 

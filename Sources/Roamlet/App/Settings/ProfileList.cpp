@@ -114,9 +114,6 @@ bool ProfileList::event(QEvent *event)
 void ProfileList::keyPressEvent(QKeyEvent *event)
 {
     const bool moves = event->modifiers() == Qt::AltModifier || event->modifiers() == Qt::ControlModifier;
-    // From now on the current row is to be seen.
-    window()->setAttribute(Qt::WA_KeyboardFocusChange);
-    viewport()->update();
     if (event->key() == Qt::Key_Escape && m_target >= 0) {
         endDragging();
     } else if (moves && currentIndex().isValid() &&
@@ -134,7 +131,6 @@ void ProfileList::mousePressEvent(QMouseEvent *event)
 {
     const QPoint position = event->position().toPoint();
     const QModelIndex index = indexAt(position);
-    window()->setAttribute(Qt::WA_KeyboardFocusChange, false);
     if (event->button() == Qt::LeftButton && index.isValid() && !switchRect(index).contains(position)) {
         m_pressed = index;
         m_pressedAt = position;

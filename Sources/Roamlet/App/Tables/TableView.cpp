@@ -3,6 +3,8 @@
 
 #include "App/Tables/TableView.h"
 
+#include "App/Look/LastInput.h"
+#include "App/Look/Painting.h"
 #include "App/Tables/RowDelegate.h"
 #include "App/Tables/RowFolds.h"
 #include "App/Tables/RowSelectionModel.h"
@@ -28,25 +30,6 @@ using RowKind = TableRow::Kind;
 
 namespace
 {
-
-/// Held down for another key or a click, or by chance: it leads nowhere by itself.
-bool isModifier(int key)
-{
-    switch (key) {
-    case Qt::Key_Shift:
-    case Qt::Key_Control:
-    case Qt::Key_Meta:
-    case Qt::Key_Alt:
-    case Qt::Key_AltGr:
-    case Qt::Key_Super_L:
-    case Qt::Key_Super_R:
-    case Qt::Key_CapsLock:
-    case Qt::Key_NumLock:
-        return true;
-    default:
-        return false;
-    }
-}
 
 /// Beyond this, finding out where each row begins takes too long while somebody types, and all rows get the
 /// height of links.
@@ -149,7 +132,7 @@ int TableView::sizeHintForColumn(int column) const
 
 bool TableView::hasRing(const QModelIndex &index) const
 {
-    return m_isByKeyboard && hasFocus() && currentIndex().siblingAtColumn(0) == index.siblingAtColumn(0);
+    return showsFocus(*this) && currentIndex().siblingAtColumn(0) == index.siblingAtColumn(0);
 }
 
 QRect TableView::rowRect(const QModelIndex &index) const
@@ -181,7 +164,7 @@ void TableView::goToTick(const QModelIndex &section, std::size_t tick)
 
 void TableView::followCurrentRow()
 {
-    if (m_isByKeyboard && hasFocus())
+    if (showsFocus(*this))
         m_tips.tellOf(currentIndex().siblingAtColumn(0));
 }
 
@@ -204,11 +187,6 @@ void TableView::selectionChanged(const QItemSelection &selected, const QItemSele
 void TableView::focusInEvent(QFocusEvent *event)
 {
     QTreeView::focusInEvent(event);
-    if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason ||
-        event->reason() == Qt::ShortcutFocusReason)
-        m_isByKeyboard = true;
-    else if (event->reason() == Qt::MouseFocusReason || event->reason() == Qt::OtherFocusReason)
-        m_isByKeyboard = false;
     followCurrentRow();
 }
 
@@ -252,7 +230,6 @@ void TableView::mouseReleaseEvent(QMouseEvent *event)
 
 void TableView::mousePressEvent(QMouseEvent *event)
 {
-    m_isByKeyboard = false;
     const QPoint point = event->position().toPoint();
     const QModelIndex index = indexAt(point);
     // With these keys a source's heading is selected like other folders.
@@ -295,11 +272,10 @@ void TableView::keyPressEvent(QKeyEvent *event)
         Q_EMIT copyRequested();
         return;
     }
-    if (isModifier(event->key())) {
+    if (isModifier(*event)) {
         QTreeView::keyPressEvent(event);
         return;
     }
-    m_isByKeyboard = true;
     m_tips.useKeys();
     const QModelIndex current = currentIndex();
     const bool hasModifiers = (event->modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier;

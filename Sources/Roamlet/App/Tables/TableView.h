@@ -108,8 +108,6 @@ private:
     RowTips &m_tips;
     RowFolds &m_folds;
     RowPainter m_rowPainter;
-    /// Keys move the current row, not the mouse.
-    bool m_isByKeyboard = false;
     bool m_isBandPressed = false;
 };
 

@@ -208,9 +208,6 @@ bool Sidebar::viewportEvent(QEvent *event)
 
 void Sidebar::keyPressEvent(QKeyEvent *event)
 {
-    // From now on the current row is to be seen.
-    window()->setAttribute(Qt::WA_KeyboardFocusChange);
-    viewport()->update();
     const bool carries = event->modifiers() == Qt::AltModifier || event->modifiers() == Qt::ControlModifier;
     const QModelIndex current = currentIndex();
     const QModelIndex section = isSection(current) ? current : current.parent();
@@ -263,7 +260,6 @@ void Sidebar::focusOutEvent(QFocusEvent *event)
 
 void Sidebar::mousePressEvent(QMouseEvent *event)
 {
-    window()->setAttribute(Qt::WA_KeyboardFocusChange, false);
     if (event->button() == Qt::LeftButton) {
         m_pressed = indexAt(event->position().toPoint());
         m_pressedAt = event->position().toPoint();
