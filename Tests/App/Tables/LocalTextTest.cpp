@@ -74,6 +74,24 @@ TEST(LocalTextTest, datesAreInTheUsersLanguageAndClock)
     EXPECT_TRUE(inLocale(u"ar_EG"_s, 400 * day).contains(u"٢٠٢٥"_s));
 }
 
+TEST(LocalTextTest, everyTimeIsWrittenInTheSameWay)
+{
+    // That of a session without a language, and some whose times are not written alike everywhere.
+    for (const QString &locale : {u"en_001"_s, u"en_US"_s, u"en_AU"_s, u"fi_FI"_s, u"es_MX"_s, u"bg_BG"_s}) {
+        const LocalText text(UserCalendar{u"UTC"_s, locale}, now);
+        const auto ago = [](double seconds) { return pointInTime(secondsSince1970(now) - seconds); };
+        // A quarter to eleven in the evening, as it is said of one day after the other.
+        const double evening = 7.5 * hour;
+        const QString time = text.timeOfDay(ago(evening));
+        EXPECT_EQ(text.timeOfDay(ago(evening + 30 * day)), time);
+        EXPECT_TRUE(text.briefDate(ago(evening + day)).endsWith(time)) << qPrintable(locale);
+        EXPECT_TRUE(text.briefDate(ago(evening + 30 * day)).endsWith(time))
+            << qPrintable(text.briefDate(ago(evening + 30 * day))) << " " << qPrintable(time);
+        EXPECT_TRUE(text.fullDate(ago(evening)).endsWith(time)) << qPrintable(locale);
+    }
+    EXPECT_EQ(LocalText(UserCalendar{u"UTC"_s, u"en_001"_s}, now).hour(13), u"1:00 pm to 2:00 pm");
+}
+
 TEST(LocalTextTest, hoursAndDaysHaveNames)
 {
     const LocalText text(UserCalendar{u"Asia/Tokyo"_s, u"en_GB"_s}, now);

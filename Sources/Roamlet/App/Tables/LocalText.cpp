@@ -18,36 +18,41 @@ namespace roamlet
 
 using namespace Qt::StringLiterals;
 
-/// A day with its month and the time, or with its year, as the language puts them together. What the clock on
-/// the wall shows is handed over as if it were UTC, so that the time zone is the one of all other dates.
+/// The time, and a day with its month and the time or with its year, as the language puts them together. All
+/// of them come from one library, since Qt's has times of its own: "9:59 PM" beside "10:28 pm". What the
+/// clock on the wall shows is handed over as if it were UTC, so that the time zone is the one of all other
+/// dates.
 struct LocalText::Formats {
     explicit Formats(const QString &locale)
     {
         const icu::Locale native(locale.toLatin1().constData());
         UErrorCode status = U_ZERO_ERROR;
+        timeOnly.reset(icu::DateFormat::createInstanceForSkeleton("jmm", native, status));
         dayAndTime.reset(icu::DateFormat::createInstanceForSkeleton("MMMdjmm", native, status));
         dayAndYear.reset(icu::DateFormat::createInstanceForSkeleton("yMMMd", native, status));
         if (U_FAILURE(status) != 0) {
-            dayAndTime.reset();
+            for (std::unique_ptr<icu::DateFormat> *format : {&timeOnly, &dayAndTime, &dayAndYear})
+                format->reset();
             return;
         }
-        for (icu::DateFormat *format : {dayAndTime.get(), dayAndYear.get()})
+        for (icu::DateFormat *format : {timeOnly.get(), dayAndTime.get(), dayAndYear.get()})
             format->adoptTimeZone(icu::TimeZone::getGMT()->clone());
     }
 
     /// Empty without the library's data.
-    QString text(const QDateTime &shown, bool isWithTime) const
+    static QString text(const std::unique_ptr<icu::DateFormat> &format, const QDateTime &shown)
     {
-        if (!dayAndTime)
+        if (!format)
             return {};
         const QDateTime wall(shown.date(), shown.time(), Qt::UTC);
         icu::UnicodeString text;
-        (isWithTime ? dayAndTime : dayAndYear)->format(double(wall.toMSecsSinceEpoch()), text);
-        // The same blank before "PM" as in the times that Qt writes.
+        format->format(double(wall.toMSecsSinceEpoch()), text);
+        // Not every font has the blank before "PM".
         constexpr QChar narrowBlank = u'\u202f';
         return QString::fromUtf16(text.getBuffer(), text.length()).replace(narrowBlank, u' ');
     }
 
+    std::unique_ptr<icu::DateFormat> timeOnly;
     std::unique_ptr<icu::DateFormat> dayAndTime;
     std::unique_ptr<icu::DateFormat> dayAndYear;
 
@@ -90,34 +95,40 @@ QString LocalText::briefDate(const QDateTime &shown) const
 {
     constexpr qint64 week = 7;
     const qint64 daysAgo = shown.date().daysTo(m_today);
-    QString time = m_locale.toString(shown.time(), QLocale::ShortFormat);
+    QString time = timeText(shown);
     if (daysAgo == 0)
         return time;
     if (daysAgo > 0 && daysAgo < week)
         return m_locale.dayName(shown.date().dayOfWeek(), QLocale::ShortFormat) % u' ' % time;
     // A day of the same name a year ago is another one.
     const bool isWithinAYear = daysAgo > 0 && shown.date() > m_today.addYears(-1);
-    const QString text = Formats::of(m_localeName)->text(shown, isWithinAYear);
+    const std::shared_ptr<const Formats> formats = Formats::of(m_localeName);
+    const QString text = Formats::text(isWithinAYear ? formats->dayAndTime : formats->dayAndYear, shown);
     return text.isEmpty() ? m_locale.toString(shown.date(), QLocale::ShortFormat) : text;
 }
 
 QString LocalText::timeOfDay(PointInTime time) const
 {
-    return m_locale.toString(local(time).time(), QLocale::ShortFormat);
+    return timeText(local(time));
+}
+
+QString LocalText::timeText(const QDateTime &shown) const
+{
+    const QString text = Formats::text(Formats::of(m_localeName)->timeOnly, shown);
+    return text.isEmpty() ? m_locale.toString(shown.time(), QLocale::ShortFormat) : text;
 }
 
 QString LocalText::fullDate(PointInTime time) const
 {
     const QDateTime shown = local(time);
-    return m_locale.toString(shown.date(), QLocale::LongFormat) % u' ' %
-           m_locale.toString(shown.time(), QLocale::ShortFormat);
+    return m_locale.toString(shown.date(), QLocale::LongFormat) % u' ' % timeText(shown);
 }
 
 QString LocalText::hour(int number) const
 {
     constexpr int hoursPerDay = 24;
     const auto time = [this](int hour) {
-        return m_locale.toString(QTime(hour % hoursPerDay, 0), QLocale::ShortFormat);
+        return timeText(QDateTime(m_today, QTime(hour % hoursPerDay, 0), Qt::UTC));
     };
     //: An hour of a day: "13:00 to 14:00".
     return QCoreApplication::translate("roamlet::LocalText", "%1 to %2").arg(time(number), time(number + 1));

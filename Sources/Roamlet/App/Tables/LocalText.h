@@ -53,11 +53,12 @@ public:
     PointInTime tomorrow() const;
 
 private:
-    /// The forms that Qt does not have.
+    /// How the language writes times and brief days.
     struct Formats;
 
     QDateTime local(PointInTime time) const;
     QString briefDate(const QDateTime &shown) const;
+    QString timeText(const QDateTime &shown) const;
 
     QLocale m_locale;
     QTimeZone m_zone;
