@@ -148,6 +148,29 @@ TEST_F(BookmarkTableTest, aBookmarkWithoutADateIsTheNewest)
     EXPECT_EQ(titles(table), "Ant Apple pie Zebra Report Bread");
 }
 
+TEST_F(BookmarkTableTest, aFolderThatWasFoundIsInSightInANarrowColumn)
+{
+    QJsonArray inner = {mark(u"9"_s, u"Bread"_s, u"https://food.example/sourdough"_s, 0)};
+    for (int i = 0; i < 4; ++i)
+        inner = {sample::folderNode(u"%1"_s.arg(20 + i), i == 0 ? u"Sourdough"_s : u"A folder around it"_s,
+                                    inner)};
+    setBookmarks(u"Default"_s, inner);
+    loadNow(*library);
+    BookmarkTable table(services());
+    show(table, {.sourceID = u"chrome/Default"_s});
+    search(table, {.sourceID = u"chrome/Default"_s, .search = u"sourdough"_s});
+    ASSERT_EQ(titles(table), "Bread");
+    TableView &view = table.view();
+    const Look look = Look::of(view);
+    view.setColumnWidth(BookmarkTable::Folder, look.measures.units(9));
+    const QRect cell = view.visualRect(find(table, u"Bread"_s).siblingAtColumn(BookmarkTable::Folder));
+    const QImage image = view.viewport()->grab().toImage().copy(cell);
+    int marked = 0;
+    for (int x = 0; x < image.width(); ++x)
+        marked += image.pixelColor(x, image.height() / 4) == look.match ? 1 : 0;
+    EXPECT_GT(marked, look.measures.unit * 2) << "the whole word";
+}
+
 TEST_F(BookmarkTableTest, theMenuEditsTheFolder)
 {
     BookmarkTable table(services());

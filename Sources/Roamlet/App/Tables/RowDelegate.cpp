@@ -361,7 +361,8 @@ void RowDelegate::paintTitle(const Cell &cell) const
 
 void RowDelegate::paintText(const Cell &cell, const QString &text) const
 {
-    const QString shown = ForeignText::fitted(text, cell.painter.fontMetrics(), cell.place.width());
+    const QString shown =
+        fittedAroundMatch(text, m_search.words, cell.painter.fontMetrics(), cell.place.width());
     drawMarkedText(cell.painter, cell.visual(cell.place), cell.option.direction, shown, cell.quiet,
                    {.words = m_search.words, .ground = cell.mark, .ink = cell.ink});
 }
@@ -385,7 +386,7 @@ void RowDelegate::paintSource(const Cell &cell, const QString &label) const
     }
     const QRect rest = place.adjusted(iconAndGap(), 0, 0, 0);
     // Where there is only room for a letter or two, the icon alone says more.
-    if (m_header.isNarrow() || rest.width() < m_look.measures.units(1))
+    if (m_header.isNarrow() || rest.width() < m_look.measures.unit)
         return;
     drawMarkedText(cell.painter, cell.visual(rest), cell.option.direction,
                    ForeignText::fitted(label, cell.painter.fontMetrics(), rest.width()), cell.quiet);
