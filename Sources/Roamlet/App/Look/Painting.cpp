@@ -31,6 +31,11 @@ void drawFocusRing(QPainter &painter, const QRectF &outline, qreal radius, const
     painter.restore();
 }
 
+QRect squareIn(const QRect &line, int left, int side)
+{
+    return {left, line.top() + ((line.height() - side) / 2), side, side};
+}
+
 void drawShadow(QPainter &painter, const QRectF &rect, qreal radius, const Look &look)
 {
     painter.save();

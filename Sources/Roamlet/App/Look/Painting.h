@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QRectF>
+#include <QRect>
 
 class QColor;
 class QLabel;
@@ -22,6 +22,9 @@ bool showsFocus(const QWidget &widget);
 
 /// The ring around what has the keyboard, within `outline`.
 void drawFocusRing(QPainter &painter, const QRectF &outline, qreal radius, const Look &look);
+
+/// The place of an icon or an arrow that begins at `left`, in the middle of a line of text.
+QRect squareIn(const QRect &line, int left, int side);
 
 /// The soft shadow of a rounded rectangle that lies above its ground. What covers it is drawn afterwards.
 void drawShadow(QPainter &painter, const QRectF &rect, qreal radius, const Look &look);

@@ -5,6 +5,7 @@
 
 #include "App/Look/ForeignText.h"
 #include "App/Look/Look.h"
+#include "App/Look/Painting.h"
 #include "App/Tables/SearchMatches.h"
 #include "App/Tables/TableHeader.h"
 #include "App/Tables/TableModel.h"
@@ -315,8 +316,7 @@ void RowDelegate::paintTitle(const Cell &cell) const
     const Measures &measures = m_look.measures;
     QRect rest = cell.place;
     if (const auto icon = cell.index.data(Qt::DecorationRole).value<QIcon>(); !icon.isNull()) {
-        const QRect iconPlace(rest.left(), rest.top() + ((rest.height() - measures.iconSide) / 2),
-                              measures.iconSide, measures.iconSide);
+        const QRect iconPlace = squareIn(rest, rest.left(), measures.iconSide);
         const bool isOnHighlight = &cell.ground == &m_look.list.selected;
         icon.paint(&cell.painter, cell.visual(iconPlace), Qt::AlignCenter,
                    isOnHighlight ? QIcon::Selected : QIcon::Normal);
@@ -381,8 +381,7 @@ void RowDelegate::paintSource(const Cell &cell, const QString &label) const
     const int side = m_look.measures.iconSide;
     const QRect &place = cell.place;
     if (const auto icon = cell.index.data(Qt::DecorationRole).value<QIcon>(); !icon.isNull()) {
-        const QRect iconPlace(place.left(), place.top() + ((place.height() - side) / 2), side, side);
-        icon.paint(&cell.painter, cell.visual(iconPlace));
+        icon.paint(&cell.painter, cell.visual(squareIn(place, place.left(), side)));
     }
     const QRect rest = place.adjusted(iconAndGap(), 0, 0, 0);
     // Where there is only room for a letter or two, the icon alone says more.

@@ -5,6 +5,7 @@
 
 #include "App/Look/Chevron.h"
 #include "App/Look/Look.h"
+#include "App/Look/Painting.h"
 #include "App/Tables/RowBackground.h"
 #include "App/Tables/RowDelegate.h"
 #include "App/Tables/RowFolds.h"
@@ -74,8 +75,7 @@ void RowPainter::paint(QPainter &painter, const QStyleOptionViewItem &option, co
                 // Before the line of its level, as far as others stand before the outermost one.
                 const int line = indent + m_header.leadingPadding(TableHeader::titleColumn);
                 const int before = m_look.measures.alignmentLine - m_look.measures.gutter;
-                const QRect place(cell.rect.left() + line - before,
-                                  cell.rect.top() + ((cell.rect.height() - arrow) / 2), arrow, arrow);
+                const QRect place = squareIn(cell.rect, cell.rect.left() + line - before, arrow);
                 drawChevron(painter, QStyle::visualRect(direction, cell.rect, place),
                             m_folds.openedShare(index), direction, groundOf(index).quiet);
             }

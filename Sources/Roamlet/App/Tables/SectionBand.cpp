@@ -7,6 +7,7 @@
 #include "App/Look/ForeignText.h"
 #include "App/Look/Hairline.h"
 #include "App/Look/Look.h"
+#include "App/Look/Painting.h"
 #include "App/Tables/RowDelegate.h"
 
 #include <QFontMetrics>
@@ -90,9 +91,8 @@ void SectionBand::paint(QPainter &painter, const QRect &band, Qt::LayoutDirectio
     if (!isFirst)
         paintHairline(painter, band, Qt::TopEdge, look.list.hairline);
     const int arrow = measures.chevronSide;
-    const QRect arrowPlace = visual(
-        QRect(band.left() + measures.gutter, band.top() + ((band.height() - arrow) / 2), arrow, arrow));
-    drawChevron(painter, arrowPlace, opened, direction, shown.quiet);
+    drawChevron(painter, visual(squareIn(band, band.left() + measures.gutter, arrow)), opened, direction,
+                shown.quiet);
 
     QRect rest = band.adjusted(measures.alignmentLine, 0, -measures.alignmentLine, 0);
     if (visits != nullptr) {
@@ -101,8 +101,7 @@ void SectionBand::paint(QPainter &painter, const QRect &band, Qt::LayoutDirectio
     }
     if (!icon.isNull()) {
         const int side = measures.iconSide;
-        icon.paint(&painter,
-                   visual(QRect(rest.left(), rest.top() + ((rest.height() - side) / 2), side, side)));
+        icon.paint(&painter, visual(squareIn(rest, rest.left(), side)));
         rest.setLeft(rest.left() + side + measures.gapAfterIcon);
     }
     const QFontMetrics heading(look.headingFont);

@@ -36,9 +36,7 @@ UpdateDialog::UpdateDialog(const QString &name, const QString &heading, Answer c
     m_heading->setText(heading);
     m_heading->setTextFormat(Qt::PlainText);
     m_heading->setWordWrap(true);
-    QFont bold = m_heading->font();
-    bold.setBold(true);
-    m_heading->setFont(bold);
+    m_heading->setFont(Look::of(*this).headingFont);
     m_text->setObjectName(u"updateText"_s);
     m_text->hide();
 

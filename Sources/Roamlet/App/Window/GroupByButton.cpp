@@ -5,6 +5,7 @@
 
 #include "App/Look/Chevron.h"
 #include "App/Look/Look.h"
+#include "App/Look/Painting.h"
 #include "App/Look/Symbol.h"
 
 #include <QPainter>
@@ -79,8 +80,7 @@ void GroupByButton::paintContent(QPainter &painter, const QRect &content)
         write(m_choice, ink());
     }
     const int side = look.measures.chevronSide;
-    const QRect place(content.right() + 1 - side, content.top() + ((content.height() - side) / 2), side,
-                      side);
+    const QRect place = squareIn(content, content.right() + 1 - side, side);
     drawChevron(painter, QStyle::visualRect(layoutDirection(), content, place), Qt::DownArrow, quiet);
 }
 

@@ -73,8 +73,7 @@ void HeaderButton::paintEvent(QPaintEvent * /*event*/)
 
 void HeaderButton::paintContent(QPainter &painter, const QRect &content)
 {
-    const int side = Measures(font()).iconSide;
-    const QRect place(content.left(), content.top() + ((content.height() - side) / 2), side, side);
+    const QRect place = squareIn(content, content.left(), Measures(font()).iconSide);
     paintSymbol(painter, QStyle::visualRect(layoutDirection(), content, place));
 }
 

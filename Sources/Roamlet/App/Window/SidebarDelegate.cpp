@@ -72,9 +72,8 @@ public:
 private:
     QRect iconPlace(int left) const
     {
-        const int side = m_measures.iconSide;
-        const QRect place(left, m_body.top() + ((m_body.height() - side) / 2), side, side);
-        return QStyle::visualRect(m_option.direction, m_option.rect, place);
+        return QStyle::visualRect(m_option.direction, m_option.rect,
+                                  squareIn(m_body, left, m_measures.iconSide));
     }
 
     QPainter &m_painter;
