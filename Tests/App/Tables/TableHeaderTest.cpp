@@ -110,6 +110,17 @@ TEST_F(TableHeaderTest, aNarrowListHasIconsForBrowsers)
     EXPECT_EQ(header().length(), header().viewport()->width());
 }
 
+TEST_F(TableHeaderTest, theTitlesGetNarrowBeforeOneHasToScroll)
+{
+    const Measures measures = Look::of(*table).measures;
+    table->resize(measures.units(20), 300);
+    const int others = header().length() - header().sectionSize(HistoryTable::Title);
+    ASSERT_GT(header().length(), header().viewport()->width());
+    table->resize(others + measures.units(9), 300);
+    EXPECT_EQ(header().length(), header().viewport()->width());
+    EXPECT_GE(header().sectionSize(HistoryTable::Title), measures.units(8));
+}
+
 TEST_F(TableHeaderTest, longNamesOfSourcesAreNotCutWhileTitlesHaveRoom)
 {
     const Measures measures = Look::of(*table).measures;
@@ -130,11 +141,11 @@ TEST_F(TableHeaderTest, longNamesOfSourcesAreNotCutWhileTitlesHaveRoom)
     ASSERT_LT(widthIn(tight), widthIn(roomy));
     EXPECT_FALSE(header().isNarrow());
     EXPECT_GE(header().sectionSize(HistoryTable::Title), measures.units(12));
+    EXPECT_LT(header().sectionSize(HistoryTable::Source), usual) << "names give way to them";
     // Where the names want more than is left, the titles have what they need.
-    const int least = widthIn(tight);
     const int most = widthIn(roomy);
     int between = tight;
-    while (between < roomy && widthIn(between) <= least)
+    while (between < roomy && widthIn(between) <= usual)
         ++between;
     ASSERT_LT(widthIn(between), most);
     EXPECT_EQ(header().sectionSize(HistoryTable::Title), measures.units(16));

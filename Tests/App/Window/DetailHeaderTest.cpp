@@ -42,6 +42,7 @@ protected:
     }
 
     DetailHeader header;
+    QWidget *title = part<QWidget>(u"listTitle"_s);
     QWidget *subtitle = part<QWidget>(u"listSubtitle"_s);
     SearchField *search = part<SearchField>(u"searchField"_s);
     GroupByButton *groupBy = part<GroupByButton>(u"groupByButton"_s);
@@ -61,7 +62,13 @@ TEST_F(DetailHeaderTest, roomRunsOutForTheSubtitleFirstThenForTheSearchAndThenFo
             EXPECT_LE(subtitle->width(), usual) << width;
         }
         if (groupBy->isCompact()) {
-            EXPECT_EQ(search->width(), search->minimumSizeHint().width()) << width;
+            EXPECT_LE(search->width(), search->minimumSizeHint().width()) << width;
+        }
+        if (search->width() < search->minimumSizeHint().width()) {
+            EXPECT_LE(title->width(), title->sizeHint().width()) << "for nothing but the title, at " << width;
+        }
+        if (search->width() > Measures(header.font()).leastSearchWidth) {
+            EXPECT_GE(title->width(), title->sizeHint().width()) << width;
         }
         wasElided = wasElided || (subtitle->width() < whole && !isNarrow);
         wasNarrow = wasNarrow || (isNarrow && !groupBy->isCompact());
@@ -198,6 +205,7 @@ TEST_F(DetailHeaderTest, aButtonHasARingOnlyAfterAKey)
     const auto edge = [reload] { return reload->grab().toImage().pixelColor(reload->width() / 2, 1); };
     const QColor accent = Look::of(header).accent;
     reload->setFocus(Qt::ActiveWindowFocusReason);
+    QTest::mouseClick(&header, Qt::LeftButton);
     EXPECT_NE(edge(), accent);
     search->setFocus();
     for (int presses = 0; presses < 5 && !reload->hasFocus(); ++presses)

@@ -28,7 +28,7 @@ void drawRadio(QPainter &painter, const QRectF &circle, bool isOn, const Look &l
     if (isOn) {
         const qreal inset = circle.width() * 0.31;
         painter.setPen(Qt::NoPen);
-        painter.setBrush(Qt::white);
+        painter.setBrush(look.knob);
         painter.drawEllipse(circle.adjusted(inset, inset, -inset, -inset));
     }
 }
@@ -41,7 +41,27 @@ ChoiceRow::ChoiceRow(const QString &text, QString note, QWidget *parent)
     setAccessibleName(text);
     setAccessibleDescription(m_note);
     setAttribute(Qt::WA_Hover);
-    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    policy.setHeightForWidth(true);
+    setSizePolicy(policy);
+}
+
+int ChoiceRow::noteHeight(int width, const QFont &font) const
+{
+    const QFontMetrics metrics(font);
+    // Where it just fits, wrapping may still want a pixel more.
+    if (metrics.horizontalAdvance(m_note) <= width)
+        return metrics.height();
+    return metrics.boundingRect(0, 0, width, QWIDGETSIZE_MAX, Qt::TextWordWrap, m_note).height();
+}
+
+int ChoiceRow::heightForWidth(int width) const
+{
+    const Look look = Look::of(*this);
+    const Measures &measures = look.measures;
+    const int words = width - (2 * measures.boxPadding) - measures.radioSide - measures.gapAfterIcon;
+    return measures.exportChoiceHeight + noteHeight(words, look.smallFont) -
+           QFontMetrics(look.smallFont).height();
 }
 
 QSize ChoiceRow::sizeHint() const
@@ -88,23 +108,24 @@ void ChoiceRow::paintEvent(QPaintEvent * /*event*/)
     drawRadio(painter, circle, isChecked(), look);
     painter.setOpacity(1);
 
-    const QFontMetrics small(look.smallFont);
     QRect line = inner.adjusted(measures.radioSide + measures.gapAfterIcon, 0, 0, 0);
-    line.setTop((height() - fontMetrics().height() - small.height()) / 2);
+    const int note = noteHeight(line.width(), look.smallFont);
+    line.setTop((height() - fontMetrics().height() - note) / 2);
     line.setHeight(fontMetrics().height());
     const auto alignment = static_cast<int>(
         QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter).toInt());
-    const auto draw = [&](const QString &words, const QFont &font, const QColor &ink) {
+    const auto draw = [&](const QString &words, const QFont &font, const QColor &ink, int wrapping) {
         painter.setFont(font);
         painter.setPen(isEnabled() ? ink : look.card.faint);
         readInOwnDirection(painter, words);
-        painter.drawText(QStyle::visualRect(layoutDirection(), rect(), line), alignment | Qt::TextSingleLine,
-                         painter.fontMetrics().elidedText(words, Qt::ElideRight, line.width()));
+        painter.drawText(QStyle::visualRect(layoutDirection(), rect(), line), alignment | wrapping, words);
     };
-    draw(text(), font(), look.card.ink);
+    draw(fontMetrics().elidedText(text(), Qt::ElideRight, line.width()), font(), look.card.ink,
+         Qt::TextSingleLine);
     line.translate(0, line.height());
-    line.setHeight(small.height());
-    draw(m_note, look.smallFont, look.card.quiet);
+    line.setHeight(note);
+    const bool isOneLine = note == QFontMetrics(look.smallFont).height();
+    draw(m_note, look.smallFont, look.card.quiet, isOneLine ? Qt::TextSingleLine : Qt::TextWordWrap);
 }
 
 } // namespace roamlet

@@ -20,6 +20,8 @@ public:
     const QString &note() const { return m_note; }
 
     QSize sizeHint() const override;
+    /// The note goes on in another line where it has no room.
+    int heightForWidth(int width) const override;
     QSize minimumSizeHint() const override;
 
 protected:
@@ -28,6 +30,8 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    int noteHeight(int width, const QFont &font) const;
+
     QString m_note;
 };
 

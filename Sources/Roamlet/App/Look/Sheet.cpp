@@ -97,7 +97,7 @@ void Sheet::open()
         m_coming.setDuration(time);
         m_coming.start();
     }
-    if (const int missing = m_card->sizeHint().height() - window.height(); missing > 0)
+    if (const int missing = cardSize(window.width()).height() - window.height(); missing > 0)
         window.window()->resize(window.window()->size() + QSize(0, missing));
     setGeometry(window.rect());
     place();
@@ -167,7 +167,6 @@ bool Sheet::focusNextPrevChild(bool next)
         }
         if (isAncestorOf(widget) && widget->isVisibleTo(this) && widget->isEnabled() &&
             widget->focusProxy() == nullptr && (widget->focusPolicy() & Qt::TabFocus) == Qt::TabFocus) {
-            window()->setAttribute(Qt::WA_KeyboardFocusChange);
             widget->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
             return true;
         }
@@ -218,15 +217,18 @@ void Sheet::hideEvent(QHideEvent *event)
     QAccessible::updateAccessibility(&closed);
 }
 
-void Sheet::place()
+QSize Sheet::cardSize(int room) const
 {
     // In some languages, and in some fonts, the words need more.
-    const int width =
-        qMin(qMax(Look::of(*this).measures.sheetWidth, m_card->sizeHint().width()), this->width());
-    const int wanted =
-        m_card->hasHeightForWidth() ? m_card->heightForWidth(width) : m_card->sizeHint().height();
-    const int height = qMin(wanted, this->height());
-    m_card->setGeometry((this->width() - width) / 2, qRound(height * (progress() - 1)), width, height);
+    const int width = qMin(qMax(Look::of(*this).measures.sheetWidth, m_card->sizeHint().width()), room);
+    return {width, m_card->hasHeightForWidth() ? m_card->heightForWidth(width) : m_card->sizeHint().height()};
+}
+
+void Sheet::place()
+{
+    const QSize card = cardSize(width()).boundedTo(size());
+    m_card->setGeometry((width() - card.width()) / 2, qRound(card.height() * (progress() - 1)), card.width(),
+                        card.height());
 }
 
 void Sheet::keepFocus(QWidget *focused)

@@ -41,6 +41,8 @@ protected:
 
 private:
     void place();
+    /// How large the card wants to be in a window of this width.
+    QSize cardSize(int room) const;
     void keepFocus(QWidget *focused);
     double progress() const;
 

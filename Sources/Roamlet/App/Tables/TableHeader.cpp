@@ -29,7 +29,9 @@ namespace
 {
 
 /// In lines of text.
-constexpr double narrowestTitle = 12;
+constexpr double narrowTitle = 12;
+/// Where even the shortest names of sources leave no more.
+constexpr double narrowestTitle = 8;
 /// What longer names of sources leave to the titles, and how far they reach themselves.
 constexpr double titleBesideNames = 16;
 constexpr double widestName = 16;
@@ -147,14 +149,14 @@ int TableHeader::edgeColumn(bool isLast) const
 int TableHeader::leadingPadding(int column) const
 {
     const Measures &measures = m_look.measures;
-    const int padding = column == edgeColumn(false) ? measures.alignmentLine : measures.gapBetweenCells / 2;
+    const int padding = column == edgeColumn(false) ? measures.alignmentLine : cellGap() / 2;
     return column == titleColumn ? std::max(0, padding - m_titleIndent) : padding;
 }
 
 int TableHeader::trailingPadding(int column) const
 {
     const Measures &measures = m_look.measures;
-    return column == edgeColumn(true) ? measures.alignmentLine : measures.gapBetweenCells / 2;
+    return column == edgeColumn(true) ? measures.alignmentLine : cellGap() / 2;
 }
 
 int TableHeader::contentEnd(int column) const
@@ -183,6 +185,12 @@ bool TableHeader::isNarrow() const
     return viewport()->width() < m_look.measures.units(narrowList);
 }
 
+int TableHeader::cellGap() const
+{
+    const int gap = m_look.measures.gapBetweenCells;
+    return isNarrow() ? gap / 2 : gap;
+}
+
 void TableHeader::setTitleIndent(int indent)
 {
     m_titleIndent = indent;
@@ -200,7 +208,7 @@ int TableHeader::suitableWidth(int column) const
 {
     const TableColumn &shown = m_model.columns()[column];
     const Measures &measures = m_look.measures;
-    const int gap = measures.gapBetweenCells;
+    const int gap = cellGap();
     const int edge = column == edgeColumn(true) ? trailingPadding(column) - (gap / 2) : 0;
     switch (shown.content) {
     case TableColumn::Content::Date:
@@ -223,14 +231,19 @@ int TableHeader::sourceWidth(int column, int usual, int edge) const
 {
     const Measures &measures = m_look.measures;
     const int label = std::min(m_labelWidth, measures.units(widestName));
-    const int whole = measures.iconSide + measures.gapAfterIcon + label + measures.gapBetweenCells;
+    const int whole = measures.iconSide + measures.gapAfterIcon + label + cellGap();
+    const bool isTitleChosen = m_chosenWidths.contains(titleColumn);
     int rest =
         viewport()->width() - edge - m_chosenWidths.value(titleColumn, measures.units(titleBesideNames));
     for (int other = 0; other < count(); ++other) {
         if (other != titleColumn && other != column && !isSectionHidden(other))
             rest -= wantedWidth(other);
     }
-    return std::max(usual, std::min(whole, rest));
+    // Titles and names give way in turn: a browser's icon says much of its name.
+    const int besideNarrowTitle =
+        isTitleChosen ? usual : rest + measures.units(titleBesideNames - narrowTitle);
+    const int least = headingWidth(column) + cellGap();
+    return std::max(std::min(whole, rest), std::clamp(besideNarrowTitle, std::min(least, usual), usual));
 }
 
 int TableHeader::wantedWidth(int column) const
@@ -448,8 +461,7 @@ void TableHeader::paintSection(QPainter *painter, const QRect &rect, int column)
                    ForeignText::fitted(text, metrics, width), ink);
     if (isSorted) {
         const int arrowLeft = isRightAligned(column) ? left - arrow : left + width;
-        drawChevron(*painter,
-                    visual(QRect(arrowLeft, place.top() + ((place.height() - arrow) / 2), arrow, arrow)),
+        drawChevron(*painter, visual(squareIn(place, arrowLeft, arrow)),
                     sortIndicatorOrder() == Qt::DescendingOrder ? Qt::DownArrow : Qt::UpArrow, ink);
     }
     if (m_isUnderPointer && column != edgeColumn(true)) {

@@ -89,6 +89,8 @@ private:
     /// How wide the heading is by itself, with its arrow.
     int headingWidth(int column) const;
     bool isRightAligned(int column) const;
+    /// Between columns; a narrow list keeps half of it for the words.
+    int cellGap() const;
     /// The first or the last shown column, in the direction of reading.
     int edgeColumn(bool isLast) const;
     /// Gives the columns the whole width of the list and no more, as far as they can be that narrow.

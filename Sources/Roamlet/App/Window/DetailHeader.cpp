@@ -216,6 +216,9 @@ void DetailHeader::arrange()
     const int missing = words + m_groupBy->widthWhen(false) + search - free;
     search = std::clamp(search - missing, m_search->minimumSizeHint().width(), search);
     const bool isCompact = words + m_groupBy->widthWhen(false) + search > free;
+    // Only the title is worth a field in which little can be seen of what is typed.
+    const int title = std::min(m_title->sizeHint().width(), words);
+    search = std::clamp(free - m_groupBy->widthWhen(isCompact) - title, measures.leastSearchWidth, search);
     if (isCompact != m_groupBy->isCompact())
         m_groupBy->setCompact(isCompact);
 
@@ -230,11 +233,11 @@ void DetailHeader::arrange()
     const int titleHeight = m_title->sizeHint().height();
     const int subtitleHeight = m_subtitle->sizeHint().height();
     const int top = (height() - titleHeight - subtitleHeight) / 2;
-    const QRect title(wordsStart(), top, wordsWidth, titleHeight);
+    const QRect titlePlace(wordsStart(), top, wordsWidth, titleHeight);
     const QRect subtitle(wordsStart(), top + titleHeight, wordsWidth, subtitleHeight);
-    m_title->setGeometry(QStyle::visualRect(layoutDirection(), rect(), title));
+    m_title->setGeometry(QStyle::visualRect(layoutDirection(), rect(), titlePlace));
     m_subtitle->setGeometry(QStyle::visualRect(layoutDirection(), rect(), subtitle));
-    place(m_groupBy, title.right() + 1 + space, m_groupBy->sizeHint());
+    place(m_groupBy, titlePlace.right() + 1 + space, m_groupBy->sizeHint());
     place(m_reload, start + space, m_reload->sizeHint());
     place(m_export, start + space, m_export->sizeHint());
     place(m_search, start + (2 * space), QSize(search, m_search->sizeHint().height()));

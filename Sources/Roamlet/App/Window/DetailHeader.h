@@ -26,8 +26,8 @@ class ReloadButton;
 class SearchField;
 
 /// The bar over the list: its title and subtitle, and at the end what can be done with it. Where room runs
-/// out, first the subtitle ends early, then the search field gets shorter, and then "Group By" loses its
-/// words.
+/// out, first the subtitle ends early, then the search field gets shorter, then "Group By" loses its words,
+/// and at last the search field makes room for the whole title.
 class DetailHeader final : public QWidget
 {
     Q_OBJECT

@@ -53,21 +53,14 @@ EmptyState::EmptyState(const QString &symbol, const QString &title, QWidget *par
     m_text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     m_text->hide();
 
-    const Measures measures(font());
-    m_actions->setSpacing(measures.units(gapBetweenLines));
     m_actions->addStretch();
     m_actions->addStretch();
     auto *column = new QVBoxLayout(this);
-    const int margin = measures.alignmentLine;
-    column->setContentsMargins(margin, margin, margin, margin);
     column->setSpacing(0);
     column->addStretch(1);
     column->addWidget(m_icon);
-    column->addSpacing(measures.units(gapAfterDisc));
     column->addWidget(m_title);
-    column->addSpacing(measures.units(gapBetweenLines));
     column->addWidget(m_text);
-    column->addSpacing(measures.units(gapBetweenLines));
     column->addLayout(m_actions);
     column->addStretch(2);
     updateLook();
@@ -90,6 +83,15 @@ bool EmptyState::event(QEvent *event)
 void EmptyState::updateLook()
 {
     const Look look = Look::of(*this);
+    const int margin = look.measures.alignmentLine;
+    const int gap = look.measures.units(gapBetweenLines);
+    layout()->setContentsMargins(margin, margin, margin, margin);
+    m_icon->setContentsMargins(0, 0, 0, look.measures.units(gapAfterDisc));
+    m_title->setContentsMargins(0, 0, 0, gap);
+    m_actions->setContentsMargins(0, gap, 0, 0);
+    m_actions->setSpacing(gap);
+    if (m_box != nullptr)
+        m_box->setContentsMargins(0, gap, 0, gap);
     m_title->setFont(look.titleFont);
     setPaletteColor(*m_title, QPalette::WindowText, look.list.ink);
     setPaletteColor(*m_text, QPalette::WindowText, look.list.quiet);
@@ -139,15 +141,13 @@ void EmptyState::setText(const QString &text)
 void EmptyState::setBox(QWidget *box)
 {
     auto *column = qobject_cast<QVBoxLayout *>(layout());
-    const int afterText = column->indexOf(m_text) + 1;
-    column->insertSpacing(afterText, Measures(font()).units(gapBetweenLines));
-    auto *line = new QHBoxLayout;
-    line->addStretch();
+    m_box = new QHBoxLayout;
+    m_box->addStretch();
     // As wide as it may get, in the middle.
-    line->addWidget(box, 1);
-    line->addStretch();
-    column->insertLayout(afterText + 1, line);
-    column->insertSpacing(afterText + 2, Measures(font()).units(gapBetweenLines));
+    m_box->addWidget(box, 1);
+    m_box->addStretch();
+    column->insertLayout(column->indexOf(m_text) + 1, m_box);
+    updateLook();
 }
 
 QPushButton *EmptyState::addAction(const QString &title, const QString &objectName)

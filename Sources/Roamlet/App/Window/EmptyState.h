@@ -44,6 +44,8 @@ private:
     QLabel *m_title;
     QLabel *m_text;
     QHBoxLayout *m_actions;
+    /// Around the box, if there is one.
+    QHBoxLayout *m_box = nullptr;
 };
 
 } // namespace roamlet

@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "App/Window/EmptyState.h"
+
+#include "App/Look/Look.h"
+
+#include <QLabel>
+#include <QLayout>
+#include <QPushButton>
+
+#include <gtest/gtest.h>
+
+namespace roamlet::testing
+{
+
+using namespace Qt::StringLiterals;
+
+TEST(EmptyStateTest, itsGapsGrowWithItsLetters)
+{
+    EmptyState page(u"globe"_s, u"Nothing here"_s);
+    page.setText(u"Really nothing."_s);
+    page.resize(900, 900);
+    auto *button = page.addAction(u"Reload"_s, u"reload"_s);
+    page.addAction(u"Show All"_s, u"showAll"_s);
+    auto *box = new QWidget;
+    box->setFixedSize(50, 50);
+    page.setBox(box);
+    page.show();
+    const auto *text = page.findChild<QLabel *>(u"emptyStateText"_s);
+    const auto gaps = [&] {
+        page.layout()->activate();
+        const auto *other = page.findChild<QPushButton *>(u"showAll"_s);
+        return QList<int>{box->y() - text->geometry().bottom(), button->y() - box->geometry().bottom(),
+                          other->x() - button->geometry().right(), page.layout()->contentsMargins().left()};
+    };
+    const QList<int> before = gaps();
+    QFont font = page.font();
+    font.setPixelSize(2 * QFontInfo(font).pixelSize());
+    page.setFont(font);
+    const QList<int> after = gaps();
+    for (qsizetype i = 0; i < before.size(); ++i)
+        EXPECT_GE(after[i], before[i] + before[i] / 2) << i;
+}
+
+} // namespace roamlet::testing
