@@ -14,6 +14,7 @@
 #include "App/Updates/PlatformUpdateDriver.h"
 #include "App/Updates/UpdateWindows.h"
 #include "App/Updates/Updater.h"
+#include "App/Window/ContentView.h"
 #include "App/Window/OpenWindows.h"
 #include "Platform/ActivationPolicy.h"
 #include "Platform/Linux/AutostartLoginService.h"
@@ -129,6 +130,9 @@ RoamletApp::RoamletApp(const Services &services)
         rest();
     });
     QObject::connect(&m_services.library, &Library::lastLoadedChanged, &m_context, [this] { rest(); });
+    // Before anything of the session is closed. Some session managers ask for one of the two, some for both.
+    QObject::connect(qApp, &QGuiApplication::commitDataRequest, &m_context, [this] { storeSession(); });
+    QObject::connect(qApp, &QGuiApplication::saveStateRequest, &m_context, [this] { storeSession(); });
 }
 
 RoamletApp::~RoamletApp()
@@ -195,6 +199,29 @@ SettingsWindow &RoamletApp::settingsWindow()
     return *m_settingsWindow;
 }
 
+void RoamletApp::storeSession()
+{
+    SessionWindows session;
+    session.hasSettings = m_settingsWindow && m_settingsWindow->isVisible();
+    if (m_mainWindow && m_mainWindow->isVisible()) {
+        session.hasMain = true;
+        session.pane = m_mainWindow->content()->pane();
+        m_mainWindow->storePlace();
+    }
+    session.store(m_services.platform.defaults);
+}
+
+void RoamletApp::restoreSession(const SessionWindows &session)
+{
+    if (session.hasMain) {
+        makeMainWindow();
+        m_mainWindow->content()->setPane(session.pane);
+        m_mainWindow->open();
+    }
+    if (session.hasSettings)
+        settingsWindow().open(m_mainWindow.get());
+}
+
 void RoamletApp::rest()
 {
     constexpr std::chrono::seconds untilAllIsPutAway{1};
@@ -218,7 +245,7 @@ void RoamletApp::readDesktopSettings()
         });
 }
 
-void RoamletApp::start(bool isLaunchedAtLogin)
+void RoamletApp::start(bool isLaunchedAtLogin, const SessionWindows &session)
 {
     // While the window is being made, so that it is drawn only once.
     readDesktopSettings();
@@ -226,6 +253,7 @@ void RoamletApp::start(bool isLaunchedAtLogin)
     m_delegate.applicationWillFinishLaunching(isLaunchedAtLogin);
     m_delegate.applicationDidFinishLaunching();
     m_icon.appear();
+    restoreSession(session);
     if (openWindows().isEmpty() && !m_services.hasTray()) {
         makeMainWindow();
         m_mainWindow->showMinimized();
@@ -274,10 +302,15 @@ int RoamletApp::runUntilTheEnd(int argc, char **argv, const std::stop_token &sto
         QMetaObject::invokeMethod(QCoreApplication::instance(), [] { quit(); }, Qt::QueuedConnection);
     });
 
-    const bool isLaunchedAtLogin =
-        QCoreApplication::arguments().contains(QLatin1StringView(AutostartLoginService::launchMarker));
     LinuxPlatform platform;
     const Platform services = platform.services();
+    // What a session manager brings back looks as it did when the session ended, and that may be the tray
+    // alone.
+    const bool isRestored = application.isSessionRestored();
+    const SessionWindows session = isRestored ? SessionWindows::stored(services.defaults) : SessionWindows();
+    const bool isLaunchedAtLogin = isRestored || QCoreApplication::arguments().contains(
+                                                     QLatin1StringView(AutostartLoginService::launchMarker));
+    const bool isAwaited = !isLaunchedAtLogin || !session.isEmpty();
     // The browsers are read while the windows are being made. Where another Roamlet is running already, that
     // was for nothing; far more often it is the first.
     Library library(services);
@@ -287,7 +320,7 @@ int RoamletApp::runUntilTheEnd(int argc, char **argv, const std::stop_token &sto
     std::function<void()> reopen;
     using Wish = RunningInstance::Wish;
     // A desktop that restores its session starts the program beside the login item; that opens no window.
-    if (instance.claim(isLaunchedAtLogin ? Wish::Nothing : Wish::ComeForward, [&reopen] {
+    if (instance.claim(isAwaited ? Wish::ComeForward : Wish::Nothing, [&reopen] {
             if (reopen)
                 reopen();
         }) == RunningInstance::Claim::HandedOver)
@@ -317,14 +350,14 @@ int RoamletApp::runUntilTheEnd(int argc, char **argv, const std::stop_token &sto
                                          .updater = updater,
                                          .desktopSettings = DesktopSettings::read,
                                          .hasTray = MenuBarIcon::isAvailable});
-        app->start(isLaunchedAtLogin);
+        app->start(isLaunchedAtLogin, session);
     };
     reopen = [&] {
         start();
         app->reopen();
     };
     QObject waiting;
-    if (isLaunchedAtLogin)
+    if (!isAwaited)
         PanelTray::await(
             services.clock, &waiting, [] { return PanelTray::isThere(QDBusConnection::sessionBus()); },
             start);

@@ -6,6 +6,7 @@
 #include "App/AppDelegate.h"
 #include "App/Menu/MenuBarIcon.h"
 #include "App/Menu/MenuBarMenu.h"
+#include "App/SessionWindows.h"
 #include "App/Settings/SettingsWindow.h"
 #include "App/Window/MainWindow.h"
 #include "Library/Library.h"
@@ -54,9 +55,10 @@ public:
     RoamletApp &operator=(const RoamletApp &) = delete;
     ~RoamletApp();
 
-    /// Opens the main window unless the login has launched the program. Without a tray it opens minimised
-    /// then: a program that nobody sees could not even be quit.
-    void start(bool isLaunchedAtLogin);
+    /// Opens the main window unless the login has launched the program. Then it opens what the session had
+    /// when it ended, and where that is nothing and there is no tray, a minimised main window: a program that
+    /// nobody sees could not even be quit.
+    void start(bool isLaunchedAtLogin, const SessionWindows &session = {});
     /// The user has started the program once more.
     void reopen();
 
@@ -67,6 +69,8 @@ public:
     void openMainWindow();
     /// Made when it is asked for first.
     SettingsWindow &settingsWindow();
+    /// The session is about to end, or is saved for later: remembers its windows.
+    void storeSession();
     MenuBarMenu &menu() { return m_menu; }
     MenuBarIcon &icon() { return m_icon; }
 
@@ -79,6 +83,7 @@ private:
 
     /// Follows what the user has set for the desktop, as soon as that is known.
     void readDesktopSettings();
+    void restoreSession(const SessionWindows &session);
     /// Where there is none.
     void makeMainWindow();
     void dropClosedWindow();

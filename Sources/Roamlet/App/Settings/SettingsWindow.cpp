@@ -26,6 +26,7 @@ SettingsWindow::SettingsWindow(const SettingsServices &services, QWidget *parent
     : QWidget(parent, Qt::Window), m_tabs(new SegmentedTabs), m_pages(new QStackedWidget)
 {
     setObjectName(u"settingsWindow"_s);
+    setWindowRole(objectName());
     setWindowTitle(tr("Settings"));
     m_tabs->setObjectName(u"settingsTabBar"_s);
     m_tabs->setAccessibleName(tr("Settings"));

@@ -45,6 +45,8 @@ MainWindow::MainWindow(const Services &services)
       m_commands(new WindowCommands(*this, *m_content->groupingMenu()))
 {
     setObjectName(u"main"_s);
+    // By this a window manager finds the place that it had in the last session.
+    setWindowRole(objectName());
     setCentralWidget(m_content);
     setMinimumSize(smallest);
     setWindowTitle(m_content->title());

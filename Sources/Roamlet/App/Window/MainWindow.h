@@ -45,6 +45,8 @@ public:
     ContentView *content() const { return m_content; }
     /// Opens it or brings it forward.
     void open();
+    /// Remembers its place on the screen and its columns, as it does when it is closed.
+    void storePlace();
 
 Q_SIGNALS:
     void settingsRequested();
@@ -65,7 +67,6 @@ private:
     void updateExportCommand();
     void showExportSheet(const ExportRequest &request);
     void restorePlace();
-    void storePlace();
 
     Services m_services;
     ContentView *m_content;
