@@ -35,6 +35,11 @@ struct DesktopFakes {
                 .alert = alert,
                 .updater = updater,
                 .desktopSettings = desktopSettings,
+                .followDesktopSettings =
+                    [this](const std::function<void()> &changed) {
+                        desktopChanges = std::make_shared<std::function<void()>>(changed);
+                        return std::shared_ptr<void>(desktopChanges);
+                    },
                 .hasTray = [this] { return hasTray; }};
     }
 
@@ -47,6 +52,8 @@ struct DesktopFakes {
     FakeUpdateDriver *driver = new FakeUpdateDriver;
     Updater updater{BundleInformation(), std::unique_ptr<UpdateDriver>(driver)};
     std::function<DesktopSettings()> desktopSettings = [] { return DesktopSettings(); };
+    /// Tells the program of a change. It has one owner here and, as long as it follows the desktop, another.
+    std::shared_ptr<std::function<void()>> desktopChanges;
     bool hasTray = true;
 };
 

@@ -27,6 +27,7 @@
 #include <QTimer>
 #include <QTreeView>
 
+#include <atomic>
 #include <gmock/gmock.h>
 #include <semaphore>
 #include <thread>
@@ -174,6 +175,44 @@ TEST_F(WholeStoryTest, theDesktopIsAskedBesideTheMainThreadAndFollowedWhenItAnsw
     EXPECT_NE(asked, std::this_thread::get_id());
     setMotionAllowed(true);
     setContrast(Look::Contrast::Normal);
+}
+
+TEST_F(WholeStoryTest, whatTheUserSetsForTheDesktopIsFollowedWithoutARestart)
+{
+    app.reset();
+    std::binary_semaphore mayAnswer(1);
+    std::atomic<int> questions = 0;
+    std::atomic<bool> allowsMotion = true;
+    std::atomic<bool> wantsMoreContrast = false;
+    desktopSettings = [&] {
+        ++questions;
+        mayAnswer.acquire();
+        return DesktopSettings{.allowsMotion = allowsMotion, .wantsMoreContrast = wantsMoreContrast};
+    };
+    app = std::make_unique<RoamletApp>(services(home.platform()));
+    app->start(false);
+    ASSERT_TRUE(eventually([this] { return shownTitles().size() == 5; }));
+    const QWidget &window = *app->mainWindow();
+    const QColor before = Look::of(window).list.quiet;
+
+    allowsMotion = false;
+    wantsMoreContrast = true;
+    ASSERT_NE(desktopChanges, nullptr);
+    // Often enough that one reading is under way when the next is asked for.
+    for (int change = 0; change < 20; ++change)
+        (*desktopChanges)();
+    mayAnswer.release(); // for the first of the new readings
+    EXPECT_TRUE(waitUntil([&] { return !isMotionWanted(window); }));
+    EXPECT_NE(Look::of(window).list.quiet, before);
+    EXPECT_TRUE(waitUntil([&] { return questions == 3; })) << "twenty changes are one more reading";
+    allowsMotion = true;
+    wantsMoreContrast = false;
+    mayAnswer.release();
+    EXPECT_TRUE(waitUntil([&] { return isMotionWanted(window); }));
+    EXPECT_EQ(Look::of(window).list.quiet, before);
+    app.reset();
+    EXPECT_EQ(questions, 3);
+    EXPECT_EQ(desktopChanges.use_count(), 1) << "it follows no longer";
 }
 
 TEST_F(WholeStoryTest, itsIconsComeAfterItsWindow)

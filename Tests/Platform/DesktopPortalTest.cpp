@@ -7,9 +7,12 @@
 #include "Support/SessionBus.h"
 #include "Support/Waiting.h"
 
+#include <QDBusConnectionInterface>
+#include <QDBusReply>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+#include <QThread>
 
 #include <gtest/gtest.h>
 
@@ -110,6 +113,54 @@ TEST_F(DesktopPortalTest, whereThereIsNoneAllIsAsUsual)
     portal.reset();
     EXPECT_EQ(settings(), usual);
     EXPECT_EQ(settingsOn(u"unix:path=/nonexistent/bus"_s), usual);
+}
+
+TEST_F(DesktopPortalTest, itsChangesAreHeardOnTheMainThread)
+{
+    const QString name = u"portal's listener"_s;
+    const QString group = u"org.freedesktop.appearance"_s;
+    const QThread *heardOn = nullptr;
+    int changes = 0;
+    std::optional<DesktopPortal::Listener> listener;
+    // Made on a thread of its own, as in the program.
+    std::thread([&] {
+        listener.emplace(QDBusConnection::connectToBus(bus.address(), name), [&] {
+            heardOn = QThread::currentThread();
+            ++changes;
+        });
+        // What comes back was sent after the wish to hear.
+        QDBusConnection(name).interface()->serviceOwner(u"org.freedesktop.DBus"_s).value();
+    }).join();
+    portal->change(group, u"contrast"_s, 1U);
+    EXPECT_TRUE(waitUntil([&changes] { return changes == 1; }));
+    EXPECT_EQ(heardOn, QThread::currentThread());
+    portal->change(group, u"reduced-motion"_s, 1U);
+    EXPECT_TRUE(waitUntil([&changes] { return changes == 2; }));
+
+    // What all of them are is no concern of ours.
+    portal->change(group, u"accent-color"_s, 1U);
+    portal->change(u"org.example"_s, u"contrast"_s, 1U);
+    portal->change(group, u"contrast"_s, 0U);
+    EXPECT_TRUE(waitUntil([&changes] { return changes >= 3; }));
+    EXPECT_EQ(changes, 3);
+
+    // One that comes later is the portal, too.
+    portal.reset();
+    portal.emplace(bus.address());
+    portal->change(group, u"contrast"_s, 1U);
+    EXPECT_TRUE(waitUntil([&changes] { return changes == 4; }));
+    listener.reset();
+    QDBusConnection::disconnectFromBus(name);
+}
+
+TEST_F(DesktopPortalTest, withoutABusThereIsNothingToHear)
+{
+    const QString name = u"portal's listener"_s;
+    {
+        const DesktopPortal::Listener listener(
+            QDBusConnection::connectToBus(u"unix:path=/nonexistent/bus"_s, name), [] {});
+    }
+    QDBusConnection::disconnectFromBus(name);
 }
 
 TEST(DesktopPortalThatRestsTest, isNotStarted)

@@ -10,6 +10,7 @@
 #include <QByteArray>
 #include <QDir>
 #include <QFile>
+#include <QSaveFile>
 #include <QString>
 #include <QTemporaryDir>
 
@@ -17,6 +18,8 @@
 
 #include <atomic>
 #include <cstdlib>
+#include <functional>
+#include <memory>
 #include <optional>
 #include <thread>
 
@@ -41,6 +44,8 @@ struct SettingsOnDisk {
 };
 
 constexpr int strayFile = 2;
+constexpr int tooEarly = 3;
+constexpr int notHeard = 4;
 
 /// The answer as the status of a process.
 int statusOf(const DesktopSettings &settings)
@@ -61,7 +66,43 @@ DesktopSettings readElsewhere()
     return answer;
 }
 
-[[noreturn]] void exitWithAnswer(const SettingsOnDisk &settings)
+void writeSettings(const QString &path, const SettingsOnDisk &settings)
+{
+    // In one step, as the desktop does.
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        return;
+    if (settings.animations)
+        file.write("[org/gnome/desktop/interface]\nenable-animations=" + *settings.animations + '\n');
+    if (settings.highContrast)
+        file.write("[org/gnome/desktop/a11y/interface]\nhigh-contrast=" + *settings.highContrast + '\n');
+    file.commit();
+}
+
+/// Follows the settings from a thread of its own, lets `change` set something, and reads when it hears of it.
+DesktopSettings readAfter(const std::function<void()> &change)
+{
+    bool hasChanged = false;
+    std::shared_ptr<void> follower;
+    std::atomic<bool> follows = false;
+    const std::jthread reader([&] {
+        follower = DesktopSettings::follow([&hasChanged] { hasChanged = true; });
+        DesktopSettings::read();
+        follows = true;
+    });
+    waitUntil([&follows] { return follows.load(); });
+    if (hasChanged)
+        std::exit(tooEarly);
+    change();
+    if (!waitUntil([&hasChanged] { return hasChanged; }))
+        std::exit(notHeard);
+    follower.reset();
+    return readElsewhere();
+}
+
+/// With `later`, when the user sets that while the settings are being followed.
+[[noreturn]] void exitWithAnswer(const SettingsOnDisk &settings,
+                                 const std::optional<SettingsOnDisk> &later = {})
 {
     DesktopSettings answer;
     {
@@ -76,15 +117,8 @@ DesktopSettings readElsewhere()
         const QTemporaryDir home;
         const QString folder = home.filePath(u"config/glib-2.0/settings"_s);
         QDir().mkpath(folder);
-        QFile file(folder % u"/keyfile"_s);
-        if (file.open(QIODevice::WriteOnly)) {
-            if (settings.animations)
-                file.write("[org/gnome/desktop/interface]\nenable-animations=" + *settings.animations + '\n');
-            if (settings.highContrast)
-                file.write("[org/gnome/desktop/a11y/interface]\nhigh-contrast=" + *settings.highContrast +
-                           '\n');
-            file.close();
-        }
+        const QString file = folder % u"/keyfile"_s;
+        writeSettings(file, settings);
         qputenv("HOME", QFile::encodeName(home.path()));
         qputenv("XDG_CONFIG_HOME", QFile::encodeName(home.filePath(u"config"_s)));
         qunsetenv("XDG_CACHE_HOME");
@@ -97,7 +131,13 @@ DesktopSettings readElsewhere()
         }
         qputenv("XDG_DATA_HOME", QFile::encodeName(home.path()));
         qputenv("XDG_DATA_DIRS", settings.hasSchemas ? "/usr/share" : QFile::encodeName(home.path()));
-        answer = readElsewhere();
+        answer = !later ? readElsewhere() : readAfter([&] {
+            if (later->portal)
+                portal->change(u"org.freedesktop.appearance"_s, later->portal->firstKey(),
+                               later->portal->first());
+            else
+                writeSettings(file, *later);
+        });
         const QDir::Filters all = QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot;
         if (QDir(home.path()).entryList(all) != QStringList{u"config"_s})
             std::exit(strayFile);
@@ -109,6 +149,12 @@ DesktopSettings readElsewhere()
 void expectAnswer(const SettingsOnDisk &settings, const DesktopSettings &answer)
 {
     EXPECT_EXIT(exitWithAnswer(settings), ::testing::ExitedWithCode(statusOf(answer)), "^$");
+}
+
+/// The same once the user has set something else.
+void expectAnswer(const SettingsOnDisk &settings, const SettingsOnDisk &later, const DesktopSettings &answer)
+{
+    EXPECT_EXIT(exitWithAnswer(settings, later), ::testing::ExitedWithCode(statusOf(answer)), "^$");
 }
 
 } // namespace
@@ -145,6 +191,24 @@ TEST_F(DesktopSettingsTest, whatThePortalSaysCountsAsMuch)
     expectAnswer({.portal = QVariantMap{{u"reduced-motion"_s, 1U}}}, {.allowsMotion = false});
     expectAnswer({.portal = QVariantMap{{u"contrast"_s, 1U}}, .hasRuntimeFolder = false},
                  {.wantsMoreContrast = true});
+}
+
+TEST_F(DesktopSettingsTest, whatTheUserSetsLaterIsHeardOf)
+{
+    if (!QFile::exists(u"/usr/share/glib-2.0/schemas/org.gnome.desktop.interface.gschema.xml"_s))
+        GTEST_SKIP() << "the desktop's settings are not installed";
+    expectAnswer({}, {.animations = "false"}, {.allowsMotion = false});
+    expectAnswer({.highContrast = "true"}, {.highContrast = "false"}, {});
+}
+
+TEST_F(DesktopSettingsTest, whatIsSetInThePortalLaterIsHeardOf)
+{
+    if (!SessionBus::isAvailable())
+        GTEST_SKIP() << "dbus-daemon is not installed";
+    expectAnswer({.portal = QVariantMap{}}, {.portal = QVariantMap{{u"contrast"_s, 1U}}},
+                 {.wantsMoreContrast = true});
+    expectAnswer({.portal = QVariantMap{{u"reduced-motion"_s, 1U}}, .hasRuntimeFolder = false},
+                 {.portal = QVariantMap{{u"reduced-motion"_s, 0U}}}, {});
 }
 
 TEST_F(DesktopSettingsTest, withoutADesktopNothingIsLeftInTheHome)

@@ -51,6 +51,22 @@ public:
         return bus.send(message.createReply(strange.isValid() ? strange : QVariant::fromValue(answer)));
     }
 
+    /// As when the user has set something.
+    void change(const QString &group, const QString &key, const QVariant &value)
+    {
+        settings[group].insert(key, value);
+        announce(group, key, value);
+    }
+    /// Says that something has changed, whatever is true.
+    void announce(const QString &group, const QString &key, const QVariant &value)
+    {
+        QDBusMessage signal = QDBusMessage::createSignal(QStringLiteral("/org/freedesktop/portal/desktop"),
+                                                         QStringLiteral("org.freedesktop.portal.Settings"),
+                                                         QStringLiteral("SettingChanged"));
+        signal << group << key << QVariant::fromValue(QDBusVariant(value));
+        m_bus.send(signal);
+    }
+
     Settings settings;
     /// What it answers instead.
     QVariant strange;

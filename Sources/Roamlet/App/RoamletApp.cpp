@@ -40,6 +40,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 namespace roamlet
 {
@@ -237,11 +238,27 @@ void RoamletApp::rest()
 
 void RoamletApp::readDesktopSettings()
 {
+    // However often they change meanwhile, they are read once more.
+    if (m_isReadingDesktopSettings) {
+        m_haveDesktopSettingsChanged = true;
+        return;
+    }
+    m_isReadingDesktopSettings = true;
     m_tasks.run(
-        &m_context, [read = m_services.desktopSettings](const std::stop_token & /*stop*/) { return read(); },
-        [](const DesktopSettings &settings) {
+        &m_context,
+        [this, follow = m_services.followDesktopSettings,
+         read = m_services.desktopSettings](const std::stop_token & /*stop*/) {
+            // Before reading, so that nothing changes unnoticed between the two.
+            if (!m_desktopFollower)
+                m_desktopFollower = follow([this] { readDesktopSettings(); });
+            return read();
+        },
+        [this](const DesktopSettings &settings) {
             setMotionAllowed(settings.allowsMotion);
             setContrast(settings.wantsMoreContrast ? Look::Contrast::More : Look::Contrast::Normal);
+            m_isReadingDesktopSettings = false;
+            if (std::exchange(m_haveDesktopSettingsChanged, false))
+                readDesktopSettings();
         });
 }
 
@@ -349,6 +366,7 @@ int RoamletApp::runUntilTheEnd(int argc, char **argv, const std::stop_token &sto
                                          .alert = alert,
                                          .updater = updater,
                                          .desktopSettings = DesktopSettings::read,
+                                         .followDesktopSettings = DesktopSettings::follow,
                                          .hasTray = MenuBarIcon::isAvailable});
         app->start(isLaunchedAtLogin, session);
     };

@@ -19,6 +19,7 @@
 #include <QPointer>
 
 #include <functional>
+#include <memory>
 #include <optional>
 #include <stop_token>
 
@@ -46,6 +47,8 @@ public:
         Updater &updater;
         /// What the user has set for the desktop. Never asked on the main thread.
         std::function<DesktopSettings()> desktopSettings;
+        /// Tells when that may have changed: DesktopSettings::follow().
+        std::function<std::shared_ptr<void>(const std::function<void()> &changed)> followDesktopSettings;
         /// Whether this desktop has a tray at present.
         std::function<bool()> hasTray;
     };
@@ -81,7 +84,7 @@ private:
     /// Runs until the user quits or `stop` asks for the end.
     static int runUntilTheEnd(int argc, char **argv, const std::stop_token &stop);
 
-    /// Follows what the user has set for the desktop, as soon as that is known.
+    /// Follows what the user has set for the desktop, as soon as that is known, and whenever it changes.
     void readDesktopSettings();
     void restoreSession(const SessionWindows &session);
     /// Where there is none.
@@ -103,6 +106,11 @@ private:
     std::unique_ptr<SettingsWindow> m_settingsWindow;
     MenuBarMenu m_menu;
     MenuBarIcon m_icon;
+    /// Nobody but the reading of the desktop's settings, of which there is one at a time, touches it before
+    /// the end.
+    std::shared_ptr<void> m_desktopFollower;
+    bool m_isReadingDesktopSettings = false;
+    bool m_haveDesktopSettingsChanged = false;
     BackgroundTasks m_tasks;
 };
 

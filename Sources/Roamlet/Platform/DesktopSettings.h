@@ -3,6 +3,9 @@
 
 #pragma once
 
+#include <functional>
+#include <memory>
+
 namespace roamlet
 {
 
@@ -16,6 +19,10 @@ struct DesktopSettings {
     /// As the desktop says it, with the values above where it has no such settings. Takes a few milliseconds,
     /// half a second where the desktop does not answer. On any thread, but never on the main one.
     static DesktopSettings read();
+    /// Calls `changed` on the main thread each time the user may have set something else, as long as somebody
+    /// keeps what is returned. Takes as long as reading, and is no more for the main thread; but what is
+    /// returned has to go there.
+    static std::shared_ptr<void> follow(const std::function<void()> &changed);
 
     bool operator==(const DesktopSettings &) const = default;
 };

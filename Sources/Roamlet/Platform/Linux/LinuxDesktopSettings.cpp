@@ -10,6 +10,10 @@
 
 #include <unistd.h>
 
+#include <optional>
+#include <utility>
+#include <vector>
+
 namespace roamlet
 {
 
@@ -18,27 +22,46 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-/// What the desktop's own settings say, where it keeps such a one.
-bool desktopKey(const char *group, const char *key, bool otherwise)
+/// One of the desktop's own settings.
+struct DesktopKey {
+    const char *group;
+    const char *name;
+};
+constexpr DesktopKey animations{.group = "org.gnome.desktop.interface", .name = "enable-animations"};
+constexpr DesktopKey highContrast{.group = "org.gnome.desktop.a11y.interface", .name = "high-contrast"};
+
+/// Without such a folder the library would make one in the user's home, or complain; a desktop has one.
+bool hasDesktop()
+{
+    return ::access(qgetenv("XDG_RUNTIME_DIR").constData(), W_OK | X_OK) == 0;
+}
+
+/// The settings of this one's group, where the desktop has such a one.
+GLibPointer<GSettings> desktopGroup(const DesktopKey &key)
 {
     GSettingsSchemaSource *known = g_settings_schema_source_get_default();
     // To ask for settings that are not installed would end the program.
     const GLibPointer<GSettingsSchema> schema(
-        known != nullptr ? g_settings_schema_source_lookup(known, group, TRUE) : nullptr);
-    if (!schema || g_settings_schema_has_key(schema.get(), key) == FALSE)
-        return otherwise;
-    const GLibPointer<GSettings> settings(g_settings_new_full(schema.get(), nullptr, nullptr));
-    return g_settings_get_boolean(settings.get(), key) != FALSE;
+        known != nullptr ? g_settings_schema_source_lookup(known, key.group, TRUE) : nullptr);
+    if (!schema || g_settings_schema_has_key(schema.get(), key.name) == FALSE)
+        return {};
+    return GLibPointer<GSettings>(g_settings_new_full(schema.get(), nullptr, nullptr));
+}
+
+/// What the desktop's own settings say, where it keeps such a one.
+bool desktopValue(const DesktopKey &key, bool otherwise)
+{
+    const GLibPointer<GSettings> group = desktopGroup(key);
+    return group ? g_settings_get_boolean(group.get(), key.name) != FALSE : otherwise;
 }
 
 DesktopSettings ofDesktop()
 {
-    // Without such a folder the library would make one in the user's home, or complain; a desktop has one.
-    if (::access(qgetenv("XDG_RUNTIME_DIR").constData(), W_OK | X_OK) != 0)
+    if (!hasDesktop())
         return {};
     return {
-        .allowsMotion = desktopKey("org.gnome.desktop.interface", "enable-animations", true),
-        .wantsMoreContrast = desktopKey("org.gnome.desktop.a11y.interface", "high-contrast", false),
+        .allowsMotion = desktopValue(animations, true),
+        .wantsMoreContrast = desktopValue(highContrast, false),
     };
 }
 
@@ -52,6 +75,54 @@ DesktopSettings ofPortal()
     return settings;
 }
 
+/// Hears of changes in both places.
+class DesktopFollower
+{
+public:
+    explicit DesktopFollower(std::function<void()> changed) : m_changed(std::move(changed))
+    {
+        if (hasDesktop()) {
+            follow(animations);
+            follow(highContrast);
+        }
+        m_listener.emplace(QDBusConnection::connectToBus(QDBusConnection::SessionBus, busName), m_changed);
+    }
+    DesktopFollower(const DesktopFollower &) = delete;
+    DesktopFollower &operator=(const DesktopFollower &) = delete;
+    ~DesktopFollower()
+    {
+        m_listener.reset();
+        QDBusConnection::disconnectFromBus(busName);
+        for (const GLibPointer<GSettings> &group : m_groups)
+            g_signal_handlers_disconnect_by_data(group.get(), &m_changed);
+    }
+
+private:
+    /// The library tells the main loop, in which this thread has no part of its own, and Qt's events come out
+    /// of the same one.
+    void follow(const DesktopKey &key)
+    {
+        GLibPointer<GSettings> group = desktopGroup(key);
+        if (!group)
+            return;
+        const QByteArray signal = QByteArray("changed::") + key.name;
+        g_signal_connect(group.get(), signal.constData(),
+                         G_CALLBACK(+[](GSettings *, gchar *, gpointer data) {
+                             (*static_cast<std::function<void()> *>(data))();
+                         }),
+                         &m_changed);
+        // The library tells of changes only to those who know what was there before.
+        static_cast<void>(g_settings_get_boolean(group.get(), key.name));
+        m_groups.push_back(std::move(group));
+    }
+
+    static inline const QString busName = u"roamlet-desktop-changes"_s;
+
+    std::function<void()> m_changed;
+    std::vector<GLibPointer<GSettings>> m_groups;
+    std::optional<DesktopPortal::Listener> m_listener;
+};
+
 } // namespace
 
 DesktopSettings DesktopSettings::read()
@@ -61,6 +132,11 @@ DesktopSettings DesktopSettings::read()
     // Whoever has set it in one place means it.
     return {.allowsMotion = desktop.allowsMotion && portal.allowsMotion,
             .wantsMoreContrast = desktop.wantsMoreContrast || portal.wantsMoreContrast};
+}
+
+std::shared_ptr<void> DesktopSettings::follow(const std::function<void()> &changed)
+{
+    return std::make_shared<DesktopFollower>(changed);
 }
 
 } // namespace roamlet
