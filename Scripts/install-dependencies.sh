@@ -13,7 +13,7 @@ optional_test=(chromium firefox-esr openssl xvfb openbox at-spi2-core)
 lint=(git clang-format-19 clang-tidy-19)
 packaging=(dpkg-dev file openssl)
 pictures=(xvfb openbox trayer xdotool imagemagick dbus-daemon qt6-gtk-platformtheme qt6-wayland sway grim wtype jq
-  fonts-dejavu)
+  fonts-dejavu gsettings-desktop-schemas qt6-translations-l10n qt6ct strace util-linux)
 bench=(libbenchmark-dev hyperfine sqlite3 time xvfb trayer xdotool dbus-daemon)
 fonts=(fonts-noto-core fonts-noto-cjk)
 

@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 # Photographs every window, menu and sheet on a sample home, light and dark, in several sizes, directions and scales, on
-# X11 and on Wayland, into the folder that is named (build/pictures when left out). What could not be photographed is
-# listed at the end, and then the script fails.
+# X11 and on Wayland, into the folder that is named (build/pictures when left out), with problems, unusual palettes and a
+# language that is read from right to left, too. What could not be photographed is listed at the end, whatever ends the
+# script, and then it fails.
 set -euo pipefail
 target=$(realpath -m "${1:-$(dirname "$0")/../build/pictures}")
 cd "$(dirname "$0")/.."
@@ -19,6 +20,7 @@ chmod 700 "$work/run"
 problems=()
 theme=light
 gtk_theme=Adwaita
+last=
 # The program that is photographed, and everything that it needs.
 shown=
 started=()
@@ -46,16 +48,22 @@ has_ended() { ! kill -0 "$1"; }
 # process, what it is
 end_process() {
   kill -TERM "$1" 2>/dev/null || true
-  wait_for 10 "the end of $2" has_ended "$1" || kill -KILL "$1" 2>/dev/null || true
+  wait_for 20 "the end of $2" has_ended "$1" || kill -KILL "$1" 2>/dev/null || true
   wait "$1" 2>/dev/null || true
 }
 
 clean_up() {
+  local status=$?
   picture=
   [ -z "$shown" ] || end_process "$shown" "the program"
   # What was started last needs what was started first.
   for ((i = ${#started[@]} - 1; i >= 0; --i)); do end_process "${started[i]}" "a process of the desktop"; done
   rm -rf "$work"
+  if [ ${#problems[@]} -gt 0 ]; then
+    printf '%s\n' "Not all of them:" "${problems[@]}" >&2
+    status=1
+  fi
+  exit "$status"
 }
 trap clean_up EXIT
 trap 'exit 130' INT TERM
@@ -95,15 +103,50 @@ begin_screen() {
   wait_for 20 "the panel" xdotool search --onlyvisible --class trayer
 }
 
+# home folder, then colours: text, ground, selection, text on it
+write_palette() {
+  local text=$2 ground=$3 selection=$4 selected=$5 colors
+  # The roles in the order in which Qt counts them.
+  colors="$text, $ground, $text, $text, $text, $text, $text, $text, $text, $ground, $ground, $ground, $selection, \
+$selected, $text, $text, $ground, $ground, $ground, $text, $text"
+  mkdir -p "$1/.config/qt6ct"
+  printf '[ColorScheme]\n%s_colors=%s\n' active "$colors" inactive "$colors" disabled "$colors" \
+    >"$1/.config/qt6ct/colors.conf"
+  cat >"$1/.config/qt6ct/qt6ct.conf" <<END
+[Appearance]
+color_scheme_path=$1/.config/qt6ct/colors.conf
+custom_palette=true
+style=Fusion
+[Interface]
+cursor_flash_time=0
+END
+}
+
 # home folder, then what is special: the environment (QT_SCALE_FACTOR=2), arguments (-reverse), what the program has been
-# told (sidebar.hidden=true) and the desktop's font (font="Sans 24")
+# told (sidebar.hidden=true), and of the desktop its font (font="Sans 24"), its four colours (palette=amber), whether it
+# asks for more contrast (contrast=true) or forbids motion (motion=false), a session that it brings back (session=ID), a
+# file that takes long to read (slow=PATH), and whether files' modes count for root as for anybody else (refusals=true)
 begin() {
   local home=$1 font=
-  local environment=() arguments=() settings=(grouping.history=day)
+  local environment=() arguments=() settings=(grouping.history=day) desktop=() around=()
   shift
   for word in "$@"; do
     case $word in
       font=*) font=${word#*=} ;;
+      palette=*)
+        environment+=(QT_QPA_PLATFORMTHEME=qt6ct)
+        # shellcheck disable=SC2086 # four words
+        write_palette "$home" ${word#*=}
+        ;;
+      contrast=*) desktop+=('[org/gnome/desktop/a11y/interface]' "high-contrast=${word#*=}") ;;
+      motion=*) desktop+=('[org/gnome/desktop/interface]' "enable-animations=${word#*=}") ;;
+      session=*) arguments+=(-session "${word#*=}") ;;
+      refusals=*)
+        [ "$(id -u)" -ne 0 ] || around+=(setpriv --inh-caps=-all --bounding-set=-dac_override,-dac_read_search)
+        ;;
+      slow=*)
+        around+=(strace -D -f -qq -o /dev/null -P "${word#*=}" -e inject=all:delay_enter=12000000)
+        ;;
       [a-z]*) settings+=("$word") ;;
       -*) arguments+=("$word") ;;
       *) environment+=("$word") ;;
@@ -114,8 +157,13 @@ begin() {
   printf '%s\n' '[General]' "${settings[@]}" >"$home/.config/Roamlet/Roamlet.conf"
   # A caret that blinks never stands still.
   printf '[Settings]\ngtk-cursor-blink-time=1000000\n%s\n' "${font:+gtk-font-name=$font}" >"$home/.config/gtk-3.0/settings.ini"
-  env HOME="$home" QT_QPA_PLATFORMTHEME=gtk3 GTK_THEME="$gtk_theme" "${environment[@]}" "$program" "${arguments[@]}" \
-    >/dev/null 2>&1 &
+  if [ ${#desktop[@]} -gt 0 ]; then
+    mkdir -p "$home/.config/glib-2.0/settings"
+    printf '%s\n' "${desktop[@]}" >"$home/.config/glib-2.0/settings/keyfile"
+    environment+=(GSETTINGS_BACKEND=keyfile)
+  fi
+  env HOME="$home" QT_QPA_PLATFORMTHEME=gtk3 GTK_THEME="$gtk_theme" "${environment[@]}" "${around[@]}" "$program" \
+    "${arguments[@]}" >/dev/null 2>&1 &
   shown=$!
 }
 end() {
@@ -142,8 +190,9 @@ await() { has_come "$1" || true; }
 settle() {
   local before='' now same=0
   for _ in $(seq 60); do
-    now=$("$@" | md5sum)
-    if [ "$now" = "$before" ]; then same=$((same + 1)); else same=0; fi
+    # What cannot be looked at now may be in a moment.
+    now=$("$@" 2>/dev/null | md5sum) || now=
+    if [ -n "$now" ] && [ "$now" = "$before" ]; then same=$((same + 1)); else same=0; fi
     [ $same -lt 2 ] || return 0
     before=$now
     sleep 0.3
@@ -154,11 +203,12 @@ settle() {
 # name of the picture, then the beginning of the window's title, or nothing for the whole screen
 photograph() {
   picture=$theme-$1
+  last=$picture
   local take=(import -window root)
   local format=(-depth 8 rgb:-)
   if [ $# -gt 1 ]; then
     has_come "$2" || return 0
-    is_wayland || take=(import -window "$(xdotool getactivewindow)")
+    is_wayland || take=(import -window "$(xdotool getactivewindow || echo root)")
   fi
   if is_wayland; then
     take=(grim)
@@ -169,23 +219,62 @@ photograph() {
   picture=
 }
 
-press() { xdotool key --clearmodifiers --delay 60 "$@"; }
-write() { xdotool type --delay 30 "$1"; }
-resize_to() { xdotool getactivewindow windowsize --sync "$1" "$2"; }
-# where in the active window, in hundredths of its width and height
-point_at() {
-  local WIDTH=0 HEIGHT=0 WINDOW
-  eval "$(xdotool getactivewindow getwindowgeometry --shell)"
-  # Moved twice: the first time it may only enter the window.
-  xdotool mousemove --window "$WINDOW" $((WIDTH * $1 / 100)) $((HEIGHT * $2 / 100))
-  xdotool mousemove_relative -- 2 1
+# The pictures that follow are taken also where a gesture has failed.
+drive() { xdotool "$@" >/dev/null || report "after ${last:-the start}: could not do \"$*\""; }
+press() { drive key --clearmodifiers --delay 60 "$@"; }
+write() { drive type --delay 30 "$1"; }
+resize_to() { drive getactivewindow windowsize --sync "$1" "$2"; }
+# words for xdotool that find a window; sets X, Y, WIDTH, HEIGHT and WINDOW
+locate() {
+  local found
+  if ! found=$(xdotool "$@" getwindowgeometry --shell | sed -n 1,6p) || [[ $found != *HEIGHT=* ]]; then
+    report "after ${last:-the start}: could not find \"$*\""
+    return 1
+  fi
+  eval "$found"
 }
-point_away() { xdotool mousemove 0 899; }
+# where in the active window
+point_to() {
+  local X Y WIDTH HEIGHT WINDOW
+  locate getactivewindow || return 0
+  # Moved twice: the first time it may only enter the window.
+  drive mousemove --window "$WINDOW" "$1" "$2"
+  drive mousemove_relative -- 2 1
+}
+# the same in hundredths of its width and height
+point_at() {
+  local X Y WIDTH HEIGHT WINDOW
+  locate getactivewindow || return 0
+  point_to $((WIDTH * $1 / 100)) $((HEIGHT * $2 / 100))
+}
+point_away() { drive mousemove 0 899; }
+# from where to where in the active window; the button stays down
+drag() {
+  point_to "$1" "$2"
+  drive mousedown 1
+  for share in 1 2 3 4; do point_to $(($1 + ($3 - $1) * share / 4)) $(($2 + ($4 - $2) * share / 4)); done
+}
+drop() { drive mouseup 1; }
+# Menus and tips are windows, too.
+list_windows() { xdotool search --onlyvisible --class roamlet | sort; }
+has_windows_beside() { [ -n "$(comm -13 <(echo "$1") <(list_windows))" ]; }
+# what shall open a menu or a tip
+pop_up() {
+  local before
+  before=$(list_windows) || before=
+  "$@"
+  wait_for 10 "a menu or a tip after \"$*\"" has_windows_beside "$before" || true
+}
 # The only icon stands in the middle of the panel.
 open_tray_menu() {
-  local X=0 Y=0 WIDTH=0 HEIGHT=0
-  eval "$(xdotool search --onlyvisible --class trayer getwindowgeometry --shell | head -n 6)"
-  xdotool mousemove $((X + WIDTH / 2)) $((Y + HEIGHT / 2)) click 3
+  local X Y WIDTH HEIGHT WINDOW
+  locate search --onlyvisible --class trayer || return 0
+  drive mousemove $((X + WIDTH / 2)) $((Y + HEIGHT / 2)) click 3
+}
+# where in the active window
+open_menu_at() {
+  point_to "$1" "$2"
+  drive click 3
 }
 
 photograph_usual_size() {
@@ -197,7 +286,7 @@ photograph_usual_size() {
   # From the search field to the list.
   press ctrl+f Escape Down Down shift+Down
   photograph selection 'Recent History'
-  press Menu
+  pop_up press Menu
   photograph link-menu
   # The last entry shows this site only.
   press Escape Up Menu Up Return
@@ -215,7 +304,8 @@ photograph_usual_size() {
   press ctrl+a
   write 'nothing like this'
   photograph nothing-found 'Recent History'
-  press Escape Escape F10
+  press Escape Escape
+  pop_up press F10
   photograph main-menu
   press Escape F10 Down Return
   photograph export 'Recent History'
@@ -227,9 +317,9 @@ photograph_usual_size() {
 
   begin "$work/home"
   await 'Recent History'
-  open_tray_menu
+  pop_up open_tray_menu
   photograph tray-menu
-  press Down Down Right
+  pop_up press Down Down Right
   photograph tray-recent
   press Escape Escape
   point_away
@@ -276,6 +366,101 @@ photograph_usual_size() {
   press ctrl+Tab
   photograph right-to-left-settings-profiles Settings
   end
+}
+
+# What seldom happens, or only for a moment.
+photograph_states() {
+  # The bar of this hour, at which the newest pages were visited.
+  local hour
+  hour=$(date -u +%-H)
+  begin "$work/home"
+  await 'Recent History'
+  pop_up point_to $((696 + 95 * hour / 24)) 102
+  photograph bar
+  point_away
+  pop_up open_menu_at 850 72
+  photograph column-menu
+  press Escape
+  pop_up open_menu_at 100 193
+  photograph sidebar-menu
+  press Escape
+  drag 100 317 110 150
+  photograph sidebar-drag 'Recent History'
+  drop
+  point_away
+  press ctrl+f Escape Down Down shift+Down ctrl+comma
+  await Settings
+  drive getactivewindow windowmove 700 560
+  photograph inactive
+  end
+
+  begin "$work/home"
+  await 'Recent History'
+  press ctrl+comma
+  await Settings
+  press ctrl+Tab
+  drag 60 110 70 180
+  photograph settings-drag Settings
+  drop
+  end
+
+  begin "$work/home"
+  await 'Recent History'
+  press F10 Down Return Return
+  await 'Export Bookmarks'
+  write /proc/Bookmarks
+  press Return
+  photograph export-failed
+  end
+
+  begin "$work/problem" sidebar.folded=chrome/Default
+  photograph problem 'Recent History'
+  end
+  begin "$work/refused" refusals=true
+  photograph refused 'Recent History'
+  end
+  begin "$work/home" motion=false "slow=$work/home/.config/google-chrome/Default/History"
+  photograph loading 'Recent History'
+  # It would read to the end of what it has begun.
+  kill -KILL "$shown"
+  end
+
+  begin "$work/home" session=1 session.windows=main session.pane=none
+  photograph nothing-picked Roamlet
+  end
+
+  begin "$work/home" LANG=ar_EG.UTF-8
+  photograph arabic-history 'Recent History'
+  press F10 Down Return
+  photograph arabic-export 'Recent History'
+  press Escape ctrl+comma
+  photograph arabic-settings Settings
+  end
+}
+
+# What few desktops look like, and no colour can be taken for granted in.
+photograph_palettes() {
+  for theme in contrast amber; do
+    local special=('palette=#ffffff #000000 #ffff00 #000000' contrast=true)
+    [ $theme = contrast ] || special=('palette=#ffb000 #000000 #ffb000 #000000')
+    begin "$work/home" "${special[@]}"
+    await 'Recent History'
+    press ctrl+f Escape Down Down shift+Down
+    photograph selection 'Recent History'
+    press ctrl+f
+    write clock
+    photograph search 'Recent History'
+    press Escape Escape
+    pop_up press F10
+    photograph main-menu
+    press Down Return
+    photograph export 'Recent History'
+    press Escape ctrl+comma
+    photograph settings-general Settings
+    press ctrl+Tab
+    photograph settings-profiles Settings
+    end
+  done
 }
 
 # What would look coarse on finer screens, or too tight with larger letters.
@@ -337,9 +522,16 @@ photograph_wayland() {
   photograph wayland-settings Settings
   press_on_wayland -k Escape
   await 'Recent History'
-  press_on_wayland -k F10 -s 500 -k Down -s 100 -k Return
+  press_on_wayland -k F10
+  photograph wayland-menu
+  press_on_wayland -k Down -s 100 -k Return
   photograph wayland-export 'Recent History'
   end
+  swaymsg output HEADLESS-1 resolution 2560x1800 scale 2 >/dev/null || report "the compositor has only one scale"
+  begin "$work/home"
+  photograph wayland-scale-2 'Recent History'
+  end
+  swaymsg output HEADLESS-1 resolution 1280x900 scale 1 >/dev/null || true
 }
 
 # function that takes pictures; light and dark
@@ -351,14 +543,17 @@ in_both_themes() {
 "$sample_home" --layout linux --safari -1 --profiles firefox=1 --chrome 2 --edge 1 --rows 400 \
   --newest "$(date -u +%Y-%m-%dT%H:%M:%SZ)" "$work/home" >/dev/null
 begin_screen 1280x900
+cp -a "$work/home" "$work/problem"
+printf 'no database' >"$work/problem/.config/microsoft-edge/Default/History"
+"$sample_home" --layout mac --safari 0 --chrome 1 --edge 1 --rows 100 \
+  --newest "$(date -u +%Y-%m-%dT%H:%M:%SZ)" "$work/refused" >/dev/null
+chmod 0 "$work/refused/Library/Safari/History.db"
 in_both_themes photograph_usual_size
+in_both_themes photograph_states
+photograph_palettes
 begin_screen 3000x2200
 in_both_themes photograph_other_sizes
 begin_wayland
 in_both_themes photograph_wayland
 
 echo "The pictures are in $target."
-[ ${#problems[@]} -eq 0 ] || {
-  printf '%s\n' "Not all of them:" "${problems[@]}" >&2
-  exit 1
-}
