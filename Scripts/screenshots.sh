@@ -142,7 +142,7 @@ begin() {
       motion=*) desktop+=('[org/gnome/desktop/interface]' "enable-animations=${word#*=}") ;;
       session=*) arguments+=(-session "${word#*=}") ;;
       refusals=*)
-        [ "$(id -u)" -ne 0 ] || around+=(setpriv --inh-caps=-all --bounding-set=-dac_override,-dac_read_search)
+        [ "$(id -u)" -ne 0 ] || around+=(setpriv --inh-caps=-all "--bounding-set=-dac_override,-dac_read_search")
         ;;
       slow=*)
         around+=(strace -D -f -qq -o /dev/null -P "${word#*=}" -e inject=all:delay_enter=12000000)
@@ -423,6 +423,7 @@ photograph_states() {
   photograph loading 'Recent History'
   # It would read to the end of what it has begun.
   kill -KILL "$shown"
+  wait "$shown" 2>/dev/null || true
   end
 
   begin "$work/home" session=1 session.windows=main session.pane=none
