@@ -399,7 +399,7 @@ photograph_states() {
   press ctrl+comma
   await Settings
   press ctrl+Tab
-  drag 60 110 70 180
+  drag 60 136 70 200
   photograph settings-drag Settings
   drop
   end
