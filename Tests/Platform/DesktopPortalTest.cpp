@@ -85,6 +85,16 @@ TEST_F(DesktopPortalTest, contrastAndMotionAreAsTheUserHasChosen)
     EXPECT_EQ(portal->questions, QStringList(2, u"org.freedesktop.portal.Settings.ReadAll"_s));
 }
 
+TEST_F(DesktopPortalTest, whatOneDesktopSaysInItsOwnWordsCountsAsMuch)
+{
+    portal->settings = {{u"org.gnome.desktop.interface"_s, {{u"enable-animations"_s, false}}}};
+    EXPECT_EQ(settings(), (DesktopSettings{.allowsMotion = false}));
+    portal->settings = {{u"org.gnome.desktop.interface"_s, {{u"enable-animations"_s, true}}},
+                        {u"org.gnome.desktop.a11y.interface"_s, {{u"high-contrast"_s, true}}},
+                        {u"org.freedesktop.appearance"_s, {{u"contrast"_s, 0U}}}};
+    EXPECT_EQ(settings(), (DesktopSettings{.wantsMoreContrast = true}));
+}
+
 TEST_F(DesktopPortalTest, whatItDoesNotKnowIsAsUsual)
 {
     EXPECT_EQ(settings({{u"color-scheme"_s, 1U}}), usual);
@@ -137,18 +147,22 @@ TEST_F(DesktopPortalTest, itsChangesAreHeardOnTheMainThread)
     portal->change(group, u"reduced-motion"_s, 1U);
     EXPECT_TRUE(waitUntil([&changes] { return changes == 2; }));
 
+    portal->change(u"org.gnome.desktop.interface"_s, u"enable-animations"_s, false);
+    EXPECT_TRUE(waitUntil([&changes] { return changes == 3; }));
+
     // What all of them are is no concern of ours.
+    portal->change(u"org.gnome.desktop.interface"_s, u"font-name"_s, u"Sans"_s);
     portal->change(group, u"accent-color"_s, 1U);
     portal->change(u"org.example"_s, u"contrast"_s, 1U);
     portal->change(group, u"contrast"_s, 0U);
-    EXPECT_TRUE(waitUntil([&changes] { return changes >= 3; }));
-    EXPECT_EQ(changes, 3);
+    EXPECT_TRUE(waitUntil([&changes] { return changes >= 4; }));
+    EXPECT_EQ(changes, 4);
 
     // One that comes later is the portal, too.
     portal.reset();
     portal.emplace(bus.address());
     portal->change(group, u"contrast"_s, 1U);
-    EXPECT_TRUE(waitUntil([&changes] { return changes == 4; }));
+    EXPECT_TRUE(waitUntil([&changes] { return changes == 5; }));
     listener.reset();
     QDBusConnection::disconnectFromBus(name);
 }

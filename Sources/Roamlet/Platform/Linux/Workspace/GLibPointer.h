@@ -23,8 +23,6 @@ struct GLibDeleter {
     void operator()(GKeyFile *file) const { g_key_file_unref(file); }
     void operator()(GAppInfo *info) const { g_object_unref(info); }
     void operator()(GDesktopAppInfo *info) const { g_object_unref(info); }
-    void operator()(GSettings *settings) const { g_object_unref(settings); }
-    void operator()(GSettingsSchema *schema) const { g_settings_schema_unref(schema); }
 };
 
 /// Owns what the library hands over.
