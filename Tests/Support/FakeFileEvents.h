@@ -22,7 +22,7 @@ public:
         if (!isAvailable)
             return nullptr;
         m_handler = std::move(handler);
-        return std::make_unique<Stream>();
+        return std::make_unique<TestStream>(*this);
     }
 
     /// Hands these paths to whoever opened the last stream.
@@ -38,8 +38,23 @@ public:
     bool isAvailable = true;
     /// The folders that were asked for.
     QStringList watchedFolders;
+    /// What the streams say of themselves.
+    QStringList silentFolders;
+    bool isLimitReached = false;
 
 private:
+    class TestStream final : public Stream
+    {
+    public:
+        explicit TestStream(const FakeFileEvents &events) : m_events(events) {}
+
+        QStringList silentFolders() const override { return m_events.silentFolders; }
+        bool isLimitReached() const override { return m_events.isLimitReached; }
+
+    private:
+        const FakeFileEvents &m_events;
+    };
+
     Handler m_handler;
 };
 

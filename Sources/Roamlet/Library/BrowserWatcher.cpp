@@ -5,6 +5,7 @@
 
 #include "Model/Browser.h"
 #include "Platform/BrowserFolders.h"
+#include "Platform/Clock.h"
 #include "Platform/Files.h"
 #include "Platform/Folders.h"
 #include "Readers/BrowserReader.h"
@@ -67,11 +68,39 @@ bool isReadAnywhere(QStringView name)
     });
 }
 
+/// The stamps of all files that are read in these folders and in those directly below them.
+QHash<QString, QString> stampsIn(const QStringList &folders, const Files &files, const std::stop_token &stop)
+{
+    QHash<QString, QString> result;
+    const auto add = [&](const QString &folder, const QStringList &names) {
+        for (const QString &name : names) {
+            const QString path = folder % u'/' % name;
+            if (!stop.stop_requested() && isReadAnywhere(name))
+                result.insert(path, files.fileStamp(path));
+        }
+    };
+    for (const QString &folder : folders) {
+        const QStringList names = files.names(folder);
+        add(folder, names);
+        for (const QString &name : names) {
+            if (stop.stop_requested())
+                return {};
+            const QString subfolder = folder % u'/' % name;
+            add(subfolder, files.names(subfolder));
+        }
+    }
+    return result;
+}
+
 } // namespace
 
-BrowserWatcher::BrowserWatcher(const Platform &platform, Handler onChange)
-    : m_platform(platform), m_onChange(std::move(onChange)), m_stream(open(watchedFolders(platform)))
+BrowserWatcher::BrowserWatcher(const Platform &platform, Handler onChange, std::function<void()> onLimit)
+    : m_platform(platform),
+      m_onChange(std::move(onChange)),
+      m_onLimit(std::move(onLimit)),
+      m_stream(open(watchedFolders(platform)))
 {
+    lookWhereNobodyTells();
 }
 
 std::unique_ptr<FileEvents::Stream> BrowserWatcher::open(const QStringList &folders)
@@ -101,11 +130,12 @@ QSet<QString> BrowserWatcher::setProfiles(const QList<Source> &profiles)
     if (added.isEmpty())
         return {};
     auto stream = open(added.values());
-    // Where the system has no more watches to give, it is asked again the next time.
+    // A folder that nothing can be told of now may be another one the next time.
     if (!stream)
         return {};
     m_streamsElsewhere.push_back(std::move(stream));
     m_foldersElsewhere.unite(added);
+    lookWhereNobodyTells();
     QSet<QString> ids;
     for (const QString &folder : added) {
         for (const Source &source : elsewhere.values(folder))
@@ -114,8 +144,66 @@ QSet<QString> BrowserWatcher::setProfiles(const QList<Source> &profiles)
     return ids;
 }
 
+void BrowserWatcher::lookWhereNobodyTells()
+{
+    QStringList silent;
+    bool isLimitReached = false;
+    const auto ask = [&](const std::unique_ptr<FileEvents::Stream> &stream) {
+        if (!stream)
+            return;
+        silent += stream->silentFolders();
+        isLimitReached = isLimitReached || stream->isLimitReached();
+    };
+    ask(m_stream);
+    std::ranges::for_each(m_streamsElsewhere, ask);
+    if (!silent.isEmpty() && !std::exchange(m_isLooking, true))
+        look(silent);
+    if (isLimitReached && !std::exchange(m_isLimitReached, true) && m_onLimit)
+        m_onLimit();
+}
+
+void BrowserWatcher::look(const QStringList &folders)
+{
+    // Not on the main thread: a server can be slow, or gone.
+    m_tasks.run(
+        &m_context,
+        [folders, files = &m_platform.files](const std::stop_token &stop) {
+            return stampsIn(folders, *files, stop);
+        },
+        [this, folders](const Stamps &stamps) { compare(folders, stamps); });
+}
+
+void BrowserWatcher::compare(const QStringList &folders, const Stamps &stamps)
+{
+    // Who hears of it may ask for other profiles.
+    const Stamps previous = std::exchange(m_knownStamps, stamps);
+    const QSet<QString> now(folders.cbegin(), folders.cend());
+    const QSet<QString> before = std::exchange(m_knownFolders, now);
+    const auto liesIn = [](const QSet<QString> &roots, const QString &path) {
+        const QStringView folder = split(path).folder;
+        return roots.contains(folder.toString()) || roots.contains(split(folder).folder.toString());
+    };
+    QStringList changed;
+    for (const auto &[path, stamp] : stamps.asKeyValueRange()) {
+        if (previous.value(path) != stamp && liesIn(before, path))
+            changed.append(path);
+    }
+    for (const auto &[path, stamp] : previous.asKeyValueRange()) {
+        if (!stamps.contains(path) && liesIn(now, path))
+            changed.append(path);
+    }
+    changed.sort();
+    m_platform.clock.after(lookInterval, &m_context, [this] {
+        m_isLooking = false;
+        lookWhereNobodyTells();
+    });
+    if (!changed.isEmpty())
+        handle(changed);
+}
+
 void BrowserWatcher::handle(const QStringList &paths)
 {
+    lookWhereNobodyTells();
     // Browsers write many files that nobody here reads; the folders cost a look at every browser's place.
     std::optional<BrowserFolders> folders;
     QSet<QString> changed;

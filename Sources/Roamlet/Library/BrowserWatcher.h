@@ -4,14 +4,17 @@
 #pragma once
 
 #include "Model/Source.h"
+#include "Platform/BackgroundTasks.h"
 #include "Platform/FileEvents.h"
 #include "Platform/Platform.h"
 
 #include <QHash>
 #include <QList>
+#include <QObject>
 #include <QSet>
 #include <QString>
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -22,15 +25,19 @@ namespace roamlet
 
 struct BrowserFolders;
 
-/// Tells which sources changed on disk. On the main thread. Where the system offers no file events it never
-/// reports.
+/// Tells which sources changed on disk. On the main thread. Folders of which the system does not tell every
+/// change are looked at from time to time; where it offers no file events at all, nothing is ever reported.
 class BrowserWatcher
 {
 public:
     using Handler = std::function<void(const QSet<QString> &sourceIDs)>;
 
-    /// Watches from now on; `onChange` gets the ids of the sources whose files really changed.
-    BrowserWatcher(const Platform &platform, Handler onChange);
+    /// How long the files that nobody tells of are left alone between two looks.
+    static constexpr std::chrono::minutes lookInterval{1};
+
+    /// Watches from now on; `onChange` gets the ids of the sources whose files really changed. `onLimit` is
+    /// called once, perhaps right now, when the system has no more watches to give.
+    BrowserWatcher(const Platform &platform, Handler onChange, std::function<void()> onLimit = {});
 
     /// Whether the system reports changes of the browsers' files.
     bool isWatching() const { return m_stream != nullptr; }
@@ -45,11 +52,22 @@ public:
     static std::optional<QString> sourceID(const QString &path, const BrowserFolders &folders);
 
 private:
+    /// The stamps of files by their paths.
+    using Stamps = QHash<QString, QString>;
+
     void handle(const QStringList &paths);
     std::unique_ptr<FileEvents::Stream> open(const QStringList &folders);
+    /// Asks the streams what they do not tell, and looks there from now on.
+    void lookWhereNobodyTells();
+    void look(const QStringList &folders);
+    void lookLater();
+    /// What changed since the last look at these folders.
+    void compare(const QStringList &folders, const Stamps &stamps);
 
     Platform m_platform;
     Handler m_onChange;
+    std::function<void()> m_onLimit;
+    bool m_isLimitReached = false;
     /// The last stamp seen of each file.
     QHash<QString, QString> m_stamps;
     /// The profiles that lie elsewhere, by folder. Two installations may list the same one.
@@ -59,6 +77,13 @@ private:
     /// together, as what one has gathered would be lost with it.
     QSet<QString> m_foldersElsewhere;
     std::vector<std::unique_ptr<FileEvents::Stream>> m_streamsElsewhere;
+    /// The folders that are looked at, and what stood there at the last look.
+    QSet<QString> m_knownFolders;
+    Stamps m_knownStamps;
+    /// Whether somebody looks, or will.
+    bool m_isLooking = false;
+    QObject m_context;
+    BackgroundTasks m_tasks;
 };
 
 } // namespace roamlet

@@ -47,7 +47,8 @@ void Library::start()
         [](bool) {});
     load({});
     m_watcher = std::make_unique<BrowserWatcher>(
-        m_platform, [this](const QSet<QString> &sourceIDs) { filesChanged(sourceIDs); });
+        m_platform, [this](const QSet<QString> &sourceIDs) { filesChanged(sourceIDs); },
+        [this] { noteWatchLimit(); });
 }
 
 void Library::load(const std::optional<QSet<QString>> &only)
@@ -143,6 +144,14 @@ void Library::filesChanged(const QSet<QString> &sourceIDs)
         m_isReloadPending = false;
         load(QSet<QString>());
     });
+}
+
+void Library::noteWatchLimit()
+{
+    qWarning("roamlet: the system has no more watches for the browsers' files (fs.inotify.max_user_watches, "
+             "fs.inotify.max_user_instances); they are looked at once a minute");
+    m_isWatchLimitReached = true;
+    Q_EMIT watchLimitReached();
 }
 
 HistorySearch Library::queryHistory(const HistoryQuery &query, const std::optional<QString> &sourceID) const

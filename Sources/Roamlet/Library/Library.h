@@ -67,6 +67,8 @@ public:
 
     const Snapshot &snapshot() const { return m_snapshot; }
     bool isLoading() const { return m_isLoading; }
+    /// Whether the system had not enough watches for the browsers' files, so that changes may be seen late.
+    bool isWatchLimitReached() const { return m_isWatchLimitReached; }
     /// When the last load finished; nothing before the first one has.
     std::optional<PointInTime> lastLoaded() const { return m_lastLoaded; }
     /// Goes up by one with every snapshot; what is computed from a snapshot is kept under it.
@@ -92,6 +94,7 @@ Q_SIGNALS:
     /// A new snapshot stands, under a new generation.
     void snapshotChanged();
     void isLoadingChanged();
+    void watchLimitReached();
     void lastLoadedChanged();
     void menuRecentChanged();
     void disabledProfilesChanged();
@@ -101,6 +104,7 @@ private:
     void readNext();
     void publish(Snapshot snapshot);
     void filesChanged(const QSet<QString> &sourceIDs);
+    void noteWatchLimit();
     void refreshMenu();
 
     Platform m_platform;
@@ -108,6 +112,7 @@ private:
     ReadContext m_context;
     Snapshot m_snapshot;
     bool m_isLoading = false;
+    bool m_isWatchLimitReached = false;
     std::optional<PointInTime> m_lastLoaded;
     int m_generation = 0;
     QSet<QString> m_pendingIDs;

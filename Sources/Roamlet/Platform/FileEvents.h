@@ -23,8 +23,16 @@ public:
         Stream(const Stream &) = delete;
         Stream &operator=(const Stream &) = delete;
         virtual ~Stream() = default;
+
+        /// The folders, of those that were asked for, of which not every change is reported at present:
+        /// their file system does not tell what other machines change, or the system's limit on such reports
+        /// is reached.
+        virtual QStringList silentFolders() const { return {}; }
+        /// Whether that limit is reached. It stays so.
+        virtual bool isLimitReached() const { return false; }
     };
-    /// Gets the paths of files that were changed, created, replaced or removed since the last report.
+    /// Gets the paths of files that were changed, created, replaced or removed since the last report; none of
+    /// them when only the silent folders are others now.
     using Handler = std::function<void(const QStringList &paths)>;
 
     FileEvents() = default;

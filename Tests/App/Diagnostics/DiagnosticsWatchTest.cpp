@@ -307,6 +307,35 @@ TEST_F(DiagnosticsWatchTest, saysThatNothingCanBeWatchedAndEnds)
               "roamlet: The browsers' folders cannot be watched: the system reports no changes in them.\n");
 }
 
+TEST_F(DiagnosticsWatchTest, saysThatTheSystemHasNoMoreWatchesAndEnds)
+{
+    Watching watching(u"60"_s);
+    watching.home.fileEvents.isLimitReached = true;
+    bool waits = false;
+    EXPECT_EQ(watching.run({[&] { waits = true; }}), 1);
+    EXPECT_FALSE(waits);
+    EXPECT_EQ(watching.console.output, "");
+    EXPECT_EQ(watching.console.errors.toStdString(),
+              "roamlet: The browsers' folders cannot be watched: the system has no more watches to give. "
+              "fs.inotify.max_user_watches and fs.inotify.max_user_instances say how many there are.\n");
+}
+
+TEST_F(DiagnosticsWatchTest, endsWhenTheSystemRunsOutOfWatchesMeanwhile)
+{
+    Watching watching(u"60"_s);
+    bool goesOn = false;
+    EXPECT_EQ(watching.run({[&] {
+                                // Its own message needs no further step.
+                                watching.console.onError = nullptr;
+                                watching.home.fileEvents.isLimitReached = true;
+                                watching.home.fileEvents.report({});
+                            },
+                            [&] { goesOn = true; }}),
+              1);
+    EXPECT_FALSE(goesOn);
+    EXPECT_THAT(watching.console.errors.toStdString(), HasSubstr("no more watches to give"));
+}
+
 TEST_F(DiagnosticsWatchTest, leavesNoCopiesBehind)
 {
     Watching watching(u"60"_s);

@@ -94,6 +94,21 @@ TEST_F(BrowserProfileSettingsTest, listsEveryProfileInTheUsersOrderAndSaysWhatFo
     EXPECT_GT(note->y(), list().geometry().bottom());
 }
 
+TEST_F(BrowserProfileSettingsTest, saysThatChangesAreSeenLateWhereTheSystemHasNoMoreWatches)
+{
+    library.start();
+    ASSERT_TRUE(waitUntil([this] { return !library.isLoading(); }));
+    const auto *note = tab.findChild<NoteLabel *>(u"watchNote"_s);
+    EXPECT_FALSE(note->isVisible());
+    home.fileEvents.isLimitReached = true;
+    home.fileEvents.report({});
+    EXPECT_TRUE(note->isVisible());
+    EXPECT_EQ(note->tone(), NoteLabel::Tone::Problem);
+    EXPECT_TRUE(note->text().startsWith(u"The system has no more watches for files"));
+    const BrowserProfileSettings openedLater(library, opener);
+    EXPECT_FALSE(openedLater.findChild<NoteLabel *>(u"watchNote"_s)->isHidden());
+}
+
 TEST_F(BrowserProfileSettingsTest, aSwitchTurnsItsProfileOffAndOnAgain)
 {
     clickSwitch(3);

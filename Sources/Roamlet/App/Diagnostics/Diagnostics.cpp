@@ -316,8 +316,9 @@ int Job::watch(const std::optional<QString> &duration)
     const auto milliseconds = static_cast<qint64>(std::clamp(seconds, 0.0, longest) * 1000);
 
     int status = success;
+    bool isLimitReached = false;
     QEventLoop loop;
-    BrowserWatcher watcher(m_platform, [&](const QSet<QString> &sourceIDs) {
+    const auto report = [&](BrowserWatcher &watcher, const QSet<QString> &sourceIDs) {
         const QList<Source> profiles = profilesNow();
         // One that lies elsewhere may be new, too.
         watcher.setProfiles(profiles);
@@ -325,12 +326,21 @@ int Job::watch(const std::optional<QString> &duration)
             print({localTime(m_platform.clock.now()) % u"  " % labels(sourceIDs, profiles).join(u", "_s)});
         if (!m_canWrite)
             loop.quit();
-    });
-    if (!watcher.isWatching()) {
+    };
+    const auto endAtLimit = [&] {
+        isLimitReached = true;
+        complain(u"The browsers' folders cannot be watched: the system has no more watches to give. "
+                 "fs.inotify.max_user_watches and fs.inotify.max_user_instances say how many there are."_s);
+        loop.quit();
+    };
+    BrowserWatcher watcher(
+        m_platform, [&](const QSet<QString> &sourceIDs) { report(watcher, sourceIDs); }, endAtLimit);
+    if (!watcher.isWatching())
         complain(u"The browsers' folders cannot be watched: the system reports no changes in them."_s);
+    else
+        watcher.setProfiles(profilesNow());
+    if (!watcher.isWatching() || isLimitReached)
         return failure;
-    }
-    watcher.setProfiles(profilesNow());
     m_platform.clock.after(std::chrono::milliseconds(milliseconds), &loop, [&loop] { loop.quit(); });
     const std::stop_callback end(m_stop,
                                  [&loop] { QMetaObject::invokeMethod(&loop, "quit", Qt::QueuedConnection); });
@@ -338,7 +348,7 @@ int Job::watch(const std::optional<QString> &duration)
              QString::number(static_cast<double>(milliseconds) / 1000, 'f', QLocale::FloatingPointShortest) %
              u" s.");
     loop.exec();
-    return status;
+    return isLimitReached ? failure : status;
 }
 
 int runJob(const Command &command, Job &job)

@@ -19,7 +19,11 @@ namespace roamlet
 using namespace Qt::StringLiterals;
 
 BrowserProfileSettings::BrowserProfileSettings(Library &library, Opener &opener, QWidget *parent)
-    : QWidget(parent), m_library(library), m_list(new ProfileList), m_note(new NoteLabel)
+    : QWidget(parent),
+      m_library(library),
+      m_list(new ProfileList),
+      m_note(new NoteLabel),
+      m_watchNote(new NoteLabel)
 {
     m_list->setObjectName(u"profileList"_s);
     m_list->setAccessibleName(tr("Browser Profiles"));
@@ -28,13 +32,22 @@ BrowserProfileSettings::BrowserProfileSettings(Library &library, Opener &opener,
     m_note->setObjectName(u"profileNote"_s);
     m_note->setText(tr("Drag profiles to change their order in the sidebar. Roamlet only reads the profiles "
                        "that are on, and new ones are on automatically."));
+    m_watchNote->setObjectName(u"watchNote"_s);
+    m_watchNote->setTone(NoteLabel::Tone::Problem);
+    m_watchNote->setText(
+        tr("The system has no more watches for files, so Roamlet looks for changes once a minute. "
+           "The system's settings fs.inotify.max_user_watches and fs.inotify.max_user_instances say how many "
+           "there are."));
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_list);
     layout->addWidget(m_note);
+    layout->addWidget(m_watchNote);
     layout->addStretch();
     followWindow();
 
+    updateWatchNote();
+    connect(&library, &Library::watchLimitReached, this, &BrowserProfileSettings::updateWatchNote);
     updatePlaceholder();
     connect(&library, &Library::lastLoadedChanged, this, &BrowserProfileSettings::updatePlaceholder);
 }
@@ -50,8 +63,15 @@ void BrowserProfileSettings::followWindow()
 {
     const Measures measures = Look::of(*this).measures;
     layout()->setSpacing(measures.gapAfterIcon);
-    m_note->setContentsMargins(measures.boxPadding, 0, measures.boxPadding, 0);
-    alignToLine(*m_note);
+    for (NoteLabel *note : {m_note, m_watchNote}) {
+        note->setContentsMargins(measures.boxPadding, 0, measures.boxPadding, 0);
+        alignToLine(*note);
+    }
+}
+
+void BrowserProfileSettings::updateWatchNote()
+{
+    m_watchNote->setVisible(m_library.isWatchLimitReached());
 }
 
 void BrowserProfileSettings::updatePlaceholder()

@@ -27,10 +27,13 @@ protected:
 private:
     void followWindow();
     void updatePlaceholder();
+    void updateWatchNote();
 
     Library &m_library;
     ProfileList *m_list;
     NoteLabel *m_note;
+    /// Shown only where changes are seen late.
+    NoteLabel *m_watchNote;
 };
 
 } // namespace roamlet

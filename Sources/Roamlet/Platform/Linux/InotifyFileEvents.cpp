@@ -15,10 +15,13 @@
 #include <QSet>
 #include <QSocketNotifier>
 
+#include <linux/magic.h>
 #include <sys/inotify.h>
+#include <sys/vfs.h>
 #include <system_error>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cstring>
 #include <utility>
@@ -35,18 +38,51 @@ constexpr std::uint32_t entries =
 /// For a folder whose files count.
 constexpr std::uint32_t changes = entries | IN_MODIFY | IN_CLOSE_WRITE;
 
+/// Whether a file system is one that other machines, or other programs, change without the kernel's
+/// knowledge.
+bool isSilent(std::uint32_t fileSystem)
+{
+    constexpr auto silent = std::to_array<std::uint32_t>(
+        {NFS_SUPER_MAGIC, SMB_SUPER_MAGIC, CIFS_SUPER_MAGIC, SMB2_SUPER_MAGIC, FUSE_SUPER_MAGIC, V9FS_MAGIC,
+         CEPH_SUPER_MAGIC, AFS_SUPER_MAGIC, AFS_FS_MAGIC, CODA_SUPER_MAGIC, NCP_SUPER_MAGIC});
+    return std::ranges::find(silent, fileSystem) != silent.end();
+}
+
+/// Whether the system has no more watches, or streams of them, to give.
+bool isLimit(std::error_code error)
+{
+    return error == std::errc::too_many_files_open || error == std::errc::too_many_files_open_in_system ||
+           error == std::errc::no_space_on_device || error == std::errc::not_enough_memory;
+}
+
+/// Where the limit left nothing to watch with.
+class SilentStream final : public FileEvents::Stream
+{
+public:
+    explicit SilentStream(QStringList folders) : m_folders(std::move(folders)) {}
+
+    QStringList silentFolders() const override { return m_folders; }
+    bool isLimitReached() const override { return true; }
+
+private:
+    QStringList m_folders;
+};
+
 class InotifyStream final : public FileEvents::Stream
 {
 public:
-    InotifyStream(int descriptor, const QStringList &roots, FileEvents::Handler handler, const Clock &clock)
+    InotifyStream(int descriptor, const QStringList &roots, FileEvents::Handler handler, const Clock &clock,
+                  const InotifyFileEvents::Calls &calls)
         : m_descriptor(descriptor),
           m_roots(roots),
           m_handler(std::move(handler)),
           m_clock(clock),
+          m_calls(calls),
           m_notifier(descriptor, QSocketNotifier::Read)
     {
         QObject::connect(&m_notifier, &QSocketNotifier::activated, &m_context, [this] { readEvents(); });
         watchRoots(Contents::Known);
+        m_isOpen = true;
     }
     InotifyStream(const InotifyStream &) = delete;
     InotifyStream &operator=(const InotifyStream &) = delete;
@@ -59,6 +95,13 @@ public:
     /// Whether any of the folders is watched, or is waited for where it would appear.
     bool followsAny() const { return m_followsAny; }
 
+    QStringList silentFolders() const override
+    {
+        // Which of them the missing watches would have told of is not worth knowing: looking is cheap.
+        return m_isLimitReached ? m_roots : m_silentRoots.values();
+    }
+    bool isLimitReached() const override { return m_isLimitReached; }
+
 private:
     /// Whether the files in a folder that is watched from now on were there before anybody listened.
     enum class Contents { Known, New };
@@ -70,14 +113,33 @@ private:
     }
     std::error_code watch(const QString &folder)
     {
+        const QByteArray name = QFile::encodeName(folder);
+        const bool hasFiles = isRootOrDirectlyBelow(folder);
         const int number =
-            inotify_add_watch(m_descriptor, QFile::encodeName(folder).constData(),
-                              (isRootOrDirectlyBelow(folder) ? changes : entries) | IN_MASK_ADD);
-        if (number < 0)
-            return lastError();
+            m_calls.addWatch(m_descriptor, name.constData(), (hasFiles ? changes : entries) | IN_MASK_ADD);
+        if (number < 0) {
+            const std::error_code error = lastError();
+            if (isLimit(error) && !std::exchange(m_isLimitReached, true))
+                tellOfSilence();
+            return error;
+        }
         if (!m_folders.contains(number, folder))
             m_folders.insert(number, folder);
+        if (hasFiles && isSilent(m_calls.fileSystem(name.constData())))
+            noteSilence(folder);
         return {};
+    }
+
+    /// From this folder, a root or one directly below, not every change is heard of.
+    void noteSilence(const QString &folder)
+    {
+        const QString above = QFileInfo(folder).path();
+        for (const QString &root : std::as_const(m_roots)) {
+            if ((root == folder || root == above) && !m_silentRoots.contains(root)) {
+                m_silentRoots.insert(root);
+                tellOfSilence();
+            }
+        }
     }
 
     void watchRoots(Contents contents)
@@ -166,13 +228,26 @@ private:
 
     void note(const QString &path)
     {
-        if (m_changed.isEmpty())
-            m_clock.after(InotifyFileEvents::latency, &m_context, [this] { report(); });
+        reportLater();
         m_changed.insert(path);
+    }
+
+    /// Whoever has opened the stream asks at first, and need not be told.
+    void tellOfSilence()
+    {
+        if (m_isOpen)
+            reportLater();
+    }
+
+    void reportLater()
+    {
+        if (!std::exchange(m_isReportPending, true))
+            m_clock.after(InotifyFileEvents::latency, &m_context, [this] { report(); });
     }
 
     void report()
     {
+        m_isReportPending = false;
         QStringList paths = std::exchange(m_changed, {}).values();
         paths.sort();
         m_handler(paths);
@@ -267,10 +342,15 @@ private:
     QStringList m_roots;
     FileEvents::Handler m_handler;
     const Clock &m_clock;
+    const InotifyFileEvents::Calls &m_calls;
     /// By the kernel's number. Two names can lead to one folder.
     QMultiHash<int, QString> m_folders;
     QSet<QString> m_watchedRoots;
+    QSet<QString> m_silentRoots;
     bool m_followsAny = false;
+    bool m_isLimitReached = false;
+    bool m_isOpen = false;
+    bool m_isReportPending = false;
     QSet<QString> m_changed;
     QSocketNotifier m_notifier;
     QObject m_context;
@@ -278,13 +358,30 @@ private:
 
 } // namespace
 
+InotifyFileEvents::Calls InotifyFileEvents::Calls::ofKernel()
+{
+    return {.init = inotify_init1, .addWatch = inotify_add_watch, .fileSystem = [](const char *path) {
+                struct statfs attributes = {};
+                return ::statfs(path, &attributes) == 0 ? static_cast<std::uint32_t>(attributes.f_type)
+                                                        : std::uint32_t{0};
+            }};
+}
+
+InotifyFileEvents::InotifyFileEvents(const Clock &clock, Calls calls)
+    : m_clock(clock), m_calls(std::move(calls))
+{
+}
+
 std::unique_ptr<FileEvents::Stream> InotifyFileEvents::open(const QStringList &folders, Handler handler)
 {
-    const int descriptor = inotify_init1(IN_NONBLOCK | IN_CLOEXEC);
-    if (descriptor < 0)
+    const int descriptor = m_calls.init(IN_NONBLOCK | IN_CLOEXEC);
+    if (descriptor < 0) {
+        if (isLimit(lastError()))
+            return std::make_unique<SilentStream>(folders);
         return nullptr;
-    auto stream = std::make_unique<InotifyStream>(descriptor, folders, std::move(handler), m_clock);
-    if (!folders.isEmpty() && !stream->followsAny())
+    }
+    auto stream = std::make_unique<InotifyStream>(descriptor, folders, std::move(handler), m_clock, m_calls);
+    if (!folders.isEmpty() && !stream->followsAny() && !stream->isLimitReached())
         return nullptr;
     return stream;
 }

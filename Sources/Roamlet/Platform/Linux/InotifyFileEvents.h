@@ -6,6 +6,8 @@
 #include "Platform/FileEvents.h"
 
 #include <chrono>
+#include <cstdint>
+#include <functional>
 
 namespace roamlet
 {
@@ -20,12 +22,23 @@ public:
     /// How long events are gathered before they are reported together.
     static constexpr std::chrono::milliseconds latency{2000};
 
-    explicit InotifyFileEvents(const Clock &clock) : m_clock(clock) {}
+    /// What is asked of the kernel.
+    struct Calls {
+        std::function<int(int flags)> init;
+        std::function<int(int descriptor, const char *path, std::uint32_t mask)> addWatch;
+        /// The kind of file system that a folder lies on (statfs), or 0.
+        std::function<std::uint32_t(const char *path)> fileSystem;
+
+        static Calls ofKernel();
+    };
+
+    explicit InotifyFileEvents(const Clock &clock, Calls calls = Calls::ofKernel());
 
     std::unique_ptr<Stream> open(const QStringList &folders, Handler handler) override;
 
 private:
     const Clock &m_clock;
+    Calls m_calls;
 };
 
 } // namespace roamlet
