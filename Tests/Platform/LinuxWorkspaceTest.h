@@ -25,7 +25,10 @@ protected:
         : workspace(desktop.dataFolders(), home.folders, home.files, home.clock, takeWindows(),
                     {QDBusConnection(QStringLiteral("nobody")),
                      [this](const QString &text) { clipboard = text; },
-                     [](const QString &) { return PasteNotice::Words(); }})
+                     [this](const QString &page) {
+                         noticed.append(page);
+                         return PasteNotice::Words();
+                     }})
     {
     }
 
@@ -90,6 +93,8 @@ protected:
     FakeDesktop desktop;
     FakeBrowserWindows *windows = nullptr;
     QString clipboard;
+    /// The addresses that the user was asked to paste.
+    QStringList noticed;
     LinuxWorkspace workspace;
 };
 

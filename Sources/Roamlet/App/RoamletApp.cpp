@@ -60,8 +60,9 @@ PasteNotice pasteNotice()
                     .title = QCoreApplication::translate("roamlet::RoamletApp",
                                                          "Paste the address into the new tab"),
                     .text = QCoreApplication::translate("roamlet::RoamletApp",
-                                                        "Roamlet has put %1 on the clipboard.")
-                                .arg(page)};
+                                                        "Only the browser itself opens %1.")
+                                .arg(page),
+                    .copy = QCoreApplication::translate("roamlet::RoamletApp", "Copy Address")};
             }};
 }
 
