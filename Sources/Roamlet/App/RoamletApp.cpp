@@ -23,6 +23,7 @@
 #include "Platform/Linux/LinuxPlatform.h"
 #include "Platform/Linux/LinuxWorkspace.h"
 #include "Platform/Linux/PanelTray.h"
+#include "Platform/Linux/SilentBus.h"
 #include "Platform/Linux/StopSignals.h"
 #include "Platform/Processes.h"
 #include "Platform/UserLocale.h"
@@ -293,6 +294,7 @@ int RoamletApp::run(int argc, char **argv)
 {
     int status = 0;
     Processes::useOneHeap();
+    SilentBus::leaveAlone();
     {
         // Before any other thread: each of them leaves the signals to this one.
         StopSignals signals;

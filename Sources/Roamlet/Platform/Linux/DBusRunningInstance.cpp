@@ -22,6 +22,8 @@ const QString objectPath = u"/org/roamlet/Roamlet"_s;
 const QString interfaceName = u"org.freedesktop.Application"_s;
 /// A program that does not answer for so long is not coming forward, and this start ends all the same.
 constexpr int activationTimeout = 5'000; // milliseconds
+/// A bus that falls silent meanwhile holds up the start no longer than this.
+constexpr int busTimeout = 3'000; // milliseconds
 
 } // namespace
 
@@ -38,6 +40,7 @@ RunningInstance::Claim DBusRunningInstance::claim(Wish wish, std::function<void(
 {
     if (!m_bus.isConnected())
         return Claim::Alone;
+    m_bus.interface()->setTimeout(busTimeout);
     // The object stands before the name is taken: whoever finds the name finds somebody who answers.
     m_bus.registerObject(objectPath, this, QDBusConnection::ExportAllSlots);
     // The one that has the name can be about to end, and then this one is its successor.
