@@ -87,6 +87,48 @@ TEST_F(FileCopyTest, aCopyIsAsSparseAsItsSource)
     EXPECT_EQ(copied.read(8), QByteArray("\0island\0", 8));
 }
 
+TEST_F(FileCopyTest, aCopyForWhichThereIsNoRoomIsNotBegun)
+{
+    class Small final : public LinuxFiles
+    {
+    public:
+        mutable std::optional<std::uint64_t> left = 0;
+        mutable int asked = 0;
+
+    protected:
+        std::optional<std::uint64_t> room(int descriptor) const override
+        {
+            ++asked;
+            EXPECT_EQ(::lseek(descriptor, 0, SEEK_END), 0) << "nothing is written yet";
+            return left;
+        }
+    };
+    const QTemporaryDir other(u"/dev/shm/roamlet-test-XXXXXX"_s);
+    if (!other.isValid() || attributes(other.path()).st_dev == attributes(path({})).st_dev)
+        GTEST_SKIP() << "there is no second file system";
+    const Small small;
+    const QString source = file(u"source"_s, bytes(1 << 20));
+    const QString target = other.filePath(u"target"_s);
+    const auto taken = static_cast<std::uint64_t>(attributes(source).st_blocks) * 512;
+    small.left = taken - 1;
+    const auto refused = small.copy(source, target, {}, {}, {});
+    ASSERT_FALSE(refused);
+    EXPECT_EQ(refused.error().side, CopyError::Side::Target);
+    EXPECT_EQ(refused.error().code, std::errc::no_space_on_device);
+    EXPECT_FALSE(isThere(target));
+    EXPECT_EQ(small.asked, 1);
+    for (const std::optional<std::uint64_t> enough : {std::optional(taken), std::optional<std::uint64_t>()}) {
+        small.left = enough;
+        ASSERT_TRUE(small.copy(source, target, {}, {}, {}));
+        EXPECT_TRUE(content(target) == bytes(1 << 20));
+        ASSERT_TRUE(QFile::remove(target));
+    }
+    // Holes take no room.
+    ASSERT_TRUE(QFile::resize(source, qint64{10} << 30U));
+    small.left = taken;
+    EXPECT_TRUE(small.copy(source, target, {}, {}, {}));
+}
+
 TEST_F(FileCopyTest, aCopyIsMadeAgainUntilItIsGood)
 {
     const QString source = file(u"source"_s, bytes(10'000));

@@ -144,27 +144,26 @@ Copied copyBytes(int source, int target, off_t begin, off_t end, const std::stop
     return stop.stop_requested() ? interrupted() : Copied();
 }
 
+using RoomOf = std::function<std::optional<std::uint64_t>(int descriptor)>;
+
 /// Whether the target's file system has room for what the source takes up.
-std::error_code checkRoom(int source, int target)
+std::error_code checkRoom(int source, int target, const RoomOf &roomOf)
 {
     struct stat attributes = {};
-    struct statvfs room = {};
     constexpr std::uint64_t bytesPerBlock = 512;
-    // Some file systems do not say what they have.
-    if (fstat(source, &attributes) != 0 || fstatvfs(target, &room) != 0 || room.f_blocks == 0 ||
-        room.f_frsize == 0)
+    const std::optional<std::uint64_t> room = roomOf(target);
+    if (!room || fstat(source, &attributes) != 0)
         return {};
     const auto wanted = static_cast<std::uint64_t>(attributes.st_blocks) * bytesPerBlock;
-    return wanted / room.f_frsize > room.f_bavail ? std::make_error_code(std::errc::no_space_on_device)
-                                                  : std::error_code{};
+    return wanted > *room ? std::make_error_code(std::errc::no_space_on_device) : std::error_code{};
 }
 
-Copied copyContent(int source, int target, const std::stop_token &stop)
+Copied copyContent(int source, int target, const RoomOf &roomOf, const std::stop_token &stop)
 {
     if (ioctl(target, FICLONE, source) == 0)
         return {};
     // Before a large file has filled what others need, too.
-    if (const std::error_code error = checkRoom(source, target))
+    if (const std::error_code error = checkRoom(source, target, roomOf))
         return failed(CopyError::Side::Target, error);
     off_t place = 0;
     for (;;) {
@@ -188,7 +187,8 @@ Copied copyContent(int source, int target, const std::stop_token &stop)
     }
 }
 
-Copied copyFile(const QString &source, const QString &target, const std::stop_token &stop)
+Copied copyFile(const QString &source, const QString &target, const RoomOf &roomOf,
+                const std::stop_token &stop)
 {
     const auto original = openForReading(source);
     if (!original)
@@ -198,7 +198,7 @@ Copied copyFile(const QString &source, const QString &target, const std::stop_to
         ::open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, onlyTheUserReads));
     if (!duplicate.isOpen())
         return failed(CopyError::Side::Target, lastError());
-    Copied copied = copyContent(original->descriptor.get(), duplicate.get(), stop);
+    Copied copied = copyContent(original->descriptor.get(), duplicate.get(), roomOf, stop);
     const std::error_code closeError = duplicate.close();
     if (copied && closeError)
         copied = failed(CopyError::Side::Target, closeError);
@@ -300,13 +300,14 @@ std::expected<void, CopyError> LinuxFiles::copy(const QString &source, const QSt
                                                 const QStringList &suffixes, const std::stop_token &stop,
                                                 const std::function<bool()> &isGood) const
 {
+    const RoomOf roomOf = [this](int descriptor) { return room(descriptor); };
     for (int count = 1;; ++count) {
         QStringList made;
-        Copied copied = copyFile(source, target, stop);
+        Copied copied = copyFile(source, target, roomOf, stop);
         if (copied)
             made.append(target);
         for (qsizetype i = 0; copied && i < suffixes.size(); ++i) {
-            const Copied besides = copyFile(source + suffixes[i], target + suffixes[i], stop);
+            const Copied besides = copyFile(source + suffixes[i], target + suffixes[i], roomOf, stop);
             if (besides)
                 made.append(target + suffixes[i]);
             else if (besides.error().side == CopyError::Side::Target || stop.stop_requested())
@@ -377,6 +378,15 @@ bool LinuxFiles::isPlainFile(const QString &path) const
 {
     struct stat attributes = {};
     return ::lstat(QFile::encodeName(path).constData(), &attributes) == 0 && S_ISREG(attributes.st_mode);
+}
+
+std::optional<std::uint64_t> LinuxFiles::room(int descriptor) const
+{
+    struct statvfs attributes = {};
+    // Some file systems do not say what they have.
+    if (fstatvfs(descriptor, &attributes) != 0 || attributes.f_blocks == 0 || attributes.f_frsize == 0)
+        return {};
+    return std::uint64_t{attributes.f_bavail} * attributes.f_frsize;
 }
 
 } // namespace roamlet

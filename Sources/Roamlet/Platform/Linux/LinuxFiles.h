@@ -5,6 +5,9 @@
 
 #include "Platform/Files.h"
 
+#include <cstdint>
+#include <optional>
+
 namespace roamlet
 {
 
@@ -28,6 +31,10 @@ public:
     bool isUsersAlone(const QString &folder) const override;
     bool isPrivateFolder(const QString &path) const override;
     bool isPlainFile(const QString &path) const override;
+
+protected:
+    /// The bytes that the file system of an open file still has for us, where it says so.
+    virtual std::optional<std::uint64_t> room(int descriptor) const;
 };
 
 } // namespace roamlet
