@@ -133,11 +133,43 @@ TEST(Json, onlyTrueIsTrue)
 
 TEST(Json, nestingNeedsNoStack)
 {
-    for (const qsizetype depth : {5'000, 1'000'000}) {
+    for (const qsizetype depth : {5'000, 30'000}) {
         EXPECT_TRUE(Json::parse(QByteArray(depth, '[') + QByteArray(depth, ']')).has_value());
         EXPECT_TRUE(
             Json::parse(QByteArray("{\"a\":").repeated(depth) + "1" + QByteArray(depth, '}')).has_value());
         EXPECT_TRUE(isNoJson(QByteArray(depth, '[')));
+    }
+}
+
+TEST(Json, whatIsNothingButNestingIsRefusedBeforeItIsRead)
+{
+    for (const qsizetype depth : {30'001, 50'000'000}) {
+        const QByteArray open(depth, '[');
+        for (const QByteArray &text : QByteArrayList{open, open + QByteArray(depth, ']'),
+                                                     QByteArray("{\"a\":").repeated(depth / 10 + 30'000)}) {
+            const auto json = Json::parse(text);
+            ASSERT_FALSE(json.has_value());
+            EXPECT_EQ(json.error(), u"it is nested too deeply"_s);
+        }
+    }
+}
+
+TEST(Json, bracketsInTextsAndBesideEachOtherAreNoNesting)
+{
+    const QByteArray brackets = QByteArray(100'000, '[') + R"(\"\\)" + QByteArray(100'000, '{');
+    EXPECT_EQ(Json::text(&valueOf("[\"" + brackets + "\"]")[0])->size(), 200'002);
+    EXPECT_EQ(valueOf('[' + QByteArray("[],{},").repeated(50'000) + "1]").size(), 100'001U);
+    EXPECT_TRUE(isNoJson(QByteArray(100'000, ']') + QByteArray(100'000, '[')));
+    for (const char *cut : {"[\"", "[\"a\\", "[\"a\\\""})
+        EXPECT_TRUE(isNoJson(cut)) << cut;
+}
+
+TEST(Json, moreValuesThanAnybodyHasAreRefusedBeforeTheyFillTheMemory)
+{
+    for (const char *value : {"[],", "1,"}) {
+        const auto json = Json::parse('[' + QByteArray(value).repeated(32'000'000) + "1]");
+        ASSERT_FALSE(json.has_value());
+        EXPECT_EQ(json.error(), u"it is too large"_s);
     }
 }
 

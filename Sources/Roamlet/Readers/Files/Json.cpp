@@ -10,6 +10,52 @@ namespace roamlet::Json
 
 using namespace Qt::StringLiterals;
 
+namespace
+{
+
+/// Why the library should not be given these bytes, whether they are JSON or not.
+std::optional<QString> costOf(const QByteArray &bytes)
+{
+    std::size_t depth = 0;
+    std::size_t values = 0;
+    for (const char *place = bytes.cbegin(); place != bytes.cend(); ++place) {
+        switch (*place) {
+        case '"':
+            // Up to the end of the string, or of what is there of it.
+            while (++place != bytes.cend() && *place != '"') {
+                if (*place == '\\' && ++place == bytes.cend())
+                    break;
+            }
+            if (place == bytes.cend())
+                return {};
+            break;
+        case '[':
+        case '{':
+            ++values;
+            if (++depth > deepestNesting)
+                return u"it is nested too deeply"_s;
+            break;
+        case ']':
+        case '}':
+            // More of them than there were is the library's to say.
+            if (depth == 0)
+                return {};
+            --depth;
+            break;
+        case ',':
+            ++values;
+            break;
+        default:
+            break;
+        }
+        if (values > mostValues)
+            return u"it is too large"_s;
+    }
+    return {};
+}
+
+} // namespace
+
 std::expected<Value, QString> parse(const QByteArray &bytes)
 {
     // The library would skip the mark; a browser never writes one, and a file that has it is not the
@@ -19,6 +65,8 @@ std::expected<Value, QString> parse(const QByteArray &bytes)
     // The library would take it for the end of the text.
     if (bytes.contains('\0'))
         return std::unexpected(u"not valid JSON: it holds a NUL"_s);
+    if (const std::optional<QString> reason = costOf(bytes))
+        return std::unexpected(*reason);
     try {
         return Value::parse(bytes.begin(), bytes.end());
     } catch (const Value::parse_error &error) {

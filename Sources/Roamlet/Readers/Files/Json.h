@@ -8,17 +8,24 @@
 
 #include <nlohmann/json.hpp>
 
+#include <cstddef>
 #include <expected>
 #include <optional>
 
 /// Strict reading of JSON. Qt's own reader refuses what nests deeper than 1,024 levels, and bookmark folders
-/// may.
+/// may, although no browser could read them any more.
 namespace roamlet::Json
 {
 
 using Value = nlohmann::json;
 
-/// The reason when the bytes are not exactly one JSON text in UTF-8.
+/// Objects and arrays inside each other. A bookmark folder takes two levels.
+inline constexpr std::size_t deepestNesting = 30'000;
+/// Members and elements in all. A million bookmarks have some ten million.
+inline constexpr std::size_t mostValues = 32'000'000;
+
+/// The reason when the bytes are not exactly one JSON text in UTF-8, or are nothing but nesting: that would
+/// take a hundred times its size in memory, and minutes.
 std::expected<Value, QString> parse(const QByteArray &bytes);
 
 /// The value under `key` when `value` is an object that has it, else null.
