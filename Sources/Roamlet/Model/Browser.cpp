@@ -310,7 +310,7 @@ QString Browser::historyFile(Family family)
 
 QString Browser::sideProfile(const QString &key)
 {
-    return key.section(u'/', 0, 0) == u"_side_profiles" ? key.section(u'/', 1, 1) : QString();
+    return key.section(u'/', 0, 0) == sideProfilesFolder ? key.section(u'/', 1, 1) : QString();
 }
 
 QString Browser::installationName(const QString &key)

@@ -77,6 +77,8 @@ struct Browser {
     static QString profileList(Family family);
     /// The file in a profile's folder that holds its history.
     static QString historyFile(Family family);
+    /// Where an Opera keeps its further profiles.
+    static constexpr QStringView sideProfilesFolder = u"_side_profiles";
     /// The name of Opera's side profile that has this key, "_side_profiles/Work" or
     /// "_side_profiles/Work/Default"; empty for any other profile.
     static QString sideProfile(const QString &key);

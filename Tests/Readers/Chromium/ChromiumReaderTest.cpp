@@ -126,13 +126,18 @@ TEST_F(ChromiumProfiles, aProfileWithoutItsFolderIsLeftOut)
     EXPECT_EQ(folders(), QStringList{u"Default"_s});
 }
 
-TEST_F(ChromiumProfiles, onlyDefaultComesFirstAlsoBeforeAProfileWithoutAName)
+TEST_F(ChromiumProfiles, aKeyThatIsNoNameOfAFolderIsNoProfile)
 {
     writeChrome({{u"Default"_s, named(u"A"_s)}, {u"Another"_s, named(u"B"_s)}});
-    sample::writeLocalState(
-        chromeFile(u"Local State"_s, {}),
-        {{u""_s, named(u"C"_s)}, {u"Another"_s, named(u"B"_s)}, {u"Default"_s, named(u"A"_s)}});
-    EXPECT_EQ(folders(), (QStringList{u"Default"_s, u""_s, u"Another"_s}));
+    QJsonObject cache{{u"Default"_s, named(u"A"_s)}, {u"..."_s, named(u"D"_s)}};
+    for (const QString &key :
+         QStringList{u""_s, u"."_s, u".."_s, u"/"_s, u"/etc"_s, u"Default/"_s, u"./Default"_s,
+                     u"../Chrome/Default"_s, u"Another/.."_s, u"Default"_s % QChar(0)})
+        cache.insert(key, named(u"C"_s));
+    sample::makeFolder(chromeFile({}, u"..."_s));
+    const QJsonObject state{{u"profile"_s, QJsonObject{{u"info_cache"_s, cache}}}};
+    sample::writeFile(chromeFile(u"Local State"_s, {}), QJsonDocument(state).toJson());
+    EXPECT_EQ(folders(), (QStringList{u"Default"_s, u"..."_s}));
 }
 
 TEST_F(ChromiumProfiles, aNameThatNoFileCanHaveIsLeftOut)

@@ -129,8 +129,14 @@ HistoryStatement historyStatement(const HistoryQuery &query)
 }
 
 const QString defaultFolder = u"Default"_s;
-/// Where an Opera keeps its further profiles.
-const QString operaSideFolder = u"_side_profiles"_s;
+const QString operaSideFolder = Browser::sideProfilesFolder.toString();
+
+/// Whether a profile can have this key: it is the name of a folder, and any other one would lead to what is
+/// no profile's, or to the same folder under two names.
+bool isFolderName(const QString &key)
+{
+    return !key.isEmpty() && key != u"." && key != u".." && !key.contains(u'/') && !key.contains(QChar());
+}
 
 /// Profiles of guests, and those that go when they are closed.
 bool isEphemeral(const QString &folderName, const Json::Value &info)
@@ -164,15 +170,14 @@ QList<Source> listedProfiles(const BrowserFolders::Installation &installation, c
     QList<Source> result;
     for (const auto &[key, info] : cache->items()) {
         const QString folderName = Json::text(key);
-        // What stands behind a NUL is no part of a file's name: two keys could mean the same folder.
-        if (key.find('\0') != std::string::npos)
+        // The data folder itself and the folders beside the first profile of an Opera are looked at apart.
+        if (!isFolderName(folderName))
+            continue;
+        if (browser.hasOperaLayout && folderName.startsWith(operaSideFolder))
             continue;
         if (!context.files->exists(root % u'/' % folderName))
             continue;
         if (!browser.listsEphemeralProfiles && isEphemeral(folderName, info))
-            continue;
-        // The data folder itself and the folders beside the first profile are looked at apart.
-        if (browser.hasOperaLayout && (folderName.isEmpty() || folderName.startsWith(operaSideFolder)))
             continue;
         result.append(
             profileSource(installation, folderName, displayName(info, browser).value_or(folderName)));
