@@ -17,8 +17,6 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-/// From 1970-01-01 to 2001-01-01, where the dates of property lists begin.
-constexpr double secondsUntil2001 = 978'307'200;
 /// Some 30 million years.
 constexpr double farthest = 1e15;
 

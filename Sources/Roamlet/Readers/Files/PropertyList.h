@@ -19,6 +19,9 @@ namespace roamlet
 
 struct PropertyListTree;
 
+/// From 1970-01-01 to 2001-01-01, where the dates of property lists begin, and all of Safari's times.
+inline constexpr std::int64_t secondsUntil2001 = 978'307'200;
+
 /// One value in a property list; also one that is not there. Valid as long as the PropertyList it came from.
 class PropertyListValue
 {

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
+#include "Readers/Files/PropertyList.h"
 #include "Readers/Files/PropertyListTree.h"
 
 #include <QDateTime>
@@ -18,9 +19,6 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-
-/// From 1970-01-01 to 2001-01-01, where the dates of property lists begin.
-constexpr qint64 millisecondsUntil2001 = 978'307'200'000;
 
 /// The encoding that the first line of an XML text names, if it does.
 QByteArray declaredEncoding(QByteArrayView bytes)
@@ -217,9 +215,9 @@ private:
         const QDateTime time = QDateTime::fromString(text, Qt::ISODateWithMs);
         if (!time.isValid() || !text.endsWith(u'Z'))
             return PropertyListTree::Other();
-        constexpr double millisecondsPerSecond = 1000;
-        return PropertyListTree::Date{static_cast<double>(time.toMSecsSinceEpoch() - millisecondsUntil2001) /
-                                      millisecondsPerSecond};
+        constexpr qint64 millisecondsPerSecond = 1000;
+        const qint64 since2001 = time.toMSecsSinceEpoch() - (secondsUntil2001 * millisecondsPerSecond);
+        return PropertyListTree::Date{static_cast<double>(since2001) / millisecondsPerSecond};
     }
 
     /// Ends the innermost open value. False at the end of a list without any.

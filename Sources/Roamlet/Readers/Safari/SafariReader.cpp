@@ -24,9 +24,6 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-/// From 1970-01-01 to 2001-01-01, where Safari's times begin.
-constexpr double secondsUntil2001 = 978'307'200;
-
 const QString readingListTitle = u"com.apple.ReadingList"_s;
 const QString barTitle = u"BookmarksBar"_s;
 
