@@ -155,6 +155,31 @@ TEST_F(SQLiteSnapshotTest, everyCopyStartsInAnEmptyFolder)
     EXPECT_EQ(filesOfSecondCopy, QStringList{u"History"_s});
 }
 
+TEST_F(SQLiteSnapshotTest, aLargeFileThatIsNoDatabaseIsNotCopied)
+{
+    change([this] {
+        sample::writeFile(source, QByteArray(1000, 'x'));
+        ASSERT_TRUE(QFile::resize(source, qint64{10} << 30U));
+    });
+    EXPECT_EQ(errorOfCopying(), ReadError::unreadable(source, u"file is not a database"_s));
+    EXPECT_EQ(copies, 0);
+    EXPECT_EQ(foldersLeft(), QStringList());
+    // What SQLite says of little ones costs nothing.
+    change([this] { sample::writeFile(source, QByteArray(1000, 'x')); });
+    EXPECT_EQ(read(), QStringList{u"Couldn't read query: file is not a database"_s});
+    EXPECT_EQ(copies, 1);
+}
+
+TEST_F(SQLiteSnapshotTest, aLargeFileThatAJournalMayMakeWholeIsLeftToSQLite)
+{
+    change([this] {
+        sample::writeFile(source, QByteArray(2 << 20, 'x'));
+        sample::writeFile(source % u"-journal", "x");
+    });
+    EXPECT_EQ(read(), QStringList{u"Couldn't read query: file is not a database"_s});
+    EXPECT_EQ(copies, 1);
+}
+
 TEST_F(SQLiteSnapshotTest, aMissingSourceIsTheCopysError)
 {
     EXPECT_EQ(errorOfCopying(), ReadError::unreadable(source, u"No such file or directory"_s));

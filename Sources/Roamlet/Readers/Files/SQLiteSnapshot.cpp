@@ -130,6 +130,20 @@ QByteArrayView SQLiteSnapshot::Row::blob(int column) const
     return {static_cast<const char *>(bytes), sqlite3_column_bytes(m_statement, column)};
 }
 
+/// Whether this is much of something, and no database. SQLite could only say so of a copy, which would have
+/// taken long and filled what others need, too. Of little files, and of those that a journal may make whole
+/// again, it is asked.
+bool isLargeAndForeign(const Files &files, const QString &path)
+{
+    constexpr QByteArrayView magic("SQLite format 3\0", 16);
+    constexpr qsizetype headerSize = 100;
+    constexpr qsizetype large = qsizetype{1} << 20U;
+    const auto header = files.readBeginning(path, headerSize);
+    return header && !header->startsWith(magic) &&
+           files.readBeginning(path, large).value_or(QByteArray()).size() == large &&
+           files.readBeginning(path % u"-journal", 1).value_or(QByteArray()).isEmpty();
+}
+
 /// The private folder and the files in it.
 class SQLiteSnapshot::Copy
 {
@@ -151,6 +165,9 @@ public:
 
     std::expected<void, ReadError> make(const std::stop_token &stop)
     {
+        if (isLargeAndForeign(m_files, m_source))
+            return std::unexpected(
+                ReadError::unreadable(m_source, QString::fromUtf8(sqlite3_errstr(SQLITE_NOTADB))));
         DatabaseMoment moment;
         for (int attempt = 1; attempt <= attempts; ++attempt) {
             if (attempt > 1)
