@@ -2,11 +2,17 @@
 // SPDX-License-Identifier: MIT
 
 #include "Library/LibraryReading.h"
+#include "Platform/Variable.h"
 #include "Support/LibraryHome.h"
 #include "Support/Waiting.h"
 
 #include <QDir>
+#include <QFile>
 #include <QSignalSpy>
+
+#include <linux/landlock.h>
+#include <sys/syscall.h>
+#include <unistd.h>
 
 #include <atomic>
 #include <semaphore>
@@ -356,6 +362,27 @@ TEST_F(LibraryLoadTest, aLibraryThatGoesWhileItLoadsLeavesNothing)
         copies.acquire();
     }
     EXPECT_TRUE(home.leftovers().isEmpty());
+}
+
+TEST_F(LibraryLoadTest, whatReadsCannotWriteToABrowsersFolder)
+{
+    if (::syscall(SYS_landlock_create_ruleset, nullptr, 0, LANDLOCK_CREATE_RULESET_VERSION) < 1)
+        GTEST_SKIP() << "this kernel cannot do it";
+    const Variable sorting("SQLITE_TMPDIR", QFile::encodeName(home.temporary()));
+    addChromium();
+    std::atomic<int> attempts = 0;
+    std::atomic<int> refusals = 0;
+    home.files.afterCopy = [&](const QString &source) {
+        ++attempts;
+        QFile file(source % u"-from-a-reader");
+        refusals += file.open(QIODevice::WriteOnly) ? 0 : 1;
+    };
+    Library library(home.platform());
+    library.start();
+    ASSERT_TRUE(waitUntil([&library] { return !library.isLoading(); }));
+    EXPECT_GE(attempts, 3);
+    EXPECT_EQ(refusals, attempts);
+    EXPECT_TRUE(library.snapshot().problems.isEmpty());
 }
 
 } // namespace

@@ -284,9 +284,12 @@ TEST_F(SearchCacheTest, whatCannotBeReadIsTriedAgainTheNextTime)
 
 TEST_F(SearchCacheTest, aSourceThatVanishesWhileItIsReadHasNothing)
 {
-    home.files.afterCopy = [this](const QString &path) {
+    // Whoever reads may not do it.
+    QObject mainThread;
+    home.files.afterCopy = [this, &mainThread](const QString &path) {
         if (path == edgeFile(u"Default/History"_s))
-            QFile::remove(path);
+            QMetaObject::invokeMethod(
+                &mainThread, [path] { QFile::remove(path); }, Qt::BlockingQueuedConnection);
     };
     change([this] { fill(); });
     home.files.afterCopy = {};

@@ -5,6 +5,7 @@
 
 #include "Library/LibraryReading.h"
 #include "Library/SourceRead.h"
+#include "Platform/Confinement.h"
 
 #include <QSet>
 
@@ -45,6 +46,7 @@ HistorySearch::Answer HistorySearch::run(const std::stop_token &stop) const
     Remembered memory = remembered();
     if (memory.others.isEmpty())
         return memory.answer;
+    Confinement::ofReadingThread(m_context.folders.temporary);
     ReadContext context = m_context;
     context.stop = stop;
     const HistoryResults read = LibraryReading::history(m_query, memory.others, context);

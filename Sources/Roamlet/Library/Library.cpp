@@ -5,6 +5,7 @@
 
 #include "Library/LibraryReading.h"
 #include "Platform/Clock.h"
+#include "Platform/Confinement.h"
 #include "Platform/Folders.h"
 #include "Readers/Files/SQLiteSnapshot.h"
 
@@ -84,6 +85,7 @@ void Library::readNext()
     m_tasks.run(
         this,
         [request, context = m_context, clock = &m_platform.clock](const std::stop_token &stop) {
+            Confinement::ofReadingThread(context.folders.temporary);
             ReadContext stoppable = context;
             stoppable.stop = stop;
             return LibraryReading::readAll(request, stoppable, *clock);

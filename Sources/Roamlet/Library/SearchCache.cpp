@@ -6,6 +6,7 @@
 #include "Library/LibraryReading.h"
 #include "Library/SourceRead.h"
 #include "Platform/Clock.h"
+#include "Platform/Confinement.h"
 #include "Platform/Processes.h"
 #include "Platform/UserDefaults.h"
 #include "Readers/BrowserReader.h"
@@ -126,6 +127,7 @@ void SearchCache::buildNext()
         &m_context,
         [source, mostBytes = bytesLeft(),
          context = LibraryReading::readContext(m_platform)](const std::stop_token &stop) {
+            Confinement::ofReadingThread(context.folders.temporary);
             ReadContext stoppable = context;
             stoppable.stop = stop;
             return build(source, mostBytes, stoppable);

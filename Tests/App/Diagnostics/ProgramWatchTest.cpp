@@ -8,7 +8,9 @@
 #include <QFile>
 
 #include <fcntl.h>
+#include <linux/landlock.h>
 #include <signal.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
 #include <array>
@@ -94,6 +96,18 @@ TEST_F(ProgramWatchTest, reportsABrowserThatIsInstalledMeanwhile)
     EXPECT_THAT(nextLine(), MatchesRegex(moment + "  Chrome - Personal, Chrome - Work, Edge - Office\n"));
     send(SIGINT);
     EXPECT_EQ(Program::end(process).signal, SIGINT);
+}
+
+TEST_F(ProgramWatchTest, givesUpTheRightToWriteWhereTheKernelTakesIt)
+{
+    if (::syscall(SYS_landlock_create_ruleset, nullptr, 0, LANDLOCK_CREATE_RULESET_VERSION) < 1)
+        GTEST_SKIP() << "this kernel cannot do it";
+    startWatching(u"300"_s);
+    QFile status(u"/proc/%1/status"_s.arg(process.processId()));
+    ASSERT_TRUE(status.open(QIODevice::ReadOnly));
+    EXPECT_THAT(status.readAll().toStdString(), ::testing::HasSubstr("NoNewPrivs:\t1\n"));
+    send(SIGTERM);
+    EXPECT_EQ(Program::end(process).signal, SIGTERM);
 }
 
 TEST_F(ProgramWatchTest, endsByItselfWithStatus0)

@@ -6,6 +6,8 @@
 #include "App/Diagnostics/CommandLine.h"
 #include "App/Diagnostics/Diagnostics.h"
 #include "App/Diagnostics/Printing.h"
+#include "Platform/Confinement.h"
+#include "Platform/Folders.h"
 #include "Platform/Linux/ConfigHome.h"
 #include "Platform/Linux/LinuxConsole.h"
 #include "Platform/Linux/LinuxIO.h"
@@ -84,9 +86,11 @@ bool haveDescriptors(Console &console)
 
 int runDiagnostics(const Command &command, int argc, char **argv)
 {
+    LinuxPlatform platform;
+    // A job writes nothing but private copies, starts no program, and has no other threads yet.
+    Confinement::ofReadingProcess(platform.services().folders.temporary());
     StopSignals signals;
     LinuxConsole console(signals.token());
-    LinuxPlatform platform;
     // Only watching needs an event loop; everything else starts faster without one.
     std::optional<QCoreApplication> application;
     if (command.job == Command::Job::Watch)
