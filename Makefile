@@ -3,7 +3,7 @@
 
 PREFIX ?= /usr/local
 
-.PHONY: run install package release test check lint format sanitizers bench clean
+.PHONY: run install package release test check lint format sanitizers fuzz bench clean
 
 run: ## Build Roamlet and start it
 	@Scripts/run.sh
@@ -32,6 +32,10 @@ format: ## Format the code
 sanitizers: ## Run every test under the address, undefined-behaviour and thread sanitizers
 	@Scripts/test.sh asan
 	@Scripts/test.sh tsan
+
+MINUTES ?= 5
+fuzz: ## Attack every door of foreign bytes for MINUTES
+	@Scripts/fuzz.sh $(MINUTES)
 
 bench: ## Measure Roamlet against the plain alternatives
 	@Scripts/bench.sh

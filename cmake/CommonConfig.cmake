@@ -27,6 +27,11 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
   target_compile_options(roamlet_common INTERFACE -Wno-maybe-uninitialized -Wno-restrict)
 endif()
 
+# Some of these warnings only the usual compiler knows, and the other one complains of its library.
+if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+  target_compile_options(roamlet_common INTERFACE -Wno-unknown-warning-option -Wno-deprecated-declarations -Wno-shadow)
+endif()
+
 # Libraries that a run does not reach are not loaded: a diagnostic run must start as fast as a plain Qt Core program.
 target_link_options(roamlet_common INTERFACE -Wl,--as-needed)
 
