@@ -74,7 +74,7 @@ forbid "includes a header of the window system" "The core runs without a display
 forbid "words a text for the screen" "The core returns values; App turns them into words." \
   '(^|[^[:alnum:]_])tr\(' "${core[@]}"
 
-mapfile -t tests < <(find Tests -name '*.cpp' -o -name '*.h')
+mapfile -t tests < <(find Tests Fuzz -name '*.cpp' -o -name '*.h')
 forbid "waits for a time" "Wait for the condition, or inject a clock: a fixed wait is too long or too short." \
   'qWait\(|qSleep\(|sleep_for|sleep_until|QThread::(m|u)?sleep|usleep\(|[^[:alnum:]_.>]sleep\([0-9]' "${tests[@]}"
 
@@ -82,12 +82,12 @@ while IFS= read -r file; do
   mapfile -t -n 5 beginning <"$file"
   [[ ${beginning[*]} == *"SPDX-License-Identifier: MIT"* ]] \
     || fail "$file has no licence" "Begin it with the two SPDX lines that its neighbours have."
-done < <(find Sources Tests Benchmarks Scripts cmake -name '*.cpp' -o -name '*.h' -o -name '*.cmake' -o -name '*.sh' -o -name CMakeLists.txt)
+done < <(find Sources Tests Benchmarks Fuzz Scripts cmake -name '*.cpp' -o -name '*.h' -o -name '*.cmake' -o -name '*.sh' -o -name CMakeLists.txt)
 
-mapfile -t headers < <(find Sources Tests Benchmarks -name '*.h')
+mapfile -t headers < <(find Sources Tests Benchmarks Fuzz -name '*.h')
 while IFS= read -r file; do
   fail "$file can be included twice" "Begin headers with #pragma once."
-done < <(find Sources Tests Benchmarks -name '*.h' -exec grep -L '^#pragma once' {} +)
+done < <(find Sources Tests Benchmarks Fuzz -name '*.h' -exec grep -L '^#pragma once' {} +)
 forbid "opens a namespace for everybody" "Only .cpp files may say using namespace." '^using namespace' "${headers[@]}"
 
 [ $status -eq 0 ] && echo "All house rules are kept."

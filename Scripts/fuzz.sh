@@ -13,7 +13,7 @@ Scripts/install-dependencies.sh build samples fuzz
 build_sqlite() {
   local folder=$PWD/build/fuzz/sqlite version
   version=$(dpkg-query -W -f '${source:Version}' libsqlite3-0)
-  [ "$(cat "$folder/version" 2>/dev/null)" != "$version" ] || return 0
+  [ "$(cat "$folder.version" 2>/dev/null)" != "$version" ] || return 0
   echo "Building SQLite $version with the sanitizers; this takes minutes, once"
   rm -rf "$folder"
   mkdir -p "$folder"/{apt/lists/partial,apt/cache/archives/partial,make}
@@ -50,7 +50,7 @@ build_sqlite() {
     echo "SQLite could not be built; see $folder.log" >&2
     return 1
   }
-  echo "$version" >"$folder/version"
+  echo "$version" >"$folder.version"
 }
 
 build_sqlite
@@ -65,7 +65,6 @@ corpus=$PWD/build/fuzz/corpus
 findings=$PWD/build/fuzz/findings
 logs=$PWD/build/fuzz/logs
 export TMPDIR=$work
-# A leak shows at the end of an input; a second trace for each allocation would be as slow as the rest together.
 export ASAN_OPTIONS=detect_stack_use_after_return=1:strict_string_checks=1:allocator_may_return_null=0:malloc_context_size=8
 export UBSAN_OPTIONS=print_stacktrace=1 LSAN_OPTIONS=suppressions=$PWD/Tests/lsan.supp:print_suppressions=0
 export ASAN_SYMBOLIZER_PATH=/usr/lib/llvm-19/bin/llvm-symbolizer
@@ -86,11 +85,12 @@ echo "${#targets[@]} targets, $cores at a time, $seconds s each"
 
 # One target; after a finding it goes on with what is left of its time.
 attack() { # name, dictionary, longest input
-  local name=$1 dictionary=$2 longest=$3 end=$((SECONDS + seconds)) left log=$logs/$1.log options=()
+  local name=$1 dictionary=$2 longest=$3 end=$((SECONDS + seconds)) left log=$logs/$1.log options=() running
+  trap 'kill "$running" 2>/dev/null; exit 1' TERM
   [ "$dictionary" = - ] || options+=(-dict="Fuzz/Dictionaries/$dictionary.dict")
   mkdir -p "$findings/$name"
   : >"$log"
-  # As an attacker may well guess: what stands at the end of the old one is where a new one begins.
+  # Where something failed once, more may.
   for regression in Fuzz/Regressions/"$name"/*; do
     [ ! -f "$regression" ] || cp "$regression" "$corpus/$name/"
   done
@@ -98,8 +98,10 @@ attack() { # name, dictionary, longest input
     left=$((end - SECONDS))
     [ "$left" -gt 0 ] || break
     ROAMLET_FUZZ_TARGET=$name "$fuzzer" "$corpus/$name" -max_total_time="$left" -max_len="$longest" -timeout=10 \
-      -rss_limit_mb=2048 -malloc_limit_mb=1024 -print_final_stats=1 -use_value_profile=1 -reload=0 \
-      -artifact_prefix="$findings/$name/" "${options[@]}" >>"$log" 2>&1 && break
+      -rss_limit_mb=2048 -malloc_limit_mb=1024 -print_final_stats=1 -reload=0 \
+      -artifact_prefix="$findings/$name/" "${options[@]}" >>"$log" 2>&1 &
+    running=$!
+    wait "$running" && break
   done
 }
 

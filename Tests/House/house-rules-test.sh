@@ -10,7 +10,7 @@ failures=0
 new_house() {
   rm -rf "${house:?}"/*
   mkdir -p "$house"/Sources/Roamlet/{Model,Platform/Linux,Readers,Library,Lists,Export,Opening,App} \
-    "$house"/{Tests,Benchmarks,Scripts,cmake}
+    "$house"/{Tests,Benchmarks,Fuzz,Scripts,cmake}
 }
 
 put() {
