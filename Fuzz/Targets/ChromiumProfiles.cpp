@@ -31,7 +31,7 @@ void attackChromiumProfiles(QByteArrayView bytes)
         return true;
     }();
     home.reading(bytes, [] {
-        const ReadContext context = home.context();
+        static const ReadContext context = home.context();
         const QList<Source> profiles = BrowserReader::profiles(Source::Kind::Chrome, context);
         lookAt(profiles);
         for (const Source &source : profiles)

@@ -30,7 +30,7 @@ void attackFirefoxProfiles(QByteArrayView bytes)
         return true;
     }();
     home.reading(bytes, [] {
-        const ReadContext context = home.context();
+        static const ReadContext context = home.context();
         const QList<Source> profiles = BrowserReader::profiles(firefox().kind, context);
         lookAt(profiles);
         for (const Source &source : profiles)
