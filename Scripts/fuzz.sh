@@ -7,6 +7,8 @@ cd "$(dirname "$0")/.."
 minutes=${1:-5}
 shift || true
 
+# Read to its end before it begins: a run takes hours, and the shell would go on with what is written here meanwhile.
+{
 Scripts/install-dependencies.sh build samples fuzz
 
 # SQLite reads most of the foreign bytes, so it is watched as well: the system's own version, from its source package.
@@ -86,8 +88,8 @@ echo "${#targets[@]} targets, $cores at a time, $seconds s each"
 
 # One target; after a finding it goes on with what is left of its time.
 attack() { # name, dictionary, longest input
-  local name=$1 dictionary=$2 longest=$3 end=$((SECONDS + seconds)) left log=$logs/$1.log options=() running
-  trap 'kill "$running" 2>/dev/null; exit 1' TERM
+  local name=$1 dictionary=$2 longest=$3 end=$((SECONDS + seconds)) left log=$logs/$1.log options=() running=
+  trap 'kill $running 2>/dev/null; exit 1' TERM
   [ "$dictionary" = - ] || options+=(-dict="Fuzz/Dictionaries/$dictionary.dict")
   mkdir -p "$findings/$name"
   : >"$log"
@@ -99,7 +101,7 @@ attack() { # name, dictionary, longest input
     left=$((end - SECONDS))
     [ "$left" -gt 0 ] || break
     ROAMLET_FUZZ_TARGET=$name "$fuzzer" "$corpus/$name" -max_total_time="$left" -max_len="$longest" -timeout=10 \
-      -rss_limit_mb=2048 -malloc_limit_mb=1024 -print_final_stats=1 -reload=0 \
+      -rss_limit_mb=2048 -malloc_limit_mb=1024 -print_final_stats=1 -print_funcs=0 -reload=0 \
       -artifact_prefix="$findings/$name/" "${options[@]}" >>"$log" 2>&1 &
     running=$!
     wait "$running" && break
@@ -125,7 +127,7 @@ for target in "${targets[@]}"; do
   features=$(grep -oE 'ft: [0-9]+' "$log" | awk '$2 > most { most = $2 } END { print most + 0 }')
   mapfile -t failed < <(sed -n 's/.*Test unit written to //p' "$log" | grep -v '/slow-unit-' | sort -u)
   printf '%-20s %12d %8d %9d %9d  %s\n' "$name" "$executions" "$edges" "$features" "$rate" "${#failed[@]}"
-  printf '    %s\n' ${failed[@]+"${failed[@]}"} | grep . || true
+  [ ${#failed[@]} -eq 0 ] || printf '    %s\n' "${failed[@]}"
   total=$((total + executions))
   [ ${#failed[@]} -eq 0 ] || status=1
   # A target that never ran proves nothing.
@@ -133,3 +135,4 @@ for target in "${targets[@]}"; do
 done
 printf '%-20s %12d\n' all "$total"
 exit $status
+}

@@ -9,6 +9,10 @@
 #include <QDir>
 #include <QFile>
 
+#include <sys/stat.h>
+
+#include <array>
+
 namespace roamlet::fuzz
 {
 
@@ -18,12 +22,18 @@ namespace
 {
 
 /// Written over in place: a new file for each of a million inputs takes longer than most of them are read.
+/// And as if long ago: whoever copies a file that was written to just now waits until its time says more.
 void write(const QString &path, QByteArrayView bytes)
 {
+    static long writes = 0;
     QFile file(path);
     const bool isWritten = file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) &&
                            file.write(bytes.data(), bytes.size()) == bytes.size();
-    if (!isWritten)
+    constexpr time_t longAgo = 1'600'000'000;
+    constexpr long most = 1'000'000'000;
+    const struct timespec time{.tv_sec = longAgo, .tv_nsec = ++writes % most};
+    const std::array times{time, time};
+    if (!isWritten || ::futimens(file.handle(), times.data()) != 0)
         throw sample::Failure(path % u": " % file.errorString());
 }
 

@@ -31,7 +31,8 @@ public:
     /// As many as the next byte says.
     QByteArrayView bytes()
     {
-        const qsizetype size = std::min<qsizetype>(number(), m_bytes.size());
+        const qsizetype wanted = number();
+        const qsizetype size = std::min(wanted, m_bytes.size());
         const QByteArrayView result = m_bytes.first(size);
         m_bytes = m_bytes.sliced(size);
         return result;

@@ -30,8 +30,8 @@ using sample::Text;
 struct Page {
     Text url;
     Text title;
-    /// In seconds of the family's own clock, a different one for each page: of two pages at the same time,
-    /// any may come first.
+    /// In seconds of the family's own clock; 0 for "never". Otherwise a different one for each page: of two
+    /// pages at the same time, any may come first.
     qint64 time = 0;
     qint64 visitCount = 0;
     bool isHidden = false;
@@ -73,10 +73,11 @@ public:
             auto insertVisit = m_database.prepare("INSERT INTO history_visits VALUES(?, ?, ?)");
             for (const Page &page : pages) {
                 ++id;
+                const auto time = static_cast<double>(page.time == 0 ? -id : page.time);
                 insert.run(id, page.url, page.visitCount);
-                insertVisit.run(id, double(page.time) + 0.25, page.title);
+                insertVisit.run(id, time + 0.25, page.title);
                 if (page.isHidden)
-                    insertVisit.run(id, double(page.time), page.url);
+                    insertVisit.run(id, time, page.url);
             }
         } else {
             for (const Page &page : pages)
