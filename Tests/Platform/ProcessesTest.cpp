@@ -82,7 +82,34 @@ TEST(Processes, memoryThatIsNoLongerUsedIsGivenBack)
     EXPECT_LT(memoryInUse(), before - 30'000);
 }
 
-TEST(Processes, withOneHeapTheMemoryOfAnyNumberOfThreadsIsGivenBack)
+TEST(Processes, whatThreadsHaveFreedIsGivenBackOnceTheyHaveEnded)
+{
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+    GTEST_SKIP() << "a sanitizer keeps what was freed";
+#endif
+    // From here on a thread's heap keeps some MB that are free.
+    Processes::giveBackMemory();
+    constexpr std::size_t piece = 512;
+    constexpr int count = 8;
+    {
+        std::latch allAreThere(count);
+        std::vector<std::jthread> threads;
+        for (int i = 0; i < count; ++i) {
+            threads.emplace_back([&allAreThere] {
+                std::vector<std::unique_ptr<std::array<char, piece>>> pieces(10'000);
+                for (auto &each : pieces)
+                    each = std::make_unique<std::array<char, piece>>();
+                allAreThere.arrive_and_wait();
+            });
+        }
+    }
+    const long before = memoryInUse();
+    Processes::giveBackMemory();
+    // Each had 5 MB.
+    EXPECT_LT(memoryInUse(), before - 25'000);
+}
+
+TEST(Processes, withLimitedHeapsTheMemoryOfAnyNumberOfThreadsIsGivenBack)
 {
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
     GTEST_SKIP() << "a sanitizer keeps what was freed";
@@ -90,7 +117,9 @@ TEST(Processes, withOneHeapTheMemoryOfAnyNumberOfThreadsIsGivenBack)
     // How many heaps there are counts for the whole process, and nothing takes one away.
     const pid_t child = ::fork();
     if (child == 0) {
-        Processes::useOneHeap();
+        Processes::limitHeaps();
+        // From here on a thread's heap keeps some MB that are free.
+        Processes::giveBackMemory();
         const long before = memoryInUse();
         constexpr std::size_t piece = 512;
         constexpr int count = 24;

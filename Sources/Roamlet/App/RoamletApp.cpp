@@ -293,7 +293,7 @@ void RoamletApp::reopen()
 int RoamletApp::run(int argc, char **argv)
 {
     int status = 0;
-    Processes::useOneHeap();
+    Processes::limitHeaps();
     SilentBus::leaveAlone();
     {
         // Before any other thread: each of them leaves the signals to this one.

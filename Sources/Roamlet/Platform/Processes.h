@@ -13,9 +13,9 @@ namespace roamlet::Processes
 std::int32_t ownID();
 /// Whether a process with this id exists, whoever it belongs to.
 bool exists(std::int32_t id);
-/// Lets all threads have one heap, which giveBackMemory() reaches and which takes fewer pages. Before any
-/// other thread.
-void useOneHeap();
+/// Lets threads have so many heaps at most that giveBackMemory() reaches all of them. Before any other
+/// thread.
+void limitHeaps();
 /// Gives the memory that this process no longer uses back to the system. Takes a few milliseconds. The
 /// main thread only.
 void giveBackMemory();
