@@ -22,7 +22,7 @@ namespace
 {
 
 /// More threads share them: of those that read, no more work at a time than there are cores.
-constexpr int mostHeaps = 8;
+constexpr int mostHeaps = 4;
 
 } // namespace
 
