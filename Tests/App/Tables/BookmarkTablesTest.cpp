@@ -52,10 +52,10 @@ protected:
         });
     }
     /// Types into the search field and waits as long as a person does.
-    void search(BookmarkTable &table, const TableInputs &inputs)
+    void search(BookmarkTable &table, const ListWish &wish)
     {
         awaitList(table, [&] {
-            table.setInputs(inputs);
+            table.setWish(wish);
             home.clock.advance(ListLoader::refineDelay);
         });
     }
@@ -84,12 +84,12 @@ TEST_F(BookmarkTableTest, aSourceAndASiteNarrowTheList)
     BookmarkTable table(services());
     show(table, {.sourceID = u"chrome/Profile 1"_s});
     EXPECT_EQ(titles(table), "Report");
-    awaitList(table, [&] { table.setInputs({.site = u"zoo.example"_s}); });
+    awaitList(table, [&] { table.setWish({.site = u"zoo.example"_s}); });
     EXPECT_EQ(titles(table), "Zebra Ant");
-    awaitList(table, [&] { table.setInputs({.sourceID = u"chrome/Profile 1"_s, .site = u"zoo.example"_s}); });
+    awaitList(table, [&] { table.setWish({.sourceID = u"chrome/Profile 1"_s, .site = u"zoo.example"_s}); });
     EXPECT_EQ(titles(table), "");
     EXPECT_EQ(table.whyItIsEmpty(), u"Nothing found on zoo.example");
-    awaitList(table, [&] { table.setInputs({.sourceID = u"chrome/Nobody"_s}); });
+    awaitList(table, [&] { table.setWish({.sourceID = u"chrome/Nobody"_s}); });
     EXPECT_EQ(table.whyItIsEmpty(), u"No bookmarks yet");
 }
 
@@ -98,7 +98,7 @@ TEST_F(BookmarkTableTest, typedWordsAreSearchedForAfterAShorterWait)
     BookmarkTable table(services());
     show(table);
     expectNoList(table, [&] {
-        table.setInputs({.search = u" FOOD   bre"_s});
+        table.setWish({.search = u" FOOD   bre"_s});
         home.clock.advance(ListLoader::refineDelay - 1ms);
     });
     awaitList(table, [&] { home.clock.advance(1ms); });
@@ -111,7 +111,7 @@ TEST_F(BookmarkTableTest, onlyTheLastOfQuickKeysMakesAList)
     show(table);
     const QSignalSpy lists(&table, &LinkTable::rowCountChanged);
     for (const QString &typed : {u"a"_s, u"an"_s, u"ant"_s}) {
-        table.setInputs({.search = typed});
+        table.setWish({.search = typed});
         home.clock.advance(ListLoader::refineDelay - 1ms);
     }
     awaitList(table, [&] { home.clock.advance(ListLoader::refineDelay); });
@@ -124,8 +124,8 @@ TEST_F(BookmarkTableTest, whatIsTypedAndTakenBackMakesNoList)
     BookmarkTable table(services());
     show(table);
     expectNoList(table, [&] {
-        table.setInputs({.search = u"x"_s});
-        table.setInputs({});
+        table.setWish({.search = u"x"_s});
+        table.setWish({});
         home.clock.advance(1s);
     });
     EXPECT_EQ(table.rowCount(), 5);
@@ -223,8 +223,8 @@ TEST_F(BookmarkTreeTest, whatIsOpenStaysSoAfterAReload)
     press(table, Qt::Key_Home);
     press(table, Qt::Key_Left);
     EXPECT_EQ(titles(table), "Bar +");
-    awaitList(table, [&] { table.setInputs({.sourceID = u"chrome/Profile 1"_s}); });
-    awaitList(table, [&] { table.setInputs({.sourceID = u"chrome/Default"_s}); });
+    awaitList(table, [&] { table.setWish({.sourceID = u"chrome/Profile 1"_s}); });
+    awaitList(table, [&] { table.setWish({.sourceID = u"chrome/Default"_s}); });
     EXPECT_EQ(titles(table), "Bar +");
 }
 
@@ -315,7 +315,7 @@ TEST_F(BookmarkTreeTest, aSearchChangesNothing)
     BookmarkTree table(services());
     show(table, {.sourceID = u"chrome/Default"_s});
     expectNoList(table, [&] {
-        table.setInputs({.sourceID = u"chrome/Default"_s, .search = u"x"_s, .site = u"y"_s});
+        table.setWish({.sourceID = u"chrome/Default"_s, .search = u"x"_s, .site = u"y"_s});
         home.clock.advance(1s);
     });
 }

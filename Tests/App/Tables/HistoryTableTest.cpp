@@ -43,7 +43,7 @@ protected:
     void search(HistoryTable &table, const QString &text)
     {
         awaitList(table, [&] {
-            table.setInputs({.search = text});
+            table.setWish({.search = text});
             home.clock.advance(ListLoader::searchDelay);
         });
     }
@@ -78,7 +78,7 @@ TEST_F(HistoryTableTest, oneSourceIsShownAlone)
     HistoryTable table(services(), Mode::Recent);
     show(table, {.sourceID = u"chrome/Profile 1"_s});
     EXPECT_EQ(titles(table), "work");
-    awaitList(table, [&] { table.setInputs({.sourceID = u"chrome/Nobody"_s}); });
+    awaitList(table, [&] { table.setWish({.sourceID = u"chrome/Nobody"_s}); });
     EXPECT_EQ(titles(table), "");
 }
 
@@ -87,7 +87,7 @@ TEST_F(HistoryTableTest, nothingIsReadUntilTheTableIsSeen)
     recordReads();
     HistoryTable table(services(), Mode::Recent);
     expectNoList(table,
-                 [&] { table.setInputs({.sourceID = u"chrome/Default"_s, .site = u"today.example"_s}); });
+                 [&] { table.setWish({.sourceID = u"chrome/Default"_s, .site = u"today.example"_s}); });
     EXPECT_TRUE(takeReads().isEmpty());
     show(table, {.sourceID = u"chrome/Profile 1"_s, .site = u"work.example"_s});
     EXPECT_EQ(takeReads(), QStringList{u"chrome/Profile 1"_s});
@@ -120,7 +120,7 @@ TEST_F(HistoryTableTest, typedWordsAreSearchedForAfterAWait)
     show(table);
     recordReads();
     expectNoList(table, [&] {
-        table.setInputs({.search = u"day"_s});
+        table.setWish({.search = u"day"_s});
         home.clock.advance(ListLoader::searchDelay - 1ms);
     });
     EXPECT_TRUE(takeReads().isEmpty());
@@ -136,7 +136,7 @@ TEST_F(HistoryTableTest, eachKeyStartsTheWaitAnew)
     recordReads();
     expectNoList(table, [&] {
         for (const QString &typed : {u"m"_s, u"mo"_s, u"mon"_s}) {
-            table.setInputs({.search = typed});
+            table.setWish({.search = typed});
             home.clock.advance(ListLoader::searchDelay - 1ms);
         }
     });
@@ -150,7 +150,7 @@ TEST_F(HistoryTableTest, anEmptiedFieldIsSearchedAtOnce)
     HistoryTable table(services(), Mode::Recent);
     show(table);
     search(table, u"monday"_s);
-    awaitList(table, [&] { table.setInputs({}); });
+    awaitList(table, [&] { table.setWish({}); });
     EXPECT_EQ(table.rowCount(), 6);
 }
 
@@ -158,7 +158,7 @@ TEST_F(HistoryTableTest, blanksAreNoSearch)
 {
     HistoryTable table(services(), Mode::Recent);
     show(table);
-    awaitList(table, [&] { table.setInputs({.search = u"   "_s}); });
+    awaitList(table, [&] { table.setWish({.search = u"   "_s}); });
     EXPECT_EQ(table.rowCount(), 6);
 }
 
@@ -169,8 +169,8 @@ TEST_F(HistoryTableTest, theSameSearchRunsOnce)
     search(table, u"day"_s);
     recordReads();
     // Typed and taken back before anything was searched.
-    table.setInputs({.search = u"days"_s});
-    table.setInputs({.search = u"day"_s});
+    table.setWish({.search = u"days"_s});
+    table.setWish({.search = u"day"_s});
     expectNoList(table, [&] { home.clock.advance(1s); });
     EXPECT_EQ(titles(table), "today yesterday monday");
     EXPECT_TRUE(takeReads().isEmpty());
@@ -182,7 +182,7 @@ TEST_F(HistoryTableTest, sortingAndGroupingSearchNothing)
     show(table);
     recordReads();
     awaitList(table, [&] { clickHeader(table, HistoryTable::Title); });
-    awaitList(table, [&] { table.setInputs({.grouping = Grouping::Site}); });
+    awaitList(table, [&] { table.setWish({.grouping = Grouping::Site}); });
     EXPECT_TRUE(takeReads().isEmpty());
 }
 
@@ -195,11 +195,11 @@ TEST_F(HistoryTableTest, aLateResultIsNotShown)
     QStringList lists;
     QObject::connect(&table, &LinkTable::rowCountChanged, &table,
                      [&] { lists.append(QString::fromStdString(titles(table))); });
-    table.setInputs({.sourceID = u"chrome/Default"_s, .site = u"today.example"_s});
+    table.setWish({.sourceID = u"chrome/Default"_s, .site = u"today.example"_s});
     gate.awaitReader();
-    awaitList(table, [&] { table.setInputs({.sourceID = u"edge/Default"_s, .site = u"edge.example"_s}); });
+    awaitList(table, [&] { table.setWish({.sourceID = u"edge/Default"_s, .site = u"edge.example"_s}); });
     gate.open();
-    awaitList(table, [&] { table.setInputs({.site = u"work.example"_s}); });
+    awaitList(table, [&] { table.setWish({.site = u"work.example"_s}); });
     EXPECT_EQ(lists, (QStringList{u"e1"_s, u"work"_s}));
 }
 
@@ -207,7 +207,7 @@ TEST_F(HistoryTableTest, aSiteIsShownAlone)
 {
     HistoryTable table(services(), Mode::Recent);
     show(table);
-    awaitList(table, [&] { table.setInputs({.site = u"work.example"_s}); });
+    awaitList(table, [&] { table.setWish({.site = u"work.example"_s}); });
     EXPECT_EQ(titles(table), "work");
 }
 
@@ -336,7 +336,7 @@ TEST_F(HistoryTableTest, whatWasFoundBeforeStandsWhileASearchRuns)
     show(table);
     Gate gate;
     recordReads(&gate);
-    table.setInputs({.search = u"day"_s});
+    table.setWish({.search = u"day"_s});
     home.clock.advance(ListLoader::searchDelay);
     gate.awaitReader();
     EXPECT_TRUE(table.isWorking());
@@ -368,10 +368,10 @@ TEST_F(HistoryTableTest, aSearchThatIsTakenBackNoLongerRuns)
     show(table);
     Gate gate;
     recordReads(&gate);
-    table.setInputs({.search = u"day"_s});
+    table.setWish({.search = u"day"_s});
     home.clock.advance(ListLoader::searchDelay);
     gate.awaitReader();
-    table.setInputs({});
+    table.setWish({});
     home.clock.advance(1s);
     EXPECT_FALSE(table.isAwaited());
     EXPECT_FALSE(table.isWorking());
@@ -410,9 +410,9 @@ TEST_F(HistoryTableTest, whatOnlyStoodInForAnAnswerIsNoAnswer)
     table.show();
     EXPECT_TRUE(waitUntil([&] { return gate.readerHasCome(); }));
     // Something else is asked for, and taken back, while the databases are still being read.
-    table.setInputs({.search = u"day"_s});
+    table.setWish({.search = u"day"_s});
     gate.open();
-    table.setInputs({});
+    table.setWish({});
     EXPECT_TRUE(waitUntil([&] { return !table.isAwaited(); }));
     EXPECT_EQ(titles(table), "e1 new today yesterday monday old");
     EXPECT_TRUE(waitUntil([this] { return home.leftovers().isEmpty(); }));
@@ -424,9 +424,9 @@ TEST_F(HistoryTableTest, aStandInThatIsTakenBackBeforeItIsShownKeepsNothingBusy)
     show(table);
     recordReads();
     // All at once, so that no list can be made in between.
-    table.setInputs({.sourceID = u"chrome/Default"_s});
-    table.setInputs({.grouping = Grouping::Day});
-    table.setInputs({});
+    table.setWish({.sourceID = u"chrome/Default"_s});
+    table.setWish({.grouping = Grouping::Day});
+    table.setWish({});
     EXPECT_TRUE(waitUntil([&] { return !table.isAwaited(); }));
     home.clock.advance(1s);
     EXPECT_FALSE(table.isWorking());
@@ -439,9 +439,9 @@ TEST_F(HistoryTableTest, aStandInDoesNotTakeThePlaceOfWhatWasFound)
     show(table);
     search(table, u"day"_s);
     // Cleared, and typed again before the databases have answered.
-    table.setInputs({});
+    table.setWish({});
     EXPECT_TRUE(table.isAwaited());
-    table.setInputs({.search = u"day"_s});
+    table.setWish({.search = u"day"_s});
     EXPECT_FALSE(table.isAwaited());
     home.clock.advance(1s);
     EXPECT_FALSE(table.isAwaited()) << "the answer is known";
@@ -454,13 +454,13 @@ TEST_F(HistoryTableTest, anEmptyListSaysWhy)
     HistoryTable table(services(), Mode::Recent);
     show(table, {.sourceID = u"edge/Default"_s});
     awaitList(table, [&] {
-        table.setInputs({.search = u"no & such"_s});
+        table.setWish({.search = u"no & such"_s});
         home.clock.advance(ListLoader::searchDelay);
     });
     EXPECT_EQ(table.whyItIsEmpty(), u"Nothing found for “no & such”");
-    awaitList(table, [&] { table.setInputs({.site = u"nowhere.example"_s}); });
+    awaitList(table, [&] { table.setWish({.site = u"nowhere.example"_s}); });
     EXPECT_EQ(table.whyItIsEmpty(), u"Nothing found on nowhere.example");
-    awaitList(table, [&] { table.setInputs({.sourceID = u"chrome/Nobody"_s}); });
+    awaitList(table, [&] { table.setWish({.sourceID = u"chrome/Nobody"_s}); });
     EXPECT_EQ(table.whyItIsEmpty(), u"No history yet");
 }
 

@@ -107,10 +107,10 @@ TEST_F(RowFoldsTest, whatAClosedSectionHidesIsNotSelectedWhenTheSectionsComeBack
 {
     show(table, {.grouping = Grouping::Site});
     click(table, u"a.example"_s);
-    awaitList(table, [&] { table.setInputs({}); });
+    awaitList(table, [&] { table.setWish({}); });
     click(table, u"b"_s);
     click(table, u"a"_s, Qt::ControlModifier);
-    awaitList(table, [&] { table.setInputs({.grouping = Grouping::Site}); });
+    awaitList(table, [&] { table.setWish({.grouping = Grouping::Site}); });
     EXPECT_EQ(titles(table).substr(0, 23), "a.example + b.example b");
     EXPECT_EQ(selectedTitles(table), QStringList{u"b"_s});
     EXPECT_EQ(currentTitle(table), u"a.example");

@@ -66,7 +66,7 @@ protected:
     void search(const QString &text)
     {
         awaitList(table, [&] {
-            table.setInputs({.search = text});
+            table.setWish({.search = text});
             home.clock.advance(ListLoader::searchDelay);
         });
     }
@@ -120,14 +120,14 @@ TEST_F(RowLookTest, anAddressThatWasFoundIsShown)
 
 TEST_F(RowLookTest, onOneSiteThePathIsEnough)
 {
-    awaitList(table, [this] { table.setInputs({.site = u"allotment.example"_s}); });
+    awaitList(table, [this] { table.setWish({.site = u"allotment.example"_s}); });
     EXPECT_EQ(companion(u"Garden"_s), u"/guides/garden?q=1");
 }
 
 TEST_F(RowLookTest, withoutASearchNothingIsMarked)
 {
     search(u"garden"_s);
-    awaitList(table, [this] { table.setInputs({}); });
+    awaitList(table, [this] { table.setWish({}); });
     EXPECT_FALSE(has(cell(u"Garden"_s), Look::of(view()).match));
 }
 
@@ -160,7 +160,7 @@ TEST_F(RowLookTest, whereNothingMovesTheRowUnderThePointerIsLitAtOnce)
 
 TEST_F(RowLookTest, theArrowOfASectionTurnsByAndBy)
 {
-    awaitList(table, [this] { table.setInputs({.grouping = Grouping::Day}); });
+    awaitList(table, [this] { table.setWish({.grouping = Grouping::Day}); });
     const QModelIndex band = find(table, u"Today"_s);
     const Measures measures = Look::of(view()).measures;
     const auto arrow = [&] {
@@ -386,14 +386,14 @@ TEST_F(RowLookTest, aDraggedTitleIsNoMarkUp)
 
 TEST_F(RowLookTest, aSectionIsNotDraggedOut)
 {
-    awaitList(table, [this] { table.setInputs({.grouping = Grouping::Day}); });
+    awaitList(table, [this] { table.setWish({.grouping = Grouping::Day}); });
     EXPECT_EQ(view().model()->mimeData({find(table, u"Today"_s)}), nullptr);
     EXPECT_FALSE(find(table, u"Today"_s).flags().testFlag(Qt::ItemIsDragEnabled));
 }
 
 TEST_F(RowLookTest, aSitesHeadingOffersThatSiteAlone)
 {
-    awaitList(table, [this] { table.setInputs({.grouping = Grouping::Site}); });
+    awaitList(table, [this] { table.setWish({.grouping = Grouping::Site}); });
     QSignalSpy wanted(&table, &LinkTable::onlySiteRequested);
     rightClick(table, u"trams.example"_s);
     EXPECT_EQ(entries(menu(table, u"siteMenu"_s)), QStringList{u"Show Only trams.example"_s});
@@ -430,7 +430,7 @@ TEST_F(RowLookTest, aBrowserThatThisSystemKnowsShowsItsHistory)
 
 TEST_F(RowLookTest, aDaysHeadingHasNoMenu)
 {
-    awaitList(table, [this] { table.setInputs({.grouping = Grouping::Day}); });
+    awaitList(table, [this] { table.setWish({.grouping = Grouping::Day}); });
     rightClick(table, u"Today"_s);
     EXPECT_EQ(menu(table, u"siteMenu"_s), nullptr);
     EXPECT_EQ(menu(table, u"linkMenu"_s), nullptr);
@@ -449,7 +449,7 @@ TEST_F(RowLookTest, deleteDoesNothing)
 
 TEST_F(RowLookTest, aPressOnABandDragsNothing)
 {
-    awaitList(table, [this] { table.setInputs({.grouping = Grouping::Day}); });
+    awaitList(table, [this] { table.setWish({.grouping = Grouping::Day}); });
     click(table, u"Trams"_s);
     const QPoint band = view().visualRect(find(table, u"Today"_s)).center();
     QTest::mousePress(view().viewport(), Qt::LeftButton, {}, band);
@@ -516,7 +516,7 @@ TEST_F(RowLookTest, aScreenReaderHearsTheWholeDate)
 
 TEST_F(RowLookTest, bandsAreHigherThanRows)
 {
-    awaitList(table, [this] { table.setInputs({.grouping = Grouping::Day}); });
+    awaitList(table, [this] { table.setWish({.grouping = Grouping::Day}); });
     const Measures measures = Look::of(view()).measures;
     EXPECT_EQ(view().visualRect(find(table, u"Today"_s)).height(), measures.sectionHeight);
     EXPECT_EQ(cell(u"Trams"_s).height(), measures.rowHeight);

@@ -67,12 +67,12 @@ sample::HistoryRow TableTest::page(const QString &title, qint64 secondsAgo, qint
             .hidden = false};
 }
 
-void TableTest::show(LinkTable &table, const TableInputs &inputs)
+void TableTest::show(LinkTable &table, const ListWish &wish)
 {
     m_testers.push_back(std::make_unique<QAbstractItemModelTester>(
         table.view().model(), QAbstractItemModelTester::FailureReportingMode::Fatal));
     table.resize(900, 400);
-    table.setInputs(inputs);
+    table.setWish(wish);
     awaitList(table, [&table] {
         table.show();
         table.activateWindow();

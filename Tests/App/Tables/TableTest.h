@@ -42,7 +42,7 @@ protected:
                                    const QString &url = {});
 
     /// Shows the table in a size for several rows. Every model is watched from before its first row.
-    void show(LinkTable &table, const TableInputs &inputs = {});
+    void show(LinkTable &table, const ListWish &wish = {});
     /// Does something that makes the table show a list, and waits for it.
     static void awaitList(LinkTable &table, const std::function<void()> &action);
     /// What is done now makes no list.

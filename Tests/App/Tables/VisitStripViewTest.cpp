@@ -196,7 +196,7 @@ TEST_F(VisitStripViewTest, withoutItsColumnThereIsNone)
 
 TEST_F(VisitStripViewTest, sectionsBySiteHaveNone)
 {
-    awaitList(table, [this] { table.setInputs({.grouping = Grouping::Site}); });
+    awaitList(table, [this] { table.setWish({.grouping = Grouping::Site}); });
     const QModelIndex section = find(table, u"now.example"_s);
     ASSERT_TRUE(section.isValid());
     EXPECT_TRUE(view().tableModel().tree()->visits(TableModel::numberOf(section)).ticks.empty());
@@ -209,7 +209,7 @@ TEST_F(VisitStripViewTest, underADaysHeadingTheTimeAloneIsSaid)
     };
     EXPECT_EQ(date(u"now"_s), u"6:13 AM");
     EXPECT_EQ(date(u"yesterday"_s), u"6:13 AM");
-    awaitList(table, [this] { table.setInputs({}); });
+    awaitList(table, [this] { table.setWish({}); });
     EXPECT_EQ(date(u"yesterday"_s), u"Fri 6:13 AM");
 }
 

@@ -28,7 +28,7 @@ using Action = LinkMenuEntry::Action;
 LinkTable::LinkTable(const WindowServices &services, const Kind &kind, QWidget *parent)
     : QWidget(parent),
       m_services(services),
-      m_mode(kind.mode),
+      m_wish{.mode = kind.mode},
       m_layoutKey(kind.layoutKey),
       m_nothingText(kind.nothingText),
       m_defaultOrder(kind.order),
@@ -74,11 +74,15 @@ LinkTable::~LinkTable()
     delete &m_view;
 }
 
-void LinkTable::setInputs(const TableInputs &inputs)
+void LinkTable::setWish(const ListWish &asked)
 {
-    if (inputs == m_inputs)
+    ListWish wish = asked;
+    wish.mode = m_wish.mode;
+    wish.order = m_wish.order;
+    wish.generation = m_wish.generation;
+    if (wish == m_wish)
         return;
-    m_inputs = inputs;
+    m_wish = wish;
     refresh();
 }
 
@@ -101,16 +105,14 @@ void LinkTable::refresh()
 
 ListWish LinkTable::wish() const
 {
-    ListWish result{.mode = m_mode,
-                    .sourceID = m_inputs.sourceID,
-                    .order = m_order,
-                    .generation = m_services.library.generation()};
+    ListWish result = m_wish;
+    result.generation = m_services.library.generation();
     // Nothing is searched for in folders, so nothing has to be made anew when the search changes.
-    if (m_mode == ListWish::Mode::BookmarkTree)
-        return result;
-    result.search = m_inputs.search;
-    result.site = m_inputs.site;
-    result.grouping = m_inputs.grouping;
+    if (result.mode == ListWish::Mode::BookmarkTree) {
+        result.search.clear();
+        result.site.reset();
+        result.grouping = Grouping::None;
+    }
     return result;
 }
 
@@ -122,13 +124,13 @@ void LinkTable::remake()
 
 void LinkTable::sortBy(int column)
 {
-    setOrder(orderAfterClick(m_order, m_model.columns()[column].content));
+    setOrder(orderAfterClick(m_wish.order, m_model.columns()[column].content));
     refresh();
 }
 
 void LinkTable::setOrder(const QList<SortComparator> &order)
 {
-    m_order = order;
+    m_wish.order = order;
     if (order.isEmpty()) {
         m_view.tableHeader().setSortIndicator(-1, Qt::AscendingOrder);
         return;
@@ -196,7 +198,7 @@ void LinkTable::showList(const ShownList &list)
 {
     noteList(list);
     m_model.setLocalText({m_services.calendar(), list.now});
-    m_view.setSearch({.words = refineWords(refineText(m_inputs.search)), .site = m_inputs.site});
+    m_view.setSearch({.words = refineWords(refineText(m_wish.search)), .site = m_wish.site});
     m_view.showTree(list.tree, list.change == ListChange::Reloaded ? TableView::Scrolling::Stay
                                                                    : TableView::Scrolling::ToTop);
     updateIsWorking();
@@ -208,15 +210,15 @@ QString LinkTable::whyItIsEmpty() const
     const Library &library = m_services.library;
     if (library.snapshot().sources.isEmpty())
         return tr("All profiles are switched off in the settings.");
-    if (m_inputs.sourceID && library.snapshot().problems.contains(*m_inputs.sourceID))
-        return ForeignText::oneLine(library.snapshot().problems.value(*m_inputs.sourceID));
-    const QString site = m_inputs.site ? ForeignText::oneLine(*m_inputs.site) : QString();
-    if (isSearchText(m_inputs.search)) {
-        const QString words = ForeignText::oneLine(m_inputs.search.trimmed(), ForeignText::longestMenuText);
-        return m_inputs.site ? tr("Nothing found for “%1” on %2").arg(words, site)
-                             : tr("Nothing found for “%1”").arg(words);
+    if (m_wish.sourceID && library.snapshot().problems.contains(*m_wish.sourceID))
+        return ForeignText::oneLine(library.snapshot().problems.value(*m_wish.sourceID));
+    const QString site = m_wish.site ? ForeignText::oneLine(*m_wish.site) : QString();
+    if (isSearchText(m_wish.search)) {
+        const QString words = ForeignText::oneLine(m_wish.search.trimmed(), ForeignText::longestMenuText);
+        return m_wish.site ? tr("Nothing found for “%1” on %2").arg(words, site)
+                           : tr("Nothing found for “%1”").arg(words);
     }
-    return m_inputs.site ? tr("Nothing found on %1").arg(site) : m_nothingText;
+    return m_wish.site ? tr("Nothing found on %1").arg(site) : m_nothingText;
 }
 
 QList<Opener::Link> LinkTable::selectedLinks() const

@@ -9,7 +9,6 @@
 #include "App/Tables/TableView.h"
 #include "App/Window/WindowServices.h"
 #include "Library/ListLoader.h"
-#include "Lists/Grouping.h"
 #include "Lists/ListWish.h"
 
 #include <QString>
@@ -23,22 +22,6 @@ class QAction;
 namespace roamlet
 {
 
-/// What a table is asked to show.
-struct TableInputs {
-    // The compiler wants them from whoever names only some of the members.
-    // NOLINTBEGIN(readability-redundant-member-init)
-    /// Absent for all sources.
-    std::optional<QString> sourceID = {};
-    /// As typed.
-    QString search = {};
-    /// Absent for all sites.
-    std::optional<QString> site = {};
-    // NOLINTEND(readability-redundant-member-init)
-    Grouping grouping = Grouping::None;
-
-    bool operator==(const TableInputs &) const = default;
-};
-
 /// What the three tables of the main window have in common: a view of links that are opened, copied and asked
 /// for a menu, and columns that the user arranges. A table that nobody sees does no work; it catches up when
 /// it is shown.
@@ -49,8 +32,8 @@ class LinkTable : public QWidget
 public:
     ~LinkTable() override;
 
-    void setInputs(const TableInputs &inputs);
-    const TableInputs &inputs() const { return m_inputs; }
+    /// What it shall show. Which of the lists it is, the order and the generation are the table's own affair.
+    void setWish(const ListWish &asked);
     /// How many links the shown list has, in open and closed sections and folders.
     qsizetype rowCount() const { return m_model.tree()->linkCount(); }
     TableView &view() const { return m_view; }
@@ -132,12 +115,11 @@ private:
     void saveColumnLayout();
 
     WindowServices m_services;
-    ListWish::Mode m_mode;
+    /// As asked for, without a generation.
+    ListWish m_wish;
     QString m_layoutKey;
     QString m_nothingText;
-    TableInputs m_inputs;
     QList<SortComparator> m_defaultOrder;
-    QList<SortComparator> m_order;
     TableModel m_model;
     TableView &m_view;
     RowIcons m_icons;

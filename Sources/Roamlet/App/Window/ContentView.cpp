@@ -476,15 +476,15 @@ void ContentView::updateList()
 {
     QWidget *list = shownList();
     const std::optional<QString> sourceID = m_pane ? sourceIDOf(*m_pane) : std::nullopt;
-    const TableInputs inputs{.sourceID = sourceID,
-                             .search = m_list.search,
-                             .site = m_list.site,
-                             .grouping =
-                                 m_pane ? m_groupings.value(PaneText::groupedList(*m_pane)) : Grouping::None};
+    const ListWish wish{.sourceID = sourceID,
+                        .search = m_list.search,
+                        .site = m_list.site,
+                        .grouping =
+                            m_pane ? m_groupings.value(PaneText::groupedList(*m_pane)) : Grouping::None};
     auto *table = qobject_cast<LinkTable *>(list);
     // Before it is shown, or else it would begin with what it showed last.
     if (table != nullptr)
-        table->setInputs(inputs);
+        table->setWish(wish);
     m_list.rowCount = table != nullptr ? table->rowCount() : 0;
     const auto *history = qobject_cast<HistoryTable *>(list);
     m_list.isCapped = history != nullptr && history->isCapped();
