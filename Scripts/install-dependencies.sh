@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Installs what is missing for each of the purposes named: build, samples, test, lint, fuzz, bench, fonts,
-# pictures, packaging.
+# Installs what is missing for each of the purposes named: build, samples, test, lint, fuzz, faults, bench,
+# fonts, pictures, packaging.
 set -euo pipefail
 
 build=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-svg-dev libsqlite3-dev libicu-dev libsodium-dev libarchive-dev
@@ -14,6 +14,8 @@ optional_test=(chromium firefox-esr openssl xvfb openbox at-spi2-core)
 lint=(git clang-format-19 clang-tidy-19)
 # The compiler with its sanitizers, and what makes one file of SQLite's source package.
 fuzz=(clang-19 libclang-rt-19-dev llvm-19 dpkg-dev make tcl)
+# What runs the program with failing system calls.
+faults=(python3)
 packaging=(dpkg-dev file openssl)
 pictures=(xvfb openbox trayer xdotool imagemagick dbus-daemon qt6-gtk-platformtheme qt6-wayland sway grim wtype jq
   fonts-dejavu gsettings-desktop-schemas qt6-translations-l10n qt6ct strace util-linux)
@@ -43,7 +45,7 @@ install_missing() {
 
 for purpose in "$@"; do
   case "$purpose" in
-    build | samples | test | lint | fuzz | bench | fonts | pictures | packaging)
+    build | samples | test | lint | fuzz | faults | bench | fonts | pictures | packaging)
       declare -n packages="$purpose"
       install_missing "${packages[@]}"
       ;;
