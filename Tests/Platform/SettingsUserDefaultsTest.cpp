@@ -4,6 +4,7 @@
 #include "Platform/Linux/SettingsUserDefaults.h"
 
 #include "Platform/Variable.h"
+#include "Platform/WithoutPrivileges.h"
 #include "SampleHome/PlainFiles.h"
 
 #include <QDir>
@@ -313,6 +314,36 @@ TEST_F(SettingsUserDefaultsTest, whatIsNoFileOfSettingsIsLeftAlone)
     const QByteArray huge = "[General]\nshowDockIcon=false\n" + QByteArray(2 << 20, '#');
     EXPECT_EQ(written(huge).boolean(u"showDockIcon"_s), std::nullopt);
     EXPECT_EQ(content(), huge);
+}
+
+TEST_F(SettingsUserDefaultsTest, aFileThatCannotBeReadNowLosesNothing)
+{
+    const QByteArray before = "[General]\ndisabledProfiles=chrome/Default\n";
+    sample::writeFile(path(), before);
+    // Whoever may write to it could put another one in its place.
+    ASSERT_EQ(::chmod(qPrintable(folder()), 0777), 0);
+    ASSERT_EQ(::chmod(qPrintable(folder() % u"/Roamlet"), 0777), 0);
+    ASSERT_EQ(::chmod(qPrintable(path()), 0222), 0);
+    {
+        const WithoutPrivileges user;
+        if (!user.arePermissionsChecked())
+            GTEST_SKIP() << "nothing is refused to this user";
+        SettingsUserDefaults defaults(path());
+        defaults.setBoolean(u"showDockIcon"_s, false);
+    }
+    ASSERT_EQ(::chmod(qPrintable(path()), 0600), 0);
+    EXPECT_EQ(content(), before);
+}
+
+TEST_F(SettingsUserDefaultsTest, whatCannotBeSavedIsToldOnce)
+{
+    sample::writeFile(folder() % u"/Roamlet", "a file in the place of the folder");
+    SettingsUserDefaults defaults(path());
+    ::testing::internal::CaptureStderr();
+    defaults.setBoolean(u"showDockIcon"_s, false);
+    defaults.setBoolean(u"showDockIcon"_s, true);
+    const QString told = QString::fromStdString(::testing::internal::GetCapturedStderr());
+    EXPECT_EQ(told.count(u"the settings cannot be saved in "_s), 1) << told.toStdString();
 }
 
 } // namespace roamlet::testing

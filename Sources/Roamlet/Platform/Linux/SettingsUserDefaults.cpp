@@ -9,6 +9,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <utility>
+
 namespace roamlet
 {
 
@@ -21,22 +23,40 @@ SettingsUserDefaults::SettingsUserDefaults() : SettingsUserDefaults(configHome()
 namespace
 {
 
+/// QSettings takes a file that it could not read for an empty one, and would put the next choice in the place
+/// of all others.
+bool canBeRead(const QString &path)
+{
+    QFile file(path);
+    if (file.size() == 0 || !QSettings(path, QSettings::IniFormat).allKeys().isEmpty())
+        return true;
+    // A file without a single value has nothing to lose.
+    return file.open(QFile::ReadOnly) && !file.readAll().contains('=') && file.error() == QFile::NoError;
+}
+
 /// The file, or where it cannot be one of ours, a place where none can be: then the settings are those of a
 /// first start and are forgotten at the end. A pipe would never end, and a huge file take long.
 QString usable(const QString &path)
 {
     constexpr qint64 largest = qint64{1} << 20;
     const QFileInfo file(path);
-    if (!file.exists() || file.isDir() || (file.isFile() && file.size() <= largest))
+    if (!file.exists() || file.isDir())
         return path;
-    qWarning("roamlet: %s is no file of settings and is left alone", qPrintable(path));
-    return path % u"/none";
+    if (!file.isFile() || file.size() > largest) {
+        qWarning("roamlet: %s is no file of settings and is left alone", qPrintable(path));
+        return path % u"/none";
+    }
+    if (!canBeRead(path)) {
+        qWarning("roamlet: %s cannot be read and is left alone", qPrintable(path));
+        return path % u"/none";
+    }
+    return path;
 }
 
 } // namespace
 
 SettingsUserDefaults::SettingsUserDefaults(const QString &path)
-    : m_settings(usable(path), QSettings::IniFormat)
+    : m_settings(usable(path), QSettings::IniFormat), m_isSaved(m_settings.fileName() == path)
 {
     // Only this file: another program's or the system's settings are not ours.
     m_settings.setFallbacksEnabled(false);
@@ -108,7 +128,7 @@ void SettingsUserDefaults::setBytes(const QString &key, const QByteArray &value)
 void SettingsUserDefaults::remove(const QString &key)
 {
     m_settings.remove(key);
-    m_settings.sync();
+    save();
 }
 
 void SettingsUserDefaults::set(const QString &key, const QVariant &value)
@@ -118,7 +138,15 @@ void SettingsUserDefaults::set(const QString &key, const QVariant &value)
         static_cast<void>(file.open(QFile::WriteOnly | QFile::NewOnly, QFile::ReadOwner | QFile::WriteOwner));
     m_settings.setValue(key, value);
     // A choice of the user's must survive a crash a moment later.
+    save();
+}
+
+void SettingsUserDefaults::save()
+{
     m_settings.sync();
+    if (m_settings.status() == QSettings::NoError || !std::exchange(m_isSaved, false))
+        return;
+    qWarning("roamlet: the settings cannot be saved in %s", qPrintable(m_settings.fileName()));
 }
 
 } // namespace roamlet

@@ -32,8 +32,11 @@ public:
 
 private:
     void set(const QString &key, const QVariant &value);
+    /// Complains once where it cannot.
+    void save();
 
     QSettings m_settings;
+    bool m_isSaved;
 };
 
 } // namespace roamlet
