@@ -4,6 +4,7 @@
 #include "Platform/InotifyFileEventsTest.h"
 
 #include <linux/magic.h>
+#include <sys/resource.h>
 
 #include <array>
 #include <cerrno>
@@ -162,6 +163,25 @@ TEST_F(InotifyLimitsTest, whatChangesOnASilentFileSystemHereIsStillReported)
     ASSERT_TRUE(QTest::qWaitFor([this] { return clock.waiting() == 1; }, patience));
     clock.advance(InotifyFileEvents::latency);
     EXPECT_EQ(reports, QList<QStringList>{{path(u"root/History"_s)}});
+}
+
+TEST_F(InotifyLimitsTest, aRootThatCannotBeListedIsSilent)
+{
+    write(u"root/Default/History"_s);
+    rlimit before{};
+    ::getrlimit(RLIMIT_NOFILE, &before);
+    InotifyFileEvents::Calls withoutFiles = calls();
+    // Asked when the root itself is watched, and before anybody looks what is in it.
+    withoutFiles.fileSystem = [&before, kind = withoutFiles.fileSystem](const char *folder) {
+        const rlimit none{0, before.rlim_max};
+        ::setrlimit(RLIMIT_NOFILE, &none);
+        return kind(folder);
+    };
+    InotifyFileEvents unlisted(clock, withoutFiles);
+    const auto watching = unlisted.open({path(u"root"_s)}, [](const QStringList &) {});
+    ::setrlimit(RLIMIT_NOFILE, &before);
+    ASSERT_NE(watching, nullptr);
+    EXPECT_EQ(watching->silentFolders(), QStringList{path(u"root"_s)});
 }
 
 } // namespace roamlet::testing

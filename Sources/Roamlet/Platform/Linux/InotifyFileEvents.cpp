@@ -24,6 +24,7 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <filesystem>
 #include <utility>
 
 namespace roamlet
@@ -204,10 +205,16 @@ private:
     {
         if (contents == Contents::New)
             noteFilesIn(root);
-        const QStringList subfolders =
-            QDir(root).entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden | QDir::System);
-        for (const QString &name : subfolders)
-            watchSubfolder(root % u'/' % name, contents);
+        std::error_code error;
+        std::filesystem::directory_iterator entry(QFile::encodeName(root).toStdString(), error);
+        for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
+            std::error_code ignored;
+            if (entry->is_directory(ignored))
+                watchSubfolder(root % u'/' % utf8Text(entry->path().filename().string()), contents);
+        }
+        // Nobody knows what lies there, so nothing tells when it changes.
+        if (error)
+            noteSilence(root);
     }
 
     void watchSubfolder(const QString &folder, Contents contents)
