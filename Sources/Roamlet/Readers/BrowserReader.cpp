@@ -10,6 +10,7 @@
 #include "Readers/Safari/SafariReader.h"
 
 #include <algorithm>
+#include <new>
 #include <utility>
 
 namespace roamlet::BrowserReader
@@ -121,6 +122,12 @@ const FamilyReader &readerOf(Source::Kind browser)
     return readerOf(Browser::of(browser).family);
 }
 
+/// What takes more memory than there is, is a problem of this source, and no end of all others.
+ReadError noMemory(const Source &source, const ReadContext &context)
+{
+    return ReadError::wrap(std::make_error_code(std::errc::not_enough_memory), historyFile(source, context));
+}
+
 } // namespace
 
 QList<Source> profiles(Source::Kind browser, const ReadContext &context, const QList<Source> &known)
@@ -136,23 +143,42 @@ QString historyFile(const Source &source, const ReadContext &context)
 std::expected<QList<HistoryItem>, ReadError> history(const Source &source, const HistoryQuery &query,
                                                      const ReadContext &context)
 {
-    return readerOf(source.kind).history(source, query, context);
+    try {
+        return readerOf(source.kind).history(source, query, context);
+    } catch (const std::bad_alloc &) {
+        return std::unexpected(noMemory(source, context));
+    }
 }
 
 std::expected<std::shared_ptr<const HistoryText>, ReadError>
 historyText(const Source &source, const ReadContext &context, size_t mostBytes)
 {
-    return readerOf(source.kind).historyText(source, context, mostBytes);
+    try {
+        return readerOf(source.kind).historyText(source, context, mostBytes);
+    } catch (const std::bad_alloc &) {
+        return nullptr;
+    }
 }
 
 std::expected<BookmarkTrees, ReadErrors> bookmarks(const Source &source, const ReadContext &context)
 {
-    return readerOf(source.kind).bookmarks(source, context);
+    try {
+        return readerOf(source.kind).bookmarks(source, context);
+    } catch (const std::bad_alloc &) {
+        return std::unexpected(ReadErrors{noMemory(source, context)});
+    }
 }
 
 Content content(const Source &source, const ReadContext &context)
 {
-    return readerOf(source.kind).content(source, context);
+    try {
+        return readerOf(source.kind).content(source, context);
+    } catch (const std::bad_alloc &) {
+        const ReadError error = noMemory(source, context);
+        return {.bookmarks = std::unexpected(ReadErrors{error}),
+                .history = std::unexpected(error),
+                .favicons = std::unexpected(error)};
+    }
 }
 
 bool isRead(QStringView fileName, Browser::Family family)

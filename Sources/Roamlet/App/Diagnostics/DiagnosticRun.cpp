@@ -21,6 +21,7 @@
 
 #include <algorithm>
 #include <array>
+#include <new>
 #include <optional>
 
 namespace roamlet::DiagnosticRun
@@ -95,7 +96,12 @@ int runDiagnostics(const Command &command, int argc, char **argv)
     std::optional<QCoreApplication> application;
     if (command.job == Command::Job::Watch)
         application.emplace(argc, argv);
-    const int status = Diagnostics::run(command, platform.services(), console, signals.token());
+    int status = failure;
+    try {
+        status = Diagnostics::run(command, platform.services(), console, signals.token());
+    } catch (const std::bad_alloc &) {
+        complain(console, u"there is not enough memory."_s);
+    }
     signals.endProcessIfAsked();
     return status;
 }
