@@ -3,7 +3,7 @@
 
 PREFIX ?= /usr/local
 
-.PHONY: run install package release test check lint format sanitizers fuzz bench clean
+.PHONY: run install package release test check lint format sanitizers fuzz faults bench clean
 
 run: ## Build Roamlet and start it
 	@Scripts/run.sh
@@ -36,6 +36,9 @@ sanitizers: ## Run every test under the address, undefined-behaviour and thread 
 MINUTES ?= 5
 fuzz: ## Attack every door of foreign bytes for MINUTES
 	@Scripts/fuzz.sh $(MINUTES)
+
+faults: ## Let each system call fail in turn
+	@Scripts/check-faults.sh
 
 bench: ## Measure Roamlet against the plain alternatives
 	@Scripts/bench.sh
