@@ -17,6 +17,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <new>
 #include <stop_token>
 
 namespace roamlet::testing
@@ -540,6 +541,24 @@ TEST_F(BadInput, bookmarksThatContainThemselvesOrUnfoldWithoutEndAreAnError)
         ASSERT_FALSE(nodes.has_value());
         EXPECT_EQ(nodes.error().first().path(), path);
         EXPECT_FALSE(nodes.error().first().reason().isEmpty());
+    }
+}
+
+TEST_F(BadInput, memoryThatDoesNotSufficeIsAProblemOfTheSource)
+{
+    writeHome();
+    home.files.failure = [](const QString & /*path*/) -> std::error_code { throw std::bad_alloc(); };
+    for (const Source &source : {Source::safari(), chrome(), firefox()}) {
+        SCOPED_TRACE(source.id().toStdString());
+        const auto history = BrowserReader::history(source, HistoryQuery::recent(), context());
+        ASSERT_FALSE(history);
+        EXPECT_EQ(history.error().reason(), u"Cannot allocate memory"_s);
+        EXPECT_EQ(history.error().path(), BrowserReader::historyFile(source, context()));
+        EXPECT_FALSE(BrowserReader::bookmarks(source, context()));
+        const BrowserReader::Content content = BrowserReader::content(source, context());
+        EXPECT_FALSE(content.history || content.bookmarks || content.favicons);
+        const auto text = BrowserReader::historyText(source, context(), 1 << 20);
+        EXPECT_TRUE(text && *text == nullptr);
     }
 }
 
