@@ -98,6 +98,7 @@ RoamletApp::RoamletApp(const Services &services)
       m_menu({.library = m_services.library,
               .opener = m_opener,
               .activation = services.activation,
+              .calendar = UserLocale::calendar,
               .openMainWindow = [this] { openMainWindow(); },
               .openSettings = [this] { settingsWindow().open(m_mainWindow.get()); },
               .checkForUpdates = [this] { m_services.updater.checkForUpdates(); },

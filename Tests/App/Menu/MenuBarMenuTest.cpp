@@ -9,9 +9,7 @@
 #include "Support/LibraryHome.h"
 #include "Support/Waiting.h"
 
-#include <QLocale>
 #include <QTest>
-#include <QTimeZone>
 
 namespace roamlet::testing
 {
@@ -50,10 +48,12 @@ protected:
     FakeWorkspace workspace;
     Opener opener{workspace};
     FakeActivationPolicy activation;
+    UserCalendar calendar{.timeZone = u"UTC"_s, .locale = u"en_US"_s};
     QStringList events;
     MenuBarMenu menu{{.library = library,
                       .opener = opener,
                       .activation = activation,
+                      .calendar = [this] { return calendar; },
                       .openMainWindow = [this] { note(u"window"_s); },
                       .openSettings = [this] { note(u"settings"_s); },
                       .checkForUpdates = [this] { note(u"check"_s); },
@@ -77,20 +77,18 @@ TEST_F(MenuBarMenuTest, beforeTheFirstLoadItHasNoUpdateTimeAndIsReading)
 
 TEST_F(MenuBarMenuTest, afterALoadItTellsTheTime)
 {
-    const QLocale before;
-    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
-    menu.setLocale(QLocale());
-    const QByteArray zone = qgetenv("TZ");
-    qputenv("TZ", "UTC");
     loadNow(library);
-    qputenv("TZ", zone);
-    if (zone.isNull())
-        qunsetenv("TZ");
-    QLocale::setDefault(before);
     EXPECT_EQ(texts(menu),
               (QStringList{u"Open Roamlet"_s, u"Recently Visited"_s, u"---"_s, u"Updated at 6:13 AM"_s,
                            u"Reload"_s, u"Settings…"_s, u"---"_s, u"Quit Roamlet"_s}));
     EXPECT_FALSE(item(u"updated"_s).isEnabled());
+}
+
+TEST_F(MenuBarMenuTest, writesTheTimeInTheUsersZoneAndLanguage)
+{
+    calendar = {.timeZone = u"Asia/Kolkata"_s, .locale = u"en_AU"_s};
+    loadNow(library);
+    EXPECT_EQ(item(u"updated"_s).text(), u"Updated at 11:43 am"_s);
 }
 
 TEST_F(MenuBarMenuTest, withoutHistoryTheSubmenuSaysSo)

@@ -4,11 +4,11 @@
 #include "App/Menu/MenuBarMenu.h"
 
 #include "App/Look/ForeignText.h"
+#include "App/Tables/LocalText.h"
 #include "Library/Library.h"
 #include "Opening/Opener.h"
 #include "Platform/ActivationPolicy.h"
 
-#include <QDateTime>
 #include <QKeyEvent>
 
 #include <utility>
@@ -123,8 +123,8 @@ void MenuBarMenu::fill()
     const std::optional<PointInTime> updated = library.menuUpdated();
     m_updated->setVisible(updated.has_value());
     if (updated) {
-        const QTime time = QDateTime::fromMSecsSinceEpoch(millisecondsSince1970(*updated)).time();
-        m_updated->setText(tr("Updated at %1").arg(locale().toString(time, QLocale::ShortFormat)));
+        const LocalText local(m_services.calendar(), *updated);
+        m_updated->setText(tr("Updated at %1").arg(local.timeOfDay(*updated)));
     }
 
     m_recent->clear();

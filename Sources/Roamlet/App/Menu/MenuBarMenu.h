@@ -4,6 +4,7 @@
 #pragma once
 
 #include "App/Look/SourceIcons.h"
+#include "Model/UserCalendar.h"
 
 #include <QMenu>
 
@@ -28,6 +29,8 @@ public:
         Library &library;
         Opener &opener;
         ActivationPolicy &activation;
+        /// By which times are told.
+        std::function<UserCalendar()> calendar;
         std::function<void()> openMainWindow;
         std::function<void()> openSettings;
         /// Shows the update that waits.
