@@ -58,7 +58,7 @@ protected:
     {
         return row(number).data(Qt::CheckStateRole).value<Qt::CheckState>() == Qt::Checked;
     }
-    /// Drags a row by its handle to the upper or the lower part of another.
+    /// Drags a row by its handle, until its middle is so far below another's.
     void drag(int from, int to, int offset)
     {
         const QPoint start(12, center(from).y());
@@ -257,6 +257,24 @@ TEST_F(BrowserProfileSettingsTest, theDraggedRowIsCarriedAndTheOthersMakeRoom)
         EXPECT_EQ(list().shownRect(row(i)), list().visualRect(row(i))) << i;
 }
 
+TEST_F(BrowserProfileSettingsTest, theOthersMakeRoomWhereTheRowIsWhereverItWasGrabbed)
+{
+    const QRect place = list().visualRect(row(3));
+    for (const int grabbedAt : {place.top() + 2, place.bottom() - 2}) {
+        const QPoint start(12, grabbedAt);
+        QTest::mousePress(list().viewport(), Qt::LeftButton, {}, start);
+        moveMouse(start - QPoint(0, place.height() * 4 / 10));
+        EXPECT_EQ(list().shownRect(row(2)), list().visualRect(row(2))) << "most of it is in its own place";
+        moveMouse(start - QPoint(0, place.height() * 6 / 10));
+        EXPECT_TRUE(waitUntil([&] { return list().shownRect(row(2)) == place; }));
+        EXPECT_EQ(list().shownRect(row(1)), list().visualRect(row(1)));
+        QTest::keyClick(&list(), Qt::Key_Escape);
+        EXPECT_TRUE(waitUntil([&] { return list().shownRect(row(3)) == place; }));
+        QTest::mouseRelease(list().viewport(), Qt::LeftButton, {}, start);
+    }
+    EXPECT_EQ(labels(), all);
+}
+
 TEST_F(BrowserProfileSettingsTest, aRowThatIsCarriedStaysAmongTheOthers)
 {
     QTest::mousePress(list().viewport(), Qt::LeftButton, {}, center(3));
@@ -296,7 +314,9 @@ TEST_F(BrowserProfileSettingsTest, aRowThatIsDroppedWhereItWasStoresNothing)
 {
     drag(2, 2, 3);
     drag(2, 2, -3);
-    drag(2, 1, 3);
+    const int withinItsPlace = list().visualRect(row(2)).height() / 2 - 1;
+    drag(2, 2, withinItsPlace);
+    drag(2, 2, -withinItsPlace);
     EXPECT_EQ(labels(), all);
     EXPECT_FALSE(home.defaults.contains(u"sourceOrder"_s));
 }

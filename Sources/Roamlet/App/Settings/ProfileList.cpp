@@ -154,23 +154,26 @@ void ProfileList::drag(QPoint position)
 {
     viewport()->setCursor(Qt::ClosedHandCursor);
     m_lifted = m_pressed;
-    const int target = rowAt(position);
-    // The row at the edge comes into view, and on the next move the one after it.
-    const int scrolledFrom = verticalOffset();
-    scrollTo(model()->index(qBound(0, position.y() < 0 ? target - 1 : target, model()->rowCount() - 1), 0));
-    m_pressedAt.ry() -= verticalOffset() - scrolledFrom;
+    // It stays among the others.
+    const QRect rows = box();
+    const QRect place = visualRect(m_lifted);
+    const int lowest = std::max(rows.top(), rows.bottom() + 1 - place.height());
+    const int distance =
+        std::clamp(place.top() + position.y() - m_pressedAt.y(), rows.top(), lowest) - place.top();
+    const QRect lifted = place.translated(0, distance);
+    // Wherever it was grabbed: the others make room where the row itself is.
+    const int row = rowAt(lifted.center().y());
+    const int target = row > m_lifted.row() ? row + 1 : row;
     if (target != m_target) {
         m_target = target;
         makeRoom();
     }
-    // The row itself is where the mouse is, but stays among the others.
-    const QRect rows = box();
-    const QRect place = visualRect(m_lifted);
-    const int top = std::clamp(place.top() + position.y() - m_pressedAt.y(), rows.top(),
-                               std::max(rows.top(), rows.bottom() + 1 - place.height()));
-    m_offsets.insert(m_lifted.row(), top - place.top());
-    m_offsetsAfter.insert(m_lifted.row(), top - place.top());
-    m_offsetsBefore.insert(m_lifted.row(), top - place.top());
+    for (QHash<int, double> *offsets : {&m_offsets, &m_offsetsAfter, &m_offsetsBefore})
+        offsets->insert(m_lifted.row(), distance);
+    // The row that it has reached comes into view, and on the next move the one after it.
+    const int scrolledFrom = verticalOffset();
+    scrollTo(model()->index(rowAt(distance < 0 ? lifted.top() : lifted.bottom()), 0));
+    m_pressedAt.ry() -= verticalOffset() - scrolledFrom;
     viewport()->update();
 }
 
@@ -231,13 +234,14 @@ void ProfileList::focusOutEvent(QFocusEvent *event)
     QListView::focusOutEvent(event);
 }
 
-int ProfileList::rowAt(QPoint position) const
+int ProfileList::rowAt(int y) const
 {
-    for (int row = 0; row < model()->rowCount(); ++row) {
-        if (position.y() < visualRect(model()->index(row, 0)).center().y())
+    const int last = model()->rowCount() - 1;
+    for (int row = 0; row < last; ++row) {
+        if (y <= visualRect(model()->index(row, 0)).bottom())
             return row;
     }
-    return model()->rowCount();
+    return last;
 }
 
 void ProfileList::endDragging()

@@ -47,8 +47,8 @@ private:
     QStyleOptionViewItem optionOf(const QModelIndex &index) const;
     /// The box around the rows, without the room at the sides that a lifted row takes.
     QRect box() const;
-    /// The row before which something that is dropped here comes.
-    int rowAt(QPoint position) const;
+    /// The row in whose place this is, or the nearest one.
+    int rowAt(int y) const;
     void drag(QPoint position);
     void makeRoom();
     void settle();
