@@ -7,7 +7,6 @@
 #include "App/Window/WindowTest.h"
 #include "Support/Waiting.h"
 
-#include <QFocusEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTreeView>
@@ -19,20 +18,6 @@
 
 namespace roamlet::testing
 {
-
-/// Notes why a widget got the keyboard.
-class FocusReasons final : public QObject
-{
-public:
-    bool eventFilter(QObject * /*watched*/, QEvent *event) override
-    {
-        if (event->type() == QEvent::FocusIn)
-            seen.append(static_cast<QFocusEvent *>(event)->reason());
-        return false;
-    }
-
-    QList<Qt::FocusReason> seen;
-};
 
 /// The content of a main window.
 class ContentViewTest : public WindowTest

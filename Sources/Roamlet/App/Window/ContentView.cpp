@@ -118,7 +118,7 @@ ContentView::ContentView(const WindowServices &services, QWidget *parent)
     connect(m_header, &DetailHeader::exportRequested, this, [this] {
         Q_EMIT exportRequested({.sourceID = PaneText::exportSourceID(m_pane, m_services.library.snapshot())});
     });
-    connect(m_header, &DetailHeader::listRequested, this, [this] { focusList(Qt::ShortcutFocusReason); });
+    connect(m_header, &DetailHeader::listRequested, this, &ContentView::focusList);
     connect(m_sidebarPlace, &SidebarPlace::listRequested, this, &ContentView::focusList);
 
     const Library *library = &services.library;
@@ -383,14 +383,14 @@ QMenu *ContentView::groupingMenu() const
     return m_header->groupingMenu();
 }
 
-void ContentView::focusList(Qt::FocusReason reason)
+void ContentView::focusList()
 {
     const bool isEmpty = m_emptyList != nullptr && m_lists->cover() == m_emptyList;
     QWidget *target = isEmpty ? m_emptyList : shownList();
     // A page without a button leaves the keyboard nothing to do.
     if (target->focusProxy() == nullptr)
         target = m_header->searchField();
-    target->setFocus(reason);
+    target->setFocus();
 }
 
 void ContentView::openMainMenu()

@@ -118,9 +118,8 @@ private:
     void updateCover();
     EmptyListPage::Reason whyEmpty(const LinkTable &table) const;
     EmptyListPage *emptyListPage();
-    /// Brings the keyboard to the list, or to what helps where it is empty. Who comes with a key
-    /// (Qt::ShortcutFocusReason) sees where it led.
-    void focusList(Qt::FocusReason reason);
+    /// Brings the keyboard to the list, or to what helps where it is empty.
+    void focusList();
     QWidget *shownList();
     void setGrouping(Grouping grouping);
 

@@ -235,7 +235,7 @@ void Sidebar::keyPressEvent(QKeyEvent *event)
         if (isSection(current))
             setFolded(current, isExpanded(current));
         else
-            Q_EMIT rowChosen(Qt::ShortcutFocusReason);
+            Q_EMIT rowChosen();
         return;
     case Qt::Key_Up:
     case Qt::Key_Down: {
@@ -308,7 +308,7 @@ void Sidebar::mouseReleaseEvent(QMouseEvent *event)
         setFolded(pressed, isExpanded(pressed));
     else {
         setCurrentIndex(pressed);
-        Q_EMIT rowChosen(Qt::OtherFocusReason);
+        Q_EMIT rowChosen();
     }
 }
 

@@ -46,9 +46,8 @@ public:
 Q_SIGNALS:
     /// The user has selected something else, or nothing.
     void paneSelected();
-    /// The user has chosen a row, which may be the selected one, with a key or the mouse: `reason` is why the
-    /// focus would go on from here.
-    void rowChosen(Qt::FocusReason reason);
+    /// The user has chosen a row, which may be the selected one, with a key or the mouse.
+    void rowChosen();
     /// The user wants to export these bookmarks; of all sources when the id is absent.
     void exportRequested(const std::optional<QString> &sourceID);
 

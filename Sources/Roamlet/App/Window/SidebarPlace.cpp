@@ -61,7 +61,7 @@ void SidebarPlace::setRoom(int width)
     if (hasRoom == m_hasRoom)
         return;
     m_hasRoom = hasRoom;
-    bringBack(Qt::OtherFocusReason);
+    bringBack();
     Q_EMIT changed();
 }
 
@@ -70,29 +70,29 @@ void SidebarPlace::setShown(bool isShown)
     if (m_hasRoom) {
         m_isHiddenByUser = !isShown;
         m_defaults.setBoolean(hiddenKey, m_isHiddenByUser);
-        bringBack(Qt::ShortcutFocusReason);
+        bringBack();
     } else if (isShown) {
         showOver();
     } else {
-        bringBack(Qt::ShortcutFocusReason);
+        bringBack();
     }
     Q_EMIT changed();
 }
 
-void SidebarPlace::leave(Qt::FocusReason reason)
+void SidebarPlace::leave()
 {
     if (!m_isOver)
         return;
-    bringBack(reason);
+    bringBack();
     Q_EMIT changed();
 }
 
-void SidebarPlace::bringBack(Qt::FocusReason reason)
+void SidebarPlace::bringBack()
 {
     // First of all: the sidebar is told when it loses the focus, and would be brought back once more.
     const bool wasOver = std::exchange(m_isOver, false);
     if (m_sidebar.hasFocus() && !isBeside())
-        Q_EMIT listRequested(reason);
+        Q_EMIT listRequested();
     if (wasOver) {
         m_sidebar.setIsOverList(false);
         layout()->addWidget(&m_sidebar);
@@ -129,7 +129,7 @@ bool SidebarPlace::eventFilter(QObject *watched, QEvent *event)
                         static_cast<QFocusEvent *>(event)->reason() != Qt::PopupFocusReason;
     if (isEscape || isLeft) {
         // The focus is on its way: nothing may change its parent now.
-        QMetaObject::invokeMethod(this, [this] { leave(Qt::ShortcutFocusReason); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, &SidebarPlace::leave, Qt::QueuedConnection);
     }
     return isEscape;
 }

@@ -35,8 +35,8 @@ public:
 
 Q_SIGNALS:
     void changed();
-    /// The keyboard was in the sidebar, which goes, and is to be in the list now, for this reason.
-    void listRequested(Qt::FocusReason reason);
+    /// The keyboard was in the sidebar, which goes, and is to be in the list now.
+    void listRequested();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -44,10 +44,10 @@ protected:
 
 private:
     int widthBeside() const;
-    /// From over the list. If it has the keyboard, that goes to the list for this reason.
-    void bringBack(Qt::FocusReason reason);
+    /// From over the list. If it has the keyboard, that goes to the list.
+    void bringBack();
     /// The same, when it is no longer wanted there.
-    void leave(Qt::FocusReason reason);
+    void leave();
     void showOver();
     void follow();
 
