@@ -18,7 +18,8 @@ fuzz=(clang-19 libclang-rt-19-dev llvm-19 dpkg-dev make tcl)
 faults=(python3)
 packaging=(dpkg-dev file openssl)
 pictures=(xvfb openbox trayer xdotool imagemagick dbus-daemon qt6-gtk-platformtheme qt6-wayland sway grim wtype jq
-  fonts-dejavu gsettings-desktop-schemas qt6-translations-l10n qt6ct strace util-linux)
+  fonts-dejavu gsettings-desktop-schemas xdg-desktop-portal xdg-desktop-portal-gtk qt6-translations-l10n qt6ct strace
+  util-linux)
 bench=(libbenchmark-dev hyperfine sqlite3 time xvfb trayer xdotool dbus-daemon)
 fonts=(fonts-noto-core fonts-noto-cjk)
 

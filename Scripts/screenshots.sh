@@ -21,8 +21,9 @@ problems=()
 theme=light
 gtk_theme=Adwaita
 last=
-# The program that is photographed, and everything that it needs.
+# The program that is photographed, what tells it of the desktop's settings, and everything that all of them need.
 shown=
+portals=()
 started=()
 
 report() {
@@ -56,6 +57,7 @@ clean_up() {
   local status=$?
   picture=
   [ -z "$shown" ] || end_process "$shown" "the program"
+  end_portals
   # What was started last needs what was started first.
   for ((i = ${#started[@]} - 1; i >= 0; --i)); do end_process "${started[i]}" "a process of the desktop"; done
   rm -rf "$work"
@@ -122,6 +124,28 @@ cursor_flash_time=0
 END
 }
 
+# home folder, then what its desktop has set, as lines of a file
+start_portals() {
+  local around=(env HOME="$1" GSETTINGS_BACKEND=keyfile XDG_CURRENT_DESKTOP=GNOME)
+  local settings=(gdbus call --session -d org.freedesktop.portal.Desktop -o /org/freedesktop/portal/desktop
+    -m org.freedesktop.portal.Settings.ReadAll "['org.gnome.desktop.interface']")
+  mkdir -p "$1/.config/glib-2.0/settings"
+  printf '%s\n' "${@:2}" >"$1/.config/glib-2.0/settings/keyfile"
+  "${around[@]}" /usr/libexec/xdg-desktop-portal-gtk >/dev/null 2>&1 &
+  portals+=($!)
+  # Whoever starts before it would not find it.
+  wait_for 10 "the desktop's own portal" \
+    gdbus wait --session --timeout 1 org.freedesktop.impl.portal.desktop.gtk || return 0
+  "${around[@]}" /usr/libexec/xdg-desktop-portal >/dev/null 2>&1 &
+  portals+=($!)
+  wait_for 10 "the desktop's settings" "${settings[@]}" || true
+}
+
+end_portals() {
+  for portal in "${portals[@]}"; do end_process "$portal" "a portal"; done
+  portals=()
+}
+
 # home folder, then what is special: the environment (QT_SCALE_FACTOR=2), arguments (-reverse), what the program has been
 # told (sidebar.hidden=true), and of the desktop its font (font="Sans 24"), its four colours (palette=amber), whether it
 # asks for more contrast (contrast=true) or forbids motion (motion=false), a session that it brings back (session=ID), a
@@ -157,11 +181,8 @@ begin() {
   printf '%s\n' '[General]' "${settings[@]}" >"$home/.config/Roamlet/Roamlet.conf"
   # A caret that blinks never stands still.
   printf '[Settings]\ngtk-cursor-blink-time=1000000\n%s\n' "${font:+gtk-font-name=$font}" >"$home/.config/gtk-3.0/settings.ini"
-  if [ ${#desktop[@]} -gt 0 ]; then
-    mkdir -p "$home/.config/glib-2.0/settings"
-    printf '%s\n' "${desktop[@]}" >"$home/.config/glib-2.0/settings/keyfile"
-    environment+=(GSETTINGS_BACKEND=keyfile)
-  fi
+  # The program starts no portal by itself.
+  [ ${#desktop[@]} -eq 0 ] || start_portals "$home" "${desktop[@]}"
   env HOME="$home" QT_QPA_PLATFORMTHEME=gtk3 GTK_THEME="$gtk_theme" "${environment[@]}" "${around[@]}" "$program" \
     "${arguments[@]}" >/dev/null 2>&1 &
   shown=$!
@@ -169,6 +190,7 @@ begin() {
 end() {
   end_process "$shown" "the program"
   shown=
+  end_portals
 }
 
 # The compositor is begun after all that is photographed on X11.
