@@ -147,6 +147,36 @@ TEST_F(SessionRestoringTest, withoutATrayASessionWithoutWindowsBringsAMinimisedO
     EXPECT_TRUE(app->mainWindow()->isMinimized());
 }
 
+TEST_F(SessionRestoringTest, theWindowsComeBackAlsoWhereTheLoginHasStartedItBefore)
+{
+    const SessionWindows session{.hasMain = true, .pane = MostVisitedPane{}, .hasSettings = true};
+    begin(true);
+    app->reopen(session);
+    ASSERT_NE(app->mainWindow(), nullptr);
+    EXPECT_TRUE(app->mainWindow()->isVisible());
+    EXPECT_EQ(app->mainWindow()->content()->pane(), Pane(MostVisitedPane{}));
+    EXPECT_TRUE(app->settingsWindow().isVisible());
+}
+
+TEST_F(SessionRestoringTest, whereTheUserWasFasterTheWindowsStayAsTheyAre)
+{
+    begin(true);
+    app->reopen();
+    app->reopen({.hasMain = true, .pane = MostVisitedPane{}, .hasSettings = true});
+    EXPECT_EQ(openWindows(), QWidgetList{app->mainWindow()});
+    EXPECT_EQ(app->mainWindow()->content()->pane(), Pane(HistoryPane{}));
+}
+
+TEST_F(SessionRestoringTest, withoutATrayTheMinimisedWindowIsTheOneThatComesBack)
+{
+    hasTray = false;
+    begin(true);
+    app->reopen({.hasMain = true, .pane = MostVisitedPane{}, .hasSettings = false});
+    EXPECT_EQ(openWindows(), QWidgetList{app->mainWindow()});
+    EXPECT_FALSE(app->mainWindow()->isMinimized());
+    EXPECT_EQ(app->mainWindow()->content()->pane(), Pane(MostVisitedPane{}));
+}
+
 TEST_F(SessionRestoringTest, theUsersOwnStartKnowsNothingOfIt)
 {
     begin(false);

@@ -56,7 +56,7 @@ protected:
         Claim claim = Claim::Alone;
         const std::jthread other([&] {
             DBusRunningInstance instance(QDBusConnection::connectToBus(address, name));
-            claim = instance.claim(wish, [] {});
+            claim = instance.claim(wish, [](Wish /*wish*/) {});
             isDone = true;
         });
         EXPECT_TRUE(waitUntil([&isDone] { return isDone.load(); }));
@@ -71,14 +71,14 @@ protected:
 TEST_F(DBusRunningInstanceTest, theFirstOneRuns)
 {
     DBusRunningInstance first(connection(u"first"_s));
-    EXPECT_EQ(first.claim(Wish::ComeForward, [] {}), Claim::First);
+    EXPECT_EQ(first.claim(Wish::ComeForward, [](Wish /*wish*/) {}), Claim::First);
 }
 
 TEST_F(DBusRunningInstanceTest, aLaterStartActivatesTheFirstAndHandsOver)
 {
     int activations = 0;
     DBusRunningInstance first(connection(u"first"_s));
-    ASSERT_EQ(first.claim(Wish::ComeForward, [&activations] { ++activations; }), Claim::First);
+    ASSERT_EQ(first.claim(Wish::ComeForward, [&activations](Wish /*wish*/) { ++activations; }), Claim::First);
     EXPECT_EQ(claimElsewhere(u"second"_s), Claim::HandedOver);
     EXPECT_EQ(activations, 1);
     EXPECT_EQ(claimElsewhere(u"third"_s), Claim::HandedOver);
@@ -89,28 +89,51 @@ TEST_F(DBusRunningInstanceTest, aStartThatNobodyWaitsForDisturbsNobody)
 {
     int activations = 0;
     DBusRunningInstance first(connection(u"first"_s));
-    ASSERT_EQ(first.claim(Wish::Nothing, [&activations] { ++activations; }), Claim::First);
+    ASSERT_EQ(first.claim(Wish::Nothing, [&activations](Wish /*wish*/) { ++activations; }), Claim::First);
     EXPECT_EQ(claimElsewhere(u"second"_s, Wish::Nothing), Claim::HandedOver);
     // What the second one might have asked for comes before this.
     EXPECT_EQ(claimElsewhere(u"third"_s, Wish::ComeForward), Claim::HandedOver);
     EXPECT_EQ(activations, 1);
 }
 
+TEST_F(DBusRunningInstanceTest, aLaterStartThatRestoresASessionSaysSo)
+{
+    QList<Wish> wishes;
+    DBusRunningInstance first(connection(u"first"_s));
+    ASSERT_EQ(first.claim(Wish::Nothing, [&wishes](Wish wish) { wishes.append(wish); }), Claim::First);
+    EXPECT_EQ(claimElsewhere(u"second"_s, Wish::RestoreSession), Claim::HandedOver);
+    EXPECT_EQ(claimElsewhere(u"third"_s, Wish::ComeForward), Claim::HandedOver);
+    EXPECT_EQ(wishes, (QList<Wish>{Wish::RestoreSession, Wish::ComeForward}));
+}
+
+TEST_F(DBusRunningInstanceTest, anActionThatNobodyKnowsBringsItForward)
+{
+    QList<Wish> wishes;
+    DBusRunningInstance first(connection(u"first"_s));
+    ASSERT_EQ(first.claim(Wish::Nothing, [&wishes](Wish wish) { wishes.append(wish); }), Claim::First);
+    QDBusMessage action =
+        QDBusMessage::createMethodCall(u"org.roamlet.Roamlet"_s, u"/org/roamlet/Roamlet"_s,
+                                       u"org.freedesktop.Application"_s, u"ActivateAction"_s);
+    action << u"dance"_s << QVariantList() << QVariantMap();
+    ASSERT_TRUE(connection(u"desktop"_s).send(action));
+    EXPECT_TRUE(waitUntil([&wishes] { return wishes == QList{Wish::ComeForward}; }));
+}
+
 TEST_F(DBusRunningInstanceTest, theNameIsFreeAgainWhenTheFirstHasEnded)
 {
     {
         DBusRunningInstance first(connection(u"first"_s));
-        ASSERT_EQ(first.claim(Wish::ComeForward, [] {}), Claim::First);
+        ASSERT_EQ(first.claim(Wish::ComeForward, [](Wish /*wish*/) {}), Claim::First);
     }
     DBusRunningInstance second(connection(u"second"_s));
-    EXPECT_EQ(second.claim(Wish::ComeForward, [] {}), Claim::First);
+    EXPECT_EQ(second.claim(Wish::ComeForward, [](Wish /*wish*/) {}), Claim::First);
 }
 
 TEST_F(DBusRunningInstanceTest, theDesktopCanActivateIt)
 {
     int activations = 0;
     DBusRunningInstance first(connection(u"first"_s));
-    ASSERT_EQ(first.claim(Wish::ComeForward, [&activations] { ++activations; }), Claim::First);
+    ASSERT_EQ(first.claim(Wish::ComeForward, [&activations](Wish /*wish*/) { ++activations; }), Claim::First);
     QDBusConnection desktop = connection(u"desktop"_s);
     QDBusMessage activate = QDBusMessage::createMethodCall(
         u"org.roamlet.Roamlet"_s, u"/org/roamlet/Roamlet"_s, u"org.freedesktop.Application"_s, u"Activate"_s);
@@ -160,7 +183,7 @@ TEST_F(DBusRunningInstanceTest, aProgramThatIsEndingLeavesThePlaceToTheNext)
 {
     int activations = 0;
     DBusRunningInstance first(connection(u"first"_s));
-    ASSERT_EQ(first.claim(Wish::ComeForward, [&activations] { ++activations; }), Claim::First);
+    ASSERT_EQ(first.claim(Wish::ComeForward, [&activations](Wish /*wish*/) { ++activations; }), Claim::First);
     first.release();
     EXPECT_EQ(claimElsewhere(u"second"_s), Claim::First);
     EXPECT_EQ(activations, 0);
@@ -169,7 +192,7 @@ TEST_F(DBusRunningInstanceTest, aProgramThatIsEndingLeavesThePlaceToTheNext)
 TEST(DBusRunningInstanceWithoutABusTest, theProgramRunsAlone)
 {
     DBusRunningInstance instance(QDBusConnection::connectToBus(u"unix:path=/nonexistent/bus"_s, u"no bus"_s));
-    EXPECT_EQ(instance.claim(Wish::ComeForward, [] {}), Claim::Alone);
+    EXPECT_EQ(instance.claim(Wish::ComeForward, [](Wish /*wish*/) {}), Claim::Alone);
     QDBusConnection::disconnectFromBus(u"no bus"_s);
 }
 

@@ -291,6 +291,12 @@ void RoamletApp::reopen()
     m_delegate.applicationShouldHandleReopen(hasVisibleWindow());
 }
 
+void RoamletApp::reopen(const SessionWindows &session)
+{
+    if (!hasVisibleWindow())
+        restoreSession(session);
+}
+
 int RoamletApp::run(int argc, char **argv)
 {
     int status = 0;
@@ -338,12 +344,14 @@ int RoamletApp::runUntilTheEnd(int argc, char **argv, const std::stop_token &sto
     library.start();
     DBusRunningInstance instance;
     // Asked for by whoever starts it once more.
-    std::function<void()> reopen;
     using Wish = RunningInstance::Wish;
-    // A desktop that restores its session starts the program beside the login item; that opens no window.
-    if (instance.claim(isAwaited ? Wish::ComeForward : Wish::Nothing, [&reopen] {
+    std::function<void(Wish)> reopen;
+    // A desktop that restores its session starts the program beside the login item, and either can be the
+    // first.
+    const Wish wish = !isAwaited ? Wish::Nothing : isRestored ? Wish::RestoreSession : Wish::ComeForward;
+    if (instance.claim(wish, [&reopen](Wish later) {
             if (reopen)
-                reopen();
+                reopen(later);
         }) == RunningInstance::Claim::HandedOver)
         return 0;
 
@@ -374,9 +382,12 @@ int RoamletApp::runUntilTheEnd(int argc, char **argv, const std::stop_token &sto
                                          .hasTray = MenuBarIcon::isAvailable});
         app->start(isLaunchedAtLogin, session);
     };
-    reopen = [&] {
+    reopen = [&](Wish later) {
         start();
-        app->reopen();
+        if (later == Wish::RestoreSession)
+            app->reopen(SessionWindows::stored(services.defaults));
+        else
+            app->reopen();
     };
     QObject waiting;
     if (!isAwaited)

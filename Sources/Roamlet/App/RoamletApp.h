@@ -64,6 +64,9 @@ public:
     void start(bool isLaunchedAtLogin, const SessionWindows &session = {});
     /// The user has started the program once more.
     void reopen();
+    /// The session manager has, to bring back the session's windows, where something else had started the
+    /// program already. What the user has opened meanwhile stays as it is.
+    void reopen(const SessionWindows &session);
 
     Library &library() { return m_services.library; }
     /// The main window, or nothing while there is none.

@@ -19,8 +19,9 @@ public:
     };
     /// What a start wants of the one that runs already.
     enum class Wish {
-        ComeForward, ///< the user has started the program once more
-        Nothing,     ///< the desktop has, and nobody waits for a window
+        ComeForward,    ///< the user has started the program once more
+        RestoreSession, ///< the desktop has, and the windows of its last session shall come back
+        Nothing,        ///< the desktop has, and nobody waits for a window
     };
 
     RunningInstance() = default;
@@ -29,8 +30,8 @@ public:
     virtual ~RunningInstance() = default;
 
     /// Claims to be the running program. As the first one, `activated` is called for each later start that
-    /// wishes it to come forward.
-    virtual Claim claim(Wish wish, std::function<void()> activated) = 0;
+    /// wishes something.
+    virtual Claim claim(Wish wish, std::function<void(Wish)> activated) = 0;
     /// The program is about to end: from now on a later start is the first one.
     virtual void release() = 0;
 };

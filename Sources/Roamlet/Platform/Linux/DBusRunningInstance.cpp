@@ -20,6 +20,7 @@ namespace
 const QString serviceName = u"org.roamlet.Roamlet"_s;
 const QString objectPath = u"/org/roamlet/Roamlet"_s;
 const QString interfaceName = u"org.freedesktop.Application"_s;
+const QString restoreAction = u"restore-session"_s;
 /// A program that does not answer for so long is not coming forward, and this start ends all the same.
 constexpr int activationTimeout = 5'000; // milliseconds
 /// A bus that falls silent meanwhile holds up the start no longer than this.
@@ -36,7 +37,7 @@ DBusRunningInstance::~DBusRunningInstance()
     release();
 }
 
-RunningInstance::Claim DBusRunningInstance::claim(Wish wish, std::function<void()> activated)
+RunningInstance::Claim DBusRunningInstance::claim(Wish wish, std::function<void(Wish)> activated)
 {
     if (!m_bus.isConnected())
         return Claim::Alone;
@@ -55,7 +56,7 @@ RunningInstance::Claim DBusRunningInstance::claim(Wish wish, std::function<void(
             m_activated = std::move(activated);
             return Claim::First;
         }
-        if (wish == Wish::Nothing || bringForward()) {
+        if (wish == Wish::Nothing || tell(wish)) {
             m_bus.unregisterObject(objectPath);
             return Claim::HandedOver;
         }
@@ -65,12 +66,16 @@ RunningInstance::Claim DBusRunningInstance::claim(Wish wish, std::function<void(
 }
 
 /// Whether there is still one that has the name. One that is stuck counts: a second one would not free it.
-bool DBusRunningInstance::bringForward()
+bool DBusRunningInstance::tell(Wish wish)
 {
     const QString owner = m_bus.interface()->serviceOwner(serviceName);
     if (owner.isEmpty())
         return false;
-    QDBusMessage message = QDBusMessage::createMethodCall(owner, objectPath, interfaceName, u"Activate"_s);
+    const bool isSession = wish == Wish::RestoreSession;
+    QDBusMessage message = QDBusMessage::createMethodCall(owner, objectPath, interfaceName,
+                                                          isSession ? u"ActivateAction"_s : u"Activate"_s);
+    if (isSession)
+        message << restoreAction << QVariantList();
     message << QVariantMap();
     const bool isHeard =
         m_bus.call(message, QDBus::Block, activationTimeout).type() == QDBusMessage::ReplyMessage;
@@ -88,7 +93,7 @@ void DBusRunningInstance::release()
 void DBusRunningInstance::Activate(const QVariantMap & /*platformData*/)
 {
     if (m_activated)
-        m_activated();
+        m_activated(Wish::ComeForward);
 }
 
 void DBusRunningInstance::Open(const QStringList & /*uris*/, const QVariantMap &platformData)
@@ -96,10 +101,11 @@ void DBusRunningInstance::Open(const QStringList & /*uris*/, const QVariantMap &
     Activate(platformData);
 }
 
-void DBusRunningInstance::ActivateAction(const QString & /*name*/, const QVariantList & /*parameters*/,
-                                         const QVariantMap &platformData)
+void DBusRunningInstance::ActivateAction(const QString &name, const QVariantList & /*parameters*/,
+                                         const QVariantMap & /*platformData*/)
 {
-    Activate(platformData);
+    if (m_activated)
+        m_activated(name == restoreAction ? Wish::RestoreSession : Wish::ComeForward);
 }
 
 } // namespace roamlet

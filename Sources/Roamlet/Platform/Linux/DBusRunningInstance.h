@@ -27,7 +27,7 @@ public:
     explicit DBusRunningInstance(const QDBusConnection &bus);
     ~DBusRunningInstance() override;
 
-    Claim claim(Wish wish, std::function<void()> activated) override;
+    Claim claim(Wish wish, std::function<void(Wish)> activated) override;
     void release() override;
 
 public Q_SLOTS:
@@ -36,13 +36,14 @@ public Q_SLOTS:
     Activate(const QVariantMap &platformData); // NOLINT(readability-identifier-naming): the interface's name
     /// There is nothing that could be opened with this program; it comes forward.
     void Open(const QStringList &uris, const QVariantMap &platformData);
+    /// No action is one for the desktop's menus; a start that restores a session asks by one.
     void ActivateAction(const QString &name, const QVariantList &parameters, const QVariantMap &platformData);
 
 private:
-    bool bringForward();
+    bool tell(Wish wish);
 
     QDBusConnection m_bus;
-    std::function<void()> m_activated;
+    std::function<void(Wish)> m_activated;
 };
 
 } // namespace roamlet
