@@ -5,6 +5,7 @@
 
 #include "App/Look/Look.h"
 
+#include <QApplication>
 #include <QLabel>
 #include <QLayout>
 #include <QPushButton>
@@ -41,6 +42,30 @@ TEST(EmptyStateTest, itsGapsGrowWithItsLetters)
     const QList<int> after = gaps();
     for (qsizetype i = 0; i < before.size(); ++i)
         EXPECT_GE(after[i], before[i] + before[i] / 2) << i;
+}
+
+TEST(EmptyStateTest, theSignGivesWayToWhatIsSaid)
+{
+    QWidget window;
+    EmptyState page(u"globe"_s, u"Nothing here"_s, &window);
+    page.setText(u"Really nothing."_s);
+    const auto *button = page.addAction(u"Reload"_s, u"reload"_s);
+    const auto *text = page.findChild<QLabel *>(u"emptyStateText"_s);
+    const auto *sign = page.findChild<QLabel *>();
+    page.resize(400, 600);
+    window.resize(400, 600);
+    window.show();
+    QApplication::processEvents();
+    EXPECT_TRUE(sign->isVisible());
+    const int all = page.layout()->totalHeightForWidth(page.width());
+    page.resize(400, all - 1);
+    QApplication::processEvents();
+    EXPECT_FALSE(sign->isVisible());
+    EXPECT_LE(text->geometry().bottom(), button->geometry().top());
+    EXPECT_GE(text->height(), text->sizeHint().height());
+    page.resize(400, all);
+    QApplication::processEvents();
+    EXPECT_TRUE(sign->isVisible());
 }
 
 } // namespace roamlet::testing

@@ -174,7 +174,7 @@ void BrowserPlaces::followFont()
 {
     const Measures measures(font());
     setMaximumWidth(measures.units(widestPlaces));
-    setMinimumHeight(3 * measures.rowHeight);
+    setMinimumHeight(measures.rowHeight + (2 * placesRing));
 }
 
 } // namespace roamlet

@@ -74,6 +74,10 @@ bool EmptyState::event(QEvent *event)
     case QEvent::ScreenChangeInternal:
         updateLook();
         break;
+    case QEvent::Resize:
+    case QEvent::LayoutRequest:
+        makeRoom();
+        break;
     default:
         break;
     }
@@ -112,6 +116,13 @@ void EmptyState::updateLook()
         .paint(&painter, QRect(start, start, symbol, symbol));
     painter.end();
     m_icon->setPixmap(disc);
+}
+
+void EmptyState::makeRoom()
+{
+    const int icon = m_icon->sizeHint().height();
+    const int all = layout()->totalHeightForWidth(width()) + (m_icon->isHidden() ? icon : 0);
+    m_icon->setVisible(all <= height());
 }
 
 void EmptyState::paintEvent(QPaintEvent * /*event*/)

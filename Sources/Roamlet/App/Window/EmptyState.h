@@ -38,6 +38,8 @@ protected:
 
 private:
     void updateLook();
+    /// Without the sign, where it would leave too little to what is said.
+    void makeRoom();
 
     QString m_symbol;
     QLabel *m_icon;
