@@ -6,6 +6,7 @@
 #include "App/Window/SiteFilterBar.h"
 #include "Support/Waiting.h"
 
+#include <QApplication>
 #include <QLabel>
 #include <QVBoxLayout>
 
@@ -84,6 +85,20 @@ TEST(FullDiskAccessBannerTest, saysWhatIsInTheWayOnlyWhenThatIsKnown)
     banner.setDetails(u"The file is somebody else's."_s);
     EXPECT_FALSE(details->isHidden());
     EXPECT_EQ(details->text(), u"The file is somebody else's.");
+}
+
+TEST(FullDiskAccessBannerTest, noneOfItsWordsIsCutWhereThereIsLittleRoom)
+{
+    FullDiskAccessBanner banner;
+    banner.setOpen(true);
+    const auto *heading = banner.findChild<QLabel *>(u"fullDiskAccessHeading"_s);
+    const int oneLine = heading->sizeHint().height();
+    banner.resize(banner.minimumSizeHint().width(), 400);
+    banner.show();
+    QApplication::processEvents();
+    EXPECT_LT(heading->width(), QFontMetrics(heading->font()).horizontalAdvance(heading->text()));
+    EXPECT_GE(heading->height(), heading->heightForWidth(heading->width()));
+    EXPECT_GT(heading->height(), oneLine);
 }
 
 } // namespace roamlet::testing

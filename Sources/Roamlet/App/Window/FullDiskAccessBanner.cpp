@@ -28,7 +28,7 @@ FullDiskAccessBanner::FullDiskAccessBanner(QWidget *parent)
     m_heading->setObjectName(u"fullDiskAccessHeading"_s);
     m_text->setObjectName(u"fullDiskAccessText"_s);
     m_details->setObjectName(u"fullDiskAccessDetails"_s);
-    for (QLabel *label : {m_text, m_details}) {
+    for (QLabel *label : {m_heading, m_text, m_details}) {
         label->setTextFormat(Qt::PlainText);
         label->setWordWrap(true);
     }
