@@ -10,6 +10,7 @@
 #include <QHBoxLayout>
 #include <QImage>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPushButton>
 #include <QTest>
 
@@ -149,6 +150,29 @@ TEST_F(RoamletStyleTest, aButtonIsToldFromItsGroundInEveryTheme)
         palette.setColor(QPalette::Text, ink);
         window.setPalette(palette);
         EXPECT_GE(contrastRatio(groundOf(*first), ground), 1.06);
+    }
+}
+
+TEST_F(RoamletStyleTest, aMenuHasAnOutlineOnlyWhereItsThemesOwnCannotBeSeen)
+{
+    QMenu menu(&window);
+    RoamletStyle::outline(menu);
+    menu.addAction(u"Open"_s);
+    for (const bool isBlack : {true, false, true}) {
+        QPalette palette = menu.palette();
+        palette.setColor(QPalette::Window, isBlack ? Qt::black : Qt::lightGray);
+        palette.setColor(QPalette::Base, isBlack ? Qt::black : Qt::white);
+        palette.setColor(QPalette::Text, isBlack ? Qt::white : Qt::black);
+        menu.setPalette(palette);
+        menu.popup(QPoint(10, 10));
+        EXPECT_EQ(dynamic_cast<const RoamletStyle *>(menu.style()) != nullptr, isBlack);
+        if (isBlack) {
+            const QImage image = picture(menu);
+            for (const QPoint edge :
+                 {QPoint(0, 5), QPoint(5, 0), QPoint(menu.width() - 1, 5), QPoint(5, menu.height() - 1)})
+                EXPECT_GE(contrastRatio(image.pixelColor(edge), Qt::black), 3);
+        }
+        menu.close();
     }
 }
 

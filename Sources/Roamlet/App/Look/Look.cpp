@@ -30,6 +30,8 @@ constexpr double matchContrast = 1.32;
 constexpr double leastMarkContrast = 3;
 /// What a text still has on a match in a theme whose texts are too pale for more.
 constexpr double leastInkContrast = 3;
+/// Between a ground and black, below which nothing darker is seen on it.
+constexpr double leastShadowContrast = 1.2;
 /// How much ink a quiet text has at least.
 constexpr double quietShare = 0.58;
 /// By how much a share grows while one is searched for that is seen.
@@ -265,6 +267,8 @@ Look::Look(const QPalette &palette, const QFont &font, Contrast contrast)
     const QColor own = mixer.color(QPalette::Highlight);
     const QColor highlight = own == base ? ink : own;
     edge = readableMix(base, ink, 0.30, {base, window, side, card.base}, m_markContrast).value_or(ink);
+    isOutlined = contrast == Contrast::More || contrastRatio(window, Qt::black) < leastShadowContrast;
+    outline = isOutlined ? edge : card.hairline;
     // Between dark windows and light lists there may be no room for both selections, too.
     const QColor nearly = shade(highlight, {base, side}, m_markContrast, ink);
     accent =

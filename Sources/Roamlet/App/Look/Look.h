@@ -162,6 +162,10 @@ struct Look {
     QColor scrim;
     /// Below what has been lifted from its ground, where it is darkest.
     QColor shadow;
+    /// Around what lies above all else.
+    QColor outline;
+    /// Whether that has to be seen, since no shadow is, or since the desktop asks for more contrast.
+    bool isOutlined;
     /// What a control that is off consists of, or its outline.
     QColor edge;
     /// A control that is on, and what stands out on it.

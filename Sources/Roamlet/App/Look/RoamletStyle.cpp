@@ -3,10 +3,12 @@
 
 #include "App/Look/RoamletStyle.h"
 
+#include "App/Look/Hairline.h"
 #include "App/Look/Look.h"
 #include "App/Look/Painting.h"
 
 #include <QLineEdit>
+#include <QMenu>
 #include <QPainter>
 #include <QPushButton>
 #include <QStyleOptionButton>
@@ -91,18 +93,32 @@ void drawPushButton(const QStyleOptionButton &button, QPainter &painter, const Q
 
 } // namespace
 
-void RoamletStyle::applyTo(QWidget &root)
+RoamletStyle &RoamletStyle::shared()
 {
     // Every window shares it, and it goes with the process.
     static auto *const style = new RoamletStyle;
+    return *style;
+}
+
+void RoamletStyle::outline(QMenu &menu)
+{
+    connect(&menu, &QMenu::aboutToShow, &menu, [&menu] {
+        QStyle *const wanted = Look::of(menu).isOutlined ? &shared() : nullptr;
+        if ((menu.style() == &shared()) != (wanted != nullptr))
+            menu.setStyle(wanted);
+    });
+}
+
+void RoamletStyle::applyTo(QWidget &root)
+{
     QWidgetList ours;
     for (QPushButton *button : root.findChildren<QPushButton *>())
         ours.append(button);
     if (qobject_cast<QPushButton *>(&root) != nullptr || qobject_cast<QLineEdit *>(&root) != nullptr)
         ours.append(&root);
     for (QWidget *widget : ours) {
-        if (widget->style() != style)
-            widget->setStyle(style);
+        if (widget->style() != &shared())
+            widget->setStyle(&shared());
     }
 }
 
@@ -118,6 +134,17 @@ int RoamletStyle::pixelMetric(PixelMetric metric, const QStyleOption *option, co
     if (metric == PM_LineEditIconSize && widget != nullptr)
         return Measures(widget->font()).iconSide;
     return QProxyStyle::pixelMetric(metric, option, widget);
+}
+
+void RoamletStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
+                                 const QWidget *widget) const
+{
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    // Some styles draw the frame by itself, others with the ground.
+    if ((element != PE_PanelMenu && element != PE_FrameMenu) || widget == nullptr)
+        return;
+    for (const Qt::Edge edge : {Qt::TopEdge, Qt::BottomEdge, Qt::LeftEdge, Qt::RightEdge})
+        paintHairline(*painter, option->rect, edge, Look::of(*widget).outline);
 }
 
 void RoamletStyle::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,

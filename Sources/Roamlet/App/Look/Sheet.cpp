@@ -40,7 +40,7 @@ protected:
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
         const qreal half = hairline(painter) / 2;
-        painter.setPen(QPen(look.card.hairline, 2 * half));
+        painter.setPen(QPen(look.outline, 2 * half));
         painter.setBrush(look.page.base);
         const qreal radius = look.measures.boxRadius;
         painter.drawRoundedRect(cardOutline(QRectF(rect()).adjusted(half, half, -half, -half), radius),

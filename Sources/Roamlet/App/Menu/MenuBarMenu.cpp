@@ -4,6 +4,7 @@
 #include "App/Menu/MenuBarMenu.h"
 
 #include "App/Look/ForeignText.h"
+#include "App/Look/RoamletStyle.h"
 #include "App/Tables/LocalText.h"
 #include "Library/Library.h"
 #include "Opening/Opener.h"
@@ -34,6 +35,8 @@ MenuBarMenu::MenuBarMenu(const Services &services, QWidget *parent)
     m_recent->setToolTipsVisible(true);
     m_recent->installEventFilter(this);
     addMenu(m_recent);
+    for (QMenu *menu : {static_cast<QMenu *>(this), m_recent})
+        RoamletStyle::outline(*menu);
     addSeparator();
     m_updated = addAction(QString());
     m_updated->setObjectName(u"updated"_s);

@@ -4,6 +4,7 @@
 #include "App/Tables/LinkTable.h"
 
 #include "App/Look/ForeignText.h"
+#include "App/Look/RoamletStyle.h"
 #include "App/Tables/RowDelegate.h"
 #include "App/Tables/TableHeader.h"
 #include "Library/Library.h"
@@ -244,6 +245,7 @@ void LinkTable::showLinkMenu(const QPoint &place)
     if (entries.isEmpty())
         return;
     auto *menu = new QMenu(this);
+    RoamletStyle::outline(*menu);
     menu->setObjectName(u"linkMenu"_s);
     menu->setAccessibleName(tr("Links"));
     menu->setAttribute(Qt::WA_DeleteOnClose);
@@ -287,7 +289,9 @@ void LinkTable::showSiteMenu(const QString &site, const QPoint &place)
     subject.site = site;
     const LinkMenuEntry entry = onlySiteEntry(site);
     auto *menu = new QMenu(this);
+    RoamletStyle::outline(*menu);
     menu->setObjectName(u"siteMenu"_s);
+    menu->setAccessibleName(tr("Links"));
     menu->setAttribute(Qt::WA_DeleteOnClose);
     menu->addAction(ForeignText::inMenu(entry.title), this,
                     [this, entry, subject] { perform(entry, subject); });
@@ -329,6 +333,7 @@ void LinkTable::showColumnMenu(const QPoint &place)
 {
     TableHeader &header = m_view.tableHeader();
     auto *menu = new QMenu(this);
+    RoamletStyle::outline(*menu);
     menu->setObjectName(u"columnMenu"_s);
     menu->setAccessibleName(tr("Columns"));
     menu->setAttribute(Qt::WA_DeleteOnClose);
@@ -342,6 +347,7 @@ void LinkTable::showColumnMenu(const QPoint &place)
     }
     menu->addSeparator();
     QMenu *orders = menu->addMenu(tr("Sort By"));
+    RoamletStyle::outline(*orders);
     for (int column = 0; column < m_model.columns().size(); ++column)
         orders->addAction(m_model.columns()[column].title, this, [this, column] { sortBy(column); });
     menu->addAction(tr("Default Order"), this, [this] {

@@ -125,7 +125,7 @@ void RowBubble::paintEvent(QPaintEvent * /*event*/)
     outline.addRoundedRect(
         body.adjusted(isRoundAtTheRight ? -2 * radius : 0, 0, isRoundAtTheRight ? 0 : 2 * radius, 2 * radius),
         radius, radius);
-    painter.setPen(QPen(look.list.hairline, 1));
+    painter.setPen(QPen(look.outline, 1));
     painter.setBrush(look.card.base);
     painter.drawPath(outline);
 

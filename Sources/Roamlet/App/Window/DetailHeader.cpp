@@ -7,6 +7,7 @@
 #include "App/Look/ElidedLabel.h"
 #include "App/Look/ForeignText.h"
 #include "App/Look/Look.h"
+#include "App/Look/RoamletStyle.h"
 #include "App/Look/Symbol.h"
 #include "App/Window/GroupByButton.h"
 #include "App/Window/PaneText.h"
@@ -64,6 +65,8 @@ DetailHeader::DetailHeader(QWidget *parent)
     m_mainMenu->setObjectName(u"mainMenu"_s);
     m_menuButton->setObjectName(u"menuButton"_s);
     m_menuButton->setMenu(m_mainMenu);
+    for (QMenu *menu : {m_groupingMenu, m_mainMenu})
+        RoamletStyle::outline(*menu);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     updateLook();
 

@@ -6,6 +6,7 @@
 #include "App/Look/Hairline.h"
 #include "App/Look/Look.h"
 #include "App/Look/Painting.h"
+#include "App/Look/RoamletStyle.h"
 #include "App/Look/Symbol.h"
 #include "App/Window/PaneText.h"
 #include "App/Window/SidebarDelegate.h"
@@ -374,7 +375,9 @@ void Sidebar::contextMenuEvent(QContextMenuEvent *event)
         return;
     const std::optional<QString> sourceID = sourceIDOf(*pane);
     auto *menu = new QMenu(this);
+    RoamletStyle::outline(*menu);
     menu->setObjectName(u"sidebarMenu"_s);
+    menu->setAccessibleName(tr("Bookmarks"));
     menu->setAttribute(Qt::WA_DeleteOnClose);
     QAction *action = menu->addAction(tr("Export Bookmarks…"));
     action->setEnabled(PaneText::hasBookmarks(sourceID, m_services.library.snapshot()));

@@ -3,6 +3,8 @@
 
 #include "App/Window/WindowCommands.h"
 
+#include "App/Look/RoamletStyle.h"
+
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
@@ -57,6 +59,7 @@ void WindowCommands::fill(QMenuBar &bar) const
 {
     const auto addMenu = [&](const QString &title, const QList<ID> &first, const QList<ID> &then = {}) {
         QMenu *menu = bar.addMenu(title);
+        RoamletStyle::outline(*menu);
         append(*menu, first);
         append(*menu, then);
     };
