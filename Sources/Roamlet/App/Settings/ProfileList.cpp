@@ -289,9 +289,10 @@ void ProfileList::drawLifted(QPainter &painter) const
     const Look look = Look::of(*this);
     const qreal radius = look.measures.fieldRadius;
     const QRect place = shownRect(m_lifted);
-    drawShadow(painter, place, radius, look);
+    // At its sides there is no room for one: above and below it ends softly there.
+    drawShadow(painter, QRectF(place).adjusted(radius, 0, -radius, 0), radius, look);
     const qreal line = hairline(painter);
-    painter.setPen(QPen(look.card.hairline, line));
+    painter.setPen(QPen(look.outline, line));
     painter.setBrush(look.card.base);
     painter.drawRoundedRect(QRectF(place).adjusted(line / 2, line / 2, -line / 2, -line / 2), radius, radius);
     drawRow(painter, m_lifted, place);
