@@ -115,9 +115,10 @@ TEST_F(BrowserPlacesTest, whereThereIsNoRoomForAllItScrollsByKey)
     EXPECT_EQ(bar->maximum(), 0) << "all of them fit";
     EXPECT_EQ(places->focusPolicy(), Qt::NoFocus);
     EXPECT_EQ(places->height(), places->sizeHint().height());
-    page.resize(900, 420);
+    page.resize(900, 300);
     EXPECT_TRUE(waitUntil([bar] { return bar->maximum() > 0; }));
     EXPECT_EQ(places->focusPolicy(), Qt::TabFocus);
+    EXPECT_EQ(places->accessibleName(), u"Browsers");
     page.activateWindow();
     ASSERT_TRUE(waitUntil([this] { return page.isActiveWindow(); }));
     const auto edge = [this] { return places->grab().toImage().pixelColor(places->width() / 2, 0); };

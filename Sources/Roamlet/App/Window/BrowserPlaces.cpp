@@ -121,6 +121,7 @@ private:
 BrowserPlaces::BrowserPlaces(const Folders &folders, QWidget *parent) : QScrollArea(parent)
 {
     setObjectName(u"browserPlaces"_s);
+    setAccessibleName(tr("Browsers"));
     setFrameShape(NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setWidgetResizable(true);

@@ -120,9 +120,17 @@ void EmptyState::updateLook()
 
 void EmptyState::makeRoom()
 {
-    const int icon = m_icon->sizeHint().height();
-    const int all = layout()->totalHeightForWidth(width()) + (m_icon->isHidden() ? icon : 0);
-    m_icon->setVisible(all <= height());
+    const Measures measures(font());
+    const int margin = measures.alignmentLine;
+    QMargins margins = layout()->contentsMargins();
+    int all = layout()->totalHeightForWidth(width()) - margins.top() - margins.bottom() + (2 * margin);
+    if (m_icon->isHidden())
+        all += m_icon->sizeHint().height();
+    const bool hasRoom = all <= height();
+    m_icon->setVisible(hasRoom);
+    margins.setTop(hasRoom ? margin : measures.barPadding);
+    margins.setBottom(margins.top());
+    layout()->setContentsMargins(margins);
 }
 
 void EmptyState::paintEvent(QPaintEvent * /*event*/)

@@ -38,7 +38,7 @@ protected:
 
 private:
     void updateLook();
-    /// Without the sign, where it would leave too little to what is said.
+    /// Without the sign and with narrow margins, where these would leave too little to what is said.
     void makeRoom();
 
     QString m_symbol;
