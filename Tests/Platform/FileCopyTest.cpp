@@ -177,6 +177,31 @@ TEST_F(FileCopyTest, aCopyThatNeverIsGoodIsLeftAsItIs)
     EXPECT_TRUE(content(target) == bytes(100));
 }
 
+TEST_F(FileCopyTest, filesHaveTheSameBytesUpToTheLastOne)
+{
+    // Less and more than what is read at once, and exactly that.
+    for (const qsizetype size : {0, 1, 1 << 18, (1 << 19) + 5}) {
+        const QByteArray content = bytes(size);
+        const QString one = file(u"one"_s, content);
+        EXPECT_TRUE(files.haveSameBytes(one, file(u"other"_s, content))) << size;
+        EXPECT_FALSE(files.haveSameBytes(one, file(u"other"_s, content + 'x'))) << size;
+        EXPECT_FALSE(files.haveSameBytes(file(u"other"_s, content + 'x'), one)) << size;
+        if (size == 0)
+            continue;
+        QByteArray changed = content;
+        changed.back() = static_cast<char>(changed.back() + 1);
+        EXPECT_FALSE(files.haveSameBytes(one, file(u"other"_s, changed))) << size;
+    }
+}
+
+TEST_F(FileCopyTest, whatIsNotThereHasTheBytesOfWhatIsNotThereEither)
+{
+    const QString one = file(u"one"_s, {});
+    EXPECT_TRUE(files.haveSameBytes(path(u"missing"_s), path(u"absent"_s)));
+    EXPECT_FALSE(files.haveSameBytes(one, path(u"missing"_s)));
+    EXPECT_FALSE(files.haveSameBytes(path(u"missing"_s), one));
+}
+
 TEST_F(FileCopyTest, theBeginningOfAFileIsReadAsFarAsItGoes)
 {
     const QString source = file(u"source"_s, "beginning");

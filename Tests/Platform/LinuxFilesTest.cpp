@@ -20,6 +20,7 @@
 #include <cstring>
 #include <limits>
 #include <stop_token>
+#include <thread>
 
 namespace roamlet::testing
 {
@@ -129,6 +130,36 @@ TEST_F(LinuxFilesTest, changesThatFollowEachOtherAtOnceHaveLastingStampsOfTheirO
     ASSERT_EQ(::utimensat(AT_FDCWD, qPrintable(one), times.data(), 0), 0);
     EXPECT_EQ(files.lastingStamp(one), files.fileStamp(one)) << "of a clock that is wrong";
     EXPECT_EQ(files.lastingStamp(path(u"missing"_s)), u""_s);
+}
+
+TEST_F(LinuxFilesTest, theLastingStampOfAFileThatIsWrittenToWithoutRestIsNoOthers)
+{
+    const QString one = file(u"one"_s, "0");
+    const auto setTime = [&one](const timespec &time) {
+        const std::array<timespec, 2> times{time, time};
+        ASSERT_EQ(::utimensat(AT_FDCWD, qPrintable(one), times.data(), 0), 0);
+    };
+    QStringList pieces;
+    {
+        const std::jthread writer([&](const std::stop_token &stop) {
+            while (!stop.stop_requested()) {
+                timespec now = {};
+                ::clock_gettime(CLOCK_REALTIME_COARSE, &now);
+                // As far ahead as the clock of a file system can be, since a busy machine may give us a rest.
+                now.tv_nsec += 18'000'000;
+                now.tv_sec += now.tv_nsec / 1'000'000'000;
+                now.tv_nsec %= 1'000'000'000;
+                setTime(now);
+            }
+        });
+        for (int i = 0; i < 1000 && pieces.size() < 3; ++i)
+            pieces = files.lastingStamp(one).split(u' ');
+    }
+    ASSERT_GT(pieces.size(), 2);
+    const QStringList time = pieces[1].split(u'.');
+    setTime({.tv_sec = time.value(0).toLong(), .tv_nsec = time.value(1).toLong()});
+    EXPECT_EQ(files.fileStamp(one), pieces[0] % u' ' % pieces[1]);
+    EXPECT_NE(files.lastingStamp(one), pieces.join(u' '));
 }
 
 TEST_F(LinuxFilesTest, theStampIsEmptyWithoutAttributes)

@@ -23,6 +23,10 @@ public:
     /// their stamps again. Called on the reading thread.
     std::function<void(const QString &source)> afterCopy;
 
+    /// Called when one file of a copy has been copied, and what stands beside it has not. Called on the
+    /// reading thread.
+    std::function<void(const QString &source, const QString &target)> betweenFiles;
+
     std::expected<QByteArray, std::error_code> read(const QString &path) const override
     {
         if (const std::error_code error = failureOf(path))
@@ -55,6 +59,16 @@ public:
     std::error_code makePrivateFolder(const QString &path) const override
     {
         return privateFolderFailure ? privateFolderFailure : LinuxFiles::makePrivateFolder(path);
+    }
+
+protected:
+    std::expected<void, CopyError> copyFile(const QString &source, const QString &target,
+                                            const std::stop_token &stop) const override
+    {
+        auto copied = LinuxFiles::copyFile(source, target, stop);
+        if (copied && betweenFiles)
+            betweenFiles(source, target);
+        return copied;
     }
 
 private:

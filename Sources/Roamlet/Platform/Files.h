@@ -45,7 +45,8 @@ public:
     /// cannot be read. Of a file that is written to twice within a few milliseconds both may be the same.
     virtual QString fileStamp(const QString &path) const = 0;
     /// The same, of which two equal ones mean an unchanged file. Where the file was written to just now, it
-    /// takes a few milliseconds until that can be said; not on the main thread.
+    /// takes a few milliseconds until that can be said; not on the main thread. Of one that is written to
+    /// without rest, no two are equal.
     virtual QString lastingStamp(const QString &path) const = 0;
     /// The whole file.
     virtual std::expected<QByteArray, std::error_code> read(const QString &path) const = 0;
@@ -60,6 +61,8 @@ public:
     virtual std::expected<void, CopyError> copy(const QString &source, const QString &target,
                                                 const QStringList &suffixes, const std::stop_token &stop,
                                                 const std::function<bool()> &isGood) const = 0;
+    /// Whether both files can be read and hold the same bytes, or neither can be.
+    virtual bool haveSameBytes(const QString &one, const QString &other) const = 0;
     /// Makes a folder that only the user can enter, and the folders above it.
     virtual std::error_code makePrivateFolder(const QString &path) const = 0;
     /// Removes a file, or the link that stands in its place. A failure is ignored.

@@ -16,9 +16,11 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <atomic>
 #include <cerrno>
 #include <chrono>
 #include <cstdint>
+#include <cstring>
 #include <ctime>
 #include <filesystem>
 #include <limits>
@@ -90,6 +92,24 @@ std::expected<OpenFile, std::error_code> openForReading(const QString &path)
     if (!S_ISREG(attributes.st_mode))
         return std::unexpected(std::make_error_code(std::errc::invalid_argument));
     return OpenFile{std::move(file), static_cast<size_t>(attributes.st_size)};
+}
+
+/// Fills the buffer from this place on, as far as the file goes; nothing when it cannot be read.
+std::optional<size_t> readFully(int descriptor, std::vector<char> &buffer, off_t place)
+{
+    size_t size = 0;
+    while (size < buffer.size()) {
+        const ssize_t count =
+            ::pread(descriptor, buffer.data() + size, buffer.size() - size, place + static_cast<off_t>(size));
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count < 0)
+            return {};
+        if (count == 0)
+            break;
+        size += static_cast<size_t>(count);
+    }
+    return size;
 }
 
 using Copied = std::expected<void, CopyError>;
@@ -187,26 +207,6 @@ Copied copyContent(int source, int target, const RoomOf &roomOf, const std::stop
     }
 }
 
-Copied copyFile(const QString &source, const QString &target, const RoomOf &roomOf,
-                const std::stop_token &stop)
-{
-    const auto original = openForReading(source);
-    if (!original)
-        return failed(CopyError::Side::Source, original.error());
-    const QByteArray name = QFile::encodeName(target);
-    FileDescriptor duplicate(
-        ::open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, onlyTheUserReads));
-    if (!duplicate.isOpen())
-        return failed(CopyError::Side::Target, lastError());
-    Copied copied = copyContent(original->descriptor.get(), duplicate.get(), roomOf, stop);
-    const std::error_code closeError = duplicate.close();
-    if (copied && closeError)
-        copied = failed(CopyError::Side::Target, closeError);
-    if (!copied)
-        ::unlink(name.constData());
-    return copied;
-}
-
 QString stampOf(const struct stat &attributes)
 {
     return QString::number(attributes.st_size) % u' ' % QString::number(attributes.st_mtim.tv_sec) % u'.' %
@@ -252,10 +252,12 @@ QString LinuxFiles::lastingStamp(const QString &path) const
         if (::stat(name.constData(), &attributes) != 0)
             return {};
         if (!isOfThisTick(attributes.st_mtim))
-            break;
+            return stampOf(attributes);
         std::this_thread::sleep_for(std::chrono::milliseconds(1));
     }
-    return stampOf(attributes);
+    // Written to all the time: what comes next may bear the same time.
+    static std::atomic<std::uint64_t> restless = 0;
+    return stampOf(attributes) % u" restless " % QString::number(++restless);
 }
 
 std::expected<QByteArray, std::error_code> LinuxFiles::read(const QString &path) const
@@ -296,18 +298,38 @@ std::expected<QByteArray, std::error_code> LinuxFiles::readBeginning(const QStri
     return content;
 }
 
+std::expected<void, CopyError> LinuxFiles::copyFile(const QString &source, const QString &target,
+                                                    const std::stop_token &stop) const
+{
+    const RoomOf roomOf = [this](int descriptor) { return room(descriptor); };
+    const auto original = openForReading(source);
+    if (!original)
+        return failed(CopyError::Side::Source, original.error());
+    const QByteArray name = QFile::encodeName(target);
+    FileDescriptor duplicate(
+        ::open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, onlyTheUserReads));
+    if (!duplicate.isOpen())
+        return failed(CopyError::Side::Target, lastError());
+    Copied copied = copyContent(original->descriptor.get(), duplicate.get(), roomOf, stop);
+    const std::error_code closeError = duplicate.close();
+    if (copied && closeError)
+        copied = failed(CopyError::Side::Target, closeError);
+    if (!copied)
+        ::unlink(name.constData());
+    return copied;
+}
+
 std::expected<void, CopyError> LinuxFiles::copy(const QString &source, const QString &target,
                                                 const QStringList &suffixes, const std::stop_token &stop,
                                                 const std::function<bool()> &isGood) const
 {
-    const RoomOf roomOf = [this](int descriptor) { return room(descriptor); };
     for (int count = 1;; ++count) {
         QStringList made;
-        Copied copied = copyFile(source, target, roomOf, stop);
+        Copied copied = copyFile(source, target, stop);
         if (copied)
             made.append(target);
         for (qsizetype i = 0; copied && i < suffixes.size(); ++i) {
-            const Copied besides = copyFile(source + suffixes[i], target + suffixes[i], roomOf, stop);
+            const Copied besides = copyFile(source + suffixes[i], target + suffixes[i], stop);
             if (besides)
                 made.append(target + suffixes[i]);
             else if (besides.error().side == CopyError::Side::Target || stop.stop_requested())
@@ -320,6 +342,27 @@ std::expected<void, CopyError> LinuxFiles::copy(const QString &source, const QSt
             removeFile(file);
         if (isOver)
             return copied;
+    }
+}
+
+bool LinuxFiles::haveSameBytes(const QString &one, const QString &other) const
+{
+    const auto first = openForReading(one);
+    const auto second = openForReading(other);
+    if (!first || !second)
+        return !first && !second;
+    if (first->size != second->size)
+        return false;
+    std::vector<char> firstBytes(bytesPerRead);
+    std::vector<char> secondBytes(bytesPerRead);
+    for (off_t place = 0;;) {
+        const std::optional<size_t> count = readFully(first->descriptor.get(), firstBytes, place);
+        if (!count || readFully(second->descriptor.get(), secondBytes, place) != count ||
+            std::memcmp(firstBytes.data(), secondBytes.data(), *count) != 0)
+            return false;
+        if (*count < firstBytes.size())
+            return true;
+        place += static_cast<off_t>(*count);
     }
 }
 

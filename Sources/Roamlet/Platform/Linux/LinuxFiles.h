@@ -24,6 +24,7 @@ public:
     std::expected<void, CopyError> copy(const QString &source, const QString &target,
                                         const QStringList &suffixes, const std::stop_token &stop,
                                         const std::function<bool()> &isGood) const override;
+    bool haveSameBytes(const QString &one, const QString &other) const override;
     std::error_code makePrivateFolder(const QString &path) const override;
     void removeFile(const QString &path) const override;
     void removeFolder(const QString &path) const override;
@@ -33,6 +34,9 @@ public:
     bool isPlainFile(const QString &path) const override;
 
 protected:
+    /// One file of a copy.
+    virtual std::expected<void, CopyError> copyFile(const QString &source, const QString &target,
+                                                    const std::stop_token &stop) const;
     /// The bytes that the file system of an open file still has for us, where it says so.
     virtual std::optional<std::uint64_t> room(int descriptor) const;
 };

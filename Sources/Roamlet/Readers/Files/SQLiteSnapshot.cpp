@@ -168,24 +168,22 @@ public:
         if (isLargeAndForeign(m_files, m_source))
             return std::unexpected(
                 ReadError::unreadable(m_source, QString::fromUtf8(sqlite3_errstr(SQLITE_NOTADB))));
-        DatabaseMoment moment;
         for (int attempt = 1; attempt <= attempts; ++attempt) {
             if (attempt > 1)
                 std::this_thread::sleep_for(pauses.at(static_cast<std::size_t>(attempt - 2)));
             remove();
             if (const std::error_code error = m_files.makePrivateFolder(m_folder))
                 return std::unexpected(noRoom(error));
-            const QString before = stamp(m_files, m_source);
-            const DatabaseMoment earlier = std::exchange(moment, DatabaseMoment::before(m_files, m_source));
-            if (const auto copied =
-                    attempt < attempts ? copyAll(stop, {}) : copyWhatNeverRests(earlier, stop);
-                !copied)
+            const bool isLast = attempt == attempts;
+            const QString before = isLast ? QString() : stamp(m_files, m_source);
+            const DatabaseMoment moment(m_files, m_source);
+            if (const auto copied = isLast ? copyWhatNeverRests(stop) : copyAll(stop, {}); !copied)
                 return std::unexpected(errorOf(copied.error()));
             if (stop.stop_requested())
                 return std::unexpected(
                     ReadError::wrap(std::make_error_code(std::errc::operation_canceled), m_source));
             // Of a file that is written to without rest, equal stamps alone say too little.
-            if (stamp(m_files, m_source) == before && DatabaseMoment::after(m_files, m_source) == moment)
+            if (!isLast && stamp(m_files, m_source) == before && DatabaseMoment(m_files, m_source) == moment)
                 break;
         }
         return {};
@@ -212,20 +210,29 @@ private:
     }
 
     /// For the last copy, which is used whatever it is: while somebody writes without rest, the files are
-    /// copied between two commits, or within one change with its journal.
-    Copied copyWhatNeverRests(const DatabaseMoment &earlier, const std::stop_token &stop) const
+    /// copied again until nothing was written while they were, but not for ever.
+    Copied copyWhatNeverRests(const std::stop_token &stop) const
     {
-        DatabaseMoment before = DatabaseMoment::before(m_files, m_source);
-        bool isCounted = before.tellsCommitsSince(earlier);
+        constexpr int fewestLooks = 5;
+        const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(500);
+        DatabaseMoment before(m_files, m_source);
+        int looks = 0;
         return copyAll(stop, [&] {
-            const DatabaseMoment after = DatabaseMoment::after(m_files, m_source);
-            const bool isSame = after == before || (!before.isWithinChange() && after.hasContentOf(before));
-            if (isSame && (isCounted || m_files.lastingStamp(m_source) == after.stamp()))
+            const DatabaseMoment after(m_files, m_source);
+            if (after == before && (after.hasLog() || isWhatIsThere()))
                 return true;
-            isCounted = isCounted || after.tellsCommitsSince(before);
-            before = DatabaseMoment::before(m_files, m_source);
-            return false;
+            before = DatabaseMoment(m_files, m_source);
+            return ++looks >= fewestLooks && std::chrono::steady_clock::now() >= end;
         });
+    }
+
+    /// Whether the source's files hold the very bytes that were copied. Then they held them all at once, when
+    /// the copy was done: no header, time or lock can say so of a change in the middle of which they are.
+    bool isWhatIsThere() const
+    {
+        return m_files.haveSameBytes(m_source, path()) &&
+               m_files.haveSameBytes(m_source % u"-journal", path() % u"-journal") &&
+               m_files.haveSameBytes(m_source % u"-wal", path() % u"-wal");
     }
 
     ReadError errorOf(const CopyError &error) const
