@@ -83,9 +83,8 @@ DesktopSettings readAfter(const std::function<void()> &change)
         FakePortal portal(bus.address());
         portal.settings = {{group, settings}};
         qputenv("DBUS_SESSION_BUS_ADDRESS", bus.address().toUtf8());
-        answer = !later ? readElsewhere() : readAfter([&] {
-            portal.change(group, later->firstKey(), later->first());
-        });
+        answer = !later ? readElsewhere()
+                        : readAfter([&] { portal.change(group, later->firstKey(), later->first()); });
     }
     std::exit(statusOf(answer));
 }

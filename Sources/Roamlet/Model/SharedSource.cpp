@@ -6,9 +6,7 @@
 namespace roamlet
 {
 
-SharedSource::SharedSource(const Source &source) : m_data(new Data(source))
-{
-}
+SharedSource::SharedSource(const Source &source) : m_data(new Data(source)) {}
 
 SharedSource::SharedSource()
 {
