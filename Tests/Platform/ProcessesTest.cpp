@@ -90,7 +90,7 @@ TEST(Processes, whatThreadsHaveFreedIsGivenBackOnceTheyHaveEnded)
     // From here on a thread's heap keeps some MB that are free.
     Processes::giveBackMemory();
     constexpr std::size_t piece = 512;
-    constexpr int count = 8;
+    constexpr int count = 4;
     {
         std::latch allAreThere(count);
         std::vector<std::jthread> threads;
@@ -106,7 +106,7 @@ TEST(Processes, whatThreadsHaveFreedIsGivenBackOnceTheyHaveEnded)
     const long before = memoryInUse();
     Processes::giveBackMemory();
     // Each had 5 MB.
-    EXPECT_LT(memoryInUse(), before - 25'000);
+    EXPECT_LT(memoryInUse(), before - 12'000);
 }
 
 TEST(Processes, withLimitedHeapsTheMemoryOfAnyNumberOfThreadsIsGivenBack)

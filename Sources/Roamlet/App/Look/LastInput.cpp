@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QPointer>
 #include <QWidget>
 
 #include <utility>
@@ -62,17 +63,23 @@ private:
     bool m_isKey = false;
 };
 
+QPointer<const InputWatch> inputWatch;
+
+/// With the application, so that nothing is pressed before.
+void watchInput()
+{
+    auto *watch = new InputWatch(qApp);
+    qApp->installEventFilter(watch);
+    inputWatch = watch;
+}
+
 } // namespace
+
+Q_COREAPP_STARTUP_FUNCTION(watchInput)
 
 bool isKeyboardUsed()
 {
-    // The first widget that is painted asks before anything can be pressed in it.
-    static const auto *const watch = [] {
-        auto *made = new InputWatch(qApp);
-        qApp->installEventFilter(made);
-        return made;
-    }();
-    return watch->isKey();
+    return inputWatch && inputWatch->isKey();
 }
 
 bool isModifier(const QKeyEvent &event)
