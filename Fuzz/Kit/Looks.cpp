@@ -31,8 +31,6 @@ void lookAt(const QList<HistoryItem> &items, const HistoryQuery &query)
 
 void lookAt(const BookmarkTrees &trees)
 {
-    for (const BookmarkNode &node : trees.roots)
-        require(node.isFolder(), "roots are folders");
     const QList<Bookmark> flat = BookmarkNode::flattened(trees.roots);
     qint64 count = 0;
     for (const BookmarkNode &node : trees.roots) {
