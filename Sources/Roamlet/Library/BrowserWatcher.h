@@ -60,7 +60,6 @@ private:
     /// Asks the streams what they do not tell, and looks there from now on.
     void lookWhereNobodyTells();
     void look(const QStringList &folders);
-    void lookLater();
     /// What changed since the last look at these folders.
     void compare(const QStringList &folders, const Stamps &stamps);
 
