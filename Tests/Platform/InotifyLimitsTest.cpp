@@ -9,6 +9,7 @@
 #include <array>
 #include <cerrno>
 #include <cstdint>
+#include <gmock/gmock.h>
 
 namespace roamlet::testing
 {
@@ -39,6 +40,7 @@ protected:
         };
         result.addWatch = [this, add = result.addWatch](int descriptor, const char *folder,
                                                         std::uint32_t mask) {
+            asked.append(QString::fromUtf8(folder));
             errno = watchError;
             return watchError != 0 && QString::fromUtf8(folder).startsWith(path(failing))
                        ? -1
@@ -50,6 +52,8 @@ protected:
         return result;
     }
 
+    /// The folders that were to be watched, as often as they were.
+    mutable QStringList asked;
     int initError = 0;
     int watchError = 0;
     /// Below which no folder can be watched.
@@ -69,6 +73,17 @@ TEST_F(InotifyLimitsTest, enoughWatchesOnALocalDiskLeaveNothingUntold)
     ASSERT_NE(whole, nullptr);
     EXPECT_FALSE(whole->isLimitReached());
     EXPECT_EQ(whole->silentFolders(), QStringList());
+}
+
+TEST_F(InotifyLimitsTest, whatLiesOnTheWayToManyFoldersIsAskedForOnce)
+{
+    write(u"home/one/Default/History"_s);
+    write(u"home/two/Default/History"_s);
+    const auto every = open({u"home/one"_s, u"home/two"_s, u"home/none/of/these"_s, u"home/none/either"_s});
+    ASSERT_NE(every, nullptr);
+    EXPECT_THAT(asked, ::testing::IsSupersetOf({path(u"home"_s), path(u"home/one/Default"_s)}));
+    EXPECT_EQ(asked.removeDuplicates(), 0) << "what is not there holds nothing either";
+    EXPECT_THAT(asked, ::testing::Not(::testing::Contains(path(u"home/none/of"_s))));
 }
 
 TEST_F(InotifyLimitsTest, aSystemWithoutAnotherStreamSaysSo)

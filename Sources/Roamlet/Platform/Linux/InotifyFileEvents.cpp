@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QHash>
 #include <QMultiHash>
 #include <QObject>
 #include <QSet>
@@ -145,22 +146,28 @@ private:
 
     void watchRoots(Contents contents)
     {
+        QHash<QString, std::error_code> looked;
         for (const QString &root : std::as_const(m_roots)) {
             if (!m_watchedRoots.contains(root))
-                watchRoot(root, contents);
+                watchRoot(root, contents, looked);
         }
     }
 
-    void watchRoot(const QString &root, Contents contents)
+    /// `looked` is what became of the folders on the ways to the roots before: most of these ways begin
+    /// alike.
+    void watchRoot(const QString &root, Contents contents, QHash<QString, std::error_code> &looked)
     {
         // The folders on the way as well: one of them may be renamed, or the next one may appear. From the
         // top, so that neither happens unseen below a folder that was looked at already.
         bool isFollowed = false;
         std::error_code error;
         for (const QString &folder : wayTo(root)) {
-            error = watch(folder);
-            if (error != std::errc::no_such_file_or_directory && error != std::errc::not_a_directory)
-                isFollowed = !error;
+            const auto known = looked.constFind(folder);
+            error = known != looked.cend() ? *known : *looked.insert(folder, watch(folder));
+            // What would lie in it cannot be there before it is, and its own arrival is told of.
+            if (error == std::errc::no_such_file_or_directory || error == std::errc::not_a_directory)
+                break;
+            isFollowed = !error;
         }
         m_followsAny = m_followsAny || isFollowed;
         if (error)
