@@ -7,7 +7,7 @@
 #include "Opening/Opener.h"
 #include "Platform/Linux/LinuxWorkspace.h"
 #include "Platform/Linux/SystemClock.h"
-#include "Platform/Linux/Workspace/XdoBrowserWindows.h"
+#include "Platform/Linux/Workspace/Programs/XdoBrowserWindows.h"
 #include "Readers/BrowserReader.h"
 #include "Readers/Chromium/ChromiumReader.h"
 #include "RealBrowserTest.h"

@@ -3,7 +3,7 @@
 
 #include "VirtualScreen.h"
 
-#include "Platform/Linux/Workspace/XdoBrowserWindows.h"
+#include "Platform/Linux/Workspace/Programs/XdoBrowserWindows.h"
 #include "Support/Waiting.h"
 
 #include <QStandardPaths>

@@ -327,6 +327,9 @@ TEST_F(LinuxWorkspaceTest, anEntryThatHidesTheApplicationHidesAllOfItsName)
     desktop.addEntry(u"google-chrome.desktop"_s, desktop.addProgram(u"chrome"_s) % u" %U",
                      u"Hidden=true\n"_s);
     EXPECT_FALSE(hasBrowser(Source::Kind::Chrome));
+    // It need not say what it hides.
+    desktop.addEntry(u"google-chrome.desktop"_s, {}, u"Hidden=true\n"_s);
+    EXPECT_FALSE(hasBrowser(Source::Kind::Chrome));
 }
 
 TEST_F(LinuxWorkspaceTest, aBrokenEntryIsNoApplication)

@@ -22,7 +22,8 @@ class LinuxWorkspaceTest : public ::testing::Test
 {
 protected:
     LinuxWorkspaceTest()
-        : workspace(desktop.dataFolders(), home.folders, home.files, home.clock, takeWindows(),
+        : workspace(desktop.dataFolders(), home.folders, home.files, home.clock,
+                    [this] { return std::move(ownWindows); },
                     {QDBusConnection(QStringLiteral("nobody")),
                      [this](const QString &text) { clipboard = text; },
                      [this](const QString &page) {
@@ -30,13 +31,6 @@ protected:
                          return PasteNotice::Words();
                      }})
     {
-    }
-
-    std::unique_ptr<BrowserWindows> takeWindows()
-    {
-        auto owner = std::make_unique<FakeBrowserWindows>();
-        windows = owner.get();
-        return owner;
     }
 
     /// Makes the browser's data lie in this folder below the home folder.
@@ -91,7 +85,8 @@ protected:
 
     TestHome home;
     FakeDesktop desktop;
-    FakeBrowserWindows *windows = nullptr;
+    std::unique_ptr<FakeBrowserWindows> ownWindows = std::make_unique<FakeBrowserWindows>();
+    FakeBrowserWindows *windows = ownWindows.get();
     QString clipboard;
     /// The addresses that the user was asked to paste.
     QStringList noticed;

@@ -7,7 +7,7 @@
 #include "Platform/BrowserFolders.h"
 #include "Platform/Files.h"
 #include "Platform/Linux/Workspace/DetachedProcess.h"
-#include "Platform/Linux/Workspace/XdoBrowserWindows.h"
+#include "Platform/Linux/Workspace/ProgramsModule.h"
 
 #include <QDir>
 #include <QIcon>
@@ -89,19 +89,20 @@ LinuxWorkspace::Environment LinuxWorkspace::Environment::ofThisProcess()
 
 LinuxWorkspace::LinuxWorkspace(const Environment &environment, const Folders &folders, const Files &files,
                                const Clock &clock, PasteNotice notice)
-    : LinuxWorkspace(environment.dataFolders, folders, files, clock,
-                     std::make_unique<XdoBrowserWindows>(environment.display), std::move(notice))
+    : LinuxWorkspace(
+          environment.dataFolders, folders, files, clock,
+          [display = environment.display] { return ProgramsModule::browserWindows(display); },
+          std::move(notice))
 {
 }
 
 LinuxWorkspace::LinuxWorkspace(QStringList dataFolders, const Folders &folders, const Files &files,
-                               const Clock &clock, std::unique_ptr<BrowserWindows> windows,
-                               PasteNotice notice)
+                               const Clock &clock, MakeWindows makeWindows, PasteNotice notice)
     : m_dataFolders(std::move(dataFolders)),
       m_folders(folders),
       m_files(files),
-      m_windows(std::move(windows)),
-      m_steering(*m_windows, clock),
+      m_clock(clock),
+      m_makeWindows(std::move(makeWindows)),
       m_notice(std::move(notice))
 {
     m_starts.setMaxThreadCount(1);
@@ -198,8 +199,8 @@ void LinuxWorkspace::showPage(const QString &page, const Source &source)
         else
             launch(installation.entry, blank);
     };
-    if (m_windows->canSteer()) {
-        m_steering.show(
+    if (PageSteering *const steering = this->steering()) {
+        steering->show(
             {.page = page, .windowClasses = installation->windowClasses, .openBlankTab = openBlankTab});
     } else {
         m_notice.show(page);
@@ -219,6 +220,17 @@ bool LinuxWorkspace::isGone(const Source &source, const BrowserFolders &folders)
     if (Browser::of(source.kind).family == Family::Firefox)
         return !m_files.exists(folder % u'/' % Browser::historyFile(Family::Firefox));
     return !Browser::sideProfile(source.profile.value_or(QString())).isEmpty() && !m_files.exists(folder);
+}
+
+PageSteering *LinuxWorkspace::steering()
+{
+    if (!m_windows)
+        m_windows = m_makeWindows();
+    if (!m_windows || !m_windows->canSteer())
+        return nullptr;
+    if (!m_steering)
+        m_steering.emplace(*m_windows, m_clock);
+    return &*m_steering;
 }
 
 void LinuxWorkspace::start(const QStringList &command)

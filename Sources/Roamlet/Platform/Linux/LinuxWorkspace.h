@@ -14,7 +14,9 @@
 #include <QStringList>
 #include <QThreadPool>
 
+#include <functional>
 #include <memory>
+#include <optional>
 
 namespace roamlet
 {
@@ -42,9 +44,11 @@ public:
 
     LinuxWorkspace(const Environment &environment, const Folders &folders, const Files &files,
                    const Clock &clock, PasteNotice notice);
+    /// What to see and steer windows with; null where nothing is. Asked when a page is shown first.
+    using MakeWindows = std::function<std::unique_ptr<BrowserWindows>()>;
     /// With another way to see and steer windows than the display's own.
     LinuxWorkspace(QStringList dataFolders, const Folders &folders, const Files &files, const Clock &clock,
-                   std::unique_ptr<BrowserWindows> windows, PasteNotice notice);
+                   MakeWindows makeWindows, PasteNotice notice);
     ~LinuxWorkspace() override;
 
     QList<Source::Kind> installedBrowsers() const override;
@@ -62,6 +66,8 @@ private:
     std::optional<BrowserInstallation> installationOf(Source::Kind browser) const;
     /// Whether the profile has a folder that the browser would be told and that is not there.
     bool isGone(const Source &source, const BrowserFolders &folders) const;
+    /// Null where windows cannot be steered.
+    PageSteering *steering();
     void start(const QStringList &command);
     void launch(const DesktopEntry &entry, const QStringList &urls);
     void launchPreferred(const QString &scheme, const QStringList &urls);
@@ -69,8 +75,10 @@ private:
     QStringList m_dataFolders;
     const Folders &m_folders;
     const Files &m_files;
+    const Clock &m_clock;
+    MakeWindows m_makeWindows;
     std::unique_ptr<BrowserWindows> m_windows;
-    PageSteering m_steering;
+    std::optional<PageSteering> m_steering;
     PasteNotice m_notice;
     /// Where programs are started, one after the other: the more memory this process holds, the longer a
     /// start takes, and there may be one for each of many links.

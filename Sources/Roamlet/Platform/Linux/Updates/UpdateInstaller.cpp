@@ -4,8 +4,7 @@
 #include "Platform/Linux/Updates/UpdateInstaller.h"
 
 #include "Platform/Linux/LinuxIO.h"
-#include "Platform/Linux/Workspace/DesktopEntry.h"
-#include "Platform/Linux/Workspace/GLibPointer.h"
+#include "Platform/Linux/Workspace/ProgramsModule.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -43,13 +42,7 @@ UpdateInstaller::UpdateInstaller(Environment environment)
 
 bool UpdateInstaller::openFile(const QString &path, const QString &type)
 {
-    const GLibPointer<GAppInfo> info(g_app_info_get_default_for_type(type.toUtf8().constData(), FALSE));
-    if (!info || G_IS_DESKTOP_APP_INFO(info.get()) == FALSE)
-        return false;
-    DesktopEntry entry;
-    entry.path = QFile::decodeName(g_desktop_app_info_get_filename(G_DESKTOP_APP_INFO(info.get())));
-    entry.launch({QUrl::fromLocalFile(path).toString(QUrl::FullyEncoded)});
-    return true;
+    return ProgramsModule::launchPreferred(type, {QUrl::fromLocalFile(path).toString(QUrl::FullyEncoded)});
 }
 
 bool UpdateInstaller::isProgramReplaced() const

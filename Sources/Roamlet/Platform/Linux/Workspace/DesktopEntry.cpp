@@ -3,8 +3,8 @@
 
 #include "Platform/Linux/Workspace/DesktopEntry.h"
 
-#include "Platform/Linux/Workspace/DetachedProcess.h"
 #include "Platform/Linux/Workspace/GLibPointer.h"
+#include "Platform/Linux/Workspace/ProgramsModule.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -42,16 +42,43 @@ std::optional<QString> withoutFieldCodes(const QString &argument)
     return result;
 }
 
-QStringList commandOf(GDesktopAppInfo *info)
+/// The group of a desktop entry that tells of the application.
+constexpr const char *mainGroup = "Desktop Entry";
+
+QString value(GKeyFile *entry, const char *key)
 {
-    const char *line = g_app_info_get_commandline(G_APP_INFO(info));
+    const GLibPointer<gchar> text(g_key_file_get_string(entry, mainGroup, key, nullptr));
+    return QString::fromUtf8(text.get());
+}
+
+bool isSet(GKeyFile *entry, const char *key)
+{
+    return g_key_file_get_boolean(entry, mainGroup, key, nullptr) != FALSE;
+}
+
+bool isFound(const QString &program)
+{
+    const GLibPointer<gchar> path(g_find_program_in_path(QFile::encodeName(program).constData()));
+    return path != nullptr;
+}
+
+/// The program and its arguments as they stand in an Exec line; nothing when it is no such line.
+QStringList arguments(const QString &execLine)
+{
     gchar **parsed = nullptr;
-    if (line == nullptr || g_shell_parse_argv(line, nullptr, &parsed, nullptr) == FALSE)
+    if (g_shell_parse_argv(QFile::encodeName(execLine).constData(), nullptr, &parsed, nullptr) == FALSE)
         return {};
     const GLibPointer<gchar *> owner(parsed);
+    QStringList arguments;
+    for (gchar **text = parsed; *text != nullptr; ++text)
+        arguments.append(QFile::decodeName(*text));
+    return arguments;
+}
+
+QStringList commandOf(const QStringList &arguments)
+{
     QStringList command;
-    for (gchar **text = parsed; *text != nullptr; ++text) {
-        const QString argument = QFile::decodeName(*text);
+    for (const QString &argument : arguments) {
         // Flatpak marks with these where the files are that it is to let the application see.
         if (argument.startsWith(u"@@"))
             continue;
@@ -61,29 +88,21 @@ QStringList commandOf(GDesktopAppInfo *info)
     return command;
 }
 
-QString value(GDesktopAppInfo *info, const char *key)
+/// The desktop entry of an application whose program is there; null otherwise. One that only hides the
+/// application names no program.
+GLibPointer<GKeyFile> load(const QString &path)
 {
-    const GLibPointer<gchar> text(g_desktop_app_info_get_string(info, key));
-    return QString::fromUtf8(text.get());
-}
-
-void launchWith(GDesktopAppInfo *info, const QStringList &urls)
-{
-    QList<QByteArray> texts;
-    for (const QString &url : urls)
-        texts.append(url.toUtf8());
-    GList *list = nullptr;
-    for (QByteArray &text : texts)
-        list = g_list_append(list, text.data());
-    const GLibPointer<GList> owner(list);
-    g_desktop_app_info_launch_uris_as_manager(info, list, nullptr, spawnFlags, DetachedProcess::prepareChild,
-                                              nullptr, nullptr, nullptr, nullptr);
-}
-
-GLibPointer<GDesktopAppInfo> load(const QString &path)
-{
-    return GLibPointer<GDesktopAppInfo>(
-        g_desktop_app_info_new_from_filename(QFile::encodeName(path).constData()));
+    GLibPointer<GKeyFile> entry(g_key_file_new());
+    if (g_key_file_load_from_file(entry.get(), QFile::encodeName(path).constData(), G_KEY_FILE_NONE,
+                                  nullptr) == FALSE)
+        return {};
+    const QString tried = value(entry.get(), "TryExec");
+    const QString line = value(entry.get(), "Exec");
+    const bool isApplication = value(entry.get(), "Type") == u"Application";
+    if (!isApplication || (!tried.isEmpty() && !isFound(tried)) ||
+        (!line.isEmpty() && !isFound(arguments(line).value(0))))
+        return {};
+    return entry;
 }
 
 } // namespace
@@ -111,8 +130,7 @@ bool DesktopEntry::startsFrom(const QString &folder) const
 
 void DesktopEntry::launch(const QStringList &urls) const
 {
-    if (const GLibPointer<GDesktopAppInfo> info = load(path))
-        launchWith(info.get(), urls);
+    ProgramsModule::launchEntry(path, urls);
 }
 
 QList<DesktopEntry> DesktopEntry::named(const QString &name, const QStringList &dataFolders)
@@ -120,21 +138,18 @@ QList<DesktopEntry> DesktopEntry::named(const QString &name, const QStringList &
     QList<DesktopEntry> entries;
     for (const QString &folder : dataFolders) {
         const QString path = folder % u"/applications/" % name;
-        // Most names are nowhere, which the library takes longer to find out.
-        if (!QFileInfo::exists(path))
+        const GLibPointer<GKeyFile> entry = load(path);
+        if (!entry)
             continue;
-        const GLibPointer<GDesktopAppInfo> info = load(path);
-        if (!info)
-            continue;
-        if (g_desktop_app_info_get_is_hidden(info.get()) != FALSE)
+        if (isSet(entry.get(), "Hidden"))
             break;
-        const QStringList command = commandOf(info.get());
+        const QStringList command = commandOf(arguments(value(entry.get(), "Exec")));
         if (command.isEmpty())
             continue;
         entries.append({.path = path,
                         .command = command,
-                        .icon = value(info.get(), G_KEY_FILE_DESKTOP_KEY_ICON),
-                        .windowClass = value(info.get(), G_KEY_FILE_DESKTOP_KEY_STARTUP_WM_CLASS)});
+                        .icon = value(entry.get(), "Icon"),
+                        .windowClass = value(entry.get(), "StartupWMClass")});
     }
     return entries;
 }
@@ -144,11 +159,8 @@ void DesktopEntry::launchPreferred(const QString &scheme, const QStringList &url
     if (scheme.isEmpty())
         return;
     // File managers register for folders, not for addresses of files.
-    const GLibPointer<GAppInfo> info(
-        scheme == u"file" ? g_app_info_get_default_for_type("inode/directory", FALSE)
-                          : g_app_info_get_default_for_uri_scheme(scheme.toUtf8().constData()));
-    if (info && G_IS_DESKTOP_APP_INFO(info.get()) != FALSE)
-        launchWith(G_DESKTOP_APP_INFO(info.get()), urls);
+    ProgramsModule::launchPreferred(
+        scheme == u"file" ? u"inode/directory"_s : QString(u"x-scheme-handler/" % scheme), urls);
 }
 
 } // namespace roamlet

@@ -3,8 +3,7 @@
 
 #pragma once
 
-#include <gio/gdesktopappinfo.h>
-#include <gio/gio.h>
+#include <glib.h>
 #include <memory>
 
 namespace roamlet
@@ -19,10 +18,7 @@ constexpr auto spawnFlags = static_cast<GSpawnFlags>(static_cast<unsigned>(G_SPA
 struct GLibDeleter {
     void operator()(gchar *text) const { g_free(text); }
     void operator()(gchar **texts) const { g_strfreev(texts); }
-    void operator()(GList *list) const { g_list_free(list); }
     void operator()(GKeyFile *file) const { g_key_file_unref(file); }
-    void operator()(GAppInfo *info) const { g_object_unref(info); }
-    void operator()(GDesktopAppInfo *info) const { g_object_unref(info); }
 };
 
 /// Owns what the library hands over.

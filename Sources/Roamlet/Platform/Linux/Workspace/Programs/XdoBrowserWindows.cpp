@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
-#include "Platform/Linux/Workspace/XdoBrowserWindows.h"
+#include "Platform/Linux/Workspace/Programs/XdoBrowserWindows.h"
 
 #include <QList>
 
