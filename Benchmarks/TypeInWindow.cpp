@@ -50,13 +50,29 @@ double milliseconds(const QElapsedTimer &timer)
     return static_cast<double>(timer.nsecsElapsed()) / nanosecondsInMillisecond;
 }
 
-double residentMegabytes()
+struct Memory {
+    double resident = 0;
+    /// What of it is pages of files: those of fonts for another script, for instance, once a row has its
+    /// letters.
+    double ofFiles = 0;
+};
+
+/// In MiB.
+Memory memory()
 {
     std::ifstream status("/proc/self/statm");
+    Memory pages;
     double size = 0;
-    double resident = 0;
-    status >> size >> resident;
-    return resident * static_cast<double>(sysconf(_SC_PAGESIZE)) / (1 << 20);
+    status >> size >> pages.resident >> pages.ofFiles;
+    const double page = static_cast<double>(sysconf(_SC_PAGESIZE)) / (1 << 20);
+    return {.resident = pages.resident * page, .ofFiles = pages.ofFiles * page};
+}
+
+/// What the program has written itself, in MiB.
+double ownMemory()
+{
+    const Memory now = memory();
+    return now.resident - now.ofFiles;
 }
 
 void print(const char *name, double value)
@@ -204,7 +220,7 @@ double memoryInTray(QWidget &window)
 {
     window.close();
     wait(std::chrono::seconds(3));
-    return residentMegabytes();
+    return memory().resident;
 }
 
 void measure(QWidget &firstWindow)
@@ -216,7 +232,7 @@ void measure(QWidget &firstWindow)
     LinkTable &table = *now.table;
     QLineEdit &field = *now.field;
     wait(std::chrono::seconds(1));
-    const double before = residentMegabytes();
+    const double before = ownMemory();
 
     LinuxPlatform platform;
     const ReadContext context = LibraryReading::readContext(platform.services());
@@ -259,7 +275,7 @@ void measure(QWidget &firstWindow)
         _exit(0);
     type(field, u'e');
     wait(std::chrono::seconds(1));
-    print("memory_searching_mb", residentMegabytes() - before);
+    print("memory_searching_mb", ownMemory() - before);
     measurePlainWay(table, bytes);
     field.clear();
     table.setFocus();
