@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QLayout>
 #include <QPushButton>
+#include <QScrollBar>
 
 #include <gtest/gtest.h>
 
@@ -30,10 +31,11 @@ TEST(EmptyStateTest, itsGapsGrowWithItsLetters)
     page.show();
     const auto *text = page.findChild<QLabel *>(u"emptyStateText"_s);
     const auto gaps = [&] {
-        page.layout()->activate();
+        page.widget()->layout()->activate();
         const auto *other = page.findChild<QPushButton *>(u"showAll"_s);
         return QList<int>{box->y() - text->geometry().bottom(), button->y() - box->geometry().bottom(),
-                          other->x() - button->geometry().right(), page.layout()->contentsMargins().left()};
+                          other->x() - button->geometry().right(),
+                          page.widget()->layout()->contentsMargins().left()};
     };
     const QList<int> before = gaps();
     QFont font = page.font();
@@ -57,7 +59,7 @@ TEST(EmptyStateTest, theSignGivesWayToWhatIsSaid)
     window.show();
     QApplication::processEvents();
     EXPECT_TRUE(sign->isVisible());
-    const int all = page.layout()->totalHeightForWidth(page.width());
+    const int all = page.widget()->layout()->totalHeightForWidth(page.width());
     page.resize(400, all - 1);
     QApplication::processEvents();
     EXPECT_FALSE(sign->isVisible());
@@ -66,6 +68,31 @@ TEST(EmptyStateTest, theSignGivesWayToWhatIsSaid)
     page.resize(400, all);
     QApplication::processEvents();
     EXPECT_TRUE(sign->isVisible());
+}
+
+TEST(EmptyStateTest, whatDoesNotFitIsReachedByScrolling)
+{
+    EmptyState page(u"globe"_s, u"Nothing here"_s);
+    page.setText(u"Really nothing."_s);
+    const QPushButton *button = page.addAction(u"Reload"_s, u"reload"_s);
+    auto *box = new QWidget;
+    box->setFixedHeight(50);
+    page.setBox(box);
+    page.resize(400, 600);
+    page.show();
+    QApplication::processEvents();
+    EXPECT_EQ(page.verticalScrollBar()->maximum(), 0);
+    EXPECT_EQ(page.focusPolicy(), Qt::NoFocus);
+    page.resize(400, 60);
+    QApplication::processEvents();
+    EXPECT_GT(page.verticalScrollBar()->maximum(), 0);
+    EXPECT_EQ(page.focusPolicy(), Qt::TabFocus);
+    EXPECT_GE(button->height(), button->sizeHint().height());
+    page.verticalScrollBar()->setValue(page.verticalScrollBar()->maximum());
+    EXPECT_LE(button->mapTo(&page, button->rect().bottomLeft()).y(), page.height());
+    page.resize(400, 600);
+    QApplication::processEvents();
+    EXPECT_EQ(page.verticalScrollBar()->maximum(), 0);
 }
 
 } // namespace roamlet::testing

@@ -4,6 +4,7 @@
 #include "App/Window/EmptyState.h"
 
 #include "App/Look/Look.h"
+#include "App/Look/Painting.h"
 #include "App/Look/RoamletStyle.h"
 #include "App/Look/Symbol.h"
 
@@ -13,7 +14,10 @@
 #include <QPainter>
 #include <QPixmap>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace roamlet
 {
@@ -32,11 +36,12 @@ constexpr double gapAfterDisc = 1;
 } // namespace
 
 EmptyState::EmptyState(const QString &symbol, const QString &title, QWidget *parent)
-    : QWidget(parent),
+    : QScrollArea(parent),
+      m_page(new QWidget),
       m_symbol(symbol),
-      m_icon(new QLabel(this)),
-      m_title(new QLabel(title, this)),
-      m_text(new QLabel(this)),
+      m_icon(new QLabel(m_page)),
+      m_title(new QLabel(title, m_page)),
+      m_text(new QLabel(m_page)),
       m_actions(new QHBoxLayout)
 {
     m_icon->setAlignment(Qt::AlignCenter);
@@ -55,7 +60,7 @@ EmptyState::EmptyState(const QString &symbol, const QString &title, QWidget *par
 
     m_actions->addStretch();
     m_actions->addStretch();
-    auto *column = new QVBoxLayout(this);
+    auto *column = new QVBoxLayout(m_page);
     column->setSpacing(0);
     column->addStretch(1);
     column->addWidget(m_icon);
@@ -63,6 +68,17 @@ EmptyState::EmptyState(const QString &symbol, const QString &title, QWidget *par
     column->addWidget(m_text);
     column->addLayout(m_actions);
     column->addStretch(2);
+
+    setFrameShape(NoFrame);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setFocusPolicy(Qt::NoFocus);
+    setWidget(m_page);
+    m_page->setAutoFillBackground(false);
+    viewport()->setAutoFillBackground(false);
+    m_page->installEventFilter(this);
+    // With the keyboard one comes here only where there is something to do.
+    connect(verticalScrollBar(), &QScrollBar::rangeChanged, this,
+            [this](int /*first*/, int last) { setFocusPolicy(last > 0 ? Qt::TabFocus : Qt::NoFocus); });
     updateLook();
 }
 
@@ -74,14 +90,31 @@ bool EmptyState::event(QEvent *event)
     case QEvent::ScreenChangeInternal:
         updateLook();
         break;
-    case QEvent::Resize:
-    case QEvent::LayoutRequest:
-        makeRoom();
-        break;
     default:
         break;
     }
-    return QWidget::event(event);
+    if (event->type() != QEvent::Paint)
+        return QScrollArea::event(event);
+    QPainter painter(this);
+    painter.fillRect(rect(), Look::of(*this).list.base);
+    if (showsFocus(*this))
+        drawFocusRing(painter, rect(), 0, Look::of(*this));
+    return true;
+}
+
+bool EmptyState::viewportEvent(QEvent *event)
+{
+    const bool isHandled = QScrollArea::viewportEvent(event);
+    if (event->type() == QEvent::Resize)
+        makeRoom();
+    return isHandled;
+}
+
+bool EmptyState::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_page && event->type() == QEvent::LayoutRequest)
+        makeRoom();
+    return QScrollArea::eventFilter(watched, event);
 }
 
 void EmptyState::updateLook()
@@ -89,7 +122,7 @@ void EmptyState::updateLook()
     const Look look = Look::of(*this);
     const int margin = look.measures.alignmentLine;
     const int gap = look.measures.units(gapBetweenLines);
-    layout()->setContentsMargins(margin, margin, margin, margin);
+    column().setContentsMargins(margin, margin, margin, margin);
     m_icon->setContentsMargins(0, 0, 0, look.measures.units(gapAfterDisc));
     m_title->setContentsMargins(0, 0, 0, gap);
     m_actions->setContentsMargins(0, gap, 0, 0);
@@ -118,24 +151,26 @@ void EmptyState::updateLook()
     m_icon->setPixmap(disc);
 }
 
+QVBoxLayout &EmptyState::column() const
+{
+    return *qobject_cast<QVBoxLayout *>(m_page->layout());
+}
+
 void EmptyState::makeRoom()
 {
+    const QSize room = viewport()->size();
     const Measures measures(font());
     const int margin = measures.alignmentLine;
-    QMargins margins = layout()->contentsMargins();
-    int all = layout()->totalHeightForWidth(width()) - margins.top() - margins.bottom() + (2 * margin);
+    QMargins margins = column().contentsMargins();
+    int all = column().totalHeightForWidth(room.width()) - margins.top() - margins.bottom() + (2 * margin);
     if (m_icon->isHidden())
         all += m_icon->sizeHint().height();
-    const bool hasRoom = all <= height();
+    const bool hasRoom = all <= room.height();
     m_icon->setVisible(hasRoom);
     margins.setTop(hasRoom ? margin : measures.barPadding);
     margins.setBottom(margins.top());
-    layout()->setContentsMargins(margins);
-}
-
-void EmptyState::paintEvent(QPaintEvent * /*event*/)
-{
-    QPainter(this).fillRect(rect(), Look::of(*this).list.base);
+    column().setContentsMargins(margins);
+    m_page->resize(room.width(), std::max(room.height(), column().totalMinimumHeightForWidth(room.width())));
 }
 
 void EmptyState::setSymbol(const QString &symbol)
@@ -159,19 +194,18 @@ void EmptyState::setText(const QString &text)
 
 void EmptyState::setBox(QWidget *box)
 {
-    auto *column = qobject_cast<QVBoxLayout *>(layout());
     m_box = new QHBoxLayout;
     m_box->addStretch();
     // As wide as it may get, in the middle.
     m_box->addWidget(box, 1);
     m_box->addStretch();
-    column->insertLayout(column->indexOf(m_text) + 1, m_box);
+    column().insertLayout(column().indexOf(m_text) + 1, m_box);
     updateLook();
 }
 
 QPushButton *EmptyState::addAction(const QString &title, const QString &objectName)
 {
-    auto *button = new QPushButton(title, this);
+    auto *button = new QPushButton(title, m_page);
     button->setObjectName(objectName);
     RoamletStyle::applyTo(*button);
     // Between the two stretches.

@@ -3,18 +3,20 @@
 
 #pragma once
 
+#include <QScrollArea>
 #include <QString>
-#include <QWidget>
 
 class QHBoxLayout;
 class QLabel;
 class QPushButton;
+class QVBoxLayout;
 
 namespace roamlet
 {
 
-/// What stands in the place of a list that there is not: why, and what can be done.
-class EmptyState final : public QWidget
+/// What stands in the place of a list that there is not: why, and what can be done. Scrolls only where large
+/// letters leave no room for all of it.
+class EmptyState final : public QScrollArea
 {
     Q_OBJECT
 
@@ -34,13 +36,16 @@ public:
 
 protected:
     bool event(QEvent *event) override;
-    void paintEvent(QPaintEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    bool viewportEvent(QEvent *event) override;
 
 private:
     void updateLook();
     /// Without the sign and with narrow margins, where these would leave too little to what is said.
     void makeRoom();
+    QVBoxLayout &column() const;
 
+    QWidget *m_page;
     QString m_symbol;
     QLabel *m_icon;
     QLabel *m_title;
