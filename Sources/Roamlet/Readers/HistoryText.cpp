@@ -104,6 +104,58 @@ std::optional<HistoryText::Answer> HistoryText::search(const HistoryQuery &query
     return answer;
 }
 
+std::optional<std::vector<RankedPage>> HistoryText::best(const QStringList &words, size_t most) const
+{
+    const HistoryQuery query{.words = words, .site = {}, .limit = -1};
+    const std::optional<Condition> condition = conditionOf(query);
+    const std::optional<PageRanking> ranking = PageRanking::of(words);
+    if (!condition || !ranking)
+        return {};
+    RowNumbers rows;
+    findInSlices(query, *condition, rows);
+
+    struct Candidate {
+        PageRank rank;
+        RowNumber row;
+    };
+    const auto isBefore = [](const Candidate &left, const Candidate &right) {
+        return left.rank.isBefore(right.rank);
+    };
+    // The best ones so far, the worst of them on top.
+    std::vector<Candidate> chosen;
+    for (const RowNumber row : m_areOfSharedPage.empty() ? rows : withoutRepeated(rows)) {
+        const Row &facts = m_rows[row];
+        if (std::isnan(facts.lastVisit))
+            continue;
+        const std::string_view url = text().substr(m_starts[row], m_urlSizes[row]);
+        const Candidate candidate{
+            .rank = ranking->rank(url, titleBytes(row), pointInTime(facts.lastVisit), facts.visitCount),
+            .row = row};
+        if (chosen.size() >= most) {
+            if (chosen.empty() || !isBefore(candidate, chosen.front()))
+                continue;
+            std::ranges::pop_heap(chosen, isBefore);
+            chosen.pop_back();
+        }
+        chosen.push_back(candidate);
+        std::ranges::push_heap(chosen, isBefore);
+    }
+    std::ranges::sort_heap(chosen, isBefore);
+    std::vector<RankedPage> result;
+    for (const Candidate &candidate : chosen)
+        result.push_back({.item = item(candidate.row), .rank = candidate.rank});
+    return result;
+}
+
+/// What a search finds of a row's title.
+std::string_view HistoryText::titleBytes(RowNumber row) const
+{
+    if (searched(row) != HistoryTextRow::Searched::All)
+        return {};
+    const size_t start = urlEnd(row) + 1;
+    return text().substr(start, m_starts[row + 1] - 1 - start);
+}
+
 /// The words, those first that the fewest rows have, and the site.
 std::optional<HistoryText::Condition> HistoryText::conditionOf(const HistoryQuery &query) const
 {
@@ -272,36 +324,39 @@ HistoryText::RowNumber HistoryText::rowAt(size_t place, RowNumber from) const
     return static_cast<RowNumber>(next - begin - 1);
 }
 
-HistoryResults HistoryText::results(const HistoryQuery &query, const RowNumbers &rows) const
+HistoryText::RowNumbers HistoryText::withoutRepeated(const RowNumbers &rows) const
 {
-    // The newest row of a page that matches stands for it.
     QSet<qint64> sharedPages;
-    const auto isRepeated = [&](RowNumber row) {
-        if (m_areOfSharedPage.empty() || !m_areOfSharedPage[row])
+    RowNumbers once;
+    std::ranges::remove_copy_if(rows, std::back_inserter(once), [&](RowNumber row) {
+        if (!m_areOfSharedPage[row])
             return false;
         const qsizetype known = sharedPages.size();
         sharedPages.insert(m_rows[row].id);
         return sharedPages.size() == known;
-    };
+    });
+    return once;
+}
+
+HistoryResults HistoryText::results(const HistoryQuery &query, const RowNumbers &rows) const
+{
+    // The newest row of a page that matches stands for it.
+    RowNumbers once;
+    if (!m_areOfSharedPage.empty())
+        once = withoutRepeated(rows);
+    const RowNumbers &all = m_areOfSharedPage.empty() ? rows : once;
     const size_t limit =
-        query.limit < 0 ? rows.size() : std::min(rows.size(), static_cast<size_t>(query.limit));
+        query.limit < 0 ? all.size() : std::min(all.size(), static_cast<size_t>(query.limit));
     RowNumbers chosen;
     if (query.order == HistoryQuery::Order::Latest) {
-        for (size_t i = 0; i < rows.size() && chosen.size() < limit; ++i) {
-            if (!isRepeated(rows[i]))
-                chosen.push_back(rows[i]);
-        }
+        chosen.assign(all.begin(), all.begin() + static_cast<std::ptrdiff_t>(limit));
     } else {
         const auto isBefore = [this](RowNumber left, RowNumber right) {
             const qint64 leftCount = m_rows[left].visitCount;
             const qint64 rightCount = m_rows[right].visitCount;
             return leftCount != rightCount ? leftCount > rightCount : left < right;
         };
-        RowNumbers once;
-        if (!m_areOfSharedPage.empty())
-            std::ranges::remove_copy_if(rows, std::back_inserter(once), isRepeated);
-        const RowNumbers &all = m_areOfSharedPage.empty() ? rows : once;
-        chosen.resize(std::min(limit, all.size()));
+        chosen.resize(limit);
         std::ranges::partial_sort_copy(all, chosen, isBefore);
     }
     HistoryResults results;

@@ -6,6 +6,7 @@
 #include "Model/HistoryQuery.h"
 #include "Model/Source.h"
 #include "Platform/LargeMemory.h"
+#include "Readers/PageRanking.h"
 
 #include <cstdint>
 #include <memory>
@@ -71,6 +72,9 @@ public:
     /// (see HistoryQuery::isWithin), only the rows `among` that one found, all of them, are looked at.
     std::optional<Answer> search(const HistoryQuery &query, const RowNumbers *among = nullptr) const;
 
+    /// The so many rows that answer the words best, the best first; nothing where only the database can.
+    std::optional<std::vector<RankedPage>> best(const QStringList &words, size_t most) const;
+
     /// The text of a source that has no history.
     static std::shared_ptr<const HistoryText> empty(const SharedSource &source);
 
@@ -105,10 +109,13 @@ private:
     RowNumbers findAmong(const Literal &literal, const RowNumbers &among, Slice slice) const;
     bool isOfSite(RowNumber row, const Condition &condition) const;
     HistoryResults results(const HistoryQuery &query, const RowNumbers &rows) const;
+    /// These rows, and of several that stand for one page the newest.
+    RowNumbers withoutRepeated(const RowNumbers &rows) const;
     HistoryItem item(RowNumber row) const;
 
     bool isFoundIn(RowNumber row, const Literal &literal) const;
     bool isLike(RowNumber row, const Literal &literal) const;
+    std::string_view titleBytes(RowNumber row) const;
     bool isHit(size_t place, RowNumber row, const Literal &literal) const;
     bool isBroken(RowNumber row) const;
     RowNumber rowAt(size_t place, RowNumber from) const;
