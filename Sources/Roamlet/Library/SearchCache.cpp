@@ -8,8 +8,6 @@
 #include "Platform/Clock.h"
 #include "Platform/Confinement.h"
 #include "Platform/Processes.h"
-#include "Platform/UserDefaults.h"
-#include "Readers/BrowserReader.h"
 
 #include <QSet>
 
@@ -22,8 +20,6 @@ namespace roamlet
 namespace
 {
 
-constexpr size_t mebibyte = size_t{1} << 20;
-
 /// Those whose texts are missing, made of what the files no longer hold, or refused for want of room that
 /// there is now.
 QList<Source> outdated(QList<Source> sources, const SearchTexts &texts, size_t bytesLeft,
@@ -35,23 +31,6 @@ QList<Source> outdated(QList<Source> sources, const SearchTexts &texts, size_t b
                (known->text || bytesLeft <= known->refusedBytes);
     });
     return sources;
-}
-
-SearchText build(const Source &source, size_t mostBytes, const ReadContext &context)
-{
-    // Taken before the files are read: whatever happens to them since makes it another one.
-    SearchText result{.text = {}, .state = SourceRead::stateOfHistory(source, context)};
-    if (mostBytes == 0) {
-        result.refusedBytes = 0;
-        return result;
-    }
-    auto text = BrowserReader::historyText(source, context, mostBytes);
-    // What cannot be read is read again when its files are others, or the next search is expected.
-    if (text) {
-        result.text = std::move(*text);
-        result.refusedBytes = mostBytes;
-    }
-    return result;
 }
 
 } // namespace
@@ -130,7 +109,7 @@ void SearchCache::buildNext()
             Confinement::ofReadingThread(context.folders.temporary);
             ReadContext stoppable = context;
             stoppable.stop = stop;
-            return build(source, mostBytes, stoppable);
+            return SearchText::of(source, mostBytes, stoppable);
         },
         [this, id = source.id()](const SearchText &text) {
             m_texts.insert(id, text);
@@ -140,13 +119,7 @@ void SearchCache::buildNext()
 
 size_t SearchCache::bytesLeft() const
 {
-    bool isNumber = false;
-    const qint64 stored = m_platform.defaults.string(limitKey).value_or(QString()).toLongLong(&isNumber);
-    const qint64 limit = isNumber ? std::clamp<qint64>(stored, 0, 1 << 20) : defaultLimit;
-    size_t left = static_cast<size_t>(limit) * mebibyte;
-    for (const SearchText &text : m_texts)
-        left -= std::min(left, text.text ? text.text->byteCount() : 0);
-    return left;
+    return roamlet::bytesLeft(m_texts, textLimit(m_platform.defaults));
 }
 
 void SearchCache::releaseLater()

@@ -25,10 +25,8 @@ class SearchCache
 public:
     /// How long the texts are kept once nobody searches any more.
     static constexpr std::chrono::minutes keptFor{1};
-    /// In MiB, how much memory the texts of all sources may take: "256" where the setting is absent or no
-    /// number. With 0 there are none.
-    static inline const QString limitKey = QStringLiteral("search.memoryLimit");
-    static constexpr qint64 defaultLimit = 256;
+    static inline const QString limitKey = textLimitKey;
+    static constexpr qint64 defaultLimit = defaultTextLimit;
 
     explicit SearchCache(const Platform &platform) : m_platform(platform) {}
 

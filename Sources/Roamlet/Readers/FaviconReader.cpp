@@ -25,14 +25,6 @@ struct Bitmap {
     QByteArray bytes;
 };
 
-/// Small icons are drawn 16 points wide, on fine displays with 32 pixels: the smallest bitmap that has these
-/// is best, else the widest.
-bool isBetter(std::int64_t width, std::int64_t keptWidth)
-{
-    constexpr std::int64_t wideEnough = 32;
-    return keptWidth >= wideEnough ? width >= wideEnough && width < keptWidth : width > keptWidth;
-}
-
 /// One of the bitmaps that could serve.
 struct Candidate {
     std::int64_t icon;
@@ -50,14 +42,22 @@ void choose(QHash<Key, Candidate> &chosen, const Key &key, Candidate candidate)
         *kept = candidate;
 }
 
+} // namespace
+
+/// Small icons are drawn 16 points wide, on fine displays with 32 pixels: the smallest bitmap that has these
+/// is best, else the widest.
+bool isBetter(std::int64_t width, std::int64_t keptWidth)
+{
+    constexpr std::int64_t wideEnough = 32;
+    return keptWidth >= wideEnough ? width >= wideEnough && width < keptWidth : width > keptWidth;
+}
+
 /// Safari names an icon's file by the digest of its identifier.
-QString fileName(const QString &uuid)
+QString safariFileName(const QString &uuid)
 {
     const QByteArray digest = QCryptographicHash::hash(uuid.toUtf8(), QCryptographicHash::Md5);
     return QString::fromLatin1(digest.toHex().toUpper());
 }
-
-} // namespace
 
 std::expected<Favicons, ReadError> chromium(const Source &source, const ReadContext &context)
 {
@@ -179,7 +179,7 @@ std::expected<Favicons, ReadError> safari(const ReadContext &context)
             const std::optional<QString> uuid = row.text(Uuid);
             const std::optional<QString> site = url && uuid ? Site::name(*url) : std::nullopt;
             if (site)
-                favicons.insert(*site, FaviconFile{folder % u"/favicons/" % fileName(*uuid)});
+                favicons.insert(*site, FaviconFile{folder % u"/favicons/" % safariFileName(*uuid)});
         });
     if (!run)
         return std::unexpected(run.error());
