@@ -37,7 +37,7 @@ QString writeProgram(const QString &path)
                 "record=$ROAMLET_TEST_RECORDS/$$\n"
                 "{\n"
                 "  sed -n 's/^Sig\\(Blk\\|Ign\\):[[:space:]]*//p' /proc/self/status\n"
-                "  printf '%s\\n' \"${0##*/}\" \"$@\"\n"
+                "  printf '%s\\n' \"$XDG_ACTIVATION_TOKEN\" \"${0##*/}\" \"$@\"\n"
                 "} > \"$record\"\n"_s);
     QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     return path;
@@ -105,10 +105,11 @@ QList<FakeDesktop::Start> FakeDesktop::starts() const
         EXPECT_TRUE(file.open(QIODevice::ReadOnly));
         QStringList lines = QString::fromUtf8(file.readAll()).split(u'\n');
         lines.removeLast();
-        starts.append({.program = lines.value(2),
-                       .arguments = lines.mid(3),
+        starts.append({.program = lines.value(3),
+                       .arguments = lines.mid(4),
                        .blockedSignals = lines.value(0),
-                       .ignoredSignals = lines.value(1)});
+                       .ignoredSignals = lines.value(1),
+                       .activationToken = lines.value(2)});
     }
     std::ranges::sort(starts, {},
                       [](const Start &start) { return QString(start.program % start.arguments.join(u' ')); });

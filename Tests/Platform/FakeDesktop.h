@@ -22,6 +22,7 @@ public:
         /// Hexadecimal masks of the signals that the program found blocked and ignored.
         QString blockedSignals;
         QString ignoredSignals;
+        QString activationToken;
     };
 
     FakeDesktop();

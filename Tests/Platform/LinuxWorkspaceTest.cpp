@@ -8,7 +8,7 @@
 #include <QDir>
 #include <QFile>
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 #include <signal.h>
 #include <sys/prctl.h>
 #include <sys/wait.h>
@@ -35,6 +35,26 @@ TEST_F(LinuxWorkspaceTest, aProfileIsOpenedByTheBrowsersOwnCommand)
     EXPECT_EQ(start.arguments,
               QStringList({u"--profile-directory=Profile 1"_s, u"--ignore-profile-directory-if-not-exists"_s,
                            u"http://a/"_s, u"http://b/"_s}));
+}
+
+TEST_F(LinuxWorkspaceTest, whatIsStartedGetsTheTokenByWhichItMayComeForward)
+{
+    desktop.addApplication(u"google-chrome.desktop"_s, u"chrome"_s);
+    keepDataIn(u".config/google-chrome"_s);
+    workspace.setActivationToken(u"a token"_s);
+    workspace.openInProfile({u"http://a/"_s}, profileOf(Source::Kind::Chrome, u"Profile 1"_s));
+    workspace.finishStarts();
+    workspace.open({u"http://b/"_s}, Source::Kind::Chrome);
+    workspace.finishStarts();
+    workspace.setActivationToken({});
+    workspace.openInProfile({u"http://c/"_s}, profileOf(Source::Kind::Chrome, u"Profile 1"_s));
+    QStringList tokens;
+    for (const FakeDesktop::Start &start : starts())
+        tokens.append(QString(start.arguments.last() % u' ' % start.activationToken));
+    EXPECT_THAT(tokens, ::testing::UnorderedElementsAre(u"http://a/ a token"_s, u"http://b/ a token"_s,
+                                                        u"http://c/ "_s));
+    // Nothing of it stays in this process.
+    EXPECT_FALSE(qEnvironmentVariableIsSet("XDG_ACTIVATION_TOKEN"));
 }
 
 TEST_F(LinuxWorkspaceTest, aProfileInTheDataFolderItselfIsNamedToNobody)

@@ -235,17 +235,18 @@ PageSteering *LinuxWorkspace::steering()
 
 void LinuxWorkspace::start(const QStringList &command)
 {
-    m_starts.start([command] { DetachedProcess::start(command); });
+    m_starts.start([command, token = m_activationToken] { DetachedProcess::start(command, token); });
 }
 
 void LinuxWorkspace::launch(const DesktopEntry &entry, const QStringList &urls)
 {
-    m_starts.start([entry, urls] { entry.launch(urls); });
+    m_starts.start([entry, urls, token = m_activationToken] { entry.launch(urls, token); });
 }
 
 void LinuxWorkspace::launchPreferred(const QString &scheme, const QStringList &urls)
 {
-    m_starts.start([scheme, urls] { DesktopEntry::launchPreferred(scheme, urls); });
+    m_starts.start(
+        [scheme, urls, token = m_activationToken] { DesktopEntry::launchPreferred(scheme, urls, token); });
 }
 
 } // namespace roamlet

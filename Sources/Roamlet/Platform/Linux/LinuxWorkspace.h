@@ -59,6 +59,8 @@ public:
     void openInProfile(const QStringList &urls, const Source &source) override;
     void showPage(const QString &page, const Source &source) override;
 
+    /// What is started from now on may come forward by this token, where windows need one; it may be empty.
+    void setActivationToken(const QString &token) { m_activationToken = token; }
     /// Returns once everything that was asked for so far has been started.
     void finishStarts() { m_starts.waitForDone(); }
 
@@ -80,6 +82,7 @@ private:
     std::unique_ptr<BrowserWindows> m_windows;
     std::optional<PageSteering> m_steering;
     PasteNotice m_notice;
+    QString m_activationToken;
     /// Where programs are started, one after the other: the more memory this process holds, the longer a
     /// start takes, and there may be one for each of many links.
     QThreadPool m_starts;

@@ -16,7 +16,7 @@
 namespace roamlet::DetachedProcess
 {
 
-bool start(const QStringList &command)
+bool start(const QStringList &command, const QString &activationToken)
 {
     QList<QByteArray> texts;
     for (const QString &text : command)
@@ -25,10 +25,14 @@ bool start(const QStringList &command)
     for (QByteArray &text : texts)
         arguments.push_back(text.data());
     arguments.push_back(nullptr);
+    GLibPointer<gchar *> environment(g_get_environ());
+    if (!activationToken.isEmpty())
+        environment.reset(g_environ_setenv(environment.release(), tokenVariable,
+                                           activationToken.toUtf8().constData(), TRUE));
     // Without G_SPAWN_DO_NOT_REAP_CHILD a process in between starts the program, so that it becomes nobody's
     // child that would have to be waited for.
-    return g_spawn_async(nullptr, arguments.data(), nullptr, spawnFlags, prepareChild, nullptr, nullptr,
-                         nullptr) != FALSE;
+    return g_spawn_async(nullptr, arguments.data(), environment.get(), spawnFlags, prepareChild, nullptr,
+                         nullptr, nullptr) != FALSE;
 }
 
 QList<QStringList> portions(const QStringList &arguments)

@@ -26,7 +26,8 @@ Function *functionNamed(const char *name)
     return function ? reinterpret_cast<Function *>(*function) : nullptr;
 }
 
-bool launch(const char *launcher, const QByteArray &what, const QStringList &urls)
+bool launch(const char *launcher, const QByteArray &what, const QStringList &urls,
+            const QString &activationToken)
 {
     auto *const function = functionNamed<LaunchWith>(launcher);
     if (function == nullptr)
@@ -38,19 +39,20 @@ bool launch(const char *launcher, const QByteArray &what, const QStringList &url
     for (const QByteArray &text : texts)
         list.push_back(text.constData());
     list.push_back(nullptr);
-    return function(what.constData(), list.data(), DetachedProcess::prepareChild) != 0;
+    return function(what.constData(), list.data(), activationToken.toUtf8().constData(),
+                    DetachedProcess::prepareChild) != 0;
 }
 
 } // namespace
 
-bool launchEntry(const QString &path, const QStringList &urls)
+bool launchEntry(const QString &path, const QStringList &urls, const QString &activationToken)
 {
-    return launch("roamletLaunchEntry", QFile::encodeName(path), urls);
+    return launch("roamletLaunchEntry", QFile::encodeName(path), urls, activationToken);
 }
 
-bool launchPreferred(const QString &type, const QStringList &urls)
+bool launchPreferred(const QString &type, const QStringList &urls, const QString &activationToken)
 {
-    return launch("roamletLaunchPreferred", type.toUtf8(), urls);
+    return launch("roamletLaunchPreferred", type.toUtf8(), urls, activationToken);
 }
 
 std::unique_ptr<BrowserWindows> browserWindows(const QByteArray &display)
