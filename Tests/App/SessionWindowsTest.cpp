@@ -4,8 +4,10 @@
 #include "App/SessionWindows.h"
 
 #include "App/DesktopFakes.h"
+#include "App/Export/ExportPanel.h"
 #include "App/Window/ContentView.h"
 #include "App/Window/OpenWindows.h"
+#include "App/Window/SearchField.h"
 #include "Support/LibraryHome.h"
 #include "Support/MemoryUserDefaults.h"
 #include "Support/Waiting.h"
@@ -127,6 +129,42 @@ TEST_F(SessionRestoringTest, whereNoWindowWasOpenItWaitsInTheTray)
     EXPECT_EQ(openWindows(), QWidgetList());
     app->reopen();
     EXPECT_EQ(openWindows(), QWidgetList{app->mainWindow()});
+}
+
+TEST_F(SessionRestoringTest, anActionOfTheDesktopEntryOpensWhatItSays)
+{
+    using Wish = RunningInstance::Wish;
+    begin(true);
+    EXPECT_EQ(app->mainWindow(), nullptr);
+    app->perform(Wish::Bookmarks);
+    ASSERT_NE(app->mainWindow(), nullptr);
+    EXPECT_TRUE(app->mainWindow()->isVisible());
+    EXPECT_EQ(app->mainWindow()->content()->pane(), Pane(BookmarksPane()));
+    app->perform({Wish::Search, u"two words"_s});
+    EXPECT_EQ(app->mainWindow()->content()->pane(), Pane(HistoryPane()));
+    const auto *field = app->mainWindow()->findChild<SearchField *>();
+    EXPECT_EQ(field->text(), u"two words");
+    app->perform({Wish::Search, u"others"_s});
+    EXPECT_EQ(field->text(), u"others");
+    // Without words, what is there is selected and typed over.
+    app->perform(Wish::Search);
+    EXPECT_EQ(field->selectedText(), u"others");
+    app->perform(Wish::ComeForward);
+    EXPECT_EQ(field->text(), u"others");
+    app->perform(Wish::Nothing);
+    EXPECT_EQ(openWindows(), QWidgetList{app->mainWindow()});
+}
+
+TEST_F(SessionRestoringTest, theExportOpensOnceTheBookmarksAreThere)
+{
+    begin(true);
+    app->perform(RunningInstance::Wish::ExportBookmarks);
+    ASSERT_TRUE(waitUntil([this] { return app->library().lastLoaded().has_value(); }));
+    auto *sheet = app->mainWindow()->findChild<ExportPanel *>();
+    ASSERT_NE(sheet, nullptr);
+    EXPECT_TRUE(sheet->isVisible());
+    app->perform(RunningInstance::Wish::ExportBookmarks);
+    EXPECT_EQ(app->mainWindow()->findChildren<ExportPanel *>().size(), 1);
 }
 
 TEST_F(SessionRestoringTest, theSettingsComeBackAlone)

@@ -3,12 +3,14 @@
 
 #include "Platform/Linux/DBusRunningInstance.h"
 
+#include "Platform/Linux/Search/ApplicationCall.h"
 #include "Support/SessionBus.h"
 #include "Support/Waiting.h"
 
 #include <QDBusMessage>
 #include <QDBusVirtualObject>
 #include <QMetaObject>
+#include <QScopeGuard>
 
 #include <gtest/gtest.h>
 
@@ -56,7 +58,7 @@ protected:
         Claim claim = Claim::Alone;
         const std::jthread other([&] {
             DBusRunningInstance instance(QDBusConnection::connectToBus(address, name));
-            claim = instance.claim(wish, [](Wish /*wish*/) {});
+            claim = instance.claim(wish, [](const Wish & /*wish*/) {});
             isDone = true;
         });
         EXPECT_TRUE(waitUntil([&isDone] { return isDone.load(); }));
@@ -71,14 +73,15 @@ protected:
 TEST_F(DBusRunningInstanceTest, theFirstOneRuns)
 {
     DBusRunningInstance first(connection(u"first"_s));
-    EXPECT_EQ(first.claim(Wish::ComeForward, [](Wish /*wish*/) {}), Claim::First);
+    EXPECT_EQ(first.claim(Wish::ComeForward, [](const Wish & /*wish*/) {}), Claim::First);
 }
 
 TEST_F(DBusRunningInstanceTest, aLaterStartActivatesTheFirstAndHandsOver)
 {
     int activations = 0;
     DBusRunningInstance first(connection(u"first"_s));
-    ASSERT_EQ(first.claim(Wish::ComeForward, [&activations](Wish /*wish*/) { ++activations; }), Claim::First);
+    ASSERT_EQ(first.claim(Wish::ComeForward, [&activations](const Wish & /*wish*/) { ++activations; }),
+              Claim::First);
     EXPECT_EQ(claimElsewhere(u"second"_s), Claim::HandedOver);
     EXPECT_EQ(activations, 1);
     EXPECT_EQ(claimElsewhere(u"third"_s), Claim::HandedOver);
@@ -89,7 +92,8 @@ TEST_F(DBusRunningInstanceTest, aStartThatNobodyWaitsForDisturbsNobody)
 {
     int activations = 0;
     DBusRunningInstance first(connection(u"first"_s));
-    ASSERT_EQ(first.claim(Wish::Nothing, [&activations](Wish /*wish*/) { ++activations; }), Claim::First);
+    ASSERT_EQ(first.claim(Wish::Nothing, [&activations](const Wish & /*wish*/) { ++activations; }),
+              Claim::First);
     EXPECT_EQ(claimElsewhere(u"second"_s, Wish::Nothing), Claim::HandedOver);
     // What the second one might have asked for comes before this.
     EXPECT_EQ(claimElsewhere(u"third"_s, Wish::ComeForward), Claim::HandedOver);
@@ -100,40 +104,72 @@ TEST_F(DBusRunningInstanceTest, aLaterStartThatRestoresASessionSaysSo)
 {
     QList<Wish> wishes;
     DBusRunningInstance first(connection(u"first"_s));
-    ASSERT_EQ(first.claim(Wish::Nothing, [&wishes](Wish wish) { wishes.append(wish); }), Claim::First);
+    ASSERT_EQ(first.claim(Wish::Nothing, [&wishes](const Wish &wish) { wishes.append(wish); }), Claim::First);
     EXPECT_EQ(claimElsewhere(u"second"_s, Wish::RestoreSession), Claim::HandedOver);
     EXPECT_EQ(claimElsewhere(u"third"_s, Wish::ComeForward), Claim::HandedOver);
     EXPECT_EQ(wishes, (QList<Wish>{Wish::RestoreSession, Wish::ComeForward}));
+}
+
+TEST_F(DBusRunningInstanceTest, eachActionOfTheDesktopEntryArrives)
+{
+    QList<Wish> wishes;
+    DBusRunningInstance first(connection(u"first"_s));
+    ASSERT_EQ(first.claim(Wish::Nothing, [&wishes](const Wish &wish) { wishes.append(wish); }), Claim::First);
+    const QList<Wish> wished{Wish(Wish::Search, u"two words"_s), Wish::Search, Wish::Bookmarks,
+                             Wish::ExportBookmarks};
+    for (qsizetype i = 0; i < wished.size(); ++i)
+        EXPECT_EQ(claimElsewhere(u"start %1"_s.arg(i), wished[i]), Claim::HandedOver);
+    EXPECT_EQ(wishes, wished);
+}
+
+TEST_F(DBusRunningInstanceTest, aTokenThatLetsTheWindowComeForwardIsHandedOn)
+{
+    const auto tokenless = qScopeGuard([] { qunsetenv("XDG_ACTIVATION_TOKEN"); });
+    int activations = 0;
+    DBusRunningInstance first(connection(u"first"_s));
+    ASSERT_EQ(first.claim(Wish::Nothing, [&activations](const Wish & /*wish*/) { ++activations; }),
+              Claim::First);
+    QDBusMessage activation = QDBusMessage::createMethodCall(
+        u"org.roamlet.Roamlet"_s, u"/org/roamlet/Roamlet"_s, u"org.freedesktop.Application"_s, u"Activate"_s);
+    activation << QVariantMap{{u"activation-token"_s, u"one"_s}};
+    ASSERT_TRUE(connection(u"desktop"_s).send(activation));
+    EXPECT_TRUE(waitUntil([&activations] { return activations == 1; }));
+    EXPECT_EQ(qgetenv("XDG_ACTIVATION_TOKEN"), "one");
+
+    // What a later start was given goes to the one that runs.
+    const QDBusMessage message = ApplicationCall::message({}, Wish::ComeForward, u"two"_s);
+    EXPECT_EQ(ApplicationCall::activationToken(message.arguments().last().toMap()), u"two");
 }
 
 TEST_F(DBusRunningInstanceTest, anActionThatNobodyKnowsBringsItForward)
 {
     QList<Wish> wishes;
     DBusRunningInstance first(connection(u"first"_s));
-    ASSERT_EQ(first.claim(Wish::Nothing, [&wishes](Wish wish) { wishes.append(wish); }), Claim::First);
+    ASSERT_EQ(first.claim(Wish::Nothing, [&wishes](const Wish &wish) { wishes.append(wish); }), Claim::First);
     QDBusMessage action =
         QDBusMessage::createMethodCall(u"org.roamlet.Roamlet"_s, u"/org/roamlet/Roamlet"_s,
                                        u"org.freedesktop.Application"_s, u"ActivateAction"_s);
     action << u"dance"_s << QVariantList() << QVariantMap();
     ASSERT_TRUE(connection(u"desktop"_s).send(action));
-    EXPECT_TRUE(waitUntil([&wishes] { return wishes == QList{Wish::ComeForward}; }));
+    EXPECT_TRUE(waitUntil([&wishes] { return wishes == QList<Wish>{Wish::ComeForward}; }));
 }
 
 TEST_F(DBusRunningInstanceTest, theNameIsFreeAgainWhenTheFirstHasEnded)
 {
     {
         DBusRunningInstance first(connection(u"first"_s));
-        ASSERT_EQ(first.claim(Wish::ComeForward, [](Wish /*wish*/) {}), Claim::First);
+        ASSERT_EQ(first.claim(Wish::ComeForward, [](const Wish & /*wish*/) {}), Claim::First);
     }
     DBusRunningInstance second(connection(u"second"_s));
-    EXPECT_EQ(second.claim(Wish::ComeForward, [](Wish /*wish*/) {}), Claim::First);
+    EXPECT_EQ(second.claim(Wish::ComeForward, [](const Wish & /*wish*/) {}), Claim::First);
 }
 
 TEST_F(DBusRunningInstanceTest, theDesktopCanActivateIt)
 {
     int activations = 0;
     DBusRunningInstance first(connection(u"first"_s));
-    ASSERT_EQ(first.claim(Wish::ComeForward, [&activations](Wish /*wish*/) { ++activations; }), Claim::First);
+    ASSERT_EQ(first.claim(Wish::ComeForward, [&activations](const Wish & /*wish*/) { ++activations; }),
+              Claim::First);
     QDBusConnection desktop = connection(u"desktop"_s);
     QDBusMessage activate = QDBusMessage::createMethodCall(
         u"org.roamlet.Roamlet"_s, u"/org/roamlet/Roamlet"_s, u"org.freedesktop.Application"_s, u"Activate"_s);
@@ -183,7 +219,8 @@ TEST_F(DBusRunningInstanceTest, aProgramThatIsEndingLeavesThePlaceToTheNext)
 {
     int activations = 0;
     DBusRunningInstance first(connection(u"first"_s));
-    ASSERT_EQ(first.claim(Wish::ComeForward, [&activations](Wish /*wish*/) { ++activations; }), Claim::First);
+    ASSERT_EQ(first.claim(Wish::ComeForward, [&activations](const Wish & /*wish*/) { ++activations; }),
+              Claim::First);
     first.release();
     EXPECT_EQ(claimElsewhere(u"second"_s), Claim::First);
     EXPECT_EQ(activations, 0);
@@ -192,7 +229,7 @@ TEST_F(DBusRunningInstanceTest, aProgramThatIsEndingLeavesThePlaceToTheNext)
 TEST(DBusRunningInstanceWithoutABusTest, theProgramRunsAlone)
 {
     DBusRunningInstance instance(QDBusConnection::connectToBus(u"unix:path=/nonexistent/bus"_s, u"no bus"_s));
-    EXPECT_EQ(instance.claim(Wish::ComeForward, [](Wish /*wish*/) {}), Claim::Alone);
+    EXPECT_EQ(instance.claim(Wish::ComeForward, [](const Wish & /*wish*/) {}), Claim::Alone);
     QDBusConnection::disconnectFromBus(u"no bus"_s);
 }
 

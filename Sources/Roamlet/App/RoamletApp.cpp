@@ -23,6 +23,7 @@
 #include "Platform/Linux/LinuxPlatform.h"
 #include "Platform/Linux/LinuxWorkspace.h"
 #include "Platform/Linux/PanelTray.h"
+#include "Platform/Linux/Search/ApplicationCall.h"
 #include "Platform/Linux/SilentBus.h"
 #include "Platform/Linux/StopSignals.h"
 #include "Platform/Processes.h"
@@ -80,6 +81,15 @@ void forgetPicturesAndFonts()
 {
     QPixmapCache::clear();
     QFont::cleanup();
+}
+
+/// What the desktop entry's actions say where the desktop starts programs by commands.
+RunningInstance::Wish wishedAction()
+{
+    const QStringList arguments = QCoreApplication::arguments();
+    const qsizetype place = arguments.indexOf(u"--action");
+    return place < 0 ? RunningInstance::Wish(RunningInstance::Wish::ComeForward)
+                     : ApplicationCall::wishOf(arguments.value(place + 1));
 }
 
 bool hasVisibleWindow()
@@ -297,6 +307,33 @@ void RoamletApp::reopen(const SessionWindows &session)
         restoreSession(session);
 }
 
+void RoamletApp::perform(const RunningInstance::Wish &wish)
+{
+    using Wish = RunningInstance::Wish;
+    switch (wish.kind) {
+    case Wish::ComeForward:
+        reopen();
+        break;
+    case Wish::RestoreSession:
+        reopen(SessionWindows::stored(m_services.platform.defaults));
+        break;
+    case Wish::Nothing:
+        break;
+    case Wish::Search:
+        openMainWindow();
+        m_mainWindow->content()->search(wish.words);
+        break;
+    case Wish::Bookmarks:
+        openMainWindow();
+        m_mainWindow->content()->setPane(BookmarksPane());
+        break;
+    case Wish::ExportBookmarks:
+        openMainWindow();
+        m_mainWindow->exportBookmarks();
+        break;
+    }
+}
+
 int RoamletApp::run(int argc, char **argv)
 {
     int status = 0;
@@ -345,11 +382,11 @@ int RoamletApp::runUntilTheEnd(int argc, char **argv, const std::stop_token &sto
     DBusRunningInstance instance;
     // Asked for by whoever starts it once more.
     using Wish = RunningInstance::Wish;
-    std::function<void(Wish)> reopen;
+    std::function<void(const Wish &)> reopen;
     // A desktop that restores its session starts the program beside the login item, and either can be the
     // first.
-    const Wish wish = !isAwaited ? Wish::Nothing : isRestored ? Wish::RestoreSession : Wish::ComeForward;
-    if (instance.claim(wish, [&reopen](Wish later) {
+    const Wish wish = !isAwaited ? Wish::Nothing : isRestored ? Wish::RestoreSession : wishedAction();
+    if (instance.claim(wish, [&reopen](const Wish &later) {
             if (reopen)
                 reopen(later);
         }) == RunningInstance::Claim::HandedOver)
@@ -382,20 +419,17 @@ int RoamletApp::runUntilTheEnd(int argc, char **argv, const std::stop_token &sto
                                          .hasTray = MenuBarIcon::isAvailable});
         app->start(isLaunchedAtLogin, session);
     };
-    reopen = [&](Wish later) {
+    reopen = [&](const Wish &later) {
         start();
-        if (later == Wish::RestoreSession)
-            app->reopen(SessionWindows::stored(services.defaults));
-        else
-            app->reopen();
+        app->perform(later);
     };
     QObject waiting;
     if (!isAwaited)
         PanelTray::await(
             services.clock, &waiting, [] { return PanelTray::isThere(QDBusConnection::sessionBus()); },
             start);
-    else
-        start();
+    else if (start(); wish.kind != Wish::ComeForward && wish.kind != Wish::RestoreSession)
+        app->perform(wish);
     const int status = QApplication::exec();
     reopen = nullptr;
     // Putting everything away takes a while, in which nobody would answer a later start.

@@ -14,6 +14,7 @@
 #include "Platform/BackgroundTasks.h"
 #include "Platform/DesktopSettings.h"
 #include "Platform/Platform.h"
+#include "Platform/RunningInstance.h"
 
 #include <QList>
 #include <QPointer>
@@ -67,6 +68,9 @@ public:
     /// The session manager has, to bring back the session's windows, where something else had started the
     /// program already. What the user has opened meanwhile stays as it is.
     void reopen(const SessionWindows &session);
+
+    /// What a later start wishes, or the user who has picked an action of the desktop entry.
+    void perform(const RunningInstance::Wish &wish);
 
     Library &library() { return m_services.library; }
     /// The main window, or nothing while there is none.

@@ -370,6 +370,16 @@ void ContentView::startSearch()
     m_header->searchField()->selectAll();
 }
 
+void ContentView::search(const QString &words)
+{
+    setPane(HistoryPane());
+    setSite({});
+    startSearch();
+    // In the place of what was searched for before, to which an undo leads back.
+    if (!words.isEmpty())
+        m_header->searchField()->insert(words);
+}
+
 std::optional<ExportAction> ContentView::exportAction()
 {
     if (m_services.library.snapshot().bookmarks.isEmpty())

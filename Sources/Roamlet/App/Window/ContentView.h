@@ -62,6 +62,8 @@ public:
     void widenSidebar(int pixels);
     /// To the search field, with its text selected.
     void startSearch();
+    /// Searches the whole history for these words; where there are none, they are still to be typed.
+    void search(const QString &words);
     /// What the menu's export begins with; nothing while there is no bookmark.
     std::optional<ExportAction> exportAction();
     QMenu *groupingMenu() const;

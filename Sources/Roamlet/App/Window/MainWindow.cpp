@@ -69,6 +69,16 @@ void MainWindow::open()
     activateWindow();
 }
 
+void MainWindow::exportBookmarks()
+{
+    const Library &library = m_services.content.library;
+    if (const std::optional<ExportAction> action = m_content->exportAction())
+        action->open({.sourceID = action->sourceID});
+    else if (!library.lastLoaded())
+        connect(&library, &Library::lastLoadedChanged, this, &MainWindow::exportBookmarks,
+                Qt::SingleShotConnection);
+}
+
 void MainWindow::holdFirstPicture()
 {
     setUpdatesEnabled(false);
@@ -84,10 +94,7 @@ void MainWindow::holdFirstPicture()
 void MainWindow::setUpCommands()
 {
     using ID = WindowCommands::ID;
-    m_commands->onTriggered(ID::ExportBookmarks, [this] {
-        if (const std::optional<ExportAction> action = m_content->exportAction())
-            action->open({.sourceID = action->sourceID});
-    });
+    m_commands->onTriggered(ID::ExportBookmarks, [this] { exportBookmarks(); });
     m_commands->onTriggered(ID::CloseWindow, [this] { close(); });
     m_commands->onTriggered(ID::Quit, m_services.quit);
     m_commands->onTriggered(ID::Find, [this] { m_content->startSearch(); });

@@ -45,6 +45,8 @@ public:
     ContentView *content() const { return m_content; }
     /// Opens it or brings it forward.
     void open();
+    /// Opens the export sheet, as soon as the bookmarks have been read; without any it stays closed.
+    void exportBookmarks();
     /// Remembers its place on the screen and its columns, as it does when it is closed.
     void storePlace();
 

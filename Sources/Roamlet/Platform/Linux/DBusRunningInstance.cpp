@@ -3,6 +3,8 @@
 
 #include "Platform/Linux/DBusRunningInstance.h"
 
+#include "Platform/Linux/Search/ApplicationCall.h"
+
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QDBusReply>
@@ -17,10 +19,12 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-const QString serviceName = u"org.roamlet.Roamlet"_s;
-const QString objectPath = u"/org/roamlet/Roamlet"_s;
-const QString interfaceName = u"org.freedesktop.Application"_s;
-const QString restoreAction = u"restore-session"_s;
+using ApplicationCall::objectPath;
+using ApplicationCall::serviceName;
+
+/// Where the system leaves the token for what it has started, and where the window system looks for it.
+constexpr auto tokenVariable = "XDG_ACTIVATION_TOKEN";
+
 /// A program that does not answer for so long is not coming forward, and this start ends all the same.
 constexpr int activationTimeout = 5'000; // milliseconds
 /// A bus that falls silent meanwhile holds up the start no longer than this.
@@ -37,7 +41,8 @@ DBusRunningInstance::~DBusRunningInstance()
     release();
 }
 
-RunningInstance::Claim DBusRunningInstance::claim(Wish wish, std::function<void(Wish)> activated)
+RunningInstance::Claim DBusRunningInstance::claim(const Wish &wish,
+                                                  std::function<void(const Wish &)> activated)
 {
     if (!m_bus.isConnected())
         return Claim::Alone;
@@ -56,7 +61,7 @@ RunningInstance::Claim DBusRunningInstance::claim(Wish wish, std::function<void(
             m_activated = std::move(activated);
             return Claim::First;
         }
-        if (wish == Wish::Nothing || tell(wish)) {
+        if (wish.kind == Wish::Nothing || tell(wish)) {
             m_bus.unregisterObject(objectPath);
             return Claim::HandedOver;
         }
@@ -66,17 +71,12 @@ RunningInstance::Claim DBusRunningInstance::claim(Wish wish, std::function<void(
 }
 
 /// Whether there is still one that has the name. One that is stuck counts: a second one would not free it.
-bool DBusRunningInstance::tell(Wish wish)
+bool DBusRunningInstance::tell(const Wish &wish)
 {
     const QString owner = m_bus.interface()->serviceOwner(serviceName);
     if (owner.isEmpty())
         return false;
-    const bool isSession = wish == Wish::RestoreSession;
-    QDBusMessage message = QDBusMessage::createMethodCall(owner, objectPath, interfaceName,
-                                                          isSession ? u"ActivateAction"_s : u"Activate"_s);
-    if (isSession)
-        message << restoreAction << QVariantList();
-    message << QVariantMap();
+    const QDBusMessage message = ApplicationCall::message(owner, wish, qEnvironmentVariable(tokenVariable));
     const bool isHeard =
         m_bus.call(message, QDBus::Block, activationTimeout).type() == QDBusMessage::ReplyMessage;
     return isHeard || m_bus.interface()->serviceOwner(serviceName) == owner;
@@ -90,10 +90,9 @@ void DBusRunningInstance::release()
     m_bus.unregisterObject(objectPath);
 }
 
-void DBusRunningInstance::Activate(const QVariantMap & /*platformData*/)
+void DBusRunningInstance::Activate(const QVariantMap &platformData)
 {
-    if (m_activated)
-        m_activated(Wish::ComeForward);
+    hear(Wish::ComeForward, platformData);
 }
 
 void DBusRunningInstance::Open(const QStringList & /*uris*/, const QVariantMap &platformData)
@@ -101,11 +100,19 @@ void DBusRunningInstance::Open(const QStringList & /*uris*/, const QVariantMap &
     Activate(platformData);
 }
 
-void DBusRunningInstance::ActivateAction(const QString &name, const QVariantList & /*parameters*/,
-                                         const QVariantMap & /*platformData*/)
+void DBusRunningInstance::ActivateAction(const QString &name, const QVariantList &parameters,
+                                         const QVariantMap &platformData)
 {
-    if (m_activated)
-        m_activated(name == restoreAction ? Wish::RestoreSession : Wish::ComeForward);
+    hear(ApplicationCall::wishOf(name, parameters), platformData);
+}
+
+void DBusRunningInstance::hear(const Wish &wish, const QVariantMap &platformData)
+{
+    if (!m_activated)
+        return;
+    if (const QString token = ApplicationCall::activationToken(platformData); !token.isEmpty())
+        qputenv(tokenVariable, token.toUtf8());
+    m_activated(wish);
 }
 
 } // namespace roamlet

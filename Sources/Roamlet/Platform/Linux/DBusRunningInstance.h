@@ -27,7 +27,7 @@ public:
     explicit DBusRunningInstance(const QDBusConnection &bus);
     ~DBusRunningInstance() override;
 
-    Claim claim(Wish wish, std::function<void(Wish)> activated) override;
+    Claim claim(const Wish &wish, std::function<void(const Wish &)> activated) override;
     void release() override;
 
 public Q_SLOTS:
@@ -36,14 +36,15 @@ public Q_SLOTS:
     Activate(const QVariantMap &platformData); // NOLINT(readability-identifier-naming): the interface's name
     /// There is nothing that could be opened with this program; it comes forward.
     void Open(const QStringList &uris, const QVariantMap &platformData);
-    /// No action is one for the desktop's menus; a start that restores a session asks by one.
+    /// One of the actions in the desktop entry, or what a later start asks for.
     void ActivateAction(const QString &name, const QVariantList &parameters, const QVariantMap &platformData);
 
 private:
-    bool tell(Wish wish);
+    bool tell(const Wish &wish);
+    void hear(const Wish &wish, const QVariantMap &platformData);
 
     QDBusConnection m_bus;
-    std::function<void(Wish)> m_activated;
+    std::function<void(const Wish &)> m_activated;
 };
 
 } // namespace roamlet
