@@ -30,7 +30,8 @@ declare -A may_include=(
   [Lists]="Model"
   [Export]="Model"
   [Opening]="Model Platform"
-  [App]="Library Lists Export Opening Readers Model Platform"
+  [DesktopSearch]="Library Readers Model Platform"
+  [App]="DesktopSearch Library Lists Export Opening Readers Model Platform"
 )
 
 mapfile -t sources < <(find Sources/Roamlet -name '*.cpp' -o -name '*.h')
@@ -64,7 +65,7 @@ while IFS=: read -r file included; do
   if [[ $file == Sources/Roamlet/App/Diagnostics/* && $room == App && $included != App/Diagnostics/* ]]; then
     fail "$file includes $included" "The jobs of the command line run without what the windows need."
   fi
-done < <(grep -HE '^ *# *include *[<"](Model|Platform|Readers|Library|Lists|Export|Opening|App)/' /dev/null "${sources[@]}" \
+done < <(grep -HE '^ *# *include *[<"](Model|Platform|Readers|Library|Lists|Export|Opening|DesktopSearch|App)/' /dev/null "${sources[@]}" \
   | sed 's/: *# *include *[<"]\([^">]*\).*/:\1/')
 
 forbid "includes a header of the window system" "The core runs without a display; Platform has a service for it, or App." \

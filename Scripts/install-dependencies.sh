@@ -4,7 +4,7 @@
 # fonts, pictures, packaging.
 set -euo pipefail
 
-build=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-svg-dev libsqlite3-dev libicu-dev libsodium-dev libarchive-dev
+build=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-svg-dev libsqlite3-dev libicu-dev libsodium-dev libarchive-dev libpng-dev
   nlohmann-json3-dev libglib2.0-dev libx11-dev libxdo-dev tzdata)
 # What writes sample homes.
 samples=(libplist-dev)

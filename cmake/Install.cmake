@@ -18,6 +18,8 @@ function(roamlet_compress source result)
 endfunction()
 
 configure_file(${resources}/${application}.service.in ${CMAKE_BINARY_DIR}/installed/${application}.service @ONLY)
+configure_file(${resources}/${application}.Search.service.in ${CMAKE_BINARY_DIR}/installed/${application}.Search.service
+  @ONLY)
 configure_file(${resources}/roamlet.1.in ${CMAKE_BINARY_DIR}/installed/roamlet.1 @ONLY)
 roamlet_compress(${CMAKE_BINARY_DIR}/installed/roamlet.1 roamlet.1)
 roamlet_compress(${CMAKE_SOURCE_DIR}/CHANGELOG.md changelog)
@@ -27,7 +29,12 @@ install(FILES ${resources}/${application}.metainfo.xml DESTINATION ${CMAKE_INSTA
 install(FILES ${resources}/${application}.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
 install(FILES ${resources}/${application}-symbolic.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/symbolic/apps)
 install(FILES ${CMAKE_BINARY_DIR}/installed/${application}.service
+  ${CMAKE_BINARY_DIR}/installed/${application}.Search.service
   DESTINATION ${CMAKE_INSTALL_DATADIR}/dbus-1/services)
+install(FILES ${resources}/${application}.search-provider.ini
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/gnome-shell/search-providers)
+install(FILES ${resources}/krunner.desktop
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/krunner/dbusplugins RENAME ${application}.desktop)
 install(FILES ${CMAKE_BINARY_DIR}/installed/roamlet.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 install(FILES ${CMAKE_BINARY_DIR}/installed/changelog.gz DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/roamlet)
 install(FILES ${CMAKE_SOURCE_DIR}/LICENSE DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/roamlet RENAME copyright)

@@ -29,6 +29,8 @@ public:
     void setBytes(const QString &key, const QByteArray &bytes) override { m_values.insert(key, bytes); }
     void remove(const QString &key) override { m_values.remove(key); }
 
+    void renew() override {}
+
     bool contains(const QString &key) const { return m_values.contains(key); }
 
 private:

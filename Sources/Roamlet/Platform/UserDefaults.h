@@ -32,6 +32,9 @@ public:
     virtual void setBoolean(const QString &key, bool value) = 0;
     virtual void setBytes(const QString &key, const QByteArray &value) = 0;
     virtual void remove(const QString &key) = 0;
+
+    /// Takes over what other processes have stored since.
+    virtual void renew() = 0;
 };
 
 } // namespace roamlet

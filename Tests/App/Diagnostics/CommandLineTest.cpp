@@ -164,6 +164,18 @@ TEST(CommandLineTest, helpNamesEverySwitch)
     EXPECT_TRUE(help.ends_with('\n'));
 }
 
+TEST(CommandLineTest, theDesktopsSearchIsAJobThatHelpDoesNotOffer)
+{
+    EXPECT_EQ(Command::of({u"--desktop-search"_s}), command(Job::DesktopSearch));
+    EXPECT_FALSE(Command::help().contains(u"desktop"));
+}
+
+TEST(CommandLineTest, anActionOfTheDesktopEntryIsForTheWindows)
+{
+    EXPECT_EQ(Command::of({u"--action"_s, u"bookmarks"_s}), command(Job::Windows));
+    EXPECT_EQ(Command::of({u"--action"_s}), command(Job::Windows));
+}
+
 TEST(CommandLineTest, whatQtAndTheSessionManagerAddIsLeftToTheWindows)
 {
     for (const QStringList &arguments : {QStringList{u"-session"_s, u"10e1d0_1793"_s},

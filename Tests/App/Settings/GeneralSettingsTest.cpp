@@ -337,6 +337,22 @@ TEST_F(UpdateSettingsTest, theButtonComesToTheFrontAndChecks)
     EXPECT_EQ(activation.timesInFront, 1);
 }
 
+TEST_F(GeneralSettingsTest, theDesktopsSearchIsOnUntilItIsSwitchedOff)
+{
+    open();
+    Switch &search = control(u"showInDesktopSearch"_s);
+    EXPECT_EQ(search.accessibleName(), u"Show pages in the desktop's search");
+    EXPECT_TRUE(search.isChecked());
+    EXPECT_FALSE(home.defaults.contains(u"showInDesktopSearch"_s));
+    QTest::mouseClick(&search, Qt::LeftButton);
+    EXPECT_EQ(home.defaults.boolean(u"showInDesktopSearch"_s), false);
+    window.reset();
+    open();
+    EXPECT_FALSE(control(u"showInDesktopSearch"_s).isChecked());
+    QTest::mouseClick(&control(u"showInDesktopSearch"_s), Qt::LeftButton);
+    EXPECT_EQ(home.defaults.boolean(u"showInDesktopSearch"_s), true);
+}
+
 TEST_F(GeneralSettingsTest, everySwitchSaysWhatItIs)
 {
     open();

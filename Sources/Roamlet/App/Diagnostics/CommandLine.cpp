@@ -32,23 +32,13 @@ struct WindowOption {
 };
 
 constexpr std::array windowOptions{
-    WindowOption{"display"_L1},
-    WindowOption{"dograb"_L1, false},
-    WindowOption{"geometry"_L1},
-    WindowOption{"icon"_L1},
-    WindowOption{"name"_L1},
-    WindowOption{"nograb"_L1, false},
-    WindowOption{"platform"_L1},
-    WindowOption{"platformpluginpath"_L1},
-    WindowOption{"platformtheme"_L1},
-    WindowOption{"plugin"_L1},
-    WindowOption{"qwindowgeometry"_L1},
-    WindowOption{"qwindowicon"_L1},
-    WindowOption{"qwindowtitle"_L1},
-    WindowOption{"reverse"_L1, false},
-    WindowOption{"session"_L1},
-    WindowOption{"style"_L1},
-    WindowOption{"stylesheet"_L1},
+    // Of the desktop entry; the window knows the actions.
+    WindowOption{"action"_L1},        WindowOption{"display"_L1},      WindowOption{"dograb"_L1, false},
+    WindowOption{"geometry"_L1},      WindowOption{"icon"_L1},         WindowOption{"name"_L1},
+    WindowOption{"nograb"_L1, false}, WindowOption{"platform"_L1},     WindowOption{"platformpluginpath"_L1},
+    WindowOption{"platformtheme"_L1}, WindowOption{"plugin"_L1},       WindowOption{"qwindowgeometry"_L1},
+    WindowOption{"qwindowicon"_L1},   WindowOption{"qwindowtitle"_L1}, WindowOption{"reverse"_L1, false},
+    WindowOption{"session"_L1},       WindowOption{"style"_L1},        WindowOption{"stylesheet"_L1},
     WindowOption{"title"_L1},
 };
 
@@ -85,6 +75,8 @@ Command Command::of(const QStringList &arguments)
         return {.job = Job::Site, .argument = wordAfter(arguments, u"--site"_s), .sourceID = {}};
     if (arguments.contains(u"--watch"))
         return {.job = Job::Watch, .argument = wordAfter(arguments, u"--watch"_s), .sourceID = {}};
+    if (arguments.contains(u"--desktop-search"))
+        return {.job = Job::DesktopSearch, .argument = {}, .sourceID = {}};
     if (arguments.contains(u"--help") || arguments.contains(u"-h"))
         return {.job = Job::Help, .argument = {}, .sourceID = {}};
     if (arguments.contains(u"--version") || arguments.contains(u"-v"))

@@ -20,6 +20,7 @@ struct Command {
         Search,
         Site,
         Watch,
+        DesktopSearch, ///< what a desktop's search asks is to be answered
         Help,
         Version,
         Windows, ///< nothing was asked for but the program itself

@@ -12,6 +12,7 @@
 #include "Platform/Linux/LinuxConsole.h"
 #include "Platform/Linux/LinuxIO.h"
 #include "Platform/Linux/LinuxPlatform.h"
+#include "Platform/Linux/ProgramModule.h"
 #include "Platform/Linux/StopSignals.h"
 #include "Platform/Linux/UnicodeLocale.h"
 
@@ -106,6 +107,17 @@ int runDiagnostics(const Command &command, int argc, char **argv)
     return status;
 }
 
+/// A module of its own: no other job needs the session's bus.
+int answerDesktops(Console &console, int argc, char **argv)
+{
+    using Entry = int(int argc, char **argv);
+    const auto function = ProgramModule::function(u"roamlet-search.so"_s, "roamletRunDesktopSearch");
+    if (function)
+        return reinterpret_cast<Entry *>(*function)(argc, argv);
+    complain(console, u"cannot answer the desktop: "_s % function.error());
+    return failure;
+}
+
 } // namespace
 
 std::optional<int> run(int argc, char **argv)
@@ -127,6 +139,10 @@ std::optional<int> run(int argc, char **argv)
         complain(console,
                  u"there is no display to open a window on. roamlet --help lists what works without one."_s);
         return failure;
+    case Command::Job::DesktopSearch:
+        if (!settleHome(console) || !haveDescriptors(console))
+            return failure;
+        return answerDesktops(console, argc, argv);
     case Command::Job::Unknown:
         complain(console, u"unknown switch "_s % command.argument.value_or(QString()) %
                               u". roamlet --help lists what there is.");

@@ -367,6 +367,7 @@ int runJob(const Command &command, Job &job)
         return job.search(HistoryQuery::matching({}, command.argument, HistoryQuery::Order::Latest));
     case Command::Job::Watch:
         return job.watch(command.argument);
+    case Command::Job::DesktopSearch:
     case Command::Job::Help:
     case Command::Job::Version:
     case Command::Job::Windows:

@@ -12,6 +12,7 @@
 #include "App/Look/SwitchRow.h"
 #include "App/Settings/LoginItem.h"
 #include "App/Updates/Updater.h"
+#include "DesktopSearch/DesktopAnswers.h"
 #include "Platform/ActivationPolicy.h"
 #include "Platform/LoginService.h"
 #include "Platform/UserDefaults.h"
@@ -53,6 +54,7 @@ GeneralSettings::GeneralSettings(const SettingsServices &services, QWidget *pare
     layout->addWidget(presence);
     if (m_services.updater != nullptr && m_services.updater->isAvailable())
         layout->addWidget(makeUpdates());
+    layout->addWidget(makeDesktopSearch());
     layout->addStretch(1);
     setWidget(page);
     // The window's own ground shows.
@@ -89,6 +91,18 @@ BoxedList *GeneralSettings::makeUpdates()
         m_services.updater->checkForUpdates();
     });
     return updates;
+}
+
+BoxedList *GeneralSettings::makeDesktopSearch()
+{
+    auto *group = new BoxedList;
+    Switch &control =
+        addSwitch(*group, DesktopAnswers::isOnKey, tr("Show pages in the desktop's search"))->control();
+    UserDefaults &defaults = m_services.defaults;
+    control.setChecked(defaults.boolean(DesktopAnswers::isOnKey).value_or(true));
+    connect(&control, &Switch::toggled, this,
+            [&defaults](bool isOn) { defaults.setBoolean(DesktopAnswers::isOnKey, isOn); });
+    return group;
 }
 
 void GeneralSettings::showEvent(QShowEvent *event)

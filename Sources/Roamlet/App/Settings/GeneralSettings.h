@@ -32,6 +32,7 @@ private:
     SwitchRow *addSwitch(BoxedList &group, const QString &name, const QString &text);
     void setOpensAtLogin(bool isOn);
     BoxedList *makeUpdates();
+    BoxedList *makeDesktopSearch();
     void showLoginStatus();
     void showUpdateChecks();
     void setShowsDockIcon(bool isOn);

@@ -30,6 +30,8 @@ public:
     void setBytes(const QString &key, const QByteArray &value) override;
     void remove(const QString &key) override;
 
+    void renew() override { m_settings.sync(); }
+
 private:
     void set(const QString &key, const QVariant &value);
     /// Complains once where it cannot.

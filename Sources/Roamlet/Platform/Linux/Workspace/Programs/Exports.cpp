@@ -55,7 +55,7 @@ Q_DECL_EXPORT int roamletLaunchEntry(const char *path, const char *const *urls, 
 }
 
 Q_DECL_EXPORT int roamletLaunchPreferred(const char *type, const char *const *urls,
-                                         void (*prepareChild)(void *))
+                                         const char *activationToken, void (*prepareChild)(void *))
 {
     using namespace roamlet::ProgramsModule;
     return launch(AppInfo(g_app_info_get_default_for_type(type, FALSE)), urls, activationToken, prepareChild);

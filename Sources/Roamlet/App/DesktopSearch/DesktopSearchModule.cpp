@@ -1,0 +1,99 @@
+// SPDX-FileCopyrightText: 2026 The Roamlet authors
+// SPDX-License-Identifier: MIT
+
+#include "App/DesktopSearch/DesktopSearchRun.h"
+#include "App/DesktopSearch/PageOpening.h"
+#include "DesktopSearch/DesktopAnswers.h"
+#include "Platform/Clock.h"
+#include "Platform/Folders.h"
+#include "Platform/Linux/LinuxPlatform.h"
+#include "Platform/Linux/ProgramModule.h"
+#include "Platform/Linux/Search/SearchService.h"
+#include "Platform/Linux/StopSignals.h"
+#include "Platform/Processes.h"
+#include "Readers/Files/SQLiteSnapshot.h"
+
+#include <QCoreApplication>
+#include <QDBusConnection>
+#include <QMetaObject>
+
+#include <chrono>
+#include <cstdio>
+#include <stop_token>
+
+namespace
+{
+
+using namespace Qt::StringLiterals;
+
+void openPage(const roamlet::PageOpening &opening)
+{
+    const auto function = roamlet::ProgramModule::function(u"roamlet-open.so"_s, roamlet::pageOpeningEntry);
+    if (function)
+        reinterpret_cast<roamlet::PageOpeningEntry *>(*function)(opening);
+    else
+        std::fputs(
+            QString(u"roamlet: cannot open a page: "_s % function.error() % u'\n').toUtf8().constData(),
+            stderr);
+}
+
+int answerDesktops(int argc, char **argv, const std::stop_token &stop)
+{
+    QCoreApplication application(argc, argv);
+    const std::stop_callback end(stop, [] {
+        QMetaObject::invokeMethod(
+            QCoreApplication::instance(), [] { QCoreApplication::exit(); }, Qt::QueuedConnection);
+    });
+    roamlet::LinuxPlatform platform;
+    const roamlet::Platform services = platform.services();
+    roamlet::SearchService *running = nullptr;
+    roamlet::DesktopAnswers answers(
+        {.platform = services,
+         .open =
+             [&services](const QString &url, const roamlet::Source &source, const QString &token) {
+                 openPage({.platform = services, .url = url, .source = source, .activationToken = token});
+             },
+         .fallSilent =
+             [&] {
+                 running->release();
+                 // What was sent before the name was free has come by then.
+                 constexpr std::chrono::seconds onTheWay{1};
+                 services.clock.after(onTheWay, &application, [] { QCoreApplication::exit(); });
+             }});
+    // Somebody asks already, or this would not have been started: what it takes is read at once.
+    answers.prepare();
+    roamlet::SearchService service(
+        QDBusConnection::sessionBus(), answers,
+        QCoreApplication::translate("roamlet::DesktopSearch", "Show All in Roamlet"),
+        [] { QCoreApplication::exit(); });
+    running = &service;
+    switch (service.start()) {
+    case roamlet::SearchService::Start::Answering:
+        return QCoreApplication::exec();
+    case roamlet::SearchService::Start::Taken:
+        return 0;
+    case roamlet::SearchService::Start::NoBus:
+        break;
+    }
+    std::fputs("roamlet: there is no session bus on which a desktop could ask.\n", stderr);
+    return 1;
+}
+
+} // namespace
+
+extern "C" Q_DECL_EXPORT int roamletRunDesktopSearch(int argc, char **argv)
+{
+    int status = 0;
+    roamlet::Processes::limitHeaps();
+    // Before any other thread: each of them leaves the signals to this one.
+    roamlet::StopSignals signals;
+    status = answerDesktops(argc, argv, signals.token());
+    {
+        // Copies of runs that were killed wait for nobody's window.
+        roamlet::LinuxPlatform platform;
+        const roamlet::Platform services = platform.services();
+        roamlet::SQLiteSnapshot::removeLeftovers(services.files, services.folders.temporary());
+    }
+    signals.endProcessIfAsked();
+    return status;
+}
