@@ -4,8 +4,8 @@
 # fonts, pictures, packaging.
 set -euo pipefail
 
-build=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-svg-dev libsqlite3-dev libicu-dev libsodium-dev libarchive-dev libpng-dev
-  nlohmann-json3-dev libglib2.0-dev libx11-dev libxdo-dev tzdata)
+build=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-svg-dev qt6-l10n-tools qt6-translations-l10n libsqlite3-dev
+  libicu-dev libsodium-dev libarchive-dev libpng-dev nlohmann-json3-dev libglib2.0-dev libx11-dev libxdo-dev tzdata)
 # What writes sample homes.
 samples=(libplist-dev)
 test=(libgtest-dev libgmock-dev sqlite3 dbus-daemon desktop-file-utils appstream groff-base)
@@ -18,7 +18,7 @@ fuzz=(clang-19 libclang-rt-19-dev llvm-19 dpkg-dev make tcl)
 faults=(python3)
 packaging=(dpkg-dev file openssl)
 pictures=(xvfb openbox trayer xdotool imagemagick dbus-daemon qt6-gtk-platformtheme qt6-wayland sway grim wtype jq
-  fonts-dejavu gsettings-desktop-schemas xdg-desktop-portal xdg-desktop-portal-gtk qt6-translations-l10n qt6ct strace
+  fonts-dejavu gsettings-desktop-schemas xdg-desktop-portal xdg-desktop-portal-gtk qt6ct strace
   util-linux)
 bench=(libbenchmark-dev hyperfine sqlite3 time xvfb trayer xdotool dbus-daemon)
 fonts=(fonts-noto-core fonts-noto-cjk)

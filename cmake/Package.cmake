@@ -53,10 +53,10 @@ set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 # The libraries that the program and its modules need. The window system's plugin for X and the one that draws
 # SVG icons come with two of them.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# Wayland, the desktop's own dialogs, one running program, opening what no browser of ours takes, and who vouches for
+# Wayland, the desktop's own dialogs, the words of the toolkit's, one running program, opening what no browser of ours takes, and who vouches for
 # the server of the updates.
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS
-  "qt6-wayland, qt6-gtk-platformtheme, default-dbus-session-bus | dbus-session-bus, hicolor-icon-theme, xdg-utils, ca-certificates")
+  "qt6-wayland, qt6-gtk-platformtheme, qt6-translations-l10n, default-dbus-session-bus | dbus-session-bus, hicolor-icon-theme, xdg-utils, ca-certificates")
 # What installs updates.
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS "qt6-xdgdesktopportal-platformtheme, packagekit")
 include(CPack)

@@ -10,6 +10,7 @@
 #include "App/Look/Symbol.h"
 #include "App/Settings/LoginItem.h"
 #include "App/Settings/SettingsServices.h"
+#include "App/Translations.h"
 #include "App/Updates/BundleInformation.h"
 #include "App/Updates/PlatformUpdateDriver.h"
 #include "App/Updates/UpdateWindows.h"
@@ -33,10 +34,8 @@
 #include <QClipboard>
 #include <QDBusConnection>
 #include <QFont>
-#include <QLibraryInfo>
 #include <QLocale>
 #include <QPixmapCache>
-#include <QTranslator>
 
 #include <unistd.h>
 
@@ -357,11 +356,8 @@ int RoamletApp::runUntilTheEnd(int argc, char **argv, const std::stop_token &sto
     QApplication::setDesktopFileName(u"org.roamlet.Roamlet"_s);
     QApplication::setQuitOnLastWindowClosed(false);
     QLocale::setDefault(UserLocale::formats());
-    // The words of Qt's own buttons and menus, and with them the direction in which the language is read.
-    QTranslator translator;
-    if (translator.load(QLocale::system(), u"qtbase"_s, u"_"_s,
-                        QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QCoreApplication::installTranslator(&translator);
+    // Before the reading, whose words are the windows' as well, and before the first window.
+    const Translations translations(QLocale::system().uiLanguages());
     const std::stop_callback end(stop, [] {
         QMetaObject::invokeMethod(QCoreApplication::instance(), [] { quit(); }, Qt::QueuedConnection);
     });

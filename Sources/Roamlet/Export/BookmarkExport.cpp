@@ -5,6 +5,7 @@
 
 #include "Export/Renderers.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QMimeDatabase>
 #include <QSaveFile>
@@ -103,10 +104,12 @@ QString render(Format format, const QList<BookmarkNode> &tree, const QList<Bookm
 QString fileName(const std::optional<Source> &source)
 {
     if (!source)
-        return u"Bookmarks"_s;
+        //: The name of a file, without its ending.
+        return QCoreApplication::translate("roamlet::BookmarkExport", "Bookmarks");
     const QString browser = Source::displayName(source->kind);
     const QString base = source->name == browser ? browser : QString(browser % u' ' % source->name);
-    return base % u" Bookmarks";
+    //: The name of a file, without its ending. %1 is a browser, with or without a profile.
+    return QCoreApplication::translate("roamlet::BookmarkExport", "%1 Bookmarks").arg(base);
 }
 
 std::expected<void, QString> write(const QString &text, const QString &path)
@@ -115,7 +118,8 @@ std::expected<void, QString> write(const QString &text, const QString &path)
     // gone.
     const QFileInfo present(path);
     if ((present.exists() || present.isSymLink()) && !present.isFile() && !present.isDir())
-        return std::unexpected(u"There is something else than a file at this place."_s);
+        return std::unexpected(QCoreApplication::translate(
+            "roamlet::BookmarkExport", "There is something else than a file at this place."));
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         return std::unexpected(file.errorString());

@@ -5,6 +5,7 @@
 
 #include "Lists/CalendarMath.h"
 
+#include <QCoreApplication>
 #include <QHash>
 
 #include <algorithm>
@@ -36,11 +37,15 @@ public:
         const PointInTime today = m_math.startOfDay(now);
         const PointInTime thisWeek = m_math.startOfWeek(now);
         // In this order: a week may begin in the month before, and yesterday may lie in the week before.
-        add(u"Today"_s, today, Span::Day);
-        add(u"Yesterday"_s, m_math.startOfPreviousDay(today), Span::Day);
-        add(u"Earlier This Week"_s, thisWeek, Span::Week);
-        add(u"Last Week"_s, m_math.startOfPreviousWeek(thisWeek), Span::Week);
-        add(u"Earlier This Month"_s, m_math.startOfMonth(now), Span::Month);
+        //: The heading of a section of pages by when they were visited.
+        add(QCoreApplication::translate("roamlet::DayGroups", "Today"), today, Span::Day);
+        add(QCoreApplication::translate("roamlet::DayGroups", "Yesterday"), m_math.startOfPreviousDay(today),
+            Span::Day);
+        add(QCoreApplication::translate("roamlet::DayGroups", "Earlier This Week"), thisWeek, Span::Week);
+        add(QCoreApplication::translate("roamlet::DayGroups", "Last Week"),
+            m_math.startOfPreviousWeek(thisWeek), Span::Week);
+        add(QCoreApplication::translate("roamlet::DayGroups", "Earlier This Month"), m_math.startOfMonth(now),
+            Span::Month);
     }
 
     std::size_t sectionOf(PointInTime time)

@@ -6,6 +6,7 @@
 #include "Lists/RowGroup.h"
 #include "Model/Collation.h"
 
+#include <QCoreApplication>
 #include <QHash>
 #include <QList>
 #include <QString>
@@ -25,7 +26,8 @@ template<typename Row>
 RowGroup<Row> siteGroup(const QString &site)
 {
     if (site.isEmpty())
-        return {.title = QStringLiteral("Other"), .site = {}, .rows = {}};
+        //: The heading of a section of pages that belong to no web site, such as files.
+        return {.title = QCoreApplication::translate("roamlet::SiteGroups", "Other"), .site = {}, .rows = {}};
     return {.title = site, .site = site, .rows = {}};
 }
 

@@ -3,6 +3,8 @@
 
 #include "Model/ReadError.h"
 
+#include <QCoreApplication>
+
 #include <cerrno>
 #include <string_view>
 #include <utility>
@@ -58,8 +60,9 @@ ReadError ReadError::wrap(const ReadError &error, const QString & /*path*/)
 QString ReadError::errorDescription() const
 {
     if (m_kind == Kind::NoAccess)
-        return u"macOS blocked access to " % m_path % u".";
-    return u"Couldn't read " % m_path % u": " % m_reason;
+        return QCoreApplication::translate("roamlet::ReadError", "macOS blocked access to %1.").arg(m_path);
+    //: %1 is a file, %2 says why: "Couldn't read /home/anna/History: file is not a database".
+    return QCoreApplication::translate("roamlet::ReadError", "Couldn't read %1: %2").arg(m_path, m_reason);
 }
 
 } // namespace roamlet

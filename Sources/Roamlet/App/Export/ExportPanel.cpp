@@ -223,6 +223,7 @@ void ExportPanel::fillSources()
         // A profile's name has no limit; the list has.
         constexpr qsizetype longestLabel = 80;
         m_sources->addItem(
+            //: A browser or a profile, and how many bookmarks it has.
             icon, tr("%1 (%2)").arg(ForeignText::oneLine(label, longestLabel), locale().toString(count)));
         m_choices.append(id);
         if (id == m_sourceID)

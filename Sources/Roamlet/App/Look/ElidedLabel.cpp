@@ -19,17 +19,22 @@ ElidedLabel::ElidedLabel(QWidget *parent) : QLabel(parent)
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 
-void ElidedLabel::setText(const QString &text, const QString &strong)
+void ElidedLabel::setText(const QString &text, const QString &strong, const QString &after)
 {
+    const QString whole = text % strong % after;
     const QString line = ForeignText::inLabel(text);
     const QString strongLine = ForeignText::inLabel(strong);
-    if (text + strong == m_text && line == m_line && strongLine == m_strong)
+    const QString afterLine = ForeignText::inLabel(after);
+    if (whole == m_text && line == m_line && strongLine == m_strong && afterLine == m_after)
         return;
-    m_text = text + strong;
+    m_text = whole;
     m_line = line;
     m_strong = strongLine;
+    m_after = afterLine;
+    QStringList parts{m_line, m_strong, m_after};
+    parts.removeAll(QString());
     // Qt tells screen readers of the change.
-    setAccessibleName(m_strong.isEmpty() ? m_line : QString(m_line % u' ' % m_strong));
+    setAccessibleName(parts.join(u' '));
     updateGeometry();
     update();
 }
@@ -55,11 +60,15 @@ int ElidedLabel::signWidth() const
 
 int ElidedLabel::textWidth() const
 {
-    const int width = fontMetrics().horizontalAdvance(m_line);
-    if (m_strong.isEmpty())
-        return width;
-    return width + fontMetrics().horizontalAdvance(u' ') +
-           QFontMetrics(strongFont()).horizontalAdvance(m_strong);
+    const QFontMetrics strong(strongFont());
+    int width = 0;
+    for (const auto &[part, metrics] :
+         {std::pair(m_line, fontMetrics()), std::pair(m_strong, strong), std::pair(m_after, fontMetrics())}) {
+        if (part.isEmpty())
+            continue;
+        width += (width > 0 ? fontMetrics().horizontalAdvance(u' ') : 0) + metrics.horizontalAdvance(part);
+    }
+    return width;
 }
 
 QSize ElidedLabel::sizeHint() const
@@ -89,12 +98,15 @@ void ElidedLabel::paintEvent(QPaintEvent * /*event*/)
         const QRect place(0, 0, height(), height());
         m_sign.paint(&painter, QStyle::visualRect(layoutDirection(), rect(), place));
     }
-    draw(m_line, signWidth());
-    if (m_strong.isEmpty())
-        return;
-    const int start = signWidth() + fontMetrics().horizontalAdvance(m_line % u' ');
-    painter.setFont(strongFont());
-    draw(m_strong, start);
+    int start = signWidth();
+    for (const auto &[part, partFont] :
+         {std::pair(m_line, font()), std::pair(m_strong, strongFont()), std::pair(m_after, font())}) {
+        if (part.isEmpty())
+            continue;
+        painter.setFont(partFont);
+        draw(part, start);
+        start += painter.fontMetrics().horizontalAdvance(part) + fontMetrics().horizontalAdvance(u' ');
+    }
 }
 
 bool ElidedLabel::event(QEvent *event)

@@ -19,9 +19,9 @@ class ElidedLabel final : public QLabel
 public:
     explicit ElidedLabel(QWidget *parent = nullptr);
 
-    /// `strong` follows the text in bold letters.
-    void setText(const QString &text, const QString &strong = {});
-    /// As it was set, with the strong part.
+    /// `strong` follows the text in bold letters, and `after` follows that.
+    void setText(const QString &text, const QString &strong = {}, const QString &after = {});
+    /// As it was set, with the strong part and what follows.
     const QString &text() const { return m_text; }
     /// A picture before the text; none when it is null.
     void setSign(const QIcon &sign);
@@ -43,6 +43,7 @@ private:
     /// Without line ends, and no longer than any screen is wide.
     QString m_line;
     QString m_strong;
+    QString m_after;
     QIcon m_sign;
 };
 

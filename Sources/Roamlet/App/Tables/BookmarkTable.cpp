@@ -16,7 +16,9 @@ QList<TableColumn> bookmarkColumns()
     using Content = TableColumn::Content;
     return {{u"title"_s, BookmarkTable::tr("Title"), Content::Title, 40},
             {u"folder"_s, BookmarkTable::tr("Folder"), Content::Folder, 24},
+            //: The column that says when a bookmark was added.
             {u"added"_s, BookmarkTable::tr("Added"), Content::Date, 16},
+            //: The column that says from which browser and profile a bookmark is.
             {u"source"_s, BookmarkTable::tr("Source"), Content::Source, 26}};
 }
 

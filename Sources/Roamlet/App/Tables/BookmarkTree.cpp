@@ -17,6 +17,7 @@ QList<TableColumn> treeColumns()
 {
     using Content = TableColumn::Content;
     return {{u"title"_s, BookmarkTree::tr("Title"), Content::Title, 40},
+            //: The column that says when a bookmark was added.
             {u"added"_s, BookmarkTree::tr("Added"), Content::Date, 16}};
 }
 

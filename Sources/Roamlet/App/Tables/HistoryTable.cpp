@@ -16,7 +16,9 @@ QList<TableColumn> historyColumns()
     using Content = TableColumn::Content;
     return {{u"title"_s, HistoryTable::tr("Title"), Content::Title, 40},
             {u"lastVisited"_s, HistoryTable::tr("Last Visited"), Content::Date, 16},
+            //: The column that says how often a page was visited.
             {u"visits"_s, HistoryTable::tr("Visits"), Content::Visits, 9},
+            //: The column that says from which browser and profile a page is.
             {u"source"_s, HistoryTable::tr("Source"), Content::Source, 26}};
 }
 

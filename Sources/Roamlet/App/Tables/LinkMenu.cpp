@@ -82,6 +82,7 @@ LinkMenuSubject LinkMenuSubject::ofBookmarks(const QList<TableRow> &rows)
 LinkMenuEntry onlySiteEntry(const QString &site)
 {
     return {.action = Entry::Action::ShowOnlySite,
+            //: %1 is a web site, such as "example.org".
             .title = Words::tr("Show Only %1").arg(site),
             .browser = Kind::Safari};
 }
@@ -96,11 +97,13 @@ QList<LinkMenuEntry> linkMenuEntries(const LinkMenuSubject &subject, const QList
 
     if (subject.editTarget) {
         add(Entry::Action::EditBookmarks,
+            //: %1 is a browser.
             Words::tr("Edit %1 Bookmarks").arg(Source::displayName(subject.editTarget->source.kind)));
         separate();
     }
     if (subject.historySource) {
         add(Entry::Action::ShowHistory,
+            //: %1 is a browser.
             Words::tr("Show %1 History").arg(Source::displayName(subject.historySource->kind)));
         separate();
     }
@@ -109,7 +112,9 @@ QList<LinkMenuEntry> linkMenuEntries(const LinkMenuSubject &subject, const QList
         const std::optional ownBrowser =
             common(subject.items, [](const Opener::Link &link) { return link.source.kind; });
         add(Entry::Action::OpenInOriginalBrowsers,
+            //: Each link in the browser that it came from.
             count > 1 ? Words::tr("Open in Original Browsers")
+                      //: %1 is a browser.
                       : Words::tr("Open in %1").arg(Source::displayName(subject.items.first().source.kind)));
         for (const Kind kind : installed) {
             if (kind != ownBrowser)
@@ -118,7 +123,9 @@ QList<LinkMenuEntry> linkMenuEntries(const LinkMenuSubject &subject, const QList
         }
         separate();
         add(Entry::Action::CopyURLs,
-            count > 1 ? Words::tr("Copy %1 URLs").arg(count) : Words::tr("Copy URL"));
+            //: %1 is a number.
+            count > 1 ? Words::tr("Copy %1 URLs", nullptr, static_cast<int>(count)).arg(count)
+                      : Words::tr("Copy URL"));
         separate();
         if (subject.site)
             entries.append(onlySiteEntry(*subject.site));

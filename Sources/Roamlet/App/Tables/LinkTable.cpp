@@ -247,6 +247,7 @@ void LinkTable::showLinkMenu(const QPoint &place)
     auto *menu = new QMenu(this);
     RoamletStyle::outline(*menu);
     menu->setObjectName(u"linkMenu"_s);
+    //: The name, read aloud, of the menu of the selected links.
     menu->setAccessibleName(tr("Links"));
     menu->setAttribute(Qt::WA_DeleteOnClose);
     for (const LinkMenuEntry &entry : entries) {
@@ -291,6 +292,7 @@ void LinkTable::showSiteMenu(const QString &site, const QPoint &place)
     auto *menu = new QMenu(this);
     RoamletStyle::outline(*menu);
     menu->setObjectName(u"siteMenu"_s);
+    //: The name, read aloud, of the menu of the selected links.
     menu->setAccessibleName(tr("Links"));
     menu->setAttribute(Qt::WA_DeleteOnClose);
     menu->addAction(ForeignText::inMenu(entry.title), this,

@@ -9,6 +9,7 @@
 #include "App/Tables/TableModel.h"
 #include "App/Tables/TableView.h"
 
+#include <QCoreApplication>
 #include <QCursor>
 #include <QToolTip>
 
@@ -170,7 +171,10 @@ void RowTips::showToolTip(const QPoint &point, const QPoint &onScreen) const
         const LocalText &local = model.localText();
         const QString when = visits.unit == VisitStrip::Unit::Hour ? local.hour(static_cast<int>(*tick))
                                                                    : local.day(shown.begin);
-        QToolTip::showText(onScreen, when % u", " % local.number(shown.count), m_view.viewport());
+        //: An hour or a day, and how many pages were visited then: "13:00 to 14:00, 12".
+        const QString words =
+            QCoreApplication::translate("roamlet::RowTips", "%1, %2").arg(when, local.number(shown.count));
+        QToolTip::showText(onScreen, words, m_view.viewport());
         return;
     }
     // A tooltip that repeats what can be read already only stands in the way.

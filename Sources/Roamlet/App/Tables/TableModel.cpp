@@ -236,9 +236,14 @@ QString TableModel::accessibleText(const RowTree::Node &node, TableColumn::Conte
     if (content != TableColumn::Content::Title || node.row.kind == TableRow::Kind::Link)
         return shown;
     const QString count = m_localText.number(node.childCount);
-    const QString items = node.childCount == 1 ? tr("1 item") : tr("%1 items").arg(count);
-    return node.row.kind == TableRow::Kind::Folder ? tr("%1, folder, %2").arg(shown, items)
-                                                   : tr("%1, %2").arg(shown, items);
+    //: How many rows a section or a folder has. %1 is the number.
+    const QString items =
+        node.childCount == 1 ? tr("1 item") : tr("%1 items", nullptr, node.childCount).arg(count);
+    if (node.row.kind == TableRow::Kind::Folder)
+        //: Read aloud: the name of a folder, and how many items it has.
+        return tr("%1, folder, %2").arg(shown, items);
+    //: Read aloud: the heading of a section, and how many items it has.
+    return tr("%1, %2").arg(shown, items);
 }
 
 QString TableModel::toolTip(const RowTree::Node &node, TableColumn::Content content) const

@@ -22,6 +22,7 @@ public:
     static QString of(UpdateError::Code code);
     static QString withDetail(const QString &sentence, const QString &detail)
     {
+        //: What happened, and the words of the system or the server.
         return tr("%1 (%2)").arg(sentence, detail);
     }
 };

@@ -152,6 +152,7 @@ void UpdateWindows::setDownloadProgress(std::int64_t received, std::optional<std
     const bool isKnown = total && *total > 0;
     m_window->setProgress(isKnown ? std::optional(static_cast<double>(received) / static_cast<double>(*total))
                                   : std::nullopt);
+    //: How much was downloaded: "1.2 MB of 3.4 MB".
     m_window->setText(isKnown ? tr("%1 of %2").arg(size(std::min(received, *total)), size(*total))
                               : size(received));
 }

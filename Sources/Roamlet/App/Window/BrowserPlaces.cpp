@@ -147,9 +147,10 @@ QString BrowserPlaces::introduction()
     for (const Browser &browser : Browser::all())
         names.append(browser.displayName);
     const QString last = names.takeLast();
+    //: %1 are all browsers but the last, with commas between them, %2 is the last. A list of folders follows.
     return tr("Roamlet looks for the data of %1 and %2 in these folders, in those of their beta "
               "versions, Flatpaks and snaps, and where a Mac keeps them:")
-        .arg(names.join(u", "_s), last);
+        .arg(names.join(tr(", ", "between the names of browsers")), last);
 }
 
 QSize BrowserPlaces::sizeHint() const

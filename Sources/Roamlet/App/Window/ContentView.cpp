@@ -459,6 +459,7 @@ void ContentView::updateWork()
         return;
     m_workWait = std::make_unique<QObject>();
     m_services.clock.after(workPatience, m_workWait.get(), [this] {
+        //: Read aloud: what the program is doing.
         m_header->setWork(m_services.library.lastLoaded() ? tr("Searching") : tr("Reading"));
     });
 }

@@ -18,10 +18,10 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-QString words(const char *english)
-{
-    return QCoreApplication::translate("PaneText", english);
-}
+/// What is said, in the user's language.
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(roamlet::PaneText)
+};
 
 bool isSearch(const ListState &list)
 {
@@ -37,9 +37,18 @@ QString limitNote(const Pane &pane, const Library::Snapshot &snapshot, const Lis
         return {};
     const QString limit = locale.toString(HistoryQuery::defaultLimit);
     const bool isTop = std::holds_alternative<MostVisitedPane>(pane);
-    if (sourceIDOf(pane))
-        return (isTop ? words(" · top %1") : words(" · latest %1")).arg(limit);
-    return (isTop ? words(" · top %1 from each source") : words(" · latest %1 from each source")).arg(limit);
+    if (sourceIDOf(pane)) {
+        if (isTop)
+            //: After the number of rows: "1,000 items · top 1,000". These are the most visited pages.
+            return Words::tr(" · top %1").arg(limit);
+        //: After the number of rows: "1,000 items · latest 1,000".
+        return Words::tr(" · latest %1").arg(limit);
+    }
+    if (isTop)
+        //: After the number of rows: "3,000 items · top 1,000 from each source". A source is a profile.
+        return Words::tr(" · top %1 from each source").arg(limit);
+    //: After the number of rows: "3,000 items · latest 1,000 from each source". A source is a profile.
+    return Words::tr(" · latest %1 from each source").arg(limit);
 }
 
 } // namespace
@@ -49,12 +58,17 @@ QString title(const std::optional<Pane> &pane, const Library &library)
     if (!pane)
         return u"Roamlet"_s;
     if (std::holds_alternative<MostVisitedPane>(*pane))
-        return words("Most Visited");
+        return Words::tr("Most Visited");
     const bool isHistory = std::holds_alternative<HistoryPane>(*pane);
-    if (const std::optional<Source> source = library.source(sourceIDOf(*pane)))
-        return (isHistory ? words("%1 History") : words("%1 Bookmarks"))
-            .arg(ForeignText::oneLine(source->name));
-    return isHistory ? words("Recent History") : words("All Bookmarks");
+    if (const std::optional<Source> source = library.source(sourceIDOf(*pane))) {
+        const QString name = ForeignText::oneLine(source->name);
+        if (isHistory)
+            //: The history of a browser or a profile, which %1 names: "Firefox History", "Work History".
+            return Words::tr("%1 History").arg(name);
+        //: The bookmarks of a browser or a profile, which %1 names: "Firefox Bookmarks", "Work Bookmarks".
+        return Words::tr("%1 Bookmarks").arg(name);
+    }
+    return isHistory ? Words::tr("Recent History") : Words::tr("All Bookmarks");
 }
 
 std::optional<QString> problem(const std::optional<Pane> &pane, const Library &library)
@@ -69,11 +83,14 @@ QString subtitle(const std::optional<Pane> &pane, const Library &library, const 
                  const QLocale &locale)
 {
     if (!library.lastLoaded())
-        return words("Reading…");
+        return Words::tr("Reading…");
     if (const std::optional<QString> wrong = problem(pane, library))
         return *wrong;
     const QString count =
-        (list.rowCount == 1 ? words("%1 item") : words("%1 items")).arg(locale.toString(list.rowCount));
+        //: How many rows a list has. %1 is the number.
+        (list.rowCount == 1 ? Words::tr("%1 item")
+                            : Words::tr("%1 items", nullptr, static_cast<int>(list.rowCount)))
+            .arg(locale.toString(list.rowCount));
     return pane ? QString(count % limitNote(*pane, library.snapshot(), list, locale)) : count;
 }
 
@@ -117,11 +134,17 @@ QString label(Grouping grouping, GroupedList list)
 {
     switch (grouping) {
     case Grouping::None:
-        return list == GroupedList::Bookmarks ? words("Folders") : words("None");
+        //: Beside "Group By".
+        if (list == GroupedList::Bookmarks)
+            return Words::tr("Folders");
+        //: Beside "Group By": the list has no sections.
+        return Words::tr("None");
     case Grouping::Day:
-        return words("Day");
+        //: Beside "Group By".
+        return Words::tr("Day");
     case Grouping::Site:
-        return words("Site");
+        //: Beside "Group By": by web site.
+        return Words::tr("Site");
     }
     Q_UNREACHABLE();
 }

@@ -99,7 +99,8 @@ QVariant SidebarModel::data(const QModelIndex &index, int role) const
         return entry->text;
     case Qt::AccessibleTextRole:
         // Several sources have a "History": by itself it does not say whose.
-        return QString(section(parent(index))->text % u": " % entry->text);
+        //: Read aloud: a section of the sidebar and one of its rows, such as "Firefox: History".
+        return tr("%1: %2").arg(section(parent(index))->text, entry->text);
     case SymbolRole:
         return entry->symbol;
     case IsHeadingRole:
@@ -151,7 +152,8 @@ std::optional<Source> SidebarModel::source(const QModelIndex &section) const
 
 QList<SidebarModel::Section> SidebarModel::sections() const
 {
-    QList<Section> result{{.text = tr("Library"),
+    QList<Section> result{{//: The section of the sidebar that has the lists of all browsers.
+                           .text = tr("Library"),
                            .source = {},
                            .rows = {{tr("Recent History"), u"clock"_s, HistoryPane()},
                                     {tr("Most Visited"), u"chart.bar"_s, MostVisitedPane()},

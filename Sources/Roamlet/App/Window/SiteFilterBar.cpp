@@ -40,8 +40,10 @@ void SiteFilterBar::updateLook()
 void SiteFilterBar::setSite(const QString &site, const std::optional<QImage> &image)
 {
     const int side = Measures(font()).iconSide;
+    //: %1 is a web site, such as "example.org": the list shows nothing else.
     const QString words = tr("Only %1");
-    m_text->setText(words.left(words.indexOf(u"%1")), site);
+    const qsizetype place = words.indexOf(u"%1");
+    m_text->setText(words.left(place), site, words.mid(place + 2));
     m_icon->setVisible(image.has_value());
     if (!image)
         return;

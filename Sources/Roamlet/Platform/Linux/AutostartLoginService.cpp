@@ -123,7 +123,9 @@ std::expected<void, QString> AutostartLoginService::registerProgram()
     // Entries have a line for each key; the rest of a name would be another one.
     if (std::ranges::any_of(m_environment.program,
                             [](QChar c) { return c.category() == QChar::Other_Control; }))
-        return std::unexpected(u"The name of the program's file or folder contains a control character."_s);
+        return std::unexpected(QCoreApplication::translate(
+            "roamlet::AutostartLoginService",
+            "The name of the program's file or folder contains a control character."));
     const QString folder = QFileInfo(entryPath()).path();
     // A failure shows when the file is opened, with the system's words.
     QDir().mkpath(folder);

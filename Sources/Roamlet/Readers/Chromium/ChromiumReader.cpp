@@ -11,6 +11,7 @@
 #include "Readers/Files/SQLiteSnapshot.h"
 #include "Readers/HistoryRows.h"
 
+#include <QCoreApplication>
 #include <QUuid>
 
 #include <algorithm>
@@ -53,7 +54,8 @@ std::optional<QString> displayName(const Json::Value &info, const Browser &brows
     constexpr std::int64_t personalAccount = 1;
     if (browser.namesPersonalProfiles && Json::isTrue(Json::member(info, "is_using_default_name")) &&
         Json::isInteger(Json::member(info, "edge_account_type"), personalAccount))
-        return u"Personal"_s;
+        //: The profile that Microsoft Edge itself calls so.
+        return QCoreApplication::translate("roamlet::Chromium", "Personal");
     return Json::text(Json::member(info, "name"));
 }
 
@@ -384,7 +386,9 @@ std::expected<BookmarkTrees, ReadErrors> bookmarks(const Source &source, const R
         trees.roots.append(root.node);
     for (Root root : account.value_or(QList<Root>())) {
         if (std::ranges::find(localRoots, root.key, &Root::key) != localRoots.end())
-            root.node.title += u" (Account)";
+            //: %1 is a folder of bookmarks; this one is stored in the user's account.
+            root.node.title =
+                QCoreApplication::translate("roamlet::Chromium", "%1 (Account)").arg(root.node.title);
         trees.roots.append(std::move(root.node));
     }
     trees.areEncrypted =

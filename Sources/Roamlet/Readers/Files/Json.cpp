@@ -5,6 +5,8 @@
 
 #include "Model/Utf8.h"
 
+#include <QCoreApplication>
+
 namespace roamlet::Json
 {
 
@@ -33,7 +35,7 @@ std::optional<QString> costOf(const QByteArray &bytes)
         case '{':
             ++values;
             if (++depth > deepestNesting)
-                return u"it is nested too deeply"_s;
+                return QCoreApplication::translate("roamlet::ReadError", "it is nested too deeply");
             break;
         case ']':
         case '}':
@@ -49,7 +51,7 @@ std::optional<QString> costOf(const QByteArray &bytes)
             break;
         }
         if (values > mostValues)
-            return u"it is too large"_s;
+            return QCoreApplication::translate("roamlet::ReadError", "it is too large");
     }
     return {};
 }
@@ -61,18 +63,22 @@ std::expected<Value, QString> parse(const QByteArray &bytes)
     // The library would skip the mark; a browser never writes one, and a file that has it is not the
     // browser's.
     if (bytes.startsWith("\xEF\xBB\xBF"))
-        return std::unexpected(u"not valid JSON: it begins with a byte-order mark"_s);
+        return std::unexpected(QCoreApplication::translate(
+            "roamlet::ReadError", "not valid JSON: it begins with a byte-order mark"));
     // The library would take it for the end of the text.
     if (bytes.contains('\0'))
-        return std::unexpected(u"not valid JSON: it holds a NUL"_s);
+        return std::unexpected(
+            QCoreApplication::translate("roamlet::ReadError", "not valid JSON: it holds a NUL"));
     if (const std::optional<QString> reason = costOf(bytes))
         return std::unexpected(*reason);
     try {
         return Value::parse(bytes.begin(), bytes.end());
     } catch (const Value::parse_error &error) {
-        return std::unexpected(u"not valid JSON at byte "_s % QString::number(error.byte));
+        return std::unexpected(
+            QCoreApplication::translate("roamlet::ReadError", "not valid JSON at byte %1").arg(error.byte));
     } catch (const Value::exception &) {
-        return std::unexpected(u"not valid JSON: a number is out of range"_s);
+        return std::unexpected(
+            QCoreApplication::translate("roamlet::ReadError", "not valid JSON: a number is out of range"));
     }
 }
 

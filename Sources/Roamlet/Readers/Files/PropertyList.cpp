@@ -5,6 +5,8 @@
 
 #include "Readers/Files/PropertyListTree.h"
 
+#include <QCoreApplication>
+
 #include <cmath>
 #include <limits>
 #include <utility>
@@ -87,7 +89,7 @@ std::expected<PropertyList, QString> PropertyList::parse(QByteArrayView bytes)
 {
     // Places in the file and in the tree are counted with 32 bits.
     if (bytes.size() >= std::numeric_limits<std::int32_t>::max())
-        return std::unexpected(u"it is too large"_s);
+        return std::unexpected(QCoreApplication::translate("roamlet::ReadError", "it is too large"));
     auto tree =
         bytes.startsWith("bplist00") ? PropertyListTree::ofBinary(bytes) : PropertyListTree::ofXml(bytes);
     if (!tree)

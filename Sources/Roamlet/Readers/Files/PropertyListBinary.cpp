@@ -4,6 +4,7 @@
 #include "Model/Utf8.h"
 #include "Readers/Files/PropertyListTree.h"
 
+#include <QCoreApplication>
 #include <QStringDecoder>
 
 #include <algorithm>
@@ -55,7 +56,8 @@ public:
             Open &container = m_open.back();
             if (container.next == container.end) {
                 if (!close())
-                    return std::unexpected(u"not a property list: it unfolds to more than it holds"_s);
+                    return std::unexpected(QCoreApplication::translate(
+                        "roamlet::ReadError", "not a property list: it unfolds to more than it holds"));
                 continue;
             }
             const std::uint32_t object = m_tree.children[container.next];
@@ -65,9 +67,11 @@ public:
             if (isNew && !add(object))
                 return damaged();
             if (!isNew && m_weights[place].unfolded == 0)
-                return std::unexpected(u"not a property list: a value contains itself"_s);
+                return std::unexpected(QCoreApplication::translate(
+                    "roamlet::ReadError", "not a property list: a value contains itself"));
             if (m_open.size() + (isNew ? 0 : m_weights[place].height) > PropertyListTree::deepestNesting)
-                return std::unexpected(u"it is nested too deeply"_s);
+                return std::unexpected(
+                    QCoreApplication::translate("roamlet::ReadError", "it is nested too deeply"));
         }
         return std::move(m_tree);
     }
@@ -94,7 +98,8 @@ private:
 
     static std::unexpected<QString> damaged()
     {
-        return std::unexpected(u"not a property list: its object table is damaged"_s);
+        return std::unexpected(QCoreApplication::translate(
+            "roamlet::ReadError", "not a property list: its object table is damaged"));
     }
 
     /// Whether the trailer describes a table that lies within the file.

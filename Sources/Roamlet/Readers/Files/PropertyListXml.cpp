@@ -4,6 +4,7 @@
 #include "Readers/Files/PropertyList.h"
 #include "Readers/Files/PropertyListTree.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QStringDecoder>
 #include <QXmlStreamReader>
@@ -157,7 +158,7 @@ private:
             return false;
         if (element == u"dict" || element == u"array") {
             if (m_open.size() >= PropertyListTree::deepestNesting) {
-                m_refusal = u"it is nested too deeply"_s;
+                m_refusal = QCoreApplication::translate("roamlet::ReadError", "it is nested too deeply");
                 return false;
             }
             m_open.push_back({.isDictionary = element == u"dict", .children = {}});
@@ -250,7 +251,7 @@ private:
     }
 
     QXmlStreamReader m_reader;
-    QString m_refusal = u"not a property list"_s;
+    QString m_refusal = QCoreApplication::translate("roamlet::ReadError", "not a property list");
     /// Whether the list itself has begun.
     bool m_isInside = false;
     bool m_isComplete = false;
@@ -264,7 +265,7 @@ std::expected<PropertyListTree, QString> PropertyListTree::ofXml(QByteArrayView 
 {
     std::optional<QString> text = decoded(bytes);
     if (!text || isCostly(*text))
-        return std::unexpected(u"not a property list"_s);
+        return std::unexpected(QCoreApplication::translate("roamlet::ReadError", "not a property list"));
     std::ranges::transform(*text, text->begin(), standInOf);
     return XmlReader(text->trimmed()).read();
 }

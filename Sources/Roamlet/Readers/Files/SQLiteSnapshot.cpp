@@ -11,6 +11,7 @@
 #include "Readers/Files/LiteralLike.h"
 #include "Readers/ReadContext.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QSet>
@@ -45,9 +46,22 @@ struct Finalize {
 };
 using Statement = std::unique_ptr<sqlite3_stmt, Finalize>;
 
+/// The library's own words. Those that people meet are translated, the others are shown as they are.
+QString translated(const char *message)
+{
+    //: Words of the SQLite library.
+    [[maybe_unused]] static constexpr std::array known{
+        QT_TRANSLATE_NOOP("roamlet::SQLite", "file is not a database"),
+        QT_TRANSLATE_NOOP("roamlet::SQLite", "database disk image is malformed"),
+        QT_TRANSLATE_NOOP("roamlet::SQLite", "unable to open database file"),
+        QT_TRANSLATE_NOOP("roamlet::SQLite", "disk I/O error"),
+        QT_TRANSLATE_NOOP("roamlet::SQLite", "database or disk is full")};
+    return QCoreApplication::translate("roamlet::SQLite", message);
+}
+
 QString messageOf(sqlite3 *connection)
 {
-    return QString::fromUtf8(sqlite3_errmsg(connection));
+    return translated(sqlite3_errmsg(connection));
 }
 
 ReadError queryError(sqlite3 *connection)
@@ -167,7 +181,7 @@ public:
     {
         if (isLargeAndForeign(m_files, m_source))
             return std::unexpected(
-                ReadError::unreadable(m_source, QString::fromUtf8(sqlite3_errstr(SQLITE_NOTADB))));
+                ReadError::unreadable(m_source, translated(sqlite3_errstr(SQLITE_NOTADB))));
         for (int attempt = 1; attempt <= attempts; ++attempt) {
             if (attempt > 1)
                 std::this_thread::sleep_for(pauses.at(static_cast<std::size_t>(attempt - 2)));
@@ -244,8 +258,11 @@ private:
     /// The browser's file may be as it should: whatever kind of failure this is, it is none of the browser's.
     ReadError noRoom(std::error_code error) const
     {
-        return ReadError::unreadable(m_source, u"cannot make a copy in " % QFileInfo(m_folder).path() %
-                                                   u": " % QString::fromStdString(error.message()));
+        return ReadError::unreadable(
+            m_source,
+            //: %1 is a folder, %2 says why.
+            QCoreApplication::translate("roamlet::ReadError", "cannot make a copy in %1: %2")
+                .arg(QFileInfo(m_folder).path(), QString::fromStdString(error.message())));
     }
 
     const Files &m_files;

@@ -7,6 +7,7 @@
 #include "Readers/Files/SQLiteSnapshot.h"
 #include "Readers/Firefox/FirefoxTime.h"
 
+#include <QCoreApplication>
 #include <QHash>
 
 #include <algorithm>
@@ -26,12 +27,15 @@ namespace
 /// A folder that is always there. The titles in the database are names for programs.
 struct Root {
     QLatin1StringView guid;
-    QLatin1StringView title;
+    const char *title;
 };
 
+//: The four folders of bookmarks that Firefox calls so.
 constexpr std::array roots{
-    Root{"toolbar_____"_L1, "Bookmarks Toolbar"_L1}, Root{"menu________"_L1, "Bookmarks Menu"_L1},
-    Root{"unfiled_____"_L1, "Other Bookmarks"_L1}, Root{"mobile______"_L1, "Mobile Bookmarks"_L1}};
+    Root{"toolbar_____"_L1, QT_TRANSLATE_NOOP("roamlet::Firefox", "Bookmarks Toolbar")},
+    Root{"menu________"_L1, QT_TRANSLATE_NOOP("roamlet::Firefox", "Bookmarks Menu")},
+    Root{"unfiled_____"_L1, QT_TRANSLATE_NOOP("roamlet::Firefox", "Other Bookmarks")},
+    Root{"mobile______"_L1, QT_TRANSLATE_NOOP("roamlet::Firefox", "Mobile Bookmarks")}};
 constexpr QLatin1StringView bar = roots.front().guid;
 /// Holds a folder for each tag, and there a second row for each bookmark that has it.
 constexpr QLatin1StringView tags = "tags________"_L1;
@@ -139,7 +143,7 @@ std::expected<QList<BookmarkNode>, ReadError> read(const SQLiteSnapshot &places,
             [&entries](const Entry *folder) { return entries.takeChildren(folder); });
         if (!node || node->bookmarkCount() == 0)
             continue;
-        node->title = title;
+        node->title = QCoreApplication::translate("roamlet::Firefox", title);
         node->isBar = guid == bar;
         result.append(std::move(*node));
     }

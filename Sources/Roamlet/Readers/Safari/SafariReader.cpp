@@ -10,6 +10,7 @@
 #include "Readers/Files/SQLiteSnapshot.h"
 #include "Readers/HistoryRows.h"
 
+#include <QCoreApplication>
 #include <QUuid>
 
 #include <algorithm>
@@ -31,9 +32,11 @@ const QString barTitle = u"BookmarksBar"_s;
 QString rootName(const QString &rawTitle)
 {
     if (rawTitle == barTitle)
-        return u"Favorites"_s;
+        //: The folder of bookmarks that Safari calls so.
+        return QCoreApplication::translate("roamlet::Safari", "Favorites");
     if (rawTitle == u"BookmarksMenu")
-        return u"Bookmarks Menu"_s;
+        //: The folder of bookmarks that Safari calls so.
+        return QCoreApplication::translate("roamlet::Safari", "Bookmarks Menu");
     return rawTitle;
 }
 
@@ -193,7 +196,8 @@ QList<Source> profiles(const ReadContext &context)
         return {Source::safari()};
     named.prepend({.kind = Source::Kind::Safari,
                    .profile = {},
-                   .name = u"Personal"_s,
+                   //: The profile that Safari itself calls so.
+                   .name = QCoreApplication::translate("roamlet::Safari", "Personal"),
                    .safariBookmarks = Source::AllExcept{claimedIDs}});
     return named;
 }
@@ -255,7 +259,8 @@ std::expected<BookmarkTrees, ReadErrors> bookmarks(const Source &source, const R
     if (!list)
         return std::unexpected(ReadErrors{ReadError::unreadable(file, list.error())});
     if (!list->root().isDictionary())
-        return std::unexpected(ReadErrors{ReadError::unreadable(file, u"not a dictionary"_s)});
+        return std::unexpected(ReadErrors{ReadError::unreadable(
+            file, QCoreApplication::translate("roamlet::ReadError", "not a dictionary"))});
     if (const auto *folder = std::get_if<Source::Folder>(&source.safariBookmarks))
         return BookmarkTrees{.roots = favourites(list->root(), folder->serverID, source)};
     return BookmarkTrees{.roots = allBookmarks(list->root(),

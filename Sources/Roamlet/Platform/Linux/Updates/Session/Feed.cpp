@@ -5,6 +5,7 @@
 
 #include "Platform/Linux/Updates/Versions.h"
 
+#include <QCoreApplication>
 #include <QStringDecoder>
 #include <QXmlStreamReader>
 
@@ -35,12 +36,12 @@ QString problemOf(const QString &text)
         switch (xml.readNext()) {
         case QXmlStreamReader::DTD:
             // A document type can define entities that unfold to anything; no feed needs one.
-            return u"Document type declaration"_s;
+            return QCoreApplication::translate("roamlet::UpdateError", "Document type declaration");
         case QXmlStreamReader::StartElement:
             if (depth == 0 && (!xml.namespaceUri().isEmpty() || xml.name() != "rss"_L1))
-                return u"No feed"_s;
+                return QCoreApplication::translate("roamlet::UpdateError", "No feed");
             if (++depth > deepest)
-                return u"Elements nested too deep"_s;
+                return QCoreApplication::translate("roamlet::UpdateError", "Elements nested too deep");
             break;
         case QXmlStreamReader::EndElement:
             --depth;
@@ -256,11 +257,12 @@ std::expected<QList<FeedItem>, UpdateError> Feed::parse(const QByteArray &bytes,
         return std::unexpected(UpdateError{UpdateError::Code::FeedMalformed, problem});
     };
     if (bytes.size() > longest)
-        return malformed(u"Too long"_s);
+        return malformed(QCoreApplication::translate("roamlet::UpdateError", "Too long"));
     QStringDecoder decoder(QStringConverter::encodingForData(bytes, u'<').value_or(QStringConverter::Utf8));
     const QString text = decoder(bytes);
     if (decoder.hasError())
-        return malformed(u"Characters in an unknown encoding"_s);
+        return malformed(
+            QCoreApplication::translate("roamlet::UpdateError", "Characters in an unknown encoding"));
     if (const QString problem = problemOf(text); !problem.isEmpty())
         return malformed(problem);
     return Parser(text, address).parse();

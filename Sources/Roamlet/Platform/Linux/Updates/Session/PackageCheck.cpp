@@ -5,6 +5,7 @@
 
 #include "Platform/Linux/Updates/Versions.h"
 
+#include <QCoreApplication>
 #include <QStringList>
 
 #include <archive.h>
@@ -74,7 +75,7 @@ public:
         constexpr qint64 header = 512;
         m_unpacked += header + archive_entry_size(entry);
         if (m_unpacked > mostUnpacked && archive_filter_count(m_archive.get()) > 1)
-            return Problem(u"Too much is packed"_s);
+            return Problem(QCoreApplication::translate("roamlet::UpdateError", "Too much is packed"));
         return QByteArray(archive_entry_pathname(entry));
     }
 
@@ -117,10 +118,13 @@ std::expected<QByteArray, QString> controlFile(const QByteArray &package)
     ArchiveReader parts(package, ArchiveReader::Kind::Package);
     const auto first = parts.next();
     if (!first || *first != "debian-binary")
-        return std::unexpected(first ? u"No Debian package"_s : first.error());
+        return std::unexpected(
+            first ? QCoreApplication::translate("roamlet::UpdateError", "No Debian package") : first.error());
     const auto second = parts.next();
     if (!second || !second->startsWith("control.tar"))
-        return std::unexpected(second ? u"No Debian package"_s : second.error());
+        return std::unexpected(second
+                                   ? QCoreApplication::translate("roamlet::UpdateError", "No Debian package")
+                                   : second.error());
     const auto packed = parts.content(largestControlArchive);
     if (!packed)
         return packed;
