@@ -6,33 +6,33 @@
     <message>
         <source>QT_LAYOUT_DIRECTION</source>
         <extracomment>Translate this as &quot;LTR&quot;, or as &quot;RTL&quot; for a language that is read from right to left.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>LTR</translation>
     </message>
 </context>
 <context>
     <name>RefusedFile</name>
     <message>
         <source>Your permission to open the folder %1 is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Manca il permesso di aprire la cartella %1.</translation>
     </message>
     <message>
         <source>Your permission to read the file %1 is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Manca il permesso di leggere il file %1.</translation>
     </message>
     <message>
         <source>The folder %1 belongs to %2; your permission to open it is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>La cartella %1 appartiene a %2; manca il permesso di aprirla.</translation>
     </message>
     <message>
         <source>The file %1 belongs to %2; your permission to read it is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il file %1 appartiene a %2; manca il permesso di leggerlo.</translation>
     </message>
 </context>
 <context>
     <name>roamlet::AutostartLoginService</name>
     <message>
         <source>The name of the program&apos;s file or folder contains a control character.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il nome del file o della cartella del programma contiene un carattere di controllo.</translation>
     </message>
 </context>
 <context>
@@ -40,109 +40,109 @@
     <message>
         <source>Bookmarks</source>
         <extracomment>The name of a file, without its ending.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Segnalibri</translation>
     </message>
     <message>
         <source>%1 Bookmarks</source>
         <extracomment>The name of a file, without its ending. %1 is a browser, with or without a profile.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Segnalibri di %1</translation>
     </message>
     <message>
         <source>There is something else than a file at this place.</source>
-        <translation type="unfinished"></translation>
+        <translation>In questa posizione c’è qualcosa che non è un file.</translation>
     </message>
 </context>
 <context>
     <name>roamlet::BookmarkTable</name>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titolo</translation>
     </message>
     <message>
         <source>Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Cartella</translation>
     </message>
     <message>
         <source>Added</source>
         <extracomment>The column that says when a bookmark was added.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Aggiunto</translation>
     </message>
     <message>
         <source>Source</source>
         <extracomment>The column that says from which browser and profile a bookmark is.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Origine</translation>
     </message>
     <message>
         <source>Bookmarks</source>
-        <translation type="unfinished"></translation>
+        <translation>Segnalibri</translation>
     </message>
     <message>
         <source>No bookmarks yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Ancora nessun segnalibro</translation>
     </message>
 </context>
 <context>
     <name>roamlet::BookmarkTree</name>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titolo</translation>
     </message>
     <message>
         <source>Added</source>
         <extracomment>The column that says when a bookmark was added.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Aggiunto</translation>
     </message>
     <message>
         <source>Bookmarks</source>
-        <translation type="unfinished"></translation>
+        <translation>Segnalibri</translation>
     </message>
     <message>
         <source>No bookmarks yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Ancora nessun segnalibro</translation>
     </message>
 </context>
 <context>
     <name>roamlet::BrowserPlaces</name>
     <message>
         <source>Browsers</source>
-        <translation type="unfinished"></translation>
+        <translation>Browser</translation>
     </message>
     <message>
         <source>Roamlet looks for the data of %1 and %2 in these folders, in those of their beta versions, Flatpaks and snaps, and where a Mac keeps them:</source>
         <extracomment>%1 are all browsers but the last, with commas between them, %2 is the last. A list of folders follows.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Roamlet cerca i dati di %1 e %2 in queste cartelle, in quelle delle versioni beta, Flatpak e snap, e dove li conserva un Mac:</translation>
     </message>
     <message>
         <source>, </source>
         <comment>between the names of browsers</comment>
-        <translation type="unfinished"></translation>
+        <translation>, </translation>
     </message>
 </context>
 <context>
     <name>roamlet::BrowserProfileSettings</name>
     <message>
         <source>Browser Profiles</source>
-        <translation type="unfinished"></translation>
+        <translation>Profili dei browser</translation>
     </message>
     <message>
         <source>Space turns a profile on or off, Alt with an arrow key moves it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Spazio attiva o disattiva un profilo, Alt con un tasto freccia lo sposta.</translation>
     </message>
     <message>
         <source>Drag profiles to change their order in the sidebar. Roamlet only reads the profiles that are on, and new ones are on automatically.</source>
-        <translation type="unfinished"></translation>
+        <translation>Trascinare i profili per cambiarne l’ordine nella barra laterale. Roamlet legge solo i profili attivi; quelli nuovi sono attivi automaticamente.</translation>
     </message>
     <message>
         <source>The system has no more watches for files, so Roamlet looks for changes once a minute. The system&apos;s settings fs.inotify.max_user_watches and fs.inotify.max_user_instances say how many there are.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il sistema non può sorvegliare altri file, perciò Roamlet cerca le modifiche una volta al minuto. Le impostazioni di sistema fs.inotify.max_user_watches e fs.inotify.max_user_instances ne stabiliscono il numero.</translation>
     </message>
     <message>
         <source>No browser profiles were found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun profilo di browser trovato.</translation>
     </message>
     <message>
         <source>Reading…</source>
-        <translation type="unfinished"></translation>
+        <translation>Lettura…</translation>
     </message>
 </context>
 <context>
@@ -150,48 +150,48 @@
     <message>
         <source>Personal</source>
         <extracomment>The profile that Microsoft Edge itself calls so.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Personale</translation>
     </message>
     <message>
         <source>%1 (Account)</source>
         <extracomment>%1 is a folder of bookmarks; this one is stored in the user&apos;s account.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 (account)</translation>
     </message>
 </context>
 <context>
     <name>roamlet::ContentView</name>
     <message>
         <source>Pick something in the sidebar</source>
-        <translation type="unfinished"></translation>
+        <translation>Scegliere un elemento nella barra laterale</translation>
     </message>
     <message>
         <source>No browsers found</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun browser trovato</translation>
     </message>
     <message>
         <source>Reload</source>
-        <translation type="unfinished"></translation>
+        <translation>Ricarica</translation>
     </message>
     <message>
         <source>Bookmarks are encrypted</source>
-        <translation type="unfinished"></translation>
+        <translation>I segnalibri sono cifrati</translation>
     </message>
     <message>
         <source>%1 keeps the bookmarks of this profile encrypted, so that only %1 itself can show them.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 conserva cifrati i segnalibri di questo profilo, quindi solo %1 può mostrarli.</translation>
     </message>
     <message>
         <source>Edit %1 Bookmarks</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifica i segnalibri di %1</translation>
     </message>
     <message>
         <source>Searching</source>
         <extracomment>Read aloud: what the program is doing.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Ricerca in corso</translation>
     </message>
     <message>
         <source>Reading</source>
-        <translation type="unfinished"></translation>
+        <translation>Lettura in corso</translation>
     </message>
 </context>
 <context>
@@ -199,140 +199,140 @@
     <message>
         <source>Today</source>
         <extracomment>The heading of a section of pages by when they were visited.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Oggi</translation>
     </message>
     <message>
         <source>Yesterday</source>
-        <translation type="unfinished"></translation>
+        <translation>Ieri</translation>
     </message>
     <message>
         <source>Earlier This Week</source>
-        <translation type="unfinished"></translation>
+        <translation>Nei giorni scorsi di questa settimana</translation>
     </message>
     <message>
         <source>Last Week</source>
-        <translation type="unfinished"></translation>
+        <translation>La settimana scorsa</translation>
     </message>
     <message>
         <source>Earlier This Month</source>
-        <translation type="unfinished"></translation>
+        <translation>Nei giorni scorsi di questo mese</translation>
     </message>
 </context>
 <context>
     <name>roamlet::DetailHeader</name>
     <message>
         <source>Sidebar</source>
-        <translation type="unfinished"></translation>
+        <translation>Barra laterale</translation>
     </message>
     <message>
         <source>Group By</source>
-        <translation type="unfinished"></translation>
+        <translation>Raggruppa per</translation>
     </message>
     <message>
         <source>Export Bookmarks</source>
-        <translation type="unfinished"></translation>
+        <translation>Esporta segnalibri</translation>
     </message>
     <message>
         <source>Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Menù</translation>
     </message>
 </context>
 <context>
     <name>roamlet::EmptyListPage</name>
     <message>
         <source>Show All Sites</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra tutti i siti</translation>
     </message>
     <message>
         <source>Clear Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancella ricerca</translation>
     </message>
     <message>
         <source>Reload</source>
-        <translation type="unfinished"></translation>
+        <translation>Ricarica</translation>
     </message>
 </context>
 <context>
     <name>roamlet::ExportPanel</name>
     <message>
         <source>Bookmark File</source>
-        <translation type="unfinished"></translation>
+        <translation>File di segnalibri</translation>
     </message>
     <message>
         <source>Markdown</source>
-        <translation type="unfinished"></translation>
+        <translation>Markdown</translation>
     </message>
     <message>
         <source>CSV</source>
-        <translation type="unfinished"></translation>
+        <translation>CSV</translation>
     </message>
     <message>
         <source>HTML that Safari, Chrome, Edge and most other browsers can import.</source>
-        <translation type="unfinished"></translation>
+        <translation>HTML che Safari, Chrome, Edge e la maggior parte degli altri browser possono importare.</translation>
     </message>
     <message>
         <source>Headings and lists, for notes and documents.</source>
-        <translation type="unfinished"></translation>
+        <translation>Titoli ed elenchi, per appunti e documenti.</translation>
     </message>
     <message>
         <source>One row per bookmark, for Numbers or Excel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una riga per segnalibro, per Numbers o Excel.</translation>
     </message>
     <message>
         <source>Export Bookmarks</source>
-        <translation type="unfinished"></translation>
+        <translation>Esporta segnalibri</translation>
     </message>
     <message>
         <source>From:</source>
-        <translation type="unfinished"></translation>
+        <translation>Da:</translation>
     </message>
     <message>
         <source>Format:</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato:</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulla</translation>
     </message>
     <message>
         <source>Export…</source>
-        <translation type="unfinished"></translation>
+        <translation>Esporta…</translation>
     </message>
     <message>
         <source>From</source>
-        <translation type="unfinished"></translation>
+        <translation>Da</translation>
     </message>
     <message>
         <source>No bookmarks</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun segnalibro</translation>
     </message>
     <message>
         <source>Exporting</source>
-        <translation type="unfinished"></translation>
+        <translation>Esportazione in corso</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
         <extracomment>A browser or a profile, and how many bookmarks it has.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>All Browsers</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutti i browser</translation>
     </message>
     <message>
         <source>The folders are nested too deeply for this format.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le cartelle hanno troppi livelli per questo formato.</translation>
     </message>
 </context>
 <context>
     <name>roamlet::FileSavePanel</name>
     <message>
         <source>Export Bookmarks</source>
-        <translation type="unfinished"></translation>
+        <translation>Esporta segnalibri</translation>
     </message>
     <message>
         <source>“%1” already exists. Do you want to replace it?</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» esiste già. Sostituirlo?</translation>
     </message>
 </context>
 <context>
@@ -340,101 +340,101 @@
     <message>
         <source>Bookmarks Toolbar</source>
         <extracomment>The four folders of bookmarks that Firefox calls so.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Barra dei segnalibri</translation>
     </message>
     <message>
         <source>Bookmarks Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Menu segnalibri</translation>
     </message>
     <message>
         <source>Other Bookmarks</source>
-        <translation type="unfinished"></translation>
+        <translation>Altri segnalibri</translation>
     </message>
     <message>
         <source>Mobile Bookmarks</source>
-        <translation type="unfinished"></translation>
+        <translation>Segnalibri dispositivi mobili</translation>
     </message>
 </context>
 <context>
     <name>roamlet::FullDiskAccessBanner</name>
     <message>
         <source>Roamlet can&apos;t read Safari yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Roamlet non può ancora leggere Safari</translation>
     </message>
     <message>
         <source>Turn on Roamlet in Privacy &amp; Security › Full Disk Access, then reload.</source>
-        <translation type="unfinished"></translation>
+        <translation>Attivare Roamlet in Privacy e sicurezza › Accesso completo al disco, quindi ricaricare.</translation>
     </message>
     <message>
         <source>Open Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Apri impostazioni</translation>
     </message>
     <message>
         <source>Reload</source>
-        <translation type="unfinished"></translation>
+        <translation>Ricarica</translation>
     </message>
 </context>
 <context>
     <name>roamlet::GeneralSettings</name>
     <message>
         <source>Open at login</source>
-        <translation type="unfinished"></translation>
+        <translation>Apri all’accesso</translation>
     </message>
     <message>
         <source>Show Dock icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra l’icona nel Dock</translation>
     </message>
     <message>
         <source>Check for updates automatically</source>
-        <translation type="unfinished"></translation>
+        <translation>Controlla automaticamente gli aggiornamenti</translation>
     </message>
     <message>
         <source>Check for Updates…</source>
-        <translation type="unfinished"></translation>
+        <translation>Controlla aggiornamenti…</translation>
     </message>
     <message>
         <source>Approve Roamlet in System Settings › General › Login Items.</source>
-        <translation type="unfinished"></translation>
+        <translation>Approvare Roamlet in Impostazioni di Sistema › Generali › Elementi login.</translation>
     </message>
 </context>
 <context>
     <name>roamlet::GroupByButton</name>
     <message>
         <source>Group By</source>
-        <translation type="unfinished"></translation>
+        <translation>Raggruppa per</translation>
     </message>
 </context>
 <context>
     <name>roamlet::HistoryTable</name>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titolo</translation>
     </message>
     <message>
         <source>Last Visited</source>
-        <translation type="unfinished"></translation>
+        <translation>Ultima visita</translation>
     </message>
     <message>
         <source>Visits</source>
         <extracomment>The column that says how often a page was visited.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Visite</translation>
     </message>
     <message>
         <source>Source</source>
         <extracomment>The column that says from which browser and profile a page is.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Origine</translation>
     </message>
     <message>
         <source>History</source>
-        <translation type="unfinished"></translation>
+        <translation>Cronologia</translation>
     </message>
     <message>
         <source>Most Visited</source>
-        <translation type="unfinished"></translation>
+        <translation>Più visitati</translation>
     </message>
     <message>
         <source>No history yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Ancora nessuna cronologia</translation>
     </message>
 </context>
 <context>
@@ -442,86 +442,86 @@
     <message>
         <source>Show Only %1</source>
         <extracomment>%1 is a web site, such as &quot;example.org&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Mostra solo %1</translation>
     </message>
     <message>
         <source>Edit %1 Bookmarks</source>
         <extracomment>%1 is a browser.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Modifica i segnalibri di %1</translation>
     </message>
     <message>
         <source>Show %1 History</source>
         <extracomment>%1 is a browser.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Mostra la cronologia di %1</translation>
     </message>
     <message>
         <source>Open in Original Browsers</source>
         <extracomment>Each link in the browser that it came from.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Apri nei browser di origine</translation>
     </message>
     <message>
         <source>Open in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Apri in %1</translation>
     </message>
     <message numerus="yes">
         <source>Copy %1 URLs</source>
         <extracomment>%1 is a number.</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Copia %1 URL</numerusform>
+            <numerusform>Copia %1 URL</numerusform>
         </translation>
     </message>
     <message>
         <source>Copy URL</source>
-        <translation type="unfinished"></translation>
+        <translation>Copia URL</translation>
     </message>
 </context>
 <context>
     <name>roamlet::LinkTable</name>
     <message>
         <source>All profiles are switched off in the settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutti i profili sono disattivati nelle impostazioni.</translation>
     </message>
     <message>
         <source>Nothing found for “%1” on %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun risultato per «%1» su %2</translation>
     </message>
     <message>
         <source>Nothing found for “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun risultato per «%1»</translation>
     </message>
     <message>
         <source>Nothing found on %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun risultato su %1</translation>
     </message>
     <message>
         <source>Links</source>
         <extracomment>The name, read aloud, of the menu of the selected links.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Collegamenti</translation>
     </message>
     <message>
         <source>%1 does not exist on this system.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non esiste su questo sistema.</translation>
     </message>
     <message>
         <source>Opens in this desktop’s own browser: %1 does not exist on this system.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si apre nel browser predefinito di questo ambiente: %1 non esiste su questo sistema.</translation>
     </message>
     <message>
         <source>Columns</source>
-        <translation type="unfinished"></translation>
+        <translation>Colonne</translation>
     </message>
     <message>
         <source>Sort By</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordina per</translation>
     </message>
     <message>
         <source>Default Order</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordine predefinito</translation>
     </message>
     <message>
         <source>Default Columns</source>
-        <translation type="unfinished"></translation>
+        <translation>Colonne predefinite</translation>
     </message>
 </context>
 <context>
@@ -529,68 +529,68 @@
     <message>
         <source>%1 to %2</source>
         <extracomment>An hour of a day: &quot;13:00 to 14:00&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 - %2</translation>
     </message>
 </context>
 <context>
     <name>roamlet::MainWindow</name>
     <message>
         <source>About Roamlet</source>
-        <translation type="unfinished"></translation>
+        <translation>Informazioni su Roamlet</translation>
     </message>
     <message>
         <source>&lt;h3&gt;Roamlet %1&lt;/h3&gt;&lt;p&gt;Your history and bookmarks from every browser, in one window. Roamlet never writes to the browsers’ files.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;h3&gt;Roamlet %1&lt;/h3&gt;&lt;p&gt;La cronologia e i segnalibri di tutti i browser in un’unica finestra. Roamlet non scrive mai nei file dei browser.&lt;/p&gt;</translation>
     </message>
 </context>
 <context>
     <name>roamlet::MenuBarMenu</name>
     <message>
         <source>Recently Visited</source>
-        <translation type="unfinished"></translation>
+        <translation>Visitati di recente</translation>
     </message>
     <message>
         <source>Open Roamlet</source>
-        <translation type="unfinished"></translation>
+        <translation>Apri Roamlet</translation>
     </message>
     <message>
         <source>Reload</source>
-        <translation type="unfinished"></translation>
+        <translation>Ricarica</translation>
     </message>
     <message>
         <source>Settings…</source>
-        <translation type="unfinished"></translation>
+        <translation>Impostazioni…</translation>
     </message>
     <message>
         <source>Update Available…</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggiornamento disponibile…</translation>
     </message>
     <message>
         <source>Quit Roamlet</source>
-        <translation type="unfinished"></translation>
+        <translation>Esci da Roamlet</translation>
     </message>
     <message>
         <source>Updated at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggiornato alle %1</translation>
     </message>
     <message>
         <source>No history</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna cronologia</translation>
     </message>
     <message>
         <source>Reading…</source>
-        <translation type="unfinished"></translation>
+        <translation>Lettura…</translation>
     </message>
 </context>
 <context>
     <name>roamlet::MessageAlert</name>
     <message>
         <source>Export Bookmarks</source>
-        <translation type="unfinished"></translation>
+        <translation>Esporta segnalibri</translation>
     </message>
     <message>
         <source>“%1” could not be saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile salvare «%1».</translation>
     </message>
 </context>
 <context>
@@ -598,170 +598,170 @@
     <message>
         <source> · top %1</source>
         <extracomment>After the number of rows: &quot;1,000 items · top 1,000&quot;. These are the most visited pages.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation> · i primi %1</translation>
     </message>
     <message>
         <source> · latest %1</source>
         <extracomment>After the number of rows: &quot;1,000 items · latest 1,000&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation> · gli ultimi %1</translation>
     </message>
     <message>
         <source> · top %1 from each source</source>
         <extracomment>After the number of rows: &quot;3,000 items · top 1,000 from each source&quot;. A source is a profile.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation> · i primi %1 di ogni origine</translation>
     </message>
     <message>
         <source> · latest %1 from each source</source>
         <extracomment>After the number of rows: &quot;3,000 items · latest 1,000 from each source&quot;. A source is a profile.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation> · gli ultimi %1 di ogni origine</translation>
     </message>
     <message>
         <source>Most Visited</source>
-        <translation type="unfinished"></translation>
+        <translation>Più visitati</translation>
     </message>
     <message>
         <source>%1 History</source>
         <extracomment>The history of a browser or a profile, which %1 names: &quot;Firefox History&quot;, &quot;Work History&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Cronologia di %1</translation>
     </message>
     <message>
         <source>%1 Bookmarks</source>
         <extracomment>The bookmarks of a browser or a profile, which %1 names: &quot;Firefox Bookmarks&quot;, &quot;Work Bookmarks&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Segnalibri di %1</translation>
     </message>
     <message>
         <source>Recent History</source>
-        <translation type="unfinished"></translation>
+        <translation>Cronologia recente</translation>
     </message>
     <message>
         <source>All Bookmarks</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutti i segnalibri</translation>
     </message>
     <message>
         <source>Reading…</source>
-        <translation type="unfinished"></translation>
+        <translation>Lettura…</translation>
     </message>
     <message>
         <source>%1 item</source>
         <extracomment>How many rows a list has. %1 is the number.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 elemento</translation>
     </message>
     <message numerus="yes">
         <source>%1 items</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 elemento</numerusform>
+            <numerusform>%1 elementi</numerusform>
         </translation>
     </message>
     <message>
         <source>Folders</source>
         <extracomment>Beside &quot;Group By&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Cartelle</translation>
     </message>
     <message>
         <source>None</source>
         <extracomment>Beside &quot;Group By&quot;: the list has no sections.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Nessuno</translation>
     </message>
     <message>
         <source>Day</source>
         <extracomment>Beside &quot;Group By&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Giorno</translation>
     </message>
     <message>
         <source>Site</source>
         <extracomment>Beside &quot;Group By&quot;: by web site.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Sito</translation>
     </message>
 </context>
 <context>
     <name>roamlet::ProfileListModel</name>
     <message>
         <source>Holds Safari&apos;s main bookmarks, so it&apos;s always on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Contiene i segnalibri principali di Safari, quindi è sempre attivo.</translation>
     </message>
 </context>
 <context>
     <name>roamlet::ReadError</name>
     <message>
         <source>macOS blocked access to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>macOS ha bloccato l’accesso a %1.</translation>
     </message>
     <message>
         <source>Couldn&apos;t read %1: %2</source>
         <extracomment>%1 is a file, %2 says why: &quot;Couldn&apos;t read /home/anna/History: file is not a database&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile leggere %1: %2</translation>
     </message>
     <message>
         <source>it is nested too deeply</source>
-        <translation type="unfinished"></translation>
+        <translation>ha troppi livelli annidati</translation>
     </message>
     <message>
         <source>it is too large</source>
-        <translation type="unfinished"></translation>
+        <translation>è troppo grande</translation>
     </message>
     <message>
         <source>not valid JSON: it begins with a byte-order mark</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON non valido: inizia con un indicatore dell’ordine dei byte</translation>
     </message>
     <message>
         <source>not valid JSON: it holds a NUL</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON non valido: contiene un carattere NUL</translation>
     </message>
     <message>
         <source>not valid JSON at byte %1</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON non valido al byte %1</translation>
     </message>
     <message>
         <source>not valid JSON: a number is out of range</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON non valido: un numero è fuori dai limiti</translation>
     </message>
     <message>
         <source>not a property list: it unfolds to more than it holds</source>
-        <translation type="unfinished"></translation>
+        <translation>non è un elenco di proprietà: si espande in più di quanto contiene</translation>
     </message>
     <message>
         <source>not a property list: a value contains itself</source>
-        <translation type="unfinished"></translation>
+        <translation>non è un elenco di proprietà: un valore contiene sé stesso</translation>
     </message>
     <message>
         <source>not a property list: its object table is damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>non è un elenco di proprietà: la tabella degli oggetti è danneggiata</translation>
     </message>
     <message>
         <source>not a property list</source>
-        <translation type="unfinished"></translation>
+        <translation>non è un elenco di proprietà</translation>
     </message>
     <message>
         <source>cannot make a copy in %1: %2</source>
         <extracomment>%1 is a folder, %2 says why.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>impossibile creare una copia in %1: %2</translation>
     </message>
     <message>
         <source>not a dictionary</source>
-        <translation type="unfinished"></translation>
+        <translation>non è un dizionario</translation>
     </message>
 </context>
 <context>
     <name>roamlet::ReloadButton</name>
     <message>
         <source>Reload</source>
-        <translation type="unfinished"></translation>
+        <translation>Ricarica</translation>
     </message>
 </context>
 <context>
     <name>roamlet::RoamletApp</name>
     <message>
         <source>Paste the address into the new tab</source>
-        <translation type="unfinished"></translation>
+        <translation>Incollare l’indirizzo nella nuova scheda</translation>
     </message>
     <message>
         <source>Only the browser itself opens %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo il browser stesso apre %1.</translation>
     </message>
     <message>
         <source>Copy Address</source>
-        <translation type="unfinished"></translation>
+        <translation>Copia indirizzo</translation>
     </message>
 </context>
 <context>
@@ -769,7 +769,7 @@
     <message>
         <source>%1, %2</source>
         <extracomment>An hour or a day, and how many pages were visited then: &quot;13:00 to 14:00, 12&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
 </context>
 <context>
@@ -777,23 +777,23 @@
     <message>
         <source>file is not a database</source>
         <extracomment>Words of the SQLite library.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>il file non è una base di dati</translation>
     </message>
     <message>
         <source>database disk image is malformed</source>
-        <translation type="unfinished"></translation>
+        <translation>la base di dati è danneggiata</translation>
     </message>
     <message>
         <source>unable to open database file</source>
-        <translation type="unfinished"></translation>
+        <translation>impossibile aprire il file della base di dati</translation>
     </message>
     <message>
         <source>disk I/O error</source>
-        <translation type="unfinished"></translation>
+        <translation>errore di lettura o scrittura del disco</translation>
     </message>
     <message>
         <source>database or disk is full</source>
-        <translation type="unfinished"></translation>
+        <translation>la base di dati o il disco sono pieni</translation>
     </message>
 </context>
 <context>
@@ -801,62 +801,62 @@
     <message>
         <source>Favorites</source>
         <extracomment>The folder of bookmarks that Safari calls so.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Preferiti</translation>
     </message>
     <message>
         <source>Bookmarks Menu</source>
         <extracomment>The folder of bookmarks that Safari calls so.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Menu Segnalibri</translation>
     </message>
     <message>
         <source>Personal</source>
         <extracomment>The profile that Safari itself calls so.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Personale</translation>
     </message>
 </context>
 <context>
     <name>roamlet::SearchField</name>
     <message>
         <source>Title or URL</source>
-        <translation type="unfinished"></translation>
+        <translation>Titolo o URL</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerca</translation>
     </message>
     <message>
         <source>Clear Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancella ricerca</translation>
     </message>
 </context>
 <context>
     <name>roamlet::SettingsWindow</name>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Impostazioni</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Generali</translation>
     </message>
     <message>
         <source>Browser Profiles</source>
-        <translation type="unfinished"></translation>
+        <translation>Profili dei browser</translation>
     </message>
 </context>
 <context>
     <name>roamlet::Sidebar</name>
     <message>
         <source>Sidebar</source>
-        <translation type="unfinished"></translation>
+        <translation>Barra laterale</translation>
     </message>
     <message>
         <source>Bookmarks</source>
-        <translation type="unfinished"></translation>
+        <translation>Segnalibri</translation>
     </message>
     <message>
         <source>Export Bookmarks…</source>
-        <translation type="unfinished"></translation>
+        <translation>Esporta segnalibri…</translation>
     </message>
 </context>
 <context>
@@ -864,44 +864,44 @@
     <message>
         <source>%1: %2</source>
         <extracomment>Read aloud: a section of the sidebar and one of its rows, such as &quot;Firefox: History&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>Library</source>
         <extracomment>The section of the sidebar that has the lists of all browsers.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Libreria</translation>
     </message>
     <message>
         <source>Recent History</source>
-        <translation type="unfinished"></translation>
+        <translation>Cronologia recente</translation>
     </message>
     <message>
         <source>Most Visited</source>
-        <translation type="unfinished"></translation>
+        <translation>Più visitati</translation>
     </message>
     <message>
         <source>All Bookmarks</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutti i segnalibri</translation>
     </message>
     <message>
         <source>History</source>
-        <translation type="unfinished"></translation>
+        <translation>Cronologia</translation>
     </message>
     <message>
         <source>Bookmarks</source>
-        <translation type="unfinished"></translation>
+        <translation>Segnalibri</translation>
     </message>
 </context>
 <context>
     <name>roamlet::SiteFilterBar</name>
     <message>
         <source>Show All Sites</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra tutti i siti</translation>
     </message>
     <message>
         <source>Only %1</source>
         <extracomment>%1 is a web site, such as &quot;example.org&quot;: the list shows nothing else.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Solo %1</translation>
     </message>
 </context>
 <context>
@@ -909,18 +909,18 @@
     <message>
         <source>Other</source>
         <extracomment>The heading of a section of pages that belong to no web site, such as files.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Altro</translation>
     </message>
 </context>
 <context>
     <name>roamlet::TableHeader</name>
     <message>
         <source>Columns</source>
-        <translation type="unfinished"></translation>
+        <translation>Colonne</translation>
     </message>
     <message>
         <source>The arrow keys choose a column, move it with Ctrl and resize it with Shift. Space opens the menu.</source>
-        <translation type="unfinished"></translation>
+        <translation>I tasti freccia scelgono una colonna, la spostano con Ctrl e la ridimensionano con Maiusc. Spazio apre il menù.</translation>
     </message>
 </context>
 <context>
@@ -928,31 +928,31 @@
     <message>
         <source>1 item</source>
         <extracomment>How many rows a section or a folder has. %1 is the number.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>1 elemento</translation>
     </message>
     <message numerus="yes">
         <source>%1 items</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 elemento</numerusform>
+            <numerusform>%1 elementi</numerusform>
         </translation>
     </message>
     <message>
         <source>%1, folder, %2</source>
         <extracomment>Read aloud: the name of a folder, and how many items it has.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1, cartella, %2</translation>
     </message>
     <message>
         <source>%1, %2</source>
         <extracomment>Read aloud: the heading of a section, and how many items it has.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
 </context>
 <context>
     <name>roamlet::UpdateDialog</name>
     <message>
         <source>Software Update</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggiornamento software</translation>
     </message>
 </context>
 <context>
@@ -960,270 +960,270 @@
     <message>
         <source>%1 (%2)</source>
         <extracomment>What happened, and the words of the system or the server.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>This build of Roamlet cannot be updated.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questa versione compilata di Roamlet non può essere aggiornata.</translation>
     </message>
     <message>
         <source>The update was refused because its address is not secure.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’aggiornamento è stato rifiutato perché il suo indirizzo non è sicuro.</translation>
     </message>
     <message>
         <source>The update server sends Roamlet from one address to the next without end.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il server degli aggiornamenti rimanda Roamlet da un indirizzo all’altro senza fine.</translation>
     </message>
     <message>
         <source>The update server cannot be reached, or the connection was lost.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il server degli aggiornamenti non è raggiungibile o la connessione è stata persa.</translation>
     </message>
     <message>
         <source>The update server does not answer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il server degli aggiornamenti non risponde.</translation>
     </message>
     <message>
         <source>The update server answered with an error.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il server degli aggiornamenti ha risposto con un errore.</translation>
     </message>
     <message>
         <source>The list of updates was refused because it is far too long.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’elenco degli aggiornamenti è stato rifiutato perché è troppo lungo.</translation>
     </message>
     <message>
         <source>The list of updates cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’elenco degli aggiornamenti non può essere letto.</translation>
     </message>
     <message>
         <source>The update was refused because it is not signed.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’aggiornamento è stato rifiutato perché non è firmato.</translation>
     </message>
     <message>
         <source>The update was refused because it is far too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’aggiornamento è stato rifiutato perché è troppo grande.</translation>
     </message>
     <message>
         <source>The update was refused and deleted because its length is not the announced one.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’aggiornamento è stato rifiutato ed eliminato perché la sua lunghezza non è quella annunciata.</translation>
     </message>
     <message>
         <source>The update was refused and deleted because its signature is wrong.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’aggiornamento è stato rifiutato ed eliminato perché la sua firma è errata.</translation>
     </message>
     <message>
         <source>The update was refused and deleted because it is not the version that was announced.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’aggiornamento è stato rifiutato ed eliminato perché non è la versione annunciata.</translation>
     </message>
     <message>
         <source>The update cannot be saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’aggiornamento non può essere salvato.</translation>
     </message>
     <message>
         <source>The update was not installed because nobody gave permission to do so.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’aggiornamento non è stato installato perché nessuno ha dato il permesso.</translation>
     </message>
     <message>
         <source>The update cannot be installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’aggiornamento non può essere installato.</translation>
     </message>
     <message>
         <source>Roamlet has been updated already. Quit it and open it again to use the new version.</source>
-        <translation type="unfinished"></translation>
+        <translation>Roamlet è già stato aggiornato. Chiuderlo e riaprirlo per usare la nuova versione.</translation>
     </message>
     <message>
         <source>The update was downloaded, but no program here installs packages.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’aggiornamento è stato scaricato, ma qui nessun programma installa pacchetti.</translation>
     </message>
     <message>
         <source>Document type declaration</source>
-        <translation type="unfinished"></translation>
+        <translation>Dichiarazione del tipo di documento</translation>
     </message>
     <message>
         <source>No feed</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è un feed</translation>
     </message>
     <message>
         <source>Elements nested too deep</source>
-        <translation type="unfinished"></translation>
+        <translation>Elementi con troppi livelli annidati</translation>
     </message>
     <message>
         <source>Too long</source>
-        <translation type="unfinished"></translation>
+        <translation>Troppo lungo</translation>
     </message>
     <message>
         <source>Characters in an unknown encoding</source>
-        <translation type="unfinished"></translation>
+        <translation>Caratteri di una codifica sconosciuta</translation>
     </message>
     <message>
         <source>Too much is packed</source>
-        <translation type="unfinished"></translation>
+        <translation>Il contenuto del pacchetto è troppo grande</translation>
     </message>
     <message>
         <source>No Debian package</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è un pacchetto Debian</translation>
     </message>
 </context>
 <context>
     <name>roamlet::UpdateWindows</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulla</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Checking for updates…</source>
-        <translation type="unfinished"></translation>
+        <translation>Controllo degli aggiornamenti…</translation>
     </message>
     <message>
         <source>Roamlet is up to date</source>
-        <translation type="unfinished"></translation>
+        <translation>Roamlet è aggiornato</translation>
     </message>
     <message>
         <source>Version %1 is the newest there is.</source>
-        <translation type="unfinished"></translation>
+        <translation>La versione %1 è la più recente.</translation>
     </message>
     <message>
         <source>Roamlet %1 is available</source>
-        <translation type="unfinished"></translation>
+        <translation>Roamlet %1 è disponibile</translation>
     </message>
     <message>
         <source>You have version %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>La versione in uso è la %1.</translation>
     </message>
     <message>
         <source>The download takes %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo scaricamento occupa %1.</translation>
     </message>
     <message>
         <source>This is an important update: please install it soon.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo aggiornamento è importante: installarlo al più presto.</translation>
     </message>
     <message>
         <source>Release notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Note di rilascio</translation>
     </message>
     <message>
         <source>Skip This Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Salta questa versione</translation>
     </message>
     <message>
         <source>Remind Me Later</source>
-        <translation type="unfinished"></translation>
+        <translation>Ricorda più tardi</translation>
     </message>
     <message>
         <source>Install</source>
-        <translation type="unfinished"></translation>
+        <translation>Installa</translation>
     </message>
     <message>
         <source>Downloading the update…</source>
-        <translation type="unfinished"></translation>
+        <translation>Scaricamento dell’aggiornamento…</translation>
     </message>
     <message>
         <source>%1 of %2</source>
         <extracomment>How much was downloaded: &quot;1.2 MB of 3.4 MB&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 di %2</translation>
     </message>
     <message>
         <source>Checking the update…</source>
-        <translation type="unfinished"></translation>
+        <translation>Verifica dell’aggiornamento…</translation>
     </message>
     <message>
         <source>Installing the update…</source>
-        <translation type="unfinished"></translation>
+        <translation>Installazione dell’aggiornamento…</translation>
     </message>
     <message>
         <source>Your system may ask for your password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il sistema potrebbe chiedere la password.</translation>
     </message>
     <message>
         <source>Roamlet %1 is installed</source>
-        <translation type="unfinished"></translation>
+        <translation>Roamlet %1 è installato</translation>
     </message>
     <message>
         <source>Quit Roamlet and open it again to use the new version.</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiudere Roamlet e riaprirlo per usare la nuova versione.</translation>
     </message>
     <message>
         <source>Roamlet %1 is not installed yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Roamlet %1 non è ancora installato</translation>
     </message>
     <message>
         <source>It was opened with your program for packages. Install it there, then quit Roamlet and open it again to use the new version.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’aggiornamento è stato aperto con il programma per i pacchetti. Installarlo da lì, quindi chiudere Roamlet e riaprirlo per usare la nuova versione.</translation>
     </message>
     <message>
         <source>Roamlet could not be updated</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile aggiornare Roamlet</translation>
     </message>
 </context>
 <context>
     <name>roamlet::WindowCommands</name>
     <message>
         <source>Export Bookmarks…</source>
-        <translation type="unfinished"></translation>
+        <translation>Esporta segnalibri…</translation>
     </message>
     <message>
         <source>Close Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiudi finestra</translation>
     </message>
     <message>
         <source>Quit Roamlet</source>
-        <translation type="unfinished"></translation>
+        <translation>Esci da Roamlet</translation>
     </message>
     <message>
         <source>Find</source>
-        <translation type="unfinished"></translation>
+        <translation>Trova</translation>
     </message>
     <message>
         <source>Settings…</source>
-        <translation type="unfinished"></translation>
+        <translation>Impostazioni…</translation>
     </message>
     <message>
         <source>Reload</source>
-        <translation type="unfinished"></translation>
+        <translation>Ricarica</translation>
     </message>
     <message>
         <source>Sidebar</source>
-        <translation type="unfinished"></translation>
+        <translation>Barra laterale</translation>
     </message>
     <message>
         <source>Wider Sidebar</source>
-        <translation type="unfinished"></translation>
+        <translation>Allarga la barra laterale</translation>
     </message>
     <message>
         <source>Narrower Sidebar</source>
-        <translation type="unfinished"></translation>
+        <translation>Restringi la barra laterale</translation>
     </message>
     <message>
         <source>Menu Bar</source>
-        <translation type="unfinished"></translation>
+        <translation>Barra dei menù</translation>
     </message>
     <message>
         <source>Check for Updates…</source>
-        <translation type="unfinished"></translation>
+        <translation>Controlla aggiornamenti…</translation>
     </message>
     <message>
         <source>About Roamlet</source>
-        <translation type="unfinished"></translation>
+        <translation>Informazioni su Roamlet</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;File</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Modifica</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Visualizza</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;iuto</translation>
     </message>
 </context>
 </TS>
