@@ -12,9 +12,11 @@
 #include <QAbstractItemModelTester>
 #include <QAction>
 #include <QContextMenuEvent>
+#include <QHelpEvent>
 #include <QMenu>
 #include <QSignalSpy>
 #include <QTest>
+#include <QToolTip>
 
 #include <gmock/gmock.h>
 #include <utility>
@@ -388,6 +390,22 @@ TEST_F(SidebarTest, aProblemStandsAtItsSource)
     };
     EXPECT_TRUE(hasSign(section));
     EXPECT_FALSE(hasSign(sidebar.model()->index(2, 0)));
+}
+
+TEST_F(SidebarTest, aRowIsToldWholeWhereItsWordsAreCut)
+{
+    sidebar.show();
+    const QModelIndex row = line(*sidebar.model(), 1);
+    const auto tip = [&] {
+        const QPoint place = sidebar.visualRect(row).center();
+        QHelpEvent event(QEvent::ToolTip, place, sidebar.viewport()->mapToGlobal(place));
+        QCoreApplication::sendEvent(sidebar.viewport(), &event);
+        return QToolTip::text();
+    };
+    EXPECT_EQ(tip(), QString()) << "who can read it needs no tip";
+    sidebar.resize(90, 600);
+    EXPECT_TRUE(tip().contains(u"Recent History"));
+    QToolTip::hideText();
 }
 
 TEST_F(SidebarTest, aSourceIsDraggedToAnotherPlace)

@@ -61,19 +61,32 @@ UpdateDialog::UpdateDialog(const QString &name, const QString &heading, Answer c
     layout->setSpacing(measures.boxPadding);
     layout->addLayout(top, 1);
     layout->addLayout(m_buttons);
+    // Not by a smallest width of the window's own: with that it would take no notice of what its buttons need.
     constexpr int narrowest = 400;
-    setMinimumWidth(narrowest);
+    layout->addStrut(narrowest - (2 * margin));
 }
 
 void UpdateDialog::setHeading(const QString &text)
 {
     m_heading->setText(text);
+    growToText();
 }
 
 void UpdateDialog::setText(const QString &text)
 {
     m_text->setText(text);
     m_text->setHidden(text.isEmpty());
+    growToText();
+}
+
+void UpdateDialog::growToText()
+{
+    // A window does not follow words that go on in another line by itself.
+    if (!isVisible())
+        return;
+    layout()->activate();
+    if (const int needed = layout()->totalHeightForWidth(width()); needed > height())
+        resize(width(), needed);
 }
 
 void UpdateDialog::setProgress(std::optional<double> share)

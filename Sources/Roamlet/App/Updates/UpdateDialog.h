@@ -46,6 +46,7 @@ public:
     void reject() override;
 
 private:
+    void growToText();
     void give(const Answer &answer);
 
     bool m_isAnswered = false;

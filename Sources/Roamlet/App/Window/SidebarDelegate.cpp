@@ -5,13 +5,17 @@
 
 #include "App/Look/Chevron.h"
 #include "App/Look/Contrast.h"
+#include "App/Look/ForeignText.h"
 #include "App/Look/Look.h"
 #include "App/Look/Painting.h"
 #include "App/Look/SourceIcons.h"
 #include "App/Look/Symbol.h"
 #include "App/Window/SidebarModel.h"
 
+#include <QAbstractItemView>
+#include <QHelpEvent>
 #include <QPainter>
+#include <QToolTip>
 
 #include <utility>
 
@@ -153,6 +157,22 @@ void SidebarDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
     }
     row.addText(index.data(Qt::DisplayRole).toString());
     painter->restore();
+}
+
+bool SidebarDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *view,
+                                const QStyleOptionViewItem &option, const QModelIndex &index)
+{
+    if (event->type() != QEvent::ToolTip || !index.isValid() ||
+        index.data(SidebarModel::IsHeadingRole).toBool())
+        return QStyledItemDelegate::helpEvent(event, view, option, index);
+    const QString words = index.data(Qt::DisplayRole).toString();
+    const Measures measures(option.font);
+    const int taken = 4 * measures.gapAroundGroups + measures.iconSide + measures.gapAfterIcon;
+    if (option.fontMetrics.horizontalAdvance(words) > option.rect.width() - taken)
+        QToolTip::showText(event->globalPos(), ForeignText::toolTip({words}), view, option.rect);
+    else
+        QToolTip::hideText();
+    return true;
 }
 
 } // namespace roamlet
