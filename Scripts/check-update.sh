@@ -111,7 +111,7 @@ release() {
   today=$(date --utc +%F)
   sed -i "s/^project(Roamlet VERSION [0-9.]*/project(Roamlet VERSION $1/" source/CMakeLists.txt
   sed -i "0,/^## .*/s//## $1 ($today)/" source/CHANGELOG.md
-  sed -i "0,/<release version=\"[^\"]*\"/s//<release version=\"$1\"/" source/Resources/org.roamlet.Roamlet.metainfo.xml
+  sed -i "0,/<release version=\"[^\"]*\"/s//<release version=\"$1\"/" source/Resources/org.roamlet.Roamlet.metainfo.xml.in
   git -C source -c user.name=check -c user.email=check@roamlet.invalid commit -q --allow-empty -am "Release $1"
   echo "== Make release $1"
   ROAMLET_KEY_FILE=$PWD/key.pem ROAMLET_BASE_ADDRESS=https://$host:$port make -s -C source release >"$work/log" 2>&1 ||

@@ -17,15 +17,24 @@ function(roamlet_compress source result)
   add_custom_target(compressed-${result} ALL DEPENDS ${file})
 endfunction()
 
-configure_file(${resources}/${application}.service.in ${CMAKE_BINARY_DIR}/installed/${application}.service @ONLY)
-configure_file(${resources}/${application}.Search.service.in ${CMAKE_BINARY_DIR}/installed/${application}.Search.service
-  @ONLY)
-configure_file(${resources}/roamlet.1.in ${CMAKE_BINARY_DIR}/installed/roamlet.1 @ONLY)
-roamlet_compress(${CMAKE_BINARY_DIR}/installed/roamlet.1 roamlet.1)
+# Where people turn to. A release names its own pages; the others follow from the first, where they are not named.
+set(ROAMLET_HOMEPAGE_URL "https://roamlet.invalid" CACHE STRING "The project's page, for software centres")
+foreach(page bugtracker source translate contact pictures)
+  string(TOUPPER ${page} name)
+  set(ROAMLET_${name}_URL "${ROAMLET_HOMEPAGE_URL}/${page}" CACHE STRING "For software centres: ${page}")
+endforeach()
+foreach(file metainfo.xml service Search.service)
+  configure_file(${resources}/${application}.${file}.in ${CMAKE_BINARY_DIR}/installed/${application}.${file} @ONLY)
+endforeach()
+# The manual page, also in the languages that it is translated to.
+foreach(page roamlet.1 roamlet.de.1 roamlet.fr.1)
+  configure_file(${resources}/${page}.in ${CMAKE_BINARY_DIR}/installed/${page} @ONLY)
+  roamlet_compress(${CMAKE_BINARY_DIR}/installed/${page} ${page})
+endforeach()
 roamlet_compress(${CMAKE_SOURCE_DIR}/CHANGELOG.md changelog)
 
 install(FILES ${resources}/${application}.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
-install(FILES ${resources}/${application}.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
+install(FILES ${CMAKE_BINARY_DIR}/installed/${application}.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 install(FILES ${resources}/${application}.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
 install(FILES ${resources}/${application}-symbolic.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/symbolic/apps)
 install(FILES ${CMAKE_BINARY_DIR}/installed/${application}.service
@@ -36,5 +45,9 @@ install(FILES ${resources}/${application}.search-provider.ini
 install(FILES ${resources}/krunner.desktop
   DESTINATION ${CMAKE_INSTALL_DATADIR}/krunner/dbusplugins RENAME ${application}.desktop)
 install(FILES ${CMAKE_BINARY_DIR}/installed/roamlet.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+foreach(language de fr)
+  install(FILES ${CMAKE_BINARY_DIR}/installed/roamlet.${language}.1.gz
+    DESTINATION ${CMAKE_INSTALL_MANDIR}/${language}/man1 RENAME roamlet.1.gz)
+endforeach()
 install(FILES ${CMAKE_BINARY_DIR}/installed/changelog.gz DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/roamlet)
 install(FILES ${CMAKE_SOURCE_DIR}/LICENSE DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/roamlet RENAME copyright)

@@ -4,7 +4,7 @@ set(ROAMLET_PACKAGE_CONTACT "The Roamlet authors <noreply@roamlet.invalid>" CACH
   "Who answers for the package, with an address of electronic mail")
 
 # The package's own change log names the release that the desktop metadata names first.
-file(READ ${CMAKE_SOURCE_DIR}/Resources/org.roamlet.Roamlet.metainfo.xml metadata)
+file(READ ${CMAKE_SOURCE_DIR}/Resources/org.roamlet.Roamlet.metainfo.xml.in metadata)
 if(NOT metadata MATCHES "<release version=\"${PROJECT_VERSION}\"[^>]* date=\"([-0-9]+)\"")
   message(FATAL_ERROR "The desktop metadata knows no release ${PROJECT_VERSION}.")
 endif()
@@ -53,8 +53,8 @@ set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 # The libraries that the program and its modules need. The window system's plugin for X and the one that draws
 # SVG icons come with two of them.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# Wayland, the desktop's own dialogs, the words of the toolkit's, one running program, opening what no browser of ours takes, and who vouches for
-# the server of the updates.
+# Wayland, the desktop's own dialogs, the languages of the toolkit's, one running program, opening what no browser of
+# ours takes, and who vouches for the server of the updates.
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS
   "qt6-wayland, qt6-gtk-platformtheme, qt6-translations-l10n, default-dbus-session-bus | dbus-session-bus, hicolor-icon-theme, xdg-utils, ca-certificates")
 # What installs updates.

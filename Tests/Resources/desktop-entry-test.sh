@@ -14,6 +14,14 @@ said=$(desktop-file-validate --warn-kde "$judged" 2>&1) || { echo "$said"; exit 
 # A warning does not fail it.
 [ -z "$said" ] || { echo "$said"; exit 1; }
 
+# What people read is there in every language.
+for translation in "$1"/Translations/roamlet_*.ts; do
+  language=$(basename "$translation" .ts)
+  for key in GenericName Comment Keywords; do
+    grep -q "^$key\[${language#roamlet_}\]=." "$entry" || { echo "$key is missing for ${language#roamlet_}"; exit 1; }
+  done
+done
+
 # The drawing that the entry names is the one that is installed.
 icon=$(sed -n 's/^Icon=//p' "$entry")
 [ -f "$1/$icon.svg" ] || { echo "there is no drawing for the icon $icon"; exit 1; }

@@ -14,7 +14,8 @@ for file in bin/roamlet share/applications/org.roamlet.Roamlet.desktop \
   share/metainfo/org.roamlet.Roamlet.metainfo.xml \
   share/gnome-shell/search-providers/org.roamlet.Roamlet.search-provider.ini \
   share/krunner/dbusplugins/org.roamlet.Roamlet.desktop share/dbus-1/services/org.roamlet.Roamlet.Search.service \
-  share/dbus-1/services/org.roamlet.Roamlet.service share/man/man1/roamlet.1.gz share/doc/roamlet/copyright \
+  share/dbus-1/services/org.roamlet.Roamlet.service share/man/man1/roamlet.1.gz \
+  share/man/de/man1/roamlet.1.gz share/man/fr/man1/roamlet.1.gz share/doc/roamlet/copyright \
   share/doc/roamlet/changelog.gz; do
   [ -f "$prefix/$file" ] || { echo "$file is missing"; status=1; }
 done

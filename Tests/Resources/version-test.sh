@@ -11,5 +11,5 @@ is_version() {
 version=$2
 is_version CHANGELOG.md "$(sed -n 's/^## \([^ ]*\).*/\1/p' "$1/CHANGELOG.md" | head -n 1)"
 is_version "the desktop metadata" \
-  "$(sed -n 's/.*<release version="\([^"]*\)".*/\1/p' "$1/Resources/org.roamlet.Roamlet.metainfo.xml" | head -n 1)"
+  "$(sed -n 's/.*<release version="\([^"]*\)".*/\1/p' "$1/Resources/org.roamlet.Roamlet.metainfo.xml.in" | head -n 1)"
 exit $status
