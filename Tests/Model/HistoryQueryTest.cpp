@@ -350,6 +350,19 @@ TEST(HistoryQuery, aSearchOfOneSiteIsWithinTheSameAndThatOfAll)
     EXPECT_FALSE(other.isWithin(site));
 }
 
+TEST(HistoryQuery, aSearchIsNotWithinOneOfATimeOrOfARow)
+{
+    const HistoryQuery all = HistoryQuery::matching(u"a"_s, {}, latest);
+    HistoryQuery timed = all;
+    timed.visited.begin = pointInTime(1);
+    HistoryQuery ofRow = all;
+    ofRow.rowID = 1;
+    EXPECT_FALSE(all.isWithin(timed));
+    EXPECT_FALSE(all.isWithin(ofRow));
+    EXPECT_TRUE(timed.isWithin(all));
+    EXPECT_TRUE(ofRow.isWithin(all));
+}
+
 TEST(HistoryQuery, theWordsStandWhereTheSearchFindsThem)
 {
     const auto places = [](const QString &typed, const QString &text) {
@@ -377,7 +390,7 @@ TEST(HistoryQuery, equalityAndHashCoverEveryField)
     const HistoryQuery same{.words = {u"a"_s, u"b"_s}, .site = u"x"_s, .order = latest, .limit = 10};
     EXPECT_EQ(same, original);
     EXPECT_EQ(qHash(same), qHash(original));
-    QList<HistoryQuery> others(7, original);
+    QList<HistoryQuery> others(10, original);
     others[0].words = QStringList{u"b"_s, u"a"_s};
     others[1].words = QStringList{u"a"_s};
     others[2].words = QStringList{u"a b"_s};
@@ -385,6 +398,9 @@ TEST(HistoryQuery, equalityAndHashCoverEveryField)
     others[4].site.reset();
     others[5].order = mostVisited;
     others[6].limit = 11;
+    others[7].visited.begin = pointInTime(0);
+    others[8].visited.end = pointInTime(0);
+    others[9].rowID = 0;
     for (qsizetype i = 0; i < others.size(); ++i) {
         EXPECT_NE(others[i], original) << i;
         EXPECT_NE(qHash(others[i]), qHash(original)) << i;

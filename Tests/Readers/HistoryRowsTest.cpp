@@ -150,6 +150,49 @@ TEST_P(FamilyHistory, theLimitIsExact)
     EXPECT_EQ(read(listing(HistoryQuery::Order::Latest, 5'000'000'000)).size(), 1500);
 }
 
+TEST_P(FamilyHistory, aTimeNarrowsToTheMomentWhateverTheLimit)
+{
+    constexpr qint64 noon = 1'778'328'000;
+    const auto stored = [](qint64 seconds) {
+        return isFirefox() ? seconds * 1'000'000 : sample::chromiumTime(seconds);
+    };
+    write(sample::Rows<PageRow>::generated(3000, [&](qsizetype i) {
+        return PageRow{.url = u"https://a.example/%1"_s.arg(i),
+                       .title = QString::number(i),
+                       .time = stored(noon) + i * 1000};
+    }));
+    HistoryQuery query = HistoryQuery::matching(u"a.example"_s, {}, HistoryQuery::Order::Latest);
+    query.visited = {.begin = pointInTime(noon), .end = pointInTime(noon + 2)};
+    query.limit = -1;
+    const QStringList titles = titlesOf(read(query));
+    ASSERT_EQ(titles.size(), 2000);
+    EXPECT_EQ(titles.first(), u"1999"_s) << "the moment of the end is the first one after it";
+    EXPECT_EQ(titles.last(), u"0"_s) << "the first moment belongs to it";
+    query.visited.end = pointInTime(noon + 2.00001);
+    EXPECT_EQ(read(query).first().title, u"2000"_s);
+    query.limit = 1;
+    query.visited = {.end = pointInTime(noon + 1)};
+    EXPECT_EQ(titlesOf(read(query)), QStringList{u"999"_s}) << "the limit counts what lies in the time only";
+    query.visited = {.begin = pointInTime(noon + 3)};
+    EXPECT_TRUE(read(query).isEmpty());
+    query.visited = {.begin = pointInTime(-1e300), .end = pointInTime(1e300)};
+    EXPECT_EQ(read(query).size(), 1) << "what no browser can have stored is no obstacle";
+}
+
+TEST_P(FamilyHistory, aRowIsFoundByItsNumber)
+{
+    write({{.id = 7, .url = u"https://a.example/"_s, .title = u"seven"_s},
+           {.id = 8, .url = u"https://b.example/"_s, .title = u"eight"_s},
+           {.id = 9, .url = u"https://c.example/"_s, .title = u"hidden"_s, .hidden = true}});
+    HistoryQuery query;
+    query.rowID = 8;
+    EXPECT_EQ(titlesOf(read(query)), QStringList{u"eight"_s});
+    query.rowID = 9;
+    EXPECT_TRUE(read(query).isEmpty());
+    query.rowID = -8;
+    EXPECT_TRUE(read(query).isEmpty());
+}
+
 TEST_P(FamilyHistory, everyWordMustOccurInTheAddressOrTheTitle)
 {
     write({{.url = u"https://a.example/Apple"_s, .title = u"Pear"_s, .time = 3},

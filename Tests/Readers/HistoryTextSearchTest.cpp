@@ -46,6 +46,12 @@ TEST(HistoryTextSearchTest, whatOnlyTheDatabaseAnswersIsLeftToIt)
     HistoryQuery site;
     site.site = u"a"_s + QChar(QChar::Null);
     EXPECT_FALSE(text->search(site));
+    HistoryQuery since;
+    since.visited.begin = pointInTime(1);
+    EXPECT_FALSE(text->search(since));
+    HistoryQuery row;
+    row.rowID = 1;
+    EXPECT_FALSE(text->search(row));
 }
 
 TEST(HistoryTextSearchTest, asManyAsAreWantedAreTheFirstOfAll)

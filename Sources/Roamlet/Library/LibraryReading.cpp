@@ -154,7 +154,8 @@ HistoryResults merged(const HistoryQuery &query, std::vector<QList<HistoryItem>>
 {
     HistoryResults results;
     for (QList<HistoryItem> &rows : parts) {
-        results.isCapped = results.isCapped || (query.isSearch() && rows.size() >= query.limit);
+        results.isCapped =
+            results.isCapped || (query.isSearch() && query.limit >= 0 && rows.size() >= query.limit);
         results.items += std::move(rows);
     }
     // The site's text was also found further on in the URL.

@@ -96,6 +96,8 @@ bool HistoryQuery::isWithin(const HistoryQuery &wider) const
 {
     if (wider.site && wider.site != site)
         return false;
+    if (wider.visited.isLimited() || wider.rowID)
+        return false;
     // As bytes, in which a letter of two units is never found by its half.
     const auto bytes = [](const QString &word) { return withPlainSigmas(withPlainCase(word)).toUtf8(); };
     return std::ranges::all_of(wider.words, [&](const QString &part) {
@@ -126,8 +128,13 @@ QList<TextPlace> HistoryQuery::placesIn(const QString &text) const
 
 size_t qHash(const HistoryQuery &query, size_t seed)
 {
+    const auto seconds = [](const std::optional<PointInTime> &time) {
+        return time ? secondsSince1970(*time) : 0.0;
+    };
     return qHashMulti(seed, query.words, query.site.has_value(), query.site.value_or(QString()),
-                      static_cast<int>(query.order), query.limit);
+                      static_cast<int>(query.order), query.limit, query.visited.begin.has_value(),
+                      seconds(query.visited.begin), query.visited.end.has_value(), seconds(query.visited.end),
+                      query.rowID.has_value(), query.rowID.value_or(0));
 }
 
 } // namespace roamlet

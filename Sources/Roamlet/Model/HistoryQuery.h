@@ -23,6 +23,18 @@ struct TextPlace {
     bool operator==(const TextPlace &) const = default;
 };
 
+/// From one moment to before another one; open where either is absent.
+struct TimeSpan {
+    // The compiler wants them from whoever names only one of the members.
+    // NOLINTBEGIN(readability-redundant-member-init)
+    std::optional<PointInTime> begin = {};
+    std::optional<PointInTime> end = {};
+    // NOLINTEND(readability-redundant-member-init)
+
+    bool isLimited() const { return begin || end; }
+    bool operator==(const TimeSpan &) const = default;
+};
+
 /// What is asked of a browser's history, independent of the browser: words, a site, an order and a limit.
 struct HistoryQuery {
     enum class Order {
@@ -37,8 +49,15 @@ struct HistoryQuery {
     /// Only this site, in the form of Site::name.
     std::optional<QString> site;
     Order order = Order::Latest;
-    /// The largest number of rows that one source may return.
+    /// The largest number of rows that one source may return; all where it is negative.
     qint64 limit = defaultLimit;
+    // The compiler wants them from whoever names only some of the members.
+    // NOLINTBEGIN(readability-redundant-member-init)
+    /// Only what was visited last in this time.
+    TimeSpan visited = {};
+    /// Only the row with this number in the browser's table.
+    std::optional<qint64> rowID = {};
+    // NOLINTEND(readability-redundant-member-init)
 
     bool operator==(const HistoryQuery &) const = default;
 
@@ -49,8 +68,9 @@ struct HistoryQuery {
 
     /// Whether words or a site are asked for, as opposed to the plain listing.
     bool isSearch() const { return !words.isEmpty() || site.has_value(); }
-    /// The SQL condition: empty, or a text that begins with " AND ". `text` is the reader's expression for
-    /// the searchable text of a row, `url` the one for its URL.
+    /// The SQL condition of the words and the site: empty, or a text that begins with " AND ". `text` is the
+    /// reader's expression for the searchable text of a row, `url` the one for its URL. What is asked of
+    /// times and numbers is left to the readers, as each browser counts them in its own way.
     QString conditions(const QString &text, const QString &url) const;
     /// The values to bind to the placeholders of conditions(), in their order.
     QStringList patterns() const;

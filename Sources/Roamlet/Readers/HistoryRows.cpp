@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <array>
 #include <bit>
+#include <cmath>
 #include <deque>
 #include <iterator>
 #include <limits>
@@ -258,6 +259,31 @@ rowsOfTable(const TableParts &table, const HistoryStatement &statement, const Hi
 }
 
 } // namespace
+
+QString timeCondition(const TimeSpan &span, const QString &column, QString (*stored)(PointInTime time))
+{
+    QString result;
+    if (span.begin)
+        result += u" AND " % column % u" >= " % stored(*span.begin);
+    if (span.end)
+        result += u" AND " % column % u" < " % stored(*span.end);
+    return result;
+}
+
+QString rowCondition(const HistoryQuery &query, const QString &column)
+{
+    return query.rowID ? QString(u" AND " % column % u" = " % QString::number(*query.rowID)) : QString();
+}
+
+qint64 wholeMicroseconds(PointInTime time, double secondsBefore1970)
+{
+    constexpr double microsecondsPerSecond = 1'000'000;
+    // Farther away, no browser has a number for it.
+    constexpr double farthest = 9e12;
+    const double seconds =
+        std::clamp(secondsSince1970(countable(time)) + secondsBefore1970, -farthest, farthest);
+    return static_cast<qint64>(std::ceil(seconds * microsecondsPerSecond));
+}
 
 std::expected<QList<HistoryItem>, ReadError> historyRows(const SQLiteSnapshot &database,
                                                          const HistoryStatement &statement,

@@ -35,6 +35,14 @@ struct HistoryStatement {
     QString table = QString();
 };
 
+/// The SQL condition that the times in `column` lie in the span, `stored` telling in which number the browser
+/// keeps a point in time: empty, or a text that begins with " AND ".
+QString timeCondition(const TimeSpan &span, const QString &column, QString (*stored)(PointInTime time));
+/// The same, that `column` holds the number of the row that the query asks for.
+QString rowCondition(const HistoryQuery &query, const QString &column);
+/// The first whole count of microseconds since 1970 at a point in time or after it, and so many more.
+qint64 wholeMicroseconds(PointInTime time, double secondsBefore1970 = 0);
+
 /// The rows of a browser's history that `statement` finds, in its order; rows without a visit are left out.
 /// It takes the patterns of `query`. Any thread.
 std::expected<QList<HistoryItem>, ReadError> historyRows(const SQLiteSnapshot &database,

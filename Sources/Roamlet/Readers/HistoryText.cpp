@@ -88,6 +88,8 @@ std::optional<std::vector<HistoryText::Literal>> HistoryText::wordsOf(const Hist
 std::optional<HistoryText::Answer> HistoryText::search(const HistoryQuery &query,
                                                        const RowNumbers *among) const
 {
+    if (query.visited.isLimited() || query.rowID)
+        return {};
     const std::optional<Condition> condition = conditionOf(query);
     if (!condition)
         return {};

@@ -67,9 +67,10 @@ public:
     HistoryText &operator=(const HistoryText &) = delete;
     ~HistoryText() = default;
 
-    /// The answer to a query, or nothing where only the database can give it: for a NUL and for more or
-    /// longer words than anybody types, some of which are an error. When the query is within an earlier one
-    /// (see HistoryQuery::isWithin), only the rows `among` that one found, all of them, are looked at.
+    /// The answer to a query, or nothing where only the database can give it: for a time or a row's number,
+    /// for a NUL and for more or longer words than anybody types, some of which are an error. When the query
+    /// is within an earlier one (see HistoryQuery::isWithin), only the rows `among` that one found, all of
+    /// them, are looked at.
     std::optional<Answer> search(const HistoryQuery &query, const RowNumbers *among = nullptr) const;
 
     /// The so many rows that answer the words best, the best first; nothing where only the database can.

@@ -116,6 +116,45 @@ TEST_F(SafariHistory, aPageIsListedOnceWithItsNewestVisit)
     EXPECT_EQ(items[0].visitCount, 3);
 }
 
+TEST_F(SafariHistory, aTimeNarrowsToPagesWhoseLastVisitLiesInIt)
+{
+    write({{.id = 1, .url = u"https://a.example/"_s, .visitCount = 2},
+           {.id = 2, .url = u"https://b.example/"_s},
+           {.id = 3, .url = u"https://c.example/"_s}},
+          {{.itemID = 1, .time = someSafariTime, .title = u"older title"_s},
+           {.itemID = 1, .time = someSafariTime + 20, .title = u"newer title"_s},
+           {.itemID = 2, .time = someSafariTime + 10, .title = u"b"_s},
+           {.itemID = 3, .time = someSafariTime - 0.25, .title = u"c"_s}});
+    constexpr double begin = 1'778'307'200;
+    const auto visited = [this](const TimeSpan &span, const QString &words = {}) {
+        HistoryQuery query = HistoryQuery::matching(words, {}, HistoryQuery::Order::Latest);
+        query.visited = span;
+        return titlesOf(read(query));
+    };
+    EXPECT_EQ(visited({.begin = pointInTime(begin)}), (QStringList{u"newer title"_s, u"b"_s}));
+    EXPECT_EQ(visited({.end = pointInTime(begin + 20)}), (QStringList{u"b"_s, u"c"_s}));
+    EXPECT_EQ(visited({.begin = pointInTime(begin), .end = pointInTime(begin + 20.5)}),
+              (QStringList{u"newer title"_s, u"b"_s}));
+    EXPECT_EQ(visited({.begin = pointInTime(begin + 10), .end = pointInTime(begin + 11)}),
+              QStringList{u"b"_s});
+    EXPECT_EQ(visited({.begin = pointInTime(begin), .end = pointInTime(begin + 1)}, u"older"_s),
+              QStringList{u"older title"_s})
+        << "of the visits that match";
+    EXPECT_TRUE(visited({.begin = pointInTime(1e300)}).isEmpty());
+    EXPECT_EQ(visited({.begin = pointInTime(-1e300), .end = pointInTime(1e300)}).size(), 3);
+}
+
+TEST_F(SafariHistory, aRowIsFoundByItsNumber)
+{
+    write({{.id = 1, .url = u"https://a.example/"_s}, {.id = 2, .url = u"https://b.example/"_s}},
+          {{.itemID = 1, .time = 5, .title = u"a"_s}, {.itemID = 2, .time = 5, .title = u"b"_s}});
+    HistoryQuery query;
+    query.rowID = 2;
+    EXPECT_EQ(titlesOf(read(query)), QStringList{u"b"_s});
+    query.rowID = 3;
+    EXPECT_TRUE(read(query).isEmpty());
+}
+
 TEST_F(SafariHistory, aMissingTitleOfTheNewestVisitIsReplacedByTheAddress)
 {
     write({{.id = 1, .url = u"https://A.example/"_s}, {.id = 2, .url = u"https://b.example/"_s}},

@@ -121,9 +121,16 @@ std::optional<BookmarkNode> nodeWithoutChildren(const Json::Value &entry, const 
 const QString rowsStatement =
     u"SELECT id, url, title, last_visit_time, visit_count FROM urls\nWHERE hidden = 0"_s;
 
+QString storedTime(PointInTime time)
+{
+    return QString::number(wholeMicroseconds(time, secondsBefore1970));
+}
+
 HistoryStatement historyStatement(const HistoryQuery &query)
 {
-    return {.rows = rowsStatement % query.conditions(u"(url || ' ' || title)"_s, u"url"_s),
+    return {.rows = rowsStatement % rowCondition(query, u"id"_s) %
+                    timeCondition(query.visited, u"last_visit_time"_s, storedTime) %
+                    query.conditions(u"(url || ' ' || title)"_s, u"url"_s),
             .order = u"\nORDER BY " %
                      (query.order == HistoryQuery::Order::MostVisited ? u"visit_count DESC, "_s : QString()) %
                      u"last_visit_time DESC\nLIMIT " % QString::number(query.limit),

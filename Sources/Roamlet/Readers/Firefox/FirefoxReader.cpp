@@ -30,9 +30,16 @@ QString placesFile()
 const QString rowsStatement = u"SELECT id, url, title, last_visit_date, visit_count FROM moz_places\n"
                               "WHERE hidden = 0 AND last_visit_date IS NOT NULL"_s;
 
+QString storedTime(PointInTime time)
+{
+    return QString::number(wholeMicroseconds(time));
+}
+
 HistoryStatement historyStatement(const HistoryQuery &query)
 {
-    return {.rows = rowsStatement % query.conditions(u"(url || ' ' || coalesce(title, ''))"_s, u"url"_s),
+    return {.rows = rowsStatement % rowCondition(query, u"id"_s) %
+                    timeCondition(query.visited, u"last_visit_date"_s, storedTime) %
+                    query.conditions(u"(url || ' ' || coalesce(title, ''))"_s, u"url"_s),
             .order = u"\nORDER BY " %
                      (query.order == HistoryQuery::Order::MostVisited ? u"visit_count DESC, "_s : QString()) %
                      u"last_visit_date DESC\nLIMIT " % QString::number(query.limit)};

@@ -58,12 +58,24 @@ std::optional<PointInTime> lastVisit(const SQLiteSnapshot::Row &row, int column)
     return pointInTime(row.real(column) + secondsUntil2001);
 }
 
+QString storedTime(PointInTime time)
+{
+    constexpr int exactly = 17;
+    return QString::number(secondsSince1970(countable(time)) - secondsUntil2001, 'g', exactly);
+}
+
 HistoryStatement historyStatement(const HistoryQuery &query)
 {
+    // A page's last visit is known when all of them were looked at; a visit before the span decides nothing.
+    const TimeSpan &span = query.visited;
+    const QString isBefore = timeCondition({.end = span.end}, u"max(v.visit_time)"_s, storedTime);
     return {.rows = u"SELECT i.id, i.url, v.title, max(v.visit_time), i.visit_count\n"
                     "FROM history_items i JOIN history_visits v ON v.history_item = i.id\nWHERE 1" %
+                    rowCondition(query, u"i.id"_s) %
+                    timeCondition({.begin = span.begin}, u"v.visit_time"_s, storedTime) %
                     query.conditions(u"(i.url || ' ' || ifnull(v.title, ''))"_s, u"i.url"_s),
-            .order = u"\nGROUP BY i.id\nORDER BY " %
+            .order = u"\nGROUP BY i.id" %
+                     (isBefore.isEmpty() ? QString() : QString(u"\nHAVING 1" % isBefore)) % u"\nORDER BY " %
                      (query.order == HistoryQuery::Order::MostVisited ? u"5 DESC, "_s : QString()) %
                      u"4 DESC\nLIMIT " % QString::number(query.limit)};
 }
