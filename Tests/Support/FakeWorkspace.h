@@ -37,17 +37,19 @@ public:
         image.setDevicePixelRatio(devicePixelRatio);
         return image;
     }
-    void open(const QStringList &urls, Source::Kind browser) override
+    bool open(const QStringList &urls, Source::Kind browser) override
     {
         requests.append(QStringList{QStringLiteral("open"), Source::rawValue(browser)} + urls);
+        return browser != missing;
     }
     void openSystemURL(const QString &url) override
     {
         requests.append(QStringList{QStringLiteral("system"), url});
     }
-    void openInProfile(const QStringList &urls, const Source &source) override
+    bool openInProfile(const QStringList &urls, const Source &source) override
     {
         requests.append(QStringList{QStringLiteral("profile"), placeOf(source), profileOf(source)} + urls);
+        return source.kind != missing;
     }
     bool canShowPages(Source::Kind browser) const override { return browser != missing; }
     void showPage(const QString &page, const Source &source) override

@@ -68,6 +68,12 @@ QString folderPart(const QString &query, const std::optional<QString> &folderID)
     return query % pieces.last();
 }
 
+/// Whether a browser of Chromium's family can be given the text as an argument.
+bool isChromiumArgument(const QString &text)
+{
+    return !text.isEmpty() && !looksLikeOption(text);
+}
+
 QStringList filtered(const QStringList &urls, bool (*isWanted)(const QString &))
 {
     QStringList result;
@@ -77,18 +83,32 @@ QStringList filtered(const QStringList &urls, bool (*isWanted)(const QString &))
 
 } // namespace
 
-void Opener::openLinks(const QList<Link> &links)
+bool Opener::canOpen(const Link &link)
 {
+    switch (Browser::of(link.source.kind).family) {
+    case Family::Firefox:
+        return isFirefoxURL(link.url);
+    case Family::Chromium:
+        return link.source.profile ? isChromiumArgument(link.url) : isURL(link.url);
+    case Family::Safari:
+        break;
+    }
+    return isURL(link.url);
+}
+
+bool Opener::openLinks(const QList<Link> &links)
+{
+    bool areOpened = true;
     // A profile of Firefox's that rests takes seconds to start, and further starts meanwhile would be
     // refused.
     std::vector<std::pair<Source, QStringList>> ofFirefox;
     for (const auto &[url, source] : links) {
         switch (Browser::of(source.kind).family) {
         case Family::Safari:
-            open({url}, source.kind);
+            areOpened = open({url}, source.kind) && areOpened;
             break;
         case Family::Chromium:
-            openInChromium({url}, source);
+            areOpened = openInChromium({url}, source) && areOpened;
             break;
         case Family::Firefox:
             if (const auto known =
@@ -101,34 +121,29 @@ void Opener::openLinks(const QList<Link> &links)
         }
     }
     for (const auto &[source, urls] : ofFirefox)
-        openInFirefox(urls, source);
+        areOpened = openInFirefox(urls, source) && areOpened;
+    return areOpened;
 }
 
-void Opener::open(const QStringList &urls, Source::Kind kind)
+bool Opener::open(const QStringList &urls, Source::Kind kind)
 {
     const bool isFirefox = Browser::of(kind).family == Family::Firefox;
     const QStringList valid = filtered(urls, isFirefox ? isFirefoxURL : isURL);
-    if (!valid.isEmpty())
-        m_workspace.open(valid, kind);
+    return !valid.isEmpty() && m_workspace.open(valid, kind);
 }
 
-void Opener::openInChromium(const QStringList &urls, const Source &source)
+bool Opener::openInChromium(const QStringList &urls, const Source &source)
 {
-    if (!source.profile) {
-        open(urls, source.kind);
-        return;
-    }
-    const QStringList safe =
-        filtered(urls, [](const QString &url) { return !url.isEmpty() && !looksLikeOption(url); });
-    if (!safe.isEmpty())
-        m_workspace.openInProfile(safe, source);
+    if (!source.profile)
+        return open(urls, source.kind);
+    const QStringList safe = filtered(urls, isChromiumArgument);
+    return !safe.isEmpty() && m_workspace.openInProfile(safe, source);
 }
 
-void Opener::openInFirefox(const QStringList &urls, const Source &source)
+bool Opener::openInFirefox(const QStringList &urls, const Source &source)
 {
     const QStringList known = filtered(urls, isFirefoxURL);
-    if (!known.isEmpty())
-        m_workspace.openInProfile(known, source);
+    return !known.isEmpty() && m_workspace.openInProfile(known, source);
 }
 
 void Opener::showPage(const QString &page, const Source &source)

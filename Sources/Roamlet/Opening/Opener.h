@@ -19,8 +19,8 @@ namespace roamlet
 
 class Workspace;
 
-/// Hands links back to the browser, and to the very profile, that they came from. It waits for nobody and
-/// reports nothing: what cannot be opened is not opened. On the main thread.
+/// Hands links back to the browser, and to the very profile, that they came from. It waits for nobody: what
+/// cannot be opened is not opened. On the main thread.
 class Opener final
 {
 public:
@@ -32,15 +32,19 @@ public:
 
     explicit Opener(Workspace &workspace) : m_workspace(workspace) {}
 
-    /// Opens each link in the browser and the profile that it came from.
-    void openLinks(const QList<Link> &links);
-    /// Opens URLs with a browser, in whichever profile it chooses.
-    void open(const QStringList &urls, Source::Kind kind);
-    /// Opens URLs in a profile of a browser of Chromium's family.
-    void openInChromium(const QStringList &urls, const Source &source);
-    /// Opens URLs in a profile of a browser of Firefox's family. It would search the web for a text that is
-    /// no address of its own, so that such a text opens nothing.
-    void openInFirefox(const QStringList &urls, const Source &source);
+    /// Whether the link is one that its browser can be given at all.
+    static bool canOpen(const Link &link);
+
+    /// Opens each link in the browser and the profile that it came from. False where nothing is opened of
+    /// one of them.
+    bool openLinks(const QList<Link> &links);
+    /// Opens URLs with a browser, in whichever profile it chooses. False where none of them is opened.
+    bool open(const QStringList &urls, Source::Kind kind);
+    /// The same in a profile of a browser of Chromium's family,
+    bool openInChromium(const QStringList &urls, const Source &source);
+    /// and in one of a browser of Firefox's family. It would search the web for a text that is no address of
+    /// its own, so that such a text opens nothing.
+    bool openInFirefox(const QStringList &urls, const Source &source);
     /// Shows the browser's own page of the source's history.
     void showHistory(const Source &source);
     /// Opens the browser's bookmark manager for the source, at a folder where that is possible.

@@ -27,9 +27,10 @@ public:
     {
         return {};
     }
-    void open(const QStringList &urls, Source::Kind browser) override
+    bool open(const QStringList &urls, Source::Kind browser) override
     {
         requests.append(QStringList{u"open"_s, Source::rawValue(browser)} + urls);
+        return true;
     }
     void openSystemURL(const QString & /*url*/) override {}
 

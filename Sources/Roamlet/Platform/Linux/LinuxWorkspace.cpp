@@ -139,23 +139,28 @@ std::optional<QImage> LinuxWorkspace::icon(Source::Kind browser, int side, qreal
     return onSquare(icon, side, devicePixelRatio);
 }
 
-void LinuxWorkspace::open(const QStringList &urls, Source::Kind browser)
+bool LinuxWorkspace::open(const QStringList &urls, Source::Kind browser)
 {
     if (Browser::of(browser).family == Family::Safari) {
         QStringList links;
         std::ranges::remove_copy_if(urls, std::back_inserter(links), isSafariPage);
         if (!links.isEmpty())
             launchPreferred(u"https"_s, links);
-    } else if (const auto installation = installationOf(browser)) {
-        const bool isFirefox = Browser::of(browser).family == Family::Firefox;
-        for (const QStringList &some : DetachedProcess::portions(urls)) {
-            // Its entry takes one address at a time, and while it starts it refuses further starts.
-            if (isFirefox && some.size() > 1)
-                start(installation->entry.command + some);
-            else
-                launch(installation->entry, some);
-        }
+        return !links.isEmpty();
     }
+    const auto installation = installationOf(browser);
+    if (!installation)
+        return false;
+    const bool isFirefox = Browser::of(browser).family == Family::Firefox;
+    const QList<QStringList> portions = DetachedProcess::portions(urls);
+    for (const QStringList &some : portions) {
+        // Its entry takes one address at a time, and while it starts it refuses further starts.
+        if (isFirefox && some.size() > 1)
+            start(installation->entry.command + some);
+        else
+            launch(installation->entry, some);
+    }
+    return !portions.isEmpty();
 }
 
 void LinuxWorkspace::openSystemURL(const QString &url)
@@ -163,18 +168,20 @@ void LinuxWorkspace::openSystemURL(const QString &url)
     launchPreferred(QUrl(url).scheme(), {url});
 }
 
-void LinuxWorkspace::openInProfile(const QStringList &urls, const Source &source)
+bool LinuxWorkspace::openInProfile(const QStringList &urls, const Source &source)
 {
     const auto folders = BrowserFolders::of(m_folders, m_files);
     const auto installation = BrowserInstallation::ofSource(source, folders, m_dataFolders, m_files);
     if (!installation || isGone(source, folders))
-        return;
-    for (const QStringList &some : DetachedProcess::portions(urls)) {
+        return false;
+    const QList<QStringList> portions = DetachedProcess::portions(urls);
+    for (const QStringList &some : portions) {
         if (Browser::of(source.kind).family == Family::Firefox)
             start(firefoxCommand(*installation, folders.profile(source, m_files), some));
         else
             start(chromiumCommand(*installation, source.profile.value_or(QString()), some));
     }
+    return !portions.isEmpty();
 }
 
 void LinuxWorkspace::showPage(const QString &page, const Source &source)
@@ -235,18 +242,26 @@ PageSteering *LinuxWorkspace::steering()
 
 void LinuxWorkspace::start(const QStringList &command)
 {
-    m_starts.start([command, token = m_activationToken] { DetachedProcess::start(command, token); });
+    m_starts.start([this, command, token = m_activationToken] {
+        if (!DetachedProcess::start(command, token))
+            m_hasFailed = true;
+    });
 }
 
 void LinuxWorkspace::launch(const DesktopEntry &entry, const QStringList &urls)
 {
-    m_starts.start([entry, urls, token = m_activationToken] { entry.launch(urls, token); });
+    m_starts.start([this, entry, urls, token = m_activationToken] {
+        if (!entry.launch(urls, token))
+            m_hasFailed = true;
+    });
 }
 
 void LinuxWorkspace::launchPreferred(const QString &scheme, const QStringList &urls)
 {
-    m_starts.start(
-        [scheme, urls, token = m_activationToken] { DesktopEntry::launchPreferred(scheme, urls, token); });
+    m_starts.start([this, scheme, urls, token = m_activationToken] {
+        if (!DesktopEntry::launchPreferred(scheme, urls, token))
+            m_hasFailed = true;
+    });
 }
 
 } // namespace roamlet

@@ -14,6 +14,7 @@
 #include <QStringList>
 #include <QThreadPool>
 
+#include <atomic>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -54,15 +55,20 @@ public:
     QList<Source::Kind> installedBrowsers() const override;
     bool canShowPages(Source::Kind browser) const override;
     std::optional<QImage> icon(Source::Kind browser, int side, qreal devicePixelRatio) const override;
-    void open(const QStringList &urls, Source::Kind browser) override;
+    bool open(const QStringList &urls, Source::Kind browser) override;
     void openSystemURL(const QString &url) override;
-    void openInProfile(const QStringList &urls, const Source &source) override;
+    bool openInProfile(const QStringList &urls, const Source &source) override;
     void showPage(const QString &page, const Source &source) override;
 
     /// What is started from now on may come forward by this token, where windows need one; it may be empty.
     void setActivationToken(const QString &token) { m_activationToken = token; }
-    /// Returns once everything that was asked for so far has been started.
-    void finishStarts() { m_starts.waitForDone(); }
+    /// Returns once everything that was asked for so far has been started, and false where something could
+    /// not be.
+    bool finishStarts()
+    {
+        m_starts.waitForDone();
+        return !m_hasFailed;
+    }
 
 private:
     std::optional<BrowserInstallation> installationOf(Source::Kind browser) const;
@@ -83,6 +89,7 @@ private:
     std::optional<PageSteering> m_steering;
     PasteNotice m_notice;
     QString m_activationToken;
+    std::atomic<bool> m_hasFailed = false;
     /// Where programs are started, one after the other: the more memory this process holds, the longer a
     /// start takes, and there may be one for each of many links.
     QThreadPool m_starts;

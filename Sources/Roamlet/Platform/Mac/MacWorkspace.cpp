@@ -10,7 +10,7 @@ namespace roamlet
 
 using namespace Qt::StringLiterals;
 
-void MacWorkspace::openInProfile(const QStringList &urls, const Source &source)
+bool MacWorkspace::openInProfile(const QStringList &urls, const Source &source)
 {
     const Browser &browser = Browser::of(source.kind);
     if (browser.family == Browser::Family::Chromium && source.profile)
@@ -18,7 +18,8 @@ void MacWorkspace::openInProfile(const QStringList &urls, const Source &source)
     else if (browser.bundleID.isEmpty())
         run(OpenCommands::inApplication(urls, browser));
     else
-        open(urls, source.kind);
+        return open(urls, source.kind);
+    return true;
 }
 
 void MacWorkspace::showPage(const QString &page, const Source &source)

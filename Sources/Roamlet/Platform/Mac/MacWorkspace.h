@@ -17,7 +17,7 @@ class MacWorkspace : public Workspace
 public:
     /// One start of a command opens them all. A browser of another family opens them in the profile that it
     /// chooses. One whose identifier we do not know is told by its name.
-    void openInProfile(const QStringList &urls, const Source &source) final;
+    bool openInProfile(const QStringList &urls, const Source &source) final;
     bool canShowPages(Source::Kind /*browser*/) const final { return true; }
     /// A blank tab that is pointed at the page as soon as it shows; Firefox is started with the page.
     void showPage(const QString &page, const Source &source) final;

@@ -128,9 +128,9 @@ bool DesktopEntry::startsFrom(const QString &folder) const
     });
 }
 
-void DesktopEntry::launch(const QStringList &urls, const QString &activationToken) const
+bool DesktopEntry::launch(const QStringList &urls, const QString &activationToken) const
 {
-    ProgramsModule::launchEntry(path, urls, activationToken);
+    return ProgramsModule::launchEntry(path, urls, activationToken);
 }
 
 QList<DesktopEntry> DesktopEntry::named(const QString &name, const QStringList &dataFolders)
@@ -154,15 +154,15 @@ QList<DesktopEntry> DesktopEntry::named(const QString &name, const QStringList &
     return entries;
 }
 
-void DesktopEntry::launchPreferred(const QString &scheme, const QStringList &urls,
+bool DesktopEntry::launchPreferred(const QString &scheme, const QStringList &urls,
                                    const QString &activationToken)
 {
     if (scheme.isEmpty())
-        return;
+        return false;
     // File managers register for folders, not for addresses of files.
-    ProgramsModule::launchPreferred(scheme == u"file" ? u"inode/directory"_s
-                                                      : QString(u"x-scheme-handler/" % scheme),
-                                    urls, activationToken);
+    return ProgramsModule::launchPreferred(scheme == u"file" ? u"inode/directory"_s
+                                                             : QString(u"x-scheme-handler/" % scheme),
+                                           urls, activationToken);
 }
 
 } // namespace roamlet

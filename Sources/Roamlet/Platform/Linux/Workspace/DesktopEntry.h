@@ -26,14 +26,15 @@ struct DesktopEntry {
     /// Whether the program lies below this folder; either may be reached through links.
     bool startsFrom(const QString &folder) const;
     /// Opens URLs with the application, as many at once as it takes. The token, where there is one, lets its
-    /// window come forward.
-    void launch(const QStringList &urls, const QString &activationToken = {}) const;
+    /// window come forward. False when it could not be started.
+    bool launch(const QStringList &urls, const QString &activationToken = {}) const;
 
     /// The entries of this name ("google-chrome.desktop") that could be started, those of the first folder
     /// first. An entry that hides the application also hides those in the folders behind it.
     static QList<DesktopEntry> named(const QString &name, const QStringList &dataFolders);
     /// Opens URLs with the application that the user prefers for `scheme`. Those of files are of folders.
-    static void launchPreferred(const QString &scheme, const QStringList &urls,
+    /// False when there is none, or it could not be started.
+    static bool launchPreferred(const QString &scheme, const QStringList &urls,
                                 const QString &activationToken = {});
 };
 

@@ -17,7 +17,7 @@ namespace roamlet::ProgramsModule
 {
 
 /// Opens URLs with the application of the desktop entry in this file. The token, where there is one, lets its
-/// window come forward. False when there is no such application. From any thread.
+/// window come forward. False when it could not be started. From any thread.
 bool launchEntry(const QString &path, const QStringList &urls, const QString &activationToken = {});
 /// The same with the application that the user prefers for a MIME type.
 bool launchPreferred(const QString &type, const QStringList &urls, const QString &activationToken = {});

@@ -35,9 +35,9 @@ int launch(const AppInfo &info, const char *const *urls, const char *activationT
     const std::unique_ptr<GAppLaunchContext, ObjectDeleter> context(g_app_launch_context_new());
     if (*activationToken != '\0')
         g_app_launch_context_setenv(context.get(), DetachedProcess::tokenVariable, activationToken);
-    g_desktop_app_info_launch_uris_as_manager(G_DESKTOP_APP_INFO(info.get()), list, context.get(), spawnFlags,
-                                              prepareChild, nullptr, nullptr, nullptr, nullptr);
-    return 1;
+    return g_desktop_app_info_launch_uris_as_manager(G_DESKTOP_APP_INFO(info.get()), list, context.get(),
+                                                     spawnFlags, prepareChild, nullptr, nullptr, nullptr,
+                                                     nullptr);
 }
 
 } // namespace
