@@ -3,6 +3,7 @@
 
 #include "App/Diagnostics/DiagnosticRun.h"
 #include "App/WindowModule.h"
+#include "Model/Source.h"
 #include "Platform/Linux/LinuxIO.h"
 #include "Platform/Linux/ProgramModule.h"
 
@@ -13,10 +14,26 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
+std::expected<QFunctionPointer, QString> functionOfWindowModule(const char *name)
+{
+    return roamlet::ProgramModule::function(u"roamlet-window.so"_s, name);
+}
+
+std::expected<void, QString> openPage(const QString &url, const roamlet::Source &source)
+{
+    const auto function = functionOfWindowModule(roamlet::openPageEntry);
+    if (!function)
+        return std::unexpected(QString(u"cannot open a page: " % function.error()));
+    QString problem;
+    reinterpret_cast<roamlet::OpenPageEntry *>(*function)(url, source, problem);
+    if (!problem.isEmpty())
+        return std::unexpected(problem);
+    return {};
+}
+
 int runWindows(int argc, char **argv)
 {
-    const auto function =
-        roamlet::ProgramModule::function(u"roamlet-window.so"_s, roamlet::windowModuleEntry);
+    const auto function = functionOfWindowModule(roamlet::windowModuleEntry);
     if (function)
         return reinterpret_cast<roamlet::WindowModuleEntry *>(*function)(argc, argv);
     std::fputs(
@@ -30,7 +47,7 @@ int runWindows(int argc, char **argv)
 int main(int argc, char **argv)
 {
     roamlet::ignoreFileSizeSignal();
-    if (const std::optional<int> status = roamlet::DiagnosticRun::run(argc, argv))
+    if (const std::optional<int> status = roamlet::DiagnosticRun::run(argc, argv, openPage))
         return *status;
     return runWindows(argc, argv);
 }

@@ -7,6 +7,8 @@
 
 #include <algorithm>
 #include <array>
+#include <tuple>
+#include <utility>
 
 namespace roamlet
 {
@@ -57,10 +59,10 @@ qsizetype wordsForWindows(QStringView word)
     return known->hasValue && equals < 0 ? 2 : 1;
 }
 
-} // namespace
-
-Command Command::of(const QStringList &arguments)
+/// The job that is tested first, as long as nothing stands beside it that says more.
+Command plainJob(const QStringList &arguments)
 {
+    using Job = Command::Job;
     if (arguments.contains(u"--summary"))
         return {.job = Job::Summary, .argument = {}, .sourceID = {}};
     if (arguments.contains(u"--export"))
@@ -91,6 +93,149 @@ Command Command::of(const QStringList &arguments)
     return {};
 }
 
+/// The switches that say which rows are printed and how, and the jobs that are not among the six; what they
+/// are given is not read yet.
+struct RowSwitches {
+    bool isJson = false;
+    std::optional<QString> limit;
+    std::optional<QString> since;
+    std::optional<QString> until;
+    std::optional<QString> rowToOpen;
+    std::optional<QString> bookmarkWords;
+    /// The first of the other jobs among them.
+    std::optional<QString> otherJob;
+    /// The one that has no value behind it.
+    std::optional<QString> withoutValue;
+
+    static RowSwitches in(const QStringList &arguments);
+
+    bool haveAny() const
+    {
+        return isJson || limit || since || until || rowToOpen || bookmarkWords || withoutValue;
+    }
+};
+
+RowSwitches RowSwitches::in(const QStringList &arguments)
+{
+    static const QStringList jobs{u"--summary"_s, u"--export"_s, u"--top"_s,
+                                  u"--search"_s,  u"--site"_s,   u"--watch"_s};
+    RowSwitches result;
+    const std::array<std::pair<QLatin1StringView, std::optional<QString> *>, 4> withValue{
+        {{"--limit"_L1, &result.limit},
+         {"--since"_L1, &result.since},
+         {"--until"_L1, &result.until},
+         {"--open"_L1, &result.rowToOpen}}};
+    for (qsizetype i = 0; i < arguments.size(); ++i) {
+        const QString &word = arguments[i];
+        if (jobs.contains(word) && !result.otherJob)
+            result.otherJob = word;
+        if (word == u"--search")
+            break;
+        if (word == u"--bookmarks") {
+            result.bookmarkWords = arguments.sliced(i + 1).join(u' ');
+            break;
+        }
+        if (word == u"--export" || word == u"--site" || word == u"--source") {
+            ++i;
+            continue;
+        }
+        result.isJson = result.isJson || word == u"--json";
+        const qsizetype equals = word.indexOf(u'=');
+        const QStringView name = equals < 0 ? QStringView(word) : QStringView(word).first(equals);
+        const auto *known =
+            std::ranges::find_if(withValue, [name](const auto &each) { return name == each.first; });
+        if (known == withValue.end())
+            continue;
+        if (equals < 0 && ++i == arguments.size()) {
+            result.withoutValue = word;
+            break;
+        }
+        // As with all switches, the first one counts.
+        if (!*known->second)
+            *known->second = equals < 0 ? arguments[i] : word.sliced(equals + 1);
+    }
+    return result;
+}
+
+Command misuse(const QString &reason)
+{
+    return {.job = Command::Job::Misuse, .argument = reason, .sourceID = {}};
+}
+
+std::optional<qint64> limitOf(const QString &text)
+{
+    const bool isNumber =
+        std::ranges::all_of(text, [](QChar character) { return character >= u'0' && character <= u'9'; });
+    bool isSmallEnough = false;
+    const qint64 number = text.toLongLong(&isSmallEnough);
+    return isNumber && isSmallEnough && number > 0 ? std::optional(number) : std::nullopt;
+}
+
+/// The job with what the switches of rows say, which have to be for it.
+Command withRows(Command command, const RowSwitches &rows)
+{
+    using Job = Command::Job;
+    const Job job = command.job;
+    const bool isSearch = job == Job::Search || job == Job::Site;
+    const bool isList = isSearch || job == Job::Top || job == Job::Bookmarks;
+    if (rows.isJson && !isList && job != Job::Summary)
+        return misuse(u"--json goes with --summary, --search, --site, --top and --bookmarks only."_s);
+    if (rows.limit && !isList)
+        return misuse(u"--limit goes with --search, --site, --top and --bookmarks only."_s);
+    if (rows.since && !isSearch)
+        return misuse(u"--since goes with --search and --site only."_s);
+    if (rows.until && !isSearch)
+        return misuse(u"--until goes with --search and --site only."_s);
+
+    command.isJson = rows.isJson;
+    if (rows.limit) {
+        command.limit = limitOf(*rows.limit);
+        if (!command.limit)
+            return misuse(u"--limit takes a whole number from 1 on, not "_s % *rows.limit % u'.');
+    }
+    for (const auto &[name, words, time] : {std::tuple("--since"_L1, &rows.since, &command.since),
+                                            std::tuple("--until"_L1, &rows.until, &command.until)}) {
+        if (!*words)
+            continue;
+        *time = NamedTime::of(**words);
+        if (!*time)
+            return misuse(name %
+                          u" takes a day or a time such as 2025-11-05, \"2025-11-05 14:30\", today, "
+                          "yesterday, 12h, 7d or 2w, not " %
+                          **words % u'.');
+    }
+    return command;
+}
+
+} // namespace
+
+Command Command::of(const QStringList &arguments)
+{
+    const RowSwitches rows = RowSwitches::in(arguments);
+    const Command plain = plainJob(arguments);
+    const bool isAmongThem = rows.rowToOpen || rows.bookmarkWords;
+    const bool isHelp = plain.job == Job::Help || plain.job == Job::Version;
+    if (!rows.haveAny() || (isHelp && !isAmongThem))
+        return plain;
+    if (rows.withoutValue)
+        return misuse(*rows.withoutValue % u" needs a value.");
+    if (!isAmongThem)
+        return withRows(plain, rows);
+    const QString name = rows.rowToOpen ? u"--open"_s : u"--bookmarks"_s;
+    std::optional<QString> other = rows.otherJob;
+    // It counts wherever it stands.
+    if (plain.job == Job::Summary)
+        other = u"--summary"_s;
+    else if (rows.rowToOpen && rows.bookmarkWords)
+        other = u"--bookmarks"_s;
+    if (other)
+        return misuse(name % u" and " % *other % u" do not go together.");
+    return withRows({.job = rows.rowToOpen ? Job::Open : Job::Bookmarks,
+                     .argument = rows.rowToOpen ? rows.rowToOpen : rows.bookmarkWords,
+                     .sourceID = {}},
+                    rows);
+}
+
 QString Command::help()
 {
     return u"Usage: roamlet [SWITCH]\n"
@@ -102,13 +247,22 @@ QString Command::help()
            "  --search WORD...     pages whose title or address holds all the words, newest first\n"
            "  --site SITE          pages of one site, such as example.org, newest first\n"
            "  --top                the most visited pages\n"
+           "  --bookmarks WORD...  bookmarks whose title, address or folder holds all the words\n"
+           "  --open ID            opens a row in its browser and profile, by its id in --json\n"
            "  --export FORMAT      the bookmarks of one profile as html, markdown or csv\n"
            "    --source ID        the profile, such as \"chrome/Profile 1\" (Safari's when left out)\n"
            "  --watch [SECONDS]    tell which profiles change, for 60 seconds when left out\n"
            "  -h, --help           this text\n"
            "  -v, --version        the version\n"
            "\n"
-           "Profiles that are switched off in the settings are not read.\n"_s;
+           "Profiles that are switched off in the settings are not read.\n"
+           "\n"
+           "Of the rows that are listed; before --search and --bookmarks, behind which all is words:\n"
+           "\n"
+           "  --json               rows for other programs, one object on each line\n"
+           "  --limit N            so many rows at most\n"
+           "  --since TIME         --search and --site: last visited on this day, at this time or later\n"
+           "  --until TIME         or earlier: 2025-11-05, \"2025-11-05 14:30\", yesterday, 12h, 7d, 2w\n"_s;
 }
 
 } // namespace roamlet

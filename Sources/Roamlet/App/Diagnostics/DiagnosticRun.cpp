@@ -86,11 +86,13 @@ bool haveDescriptors(Console &console)
     return false;
 }
 
-int runDiagnostics(const Command &command, int argc, char **argv)
+int runDiagnostics(const Command &command, int argc, char **argv, const OpenPage &openPage)
 {
     LinuxPlatform platform;
-    // A job writes nothing but private copies, starts no program, and has no other threads yet.
-    Confinement::ofReadingProcess(platform.services().folders.temporary());
+    // A job writes nothing but private copies, starts no program, and has no other threads yet. One that
+    // opens a page confines its reading itself.
+    if (command.job != Command::Job::Open)
+        Confinement::ofReadingProcess(platform.services().folders.temporary());
     StopSignals signals;
     LinuxConsole console(signals.token());
     // Only watching needs an event loop; everything else starts faster without one.
@@ -99,7 +101,7 @@ int runDiagnostics(const Command &command, int argc, char **argv)
         application.emplace(argc, argv);
     int status = failure;
     try {
-        status = Diagnostics::run(command, platform.services(), console, signals.token());
+        status = Diagnostics::run(command, platform.services(), console, signals.token(), openPage);
     } catch (const std::bad_alloc &) {
         complain(console, u"there is not enough memory."_s);
     }
@@ -120,7 +122,7 @@ int answerDesktops(Console &console, int argc, char **argv)
 
 } // namespace
 
-std::optional<int> run(int argc, char **argv)
+std::optional<int> run(int argc, char **argv, const OpenPage &openPage)
 {
     LinuxConsole::holdClosedStreams();
     useUnicodeLocale();
@@ -147,10 +149,13 @@ std::optional<int> run(int argc, char **argv)
         complain(console, u"unknown switch "_s % command.argument.value_or(QString()) %
                               u". roamlet --help lists what there is.");
         return misuse;
+    case Command::Job::Misuse:
+        complain(console, command.argument.value_or(QString()));
+        return misuse;
     default:
         if (!settleHome(console) || !haveDescriptors(console))
             return failure;
-        return runDiagnostics(command, argc, argv);
+        return runDiagnostics(command, argc, argv, openPage);
     }
 }
 

@@ -3,13 +3,17 @@
 
 #include "App/Diagnostics/Diagnostics.h"
 
+#include "App/Diagnostics/BookmarkSearch.h"
+#include "App/Diagnostics/JsonLines.h"
 #include "App/Diagnostics/Printing.h"
+#include "App/Diagnostics/ProfileFacts.h"
 #include "App/Diagnostics/TextLayout.h"
 #include "Export/BookmarkExport.h"
 #include "Library/BrowserWatcher.h"
 #include "Library/LibraryReading.h"
 #include "Library/ProfileChoice.h"
 #include "Platform/Clock.h"
+#include "Platform/Confinement.h"
 #include "Platform/Console.h"
 #include "Platform/Folders.h"
 #include "Readers/BrowserReader.h"
@@ -20,8 +24,12 @@
 #include <QLocale>
 #include <QRegularExpression>
 
+#include <system_error>
+
 #include <algorithm>
 #include <chrono>
+#include <limits>
+#include <thread>
 
 namespace roamlet::Diagnostics
 {
@@ -33,6 +41,7 @@ namespace
 
 constexpr int success = 0;
 constexpr int failure = 1;
+constexpr int misuse = 2;
 
 /// Titles and labels wider than this do not push the next column of all the other rows away.
 constexpr int widestCell = 60;
@@ -64,8 +73,9 @@ private:
 class Job
 {
 public:
-    Job(const Platform &platform, Console &console, const std::stop_token &stop)
-        : m_platform(platform),
+    Job(const Command &command, const Platform &platform, Console &console, const std::stop_token &stop)
+        : m_command(command),
+          m_platform(platform),
           m_console(console),
           m_stop(stop),
           m_context(LibraryReading::readContext(platform))
@@ -76,8 +86,10 @@ public:
     int summary();
     int exportBookmarks(const std::optional<QString> &formatName, const std::optional<QString> &sourceID);
     int top();
-    int search(const HistoryQuery &query);
+    int search(HistoryQuery query);
+    int searchBookmarks(const QString &words);
     int watch(const std::optional<QString> &duration);
+    int open(const QString &rowID, const OpenPage &openPage);
 
 private:
     QList<Source> enabledSources() const
@@ -94,6 +106,25 @@ private:
                                            if (!m_stop.stop_requested())
                                                complain(source.label() % u": " % error.errorDescription());
                                        });
+    }
+    /// The pages that are asked for, the newest first. Complains where another program would take them for
+    /// all.
+    HistoryResults newestFirst(const HistoryQuery &query);
+    /// Takes away what is more than was asked for. Returns whether there was more.
+    template<typename Row>
+    bool cut(QList<Row> &rows) const
+    {
+        const qint64 limit = m_command.limit.value_or(std::numeric_limits<qint64>::max());
+        const bool isTooLong = rows.size() > limit;
+        if (isTooLong)
+            rows.resize(static_cast<qsizetype>(limit));
+        return isTooLong;
+    }
+    /// The line that follows rows that were found.
+    static QString countLine(qsizetype count, bool isCapped, const Stopwatch &stopwatch)
+    {
+        return QString::number(count) % (count == 1 ? u" match, " : u" matches, ") %
+               (isCapped ? u"capped" : u"not capped") % u", in " % stopwatch.seconds() % u's';
     }
     /// The bookmarks of one source, or why there is no such source. What cannot be read is complained of.
     std::expected<QList<BookmarkNode>, QString> bookmarks(const QString &sourceID);
@@ -117,10 +148,19 @@ private:
             line = TextLayout::shown(line.endsWith(u'\r') ? line.chopped(1) : line);
         return result.join(u'\n');
     }
+    /// A title, which may be of any length, as a column has it.
+    QString titleCell(const QString &title) const
+    {
+        return m_console.isTerminal() ? TextLayout::elided(text(title), widestCell) : title;
+    }
     int print(const QStringList &lines) { return write(lines.join(u'\n') % u'\n'); }
+    /// Prints the rows for other programs.
+    template<typename Row>
+    int printJson(const QList<Row> &rows);
     int write(const QString &output);
     void complain(const QString &message) { roamlet::complain(m_console, message); }
 
+    const Command &m_command;
     const Platform &m_platform;
     Console &m_console;
     std::stop_token m_stop;
@@ -137,6 +177,25 @@ int Job::write(const QString &output)
     return printed == Printed::Failed ? failure : success;
 }
 
+template<typename Row>
+int Job::printJson(const QList<Row> &rows)
+{
+    // Not a line at a time, and not all of a million at once.
+    constexpr qsizetype portion = qsizetype{1} << 20U;
+    int status = success;
+    QString lines;
+    for (const Row &row : rows) {
+        lines += JsonLines::line(JsonLines::object(row));
+        if (lines.size() < portion)
+            continue;
+        status = write(lines);
+        lines.clear();
+        if (!m_canWrite)
+            return status;
+    }
+    return lines.isEmpty() ? status : write(lines);
+}
+
 int Job::summary()
 {
     const Stopwatch stopwatch;
@@ -144,52 +203,40 @@ int Job::summary()
     const Snapshot snapshot = LibraryReading::readAll({.disabled = disabled, .only = {}, .previous = {}},
                                                       m_context, m_platform.clock);
 
-    QHash<QString, qint64> rows;
-    QHash<QString, PointInTime> latest;
-    for (const HistoryItem &item : snapshot.history) {
-        const QString id = item.source.id();
-        ++rows[id];
-        const auto known = latest.constFind(id);
-        if (known == latest.cend() || *known < item.lastVisit)
-            latest.insert(id, item.lastVisit);
-    }
+    if (snapshot.browserProfiles.isEmpty())
+        complain(u"No browser profiles were found in " % m_platform.folders.home());
+    const QList<ProfileFacts> profiles = ProfileFacts::of(snapshot);
+    if (m_command.isJson)
+        return printJson(profiles);
 
     QList<QStringList> cells;
-    for (const Source &source : snapshot.sources) {
-        const QString id = source.id();
-        qint64 bookmarkCount = 0;
-        qint64 folderCount = 0;
-        for (const BookmarkNode &root : snapshot.bookmarkTrees.value(id)) {
-            bookmarkCount += root.bookmarkCount();
-            folderCount += root.folderCount();
+    QList<ProfileFacts> enabled;
+    QStringList switchedOff;
+    for (const ProfileFacts &profile : profiles) {
+        if (!profile.isEnabled) {
+            switchedOff.append(text(profile.source.label()));
+            continue;
         }
-        const QString newest = latest.contains(id) ? localTime(latest.value(id)) : u"none"_s;
-        cells.append(
-            {text(source.label()),
-             QString::number(bookmarkCount) % u" bookmarks, " % QString::number(folderCount) % u" folders",
-             QString::number(snapshot.sourceFavicons.value(id).size()) % u" site icons",
-             QString::number(rows.value(id)) % u" history URLs, latest visit " % newest});
+        const QString newest = profile.latestVisit ? localTime(*profile.latestVisit) : u"none"_s;
+        enabled.append(profile);
+        cells.append({text(profile.source.label()),
+                      QString::number(profile.bookmarks) % u" bookmarks, " %
+                          QString::number(profile.folders) % u" folders",
+                      QString::number(profile.icons) % u" site icons",
+                      QString::number(profile.pages) % u" history URLs, latest visit " % newest});
     }
     const QStringList aligned = TextLayout::aligned(cells, widestCell);
 
     QStringList lines;
     for (qsizetype i = 0; i < aligned.size(); ++i) {
         lines.append(aligned[i]);
-        const QString problem = snapshot.problems.value(snapshot.sources[i].id());
-        for (const QString &line : problem.split(u'\n', Qt::SkipEmptyParts))
+        for (const QString &line : enabled[i].problems)
             lines.append(u"  ! " % text(line));
-    }
-    QStringList switchedOff;
-    for (const Source &source : snapshot.browserProfiles) {
-        if (disabled.contains(source.id()))
-            switchedOff.append(text(source.label()));
     }
     if (!switchedOff.isEmpty())
         lines.append(u"Turned off in Settings: " % switchedOff.join(u", "_s));
     if (snapshot.safariBlocked)
         lines.append(u"Safari is blocked: grant Full Disk Access."_s);
-    if (snapshot.browserProfiles.isEmpty())
-        complain(u"No browser profiles were found in " % m_platform.folders.home());
     lines.append(u"Read in " % stopwatch.seconds() % u's');
     return print(lines);
 }
@@ -243,22 +290,27 @@ int Job::exportBookmarks(const std::optional<QString> &formatName, const std::op
 int Job::top()
 {
     const Stopwatch stopwatch;
-    const auto query = HistoryQuery::matching({}, {}, HistoryQuery::Order::MostVisited);
+    auto query = HistoryQuery::matching({}, {}, HistoryQuery::Order::MostVisited);
+    const qint64 length = m_command.limit.value_or(topLength);
+    query.limit = std::max(query.limit, length);
     QList<HistoryItem> rows = history(query, enabledSources()).items;
     std::ranges::stable_sort(rows, std::ranges::greater(), &HistoryItem::visitCount);
+    const QList<HistoryItem> first =
+        rows.first(static_cast<qsizetype>(std::min<qint64>(rows.size(), length)));
+    if (m_command.isJson)
+        return printJson(first);
 
     // No columns: the line is the same on a terminal and in a pipe.
     QStringList lines;
-    for (const HistoryItem &row : rows.first(std::min(rows.size(), topLength)))
+    for (const HistoryItem &row : first)
         lines.append(QString::number(row.visitCount) % u"  " % text(row.source->name) % u"  " %
                      text(row.site) % u"  " % text(row.title));
     lines.append(QString::number(rows.size()) % u" URLs in " % stopwatch.seconds() % u's');
     return print(lines);
 }
 
-int Job::search(const HistoryQuery &query)
+HistoryResults Job::newestFirst(const HistoryQuery &query)
 {
-    const Stopwatch stopwatch;
     const QList<Source> sources = enabledSources();
     HistoryResults results = history(query, sources);
     QHash<QString, qsizetype> places;
@@ -271,19 +323,102 @@ int Job::search(const HistoryQuery &query)
                    : places.value(left.source.id()) < places.value(right.source.id());
     });
 
+    QHash<QString, qint64> counts;
+    bool isCut = results.isCapped;
+    for (const HistoryItem &item : std::as_const(results.items))
+        isCut = isCut || ++counts[item.source.id()] == query.limit;
+    if (m_command.isJson && !m_command.limit && isCut)
+        complain(u"No profile was asked for more than its "_s % QString::number(query.limit) %
+                 u" newest rows. --limit says how many are wanted.");
+    return results;
+}
+
+int Job::search(HistoryQuery query)
+{
+    const Stopwatch stopwatch;
+    const PointInTime now = m_platform.clock.now();
+    if (m_command.since)
+        query.visited.begin = m_command.since->begin(now);
+    if (m_command.until)
+        query.visited.end = m_command.until->end(now);
+    if (query.visited.begin && query.visited.end && *query.visited.begin >= *query.visited.end) {
+        complain(u"Nothing lies between --since and --until: the one is not before the other."_s);
+        return misuse;
+    }
+    // Of what was narrowed nothing may be missing. Rows that only mention the site go after the search, so
+    // that nobody knows before how many it takes.
+    if (m_command.limit && !query.site)
+        query.limit = std::min(*m_command.limit, std::numeric_limits<qint64>::max() - 1) + 1;
+    else if (m_command.limit || query.visited.isLimited())
+        query.limit = -1;
+    HistoryResults results = newestFirst(query);
+    if (m_command.limit)
+        results.isCapped = cut(results.items);
+    if (m_command.isJson)
+        return printJson(results.items);
+
     QList<QStringList> cells;
     cells.reserve(results.items.size());
-    for (const HistoryItem &item : std::as_const(results.items)) {
-        const QString title = text(item.title);
-        cells.append({localTime(item.lastVisit), text(item.source.label()),
-                      m_console.isTerminal() ? TextLayout::elided(title, widestCell) : title,
-                      text(item.url)});
-    }
+    for (const HistoryItem &item : std::as_const(results.items))
+        cells.append(
+            {localTime(item.lastVisit), text(item.source.label()), titleCell(item.title), text(item.url)});
     QStringList lines = TextLayout::aligned(cells, widestCell);
-    lines.append(QString::number(results.items.size()) %
-                 (results.items.size() == 1 ? u" match, " : u" matches, ") %
-                 (results.isCapped ? u"capped" : u"not capped") % u", in " % stopwatch.seconds() % u's');
+    lines.append(countLine(results.items.size(), results.isCapped, stopwatch));
     return print(lines);
+}
+
+int Job::searchBookmarks(const QString &words)
+{
+    const Stopwatch stopwatch;
+    QList<Bookmark> found = BookmarkSearch::run(
+        words, enabledSources(), m_context,
+        [this](const Source &source, const std::expected<BookmarkTrees, ReadErrors> &trees) {
+            if (m_stop.stop_requested())
+                return;
+            for (const ReadError &error : trees ? trees->problems : trees.error())
+                complain(source.label() % u": " % error.errorDescription());
+            if (trees && trees->areEncrypted)
+                complain(Source::displayName(source.kind) % u" keeps the bookmarks of " % source.label() %
+                         u" encrypted. Only it can find them.");
+        });
+    const bool isCapped = cut(found);
+    if (m_command.isJson)
+        return printJson(found);
+
+    QList<QStringList> cells;
+    cells.reserve(found.size());
+    for (const Bookmark &bookmark : std::as_const(found))
+        cells.append({bookmark.dateAdded ? localTime(*bookmark.dateAdded) : u"unknown time"_s,
+                      text(bookmark.source.label()), titleCell(bookmark.folder), titleCell(bookmark.title),
+                      text(bookmark.url)});
+    QStringList lines = TextLayout::aligned(cells, widestCell);
+    lines.append(countLine(found.size(), isCapped, stopwatch));
+    return print(lines);
+}
+
+int Job::open(const QString &rowID, const OpenPage &openPage)
+{
+    std::expected<FoundRow, QString> row;
+    const auto read = [&] {
+        row = FoundRow::ofID(rowID, LibraryReading::allProfiles({}, m_context),
+                             ProfileChoice(m_platform.defaults).disabled(), m_context);
+    };
+    try {
+        // What is read is read by a thread that may write nothing; a browser must be free to.
+        const std::jthread reading([&] {
+            Confinement::ofReadingThread(m_context.folders.temporary);
+            read();
+        });
+    } catch (const std::system_error &) {
+        read();
+    }
+    if (m_stop.stop_requested())
+        return failure;
+    const auto opened = row ? openPage(row->url, row->source) : std::unexpected(row.error());
+    if (opened)
+        return success;
+    complain(opened.error());
+    return failure;
 }
 
 QList<Source> Job::profilesNow() const
@@ -351,7 +486,7 @@ int Job::watch(const std::optional<QString> &duration)
     return isLimitReached ? failure : status;
 }
 
-int runJob(const Command &command, Job &job)
+int runJob(const Command &command, Job &job, const OpenPage &openPage)
 {
     switch (command.job) {
     case Command::Job::Summary:
@@ -367,11 +502,16 @@ int runJob(const Command &command, Job &job)
         return job.search(HistoryQuery::matching({}, command.argument, HistoryQuery::Order::Latest));
     case Command::Job::Watch:
         return job.watch(command.argument);
+    case Command::Job::Bookmarks:
+        return job.searchBookmarks(command.argument.value_or(QString()));
+    case Command::Job::Open:
+        return job.open(command.argument.value_or(QString()), openPage);
     case Command::Job::DesktopSearch:
     case Command::Job::Help:
     case Command::Job::Version:
     case Command::Job::Windows:
     case Command::Job::Unknown:
+    case Command::Job::Misuse:
         break;
     }
     Q_UNREACHABLE();
@@ -379,10 +519,11 @@ int runJob(const Command &command, Job &job)
 
 } // namespace
 
-int run(const Command &command, const Platform &platform, Console &console, const std::stop_token &stop)
+int run(const Command &command, const Platform &platform, Console &console, const std::stop_token &stop,
+        const OpenPage &openPage)
 {
-    Job job(platform, console, stop);
-    const int status = runJob(command, job);
+    Job job(command, platform, console, stop);
+    const int status = runJob(command, job, openPage);
     // Copies that a run could not put away, because it was killed, wait for nobody's window.
     SQLiteSnapshot::removeLeftovers(platform.files, platform.folders.temporary());
     return status;

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "App/Diagnostics/CommandLine.h"
+#include "App/Diagnostics/RowOfID.h"
 #include "Platform/Platform.h"
 
 #include <stop_token>
@@ -17,10 +18,11 @@ class Console;
 namespace Diagnostics
 {
 
-/// Runs the job of `command`, which is one of the six, and returns the process's status. Blocks until it has
-/// finished, until nobody reads the output any more or until `stop` is requested. Watching needs a
-/// QCoreApplication.
-int run(const Command &command, const Platform &platform, Console &console, const std::stop_token &stop);
+/// Runs the job of `command`, which is one of those that read, and returns the process's status. Blocks until
+/// it has finished, until nobody reads the output any more or until `stop` is requested. Watching needs a
+/// QCoreApplication, opening somebody who opens.
+int run(const Command &command, const Platform &platform, Console &console, const std::stop_token &stop,
+        const OpenPage &openPage = {});
 
 } // namespace Diagnostics
 

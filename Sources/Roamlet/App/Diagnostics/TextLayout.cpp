@@ -17,6 +17,8 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
+constexpr char16_t deleteCharacter = 0x7F;
+
 int codePointWidth(char32_t codePoint)
 {
     const auto c = static_cast<UChar32>(codePoint);
@@ -103,10 +105,15 @@ QString elided(const QString &text, int columns)
     return fits ? text : QString(text.first(length) % u'…');
 }
 
+bool isObeyed(QChar character)
+{
+    const char16_t code = character.unicode();
+    return code < u' ' || (code >= deleteCharacter && code < 0xA0) || isLayoutMark(code);
+}
+
 QString shown(const QString &text)
 {
     constexpr char16_t firstPicture = 0x2400;
-    constexpr char16_t deleteCharacter = 0x7F;
     constexpr char16_t deletePicture = 0x2421;
     QString result;
     result.reserve(text.size());
@@ -116,7 +123,7 @@ QString shown(const QString &text)
             result += QChar(static_cast<char16_t>(firstPicture + code));
         else if (code == deleteCharacter)
             result += QChar(deletePicture);
-        else if ((code > deleteCharacter && code < 0xA0) || isLayoutMark(code))
+        else if (isObeyed(c))
             result += u"<U+" % QString::number(code, 16).toUpper().rightJustified(4, u'0') % u'>';
         else
             result += c;

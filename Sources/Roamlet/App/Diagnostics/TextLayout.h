@@ -17,6 +17,9 @@ int width(QStringView text);
 QString padded(const QString &text, int columns);
 /// The text, cut with "…" where it is wider than `columns`.
 QString elided(const QString &text, int columns);
+/// Whether a terminal would obey the character, be it a command, a mark that reorders a line or one that ends
+/// it.
+bool isObeyed(QChar character);
 /// The text with pictures in the place of control characters and of marks that reorder a line: shown, not
 /// obeyed.
 QString shown(const QString &text);
