@@ -58,7 +58,8 @@ SETTINGS = b"[General]\ndisabledProfiles=chromium/Default\nkept=of an earlier ve
 OLD_TARGET = b"the export of last week\n"
 
 
-PROGRAMS = ["roamlet", "roamlet-window.so", "roamlet-updates.so", "roamlet-programs.so", "roamlet-sample-home", "roamlet-save",
+PROGRAMS = ["roamlet", "roamlet-window.so", "roamlet-updates.so", "roamlet-programs.so",
+            "roamlet-search.so", "roamlet-open.so", "roamlet-sample-home", "roamlet-save",
             "roamlet-failing-calls.so"]
 
 

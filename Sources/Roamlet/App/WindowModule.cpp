@@ -3,7 +3,6 @@
 
 #include "App/WindowModule.h"
 
-#include "App/PageOpening.h"
 #include "App/RoamletApp.h"
 
 #include <QtCore/qglobal.h>
@@ -11,11 +10,4 @@
 extern "C" Q_DECL_EXPORT int roamletRunWindows(int argc, char **argv)
 {
     return roamlet::RoamletApp::run(argc, argv);
-}
-
-extern "C" Q_DECL_EXPORT void roamletOpenPage(const QString &url, const roamlet::Source &source,
-                                              QString &problem)
-{
-    const auto opened = roamlet::PageOpening::open(url, source);
-    problem = opened ? QString() : opened.error();
 }

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "App/Diagnostics/DiagnosticRun.h"
+#include "App/PageOpening/OpenPage.h"
 #include "App/WindowModule.h"
-#include "Model/Source.h"
 #include "Platform/Linux/LinuxIO.h"
 #include "Platform/Linux/ProgramModule.h"
 
@@ -14,26 +14,10 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-std::expected<QFunctionPointer, QString> functionOfWindowModule(const char *name)
-{
-    return roamlet::ProgramModule::function(u"roamlet-window.so"_s, name);
-}
-
-std::expected<void, QString> openPage(const QString &url, const roamlet::Source &source)
-{
-    const auto function = functionOfWindowModule(roamlet::openPageEntry);
-    if (!function)
-        return std::unexpected(QString(u"cannot open a page: " % function.error()));
-    QString problem;
-    reinterpret_cast<roamlet::OpenPageEntry *>(*function)(url, source, problem);
-    if (!problem.isEmpty())
-        return std::unexpected(problem);
-    return {};
-}
-
 int runWindows(int argc, char **argv)
 {
-    const auto function = functionOfWindowModule(roamlet::windowModuleEntry);
+    const auto function =
+        roamlet::ProgramModule::function(u"roamlet-window.so"_s, roamlet::windowModuleEntry);
     if (function)
         return reinterpret_cast<roamlet::WindowModuleEntry *>(*function)(argc, argv);
     std::fputs(
@@ -47,6 +31,9 @@ int runWindows(int argc, char **argv)
 int main(int argc, char **argv)
 {
     roamlet::ignoreFileSizeSignal();
+    const auto openPage = [](const QString &url, const roamlet::Source &source) {
+        return roamlet::openPage(url, source);
+    };
     if (const std::optional<int> status = roamlet::DiagnosticRun::run(argc, argv, openPage))
         return *status;
     return runWindows(argc, argv);

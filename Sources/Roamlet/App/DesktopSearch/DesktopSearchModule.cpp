@@ -2,12 +2,11 @@
 // SPDX-License-Identifier: MIT
 
 #include "App/DesktopSearch/DesktopSearchRun.h"
-#include "App/DesktopSearch/PageOpening.h"
+#include "App/PageOpening/OpenPage.h"
 #include "DesktopSearch/DesktopAnswers.h"
 #include "Platform/Clock.h"
 #include "Platform/Folders.h"
 #include "Platform/Linux/LinuxPlatform.h"
-#include "Platform/Linux/ProgramModule.h"
 #include "Platform/Linux/Search/SearchService.h"
 #include "Platform/Linux/StopSignals.h"
 #include "Platform/Processes.h"
@@ -26,17 +25,6 @@ namespace
 
 using namespace Qt::StringLiterals;
 
-void openPage(const roamlet::PageOpening &opening)
-{
-    const auto function = roamlet::ProgramModule::function(u"roamlet-open.so"_s, roamlet::pageOpeningEntry);
-    if (function)
-        reinterpret_cast<roamlet::PageOpeningEntry *>(*function)(opening);
-    else
-        std::fputs(
-            QString(u"roamlet: cannot open a page: "_s % function.error() % u'\n').toUtf8().constData(),
-            stderr);
-}
-
 int answerDesktops(int argc, char **argv, const std::stop_token &stop)
 {
     QCoreApplication application(argc, argv);
@@ -50,8 +38,10 @@ int answerDesktops(int argc, char **argv, const std::stop_token &stop)
     roamlet::DesktopAnswers answers(
         {.platform = services,
          .open =
-             [&services](const QString &url, const roamlet::Source &source, const QString &token) {
-                 openPage({.platform = services, .url = url, .source = source, .activationToken = token});
+             [](const QString &url, const roamlet::Source &source, const QString &token) {
+                 if (const auto opened = roamlet::openPage(url, source, token); !opened)
+                     std::fputs(QString(u"roamlet: "_s % opened.error() % u'\n').toUtf8().constData(),
+                                stderr);
              },
          .fallSilent =
              [&] {

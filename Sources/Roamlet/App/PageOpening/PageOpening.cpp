@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
-#include "App/PageOpening.h"
+#include "App/PageOpening/PageOpening.h"
 
 #include "Opening/Opener.h"
 #include "Platform/Linux/LinuxPlatform.h"
@@ -25,7 +25,7 @@ std::expected<void, QString> open(const QString &url, const Source &source, Work
     return {};
 }
 
-std::expected<void, QString> open(const QString &url, const Source &source)
+std::expected<void, QString> open(const QString &url, const Source &source, const QString &activationToken)
 {
     LinuxPlatform platform;
     const Platform services = platform.services();
@@ -34,6 +34,7 @@ std::expected<void, QString> open(const QString &url, const Source &source)
     LinuxWorkspace workspace(
         {.dataFolders = LinuxWorkspace::Environment::ofThisProcess().dataFolders, .display = {}},
         services.folders, services.files, services.clock, PasteNotice(QDBusConnection(nobody), {}, {}));
+    workspace.setActivationToken(activationToken);
     const auto opened = open(url, source, workspace);
     if (opened && !workspace.finishStarts())
         return std::unexpected(QString(u"The browser of " % source.label() % u" could not be started."));

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
-#include "App/PageOpening.h"
+#include "App/PageOpening/PageOpening.h"
 
 #include "Support/FakeWorkspace.h"
 #include "Support/Sources.h"

@@ -21,8 +21,9 @@ namespace PageOpening
 
 /// Opens an address in the browser and the profile of its source, or says why that cannot be done.
 std::expected<void, QString> open(const QString &url, const Source &source, Workspace &workspace);
-/// The same with the applications of this machine. What it starts goes on when this process ends.
-std::expected<void, QString> open(const QString &url, const Source &source);
+/// The same with the applications of this machine. What it starts goes on when this process ends. The token,
+/// where there is one, lets it come forward.
+std::expected<void, QString> open(const QString &url, const Source &source, const QString &activationToken);
 
 } // namespace PageOpening
 
