@@ -3,6 +3,7 @@
 
 #include "Library/FaviconImage.h"
 
+#include "DesktopSearch/PngIcon.h"
 #include "Kit/Targets.h"
 #include "Platform/Linux/LinuxFiles.h"
 #include "SampleHome/SampleText.h"
@@ -24,6 +25,13 @@ void attackFaviconImage(QByteArrayView bytes)
     const QImage image = FaviconImage::decode(FaviconData{bytes.toByteArray()}, files);
     require(image.width() <= FaviconImage::largestSide && image.height() <= FaviconImage::largestSide,
             "no icon is larger than any display needs");
+    if (const auto icon = PngIcon::decode(bytes.toByteArray())) {
+        require(icon->width > 0 && icon->height > 0 && icon->width <= PngIcon::largestSide &&
+                    icon->height <= PngIcon::largestSide,
+                "no icon is larger than any list of a desktop needs");
+        require(icon->bytes.size() == qsizetype{4} * icon->width * icon->height,
+                "each pixel of an icon has four bytes");
+    }
 }
 
 /// A small picture in a format that the library can write.

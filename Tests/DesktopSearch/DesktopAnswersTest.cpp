@@ -285,6 +285,26 @@ TEST_F(DesktopAnswersTest, iconsComeWithTheNextAnswer)
     EXPECT_EQ(search(u"word"_s).first().icon, described.icon);
 }
 
+TEST_F(DesktopAnswersTest, whoTypesDoesNotWaitForIconsAndWhoWantsDetailsDoes)
+{
+    setChromeHistory(u"Default"_s, {u"word"_s});
+    setChromeIcon(u"Default"_s, u"https://word.example/"_s, png(16, Qt::red));
+    Gate gate;
+    home.files.afterCopy = [&gate](const QString &source) {
+        if (source.endsWith(u"/Favicons"))
+            gate.pass();
+    };
+    const QString id = search(u"word"_s).first().id;
+    gate.awaitReader();
+    std::optional<QList<FoundPage>> described;
+    answers->describe({id}, [&described](const QList<FoundPage> &pages) { described = pages; });
+    EXPECT_EQ(titlesFor(u"word"_s), QStringList{u"word"_s});
+    EXPECT_FALSE(described);
+    gate.open();
+    EXPECT_TRUE(waitUntil([&described] { return described.has_value(); }));
+    EXPECT_TRUE(described->first().icon);
+}
+
 TEST_F(DesktopAnswersTest, iconsThatCannotBeReadAreNone)
 {
     setChromeHistory(u"Default"_s, {u"word"_s});

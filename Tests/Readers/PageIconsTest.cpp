@@ -111,8 +111,7 @@ TEST_F(PageIconsTest, aStoreThatIsNoneCannotBeRead)
 {
     change([this] { sample::writeFile(chromeFile(u"Favicons"_s), "no database at all"); });
     const auto icons = PageIcons::of(chrome(), context());
-    if (icons)
-        EXPECT_FALSE(icons->icon(u"https://a.example/"_s));
+    EXPECT_FALSE(icons && icons->icon(u"https://a.example/"_s));
 }
 
 TEST_F(PageIconsTest, theCopyGoesWithIt)

@@ -28,8 +28,9 @@ namespace
 constexpr qsizetype longestAddress = 30'000;
 /// A list has room for less.
 constexpr qsizetype longestTitle = 500;
-/// More titles are kept by nobody.
+/// How much is kept for whoever asks again.
 constexpr qsizetype mostTitles = 1'000;
+constexpr qsizetype mostIcons = 200;
 
 bool hasEnoughLetters(const QString &text)
 {
@@ -56,7 +57,9 @@ FoundPage pageOf(const PageID &id, const QString &title, const Source &source)
 } // namespace
 
 DesktopAnswers::DesktopAnswers(Services services)
-    : m_services(std::move(services)), m_finder(std::make_shared<PageFinder>())
+    : m_services(std::move(services)),
+      m_finder(std::make_shared<PageFinder>()),
+      m_iconFinder(std::make_shared<IconFinder>())
 {
     stayAwake();
 }
@@ -76,18 +79,15 @@ void DesktopAnswers::search(const QString &text, const Answer &answer)
         answer({});
         return;
     }
-    ask({.text = text, .ids = {}, .isForIcons = false, .answer = [this, answer](const Reply &reply) {
-             QStringList ids;
+    ask({.text = text, .ids = {}, .answer = [this, answer](const Reply &found) {
              if (m_titles.size() > mostTitles)
                  m_titles.clear();
-             for (const FoundPage &page : reply.pages) {
-                 ids.append(page.id);
+             for (const FoundPage &page : found.pages)
                  m_titles.insert(page.id, page.title);
-             }
-             answer(reply.pages);
              // The pages come first; their icons are there when they are asked for, or with the next letter.
-             if (reply.lacksIcons)
-                 ask({.text = {}, .ids = ids, .isForIcons = true, .answer = {}});
+             Reply reply = found;
+             addIcons(reply);
+             answer(reply.pages);
          }});
 }
 
@@ -98,23 +98,23 @@ void DesktopAnswers::describe(const QStringList &ids, const Answer &answer)
         answer({});
         return;
     }
-    ask({.text = {}, .ids = ids, .isForIcons = true, .answer = [answer](const Reply &reply) {
-             answer(reply.pages);
+    ask({.text = {}, .ids = ids, .answer = [this, answer](const Reply &described) {
+             Reply reply = described;
+             if (addIcons(reply))
+                 answer(reply.pages);
+             else
+                 m_iconQuestions.push_back({.reply = std::move(reply), .answer = answer});
          }});
 }
 
 void DesktopAnswers::open(const QString &id, const QString &activationToken)
 {
     stayAwake();
-    const std::optional<PageID> page = PageID::of(id);
-    if (!page || !isOn())
+    if (!isOn())
         return;
-    ask({.text = {},
-         .ids = {id},
-         .isForIcons = false,
-         .answer = [this, url = page->url, activationToken](const Reply &reply) {
-             if (reply.source)
-                 m_services.open(url, *reply.source, activationToken);
+    ask({.text = {}, .ids = {id}, .answer = [this, activationToken](const Reply &reply) {
+             if (!reply.pages.isEmpty())
+                 m_services.open(reply.pages.first().url, reply.sources.first(), activationToken);
          }});
 }
 
@@ -189,14 +189,10 @@ DesktopAnswers::Answered DesktopAnswers::answered(PageFinder &finder, const std:
         }
         for (const QString &text : question.ids) {
             const std::optional<PageID> id = PageID::of(text);
-            reply.source = id ? finder.source(id->sourceID) : std::nullopt;
-            if (!reply.source)
-                continue;
-            if (question.isForIcons && !finder.isIconKnown(id->sourceID, id->url))
-                finder.findIcon(id->sourceID, id->url, context);
-            FoundPage page = pageOf(*id, titles.value(text), *reply.source);
-            page.icon = finder.knownIcon(id->sourceID, id->url);
-            reply.pages.append(page);
+            if (const auto source = id ? finder.source(id->sourceID) : std::nullopt) {
+                reply.pages.append(pageOf(*id, titles.value(text), *source));
+                reply.sources.append(*source);
+            }
         }
         answers.replies.push_back(std::move(reply));
     }
@@ -212,10 +208,8 @@ DesktopAnswers::Reply DesktopAnswers::found(const PageFinder &finder, const QStr
         if (item.url.size() > longestAddress)
             continue;
         const PageID id{.sourceID = item.source.id(), .url = item.url};
-        FoundPage page = pageOf(id, shownTitle(item.title), item.source);
-        page.icon = finder.knownIcon(id.sourceID, id.url);
-        reply.lacksIcons = reply.lacksIcons || !finder.isIconKnown(id.sourceID, id.url);
-        reply.pages.append(page);
+        reply.pages.append(pageOf(id, shownTitle(item.title), item.source));
+        reply.sources.append(item.source);
     }
     return reply;
 }
@@ -230,6 +224,54 @@ void DesktopAnswers::deliver(const std::vector<Question> &questions, const Answe
     answerNext();
     if (answers.hasRead)
         Processes::giveBackMemory();
+}
+
+bool DesktopAnswers::addIcons(Reply &reply)
+{
+    bool areKnown = true;
+    for (qsizetype i = 0; i < reply.pages.size(); ++i) {
+        FoundPage &page = reply.pages[i];
+        const QString key = IconFinder::key(page.url, reply.sources[i]);
+        const auto known = m_icons.constFind(key);
+        if (known != m_icons.cend()) {
+            page.icon = *known;
+        } else {
+            areKnown = false;
+            m_wantedIcons.insert(key, {.url = page.url, .source = reply.sources[i]});
+        }
+    }
+    findIcons();
+    return areKnown;
+}
+
+void DesktopAnswers::findIcons()
+{
+    if (m_isFindingIcons || m_wantedIcons.isEmpty())
+        return;
+    m_isFindingIcons = true;
+    m_tasks.run(
+        &m_here,
+        [finder = m_iconFinder, wanted = std::exchange(m_wantedIcons, {}),
+         context = m_context](const std::stop_token &stop) {
+            Confinement::ofReadingThread(context.folders.temporary);
+            ReadContext stoppable = context;
+            stoppable.stop = stop;
+            return finder->find(wanted, stoppable);
+        },
+        [this](const IconFinder::Icons &found) {
+            m_isFindingIcons = false;
+            // Whoever waits has been told of some by then.
+            if (m_icons.size() > mostIcons && m_iconQuestions.empty())
+                m_icons.clear();
+            m_icons.insert(found);
+            // Those whose icons are not among these wait for the next ones.
+            for (IconQuestion &question : std::exchange(m_iconQuestions, {})) {
+                if (addIcons(question.reply))
+                    question.answer(question.reply.pages);
+                else
+                    m_iconQuestions.push_back(std::move(question));
+            }
+        });
 }
 
 } // namespace roamlet

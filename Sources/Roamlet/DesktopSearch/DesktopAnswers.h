@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "DesktopSearch/IconFinder.h"
 #include "Model/PointInTime.h"
 #include "Model/Source.h"
 #include "Platform/BackgroundTasks.h"
@@ -60,25 +61,27 @@ public:
     void open(const QString &id, const QString &activationToken) override;
 
 private:
-    /// What is to be done away from the main thread: with a text, to search; with ids, to describe pages or
-    /// to open one of them.
+    /// What is to be answered away from the main thread: a text that is searched for, or ids of pages that
+    /// are to be described or opened.
     struct Reply {
         QList<FoundPage> pages;
-        /// That of the last id, if it is enabled.
-        std::optional<Source> source;
-        /// Whether nobody has looked for some of the icons yet.
-        bool lacksIcons = false;
+        /// That of each page.
+        QList<Source> sources;
     };
     struct Question {
         QString text;
         QStringList ids;
-        bool isForIcons = false;
         std::function<void(const Reply &)> answer;
     };
     struct Answered {
         /// One for each question.
         std::vector<Reply> replies;
         bool hasRead = false;
+    };
+    /// Whoever wants pages with their icons.
+    struct IconQuestion {
+        Reply reply;
+        Answer answer;
     };
 
     static Answered answered(PageFinder &finder, const std::vector<Question> &questions,
@@ -91,6 +94,10 @@ private:
     void ask(Question question);
     void answerNext();
     void deliver(const std::vector<Question> &questions, const Answered &answers);
+    /// Gives the pages the icons that are known, and has the others looked for. Returns whether all were
+    /// known.
+    bool addIcons(Reply &reply);
+    void findIcons();
 
     Services m_services;
     /// Belongs to the running task; there is one at a time.
@@ -102,6 +109,13 @@ private:
     bool m_isAnswering = false;
     /// The titles of pages that were found, by their ids.
     QHash<QString, QString> m_titles;
+    /// Belongs to the running task as well, of which there is one at a time beside that of the questions: who
+    /// types does not wait for icons.
+    std::shared_ptr<IconFinder> m_iconFinder;
+    IconFinder::Icons m_icons;
+    QHash<QString, IconFinder::Wanted> m_wantedIcons;
+    std::vector<IconQuestion> m_iconQuestions;
+    bool m_isFindingIcons = false;
     /// Lives until somebody asks again.
     std::unique_ptr<QObject> m_silence;
     QObject m_here;

@@ -3,20 +3,18 @@
 
 #include "DesktopSearch/PageFinder.h"
 
-#include "DesktopSearch/PngIcon.h"
 #include "Library/LibraryReading.h"
 #include "Library/ProfileChoice.h"
 #include "Library/SourceRead.h"
-#include "Model/Site.h"
-#include "Platform/Files.h"
 #include "Readers/BrowserReader.h"
+
+#include <QSet>
 
 #include <algorithm>
 #include <iterator>
 #include <limits>
 #include <new>
 #include <utility>
-#include <variant>
 #include <vector>
 
 namespace roamlet
@@ -50,13 +48,6 @@ std::optional<std::vector<RankedPage>> foundIn(const HistoryText &text, const QS
     }
 }
 
-QByteArray encoded(const Favicon &favicon, const Files &files)
-{
-    if (const auto *data = std::get_if<FaviconData>(&favicon))
-        return data->bytes;
-    return files.read(std::get<FaviconFile>(favicon).path).value_or(QByteArray());
-}
-
 } // namespace
 
 void PageFinder::findProfiles(const ReadContext &context)
@@ -75,7 +66,6 @@ bool PageFinder::renew(const ProfileChoice &choice, size_t mostBytes, const Read
     for (const Source &source : std::as_const(m_sources))
         ids.insert(source.id());
     m_texts.removeIf([&ids](SearchTexts::iterator text) { return !ids.contains(text.key()); });
-    std::erase_if(m_iconStores, [&ids](const auto &store) { return !ids.contains(store.first); });
     QList<Source> outdated;
     for (const Source &source : std::as_const(m_sources)) {
         const auto known = m_texts.constFind(source.id());
@@ -117,42 +107,6 @@ std::optional<Source> PageFinder::source(const QString &id) const
 {
     const auto found = std::ranges::find(m_sources, id, &Source::id);
     return found == m_sources.end() ? std::nullopt : std::optional(*found);
-}
-
-QString PageFinder::iconKey(const QString &sourceID, const QString &url)
-{
-    return sourceID % u' ' % Site::name(url).value_or(url);
-}
-
-std::optional<IconPixels> PageFinder::knownIcon(const QString &sourceID, const QString &url) const
-{
-    return m_icons.value(iconKey(sourceID, url));
-}
-
-bool PageFinder::isIconKnown(const QString &sourceID, const QString &url) const
-{
-    return m_icons.contains(iconKey(sourceID, url));
-}
-
-void PageFinder::findIcon(const QString &sourceID, const QString &url, const ReadContext &context)
-{
-    const std::optional<Source> from = source(sourceID);
-    if (!from)
-        return;
-    auto store = m_iconStores.find(sourceID);
-    if (store == m_iconStores.end()) {
-        auto opened = PageIcons::of(*from, context);
-        // Icons are an ornament: nobody is told when they cannot be read.
-        store =
-            m_iconStores
-                .emplace(sourceID, opened ? std::optional(std::move(*opened)) : std::optional<PageIcons>())
-                .first;
-    }
-    const std::optional<Favicon> icon = store->second ? store->second->icon(url) : std::nullopt;
-    if (m_icons.size() >= mostIcons)
-        m_icons.clear();
-    m_icons.insert(iconKey(sourceID, url),
-                   icon ? PngIcon::decode(encoded(*icon, *context.files)) : std::nullopt);
 }
 
 } // namespace roamlet

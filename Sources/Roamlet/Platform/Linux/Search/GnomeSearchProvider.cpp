@@ -69,7 +69,3 @@ void GnomeSearchProvider::LaunchSearch(const QStringList &terms, uint /*timestam
 }
 
 } // namespace roamlet
-
-// With those of all other classes it would bring what they need into the program: the library of windows.
-// NOLINTNEXTLINE(bugprone-suspicious-include)
-#include "moc_GnomeSearchProvider.cpp"

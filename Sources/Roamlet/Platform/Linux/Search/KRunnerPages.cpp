@@ -89,7 +89,3 @@ void KRunnerPages::SetActivationToken(const QString &token)
 }
 
 } // namespace roamlet
-
-// With those of all other classes it would bring what they need into the program: the library of windows.
-// NOLINTNEXTLINE(bugprone-suspicious-include)
-#include "moc_KRunnerPages.cpp"

@@ -64,7 +64,3 @@ void SearchService::busHasGone()
 }
 
 } // namespace roamlet
-
-// With those of all other classes it would bring what they need into the program: the library of windows.
-// NOLINTNEXTLINE(bugprone-suspicious-include)
-#include "moc_SearchService.cpp"
