@@ -10,7 +10,7 @@ build=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-svg-dev qt6-l10n-tools 
 samples=(libplist-dev)
 test=(libgtest-dev libgmock-dev sqlite3 dbus-daemon desktop-file-utils appstream groff-base)
 # Without these the tests that need them say that they were skipped.
-optional_test=(chromium firefox-esr openssl xvfb openbox at-spi2-core)
+optional_test=(chromium firefox-esr openssl xvfb openbox at-spi2-core bash-completion zsh fish jq fzf rofi xdotool)
 lint=(git clang-format-19 clang-tidy-19)
 # The compiler with its sanitizers, and what makes one file of SQLite's source package.
 fuzz=(clang-19 libclang-rt-19-dev llvm-19 dpkg-dev make tcl)

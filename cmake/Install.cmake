@@ -51,3 +51,13 @@ foreach(language de fr)
 endforeach()
 install(FILES ${CMAKE_BINARY_DIR}/installed/changelog.gz DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/roamlet)
 install(FILES ${CMAKE_SOURCE_DIR}/LICENSE DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/roamlet RENAME copyright)
+
+# What follows the program's name on the command line. Below /usr, Debian's zsh looks in the folder for packages only.
+set(completions ${resources}/Completions)
+set(zsh_functions site-functions)
+if(CMAKE_INSTALL_PREFIX STREQUAL "/usr")
+  set(zsh_functions vendor-completions)
+endif()
+install(FILES ${completions}/roamlet.bash DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME roamlet)
+install(FILES ${completions}/roamlet.zsh DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/${zsh_functions} RENAME _roamlet)
+install(FILES ${completions}/roamlet.fish DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d)

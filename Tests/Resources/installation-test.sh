@@ -16,7 +16,8 @@ for file in bin/roamlet share/applications/org.roamlet.Roamlet.desktop \
   share/krunner/dbusplugins/org.roamlet.Roamlet.desktop share/dbus-1/services/org.roamlet.Roamlet.Search.service \
   share/dbus-1/services/org.roamlet.Roamlet.service share/man/man1/roamlet.1.gz \
   share/man/de/man1/roamlet.1.gz share/man/fr/man1/roamlet.1.gz share/doc/roamlet/copyright \
-  share/doc/roamlet/changelog.gz; do
+  share/doc/roamlet/changelog.gz share/bash-completion/completions/roamlet share/zsh/site-functions/_roamlet \
+  share/fish/vendor_completions.d/roamlet.fish; do
   [ -f "$prefix/$file" ] || { echo "$file is missing"; status=1; }
 done
 [ -x "$prefix/bin/roamlet" ] || { echo "the program cannot be run"; status=1; }
