@@ -232,6 +232,31 @@ TEST_F(OpenerTest, aTextThatABrowserWouldTakeForAnOptionIsNoUrl)
               QList<QStringList>({{u"profile"_s, u"chrome"_s, u"Profile 1"_s, u"http://ok/"_s}}));
 }
 
+TEST_F(OpenerTest, whetherALinkIsOpenedIsSaid)
+{
+    EXPECT_TRUE(opener.openLinks({{u"http://one/"_s, chrome}, {u"http://two/"_s, firefox}}));
+    EXPECT_TRUE(opener.openLinks({{u"http://one/"_s, Source::safari()}}));
+    EXPECT_FALSE(opener.openLinks({{u"-one"_s, chrome}, {u"http://two/"_s, firefox}}));
+    EXPECT_FALSE(opener.openLinks({{u"http://one/"_s, chrome}, {u"data:two"_s, firefox}}));
+    EXPECT_FALSE(opener.openLinks({{u"no address"_s, Source::safari()}, {u"http://one/"_s, edge}}));
+    workspace.missing = Source::Kind::Edge;
+    workspace.requests.clear();
+    EXPECT_FALSE(opener.openLinks({{u"http://one/"_s, edge}, {u"http://two/"_s, chrome}}));
+    EXPECT_EQ(workspace.requests.size(), 2) << "one that cannot be opened stops no other";
+}
+
+TEST_F(OpenerTest, whatABrowserCanBeGivenIsKnownBefore)
+{
+    EXPECT_TRUE(Opener::canOpen({u"javascript:x"_s, chrome}));
+    EXPECT_FALSE(Opener::canOpen({u" --incognito"_s, chrome}));
+    EXPECT_FALSE(Opener::canOpen({u""_s, chrome}));
+    EXPECT_FALSE(Opener::canOpen({u"no address"_s, profileOf(Source::Kind::Chrome, {})}));
+    EXPECT_TRUE(Opener::canOpen({u"about:config"_s, firefox}));
+    EXPECT_FALSE(Opener::canOpen({u"javascript:x"_s, firefox}));
+    EXPECT_TRUE(Opener::canOpen({u"javascript:x"_s, Source::safari()}));
+    EXPECT_FALSE(Opener::canOpen({u"no address"_s, Source::safari()}));
+}
+
 TEST_F(OpenerTest, historyPagesAreTheBrowsersOwn)
 {
     opener.showHistory(Source::safari());

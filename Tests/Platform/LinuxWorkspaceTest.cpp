@@ -98,6 +98,30 @@ TEST_F(LinuxWorkspaceTest, aSideProfileOfOperasThatIsGoneDoesNotComeBack)
     EXPECT_TRUE(starts().isEmpty());
 }
 
+TEST_F(LinuxWorkspaceTest, whetherAnythingIsOpenedIsSaid)
+{
+    desktop.addApplication(u"google-chrome.desktop"_s, u"chrome"_s);
+    const Source chrome = profileOf(Source::Kind::Chrome, u"Default"_s);
+    EXPECT_TRUE(workspace.openInProfile({u"http://a/"_s}, chrome));
+    EXPECT_TRUE(workspace.open({u"http://b/"_s}, Source::Kind::Chrome));
+    EXPECT_FALSE(workspace.openInProfile({u"http://a/"_s}, profileOf(Source::Kind::Edge, u"Default"_s)));
+    EXPECT_FALSE(workspace.open({u"http://a/"_s}, Source::Kind::Edge));
+    EXPECT_FALSE(workspace.openInProfile({QString(200'000, u'a')}, chrome)) << "longer than any argument";
+    EXPECT_FALSE(workspace.open({u"history://"_s}, Source::Kind::Safari));
+    EXPECT_TRUE(workspace.finishStarts());
+    EXPECT_EQ(starts().size(), 2);
+}
+
+TEST_F(LinuxWorkspaceTest, aBrowserThatCannotBeStartedIsSaid)
+{
+    const QString program = desktop.addProgram(u"chrome"_s);
+    desktop.addEntry(u"google-chrome.desktop"_s, program % u" %U");
+    // It can be run, and there is nothing to run it with.
+    sample::writeFile(program, "#!/nowhere/at-all\n");
+    EXPECT_TRUE(workspace.openInProfile({u"http://a/"_s}, profileOf(Source::Kind::Chrome, u"Default"_s)));
+    EXPECT_FALSE(workspace.finishStarts());
+}
+
 TEST_F(LinuxWorkspaceTest, noShellSeesTheArguments)
 {
     desktop.addApplication(u"google-chrome.desktop"_s, u"chrome"_s);
