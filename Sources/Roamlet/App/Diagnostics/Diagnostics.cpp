@@ -4,8 +4,7 @@
 #include "App/Diagnostics/Diagnostics.h"
 
 #include "App/Diagnostics/BookmarkSearch.h"
-#include "App/Diagnostics/JsonLines.h"
-#include "App/Diagnostics/Printing.h"
+#include "App/Diagnostics/JobOutput.h"
 #include "App/Diagnostics/ProfileFacts.h"
 #include "App/Diagnostics/TextLayout.h"
 #include "Export/BookmarkExport.h"
@@ -39,12 +38,10 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-constexpr int success = 0;
-constexpr int failure = 1;
+constexpr int success = JobOutput::success;
+constexpr int failure = JobOutput::failure;
 constexpr int misuse = 2;
 
-/// Titles and labels wider than this do not push the next column of all the other rows away.
-constexpr int widestCell = 60;
 constexpr qsizetype topLength = 10;
 constexpr double defaultWatchSeconds = 60;
 
@@ -76,8 +73,8 @@ public:
     Job(const Command &command, const Platform &platform, Console &console, const std::stop_token &stop)
         : m_command(command),
           m_platform(platform),
-          m_console(console),
           m_stop(stop),
+          m_output(console, stop),
           m_context(LibraryReading::readContext(platform))
     {
         m_context.stop = stop;
@@ -100,12 +97,12 @@ private:
     /// The rows of these sources. The error stream tells which of them could not be read.
     HistoryResults history(const HistoryQuery &query, const QList<Source> &sources)
     {
-        return LibraryReading::history(query, sources, m_context,
-                                       [this](const Source &source, const ReadError &error) {
-                                           // Whoever has ended the run knows why nothing more was read.
-                                           if (!m_stop.stop_requested())
-                                               complain(source.label() % u": " % error.errorDescription());
-                                       });
+        return LibraryReading::history(
+            query, sources, m_context, [this](const Source &source, const ReadError &error) {
+                // Whoever has ended the run knows why nothing more was read.
+                if (!m_stop.stop_requested())
+                    m_output.complain(source.label() % u": " % error.errorDescription());
+            });
     }
     /// The pages that are asked for, the newest first. Complains where another program would take them for
     /// all.
@@ -133,68 +130,12 @@ private:
     /// What stands for the sources that the watcher reports, sorted.
     QStringList labels(const QSet<QString> &sourceIDs, const QList<Source> &profiles) const;
 
-    /// A text of the user's as it may be shown: unchanged, but never obeyed by a terminal.
-    QString text(const QString &stored) const
-    {
-        return m_console.isTerminal() ? TextLayout::shown(stored) : stored;
-    }
-    /// The same for a text of many lines.
-    QString lines(const QString &stored) const
-    {
-        if (!m_console.isTerminal())
-            return stored;
-        QStringList result = stored.split(u'\n');
-        for (QString &line : result)
-            line = TextLayout::shown(line.endsWith(u'\r') ? line.chopped(1) : line);
-        return result.join(u'\n');
-    }
-    /// A title, which may be of any length, as a column has it.
-    QString titleCell(const QString &title) const
-    {
-        return m_console.isTerminal() ? TextLayout::elided(text(title), widestCell) : title;
-    }
-    int print(const QStringList &lines) { return write(lines.join(u'\n') % u'\n'); }
-    /// Prints the rows for other programs.
-    template<typename Row>
-    int printJson(const QList<Row> &rows);
-    int write(const QString &output);
-    void complain(const QString &message) { roamlet::complain(m_console, message); }
-
     const Command &m_command;
     const Platform &m_platform;
-    Console &m_console;
     std::stop_token m_stop;
+    JobOutput m_output;
     ReadContext m_context;
-    bool m_canWrite = true;
 };
-
-int Job::write(const QString &output)
-{
-    if (m_stop.stop_requested())
-        return failure;
-    const Printed printed = roamlet::print(m_console, output);
-    m_canWrite = printed == Printed::Written;
-    return printed == Printed::Failed ? failure : success;
-}
-
-template<typename Row>
-int Job::printJson(const QList<Row> &rows)
-{
-    // Not a line at a time, and not all of a million at once.
-    constexpr qsizetype portion = qsizetype{1} << 20U;
-    int status = success;
-    QString lines;
-    for (const Row &row : rows) {
-        lines += JsonLines::line(JsonLines::object(row));
-        if (lines.size() < portion)
-            continue;
-        status = write(lines);
-        lines.clear();
-        if (!m_canWrite)
-            return status;
-    }
-    return lines.isEmpty() ? status : write(lines);
-}
 
 int Job::summary()
 {
@@ -204,41 +145,41 @@ int Job::summary()
                                                       m_context, m_platform.clock);
 
     if (snapshot.browserProfiles.isEmpty())
-        complain(u"No browser profiles were found in " % m_platform.folders.home());
+        m_output.complain(u"No browser profiles were found in " % m_platform.folders.home());
     const QList<ProfileFacts> profiles = ProfileFacts::of(snapshot);
     if (m_command.isJson)
-        return printJson(profiles);
+        return m_output.printJson(profiles);
 
     QList<QStringList> cells;
     QList<ProfileFacts> enabled;
     QStringList switchedOff;
     for (const ProfileFacts &profile : profiles) {
         if (!profile.isEnabled) {
-            switchedOff.append(text(profile.source.label()));
+            switchedOff.append(m_output.text(profile.source.label()));
             continue;
         }
         const QString newest = profile.latestVisit ? localTime(*profile.latestVisit) : u"none"_s;
         enabled.append(profile);
-        cells.append({text(profile.source.label()),
+        cells.append({m_output.text(profile.source.label()),
                       QString::number(profile.bookmarks) % u" bookmarks, " %
                           QString::number(profile.folders) % u" folders",
                       QString::number(profile.icons) % u" site icons",
                       QString::number(profile.pages) % u" history URLs, latest visit " % newest});
     }
-    const QStringList aligned = TextLayout::aligned(cells, widestCell);
+    const QStringList aligned = TextLayout::aligned(cells, JobOutput::widestCell);
 
     QStringList lines;
     for (qsizetype i = 0; i < aligned.size(); ++i) {
         lines.append(aligned[i]);
         for (const QString &line : enabled[i].problems)
-            lines.append(u"  ! " % text(line));
+            lines.append(u"  ! " % m_output.text(line));
     }
     if (!switchedOff.isEmpty())
         lines.append(u"Turned off in Settings: " % switchedOff.join(u", "_s));
     if (snapshot.safariBlocked)
         lines.append(u"Safari is blocked: grant Full Disk Access."_s);
     lines.append(u"Read in " % stopwatch.seconds() % u's');
-    return print(lines);
+    return m_output.print(lines);
 }
 
 std::expected<QList<BookmarkNode>, QString> Job::bookmarks(const QString &sourceID)
@@ -257,10 +198,10 @@ std::expected<QList<BookmarkNode>, QString> Job::bookmarks(const QString &source
     }
     const auto trees = BrowserReader::bookmarks(*source, m_context);
     for (const ReadError &error : trees ? trees->problems : trees.error())
-        complain(source->label() % u": " % error.errorDescription());
+        m_output.complain(source->label() % u": " % error.errorDescription());
     if (trees && trees->areEncrypted)
-        complain(Source::displayName(source->kind) % u" keeps the bookmarks of " % source->label() %
-                 u" encrypted. Only it can export them.");
+        m_output.complain(Source::displayName(source->kind) % u" keeps the bookmarks of " % source->label() %
+                          u" encrypted. Only it can export them.");
     return trees ? trees->roots : QList<BookmarkNode>();
 }
 
@@ -269,22 +210,22 @@ int Job::exportBookmarks(const std::optional<QString> &formatName, const std::op
     const std::optional<BookmarkExport::Format> format =
         formatName ? BookmarkExport::format(*formatName) : std::nullopt;
     if (!format) {
-        print({u"Formats: html, markdown, csv"_s});
+        m_output.print({u"Formats: html, markdown, csv"_s});
         return failure;
     }
     const auto tree = bookmarks(sourceID.value_or(Source::safari().id()));
     if (!tree)
-        complain(tree.error());
+        m_output.complain(tree.error());
     const QList<BookmarkNode> roots = tree.value_or(QList<BookmarkNode>());
     if (BookmarkExport::isTooDeep(*format, roots)) {
-        complain(u"The folders are nested too deeply for this format."_s);
+        m_output.complain(u"The folders are nested too deeply for this format."_s);
         return failure;
     }
     // Every bookmark of the flat list names all folders around it, which takes far more room than the tree.
     QList<Bookmark> flat;
     if (*format == BookmarkExport::Format::Csv)
         flat = BookmarkNode::flattened(roots);
-    return write(lines(BookmarkExport::render(*format, roots, flat)));
+    return m_output.write(m_output.lines(BookmarkExport::render(*format, roots, flat)));
 }
 
 int Job::top()
@@ -298,15 +239,15 @@ int Job::top()
     const QList<HistoryItem> first =
         rows.first(static_cast<qsizetype>(std::min<qint64>(rows.size(), length)));
     if (m_command.isJson)
-        return printJson(first);
+        return m_output.printJson(first);
 
     // No columns: the line is the same on a terminal and in a pipe.
     QStringList lines;
     for (const HistoryItem &row : first)
-        lines.append(QString::number(row.visitCount) % u"  " % text(row.source->name) % u"  " %
-                     text(row.site) % u"  " % text(row.title));
+        lines.append(QString::number(row.visitCount) % u"  " % m_output.text(row.source->name) % u"  " %
+                     m_output.text(row.site) % u"  " % m_output.text(row.title));
     lines.append(QString::number(rows.size()) % u" URLs in " % stopwatch.seconds() % u's');
-    return print(lines);
+    return m_output.print(lines);
 }
 
 HistoryResults Job::newestFirst(const HistoryQuery &query)
@@ -328,8 +269,8 @@ HistoryResults Job::newestFirst(const HistoryQuery &query)
     for (const HistoryItem &item : std::as_const(results.items))
         isCut = isCut || ++counts[item.source.id()] == query.limit;
     if (m_command.isJson && !m_command.limit && isCut)
-        complain(u"No profile was asked for more than its "_s % QString::number(query.limit) %
-                 u" newest rows. --limit says how many are wanted.");
+        m_output.complain(u"No profile was asked for more than its "_s % QString::number(query.limit) %
+                          u" newest rows. --limit says how many are wanted.");
     return results;
 }
 
@@ -342,7 +283,7 @@ int Job::search(HistoryQuery query)
     if (m_command.until)
         query.visited.end = m_command.until->end(now);
     if (query.visited.begin && query.visited.end && *query.visited.begin >= *query.visited.end) {
-        complain(u"Nothing lies between --since and --until: the one is not before the other."_s);
+        m_output.complain(u"Nothing lies between --since and --until: the one is not before the other."_s);
         return misuse;
     }
     // Of what was narrowed nothing may be missing. Rows that only mention the site go after the search, so
@@ -355,16 +296,16 @@ int Job::search(HistoryQuery query)
     if (m_command.limit)
         results.isCapped = cut(results.items);
     if (m_command.isJson)
-        return printJson(results.items);
+        return m_output.printJson(results.items);
 
     QList<QStringList> cells;
     cells.reserve(results.items.size());
     for (const HistoryItem &item : std::as_const(results.items))
-        cells.append(
-            {localTime(item.lastVisit), text(item.source.label()), titleCell(item.title), text(item.url)});
-    QStringList lines = TextLayout::aligned(cells, widestCell);
+        cells.append({localTime(item.lastVisit), m_output.text(item.source.label()),
+                      m_output.titleCell(item.title), m_output.text(item.url)});
+    QStringList lines = TextLayout::aligned(cells, JobOutput::widestCell);
     lines.append(countLine(results.items.size(), results.isCapped, stopwatch));
-    return print(lines);
+    return m_output.print(lines);
 }
 
 int Job::searchBookmarks(const QString &words)
@@ -376,24 +317,24 @@ int Job::searchBookmarks(const QString &words)
             if (m_stop.stop_requested())
                 return;
             for (const ReadError &error : trees ? trees->problems : trees.error())
-                complain(source.label() % u": " % error.errorDescription());
+                m_output.complain(source.label() % u": " % error.errorDescription());
             if (trees && trees->areEncrypted)
-                complain(Source::displayName(source.kind) % u" keeps the bookmarks of " % source.label() %
-                         u" encrypted. Only it can find them.");
+                m_output.complain(Source::displayName(source.kind) % u" keeps the bookmarks of " %
+                                  source.label() % u" encrypted. Only it can find them.");
         });
     const bool isCapped = cut(found);
     if (m_command.isJson)
-        return printJson(found);
+        return m_output.printJson(found);
 
     QList<QStringList> cells;
     cells.reserve(found.size());
     for (const Bookmark &bookmark : std::as_const(found))
         cells.append({bookmark.dateAdded ? localTime(*bookmark.dateAdded) : u"unknown time"_s,
-                      text(bookmark.source.label()), titleCell(bookmark.folder), titleCell(bookmark.title),
-                      text(bookmark.url)});
-    QStringList lines = TextLayout::aligned(cells, widestCell);
+                      m_output.text(bookmark.source.label()), m_output.titleCell(bookmark.folder),
+                      m_output.titleCell(bookmark.title), m_output.text(bookmark.url)});
+    QStringList lines = TextLayout::aligned(cells, JobOutput::widestCell);
     lines.append(countLine(found.size(), isCapped, stopwatch));
-    return print(lines);
+    return m_output.print(lines);
 }
 
 int Job::open(const QString &rowID, const OpenPage &openPage)
@@ -417,7 +358,7 @@ int Job::open(const QString &rowID, const OpenPage &openPage)
     const auto opened = row ? openPage(row->url, row->source) : std::unexpected(row.error());
     if (opened)
         return success;
-    complain(opened.error());
+    m_output.complain(opened.error());
     return failure;
 }
 
@@ -433,7 +374,7 @@ QStringList Job::labels(const QSet<QString> &sourceIDs, const QList<Source> &pro
     QStringList result;
     for (const QString &id : sourceIDs) {
         const auto source = std::ranges::find(profiles, id, &Source::id);
-        result.append(text(source == profiles.end() ? id : source->label()));
+        result.append(m_output.text(source == profiles.end() ? id : source->label()));
     }
     result.sort();
     return result;
@@ -457,21 +398,23 @@ int Job::watch(const std::optional<QString> &duration)
         const QList<Source> profiles = profilesNow();
         // One that lies elsewhere may be new, too.
         watcher.setProfiles(profiles);
-        status =
-            print({localTime(m_platform.clock.now()) % u"  " % labels(sourceIDs, profiles).join(u", "_s)});
-        if (!m_canWrite)
+        status = m_output.print(
+            {localTime(m_platform.clock.now()) % u"  " % labels(sourceIDs, profiles).join(u", "_s)});
+        if (!m_output.canWrite())
             loop.quit();
     };
     const auto endAtLimit = [&] {
         isLimitReached = true;
-        complain(u"The browsers' folders cannot be watched: the system has no more watches to give. "
-                 "fs.inotify.max_user_watches and fs.inotify.max_user_instances say how many there are."_s);
+        m_output.complain(
+            u"The browsers' folders cannot be watched: the system has no more watches to give. "
+            "fs.inotify.max_user_watches and fs.inotify.max_user_instances say how many there are."_s);
         loop.quit();
     };
     BrowserWatcher watcher(
         m_platform, [&](const QSet<QString> &sourceIDs) { report(watcher, sourceIDs); }, endAtLimit);
     if (!watcher.isWatching())
-        complain(u"The browsers' folders cannot be watched: the system reports no changes in them."_s);
+        m_output.complain(
+            u"The browsers' folders cannot be watched: the system reports no changes in them."_s);
     else
         watcher.setProfiles(profilesNow());
     if (!watcher.isWatching() || isLimitReached)
@@ -479,9 +422,10 @@ int Job::watch(const std::optional<QString> &duration)
     m_platform.clock.after(std::chrono::milliseconds(milliseconds), &loop, [&loop] { loop.quit(); });
     const std::stop_callback end(m_stop,
                                  [&loop] { QMetaObject::invokeMethod(&loop, "quit", Qt::QueuedConnection); });
-    complain(u"Watching the browsers' folders for "_s %
-             QString::number(static_cast<double>(milliseconds) / 1000, 'f', QLocale::FloatingPointShortest) %
-             u" s.");
+    m_output.complain(
+        u"Watching the browsers' folders for "_s %
+        QString::number(static_cast<double>(milliseconds) / 1000, 'f', QLocale::FloatingPointShortest) %
+        u" s.");
     loop.exec();
     return isLimitReached ? failure : status;
 }
