@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: MIT
 
 #include "ProgramTest.h"
+#include "SampleHome/PlainFiles.h"
+
+#include <QRegularExpression>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -162,6 +165,28 @@ TEST_F(ProgramOutputTest, aTerminalGetsLongTitlesCut)
     EXPECT_THAT(ended.lines().first().toStdString(),
                 AllOf(HasSubstr("東…"), HasSubstr("  https://a.example/")));
     EXPECT_LT(ended.lines().first().size(), 120);
+}
+
+TEST_F(ProgramOutputTest, everyJobSpeaksEnglishWhateverTheLanguage)
+{
+    home.addPages();
+    home.addBookmarks();
+    sample::writeFile(home.chrome(u"Profile 1/History"_s), QByteArray(5000, 'x'));
+    sample::writeFile(home.chrome(u"Profile 1/Bookmarks"_s), "{");
+    const auto printed = [this](const QStringList &arguments) {
+        const Ended ended = program.run(arguments);
+        static const QRegularExpression time(u"Read in .*s"_s);
+        return QString::fromUtf8(ended.output).remove(time).toStdString() + ended.errors.toStdString();
+    };
+    for (const QStringList &arguments : readingJobs + QList<QStringList>{{u"--help"_s}, {u"--no-such"_s}}) {
+        for (const QString &name : {u"LANGUAGE"_s, u"LC_MESSAGES"_s})
+            program.environment.remove(name);
+        const std::string english = printed(arguments);
+        EXPECT_NE(english, "");
+        program.environment.insert(u"LANGUAGE"_s, u"de:fr"_s);
+        program.environment.insert(u"LC_MESSAGES"_s, u"de_DE.UTF-8"_s);
+        EXPECT_EQ(printed(arguments), english) << arguments.first().toStdString();
+    }
 }
 
 } // namespace roamlet::testing

@@ -403,7 +403,9 @@ TEST_F(SidebarTest, aRowIsToldWholeWhereItsWordsAreCut)
         return QToolTip::text();
     };
     EXPECT_EQ(tip(), QString()) << "who can read it needs no tip";
-    sidebar.resize(90, 600);
+    QFont large = sidebar.font();
+    large.setPointSize(40);
+    sidebar.setFont(large);
     EXPECT_TRUE(tip().contains(u"Recent History"));
     QToolTip::hideText();
 }

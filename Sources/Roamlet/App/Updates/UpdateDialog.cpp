@@ -61,9 +61,9 @@ UpdateDialog::UpdateDialog(const QString &name, const QString &heading, Answer c
     layout->setSpacing(measures.boxPadding);
     layout->addLayout(top, 1);
     layout->addLayout(m_buttons);
-    // Not by a smallest width of the window's own: with that it would take no notice of what its buttons need.
+    // Not what its words need: they come from elsewhere, too.
     constexpr int narrowest = 400;
-    layout->addStrut(narrowest - (2 * margin));
+    setMinimumWidth(narrowest);
 }
 
 void UpdateDialog::setHeading(const QString &text)
@@ -125,6 +125,9 @@ void UpdateDialog::addButton(const QString &name, const QString &text, Role role
     button->setDefault(role == Role::Default);
     RoamletStyle::applyTo(*button);
     m_buttons->addWidget(button);
+    const QMargins around = layout()->contentsMargins();
+    setMinimumWidth(
+        std::max(minimumWidth(), m_buttons->totalMinimumSize().width() + around.left() + around.right()));
     connect(button, &QPushButton::clicked, this, [this, answer = std::move(answer)] { give(answer); });
     if (role == Role::Default)
         button->setFocus();
