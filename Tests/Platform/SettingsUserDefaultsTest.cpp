@@ -335,6 +335,24 @@ TEST_F(SettingsUserDefaultsTest, aFileThatCannotBeReadNowLosesNothing)
     EXPECT_EQ(content(), before);
 }
 
+TEST_F(SettingsUserDefaultsTest, aLockThatNobodyCanRemoveIsNotWaitedFor)
+{
+    const QByteArray before = "[General]\nshowDockIcon=true\n";
+    sample::writeFile(path(), before);
+    sample::writeFile(path() % u".lock/in it", "so that it is no lock of a run that died");
+    ::testing::internal::CaptureStderr();
+    {
+        SettingsUserDefaults defaults(path());
+        defaults.setBoolean(u"another"_s, true);
+        defaults.remove(u"showDockIcon"_s);
+        EXPECT_EQ(defaults.boolean(u"another"_s), true);
+        EXPECT_EQ(defaults.boolean(u"showDockIcon"_s), std::nullopt);
+    }
+    const QString told = QString::fromStdString(::testing::internal::GetCapturedStderr());
+    EXPECT_EQ(told.count(u"the settings cannot be saved in "_s), 1) << told.toStdString();
+    EXPECT_EQ(content(), before);
+}
+
 TEST_F(SettingsUserDefaultsTest, whatCannotBeSavedIsToldOnce)
 {
     sample::writeFile(folder() % u"/Roamlet", "a file in the place of the folder");

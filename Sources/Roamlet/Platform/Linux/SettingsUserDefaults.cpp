@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QLockFile>
 
 #include <utility>
 
@@ -34,6 +35,12 @@ bool canBeRead(const QString &path)
     return file.open(QFile::ReadOnly) && !file.readAll().contains('=') && file.error() == QFile::NoError;
 }
 
+/// A place where no file can be, beside one that is there.
+QString nowhere(const QString &path)
+{
+    return path % u"/none";
+}
+
 /// The file, or where it cannot be one of ours, a place where none can be: then the settings are those of a
 /// first start and are forgotten at the end. A pipe would never end, and a huge file take long.
 QString usable(const QString &path)
@@ -44,29 +51,49 @@ QString usable(const QString &path)
         return path;
     if (!file.isFile() || file.size() > largest) {
         qWarning("roamlet: %s is no file of settings and is left alone", qPrintable(path));
-        return path % u"/none";
+        return nowhere(path);
     }
     if (!canBeRead(path)) {
         qWarning("roamlet: %s cannot be read and is left alone", qPrintable(path));
-        return path % u"/none";
+        return nowhere(path);
     }
     return path;
+}
+
+/// Only this file: another program's or the system's settings are not ours.
+std::unique_ptr<QSettings> opened(const QString &path)
+{
+    auto settings = std::make_unique<QSettings>(path, QSettings::IniFormat);
+    settings->setFallbacksEnabled(false);
+    return settings;
+}
+
+/// Whether QSettings will come by the lock without which it writes nothing. It would wait for ever for one
+/// that nobody can remove, such as its own from the time before.
+bool canBeLocked(const QString &path)
+{
+    constexpr int patience = 500;
+    const QString name = path % u".lock";
+    QLockFile lock(name);
+    // Any other refusal is one for QSettings, too, and at once.
+    if (!lock.tryLock(patience))
+        return lock.error() != QLockFile::LockFailedError;
+    lock.unlock();
+    return !QFileInfo::exists(name);
 }
 
 } // namespace
 
 SettingsUserDefaults::SettingsUserDefaults(const QString &path)
-    : m_settings(usable(path), QSettings::IniFormat), m_isSaved(m_settings.fileName() == path)
+    : m_settings(opened(usable(path))), m_isSaved(m_settings->fileName() == path)
 {
-    // Only this file: another program's or the system's settings are not ours.
-    m_settings.setFallbacksEnabled(false);
 }
 
 std::optional<QStringList> SettingsUserDefaults::stringList(const QString &key) const
 {
-    if (!m_settings.contains(key))
+    if (!m_settings->contains(key))
         return {};
-    const QVariant value = m_settings.value(key);
+    const QVariant value = m_settings->value(key);
     // The file keeps a list of one as a plain text and an empty list as an invalid value.
     switch (value.typeId()) {
     case QMetaType::UnknownType:
@@ -82,7 +109,7 @@ std::optional<QStringList> SettingsUserDefaults::stringList(const QString &key) 
 
 std::optional<QString> SettingsUserDefaults::string(const QString &key) const
 {
-    const QVariant value = m_settings.value(key);
+    const QVariant value = m_settings->value(key);
     if (value.typeId() == QMetaType::QString)
         return value.toString();
     return {};
@@ -90,7 +117,7 @@ std::optional<QString> SettingsUserDefaults::string(const QString &key) const
 
 std::optional<bool> SettingsUserDefaults::boolean(const QString &key) const
 {
-    const QVariant value = m_settings.value(key);
+    const QVariant value = m_settings->value(key);
     const QString text = value.toString().toLower();
     if (value.typeId() == QMetaType::Bool || text == u"true" || text == u"false")
         return value.toBool();
@@ -99,7 +126,7 @@ std::optional<bool> SettingsUserDefaults::boolean(const QString &key) const
 
 std::optional<QByteArray> SettingsUserDefaults::bytes(const QString &key) const
 {
-    const QVariant value = m_settings.value(key);
+    const QVariant value = m_settings->value(key);
     if (value.typeId() == QMetaType::QByteArray || value.typeId() == QMetaType::QString)
         return value.toByteArray();
     return {};
@@ -127,26 +154,46 @@ void SettingsUserDefaults::setBytes(const QString &key, const QByteArray &value)
 
 void SettingsUserDefaults::remove(const QString &key)
 {
-    m_settings.remove(key);
+    prepareSaving();
+    m_settings->remove(key);
     save();
 }
 
 void SettingsUserDefaults::set(const QString &key, const QVariant &value)
 {
     // A file that is named outright would be made for everybody to read. One that is there keeps its mode.
-    if (QFile file(m_settings.fileName()); !file.exists() && QDir().mkpath(QFileInfo(file).path()))
+    if (QFile file(m_settings->fileName()); !file.exists() && QDir().mkpath(QFileInfo(file).path()))
         static_cast<void>(file.open(QFile::WriteOnly | QFile::NewOnly, QFile::ReadOwner | QFile::WriteOwner));
-    m_settings.setValue(key, value);
+    prepareSaving();
+    m_settings->setValue(key, value);
     // A choice of the user's must survive a crash a moment later.
     save();
 }
 
+void SettingsUserDefaults::prepareSaving()
+{
+    const QString path = m_settings->fileName();
+    if (!m_isSaved || canBeLocked(path))
+        return;
+    complain();
+    // Whatever has changed would be written at the end at the latest: from now on it is forgotten instead.
+    auto forgotten = opened(nowhere(path));
+    for (const QString &key : m_settings->allKeys())
+        forgotten->setValue(key, m_settings->value(key));
+    m_settings = std::move(forgotten);
+}
+
 void SettingsUserDefaults::save()
 {
-    m_settings.sync();
-    if (m_settings.status() == QSettings::NoError || !std::exchange(m_isSaved, false))
-        return;
-    qWarning("roamlet: the settings cannot be saved in %s", qPrintable(m_settings.fileName()));
+    m_settings->sync();
+    if (m_settings->status() != QSettings::NoError)
+        complain();
+}
+
+void SettingsUserDefaults::complain()
+{
+    if (std::exchange(m_isSaved, false))
+        qWarning("roamlet: the settings cannot be saved in %s", qPrintable(m_settings->fileName()));
 }
 
 } // namespace roamlet

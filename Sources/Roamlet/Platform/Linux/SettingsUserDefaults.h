@@ -7,6 +7,8 @@
 
 #include <QSettings>
 
+#include <memory>
+
 namespace roamlet
 {
 
@@ -30,14 +32,17 @@ public:
     void setBytes(const QString &key, const QByteArray &value) override;
     void remove(const QString &key) override;
 
-    void renew() override { m_settings.sync(); }
+    void renew() override { m_settings->sync(); }
 
 private:
     void set(const QString &key, const QVariant &value);
+    /// Before the settings change. Where they cannot be saved, they are those of this run only.
+    void prepareSaving();
     /// Complains once where it cannot.
     void save();
+    void complain();
 
-    QSettings m_settings;
+    std::unique_ptr<QSettings> m_settings;
     bool m_isSaved;
 };
 
