@@ -37,9 +37,7 @@ std::error_code LinuxConsole::writeOutput(QByteArrayView bytes)
     constexpr qsizetype atOnce = PIPE_BUF;
     while (!bytes.isEmpty()) {
         std::array<pollfd, 2> descriptors{pollfd{STDOUT_FILENO, POLLOUT, 0}, pollfd{m_wake, POLLIN, 0}};
-        if (poll(descriptors.data(), descriptors.size(), -1) < 0)
-            continue;
-        if (descriptors[1].revents != 0)
+        if (waitFor(descriptors) && descriptors[1].revents != 0)
             return std::make_error_code(std::errc::operation_canceled);
         // One write for each look: whoever shares a terminal with us may have set it to refuse instead of to
         // wait.

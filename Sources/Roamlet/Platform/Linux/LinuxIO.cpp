@@ -9,6 +9,8 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <chrono>
+#include <thread>
 
 namespace roamlet
 {
@@ -28,6 +30,19 @@ std::error_code writeAll(int descriptor, QByteArrayView bytes)
             return lastError();
     }
     return {};
+}
+
+bool waitFor(std::span<pollfd> descriptors)
+{
+    constexpr std::chrono::milliseconds moment{10};
+    for (;;) {
+        if (::poll(descriptors.data(), descriptors.size(), -1) >= 0)
+            return true;
+        if (errno == EINTR)
+            continue;
+        std::this_thread::sleep_for(moment);
+        return false;
+    }
 }
 
 bool ensureDescriptors()

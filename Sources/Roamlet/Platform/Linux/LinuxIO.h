@@ -7,6 +7,9 @@
 
 #include <system_error>
 
+#include <poll.h>
+#include <span>
+
 namespace roamlet
 {
 
@@ -14,6 +17,10 @@ namespace roamlet
 std::error_code lastError();
 /// Writes all the bytes to a file descriptor, however many calls that takes.
 std::error_code writeAll(int descriptor, QByteArrayView bytes);
+/// Waits until something can be done with one of these, and returns whether that is known: the system can
+/// lack the memory to say so. Then it returns after a moment, so that whoever tries again does not keep a
+/// core busy.
+bool waitFor(std::span<pollfd> descriptors);
 /// Sees to it that the process may have as many files open as it needs, as far as the system lets it. False
 /// where that is so few that nothing could be read.
 bool ensureDescriptors();

@@ -3,6 +3,8 @@
 
 #include "Platform/Linux/StopSignals.h"
 
+#include "Platform/Linux/LinuxIO.h"
+
 #include <signal.h>
 #include <sys/eventfd.h>
 #include <sys/signalfd.h>
@@ -11,7 +13,6 @@
 
 #include <array>
 #include <cstdint>
-#include <poll.h>
 
 namespace roamlet
 {
@@ -43,7 +44,7 @@ StopSignals::StopSignals()
     m_wake = eventfd(0, EFD_CLOEXEC);
     try {
         if (m_signals >= 0 && m_wake >= 0)
-            m_listener = std::jthread([this] { listen(); });
+            m_listener = std::jthread([this](const std::stop_token &end) { listen(end); });
     } catch (const std::system_error &) {
         // There is no thread for it.
     }
@@ -55,6 +56,7 @@ StopSignals::StopSignals()
 StopSignals::~StopSignals()
 {
     if (m_listener.joinable()) {
+        m_listener.request_stop();
         eventfd_write(m_wake, 1);
         m_listener.join();
     }
@@ -64,10 +66,12 @@ StopSignals::~StopSignals()
     pthread_sigmask(SIG_UNBLOCK, &signals, nullptr);
 }
 
-void StopSignals::listen()
+void StopSignals::listen(const std::stop_token &end)
 {
     std::array<pollfd, 2> sources{pollfd{m_signals, POLLIN, 0}, pollfd{m_wake, POLLIN, 0}};
-    while (poll(sources.data(), sources.size(), -1) < 0) {
+    while (!waitFor(sources)) {
+        if (end.stop_requested())
+            return;
     }
     signalfd_siginfo signal = {};
     if ((sources[0].revents & POLLIN) == 0 || read(m_signals, &signal, sizeof(signal)) != sizeof(signal))

@@ -26,7 +26,7 @@ public:
     void endProcessIfAsked();
 
 private:
-    void listen();
+    void listen(const std::stop_token &end);
 
     std::stop_source m_stop;
     std::atomic<int> m_received = 0;
