@@ -9,6 +9,11 @@
 #include "SampleHome/FirefoxFiles.h"
 #include "SampleHome/PlainFiles.h"
 #include "SampleHome/SafariFiles.h"
+#include "SampleHome/SqliteFile.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QtEndian>
 
 #include <algorithm>
 
@@ -26,6 +31,48 @@ using sample::Text;
 
 namespace
 {
+
+/// Leads all rows of a database that continue on further pages to the pages of the first of them, and cuts
+/// the others off.
+void shareOverflowPages(const QString &path, qint64 size)
+{
+    QFile file(path);
+    ASSERT_TRUE(file.open(QFile::ReadWrite));
+    QByteArray bytes = file.readAll();
+    const auto number = [&bytes](qsizetype place) {
+        return qFromBigEndian<quint16>(bytes.constData() + place);
+    };
+    const auto varint = [&bytes](qsizetype &place) {
+        qint64 value = 0;
+        for (bool goesOn = true; goesOn; ++place) {
+            value = value << 7 | (bytes[place] & 0x7f);
+            goesOn = (bytes[place] & 0x80) != 0;
+        }
+        return value;
+    };
+    const qsizetype page = number(16);
+    const qint64 least = ((page - 12) * 32 / 255) - 23;
+    QByteArray first;
+    for (qsizetype begin = page; begin < bytes.size(); begin += page) {
+        constexpr char leafOfTable = 13;
+        for (int cell = 0; bytes[begin] == leafOfTable && cell < number(begin + 3); ++cell) {
+            qsizetype place = begin + number(begin + 8 + (2 * cell));
+            const qint64 payload = varint(place);
+            varint(place);
+            if (payload <= page - 35)
+                continue;
+            const qint64 local = least + ((payload - least) % (page - 4));
+            place += local <= page - 35 ? local : least;
+            if (first.isEmpty())
+                first = bytes.mid(place, 4);
+            bytes.replace(place, 4, first);
+        }
+    }
+    ASSERT_FALSE(first.isEmpty());
+    bytes.truncate(size);
+    qToBigEndian(static_cast<quint32>(size / page), bytes.data() + 28);
+    ASSERT_TRUE(file.resize(size) && file.seek(0) && file.write(bytes) == size);
+}
 
 class FaviconReading : public ReaderTest
 {
@@ -200,6 +247,35 @@ TEST_F(FaviconReading, rowsWithNullsAreSkipped)
                                    "INSERT INTO favicon_bitmaps VALUES(1, x'01', NULL), (NULL, x'02', 16);"
                                    "INSERT INTO icon_mapping VALUES(NULL, 1), ('https://a.example/', 1)");
     EXPECT_EQ(chromium(), (Favicons{{u"a.example"_s, FaviconData{"\x01"}}}));
+}
+
+TEST_F(FaviconReading, bitmapsThatAllLieInTheSamePlaceAreAnErrorBeforeTheyFillTheMemory)
+{
+    // All but the beginning of each of them lies on pages of its own, one bitmap after the other.
+    const QString file = chromeFile(u"Favicons"_s);
+    const auto writeBitmaps = [&](int count) {
+        QFile::remove(file);
+        sample::writeFile(file, "");
+        sample::Database database(file);
+        database.execute("CREATE TABLE favicon_bitmaps(icon_id, image_data, width);"
+                         "CREATE TABLE icon_mapping(page_url, icon_id)");
+        for (int i = 1; i <= count; ++i) {
+            const QByteArray number = QByteArray::number(i);
+            const QByteArray rows = "INSERT INTO favicon_bitmaps VALUES(" + number +
+                                    ", zeroblob(4092 * 250), 32); INSERT INTO icon_mapping "
+                                    "VALUES('https://site" +
+                                    number + ".example/', " + number + ")";
+            database.execute(rows.constData());
+        }
+    };
+    change([&] { writeBitmaps(1); });
+    const qint64 sizeOfOne = QFileInfo(file).size();
+    change([&] { writeBitmaps(6); });
+    EXPECT_EQ(chromium().size(), 6) << "honest ones";
+    change([&] { shareOverflowPages(file, sizeOfOne); });
+    const auto favicons = FaviconReader::chromium(chrome(), context());
+    ASSERT_FALSE(favicons);
+    EXPECT_EQ(favicons.error().reason(), u"database disk image is malformed"_s);
 }
 
 TEST_F(FaviconReading, eachProfileHasItsOwnIcons)

@@ -141,7 +141,9 @@ std::optional<QString> SQLiteSnapshot::Row::text(int column) const
 QByteArrayView SQLiteSnapshot::Row::blob(int column) const
 {
     const void *bytes = sqlite3_column_blob(m_statement, column);
-    return {static_cast<const char *>(bytes), sqlite3_column_bytes(m_statement, column)};
+    const int size = sqlite3_column_bytes(m_statement, column);
+    m_blobBytesLeft -= size;
+    return {static_cast<const char *>(bytes), size};
 }
 
 /// Whether this is much of something, and no database. SQLite could only say so of a copy, which would have
@@ -302,6 +304,8 @@ public:
         return {};
     }
 
+    std::int64_t blobBytesLeft = 0;
+
     sqlite3 *handle() const { return m_handle; }
     const std::stop_token &stop() const { return m_stop; }
 
@@ -313,7 +317,11 @@ public:
         constexpr std::int64_t perByte = 20;
         // Asking for the size takes steps as well.
         m_checksLeft = always / stepsPerCheck;
-        m_checksLeft = (always + perByte * size()) / stepsPerCheck * (1 + parameters);
+        const std::int64_t bytes = size();
+        m_checksLeft = (always + perByte * bytes) / stepsPerCheck * (1 + parameters);
+        // No honest row shares its bytes with another one. What is computed has no room in the file.
+        constexpr std::int64_t computed = std::int64_t{1} << 20U;
+        blobBytesLeft = bytes + computed;
     }
 
     /// The bytes of the database with its logs, or 0 when it is none.
@@ -394,8 +402,12 @@ std::expected<void, ReadError> SQLiteSnapshot::query(const QString &sql, const Q
     for (int i = 0; i < parameters.size(); ++i)
         sqlite3_bind_text(prepared, i + 1, parameters[i].toUtf8().constData(), -1, SQLITE_TRANSIENT);
     int step = sqlite3_step(prepared);
-    for (; step == SQLITE_ROW; step = sqlite3_step(prepared))
-        handleRow(Row(prepared));
+    for (; step == SQLITE_ROW; step = sqlite3_step(prepared)) {
+        handleRow(Row(prepared, m_connection->blobBytesLeft));
+        if (m_connection->blobBytesLeft < 0)
+            return std::unexpected(
+                ReadError::unreadable(u"query"_s, QString::fromUtf8(sqlite3_errstr(SQLITE_CORRUPT))));
+    }
     if (step != SQLITE_DONE)
         return std::unexpected(queryError(connection));
     return {};

@@ -37,7 +37,11 @@ public:
     public:
         enum class Kind { Integer, Real, Text, Blob, Null };
 
-        explicit Row(sqlite3_stmt *statement) : m_statement(statement) {}
+        /// What blobs it gives is taken from `blobBytesLeft`.
+        Row(sqlite3_stmt *statement, std::int64_t &blobBytesLeft)
+            : m_statement(statement), m_blobBytesLeft(blobBytesLeft)
+        {
+        }
 
         std::int64_t integer(int column) const;
         double real(int column) const;
@@ -52,6 +56,7 @@ public:
 
     private:
         sqlite3_stmt *m_statement;
+        std::int64_t &m_blobBytesLeft;
     };
     using RowHandler = std::function<void(const Row &)>;
 
@@ -65,7 +70,7 @@ public:
     ~SQLiteSnapshot();
 
     /// Runs one statement with text parameters and hands over every row. After an error the rows so far are
-    /// to be discarded.
+    /// to be discarded. That the rows give more bytes of blobs than the database has room for is one.
     std::expected<void, ReadError> query(const QString &sql, const QStringList &parameters,
                                          const RowHandler &handleRow) const;
     /// Another reader of the same copy, for another thread. This one has to have run a statement: with the
