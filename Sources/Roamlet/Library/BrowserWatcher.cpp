@@ -94,10 +94,12 @@ QHash<QString, QString> stampsIn(const QStringList &folders, const Files &files,
 
 } // namespace
 
-BrowserWatcher::BrowserWatcher(const Platform &platform, Handler onChange, std::function<void()> onLimit)
+BrowserWatcher::BrowserWatcher(const Platform &platform, Handler onChange, std::function<void()> onLimit,
+                               std::function<void(const QStringList &folders)> onSilence)
     : m_platform(platform),
       m_onChange(std::move(onChange)),
       m_onLimit(std::move(onLimit)),
+      m_onSilence(std::move(onSilence)),
       m_stream(open(watchedFolders(platform)))
 {
     lookWhereNobodyTells();
@@ -160,6 +162,17 @@ void BrowserWatcher::lookWhereNobodyTells()
         look(silent);
     if (isLimitReached && !std::exchange(m_isLimitReached, true) && m_onLimit)
         m_onLimit();
+    if (isLimitReached || !m_onSilence)
+        return;
+    QStringList added;
+    for (const QString &folder : std::as_const(silent)) {
+        if (!m_silentFolders.contains(folder))
+            added.append(folder);
+        m_silentFolders.insert(folder);
+    }
+    added.sort();
+    if (!added.isEmpty())
+        m_onSilence(added);
 }
 
 void BrowserWatcher::look(const QStringList &folders)

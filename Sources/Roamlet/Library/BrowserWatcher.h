@@ -36,8 +36,10 @@ public:
     static constexpr std::chrono::minutes lookInterval{1};
 
     /// Watches from now on; `onChange` gets the ids of the sources whose files really changed. `onLimit` is
-    /// called once, perhaps right now, when the system has no more watches to give.
-    BrowserWatcher(const Platform &platform, Handler onChange, std::function<void()> onLimit = {});
+    /// called once, perhaps right now, when the system has no more watches to give. `onSilence` is called
+    /// with the folders, each of them once, that are only looked at from time to time for another reason.
+    BrowserWatcher(const Platform &platform, Handler onChange, std::function<void()> onLimit = {},
+                   std::function<void(const QStringList &folders)> onSilence = {});
 
     /// Whether the system reports changes of the browsers' files.
     bool isWatching() const { return m_stream != nullptr; }
@@ -67,6 +69,9 @@ private:
     Handler m_onChange;
     std::function<void()> m_onLimit;
     bool m_isLimitReached = false;
+    std::function<void(const QStringList &folders)> m_onSilence;
+    /// What was told of.
+    QSet<QString> m_silentFolders;
     /// The last stamp seen of each file.
     QHash<QString, QString> m_stamps;
     /// The profiles that lie elsewhere, by folder. Two installations may list the same one.
