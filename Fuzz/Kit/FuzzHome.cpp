@@ -51,8 +51,11 @@ FuzzHome::FuzzHome(const QString &file)
 
 ReadContext FuzzHome::context() const
 {
-    return {
-        .folders = BrowserFolders::of(m_folders, files), .files = &files, .locale = u"en_US"_s, .stop = {}};
+    return {.folders = BrowserFolders::of(m_folders, files),
+            .files = &files,
+            .locale = u"en_US"_s,
+            .stop = {},
+            .onUnreadableList = {}};
 }
 
 void FuzzHome::reading(QByteArrayView bytes, const std::function<void()> &read) const

@@ -3,8 +3,11 @@
 
 #include "SampleHome/PlainFiles.h"
 #include "Support/LibraryHome.h"
+#include "Support/Waiting.h"
 
 #include <atomic>
+#include <new>
+#include <string>
 
 namespace roamlet::testing
 {
@@ -40,6 +43,56 @@ TEST_F(LibraryReadingTest, whatCannotBeReadIsTriedOnceMoreAfterASecondAndKeepsWh
     home.files.failure = {};
     loadNow(library, QSet<QString>{u"chrome/Default"_s});
     EXPECT_TRUE(library.snapshot().problems.isEmpty());
+}
+
+TEST_F(LibraryReadingTest, whatThereIsNoMemoryForIsAProblemOfEachSourceAndKeepsWhatWasKnown)
+{
+    addChromium();
+    const auto lackMemory = [] { throw std::bad_alloc(); };
+    Library library(home.platform());
+    home.files.beforeStamp = lackMemory;
+    loadNow(library);
+    EXPECT_EQ(library.snapshot().sources.size(), 3);
+    EXPECT_EQ(library.snapshot().problems.size(), 3);
+    EXPECT_TRUE(library.snapshot().history.isEmpty());
+
+    home.files.beforeStamp = {};
+    loadNow(library);
+    EXPECT_TRUE(library.snapshot().problems.isEmpty());
+    home.files.beforeStamp = lackMemory;
+    loadNow(library);
+    EXPECT_EQ(library.snapshot().problems.value(u"chrome/Default"_s),
+              QString(u"Couldn't read " % chromeFile(u"Default/History"_s) % u": Cannot allocate memory"));
+    EXPECT_EQ(titles(library.snapshot().history), (QStringList{u"a1"_s, u"a2"_s, u"b1"_s, u"e1"_s}));
+    EXPECT_TRUE(library.snapshot().historyStates.isEmpty()) << "nobody knows what the files hold now";
+
+    // What the user has just switched off must not stay.
+    library.setEnabled(false, *library.source(u"chrome/Default"_s));
+    ASSERT_TRUE(waitUntil([&library] { return !library.isLoading(); }));
+    EXPECT_TRUE(library.snapshot().history.isEmpty());
+    EXPECT_EQ(library.snapshot().problems.size(), 2);
+    home.files.beforeStamp = {};
+}
+
+TEST_F(LibraryReadingTest, aListOfProfilesThatCannotBeReadIsToldOnce)
+{
+    addChromium();
+    const QString list = home.path(u".mozilla/firefox/profiles.ini"_s);
+    const QString folder = home.path(u".mozilla/firefox/a"_s);
+    change([&] {
+        sample::writeFile(folder % u"/places.sqlite", "no database");
+        sample::writeFile(list, "[Profile0]\nName=A\nIsRelative=1\nPath=a\n");
+    });
+    Library library(home.platform());
+    loadNow(library);
+    ASSERT_EQ(library.snapshot().sources.size(), 4);
+    fail(list, std::errc::io_error);
+    ::testing::internal::CaptureStderr();
+    loadNow(library);
+    loadNow(library);
+    const std::string told = ::testing::internal::GetCapturedStderr();
+    EXPECT_EQ(told, "roamlet: Couldn't read " + list.toStdString() + ": Input/output error\n");
+    EXPECT_EQ(library.snapshot().sources.size(), 4) << "what was known stays";
 }
 
 TEST_F(LibraryReadingTest, whatCouldNeverBeReadIsEmpty)

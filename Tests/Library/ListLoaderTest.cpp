@@ -10,6 +10,7 @@
 
 #include <gmock/gmock.h>
 #include <memory>
+#include <new>
 #include <string>
 #include <vector>
 
@@ -564,6 +565,21 @@ TEST_F(ListLoaderTest, aLateAnswerBringsNothingBackIntoMemory)
     EXPECT_FALSE(library.isReadyForSearch());
     EXPECT_TRUE(waitUntil([this] { return home.leftovers().isEmpty(); }));
     EXPECT_FALSE(library.isReadyForSearch());
+}
+
+TEST_F(ListLoaderTest, whatThereIsNoMemoryForIsAnEmptyListThatSaysSo)
+{
+    std::vector<bool> lacksMemory;
+    QObject::connect(loader.get(), &ListLoader::listLoaded, loader.get(),
+                     [&](const ShownList &list) { lacksMemory.push_back(list.lacksMemory); });
+    home.files.beforeStamp = [] { throw std::bad_alloc(); };
+    EXPECT_THAT(listsOf(wish()), ElementsAre(""));
+    // The next time there may be more.
+    home.files.beforeStamp = {};
+    loader->load(wish());
+    finish();
+    EXPECT_EQ(lists.back(), "same: a1 a2 b1 e1");
+    EXPECT_THAT(lacksMemory, ElementsAre(true, false));
 }
 
 TEST_F(ListLoaderTest, nothingComesOnceTheLoaderIsGone)

@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <atomic>
 #include <latch>
+#include <new>
 #include <thread>
 #include <vector>
 
@@ -28,6 +29,22 @@ TEST(ParallelTest, everyIndexIsWorkedOnOnce)
         });
         for (const std::atomic<int> &number : calls)
             EXPECT_EQ(number, 1);
+    }
+}
+
+TEST(ParallelTest, whatOneThrowsIsThrownOnceAllHaveEnded)
+{
+    for (const size_t count : {size_t{1}, size_t{2}, size_t{20}}) {
+        std::atomic<size_t> ended = 0;
+        EXPECT_THROW(forEachInParallel(count,
+                                       [&](size_t index, CoreTurns &turns) {
+                                           const CoreTurns::Turn turn(turns);
+                                           ++ended;
+                                           if (index == count / 2)
+                                               throw std::bad_alloc();
+                                       }),
+                     std::bad_alloc);
+        EXPECT_EQ(ended, count);
     }
 }
 

@@ -180,7 +180,8 @@ ReadContext contextOf(const Platform &platform)
     return {.folders = BrowserFolders::of(platform.folders, platform.files),
             .files = &platform.files,
             .locale = u"en_US"_s,
-            .stop = {}};
+            .stop = {},
+            .onUnreadableList = {}};
 }
 
 QList<Source> allSources(const ReadContext &context)

@@ -236,6 +236,14 @@ TEST_F(LinuxFilesTest, readingTellsWhyItFailed)
     }
 }
 
+TEST_F(LinuxFilesTest, wantOfMemoryIsAnErrorOfTheFile)
+{
+    sample::writeFile(path(u"file"_s), "content");
+    const auto beginning = files.readBeginning(path(u"file"_s), std::numeric_limits<qsizetype>::max());
+    ASSERT_FALSE(beginning);
+    EXPECT_EQ(beginning.error(), std::errc::not_enough_memory);
+}
+
 TEST_F(LinuxFilesTest, nothingWaitsForAPipeOrADevice)
 {
     const QString target = path(u"target"_s);

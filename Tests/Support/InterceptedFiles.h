@@ -19,6 +19,8 @@ public:
     std::function<std::error_code(const QString &path)> failure;
     /// Answered in the place of making a private folder.
     std::error_code privateFolderFailure;
+    /// Called before a lasting stamp is taken. Called on the reading thread.
+    std::function<void()> beforeStamp;
     /// Called after a file was copied with what stands beside it, for each of them, before anybody looks at
     /// their stamps again. Called on the reading thread.
     std::function<void(const QString &source)> afterCopy;
@@ -26,6 +28,13 @@ public:
     /// Called when one file of a copy has been copied, and what stands beside it has not. Called on the
     /// reading thread.
     std::function<void(const QString &source, const QString &target)> betweenFiles;
+
+    QString lastingStamp(const QString &path) const override
+    {
+        if (beforeStamp)
+            beforeStamp();
+        return LinuxFiles::lastingStamp(path);
+    }
 
     std::expected<QByteArray, std::error_code> read(const QString &path) const override
     {

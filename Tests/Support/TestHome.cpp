@@ -21,7 +21,11 @@ TestHome::TestHome()
 
 ReadContext TestHome::context() const
 {
-    return {.folders = BrowserFolders::of(folders, files), .files = &files, .locale = u"en_US"_s, .stop = {}};
+    return {.folders = BrowserFolders::of(folders, files),
+            .files = &files,
+            .locale = u"en_US"_s,
+            .stop = {},
+            .onUnreadableList = {}};
 }
 
 QStringList TestHome::leftovers() const

@@ -24,6 +24,12 @@ namespace
 /// Browsers write in bursts; one reload is enough for each.
 constexpr std::chrono::seconds reloadDelay{5};
 
+/// What a pass of reading ends in.
+struct Pass {
+    Snapshot snapshot;
+    QStringList unreadableLists;
+};
+
 } // namespace
 
 Library::Library(const Platform &platform, QObject *parent)
@@ -88,12 +94,28 @@ void Library::readNext()
             Confinement::ofReadingThread(context.folders.temporary);
             ReadContext stoppable = context;
             stoppable.stop = stop;
-            return LibraryReading::readAll(request, stoppable, *clock);
+            Pass pass;
+            stoppable.onUnreadableList = [&pass](const ReadError &error) {
+                pass.unreadableLists.append(error.errorDescription());
+            };
+            pass.snapshot = LibraryReading::readAll(request, stoppable, *clock);
+            return pass;
         },
-        [this](Snapshot snapshot) {
-            publish(std::move(snapshot));
+        [this](Pass pass) {
+            noteUnreadableLists(pass.unreadableLists);
+            publish(std::move(pass.snapshot));
             readNext();
         });
+}
+
+void Library::noteUnreadableLists(const QStringList &errors)
+{
+    // Each pass finds the same.
+    const QStringList known = std::exchange(m_unreadableLists, errors);
+    for (const QString &error : errors) {
+        if (!known.contains(error))
+            qWarning("roamlet: %s", qPrintable(error));
+    }
 }
 
 void Library::publish(Snapshot snapshot)

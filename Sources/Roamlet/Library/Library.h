@@ -105,6 +105,8 @@ private:
     void publish(Snapshot snapshot);
     void filesChanged(const QSet<QString> &sourceIDs);
     void noteWatchLimit();
+    /// Tells of lists of profiles that could not be read, once.
+    void noteUnreadableLists(const QStringList &errors);
     void refreshMenu();
 
     Platform m_platform;
@@ -118,6 +120,7 @@ private:
     QSet<QString> m_pendingIDs;
     bool m_pendingAll = false;
     bool m_isReloadPending = false;
+    QStringList m_unreadableLists;
     RecentPages m_recent;
     SiteIcons m_icons;
     ProfileChoice m_choice;

@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <new>
 #include <utility>
 #include <vector>
 
@@ -86,6 +87,38 @@ Snapshot assemble(const QList<Source> &profiles, const QList<Source> &enabled, s
     return snapshot;
 }
 
+/// Reads these sources, as far as the request says, and puts together what they hold.
+Snapshot readEnabled(const Request &request, const QList<Source> &profiles, const QList<Source> &enabled,
+                     const ReadContext &context, const Clock &clock)
+{
+    std::vector<SourceRead> reads(static_cast<size_t>(enabled.size()));
+    forEachInParallel(reads.size(), [&](size_t index, CoreTurns &turns) {
+        const Source &source = enabled.at(static_cast<qsizetype>(index));
+        const bool isRequested = !request.only || request.only->contains(source.id());
+        const bool isKnown = isUnchanged(source, request.previous.sources);
+        const SourceRead kept = SourceRead::reused(source, request.previous);
+        reads[index] = isKnown && !isRequested ? kept : SourceRead::of(source, kept, context, clock, turns);
+    });
+    return assemble(profiles, enabled, std::move(reads));
+}
+
+/// What is left to show where there is not enough memory for what was read: why, and the rows from before,
+/// unless they are of other sources.
+Snapshot unread(const Snapshot &previous, const QList<Source> &profiles, const QList<Source> &enabled,
+                const ReadContext &context)
+{
+    Snapshot snapshot = enabled == previous.sources ? previous : Snapshot();
+    snapshot.sources = enabled;
+    snapshot.browserProfiles = profiles;
+    // Of what the files hold now, nothing is known.
+    snapshot.historyStates.clear();
+    for (const Source &source : enabled) {
+        const ReadError error = BrowserReader::noMemory(source, context);
+        snapshot.problems.insert(source.id(), error.errorDescription());
+    }
+    return snapshot;
+}
+
 } // namespace
 
 ReadContext readContext(const Platform &platform)
@@ -93,7 +126,8 @@ ReadContext readContext(const Platform &platform)
     return {.folders = BrowserFolders::of(platform.folders, platform.files),
             .files = &platform.files,
             .locale = UserLocale::collation(),
-            .stop = {}};
+            .stop = {},
+            .onUnreadableList = {}};
 }
 
 QList<Source> allProfiles(const std::optional<QList<Source>> &knownSafari, const ReadContext &context,
@@ -116,15 +150,11 @@ Snapshot readAll(const Request &request, const ReadContext &context, const Clock
     QList<Source> enabled = profiles;
     enabled.removeIf([&request](const Source &source) { return request.disabled.contains(source.id()); });
 
-    std::vector<SourceRead> reads(static_cast<size_t>(enabled.size()));
-    forEachInParallel(reads.size(), [&](size_t index, CoreTurns &turns) {
-        const Source &source = enabled.at(static_cast<qsizetype>(index));
-        const bool isRequested = !request.only || request.only->contains(source.id());
-        const bool isKnown = isUnchanged(source, request.previous.sources);
-        const SourceRead kept = SourceRead::reused(source, request.previous);
-        reads[index] = isKnown && !isRequested ? kept : SourceRead::of(source, kept, context, clock, turns);
-    });
-    return assemble(profiles, enabled, std::move(reads));
+    try {
+        return readEnabled(request, profiles, enabled, context, clock);
+    } catch (const std::bad_alloc &) {
+        return unread(request.previous, profiles, enabled, context);
+    }
 }
 
 HistoryResults history(const HistoryQuery &query, const QList<Source> &sources, const ReadContext &context,

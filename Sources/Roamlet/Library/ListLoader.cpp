@@ -7,6 +7,7 @@
 #include "Lists/Refine.h"
 #include "Platform/Clock.h"
 
+#include <new>
 #include <utility>
 
 namespace roamlet
@@ -35,6 +36,8 @@ struct ListLoader::Result {
     std::optional<HistorySearch::Answer> answer;
     /// Absent where there is nothing to show yet.
     SharedRowTree tree;
+    /// Whether nothing could be made for want of memory.
+    bool lacksMemory = false;
 };
 
 ListLoader::ListLoader(Library &library, const Clock &clock, std::shared_ptr<const Collation> collation,
@@ -150,6 +153,20 @@ void ListLoader::startJob(Effort effort)
 
 ListLoader::Result ListLoader::resultOf(const Job &job, const std::stop_token &stop)
 {
+    try {
+        return made(job, stop);
+    } catch (const std::bad_alloc &) {
+        return {.wish = job.wish,
+                .effort = job.effort,
+                .now = job.setting.now,
+                .answer = {},
+                .tree = {},
+                .lacksMemory = true};
+    }
+}
+
+ListLoader::Result ListLoader::made(const Job &job, const std::stop_token &stop)
+{
     Result result{
         .wish = job.wish, .effort = job.effort, .now = job.setting.now, .answer = job.found, .tree = {}};
     std::optional<RowTree> tree;
@@ -178,6 +195,10 @@ ListLoader::Result ListLoader::resultOf(const Job &job, const std::stop_token &s
 
 void ListLoader::take(const Result &result)
 {
+    if (result.lacksMemory && result.wish == m_wish) {
+        giveUp(result);
+        return;
+    }
     if (result.answer) {
         m_found = {result.wish.searchKey(), *result.answer};
         m_wait.reset();
@@ -211,6 +232,21 @@ void ListLoader::take(const Result &result)
         Q_EMIT listLoaded(*list);
     if (isChanged)
         Q_EMIT progressChanged();
+}
+
+void ListLoader::giveUp(const Result &result)
+{
+    const ListChange change = isReload(result.wish) ? ListChange::Reloaded : ListChange::Asked;
+    m_tree = std::make_shared<RowTree>();
+    m_shown = result.wish.refineKey();
+    m_isStandIn = false;
+    // There may be more the next time.
+    m_isOutdated = true;
+    m_found.reset();
+    m_wait.reset();
+    m_wish.reset();
+    Q_EMIT listLoaded({.tree = m_tree, .lacksMemory = true, .change = change, .now = result.now});
+    setProgress(Progress::Done);
 }
 
 void ListLoader::cancel()

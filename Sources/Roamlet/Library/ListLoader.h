@@ -36,6 +36,8 @@ struct ShownList {
     SharedRowTree tree;
     /// Whether a search stopped at its limit, so that there may be more.
     bool isCapped = false;
+    /// Whether it is empty for want of memory.
+    bool lacksMemory = false;
     ListChange change = ListChange::Asked;
     /// What time it was for whoever cut it into days.
     PointInTime now;
@@ -95,6 +97,8 @@ private:
     struct Result;
 
     static Result resultOf(const Job &job, const std::stop_token &stop);
+    /// The same, where there is enough memory.
+    static Result made(const Job &job, const std::stop_token &stop);
 
     /// Whether nothing has to be searched for: the rows of bookmarks are always there.
     bool hasRows(const ListWish &wish) const;
@@ -105,6 +109,8 @@ private:
     void makeNow();
     void startJob(Effort effort);
     void take(const Result &result);
+    /// Shows that there is not enough memory for the list.
+    void giveUp(const Result &result);
     void drop();
     void setProgress(Progress progress);
 

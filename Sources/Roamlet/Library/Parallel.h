@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <exception>
 #include <semaphore>
 #include <thread>
 #include <vector>
@@ -37,8 +38,8 @@ private:
 };
 
 /// Calls work(0, turns) … work(count - 1, turns), each on a thread of its own as far as the system has that
-/// many, and returns when all have ended. Work that keeps a core busy takes a turn first; work that only
-/// waits takes none, so that it keeps nobody waiting.
+/// many, and returns when all have ended; what one of them threw is thrown then. Work that keeps a core busy
+/// takes a turn first; work that only waits takes none, so that it keeps nobody waiting.
 template<typename Work>
 void forEachInParallel(std::size_t count, Work work)
 {
@@ -47,17 +48,31 @@ void forEachInParallel(std::size_t count, Work work)
         work(std::size_t{0}, turns);
         return;
     }
-    std::vector<std::jthread> threads;
-    threads.reserve(count);
-    std::size_t begun = 0;
-    try {
-        for (; begun < count; ++begun)
-            threads.emplace_back([begun, &work, &turns] { work(begun, turns); });
-    } catch (const std::system_error &) {
-        // The system has no more threads for us: this one does the rest.
-        for (; begun < count; ++begun)
-            work(begun, turns);
+    std::vector<std::exception_ptr> thrown(count);
+    {
+        std::vector<std::jthread> threads;
+        threads.reserve(count);
+        std::size_t begun = 0;
+        const auto perform = [&](std::size_t index) {
+            try {
+                work(index, turns);
+            } catch (...) {
+                thrown[index] = std::current_exception();
+            }
+        };
+        try {
+            for (; begun < count; ++begun)
+                threads.emplace_back([begun, &perform] { perform(begun); });
+        } catch (const std::system_error &) {
+            // The system has no more threads for us: this one does the rest.
+            for (; begun < count; ++begun)
+                perform(begun);
+        }
     }
+    const auto first =
+        std::ranges::find_if(thrown, [](const std::exception_ptr &each) { return each != nullptr; });
+    if (first != thrown.end())
+        std::rethrow_exception(*first);
 }
 
 } // namespace roamlet

@@ -122,22 +122,27 @@ const FamilyReader &readerOf(Source::Kind browser)
     return readerOf(Browser::of(browser).family);
 }
 
-/// What takes more memory than there is, is a problem of this source, and no end of all others.
-ReadError noMemory(const Source &source, const ReadContext &context)
-{
-    return ReadError::wrap(std::make_error_code(std::errc::not_enough_memory), historyFile(source, context));
-}
-
 } // namespace
 
 QList<Source> profiles(Source::Kind browser, const ReadContext &context, const QList<Source> &known)
 {
-    return readerOf(browser).profiles(browser, context, known);
+    try {
+        return readerOf(browser).profiles(browser, context, known);
+    } catch (const std::bad_alloc &) {
+        context.reportList(ReadError::wrap(std::make_error_code(std::errc::not_enough_memory),
+                                           Browser::of(browser).displayName));
+        return {};
+    }
 }
 
 QString historyFile(const Source &source, const ReadContext &context)
 {
     return readerOf(source.kind).historyFile(source, context);
+}
+
+ReadError noMemory(const Source &source, const ReadContext &context)
+{
+    return ReadError::wrap(std::make_error_code(std::errc::not_enough_memory), historyFile(source, context));
 }
 
 std::expected<QList<HistoryItem>, ReadError> history(const Source &source, const HistoryQuery &query,

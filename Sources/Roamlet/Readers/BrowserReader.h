@@ -42,6 +42,8 @@ struct Content {
 /// The profiles of a browser, installation by installation, in the order in which they are listed. Where a
 /// list of them cannot be read now, those of `known` that are still there stay.
 QList<Source> profiles(Source::Kind browser, const ReadContext &context, const QList<Source> &known = {});
+/// What takes more memory than there is, is a problem of this source, and no end of all others.
+ReadError noMemory(const Source &source, const ReadContext &context);
 /// The database that holds a source's history.
 QString historyFile(const Source &source, const ReadContext &context);
 /// The rows that match, in the query's order and at most as many as it says. Empty when there is no history.

@@ -3,10 +3,12 @@
 
 #pragma once
 
+#include "Model/ReadError.h"
 #include "Platform/BrowserFolders.h"
 
 #include <QString>
 
+#include <functional>
 #include <stop_token>
 
 namespace roamlet
@@ -22,6 +24,15 @@ struct ReadContext {
     QString locale;
     /// A read whose result nobody waits for any more ends early, with an error.
     std::stop_token stop;
+    /// Told of a list of profiles that is there and could not be read, where somebody listens: what it names
+    /// is nowhere to be seen, not even as a problem.
+    std::function<void(const ReadError &)> onUnreadableList;
+
+    void reportList(const ReadError &error) const
+    {
+        if (onUnreadableList)
+            onUnreadableList(error);
+    }
 };
 
 } // namespace roamlet

@@ -121,6 +121,19 @@ TEST_F(DiagnosticsSummaryTest, showsEveryProblemOfASourceBelowIt)
     EXPECT_THAT(lines[4].toStdString(), StartsWith("Edge - Office "));
 }
 
+TEST_F(DiagnosticsSummaryTest, saysWhichListOfProfilesCannotBeRead)
+{
+    home.addPages();
+    const QString list = home.path(u".mozilla/firefox/profiles.ini"_s);
+    sample::writeFile(list, "[Profile0]\nName=A\nIsRelative=1\nPath=a\n");
+    home.files.failure = [&list](const QString &path) {
+        return path == list ? std::make_error_code(std::errc::io_error) : std::error_code();
+    };
+    run({u"--summary"_s});
+    EXPECT_EQ(console.errors.toStdString(),
+              "roamlet: Couldn't read " + list.toStdString() + ": Input/output error\n");
+}
+
 TEST_F(DiagnosticsSummaryTest, ofAnEmptyHomeSaysThatThereIsNothing)
 {
     const QStringList lines = linesOf({u"--summary"_s});

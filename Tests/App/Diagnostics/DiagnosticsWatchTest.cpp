@@ -208,6 +208,38 @@ TEST_F(DiagnosticsWatchTest, namesAProfileThatIsInNoListByItsId)
     EXPECT_EQ(watching.console.output.toStdString(), "2026-05-09 11:43  chrome/Profile 9\n");
 }
 
+TEST_F(DiagnosticsWatchTest, namesAProfileWhoseListCannotBeReadAsBefore)
+{
+    Watching watching(u"60"_s);
+    BrowserHome &home = watching.home;
+    home.addPages();
+    watching.run({[&] {
+        home.files.failure = [list = home.edge(u"Local State"_s)](const QString &path) {
+            return path == list ? std::make_error_code(std::errc::io_error) : std::error_code();
+        };
+        home.fileEvents.report({home.edge(u"Default/History"_s)});
+    }});
+    EXPECT_EQ(watching.console.output.toStdString(), "2026-05-09 11:43  Edge - Office\n");
+}
+
+TEST_F(DiagnosticsWatchTest, saysOnceWhichFoldersAreOnlyLookedAt)
+{
+    Watching watching(u"60"_s);
+    const BrowserHome &home = watching.home;
+    home.addPages();
+    const QString folder = home.path(u"Library/Application Support/Google/Chrome"_s);
+    watching.run({[&] {
+        // Its own message needs no further step.
+        watching.console.onError = nullptr;
+        watching.home.fileEvents.silentFolders = {folder};
+        home.fileEvents.report({});
+        home.fileEvents.report({});
+    }});
+    EXPECT_EQ(watching.console.errors.toStdString(),
+              "roamlet: Watching the browsers' folders for 60 s.\nroamlet: " + folder.toStdString() +
+                  " is looked at once a minute: the system does not tell of every change in it.\n");
+}
+
 TEST_F(DiagnosticsWatchTest, readsNothingOfAProfileThatIsSwitchedOff)
 {
     Watching watching(u"60"_s);

@@ -352,6 +352,40 @@ TEST_F(FirefoxProfilesTest, aFolderThatMayNotBeLookedIntoMayHoldAProfile)
     EXPECT_EQ(result, 0);
 }
 
+TEST_F(FirefoxProfilesTest, aListThatCannotBeReadIsReportedAndWhatIsKnownStays)
+{
+    makeProfile(u"a"_s);
+    writeText("[Profile0]\nName=A\nIsRelative=1\nPath=a\n");
+    const QList<Source> known = profiles();
+    ASSERT_EQ(known.size(), 1);
+    const QString file = home.path(oldFolder % u"profiles.ini");
+    home.files.failure = [&file](const QString &path) {
+        return path == file ? std::make_error_code(std::errc::io_error) : std::error_code();
+    };
+    QList<ReadError> errors;
+    ReadContext context = this->context();
+    context.onUnreadableList = [&errors](const ReadError &error) { errors.append(error); };
+    const Source::Kind firefox = *Source::kindFromRawValue(u"firefox");
+    EXPECT_EQ(BrowserReader::profiles(firefox, context, known), known);
+    EXPECT_EQ(BrowserReader::profiles(firefox, context), QList<Source>());
+    const ReadError expected = ReadError::unreadable(file, u"Input/output error"_s);
+    EXPECT_EQ(errors, (QList<ReadError>{expected, expected}));
+    home.files.failure = {};
+}
+
+TEST_F(FirefoxProfilesTest, aGroupThatCannotBeReadIsReported)
+{
+    makeProfile(u"a"_s);
+    writeText("[Profile0]\nName=A\nIsRelative=1\nPath=a\n");
+    change([&] { sample::writeFile(home.path(oldFolder % u"Profile Groups/g.sqlite"), "no database"); });
+    QList<ReadError> errors;
+    ReadContext context = this->context();
+    context.onUnreadableList = [&errors](const ReadError &error) { errors.append(error); };
+    EXPECT_EQ(BrowserReader::profiles(*Source::kindFromRawValue(u"firefox"), context).size(), 1);
+    ASSERT_EQ(errors.size(), 1);
+    EXPECT_EQ(errors.front().path(), home.path(oldFolder % u"Profile Groups/g.sqlite"));
+}
+
 TEST_F(FirefoxProfilesTest, aPathThatFirefoxCannotFollowIsNoProfile)
 {
     makeProfile(u"a"_s);

@@ -75,9 +75,8 @@ public:
           m_platform(platform),
           m_stop(stop),
           m_output(console, stop),
-          m_context(LibraryReading::readContext(platform))
+          m_context(context())
     {
-        m_context.stop = stop;
     }
 
     int summary();
@@ -89,6 +88,8 @@ public:
     int open(const QString &rowID, const OpenPage &openPage);
 
 private:
+    /// As the folders are now.
+    ReadContext context();
     QList<Source> enabledSources() const
     {
         return ProfileChoice(m_platform.defaults).enabled(LibraryReading::allProfiles({}, m_context));
@@ -126,16 +127,34 @@ private:
     /// The bookmarks of one source, or why there is no such source. What cannot be read is complained of.
     std::expected<QList<BookmarkNode>, QString> bookmarks(const QString &sourceID);
     /// Every profile that there is now: a browser may have been installed since the start.
-    QList<Source> profilesNow() const;
+    QList<Source> profilesNow();
     /// What stands for the sources that the watcher reports, sorted.
-    QStringList labels(const QSet<QString> &sourceIDs, const QList<Source> &profiles) const;
+    QStringList labels(const QSet<QString> &sourceIDs) const;
 
     const Command &m_command;
     const Platform &m_platform;
     std::stop_token m_stop;
     JobOutput m_output;
     ReadContext m_context;
+    /// Of every profile that was found so far: a list may be unreadable at the moment.
+    QHash<QString, QString> m_labels;
+    /// What was said of lists that could not be read.
+    QSet<QString> m_saidOfLists;
 };
+
+ReadContext Job::context()
+{
+    ReadContext context = LibraryReading::readContext(m_platform);
+    context.stop = m_stop;
+    // Lists are read by the thread of the job itself.
+    context.onUnreadableList = [this](const ReadError &error) {
+        const QString text = error.errorDescription();
+        if (!m_saidOfLists.contains(text))
+            m_output.complain(text);
+        m_saidOfLists.insert(text);
+    };
+    return context;
+}
 
 int Job::summary()
 {
@@ -362,20 +381,19 @@ int Job::open(const QString &rowID, const OpenPage &openPage)
     return failure;
 }
 
-QList<Source> Job::profilesNow() const
+QList<Source> Job::profilesNow()
 {
-    ReadContext context = LibraryReading::readContext(m_platform);
-    context.stop = m_stop;
-    return LibraryReading::allProfiles({}, context);
+    const QList<Source> profiles = LibraryReading::allProfiles({}, context());
+    for (const Source &source : profiles)
+        m_labels.insert(source.id(), source.label());
+    return profiles;
 }
 
-QStringList Job::labels(const QSet<QString> &sourceIDs, const QList<Source> &profiles) const
+QStringList Job::labels(const QSet<QString> &sourceIDs) const
 {
     QStringList result;
-    for (const QString &id : sourceIDs) {
-        const auto source = std::ranges::find(profiles, id, &Source::id);
-        result.append(m_output.text(source == profiles.end() ? id : source->label()));
-    }
+    for (const QString &id : sourceIDs)
+        result.append(m_output.text(m_labels.value(id, id)));
     result.sort();
     return result;
 }
@@ -395,11 +413,10 @@ int Job::watch(const std::optional<QString> &duration)
     bool isLimitReached = false;
     QEventLoop loop;
     const auto report = [&](BrowserWatcher &watcher, const QSet<QString> &sourceIDs) {
-        const QList<Source> profiles = profilesNow();
         // One that lies elsewhere may be new, too.
-        watcher.setProfiles(profiles);
-        status = m_output.print(
-            {localTime(m_platform.clock.now()) % u"  " % labels(sourceIDs, profiles).join(u", "_s)});
+        watcher.setProfiles(profilesNow());
+        status =
+            m_output.print({localTime(m_platform.clock.now()) % u"  " % labels(sourceIDs).join(u", "_s)});
         if (!m_output.canWrite())
             loop.quit();
     };
@@ -410,8 +427,14 @@ int Job::watch(const std::optional<QString> &duration)
             "fs.inotify.max_user_watches and fs.inotify.max_user_instances say how many there are."_s);
         loop.quit();
     };
+    const auto tellOfSilence = [this](const QStringList &folders) {
+        for (const QString &folder : folders)
+            m_output.complain(
+                folder % u" is looked at once a minute: the system does not tell of every change in it.");
+    };
     BrowserWatcher watcher(
-        m_platform, [&](const QSet<QString> &sourceIDs) { report(watcher, sourceIDs); }, endAtLimit);
+        m_platform, [&](const QSet<QString> &sourceIDs) { report(watcher, sourceIDs); }, endAtLimit,
+        tellOfSilence);
     if (!watcher.isWatching())
         m_output.complain(
             u"The browsers' folders cannot be watched: the system reports no changes in them."_s);

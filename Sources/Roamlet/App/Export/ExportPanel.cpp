@@ -270,9 +270,13 @@ void ExportPanel::write(const Job &job, const QString &path)
         [job, path](const std::stop_token & /*stop*/) -> std::expected<void, QString> {
             if (BookmarkExport::isTooDeep(job.format, job.tree))
                 return std::unexpected(tr("The folders are nested too deeply for this format."));
-            const QString text =
-                BookmarkExport::render(job.format, job.tree, ofSource(job.bookmarks, job.sourceID));
-            return BookmarkExport::write(text, path);
+            try {
+                const QString text =
+                    BookmarkExport::render(job.format, job.tree, ofSource(job.bookmarks, job.sourceID));
+                return BookmarkExport::write(text, path);
+            } catch (const std::bad_alloc &) {
+                return std::unexpected(tr("There is not enough memory for this export."));
+            }
         },
         [this, path](const std::expected<void, QString> &written) {
             setBusy(false);

@@ -198,6 +198,7 @@ LocalText LinkTable::localText() const
 void LinkTable::showList(const ShownList &list)
 {
     noteList(list);
+    m_lacksMemory = list.lacksMemory;
     m_model.setLocalText({m_services.calendar(), list.now});
     m_view.setSearch({.words = refineWords(refineText(m_wish.search)), .site = m_wish.site});
     m_view.showTree(list.tree, list.change == ListChange::Reloaded ? TableView::Scrolling::Stay
@@ -211,6 +212,8 @@ QString LinkTable::whyItIsEmpty() const
     const Library &library = m_services.library;
     if (library.snapshot().sources.isEmpty())
         return tr("All profiles are switched off in the settings.");
+    if (m_lacksMemory)
+        return tr("There is not enough memory for this list.");
     if (m_wish.sourceID && library.snapshot().problems.contains(*m_wish.sourceID))
         return ForeignText::oneLine(library.snapshot().problems.value(*m_wish.sourceID));
     const QString site = m_wish.site ? ForeignText::oneLine(*m_wish.site) : QString();

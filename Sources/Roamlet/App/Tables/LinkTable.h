@@ -117,6 +117,8 @@ private:
     WindowServices m_services;
     /// As asked for, without a generation.
     ListWish m_wish;
+    /// Whether that is why the shown list is empty.
+    bool m_lacksMemory = false;
     QString m_layoutKey;
     QString m_nothingText;
     QList<SortComparator> m_defaultOrder;

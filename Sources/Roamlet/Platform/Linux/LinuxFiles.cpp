@@ -24,6 +24,7 @@
 #include <ctime>
 #include <filesystem>
 #include <limits>
+#include <new>
 #include <thread>
 #include <vector>
 
@@ -207,6 +208,17 @@ Copied copyContent(int source, int target, const RoomOf &roomOf, const std::stop
     }
 }
 
+/// What the reading returns, also where there is no memory for it.
+template<typename Read>
+std::expected<QByteArray, std::error_code> asFarAsMemoryGoes(Read read)
+{
+    try {
+        return read();
+    } catch (const std::bad_alloc &) {
+        return std::unexpected(std::make_error_code(std::errc::not_enough_memory));
+    }
+}
+
 QString stampOf(const struct stat &attributes)
 {
     return QString::number(attributes.st_size) % u' ' % QString::number(attributes.st_mtim.tv_sec) % u'.' %
@@ -267,21 +279,24 @@ std::expected<QByteArray, std::error_code> LinuxFiles::read(const QString &path)
         return std::unexpected(file.error());
     if (file->size > largestInMemory)
         return std::unexpected(std::make_error_code(std::errc::file_too_large));
-    // The size is only a hint: the file can grow or shrink while it is read.
-    QByteArray content;
-    content.reserve(static_cast<qsizetype>(file->size) + 1);
-    for (;;) {
-        const qsizetype before = content.size();
-        const qsizetype room = std::max(content.capacity() - before, static_cast<qsizetype>(bytesPerRead));
-        content.resize(before + room);
-        const ssize_t count =
-            ::read(file->descriptor.get(), content.data() + before, static_cast<size_t>(room));
-        content.resize(before + std::max<ssize_t>(count, 0));
-        if (count < 0 && errno != EINTR)
-            return std::unexpected(lastError());
-        if (count == 0)
-            return content;
-    }
+    return asFarAsMemoryGoes([&file]() -> std::expected<QByteArray, std::error_code> {
+        // The size is only a hint: the file can grow or shrink while it is read.
+        QByteArray content;
+        content.reserve(static_cast<qsizetype>(file->size) + 1);
+        for (;;) {
+            const qsizetype before = content.size();
+            const qsizetype left = content.capacity() - before;
+            const qsizetype room = left > 0 ? left : static_cast<qsizetype>(bytesPerRead);
+            content.resize(before + room);
+            const ssize_t count =
+                ::read(file->descriptor.get(), content.data() + before, static_cast<size_t>(room));
+            content.resize(before + std::max<ssize_t>(count, 0));
+            if (count < 0 && errno != EINTR)
+                return std::unexpected(lastError());
+            if (count == 0)
+                return content;
+        }
+    });
 }
 
 std::expected<QByteArray, std::error_code> LinuxFiles::readBeginning(const QString &path,
@@ -290,12 +305,14 @@ std::expected<QByteArray, std::error_code> LinuxFiles::readBeginning(const QStri
     const auto file = openForReading(path);
     if (!file)
         return std::unexpected(file.error());
-    QByteArray content(size, Qt::Uninitialized);
-    const ssize_t count = ::pread(file->descriptor.get(), content.data(), static_cast<size_t>(size), 0);
-    if (count < 0)
-        return std::unexpected(lastError());
-    content.resize(count);
-    return content;
+    return asFarAsMemoryGoes([&]() -> std::expected<QByteArray, std::error_code> {
+        QByteArray content(size, Qt::Uninitialized);
+        const ssize_t count = ::pread(file->descriptor.get(), content.data(), static_cast<size_t>(size), 0);
+        if (count < 0)
+            return std::unexpected(lastError());
+        content.resize(count);
+        return content;
+    });
 }
 
 std::expected<void, CopyError> LinuxFiles::copyFile(const QString &source, const QString &target,

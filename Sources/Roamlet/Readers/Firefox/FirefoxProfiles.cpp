@@ -102,19 +102,21 @@ struct Member {
     QString name;
 };
 
-/// The members of a group, or nothing where its database cannot be read.
-std::optional<QList<Member>> groupMembers(const QString &database, const ReadContext &context)
+/// The members of a group.
+std::expected<QList<Member>, ReadError> groupMembers(const QString &database, const ReadContext &context)
 {
     const auto snapshot = SQLiteSnapshot::copying(database, context);
     if (!snapshot)
-        return {};
+        return std::unexpected(snapshot.error());
     QList<Member> result;
     const auto run =
         snapshot->query(u"SELECT path, name FROM Profiles"_s, {}, [&](const SQLiteSnapshot::Row &row) {
             enum Column { Path, Name };
             result.append({row.text(Path).value_or(QString()), row.text(Name).value_or(QString())});
         });
-    return run ? std::optional(result) : std::nullopt;
+    if (!run)
+        return std::unexpected(ReadError::unreadable(database, run.error().reason()));
+    return result;
 }
 
 /// The databases of the groups of profiles in a data folder.
@@ -162,16 +164,23 @@ private:
 
 QList<Source> Finder::profilesIn(const QString &root)
 {
-    const auto bytes = m_context.files->read(root % u"/profiles.ini");
+    const QString file = root % u"/profiles.ini";
+    const auto bytes = m_context.files->read(file);
+    // One that is not there lists nothing: the folder may be the other one of the two that a Firefox has.
+    bool isListKnown = bytes.has_value() || !m_context.files->exists(file);
+    if (!isListKnown)
+        m_context.reportList(ReadError::wrap(bytes.error(), file));
     const ProfileList list =
         profileList(bytes ? std::string_view(bytes->constData(), static_cast<size_t>(bytes->size())) : "");
     const QStringList groups = groupDatabases(root, *m_context.files);
     std::vector<Found> found;
     // What a group says of a profile goes before the text file, in which its members come and go.
-    bool areMembersKnown = true;
     for (const QString &group : groups) {
-        const std::optional<QList<Member>> members = groupMembers(group, m_context);
-        areMembersKnown = areMembersKnown && members.has_value();
+        const auto members = groupMembers(group, m_context);
+        if (!members) {
+            isListKnown = false;
+            m_context.reportList(members.error());
+        }
         for (const Member &member : members.value_or(QList<Member>()))
             add(member.path, member.name, root, found);
     }
@@ -179,8 +188,8 @@ QList<Source> Finder::profilesIn(const QString &root)
         if (section.isUsable())
             add(utf8Text(section.path), utf8Text(section.name), root, found);
     }
-    // A profile must not go because its group's database could not be copied this time.
-    for (const Source &source : areMembersKnown ? QList<Source>() : m_known) {
+    // A profile must not go because what lists it could not be read this time.
+    for (const Source &source : isListKnown ? QList<Source>() : m_known) {
         if (source.kind == m_installation.browser && source.installation == m_installation.key)
             add(*source.profile, source.name, root, found);
     }
