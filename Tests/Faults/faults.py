@@ -58,6 +58,18 @@ SETTINGS = b"[General]\ndisabledProfiles=chromium/Default\nkept=of an earlier ve
 OLD_TARGET = b"the export of last week\n"
 
 
+# Files of the browsers' that count as missing where they cannot be read, without a word. The answer must then be the
+# very one that is given where they are missing.
+PASSED_OVER = [
+    (r"/(History|Favicons|places\.sqlite|favicons\.sqlite)-(wal|shm|journal)$",
+     "what stands beside a database is copied with it where it can be"),
+    (r"/Local State$", "a browser whose list of profiles cannot be read has no profiles"),
+]
+
+# What Qt and GLib say of a thread of their own that does not come: painting waits for it for ever, and GLib ends the
+# process. Nobody outside of them can go on for them.
+THREADS_OF_LIBRARIES = ("QThread::start: Thread creation error", "GLib-ERROR **")
+
 PROGRAMS = ["roamlet", "roamlet-window.so", "roamlet-updates.so", "roamlet-programs.so",
             "roamlet-search.so", "roamlet-open.so", "roamlet-sample-home", "roamlet-save",
             "roamlet-failing-calls.so"]
@@ -136,6 +148,15 @@ class Place:
         for path, content in ((self.settings, SETTINGS), (self.target, OLD_TARGET)):
             with open(path, "wb") as file:
                 file.write(content)
+
+    def without(self, path, job):
+        """A run without a fault, and without this file."""
+        os.remove(path)
+        self.before = browser_files(self.home)
+        try:
+            return self.run(job)
+        finally:
+            self.restore()
 
     def run(self, job, fault=None):
         counts = os.path.join(self.run_folder, "counts")
@@ -257,7 +278,7 @@ class Result:
         """What was printed, without what differs from run to run."""
         text = re.sub(r"in \d+\.\d\ds", "in a while", self.output)
         # Icons are an ornament: nobody is told when they cannot be read.
-        text = re.sub(r"\d+ site icons|no site icons", "icons", text)
+        text = re.sub(r"(\d+|no) site icons *", "icons", text)
         text = re.sub(r"^\d{4}-\d\d-\d\d \d\d:\d\d  (?=[A-Z][a-z]+ - \w+$)", "", text, flags=re.M)
         return text.replace(self.folder, ""), self.target, self.keys()
 
@@ -271,11 +292,14 @@ class Result:
         return lines + [line.strip() for line in told.splitlines() if line.startswith("  ! ")]
 
 
-def judge(job, result, usual, call):
-    """Everything that is wrong with a run."""
+def judge(job, result, usual, call, without):
+    """Everything that is wrong with a run. What would have been said without a file, `without` tells."""
     wrong = []
     asked_to_end = job.kind != "once"
-    if result.hung:
+    if call == "thread" and (result.hung or result.status < 0) and any(
+            text in result.errors for text in THREADS_OF_LIBRARIES):
+        pass
+    elif result.hung:
         wrong.append("took ten seconds or more")
     elif result.status < 0 and not (asked_to_end and result.status == -signal.SIGTERM):
         wrong.append(f"was ended by {signal.Signals(-result.status).name}")
@@ -293,14 +317,22 @@ def judge(job, result, usual, call):
     # With nobody to listen to signals, one that asks for the end is the end: nothing is saved on the way.
     is_ended_at_once = job.kind == "window" and call in ("eventfd", "thread") and result.status == -signal.SIGTERM
     if not told and not result.hung and (result.status >= 0 or asked_to_end) and not is_ended_at_once:
-        if result.answer() != usual.answer():
+        if result.answer() != usual.answer() and not is_passed_over(result, without):
             wrong.append("gave another answer without a word")
         elif result.status != usual.status:
             wrong.append(f"gave status {result.status} without a word")
     return wrong, told
 
 
-def faults_of(usual, wanted, each):
+def is_passed_over(result, without):
+    """Whether the one call that failed was for a file that counts as missing then, and did."""
+    path = os.path.relpath(result.path, os.path.join(result.folder, "home"))
+    if result.failed != 1 or path.startswith("..") or not any(re.search(rule, "/" + path) for rule, _ in PASSED_OVER):
+        return False
+    return result.answer() == without(path).answer()
+
+
+def faults_of(job, usual, wanted, each):
     """Call, error, and from which to which call it fails: some of the calls, or each of them."""
     for call, errors in CALLS.items():
         made = usual.counts.get(call, 0)
@@ -311,7 +343,8 @@ def faults_of(usual, wanted, each):
             places = range(1, made + 1)
         for error in errors.split():
             yield from ((call, error, place, place) for place in places)
-            if error not in PASSING and call != "poll":
+            # Qt's own loop of events tries again at once, and would do so for ever.
+            if error not in PASSING and (call != "poll" or job.kind == "once"):
                 yield call, error, 1, ALWAYS
 
 
@@ -369,6 +402,18 @@ def check(options, build, work, began):
         finally:
             places.put(place)
 
+    answers_without = {}
+
+    def without(job, path):
+        if (job.name, path) not in answers_without:
+            place = places.get()
+            try:
+                place.reset()
+                answers_without[job.name, path] = place.without(os.path.join(place.home, path), job)
+            finally:
+                places.put(place)
+        return answers_without[job.name, path]
+
     print(f"{'job':8} {'call':10} {'error':7} {'which':>8} {'status':>6} {'s':>5}  what the user was told", flush=True)
     findings, total, missed = [], 0, 0
     jobs = [job for job in JOBS if not options.job or job.name in options.job]
@@ -379,13 +424,13 @@ def check(options, build, work, began):
                 print(f"{job.name} does not work without faults: {usual.status} {usual.errors} {usual.left}")
                 findings.append(f"{job.name} without a fault")
                 continue
-            faults = [fault for fault in faults_of(usual, options.call, options.each) if not options.error or fault[1] in options.error]
+            faults = [fault for fault in faults_of(job, usual, options.call, options.each) if not options.error or fault[1] in options.error]
             for fault, result in zip(faults, pool.map(lambda fault, job=job: run(job, fault), faults)):
                 if not result.failed:
                     missed += 1
                     continue
                 total += 1
-                wrong, told = judge(job, result, usual, fault[0])
+                wrong, told = judge(job, result, usual, fault[0], lambda path, job=job: without(job, path))
                 if result.remaining:
                     wrong.append("left for good " + ", ".join(result.remaining))
                 which = "all" if fault[3] == ALWAYS else str(fault[2])
