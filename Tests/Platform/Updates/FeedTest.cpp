@@ -219,6 +219,41 @@ TEST(FeedTest, deepNestingIsRefusedWhereverItIs)
     expectMalformed(feedText(itemText(nested(100'000), {})));
 }
 
+TEST(FeedTest, noTagHasMoreAttributesThanAFeedNeeds)
+{
+    const auto attributes = [](int count, const QByteArray &before = "a", const QByteArray &value = "1") {
+        QByteArray result;
+        for (int i = 0; i < count; ++i)
+            result += ' ' + before + QByteArray::number(i) + "='" + value + '\'';
+        return result;
+    };
+    EXPECT_EQ(item("<a" + attributes(50) + "/><b" + attributes(50) + "></b>").version, u"2.0"_s);
+    for (const int count : {51, 60'000})
+        expectMalformed(feedText(itemText("2.0", "<a" + attributes(count) + "/>")));
+    expectMalformed(feedText(itemText("2.0", "<!-- - --><a" + attributes(51, "b", ">") + "/>")));
+    // What is no tag has none.
+    const QByteArray notes = "<![CDATA[a <" + attributes(100) + "]]>";
+    EXPECT_EQ(item("<!-- <a" + attributes(100) + " --><description>" + notes + "</description>").version,
+              u"2.0"_s);
+}
+
+TEST(FeedTest, noMoreNamespacesAreDeclaredAroundAnElementThanAFeedNeeds)
+{
+    const auto nested = [](int depth, int each) -> QByteArray {
+        QByteArray content;
+        for (int level = 0; level < depth; ++level) {
+            content += "<a";
+            for (int i = 0; i < each; ++i)
+                content += " xmlns:n" + QByteArray::number((level * each) + i) + "='x'";
+            content += '>';
+        }
+        return content + QByteArray("</a>").repeated(depth);
+    };
+    EXPECT_EQ(item(nested(20, 2)).version, u"2.0"_s);
+    expectMalformed(feedText(itemText("2.0", nested(30, 2))));
+    EXPECT_EQ(item(nested(1, 40).repeated(100)).version, u"2.0"_s) << "they end with their element";
+}
+
 TEST(FeedTest, whatIsNoElementIsNotNested)
 {
     const QByteArray tags = QByteArray("<a>").repeated(1'000);

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Roamlet authors
 // SPDX-License-Identifier: MIT
 
+#include "Model/XmlText.h"
 #include "Readers/Files/PropertyList.h"
 #include "Readers/Files/PropertyListTree.h"
 
@@ -74,35 +75,13 @@ QChar originalOf(QChar standIn)
                : standIn;
 }
 
-/// Whether reading the text would take Qt's reader far longer than its length. It compares each attribute of
-/// a tag with all the others, and what a document type declares can be used again and again; a property list
-/// has one attribute, and declares nothing.
+/// Whether reading the text would take Qt's reader far longer than its length: for its attributes, of which a
+/// property list has one, or because what a document type declares can be used again and again.
 bool isCostly(QStringView text)
 {
-    constexpr int mostAttributes = 1'000;
-    if (text.contains(u"<!ENTITY") || text.contains(u"<!ATTLIST"))
-        return true;
-    bool isTag = false;
-    int attributes = 0;
-    QChar quote;
-    for (const QChar character : text) {
-        if (character == u'<') {
-            isTag = true;
-            attributes = 0;
-            quote = {};
-        } else if (!isTag) {
-            continue;
-        } else if (!quote.isNull()) {
-            quote = character == quote ? QChar() : quote;
-        } else if (character == u'"' || character == u'\'') {
-            quote = character;
-        } else if (character == u'>') {
-            isTag = false;
-        } else if (character == u'=' && ++attributes > mostAttributes) {
-            return true;
-        }
-    }
-    return false;
+    constexpr qsizetype mostAttributes = 1'000;
+    return text.contains(u"<!ENTITY") || text.contains(u"<!ATTLIST") ||
+           mostAttributesOfATag(text) > mostAttributes;
 }
 
 /// Reads the elements of an XML property list.

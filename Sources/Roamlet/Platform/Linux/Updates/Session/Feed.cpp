@@ -3,6 +3,7 @@
 
 #include "Platform/Linux/Updates/Session/Feed.h"
 
+#include "Model/XmlText.h"
 #include "Platform/Linux/Updates/Versions.h"
 
 #include <QCoreApplication>
@@ -25,26 +26,38 @@ constexpr QLatin1StringView extensions("http://www.andymatuschak.org/xml-namespa
 
 /// Notes can hold elements of their own, but no feed comes near to this. Reading the text of an element takes
 /// a call for each level below it.
-constexpr int deepest = 50;
+constexpr qsizetype deepest = 50;
+/// Each attribute of a tag is compared with all the others, and each name of an element or an attribute with
+/// all the namespaces that are declared around it. A feed needs few of either.
+constexpr qsizetype mostAttributes = 50;
+constexpr qsizetype mostNamespaces = 50;
 
 /// What is wrong with the whole document, if anything is; what follows the end of the feed counts as well.
 QString problemOf(const QString &text)
 {
+    if (mostAttributesOfATag(text) > mostAttributes)
+        return u"Too many attributes"_s;
     QXmlStreamReader xml(text);
-    int depth = 0;
+    // How many namespaces each of the elements declares that are open.
+    QList<qsizetype> declared;
+    qsizetype namespaces = 0;
     while (!xml.atEnd()) {
         switch (xml.readNext()) {
         case QXmlStreamReader::DTD:
             // A document type can define entities that unfold to anything; no feed needs one.
             return QCoreApplication::translate("roamlet::UpdateError", "Document type declaration");
         case QXmlStreamReader::StartElement:
-            if (depth == 0 && (!xml.namespaceUri().isEmpty() || xml.name() != "rss"_L1))
+            if (declared.isEmpty() && (!xml.namespaceUri().isEmpty() || xml.name() != "rss"_L1))
                 return QCoreApplication::translate("roamlet::UpdateError", "No feed");
-            if (++depth > deepest)
+            declared.append(xml.namespaceDeclarations().size());
+            namespaces += declared.back();
+            if (declared.size() > deepest)
                 return QCoreApplication::translate("roamlet::UpdateError", "Elements nested too deep");
+            if (namespaces > mostNamespaces)
+                return QCoreApplication::translate("roamlet::UpdateError", "Too many namespaces");
             break;
         case QXmlStreamReader::EndElement:
-            --depth;
+            namespaces -= declared.takeLast();
             break;
         default:
             break;
