@@ -9,11 +9,11 @@ namespace roamlet::fuzz
 const std::vector<Target> &allTargets()
 {
     static const std::vector<Target> targets{
-        chromiumBookmarks(), chromiumFavicons(), chromiumHistory(), chromiumProfiles(), desktopEntry(),
-        exportedBookmarks(), faviconImage(),     firefoxFavicons(), firefoxGroup(),     firefoxPlaces(),
-        firefoxProfiles(),   historyText(),      likePattern(),     packageControl(),   propertyList(),
-        safariBookmarks(),   safariFavicons(),   safariHistory(),   safariTabs(),       settingsFile(),
-        siteName(),          updateFeed(),       updateVersions(),
+        chromiumBookmarks(), chromiumFavicons(),  chromiumHistory(), chromiumProfiles(), columnLayout(),
+        desktopEntry(),      exportedBookmarks(), faviconImage(),    firefoxFavicons(),  firefoxGroup(),
+        firefoxPlaces(),     firefoxProfiles(),   historyText(),     likePattern(),      linkOpening(),
+        packageControl(),    propertyList(),      safariBookmarks(), safariFavicons(),   safariHistory(),
+        safariTabs(),        settingsFile(),      siteName(),        updateFeed(),       updateVersions(),
     };
     return targets;
 }
