@@ -3,6 +3,7 @@
 
 #include "Platform/Linux/SettingsUserDefaults.h"
 
+#include "Platform/Linux/LinuxIO.h"
 #include "Platform/Variable.h"
 #include "Platform/WithoutPrivileges.h"
 #include "SampleHome/PlainFiles.h"
@@ -12,6 +13,7 @@
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace roamlet::testing
@@ -351,6 +353,44 @@ TEST_F(SettingsUserDefaultsTest, aLockThatNobodyCanRemoveIsNotWaitedFor)
     const QString told = QString::fromStdString(::testing::internal::GetCapturedStderr());
     EXPECT_EQ(told.count(u"the settings cannot be saved in "_s), 1) << told.toStdString();
     EXPECT_EQ(content(), before);
+}
+
+TEST_F(SettingsUserDefaultsTest, whatTheDiskDoesNotTakeLosesNothingThatIsThere)
+{
+    QByteArray lines;
+    for (int i = 0; i < 200; ++i)
+        lines += "key" + QByteArray::number(i) + "=value\n";
+    SettingsUserDefaults settings = general(lines);
+    const QByteArray before = content();
+    // Enough for the lock, which tells who has it, and not for the settings.
+    constexpr rlim_t room = 512;
+    ignoreFileSizeSignal();
+    rlimit usual = {};
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &usual), 0);
+    const rlimit small = {.rlim_cur = room, .rlim_max = usual.rlim_max};
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
+    ::testing::internal::CaptureStderr();
+    settings.setString(u"new"_s, u"choice"_s);
+    const std::string said = ::testing::internal::GetCapturedStderr();
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &usual), 0);
+    EXPECT_EQ(content(), before);
+    EXPECT_NE(said.find("cannot be saved"), std::string::npos) << said;
+    EXPECT_EQ(QDir(folder() % u"/Roamlet").entryList(QDir::Files), QStringList(u"Roamlet.conf"_s));
+    // Another time it is taken.
+    SettingsUserDefaults(path()).setString(u"new"_s, u"choice"_s);
+    EXPECT_EQ(SettingsUserDefaults(path()).string(u"new"_s), u"choice");
+    EXPECT_EQ(SettingsUserDefaults(path()).string(u"key199"_s), u"value");
+}
+
+TEST_F(SettingsUserDefaultsTest, settingsThatARunLeftHalfSavedAreThoseFromBefore)
+{
+    sample::writeFile(path() % u".previous", "[General]\nkey=kept\n");
+    EXPECT_EQ(written("").string(u"key"_s), u"kept");
+    EXPECT_EQ(content(), "[General]\nkey=kept\n");
+    // Where they were saved whole, what was before them goes.
+    sample::writeFile(path() % u".previous", "[General]\nkey=old\n");
+    EXPECT_EQ(general("key=new").string(u"key"_s), u"new");
+    EXPECT_EQ(QDir(folder() % u"/Roamlet").entryList(QDir::Files), QStringList(u"Roamlet.conf"_s));
 }
 
 TEST_F(SettingsUserDefaultsTest, whatCannotBeSavedIsToldOnce)

@@ -10,6 +10,10 @@
 #include <QFileInfo>
 #include <QLockFile>
 
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdio>
 #include <utility>
 
 namespace roamlet
@@ -82,10 +86,73 @@ bool canBeLocked(const QString &path)
     return !QFileInfo::exists(name);
 }
 
+/// Keeps what a file holds while another is put in its place. Without a second name for it, as on some file
+/// systems, it does nothing.
+class PreviousFile final
+{
+public:
+    explicit PreviousFile(const QString &path)
+        : m_path(QFile::encodeName(QFileInfo(path).canonicalFilePath())), m_kept(m_path + ".previous")
+    {
+        m_isKept = !m_path.isEmpty() && ::link(m_path.constData(), m_kept.constData()) == 0;
+    }
+    PreviousFile(const PreviousFile &) = delete;
+    PreviousFile &operator=(const PreviousFile &) = delete;
+    ~PreviousFile()
+    {
+        if (m_isKept)
+            ::unlink(m_kept.constData());
+    }
+
+    void bringBack()
+    {
+        if (m_isKept && ::rename(m_kept.constData(), m_path.constData()) == 0)
+            m_isKept = false;
+    }
+
+    /// What was kept by a run that was killed meanwhile: it is the settings where their file is empty.
+    static void recover(const QString &path)
+    {
+        const QString file = QFileInfo(path).canonicalFilePath();
+        const QByteArray kept = QFile::encodeName(file % u".previous");
+        if (file.isEmpty() || !QFileInfo::exists(QFile::decodeName(kept)))
+            return;
+        if (QFileInfo(file).size() == 0)
+            ::rename(kept.constData(), QFile::encodeName(file).constData());
+        else
+            ::unlink(kept.constData());
+    }
+
+private:
+    QByteArray m_path;
+    QByteArray m_kept;
+    bool m_isKept = false;
+};
+
+/// Whether the file holds all of these values. Under its own name QSettings would answer from memory.
+bool holds(const QString &path, const QSettings &values)
+{
+    QFile file(path);
+    if (!file.open(QFile::ReadOnly))
+        return false;
+    const auto written = opened(u"/proc/self/fd/%1"_s.arg(file.handle()));
+    const QStringList keys = values.allKeys();
+    return std::ranges::all_of(keys, [&](const QString &key) {
+        return written->contains(key) &&
+               written->value(key).toStringList() == values.value(key).toStringList();
+    });
+}
+
+QString recovered(const QString &path)
+{
+    PreviousFile::recover(path);
+    return path;
+}
+
 } // namespace
 
 SettingsUserDefaults::SettingsUserDefaults(const QString &path)
-    : m_settings(opened(usable(path))), m_isSaved(m_settings->fileName() == path)
+    : m_settings(opened(usable(recovered(path)))), m_isSaved(m_settings->fileName() == path)
 {
 }
 
@@ -185,9 +252,16 @@ void SettingsUserDefaults::prepareSaving()
 
 void SettingsUserDefaults::save()
 {
+    const QString path = m_settings->fileName();
+    PreviousFile previous(path);
     m_settings->sync();
-    if (m_settings->status() != QSettings::NoError)
+    if (m_settings->status() != QSettings::NoError) {
         complain();
+    } else if (m_isSaved && !holds(path, *m_settings)) {
+        // Qt puts the new file in the place of the old one also where the disk did not take its last bytes.
+        previous.bringBack();
+        complain();
+    }
 }
 
 void SettingsUserDefaults::complain()
