@@ -212,7 +212,7 @@ Command withRows(Command command, const RowSwitches &rows)
 Command Command::of(const QStringList &arguments)
 {
     const RowSwitches rows = RowSwitches::in(arguments);
-    const Command plain = plainJob(arguments);
+    Command plain = plainJob(arguments);
     const bool isAmongThem = rows.rowToOpen || rows.bookmarkWords;
     const bool isHelp = plain.job == Job::Help || plain.job == Job::Version;
     if (!rows.haveAny() || (isHelp && !isAmongThem))

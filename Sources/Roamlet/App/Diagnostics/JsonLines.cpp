@@ -59,8 +59,9 @@ QJsonValue wellFormed(const QJsonValue &value)
     if (!value.isArray())
         return value;
     QJsonArray result;
-    for (const QJsonValue &element : value.toArray())
-        result.append(wellFormed(element));
+    const QJsonArray array = value.toArray();
+    for (const auto &element : array)
+        result.append(wellFormed(QJsonValue(element)));
     return result;
 }
 
@@ -119,11 +120,12 @@ QJsonValue time(PointInTime time)
                                          : QJsonValue(QJsonValue::Undefined);
 }
 
-QString line(QJsonObject object)
+QString line(const QJsonObject &object)
 {
-    for (QJsonValueRef value : object)
+    QJsonObject fields = object;
+    for (QJsonValueRef value : fields)
         value = wellFormed(value);
-    const QString text = QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
+    const QString text = QString::fromUtf8(QJsonDocument(fields).toJson(QJsonDocument::Compact));
     QString result;
     result.reserve(text.size() + 1);
     // What stands outside of texts is ASCII, and so is every escape that is there already.

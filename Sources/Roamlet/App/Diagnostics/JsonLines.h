@@ -28,7 +28,7 @@ QJsonObject object(const ProfileFacts &profile);
 QJsonValue time(PointInTime time);
 /// The object as a line with its end. It holds no character that could break the line, or that a terminal
 /// would obey, and is valid whatever stands in the object's texts.
-QString line(QJsonObject object);
+QString line(const QJsonObject &object);
 
 /// The id by which a row is opened. Pages and bookmarks of one profile may have the same numbers.
 QString rowID(const HistoryItem &page);

@@ -70,7 +70,9 @@ std::optional<NamedTime::Name> NamedTime::nameOf(const QString &words)
     const QTime time = QTime::fromString(QString(match.captured(2) % seconds), Qt::ISODateWithMs);
     if (!time.isValid())
         return {};
-    const double length = seconds.isEmpty() ? secondsPerMinute : seconds.contains(u'.') ? 0.001 : 1;
+    double length = seconds.contains(u'.') ? 0.001 : 1;
+    if (seconds.isEmpty())
+        length = secondsPerMinute;
     return Moment{.date = day, .time = time, .isUtc = match.hasCaptured(4), .length = length};
 }
 

@@ -17,6 +17,7 @@ std::expected<void, QString> openPage(const QString &url, const Source &source,
     const auto function = ProgramModule::function(u"roamlet-open.so"_s, openPageEntry);
     if (!function)
         return std::unexpected(QString(u"cannot open a page: " % function.error()));
+    // NOLINTNEXTLINE(misc-const-correctness)
     QString problem;
     reinterpret_cast<OpenPageEntry *>(*function)(url, source, activationToken, problem);
     if (!problem.isEmpty())
