@@ -12,6 +12,7 @@
 #include <QTest>
 
 #include <gmock/gmock.h>
+#include <new>
 
 namespace roamlet::testing
 {
@@ -462,6 +463,18 @@ TEST_F(HistoryTableTest, anEmptyListSaysWhy)
     EXPECT_EQ(table.whyItIsEmpty(), u"Nothing found on nowhere.example");
     awaitList(table, [&] { table.setWish({.sourceID = u"chrome/Nobody"_s}); });
     EXPECT_EQ(table.whyItIsEmpty(), u"No history yet");
+}
+
+TEST_F(HistoryTableTest, aListWithoutMemoryForItSaysSo)
+{
+    HistoryTable table(services(), Mode::Recent);
+    home.files.beforeStamp = [] { throw std::bad_alloc(); };
+    show(table);
+    EXPECT_EQ(table.rowCount(), 0);
+    EXPECT_EQ(table.whyItIsEmpty(), u"There is not enough memory for this list.");
+    home.files.beforeStamp = {};
+    awaitList(table, [&] { loadNow(*library); });
+    EXPECT_EQ(table.rowCount(), 6);
 }
 
 } // namespace roamlet::testing
