@@ -8,13 +8,13 @@
 #include <QDir>
 #include <QFile>
 
-#include <gmock/gmock.h>
 #include <signal.h>
 #include <sys/prctl.h>
 #include <sys/wait.h>
 
 #include <cerrno>
 #include <chrono>
+#include <gmock/gmock.h>
 
 namespace roamlet::testing
 {

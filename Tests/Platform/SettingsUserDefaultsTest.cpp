@@ -393,6 +393,22 @@ TEST_F(SettingsUserDefaultsTest, settingsThatARunLeftHalfSavedAreThoseFromBefore
     EXPECT_EQ(QDir(folder() % u"/Roamlet").entryList(QDir::Files), QStringList(u"Roamlet.conf"_s));
 }
 
+TEST_F(SettingsUserDefaultsTest, whatAnotherProcessStoresIsTakenOverWhenItIsAskedFor)
+{
+    SettingsUserDefaults defaults = general("showInDesktopSearch=true");
+    EXPECT_EQ(defaults.boolean(u"showInDesktopSearch"_s), true);
+    sample::writeFile(path(), "[General]\nshowInDesktopSearch=false\ndisabledProfiles=chrome/Default\n");
+    EXPECT_EQ(defaults.boolean(u"showInDesktopSearch"_s), true);
+    defaults.renew();
+    EXPECT_EQ(defaults.boolean(u"showInDesktopSearch"_s), false);
+    EXPECT_EQ(defaults.stringList(u"disabledProfiles"_s), QStringList{u"chrome/Default"_s});
+    // To look is not to write, and a file that is not there is not made.
+    ASSERT_TRUE(QFile::remove(path()));
+    defaults.renew();
+    EXPECT_EQ(defaults.boolean(u"showInDesktopSearch"_s), std::nullopt);
+    EXPECT_FALSE(QFile::exists(path()));
+}
+
 TEST_F(SettingsUserDefaultsTest, whatCannotBeSavedIsToldOnce)
 {
     sample::writeFile(folder() % u"/Roamlet", "a file in the place of the folder");

@@ -56,6 +56,15 @@ TEST_F(ProgramJobsTest, anUnknownSwitchIsNamedWithStatus2)
     }
 }
 
+TEST_F(ProgramJobsTest, withoutASessionBusNoDesktopCanAsk)
+{
+    program.environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, u"unix:path=/nowhere"_s);
+    const Ended ended = program.run({u"--desktop-search"_s});
+    EXPECT_EQ(ended.status, 1);
+    EXPECT_EQ(ended.output, "");
+    EXPECT_EQ(ended.errors, "roamlet: there is no session bus on which a desktop could ask.\n");
+}
+
 TEST_F(ProgramJobsTest, anUnknownSwitchIsNotObeyedByTheTerminal)
 {
     const Ended ended = program.run({u"\x1b[31mred"_s});
