@@ -64,7 +64,7 @@ else
 fi
 
 work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
+trap 'end_fresh_debian; rm -rf "$work"' EXIT
 mkdir "$work/check"
 cp "$package" "$work/check/roamlet.deb"
 cp Scripts/check-package.sh Scripts/fresh-debian.sh "$work/check/"

@@ -91,7 +91,7 @@ for tool in git openssl cmake; do
   command -v $tool >/dev/null || { echo "$tool is not installed." >&2; exit 77; }
 done
 work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
+trap 'end_fresh_debian; rm -rf "$work"' EXIT
 mkdir "$work/check"
 check=$work/check
 cp Scripts/check-update.sh Scripts/fresh-debian.sh Scripts/update-server.py Scripts/update-driver.py "$check/"

@@ -2,16 +2,25 @@
 # shellcheck shell=bash
 # For scripts that check something on a fresh Debian 12. To be read by them with ".".
 
+fresh_process=
+fresh_container=
+fresh_folder=
+
 # Runs a script of the folder $1 on a fresh system that has the folder at /check, with the words that follow. Needs
-# Docker or Podman, or root and debootstrap; without them it says so and ends with status 77.
+# Docker or Podman, or root and debootstrap; without them it says so and ends with status 77. A script that installs
+# much sets fresh_name: where a system of that name lies in build, in which it has already run with "--prepare", the
+# next one begins as that. Whoever calls this lets end_fresh_debian run at the exit.
 on_fresh_debian() {
-  local folder=$1 base=$PWD/build/fresh-debian root status=0
+  local folder=$1 base=$PWD/build/fresh-debian
   shift
   chmod -R a+rX "$folder"
   for engine in podman docker; do
     if command -v $engine >/dev/null && $engine info >/dev/null 2>&1; then
       echo "In a $engine container:"
-      $engine run --rm --volume "$folder:/check:ro" docker.io/library/debian:12 bash "/check/$1" "${@:2}"
+      fresh_container=roamlet-check-$$
+      $engine run --rm --name "$fresh_container" --volume "$folder:/check:ro" docker.io/library/debian:12 \
+        bash "/check/$1" "${@:2}" &
+      wait $!
       return
     fi
   done
@@ -25,15 +34,57 @@ on_fresh_debian() {
     debootstrap --variant=minbase bookworm "$base.part" "${ROAMLET_DEBIAN_MIRROR:-http://deb.debian.org/debian}" >/dev/null
     mv "$base.part" "$base"
   fi
+  if [ -n "${fresh_name:-}" ]; then
+    if [ ! -d "$base-$fresh_name" ]; then
+      echo "Preparing it in ${base#"$PWD"/}-$fresh_name …"
+      rm -rf "$base-$fresh_name.part"
+      cp -a --reflink=auto "$base" "$base-$fresh_name.part"
+      in_chroot "$folder" "$base-$fresh_name.part" "$1" --prepare
+      rm -rf "$base-$fresh_name.part/check"
+      mv "$base-$fresh_name.part" "$base-$fresh_name"
+    fi
+    base=$base-$fresh_name
+  fi
   echo "In a chroot:"
-  root=$(mktemp -d)
-  cp -a --reflink=auto "$base/." "$root"
-  cp -r "$folder" "$root/check"
-  # What is mounted and started in there ends with it.
-  unshare --mount --pid --fork --kill-child chroot "$root" bash -c \
-    'mount -t proc proc /proc && mount -t devpts devpts /dev/pts && bash "/check/$0" "$@"' "$@" || status=$?
-  rm -rf "$root"
-  return $status
+  fresh_folder=$(mktemp -d)
+  mkdir "$fresh_folder"/{changes,work,system}
+  in_chroot "$folder" "$fresh_folder/system" "$@"
+}
+
+# Runs a script of the folder $1 in the system in the folder $2, which is made of $base when it is empty, with the words
+# that follow. What is mounted and started in there ends with it.
+in_chroot() {
+  # shellcheck disable=SC2016 # The shell in there expands that.
+  unshare --mount --pid --fork --kill-child bash -c '
+    set -e
+    if [ ! -d "$3/etc" ]; then
+      changes=$(dirname "$3")
+      mount -t overlay overlay -o "lowerdir=$1,upperdir=$changes/changes,workdir=$changes/work" "$3" 2>/dev/null ||
+        cp -a --reflink=auto "$1/." "$3"
+    fi
+    cp -r "$2" "$3/check"
+    mount -t proc proc "$3/proc"
+    mount -t devpts devpts "$3/dev/pts"
+    script=$4
+    system=$3
+    shift 4
+    exec chroot "$system" bash "/check/$script" "$@"' in_chroot "$base" "$@" &
+  fresh_process=$!
+  wait $fresh_process
+}
+
+# Ends and removes what is left of a fresh system, whatever ended the script.
+end_fresh_debian() {
+  [ -z "$fresh_container" ] || $engine rm --force "$fresh_container" >/dev/null 2>&1 || true
+  if [ -n "$fresh_process" ]; then
+    kill -KILL "$fresh_process" 2>/dev/null || true
+    wait "$fresh_process" 2>/dev/null || true
+  fi
+  # Its processes end a moment later.
+  for _ in {1..50}; do
+    rm -rf "$fresh_folder" 2>/dev/null && break
+    sleep 0.1
+  done
 }
 
 # For the scripts on the fresh system.
