@@ -318,8 +318,13 @@ def check_gnome(bus, shell):
     check("icons are pictures", data != [] and all(map(is_icon, data)), [icon[:6] for icon in data])
 
     opened.unlink(missing_ok=True)
+    shell.run("global.check.setClipboard('mine')")
     shell.press(RETURN)
     check("Return opens the page in its browser and its profile", wait_for(BURROW.command), said_to_browsers())
+    wait_for(lambda: not shell.run("Main.overview.visible"))
+    shell.run("global.check.readClipboard()")
+    copied = wait_for(lambda: shell.run("global.check.clipboard"))
+    check("and leaves the clipboard alone", copied == "mine", copied)
     for page, words in ((LIGHTHOUSE, "lighthouse quokka"), (MEADOW, "meadow quokka")):
         shell.search(words)
         opened.unlink(missing_ok=True)

@@ -11,11 +11,17 @@
   const key = (value, state) => keyboard.notify_keyval(GLib.get_monotonic_time(), value, state);
   Shell.AppSystem.get_default().connect('installed-changed', () => ++global.check.reloads);
   global.check = {
+    clipboard: null,
     reloads: 0,
     press(...values) {
       values.forEach(value => key(value, Clutter.KeyState.PRESSED));
       values.reverse().forEach(value => key(value, Clutter.KeyState.RELEASED));
     },
+    readClipboard() {
+      this.clipboard = null;
+      St.Clipboard.get_default().get_text(St.ClipboardType.CLIPBOARD, (_, text) => { this.clipboard = text ?? ''; });
+    },
+    setClipboard(text) { St.Clipboard.get_default().set_text(St.ClipboardType.CLIPBOARD, text); },
     launch() { provider().display.providerInfo.emit('clicked', 1); },
     windows() { return global.get_window_actors().map(actor => actor.meta_window.get_title()); },
     isProvided: provider() !== undefined,

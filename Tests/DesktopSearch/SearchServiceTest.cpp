@@ -137,7 +137,6 @@ TEST_F(SearchServiceTest, gnomeIsGivenPagesTheirDetailsAndASubsearch)
               (QVariantMap{{u"id"_s, ids.first()},
                            {u"name"_s, u"Garden plans"_s},
                            {u"description"_s, u"Chrome - Work · https://Garden plans.example/"_s},
-                           {u"clipboardText"_s, plansURL},
                            {u"gicon"_s, u"text-html"_s}}));
 }
 

@@ -53,7 +53,7 @@ done
 # A browser that is not installed opens nothing, and nobody falls over it.
 id=$(grep -oE "'[^']*'" <<<"$answer" | head -n 1 | tr -d "'")
 ask ActivateResult "$id" "['garden']" 0 >/dev/null || { echo "a page cannot be chosen"; exit 1; }
-ask GetResultMetas "['$id', 'no id']" | grep -q clipboardText || { echo "the page is not described"; exit 1; }
+ask GetResultMetas "['$id', 'no id']" | grep -q description || { echo "the page is not described"; exit 1; }
 
 ask LaunchSearch "['garden']" 0 >/dev/null || { echo "the search cannot go on in the window"; exit 1; }
 for _ in $(seq 600); do

@@ -40,10 +40,10 @@ QList<QVariantMap> GnomeSearchProvider::GetResultMetas(const QStringList &identi
         identifiers, [question = message(), bus = connection()](const QList<FoundPage> &pages) {
             QList<QVariantMap> metas;
             for (const FoundPage &page : pages) {
+                // No "clipboardText": the Shell would put it on the clipboard whenever it opens the page.
                 QVariantMap meta{{u"id"_s, page.id},
                                  {u"name"_s, page.title},
-                                 {u"description"_s, QString(page.source % u" · " % page.url)},
-                                 {u"clipboardText"_s, page.url}};
+                                 {u"description"_s, QString(page.source % u" · " % page.url)}};
                 if (page.icon)
                     meta.insert(u"icon-data"_s, QVariant::fromValue(BusIcon{*page.icon}));
                 else
