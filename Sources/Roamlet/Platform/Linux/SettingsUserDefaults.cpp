@@ -136,10 +136,14 @@ bool holds(const QString &path, const QSettings &values)
     if (!file.open(QFile::ReadOnly))
         return false;
     const auto written = opened(u"/proc/self/fd/%1"_s.arg(file.handle()));
+    // What is no list stands in the file as a text.
+    const auto texts = [](const QVariant &value) {
+        return value.canConvert<QStringList>() ? value.toStringList() : QStringList(value.toString());
+    };
     const QStringList keys = values.allKeys();
     return std::ranges::all_of(keys, [&](const QString &key) {
-        return written->contains(key) &&
-               written->value(key).toStringList() == values.value(key).toStringList();
+        return written->contains(key) && (written->value(key) == values.value(key) ||
+                                          texts(written->value(key)) == texts(values.value(key)));
     });
 }
 
