@@ -3,6 +3,7 @@
 
 #include "App/DesktopFakes.h"
 #include "App/Export/ExportPanel.h"
+#include "App/Look/Motion.h"
 #include "App/Updates/UpdateWindows.h"
 #include "App/Window/ContentView.h"
 #include "App/Window/Pane.h"
@@ -18,6 +19,7 @@
 #include <QTest>
 #include <QTreeView>
 
+#include <algorithm>
 #include <gmock/gmock.h>
 #include <set>
 #include <string>
@@ -33,6 +35,9 @@ class WindowWalkTest : public LibraryHome, protected DesktopFakes
 protected:
     void SetUp() override
     {
+        // A sheet slides into its window, and what is gone through stands still.
+        setMotionAllowed(false);
+        desktopSettings = [] { return DesktopSettings{.allowsMotion = false, .wantsMoreContrast = false}; };
         addChromium();
         addSafari();
         app = std::make_unique<RoamletApp>(services(home.platform()));
@@ -46,6 +51,7 @@ protected:
     void TearDown() override
     {
         app.reset();
+        setMotionAllowed(true);
         LibraryHome::TearDown();
     }
 
@@ -79,6 +85,7 @@ protected:
     {
         Names result;
         const QWidget *first = QApplication::focusWidget();
+        const QWidget *previous = nullptr;
         constexpr int tooMany = 100;
         for (int i = 0; i < tooMany; ++i) {
             QWidget *now = QApplication::focusWidget();
@@ -87,7 +94,10 @@ protected:
             EXPECT_TRUE(area.isAncestorOf(now)) << nameOf(now);
             EXPECT_TRUE(now->isVisible()) << nameOf(now);
             EXPECT_TRUE(area.rect().contains(now->mapTo(&area, now->rect().center()))) << nameOf(now);
-            result.insert(nameOf(now));
+            // Notes have links, through which Tab goes as well.
+            if (now != previous)
+                result.insert(nameOf(now));
+            previous = now;
             QTest::keyClick(now, modifiers == Qt::NoModifier ? Qt::Key_Tab : Qt::Key_Backtab, modifiers);
         }
         return result;
@@ -152,10 +162,6 @@ TEST_F(WindowWalkTest, theExportSheet)
     app->mainWindow()->findChild<QAction *>(u"exportCommand"_s)->trigger();
     auto *sheet = app->mainWindow()->findChild<ExportPanel *>();
     ASSERT_NE(sheet, nullptr);
-    // It slides into its window.
-    const auto *button = sheet->findChild<QAbstractButton *>(u"exportButton"_s);
-    ASSERT_TRUE(waitUntil(
-        [&] { return sheet->rect().contains(button->mapTo(sheet, button->rect().bottomRight())); }));
     expectReached(*sheet);
     expectTold(*sheet);
 }
@@ -182,12 +188,13 @@ TEST_F(WindowWalkTest, theWindowsOfUpdates)
     update.notes = ReleaseNotes{.text = u"<p>New: <a href='https://a.example/'>this</a></p>"_s};
     const auto nothing = [] {};
     const auto look = [] {
-        for (QWidget *window : QApplication::topLevelWidgets()) {
-            if (window->isVisible() && qobject_cast<QDialog *>(window) != nullptr) {
-                expectReached(*window);
-                expectTold(*window);
-            }
-        }
+        const QWidgetList windows = QApplication::topLevelWidgets();
+        const auto shown = std::ranges::find_if(windows, [](const QWidget *window) {
+            return window->isVisible() && qobject_cast<const QDialog *>(window) != nullptr;
+        });
+        ASSERT_NE(shown, windows.cend());
+        expectReached(**shown);
+        expectTold(**shown);
     };
     windows.showChecking(nothing);
     look();
