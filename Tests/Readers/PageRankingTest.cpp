@@ -31,7 +31,8 @@ PageRank rankOf(qint64 visits, double days)
 QStringList bestTitles(const HistoryText &text, const QStringList &words, size_t most = 10)
 {
     QStringList result;
-    for (const RankedPage &page : text.best(words, most).value())
+    const std::vector<RankedPage> best = text.best(words, most).value();
+    for (const RankedPage &page : best)
         result.append(page.item.title);
     return result;
 }
