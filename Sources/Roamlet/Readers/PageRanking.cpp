@@ -37,7 +37,9 @@ std::string_view hostIn(std::string_view url)
     if (scheme == std::string_view::npos)
         return {};
     std::string_view host = url.substr(scheme + 3);
-    host = host.substr(0, std::min(host.find_first_of("/?#"), host.size()));
+    const auto *end =
+        std::ranges::find_if(host, [](char byte) { return byte == '/' || byte == '?' || byte == '#'; });
+    host = {host.begin(), end};
     if (const size_t user = host.rfind('@'); user != std::string_view::npos)
         host.remove_prefix(user + 1);
     constexpr std::string_view usual = "www.";

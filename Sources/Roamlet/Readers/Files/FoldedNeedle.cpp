@@ -105,7 +105,15 @@ size_t FoldedNeedle::find(std::string_view text, size_t from, size_t to) const
     const char *place = text.data() + from;
     const char *end = text.data() + to;
     const char *found = nullptr;
-    if (readable - from < blockSize) {
+    if (readable - from < blockSize && m_bytes.size() <= blockSize) {
+        // A title alone is shorter than a block: it is looked at as one that ends in NULs, which no needle
+        // has.
+        std::array<char, 2 * blockSize> padded{};
+        std::memcpy(padded.data(), place, text.size() - from);
+        found = findInBlocks(padded.data(), padded.data() + blockSize);
+        if (found != nullptr)
+            found = place + (found - padded.data());
+    } else if (readable - from < blockSize) {
         found = findAmong(place, end);
     } else {
         const size_t whole = std::min((to - from + blockSize - 1) / blockSize, (readable - from) / blockSize);
