@@ -136,9 +136,10 @@ bool holds(const QString &path, const QSettings &values)
     if (!file.open(QFile::ReadOnly))
         return false;
     const auto written = opened(u"/proc/self/fd/%1"_s.arg(file.handle()));
-    // What is no list stands in the file as a text.
+    // What is no list stands in the file as a text, and an empty list as an invalid value.
     const auto texts = [](const QVariant &value) {
-        return value.canConvert<QStringList>() ? value.toStringList() : QStringList(value.toString());
+        return !value.isValid() || value.canConvert<QStringList>() ? value.toStringList()
+                                                                   : QStringList(value.toString());
     };
     const QStringList keys = values.allKeys();
     return std::ranges::all_of(keys, [&](const QString &key) {
