@@ -188,11 +188,11 @@ TEST_F(WindowWalkTest, theWindowsOfUpdates)
     update.notes = ReleaseNotes{.text = u"<p>New: <a href='https://a.example/'>this</a></p>"_s};
     const auto nothing = [] {};
     const auto look = [] {
-        const QWidgetList windows = QApplication::topLevelWidgets();
-        const auto shown = std::ranges::find_if(windows, [](const QWidget *window) {
+        const QWidgetList all = QApplication::topLevelWidgets();
+        const auto shown = std::ranges::find_if(all, [](const QWidget *window) {
             return window->isVisible() && qobject_cast<const QDialog *>(window) != nullptr;
         });
-        ASSERT_NE(shown, windows.cend());
+        ASSERT_NE(shown, all.cend());
         expectReached(**shown);
         expectTold(**shown);
     };
