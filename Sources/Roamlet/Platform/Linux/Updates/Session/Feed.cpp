@@ -36,7 +36,7 @@ constexpr qsizetype mostNamespaces = 50;
 QString problemOf(const QString &text)
 {
     if (mostAttributesOfATag(text) > mostAttributes)
-        return u"Too many attributes"_s;
+        return QCoreApplication::translate("roamlet::UpdateError", "Too many attributes");
     QXmlStreamReader xml(text);
     // How many namespaces each of the elements declares that are open.
     QList<qsizetype> declared;
