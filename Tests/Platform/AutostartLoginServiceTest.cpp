@@ -5,11 +5,13 @@
 
 #include "Platform/WithoutPrivileges.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryDir>
+#include <QTranslator>
 
 #include <gtest/gtest.h>
 #include <unistd.h>
@@ -21,6 +23,19 @@ namespace
 
 using namespace Qt::StringLiterals;
 using Status = LoginService::Status;
+
+/// A language of one word.
+class OneWordLanguage final : public QTranslator
+{
+public:
+    bool isEmpty() const override { return false; }
+
+    QString translate(const char * /*context*/, const char * /*source*/, const char * /*disambiguation*/,
+                      int /*number*/) const override
+    {
+        return u"Roam"_s;
+    }
+};
 
 class AutostartLoginServiceTest : public ::testing::Test
 {
@@ -60,6 +75,15 @@ TEST_F(AutostartLoginServiceTest, registeringWritesAnEntryThatStartsTheProgramWi
     EXPECT_EQ(service().status(), Status::Enabled);
     EXPECT_EQ(service().entryPath(), folder.filePath(u"config/autostart/org.roamlet.Roamlet.desktop"_s));
     EXPECT_TRUE(entry().contains(u"\nExec=\"/usr/bin/roamlet\" --started-at-login\n"_s))
+        << qPrintable(entry());
+}
+
+TEST_F(AutostartLoginServiceTest, theEntrySaysWhatItStartsInTheUsersLanguage)
+{
+    OneWordLanguage language;
+    ASSERT_TRUE(QCoreApplication::installTranslator(&language));
+    ASSERT_TRUE(service().registerProgram());
+    EXPECT_TRUE(entry().contains(u"\nName=Roamlet\nComment=Roam\nIcon=org.roamlet.Roamlet\nExec="_s))
         << qPrintable(entry());
 }
 

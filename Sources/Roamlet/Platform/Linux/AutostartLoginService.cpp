@@ -132,11 +132,16 @@ std::expected<void, QString> AutostartLoginService::registerProgram()
     QSaveFile file(entryPath());
     if (!file.open(QIODevice::WriteOnly | QIODevice::Text))
         return std::unexpected(file.errorString());
+    // Desktops list what starts at login, and show this there.
+    const QString comment = QCoreApplication::translate("roamlet::AutostartLoginService",
+                                                        "Browser history and bookmarks in one place");
     file.write(QString(u"[Desktop Entry]\n"
                        "Type=Application\n"
                        "Version=1.0\n"
                        "Name=Roamlet\n"
-                       "Comment=Browser history and bookmarks in one place\n"
+                       "Comment=" %
+                       comment %
+                       u"\n"
                        "Icon=org.roamlet.Roamlet\n"
                        "Exec=" %
                        quotedArgument(m_environment.program) % u' ' % QLatin1StringView(launchMarker) %
