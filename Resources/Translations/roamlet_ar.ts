@@ -34,6 +34,10 @@
         <source>The name of the program&apos;s file or folder contains a control character.</source>
         <translation>يحتوي اسم ملف البرنامج أو مجلده على محرف تحكم.</translation>
     </message>
+    <message>
+        <source>Browser history and bookmarks in one place</source>
+        <translation>سجل المتصفحات وعلاماتها في مكان واحد</translation>
+    </message>
 </context>
 <context>
     <name>roamlet::BookmarkExport</name>
@@ -219,6 +223,13 @@
     </message>
 </context>
 <context>
+    <name>roamlet::DesktopSearch</name>
+    <message>
+        <source>Show All in Roamlet</source>
+        <translation>عرض الكل في Roamlet</translation>
+    </message>
+</context>
+<context>
     <name>roamlet::DetailHeader</name>
     <message>
         <source>Sidebar</source>
@@ -323,6 +334,10 @@
         <source>The folders are nested too deeply for this format.</source>
         <translation>تداخل المجلدات أعمق مما تسمح به هذه الصيغة.</translation>
     </message>
+    <message>
+        <source>There is not enough memory for this export.</source>
+        <translation>لا تكفي الذاكرة لهذا التصدير.</translation>
+    </message>
 </context>
 <context>
     <name>roamlet::FileSavePanel</name>
@@ -395,6 +410,10 @@
     <message>
         <source>Approve Roamlet in System Settings › General › Login Items.</source>
         <translation>اسمح لـ Roamlet في «إعدادات النظام» › «عام» › «عناصر تسجيل الدخول».</translation>
+    </message>
+    <message>
+        <source>Show pages in the desktop&apos;s search</source>
+        <translation>عرض الصفحات في بحث سطح المكتب</translation>
     </message>
 </context>
 <context>
@@ -526,6 +545,10 @@
     <message>
         <source>Default Columns</source>
         <translation>الأعمدة المبدئية</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for this list.</source>
+        <translation>لا تكفي الذاكرة لهذه القائمة.</translation>
     </message>
 </context>
 <context>
@@ -1073,6 +1096,14 @@
     <message>
         <source>No Debian package</source>
         <translation>ليست حزمة Debian</translation>
+    </message>
+    <message>
+        <source>Too many namespaces</source>
+        <translation>عدد مساحات الأسماء كبير جدًا</translation>
+    </message>
+    <message>
+        <source>Too many attributes</source>
+        <translation>عدد السمات كبير جدًا</translation>
     </message>
 </context>
 <context>

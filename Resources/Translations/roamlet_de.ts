@@ -34,6 +34,10 @@
         <source>The name of the program&apos;s file or folder contains a control character.</source>
         <translation>Der Name der Programmdatei oder ihres Ordners enthält ein Steuerzeichen.</translation>
     </message>
+    <message>
+        <source>Browser history and bookmarks in one place</source>
+        <translation>Browser-Verlauf und Lesezeichen an einem Ort</translation>
+    </message>
 </context>
 <context>
     <name>roamlet::BookmarkExport</name>
@@ -219,6 +223,13 @@
     </message>
 </context>
 <context>
+    <name>roamlet::DesktopSearch</name>
+    <message>
+        <source>Show All in Roamlet</source>
+        <translation>Alle in Roamlet anzeigen</translation>
+    </message>
+</context>
+<context>
     <name>roamlet::DetailHeader</name>
     <message>
         <source>Sidebar</source>
@@ -323,6 +334,10 @@
         <source>The folders are nested too deeply for this format.</source>
         <translation>Die Ordner sind für dieses Format zu tief verschachtelt.</translation>
     </message>
+    <message>
+        <source>There is not enough memory for this export.</source>
+        <translation>Der Speicher reicht für diesen Export nicht aus.</translation>
+    </message>
 </context>
 <context>
     <name>roamlet::FileSavePanel</name>
@@ -395,6 +410,10 @@
     <message>
         <source>Approve Roamlet in System Settings › General › Login Items.</source>
         <translation>Erlauben Sie Roamlet unter „Systemeinstellungen“ › „Allgemein“ › „Anmeldeobjekte“.</translation>
+    </message>
+    <message>
+        <source>Show pages in the desktop&apos;s search</source>
+        <translation>Seiten in der Suche des Desktops anzeigen</translation>
     </message>
 </context>
 <context>
@@ -522,6 +541,10 @@
     <message>
         <source>Default Columns</source>
         <translation>Standardspalten</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for this list.</source>
+        <translation>Der Speicher reicht für diese Liste nicht aus.</translation>
     </message>
 </context>
 <context>
@@ -1061,6 +1084,14 @@
     <message>
         <source>No Debian package</source>
         <translation>Kein Debian-Paket</translation>
+    </message>
+    <message>
+        <source>Too many namespaces</source>
+        <translation>Zu viele Namensräume</translation>
+    </message>
+    <message>
+        <source>Too many attributes</source>
+        <translation>Zu viele Attribute</translation>
     </message>
 </context>
 <context>

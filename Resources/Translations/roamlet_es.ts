@@ -34,6 +34,10 @@
         <source>The name of the program&apos;s file or folder contains a control character.</source>
         <translation>El nombre del archivo o de la carpeta del programa contiene un carácter de control.</translation>
     </message>
+    <message>
+        <source>Browser history and bookmarks in one place</source>
+        <translation>Historial y marcadores de los navegadores en un solo lugar</translation>
+    </message>
 </context>
 <context>
     <name>roamlet::BookmarkExport</name>
@@ -219,6 +223,13 @@
     </message>
 </context>
 <context>
+    <name>roamlet::DesktopSearch</name>
+    <message>
+        <source>Show All in Roamlet</source>
+        <translation>Mostrar todo en Roamlet</translation>
+    </message>
+</context>
+<context>
     <name>roamlet::DetailHeader</name>
     <message>
         <source>Sidebar</source>
@@ -323,6 +334,10 @@
         <source>The folders are nested too deeply for this format.</source>
         <translation>Hay demasiados niveles de carpetas para este formato.</translation>
     </message>
+    <message>
+        <source>There is not enough memory for this export.</source>
+        <translation>No hay memoria suficiente para esta exportación.</translation>
+    </message>
 </context>
 <context>
     <name>roamlet::FileSavePanel</name>
@@ -395,6 +410,10 @@
     <message>
         <source>Approve Roamlet in System Settings › General › Login Items.</source>
         <translation>Apruebe Roamlet en Ajustes del Sistema › General › Ítems de inicio.</translation>
+    </message>
+    <message>
+        <source>Show pages in the desktop&apos;s search</source>
+        <translation>Mostrar páginas en la búsqueda del escritorio</translation>
     </message>
 </context>
 <context>
@@ -522,6 +541,10 @@
     <message>
         <source>Default Columns</source>
         <translation>Columnas predeterminadas</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for this list.</source>
+        <translation>No hay memoria suficiente para esta lista.</translation>
     </message>
 </context>
 <context>
@@ -1061,6 +1084,14 @@
     <message>
         <source>No Debian package</source>
         <translation>No es un paquete de Debian</translation>
+    </message>
+    <message>
+        <source>Too many namespaces</source>
+        <translation>Demasiados espacios de nombres</translation>
+    </message>
+    <message>
+        <source>Too many attributes</source>
+        <translation>Demasiados atributos</translation>
     </message>
 </context>
 <context>

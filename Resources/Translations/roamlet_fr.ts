@@ -34,6 +34,10 @@
         <source>The name of the program&apos;s file or folder contains a control character.</source>
         <translation>Le nom du fichier ou du dossier du programme contient un caractère de contrôle.</translation>
     </message>
+    <message>
+        <source>Browser history and bookmarks in one place</source>
+        <translation>Historique et signets des navigateurs en un seul endroit</translation>
+    </message>
 </context>
 <context>
     <name>roamlet::BookmarkExport</name>
@@ -219,6 +223,13 @@
     </message>
 </context>
 <context>
+    <name>roamlet::DesktopSearch</name>
+    <message>
+        <source>Show All in Roamlet</source>
+        <translation>Tout afficher dans Roamlet</translation>
+    </message>
+</context>
+<context>
     <name>roamlet::DetailHeader</name>
     <message>
         <source>Sidebar</source>
@@ -323,6 +334,10 @@
         <source>The folders are nested too deeply for this format.</source>
         <translation>L’imbrication des dossiers est trop profonde pour ce format.</translation>
     </message>
+    <message>
+        <source>There is not enough memory for this export.</source>
+        <translation>La mémoire ne suffit pas pour cette exportation.</translation>
+    </message>
 </context>
 <context>
     <name>roamlet::FileSavePanel</name>
@@ -395,6 +410,10 @@
     <message>
         <source>Approve Roamlet in System Settings › General › Login Items.</source>
         <translation>Autorisez Roamlet dans Réglages Système › Général › Ouverture.</translation>
+    </message>
+    <message>
+        <source>Show pages in the desktop&apos;s search</source>
+        <translation>Afficher les pages dans la recherche du bureau</translation>
     </message>
 </context>
 <context>
@@ -522,6 +541,10 @@
     <message>
         <source>Default Columns</source>
         <translation>Colonnes par défaut</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for this list.</source>
+        <translation>La mémoire ne suffit pas pour cette liste.</translation>
     </message>
 </context>
 <context>
@@ -1061,6 +1084,14 @@
     <message>
         <source>No Debian package</source>
         <translation>Pas un paquet Debian</translation>
+    </message>
+    <message>
+        <source>Too many namespaces</source>
+        <translation>Trop d’espaces de noms</translation>
+    </message>
+    <message>
+        <source>Too many attributes</source>
+        <translation>Trop d’attributs</translation>
     </message>
 </context>
 <context>

@@ -34,6 +34,10 @@
         <source>The name of the program&apos;s file or folder contains a control character.</source>
         <translation>Il nome del file o della cartella del programma contiene un carattere di controllo.</translation>
     </message>
+    <message>
+        <source>Browser history and bookmarks in one place</source>
+        <translation>Cronologia e segnalibri dei browser in un unico posto</translation>
+    </message>
 </context>
 <context>
     <name>roamlet::BookmarkExport</name>
@@ -219,6 +223,13 @@
     </message>
 </context>
 <context>
+    <name>roamlet::DesktopSearch</name>
+    <message>
+        <source>Show All in Roamlet</source>
+        <translation>Mostra tutto in Roamlet</translation>
+    </message>
+</context>
+<context>
     <name>roamlet::DetailHeader</name>
     <message>
         <source>Sidebar</source>
@@ -323,6 +334,10 @@
         <source>The folders are nested too deeply for this format.</source>
         <translation>Le cartelle hanno troppi livelli per questo formato.</translation>
     </message>
+    <message>
+        <source>There is not enough memory for this export.</source>
+        <translation>Memoria insufficiente per questa esportazione.</translation>
+    </message>
 </context>
 <context>
     <name>roamlet::FileSavePanel</name>
@@ -395,6 +410,10 @@
     <message>
         <source>Approve Roamlet in System Settings › General › Login Items.</source>
         <translation>Approvare Roamlet in Impostazioni di Sistema › Generali › Elementi login.</translation>
+    </message>
+    <message>
+        <source>Show pages in the desktop&apos;s search</source>
+        <translation>Mostra le pagine nella ricerca del desktop</translation>
     </message>
 </context>
 <context>
@@ -522,6 +541,10 @@
     <message>
         <source>Default Columns</source>
         <translation>Colonne predefinite</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for this list.</source>
+        <translation>Memoria insufficiente per questo elenco.</translation>
     </message>
 </context>
 <context>
@@ -1061,6 +1084,14 @@
     <message>
         <source>No Debian package</source>
         <translation>Non è un pacchetto Debian</translation>
+    </message>
+    <message>
+        <source>Too many namespaces</source>
+        <translation>Troppi spazi dei nomi</translation>
+    </message>
+    <message>
+        <source>Too many attributes</source>
+        <translation>Troppi attributi</translation>
     </message>
 </context>
 <context>

@@ -34,6 +34,10 @@
         <source>The name of the program&apos;s file or folder contains a control character.</source>
         <translation>プログラムのファイルまたはフォルダーの名前に制御文字が含まれています。</translation>
     </message>
+    <message>
+        <source>Browser history and bookmarks in one place</source>
+        <translation>ブラウザーの履歴とブックマークを 1 か所に</translation>
+    </message>
 </context>
 <context>
     <name>roamlet::BookmarkExport</name>
@@ -219,6 +223,13 @@
     </message>
 </context>
 <context>
+    <name>roamlet::DesktopSearch</name>
+    <message>
+        <source>Show All in Roamlet</source>
+        <translation>Roamlet ですべて表示</translation>
+    </message>
+</context>
+<context>
     <name>roamlet::DetailHeader</name>
     <message>
         <source>Sidebar</source>
@@ -323,6 +334,10 @@
         <source>The folders are nested too deeply for this format.</source>
         <translation>フォルダーの階層が深すぎるため、この形式では保存できません。</translation>
     </message>
+    <message>
+        <source>There is not enough memory for this export.</source>
+        <translation>メモリーが足りないため、エクスポートできません。</translation>
+    </message>
 </context>
 <context>
     <name>roamlet::FileSavePanel</name>
@@ -395,6 +410,10 @@
     <message>
         <source>Approve Roamlet in System Settings › General › Login Items.</source>
         <translation>「システム設定」›「一般」›「ログイン項目」で Roamlet を許可してください。</translation>
+    </message>
+    <message>
+        <source>Show pages in the desktop&apos;s search</source>
+        <translation>デスクトップの検索にページを表示</translation>
     </message>
 </context>
 <context>
@@ -521,6 +540,10 @@
     <message>
         <source>Default Columns</source>
         <translation>既定の列</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for this list.</source>
+        <translation>メモリーが足りないため、この一覧を表示できません。</translation>
     </message>
 </context>
 <context>
@@ -1058,6 +1081,14 @@
     <message>
         <source>No Debian package</source>
         <translation>Debian パッケージではありません</translation>
+    </message>
+    <message>
+        <source>Too many namespaces</source>
+        <translation>名前空間が多すぎます</translation>
+    </message>
+    <message>
+        <source>Too many attributes</source>
+        <translation>属性が多すぎます</translation>
     </message>
 </context>
 <context>

@@ -34,6 +34,10 @@
         <source>The name of the program&apos;s file or folder contains a control character.</source>
         <translation>Nazwa pliku lub katalogu programu zawiera znak sterujący.</translation>
     </message>
+    <message>
+        <source>Browser history and bookmarks in one place</source>
+        <translation>Historia i zakładki przeglądarek w jednym miejscu</translation>
+    </message>
 </context>
 <context>
     <name>roamlet::BookmarkExport</name>
@@ -219,6 +223,13 @@
     </message>
 </context>
 <context>
+    <name>roamlet::DesktopSearch</name>
+    <message>
+        <source>Show All in Roamlet</source>
+        <translation>Wyświetl wszystko w Roamlet</translation>
+    </message>
+</context>
+<context>
     <name>roamlet::DetailHeader</name>
     <message>
         <source>Sidebar</source>
@@ -323,6 +334,10 @@
         <source>The folders are nested too deeply for this format.</source>
         <translation>Foldery są zbyt głęboko zagnieżdżone dla tego formatu.</translation>
     </message>
+    <message>
+        <source>There is not enough memory for this export.</source>
+        <translation>Za mało pamięci na ten eksport.</translation>
+    </message>
 </context>
 <context>
     <name>roamlet::FileSavePanel</name>
@@ -395,6 +410,10 @@
     <message>
         <source>Approve Roamlet in System Settings › General › Login Items.</source>
         <translation>Zezwól programowi Roamlet w Ustawienia systemowe › Ogólne › Rzeczy otwierane podczas logowania.</translation>
+    </message>
+    <message>
+        <source>Show pages in the desktop&apos;s search</source>
+        <translation>Wyświetlanie stron w wyszukiwaniu środowiska</translation>
     </message>
 </context>
 <context>
@@ -523,6 +542,10 @@
     <message>
         <source>Default Columns</source>
         <translation>Domyślne kolumny</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for this list.</source>
+        <translation>Za mało pamięci na tę listę.</translation>
     </message>
 </context>
 <context>
@@ -1064,6 +1087,14 @@
     <message>
         <source>No Debian package</source>
         <translation>To nie jest pakiet Debiana</translation>
+    </message>
+    <message>
+        <source>Too many namespaces</source>
+        <translation>Zbyt wiele przestrzeni nazw</translation>
+    </message>
+    <message>
+        <source>Too many attributes</source>
+        <translation>Zbyt wiele atrybutów</translation>
     </message>
 </context>
 <context>

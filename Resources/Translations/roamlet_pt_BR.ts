@@ -34,6 +34,10 @@
         <source>The name of the program&apos;s file or folder contains a control character.</source>
         <translation>O nome do arquivo ou da pasta do programa contém um caractere de controle.</translation>
     </message>
+    <message>
+        <source>Browser history and bookmarks in one place</source>
+        <translation>Histórico e favoritos dos navegadores em um só lugar</translation>
+    </message>
 </context>
 <context>
     <name>roamlet::BookmarkExport</name>
@@ -219,6 +223,13 @@
     </message>
 </context>
 <context>
+    <name>roamlet::DesktopSearch</name>
+    <message>
+        <source>Show All in Roamlet</source>
+        <translation>Mostrar tudo no Roamlet</translation>
+    </message>
+</context>
+<context>
     <name>roamlet::DetailHeader</name>
     <message>
         <source>Sidebar</source>
@@ -323,6 +334,10 @@
         <source>The folders are nested too deeply for this format.</source>
         <translation>Há níveis de pastas demais para este formato.</translation>
     </message>
+    <message>
+        <source>There is not enough memory for this export.</source>
+        <translation>Não há memória suficiente para esta exportação.</translation>
+    </message>
 </context>
 <context>
     <name>roamlet::FileSavePanel</name>
@@ -395,6 +410,10 @@
     <message>
         <source>Approve Roamlet in System Settings › General › Login Items.</source>
         <translation>Aprove o Roamlet em Ajustes do Sistema › Geral › Itens de Início.</translation>
+    </message>
+    <message>
+        <source>Show pages in the desktop&apos;s search</source>
+        <translation>Mostrar páginas na pesquisa do ambiente</translation>
     </message>
 </context>
 <context>
@@ -522,6 +541,10 @@
     <message>
         <source>Default Columns</source>
         <translation>Colunas padrão</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for this list.</source>
+        <translation>Não há memória suficiente para esta lista.</translation>
     </message>
 </context>
 <context>
@@ -1061,6 +1084,14 @@
     <message>
         <source>No Debian package</source>
         <translation>Não é um pacote Debian</translation>
+    </message>
+    <message>
+        <source>Too many namespaces</source>
+        <translation>Namespaces demais</translation>
+    </message>
+    <message>
+        <source>Too many attributes</source>
+        <translation>Atributos demais</translation>
     </message>
 </context>
 <context>

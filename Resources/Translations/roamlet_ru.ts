@@ -34,6 +34,10 @@
         <source>The name of the program&apos;s file or folder contains a control character.</source>
         <translation>Имя файла или папки программы содержит управляющий символ.</translation>
     </message>
+    <message>
+        <source>Browser history and bookmarks in one place</source>
+        <translation>История и закладки браузеров в одном месте</translation>
+    </message>
 </context>
 <context>
     <name>roamlet::BookmarkExport</name>
@@ -219,6 +223,13 @@
     </message>
 </context>
 <context>
+    <name>roamlet::DesktopSearch</name>
+    <message>
+        <source>Show All in Roamlet</source>
+        <translation>Показать всё в Roamlet</translation>
+    </message>
+</context>
+<context>
     <name>roamlet::DetailHeader</name>
     <message>
         <source>Sidebar</source>
@@ -323,6 +334,10 @@
         <source>The folders are nested too deeply for this format.</source>
         <translation>Слишком большая вложенность папок для этого формата.</translation>
     </message>
+    <message>
+        <source>There is not enough memory for this export.</source>
+        <translation>Недостаточно памяти для этого экспорта.</translation>
+    </message>
 </context>
 <context>
     <name>roamlet::FileSavePanel</name>
@@ -395,6 +410,10 @@
     <message>
         <source>Approve Roamlet in System Settings › General › Login Items.</source>
         <translation>Разрешите Roamlet в разделе «Системные настройки» › «Основные» › «Объекты входа».</translation>
+    </message>
+    <message>
+        <source>Show pages in the desktop&apos;s search</source>
+        <translation>Показывать страницы в поиске рабочего стола</translation>
     </message>
 </context>
 <context>
@@ -523,6 +542,10 @@
     <message>
         <source>Default Columns</source>
         <translation>Столбцы по умолчанию</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for this list.</source>
+        <translation>Недостаточно памяти для этого списка.</translation>
     </message>
 </context>
 <context>
@@ -1064,6 +1087,14 @@
     <message>
         <source>No Debian package</source>
         <translation>Не пакет Debian</translation>
+    </message>
+    <message>
+        <source>Too many namespaces</source>
+        <translation>Слишком много пространств имён</translation>
+    </message>
+    <message>
+        <source>Too many attributes</source>
+        <translation>Слишком много атрибутов</translation>
     </message>
 </context>
 <context>

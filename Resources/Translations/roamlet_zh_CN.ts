@@ -34,6 +34,10 @@
         <source>The name of the program&apos;s file or folder contains a control character.</source>
         <translation>程序的文件名或文件夹名含有控制字符。</translation>
     </message>
+    <message>
+        <source>Browser history and bookmarks in one place</source>
+        <translation>浏览器历史记录和书签集中在一处</translation>
+    </message>
 </context>
 <context>
     <name>roamlet::BookmarkExport</name>
@@ -219,6 +223,13 @@
     </message>
 </context>
 <context>
+    <name>roamlet::DesktopSearch</name>
+    <message>
+        <source>Show All in Roamlet</source>
+        <translation>在 Roamlet 中显示全部</translation>
+    </message>
+</context>
+<context>
     <name>roamlet::DetailHeader</name>
     <message>
         <source>Sidebar</source>
@@ -323,6 +334,10 @@
         <source>The folders are nested too deeply for this format.</source>
         <translation>文件夹嵌套过深，无法使用此格式。</translation>
     </message>
+    <message>
+        <source>There is not enough memory for this export.</source>
+        <translation>内存不足，无法完成此次导出。</translation>
+    </message>
 </context>
 <context>
     <name>roamlet::FileSavePanel</name>
@@ -395,6 +410,10 @@
     <message>
         <source>Approve Roamlet in System Settings › General › Login Items.</source>
         <translation>请在“系统设置”›“通用”›“登录项”中允许 Roamlet。</translation>
+    </message>
+    <message>
+        <source>Show pages in the desktop&apos;s search</source>
+        <translation>在桌面搜索中显示网页</translation>
     </message>
 </context>
 <context>
@@ -521,6 +540,10 @@
     <message>
         <source>Default Columns</source>
         <translation>默认列</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for this list.</source>
+        <translation>内存不足，无法显示此列表。</translation>
     </message>
 </context>
 <context>
@@ -1058,6 +1081,14 @@
     <message>
         <source>No Debian package</source>
         <translation>不是 Debian 软件包</translation>
+    </message>
+    <message>
+        <source>Too many namespaces</source>
+        <translation>命名空间过多</translation>
+    </message>
+    <message>
+        <source>Too many attributes</source>
+        <translation>属性过多</translation>
     </message>
 </context>
 <context>
