@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-# The languages of the windows: a file for each in Resources/Translations, compiled into the windows' module. The
+# The languages: a file for each in Resources/Translations, compiled into the modules that show texts to people. The
 # target update-translations, which only translators need, brings the files up to the texts in the sources.
 set(translation_folder ${CMAKE_SOURCE_DIR}/Resources/Translations)
 file(GLOB translations CONFIGURE_DEPENDS ${translation_folder}/roamlet_*.ts)

@@ -28,7 +28,7 @@ END
   mkdir "$folder/temporary" "$folder/runtime"
   chmod 700 "$folder/runtime"
   env HOME="$folder/home" XDG_CONFIG_HOME="$folder/home/.config" XDG_CACHE_HOME="$folder/home/.cache" \
-    XDG_RUNTIME_DIR="$folder/runtime" TMPDIR="$folder/temporary" QT_QPA_PLATFORM=offscreen \
+    XDG_RUNTIME_DIR="$folder/runtime" TMPDIR="$folder/temporary" QT_QPA_PLATFORM=offscreen LANGUAGE=de \
     dbus-run-session --config-file="$folder/bus.conf" -- "$0" --on-the-bus
   exit
 fi
@@ -50,6 +50,10 @@ pid=$(pid_of org.roamlet.Roamlet.Search)
 for library in roamlet-window roamlet-updates roamlet-open Qt6Gui Qt6Widgets; do
   ! grep -q "$library" "/proc/$pid/maps" || { echo "it has loaded $library"; exit 1; }
 done
+# What it says of its own, it says in the user's language.
+actions=$(gdbus call --session --timeout 60 --dest org.roamlet.Roamlet.Search \
+  --object-path /org/roamlet/Roamlet/Search/KRunner --method org.kde.krunner1.Actions)
+grep -q 'Alle in Roamlet anzeigen' <<<"$actions" || { echo "it does not speak German: $actions"; exit 1; }
 # A browser that is not installed opens nothing, and nobody falls over it.
 id=$(grep -oE "'[^']*'" <<<"$answer" | head -n 1 | tr -d "'")
 ask ActivateResult "$id" "['garden']" 0 >/dev/null || { echo "a page cannot be chosen"; exit 1; }

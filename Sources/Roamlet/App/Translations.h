@@ -10,8 +10,8 @@
 namespace roamlet
 {
 
-/// The words of the windows in the user's language, as long as it lives. The command line has none of these:
-/// scripts read it.
+/// The words of the windows, and of what desktops show of ours, in the user's language, as long as it lives.
+/// The command line has none of these: scripts read it.
 class Translations final
 {
 public:

@@ -3,6 +3,7 @@
 
 #include "App/DesktopSearch/DesktopSearchRun.h"
 #include "App/PageOpening/OpenPage.h"
+#include "App/Translations.h"
 #include "DesktopSearch/DesktopAnswers.h"
 #include "Platform/Clock.h"
 #include "Platform/Folders.h"
@@ -14,6 +15,7 @@
 
 #include <QCoreApplication>
 #include <QDBusConnection>
+#include <QLocale>
 #include <QMetaObject>
 
 #include <chrono>
@@ -28,6 +30,9 @@ using namespace Qt::StringLiterals;
 int answerDesktops(int argc, char **argv, const std::stop_token &stop)
 {
     QCoreApplication application(argc, argv);
+    // Before the reading: profiles are called here what the windows call them. The languages are read where
+    // they lie in the module, so that this takes no memory to speak of.
+    const roamlet::Translations translations(QLocale::system().uiLanguages());
     const std::stop_callback end(stop, [] {
         QMetaObject::invokeMethod(
             QCoreApplication::instance(), [] { QCoreApplication::exit(); }, Qt::QueuedConnection);
