@@ -14,12 +14,16 @@ said=$(desktop-file-validate --warn-kde "$judged" 2>&1) || { echo "$said"; exit 
 # A warning does not fail it.
 [ -z "$said" ] || { echo "$said"; exit 1; }
 
-# What people read is there in every language.
+# What people read is there in every language, and the name of each action.
+actions=$(grep -c '^\[Desktop Action ' "$entry")
 for translation in "$1"/Translations/roamlet_*.ts; do
   language=$(basename "$translation" .ts)
+  language=${language#roamlet_}
   for key in GenericName Comment Keywords; do
-    grep -q "^$key\[${language#roamlet_}\]=." "$entry" || { echo "$key is missing for ${language#roamlet_}"; exit 1; }
+    grep -q "^$key\[$language\]=." "$entry" || { echo "$key is missing for $language"; exit 1; }
   done
+  [ "$(grep -c "^Name\[$language\]=." "$entry")" -eq "$actions" ] || { echo "an action has no name for $language"; exit 1; }
+  grep -q "^Comment\[$language\]=." "$1/krunner.desktop" || { echo "KDE is told nothing for $language"; exit 1; }
 done
 
 # The drawing that the entry names is the one that is installed.
