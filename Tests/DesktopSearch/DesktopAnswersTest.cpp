@@ -324,6 +324,34 @@ TEST_F(DesktopAnswersTest, titlesAreOneLineAndNoLongerThanAnyListIsWide)
     EXPECT_LE(title.size(), 500);
 }
 
+TEST_F(DesktopAnswersTest, marksThatTurnATextAroundAreNotShown)
+{
+    setChromeHistory(u"Default"_s, {u"quokka \u202Etxt.exe\u202C\u2067\u0007 שלום"_s});
+    EXPECT_EQ(titlesFor(u"quokka"_s), QStringList{u"quokka txt.exe שלום"_s});
+    // The id keeps the address as it is, and only what is shown of it is another one.
+    const QString url = u"https://a.example/\u202Egpj"_s;
+    const QList<FoundPage> page = describe({PageID{.sourceID = u"chrome/Default"_s, .url = url}.text()});
+    ASSERT_EQ(page.size(), 1);
+    EXPECT_EQ(page.first().url, u"https://a.example/ gpj");
+    EXPECT_EQ(PageID::of(page.first().id)->url, url);
+}
+
+TEST_F(DesktopAnswersTest, aWordIsLookedForOnceAndOfManyOnlyTheFirst)
+{
+    setChromeHistory(u"Default"_s, {u"one two three four five six seven eight nine ten eleven twelve"_s});
+    EXPECT_EQ(search(u"two "_s.repeated(200)).size(), 1);
+    EXPECT_EQ(search(u"one two three four five six seven eight nine ten eleven twelve nowhere"_s).size(), 1);
+    EXPECT_EQ(search(u"one two three nowhere"_s).size(), 0);
+}
+
+TEST_F(DesktopAnswersTest, noMorePagesAreDescribedThanAnAnswerHas)
+{
+    QStringList ids;
+    for (int i = 0; i < 1000; ++i)
+        ids.append(PageID{.sourceID = u"chrome/Default"_s, .url = u"https://%1.example/"_s.arg(i)}.text());
+    EXPECT_EQ(describe(ids).size(), static_cast<qsizetype>(DesktopAnswers::mostPages));
+}
+
 TEST_F(DesktopAnswersTest, afterAMinuteOfSilenceItIsOver)
 {
     home.clock.advance(59s);

@@ -28,6 +28,8 @@ namespace
 constexpr qsizetype longestAddress = 30'000;
 /// A list has room for less.
 constexpr qsizetype longestTitle = 500;
+/// So many words tell any page from all others, and each of them is looked for in every row.
+constexpr qsizetype mostWords = 12;
 /// How much is kept for whoever asks again.
 constexpr qsizetype mostTitles = 1'000;
 constexpr qsizetype mostIcons = 200;
@@ -39,17 +41,27 @@ bool hasEnoughLetters(const QString &text)
            text.size() <= DesktopAnswers::longestText;
 }
 
-/// Several lines would not be shown as what they are.
-QString shownTitle(const QString &title)
+/// On one line, and without what would be obeyed and not shown: marks that turn a text around can make an
+/// address look like another one.
+QString shown(const QString &text, qsizetype longest)
 {
-    return title.first(std::min(title.size(), longestTitle)).simplified();
+    QString result = text.first(std::min(text.size(), longest));
+    for (QChar &c : result) {
+        const QChar::Direction direction = c.direction();
+        const bool isTurning =
+            direction >= QChar::DirLRE && direction <= QChar::DirPDF && c.category() == QChar::Other_Format;
+        const bool isIsolating = direction >= QChar::DirLRI && direction <= QChar::DirPDI;
+        if (c.category() == QChar::Other_Control || isTurning || isIsolating)
+            c = u' ';
+    }
+    return result.simplified();
 }
 
 FoundPage pageOf(const PageID &id, const QString &title, const Source &source)
 {
     return {.id = id.text(),
-            .title = title.isEmpty() ? id.url : title,
-            .url = id.url,
+            .title = title.isEmpty() ? shown(id.url, longestTitle) : title,
+            .url = shown(id.url, longestAddress),
             .source = source.label(),
             .icon = {}};
 }
@@ -98,7 +110,11 @@ void DesktopAnswers::describe(const QStringList &ids, const Answer &answer)
         answer({});
         return;
     }
-    ask({.text = {}, .ids = ids, .answer = [this, answer](const Reply &described) {
+    // No answer to a search has more.
+    constexpr auto most = static_cast<qsizetype>(mostPages);
+    ask({.text = {},
+         .ids = ids.first(std::min(ids.size(), most)),
+         .answer = [this, answer](const Reply &described) {
              Reply reply = described;
              if (addIcons(reply))
                  answer(reply.pages);
@@ -112,9 +128,10 @@ void DesktopAnswers::open(const QString &id, const QString &activationToken)
     stayAwake();
     if (!isOn())
         return;
-    ask({.text = {}, .ids = {id}, .answer = [this, activationToken](const Reply &reply) {
-             if (!reply.pages.isEmpty())
-                 m_services.open(reply.pages.first().url, reply.sources.first(), activationToken);
+    ask({.text = {}, .ids = {id}, .answer = [this, id, activationToken](const Reply &reply) {
+             const std::optional<PageID> page = PageID::of(id);
+             if (page && !reply.sources.isEmpty())
+                 m_services.open(page->url, reply.sources.first(), activationToken);
          }});
 }
 
@@ -203,12 +220,15 @@ DesktopAnswers::Reply DesktopAnswers::found(const PageFinder &finder, const QStr
                                             const ReadContext &context)
 {
     const auto query = HistoryQuery::matching(text, {}, HistoryQuery::Order::Latest);
+    QStringList words = query.words;
+    words.removeDuplicates();
+    words.resize(std::min(words.size(), mostWords));
     Reply reply;
-    for (const HistoryItem &item : finder.best(query.words, mostPages, context)) {
+    for (const HistoryItem &item : finder.best(words, mostPages, context)) {
         if (item.url.size() > longestAddress)
             continue;
         const PageID id{.sourceID = item.source.id(), .url = item.url};
-        reply.pages.append(pageOf(id, shownTitle(item.title), item.source));
+        reply.pages.append(pageOf(id, shown(item.title, longestTitle), item.source));
         reply.sources.append(item.source);
     }
     return reply;
