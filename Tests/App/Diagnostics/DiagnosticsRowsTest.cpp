@@ -246,7 +246,7 @@ TEST_F(DiagnosticsRowsTest, timesBetweenWhichNothingLiesAreMisuse)
         console.errors.clear();
         EXPECT_EQ(run({u"--since"_s, since, u"--until"_s, until, u"--search"_s}), 2) << since.toStdString();
         EXPECT_THAT(console.errors.toStdString(),
-                    StartsWith("roamlet: Nothing lies between --since and --until"));
+                    StartsWith("roamlet: --since has to be before --until"));
     }
     EXPECT_EQ(console.output, "");
     EXPECT_EQ(run({u"--since"_s, u"today"_s, u"--until"_s, u"today"_s, u"--search"_s}), 0);

@@ -61,7 +61,7 @@ TEST_F(ProgramRowsTest, wrongSwitchesEndWithStatus2AndAWord)
           {QStringList{u"--json"_s, u"--watch"_s}, "--json goes with"},
           {QStringList{u"--open"_s, u"a"_s, u"--top"_s}, "--open and --top do not go together"},
           {QStringList{u"--since"_s, u"1d"_s, u"--until"_s, u"2d"_s, u"--search"_s},
-           "Nothing lies between"}}) {
+           "--since has to be before --until"}}) {
         const Ended ended = program.run(arguments);
         EXPECT_EQ(ended.status, 2) << word;
         EXPECT_EQ(ended.output, "");

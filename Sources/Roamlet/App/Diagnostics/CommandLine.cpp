@@ -139,9 +139,9 @@ RowSwitches RowSwitches::in(const QStringList &arguments)
             ++i;
             continue;
         }
-        result.isJson = result.isJson || word == u"--json";
         const qsizetype equals = word.indexOf(u'=');
         const QStringView name = equals < 0 ? QStringView(word) : QStringView(word).first(equals);
+        result.isJson = result.isJson || name == u"--json";
         const auto *known =
             std::ranges::find_if(withValue, [name](const auto &each) { return name == each.first; });
         if (known == withValue.end())
@@ -257,7 +257,7 @@ QString Command::help()
            "\n"
            "Profiles that are switched off in the settings are not read.\n"
            "\n"
-           "Of the rows that are listed; before --search and --bookmarks, behind which all is words:\n"
+           "These choose and shape the rows. --search and --bookmarks take all behind them for words:\n"
            "\n"
            "  --json               rows for other programs, one object on each line\n"
            "  --limit N            so many rows at most\n"

@@ -288,8 +288,8 @@ HistoryResults Job::newestFirst(const HistoryQuery &query)
     for (const HistoryItem &item : std::as_const(results.items))
         isCut = isCut || ++counts[item.source.id()] == query.limit;
     if (m_command.isJson && !m_command.limit && isCut)
-        m_output.complain(u"No profile was asked for more than its "_s % QString::number(query.limit) %
-                          u" newest rows. --limit says how many are wanted.");
+        m_output.complain(u"Of each profile only the "_s % QString::number(query.limit) %
+                          u" newest rows that match were looked at. --limit says how many are wanted.");
     return results;
 }
 
@@ -302,7 +302,7 @@ int Job::search(HistoryQuery query)
     if (m_command.until)
         query.visited.end = m_command.until->end(now);
     if (query.visited.begin && query.visited.end && *query.visited.begin >= *query.visited.end) {
-        m_output.complain(u"Nothing lies between --since and --until: the one is not before the other."_s);
+        m_output.complain(u"--since has to be before --until."_s);
         return misuse;
     }
     // Of what was narrowed nothing may be missing. Rows that only mention the site go after the search, so
