@@ -453,11 +453,11 @@ photograph_states() {
   end
 
   begin "$work/home" LANG=ar_EG.UTF-8
-  photograph arabic-history 'Recent History'
+  photograph arabic-history 'السجل الحديث'
   press F10 Down Return
-  photograph arabic-export 'Recent History'
+  photograph arabic-export 'السجل الحديث'
   press Escape ctrl+comma
-  photograph arabic-settings Settings
+  photograph arabic-settings 'الإعدادات'
   end
 }
 
